@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "platform/platform.h"
+
+#include <cassert>
+#include <optional>
+
+namespace vatro {
+
+namespace {
+std::optional<Platform> installed;
+}
+
+const Platform& platform() {
+    assert(installed);
+    return *installed;
+}
+
+void InstallPlatform(const Platform& services) {
+    installed.emplace(services);
+}
+
+void MsgBox(std::string_view text) {
+    MessageBox box;
+    box.text = text;
+    MsgBox(box);
+}
+
+Answer MsgBox(const MessageBox& box) {
+    return platform().dialogs.Show(box);
+}
+
+}  // namespace vatro

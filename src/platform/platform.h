@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+//
+// What the logic needs of the world, as interfaces. The program's main or the scenario player installs the services
+// before anything runs; every service lives until the program has stopped. All calls are made on the one thread of
+// the program, and all texts are in the code page.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "text/datetime.h"
+#include "text/errors.h"
+
+namespace vatro {
+
+class Form;
+class Timer;
+
+enum class Buttons { Ok, YesNo };
+enum class Icon { None, Information, Question, Exclamation, Critical };
+enum class Answer { Ok, Yes, No };
+
+/// A modal box that tells or asks something.
+struct MessageBox {
+    std::string text;
+    /// Empty: the program's own title.
+    std::string title;
+    Buttons buttons = Buttons::Ok;
+    Icon icon = Icon::None;
+    /// Of a Yes/No box: whether No is the default button. The first button is it otherwise.
+    bool defaultNo = false;
+};
+
+/// A file dialogue.
+struct FileDialog {
+    std::string title;
+    std::string fileName;
+    /// Pairs of description and patterns, all joined by "|", patterns by ";".
+    std::string filter;
+    std::string defaultExtension;
+    /// A file dialogue to write asks before it overwrites an existing file.
+    bool overwritePrompt = false;
+    bool fileMustExist = false;
+};
+
+/// The dialogues of the system. Time, timers and sound go on while one is open.
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+    virtual Answer Show(const MessageBox& box) = 0;
+    /// The full path chosen. Fails with Failure::Cancelled.
+    virtual std::string SaveFile(const FileDialog& dialog) = 0;
+    virtual std::string OpenFile(const FileDialog& dialog) = 0;
+    /// The system's box for a run-time failure that nothing has caught; the program ends after it.
+    virtual void ShowFailure(const RunTimeError& failure) = 0;
+};
+
+/// The per-user store of settings, under the application's name. Keys and sections are compared without regard to case.
+class Settings {
+public:
+    virtual ~Settings() = default;
+    /// Nothing if the key is missing. Writes nothing.
+    virtual std::optional<std::string> Read(std::string_view section, std::string_view key) = 0;
+    /// The value is on disk on return.
+    virtual void Write(std::string_view section, std::string_view key, std::string_view text) = 0;
+};
+
+enum class FileMode { Input, Output, Append };
+
+/// Sequential text files by number, 1 and 2. Names in a path are found without regard to case. Every failure is a
+/// RunTimeError with the number that the table of numbers gives it.
+class Files {
+public:
+    virtual ~Files() = default;
+    /// Output replaces the file, Append creates it if it is missing. Fails with 55 if the number is in use.
+    virtual void Open(int number, std::string_view path, FileMode mode) = 0;
+    /// The next line without its end, which is CR LF, LF or CR. Fails with 62 at the end of the file.
+    virtual std::string LineInput(int number) = 0;
+    virtual bool EndOfFile(int number) = 0;
+    /// Writes the text and CR LF.
+    virtual void PrintLine(int number, std::string_view text) = 0;
+    /// Writes the text alone.
+    virtual void Print(int number, std::string_view text) = 0;
+    /// What was written is on the disk on return. A number that is not open is no failure.
+    virtual void Close(int number) = 0;
+    virtual void Delete(std::string_view path) = 0;
+    /// Fails with 58 if `to` exists. The directory is on the disk on return.
+    virtual void Rename(std::string_view from, std::string_view to) = 0;
+    /// Replaces `to`. The copy is on the disk on return.
+    virtual void Copy(std::string_view from, std::string_view to) = 0;
+    /// The current directory, without a final separator.
+    virtual std::string CurrentDirectory() = 0;
+    /// Backslash on Windows, slash elsewhere.
+    virtual char Separator() const = 0;
+};
+
+/// The clock that everything asks that asks for the time.
+class Clock {
+public:
+    virtual ~Clock() = default;
+    virtual DateTime Now() = 0;
+    /// Seconds since local midnight, with fractions.
+    virtual double SecondsSinceMidnight() = 0;
+    /// The timer has been switched or has got another interval: its next tick falls due one interval from now, or
+    /// never if it is off. Ticks are delivered through Timer::Tick.
+    virtual void Schedule(Timer& timer) = 0;
+};
+
+/// The front that shows the forms. It mirrors what the forms and controls tell it and decides nothing.
+class Front {
+public:
+    virtual ~Front() = default;
+    /// The form has been created with the values of its design and has not run its load handler yet.
+    virtual void Created(Form& form) = 0;
+    /// The form is about to go; nothing of it may be used after this call.
+    virtual void Destroyed(Form& form) = 0;
+    /// A property of the form's frame has changed: caption, place, visibility, window state, enabled, pointer.
+    virtual void Changed(Form& form) = 0;
+    /// The form has become the active one.
+    virtual void Activated(Form& form) = 0;
+    /// Delivers events until the form is hidden or unloaded, or the program has ended.
+    virtual void RunModal(Form& form) = 0;
+    /// Lets the window be painted now.
+    virtual void Refresh(Form& form) = 0;
+    /// Lets pending events run.
+    virtual void DoEvents() = 0;
+    /// Width and height of a text in a font, in points.
+    virtual double TextWidth(std::string_view text, const struct Font& font) = 0;
+    virtual double TextHeight(const struct Font& font) = 0;
+    /// The program has ended, regularly or at once.
+    virtual void Ended() = 0;
+};
+
+/// The help viewer of the program.
+class Help {
+public:
+    virtual ~Help() = default;
+    virtual void Show(std::string_view path) = 0;
+};
+
+/// Whether another copy of the program is running for this user.
+class Instance {
+public:
+    virtual ~Instance() = default;
+    virtual bool AnotherCopyRuns() = 0;
+};
+
+/// The program's version numbers, set at build time.
+struct Version {
+    int major = 0;
+    int minor = 0;
+    int revision = 0;
+};
+
+/// All services of one run.
+struct Platform {
+    Front& front;
+    Dialogs& dialogs;
+    Settings& settings;
+    Files& files;
+    Clock& clock;
+    Help& help;
+    Instance& instance;
+    Version version;
+};
+
+/// The services installed. Must not be asked before InstallPlatform.
+const Platform& platform();
+void InstallPlatform(const Platform& services);
+
+/// A box with an OK button and the program's title.
+void MsgBox(std::string_view text);
+/// Any other box.
+Answer MsgBox(const MessageBox& box);
+
+}  // namespace vatro

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+//
+// Single-byte text of code page 1252, the text of the logs, the tables and the whole program.
+//
+// A column is a byte and a comparison is by byte. Only the fronts convert to and from Unicode.
+// Literals with Danish letters are written in UTF-8 in the sources and turned at compile time by
+// the operator _t; a character outside the code page does not compile.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace vatro {
+
+/// The Unicode code point of each byte 0x80 to 0x9F of code page 1252. The five bytes that the code page leaves
+/// open stand for the control characters of the same number, so that every byte survives a round trip.
+inline constexpr std::array<char16_t, 32> kCodePageUpperControls{
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+/// The byte of a Unicode code point, or -1 if the code page has none.
+constexpr int CodePageByte(char32_t codePoint) {
+    if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF)) return static_cast<int>(codePoint);
+    for (std::size_t i = 0; i < kCodePageUpperControls.size(); ++i)
+        if (kCodePageUpperControls[i] == codePoint) return static_cast<int>(0x80 + i);
+    return -1;
+}
+
+/// The Unicode code point of a byte of the code page.
+constexpr char32_t CodePoint(char byte) {
+    const auto code = static_cast<unsigned char>(byte);
+    return code >= 0x80 && code < 0xA0 ? kCodePageUpperControls[code - 0x80] : code;
+}
+
+/// Text of the code page from UTF-8. A character outside the code page, and every faulty byte, becomes "?".
+std::string FromUtf8(std::string_view utf8);
+
+/// UTF-8 from text of the code page.
+std::string ToUtf8(std::string_view text);
+
+/// Upper case of one character; Danish and other accented letters of the code page are folded, "ß" and "ÿ" are not.
+constexpr char Upper(char c) {
+    const auto code = static_cast<unsigned char>(c);
+    const bool lower = (code >= 'a' && code <= 'z') || (code >= 0xE0 && code <= 0xFE && code != 0xF7);
+    if (lower) return static_cast<char>(code - 0x20);
+    if (code == 0x9A || code == 0x9C || code == 0x9E) return static_cast<char>(code - 0x10);
+    return c;
+}
+
+/// Upper case of a text, character by character.
+std::string UpperText(std::string_view text);
+
+/// Whether `part` occurs anywhere in `text`, without regard to case. The empty text occurs in every text.
+bool ContainsNoCase(std::string_view text, std::string_view part);
+
+/// Whether two texts are equal without regard to case.
+bool EqualNoCase(std::string_view a, std::string_view b);
+
+namespace detail {
+
+/// A UTF-8 literal as a template argument.
+template <std::size_t N>
+struct Literal {
+    char chars[N]{};
+    // NOLINTNEXTLINE(google-explicit-constructor): a literal becomes a template argument by this conversion.
+    consteval Literal(const char (&text)[N]) {
+        for (std::size_t i = 0; i < N; ++i) chars[i] = text[i];
+    }
+};
+
+/// The literal in the code page, zero-terminated.
+template <std::size_t N>
+struct CodePageLiteral {
+    char chars[N]{};
+    std::size_t length = 0;
+    consteval explicit CodePageLiteral(const Literal<N>& utf8) {
+        for (std::size_t i = 0; i + 1 < N;) {
+            const auto lead = static_cast<unsigned char>(utf8.chars[i]);
+            std::size_t more = 0;
+            char32_t point = lead;
+            if (lead >= 0xF0) {
+                point = lead & 0x07U;
+                more = 3;
+            } else if (lead >= 0xE0) {
+                point = lead & 0x0FU;
+                more = 2;
+            } else if (lead >= 0xC0) {
+                point = lead & 0x1FU;
+                more = 1;
+            }
+            ++i;
+            for (; more > 0; --more, ++i) point = (point << 6U) | (static_cast<unsigned char>(utf8.chars[i]) & 0x3FU);
+            const int byte = CodePageByte(point);
+            if (byte < 0) throw "a character of the literal is not in code page 1252";
+            chars[length++] = static_cast<char>(byte);
+        }
+    }
+};
+
+template <Literal L>
+inline constexpr CodePageLiteral kCodePageLiteral{L};
+
+}  // namespace detail
+
+inline namespace literals {
+
+/// "Vælg bånd"_t: the literal as text of the code page.
+template <detail::Literal L>
+consteval std::string_view operator""_t() {
+    const auto& text = detail::kCodePageLiteral<L>;
+    return {text.chars, text.length};
+}
+
+}  // namespace literals
+
+}  // namespace vatro

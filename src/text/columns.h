@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+//
+// Columns of a line, counted from 1, and blank-padded fields of a fixed width.
+//
+// A column may lie beyond the end of a line: it is then empty and no failure, because logs of earlier
+// years have shorter lines.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace vatro {
+
+/// `count` columns of `line` from column `from` on (from 1); shorter or empty where the line ends before.
+constexpr std::string_view Columns(std::string_view line, std::size_t from, std::size_t count = std::string_view::npos) {
+    return from > line.size() ? std::string_view{} : line.substr(from - 1, count);
+}
+
+/// The text without its blanks on the left and on the right. Only blanks count, no tabs or line ends.
+constexpr std::string_view Trim(std::string_view text) {
+    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+    return text;
+}
+
+/// The last `count` characters of a text, or all of a shorter one.
+constexpr std::string_view Right(std::string_view text, std::size_t count) {
+    return text.size() <= count ? text : text.substr(text.size() - count);
+}
+
+/// The text in exactly `width` columns: filled with blanks on the right, or cut, so that later columns never move.
+std::string LeftAligned(std::string_view text, std::size_t width);
+
+/// A field of exactly N columns: filled with blanks on the right, cut when what is assigned is longer.
+template <std::size_t N>
+class FixedText {
+public:
+    constexpr FixedText() { chars_.fill(' '); }
+    // NOLINTNEXTLINE(google-explicit-constructor): a field is assigned like a text.
+    constexpr FixedText(std::string_view text) { *this = text; }
+    constexpr FixedText& operator=(std::string_view text) {
+        const auto end = std::copy_n(text.begin(), std::min(text.size(), N), chars_.begin());
+        std::fill(end, chars_.end(), ' ');
+        length_ = 0;
+        for (std::size_t i = N; i > 0; --i) {
+            if (chars_[i - 1] != ' ') {
+                length_ = static_cast<unsigned char>(i);
+                break;
+            }
+        }
+        return *this;
+    }
+
+    /// All N columns.
+    constexpr std::string_view Padded() const { return {chars_.data(), N}; }
+    /// The columns up to the last that is not a blank.
+    constexpr std::string_view RightTrimmed() const { return {chars_.data(), length_}; }
+    /// The text without blanks on either side.
+    constexpr std::string_view Trimmed() const { return Trim(RightTrimmed()); }
+
+    friend constexpr bool operator==(const FixedText& a, const FixedText& b) { return a.chars_ == b.chars_; }
+
+private:
+    static_assert(N > 0 && N < 256);
+    std::array<char, N> chars_{};
+    unsigned char length_ = 0;
+};
+
+}  // namespace vatro

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+//
+// Run-time failures by number. What a procedure catches is told by its rules; what nobody catches reaches the
+// dispatcher of events, which shows the system's error box and ends the program.
+#pragma once
+
+#include <exception>
+
+namespace vatro {
+
+enum class Failure : int {
+    InvalidCall = 5,
+    Overflow = 6,
+    IndexOutOfRange = 9,
+    DivisionByZero = 11,
+    TypeMismatch = 13,
+    BadFileNumber = 52,
+    FileNotFound = 53,
+    BadFileMode = 54,
+    FileAlreadyOpen = 55,
+    FileExists = 58,
+    DiskFull = 61,
+    InputPastEnd = 62,
+    PermissionDenied = 70,
+    DiskNotReady = 71,
+    PathFileAccess = 75,
+    PathNotFound = 76,
+    /// A common dialogue was left with Cancel.
+    Cancelled = 32755,
+};
+
+/// A failure of the platform or of arithmetic.
+class RunTimeError : public std::exception {
+public:
+    explicit RunTimeError(Failure failure) : failure_(failure) {}
+    Failure Which() const { return failure_; }
+    int Number() const { return static_cast<int>(failure_); }
+    const char* what() const noexcept override { return "run-time failure"; }
+
+private:
+    Failure failure_;
+};
+
+}  // namespace vatro
