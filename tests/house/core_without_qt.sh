@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+#   core_without_qt.sh VATRO-REPLAY LIBVATRO_CORE [VATRO]
+#
+# The logic knows no toolkit: vatro-replay links no Qt, directly or through another library, and nothing in the core
+# asks for a symbol of Qt. The window program, where it is built, shows that each search would find Qt if it were there.
+set -euo pipefail
+export LC_ALL=C
+replay=$1 core=$2 window=${3:-}
+
+libraries() { ldd "$1" | grep -oE '^[[:space:]]*lib[^ ]+' || true; }
+# Names of Qt among the undefined symbols; names of the program have vatro:: before them.
+qt_symbols() { nm -uC "$1" 2>/dev/null | grep -E '(^|[^A-Za-z0-9_:])(Q[A-Z][A-Za-z0-9]*(::|\()|Qt::|qt_|QtPrivate::|typeinfo for Q[A-Z])' || true; }
+
+fault=0
+complain() {
+    echo "$1"
+    [ -z "${2:-}" ] || printf '%s\n' "$2" | head -20
+    fault=1
+}
+
+found=$(libraries "$replay")
+grep -q 'libstdc++' <<<"$found" || complain "the libraries of $replay could not be read" "$found"
+qt=$(grep -i 'qt' <<<"$found" || true)
+[ -z "$qt" ] || complain "$replay links Qt:" "$qt"
+
+nm -C "$core" 2>/dev/null | grep -q ' T vatro::' || complain "the symbols of $core could not be read"
+for file in "$core" "$replay"; do
+    qt=$(qt_symbols "$file")
+    [ -z "$qt" ] || complain "$file asks for symbols of Qt:" "$qt"
+done
+
+if [ -n "$window" ]; then
+    libraries "$window" | grep -qi 'qt6widgets' || complain "the search for libraries does not find Qt in $window"
+    [ -n "$(qt_symbols "$window")" ] || complain "the search for symbols does not find Qt in $window"
+fi
+exit $fault
