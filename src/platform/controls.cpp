@@ -57,7 +57,8 @@ bool Control::HasFocus() const {
 
 KeyCode Control::PressKey(KeyCode key) {
     if (!enabled_) return kNoKey;
-    if (KeyPress) KeyPress(key);
+    form_.Form_KeyPress(key);
+    if (key != kNoKey && KeyPress) KeyPress(key);
     return key;
 }
 
@@ -97,6 +98,7 @@ std::size_t TextControl::Room() const {
 }
 
 void TextControl::Insert(std::string_view text) {
+    text = text.substr(0, text.find_first_of("\r\n"));
     text = text.substr(0, Room());
     if (text.empty()) return;
     Replace(static_cast<std::size_t>(selStart_), static_cast<std::size_t>(selLength_), text);

@@ -66,7 +66,7 @@ enum class Aspect {
 /// Anything with a name on a form.
 class Control {
 public:
-    /// `index` is that of an indexed array, or -1.
+    /// The name is text of the code page, as all text of the logic; `index` is that of an indexed array, or -1.
     Control(Form& form, std::string_view name, int index = -1);
     virtual ~Control() = default;
     Control(const Control&) = delete;
@@ -109,7 +109,7 @@ public:
 
     // From the front.
 
-    /// Runs KeyPress and gives what it has made of the key; kNoKey if the control is disabled.
+    /// Runs the form's KeyPress, then its own, and gives what they have made of the key; kNoKey if the control is disabled.
     KeyCode PressKey(KeyCode key);
     /// The access letter was pressed: a button is pressed, a check box flipped, a frame leads to its target. The focus
     /// stays where it is unless the control only leads to it.
@@ -159,7 +159,8 @@ public:
 
     /// How many characters a key or a paste may still put in over the selection; never below 0.
     std::size_t Room() const;
-    /// Puts text over the selection, as far as there is room, with the caret behind it, as a key or a paste does.
+    /// Puts text over the selection, as far as there is room, with the caret behind it, as a key or a paste does. A
+    /// field is one line: what stands behind a line end is left out.
     void Insert(std::string_view text);
     /// Removes the selection, or the character before (after) the caret.
     void DeleteBack();

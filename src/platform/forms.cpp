@@ -106,6 +106,8 @@ void Form::Unload() {
     Form_QueryUnload(cancel);
     if (cancel) return;
     Form_Unload();
+    // The handlers may have unloaded it themselves.
+    if (slot->Peek() != this) return;
     for (Control* control : controls_)
         if (auto* timer = dynamic_cast<Timer*>(control)) timer->SetRunning(false);
     visible_ = false;
@@ -199,6 +201,17 @@ bool Form::UserAccessKey(char letter) {
         return true;
     }
     return false;
+}
+
+KeyCode Form::UserKey(KeyCode key) {
+    if (active_ != nullptr) return active_->PressKey(key);
+    Form_KeyPress(key);
+    return key;
+}
+
+void Form::SetDesignSize(int width, int height) {
+    width_ = width;
+    height_ = height;
 }
 
 void Form::UserPlaced(int left, int top, int width, int height) {

@@ -90,6 +90,12 @@ public:
     bool UserDefaultKey(KeyCode key);
     /// Alt and a letter: presses, flips or focuses the control with that access letter; false if there is none.
     bool UserAccessKey(char letter);
+    /// A key: the form sees it first, then the control that has the focus, if any. Gives what they have made of it.
+    KeyCode UserKey(KeyCode key);
+    /// A click on the form's own surface.
+    void UserClicked() { Form_Click(); }
+    /// The size that the layout of the front gives the form, told while it is created; no Form_Resize.
+    void SetDesignSize(int width, int height);
     /// The user has moved or sized the window.
     void UserPlaced(int left, int top, int width, int height);
     void UserState(WindowState state);
@@ -105,6 +111,9 @@ public:
     virtual void Form_QueryUnload(bool& Cancel) { static_cast<void>(Cancel); }
     virtual void Form_Unload() {}
     virtual void Form_Resize() {}
+    virtual void Form_Click() {}
+    /// A key before the control that has the focus gets it; made kNoKey it ends here.
+    virtual void Form_KeyPress(KeyCode& KeyAscii) { static_cast<void>(KeyAscii); }
 
 protected:
     void SetTabOrder(std::vector<Control*> order) { tabOrder_ = std::move(order); }
