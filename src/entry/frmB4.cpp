@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "entry/frmB4.h"
+
+#include "frame/settings.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr Vinduesplads kPlads{"B4", 2000, 2000, 6000, 6000};
+
+}  // namespace
+
+// The caption is the column head of the list, blanks and all.
+FrmB4::FrmB4()
+    : Form("frmB4", FormKind::Tool, "Call check                         QSOnr/modt.     UTC"), List1(*this, "List1", {"Fixedsys", 9}) {
+    SetTabOrder({&List1});
+}
+
+void FrmB4::Form_Load() {
+    HentPlads(*this, kPlads);
+}
+
+void FrmB4::Form_Unload() {
+    GemPlads(*this, kPlads);
+}
+
+}  // namespace vatro

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+//
+// The entry form, the operator's working place. It is driven from the keyboard: the cursor stands in the call field, Space
+// jumps to the received number and back, Enter logs, Esc clears, and function keys change band, change mode and send Morse.
+//
+// What is done with the finished entry stands in validation.h, the clock in clock.h.
+#pragma once
+
+#include "entry/clock.h"
+#include "entry/main_menu.h"
+#include "platform/forms.h"
+
+namespace vatro {
+
+class FrmMain : public MainMenu {
+public:
+    FrmMain();
+
+    Toolbar Toolbar1;
+    Label Label1;
+    /// The log of the current band and mode, line by line as in the file.
+    ListBox List1;
+    Frame Frame1;
+    /// Time, call, report sent, number sent, report received, number received.
+    TextBox Text1[6];
+    CheckBox Check1;
+    Button Command1;
+    Frame Frame2;
+    /// Operator.
+    ComboBox Combo1;
+    Timer Timer1;
+    StatusBar sbStatusBar;
+
+    void Form_Load() override;
+    void Form_Unload() override;
+    void Form_Resize() override;
+
+private:
+    void Text1_KeyPress(int Index, KeyCode& KeyAscii);
+    void Text1_Change(int Index);
+    void Text1_GotFocus(int Index);
+    void Text1_LostFocus(int Index);
+    void BindFelter();
+    void BindMenu();
+    void SætKlasse(std::string_view klasse);
+    void VisKlasse();
+    void SkiftVindue(MenuItem& punkt, FormSlotBase& vindue);
+};
+
+inline FormSlot<FrmMain> frmMain{"frmMain"};
+
+}  // namespace vatro

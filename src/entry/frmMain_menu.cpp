@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+//
+// What the entries of the menu bar do.
+#include "country/lookup.h"
+#include "country/unknown.h"
+#include "entry/frmB4.h"
+#include "entry/frmContestCall.h"
+#include "entry/frmMain.h"
+#include "entry/frmQSOnr.h"
+#include "entry/validation.h"
+#include "frame/band_mode.h"
+#include "frame/settings.h"
+#include "frame/station.h"
+#include "logbook/log_file.h"
+#include "scoring/frmEDR.h"
+
+namespace vatro {
+
+std::vector<MenuItem*> MainMenu::BåndPunkter() {
+    std::vector<MenuItem*> punkter;
+    for (MenuItem& punkt : mnuIndstillingerBånd)
+        if (!punkt.Separator()) punkter.push_back(&punkt);
+    return punkter;
+}
+
+void FrmMain::BindMenu() {
+    mnuFilerSætLogbibliotek.Click = [] {
+        SetLogLib();
+        IndlæsLogfil();
+        ResetQSO();
+    };
+    mnuFileExit.Click = [this] { Unload(); };
+
+    mnuVisQSOnr.Click = [this] { SkiftVindue(mnuVisQSOnr, frmQSOnr); };
+    mnuVisB4.Click = [this] { SkiftVindue(mnuVisB4, frmB4); };
+    mnuViewContestCall.Click = [this] { SkiftVindue(mnuViewContestCall, frmContestCall); };
+    mnuVisLand.Click = [this] {
+        mnuVisLand.SetTicked(!mnuVisLand.Ticked());
+        gbVisLand = mnuVisLand.Ticked();
+    };
+    mnuFunktionerKørteEDRstns.Click = [] { VisEDRstns(true); };
+    mnuFunktionerIkkeKørteEDRstns.Click = [] { VisEDRstns(false); };
+
+    for (MenuItem* punkt : BåndPunkter()) punkt->Click = [punkt] { SkiftBåndMode(punkt->Index()); };
+
+    mnuIndstillingerKlasseA.Click = [this] { SætKlasse("A"); };
+    mnuIndstillingerKlasseB.Click = [this] { SætKlasse("B"); };
+    mnuIndstillingerKlokken.Click = SkiftAutoTid;
+    mnuFunktionerVisLand.Click = VisLandNu;
+}
+
+void FrmMain::SætKlasse(std::string_view klasse) {
+    gsKlasse = klasse;
+    VisKlasse();
+    GemTekst(kSettings, "gsKlasse", gsKlasse);
+}
+
+void FrmMain::VisKlasse() {
+    if (gsKlasse != "A" && gsKlasse != "B") return;
+    mnuIndstillingerKlasseA.SetTicked(gsKlasse == "A");
+    mnuIndstillingerKlasseB.SetTicked(gsKlasse == "B");
+}
+
+void FrmMain::SkiftVindue(MenuItem& punkt, FormSlotBase& vindue) {
+    punkt.SetTicked(!punkt.Ticked());
+    if (!punkt.Ticked()) {
+        // A window that was closed by its frame is not loaded, and its tick has stayed.
+        if (vindue.Loaded()) vindue.Peek()->Hide();
+        return;
+    }
+    vindue.Load();
+    vindue.Peek()->Show();
+    SetFocus();
+}
+
+}  // namespace vatro

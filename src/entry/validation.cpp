@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "entry/validation.h"
+
+#include "country/call_analysis.h"
+#include "country/lookup.h"
+#include "country/unknown.h"
+#include "entry/checks.h"
+#include "entry/frmMain.h"
+#include "entry/frmQSOnr.h"
+#include "frame/band_mode.h"
+#include "frame/station.h"
+#include "logbook/dupe.h"
+#include "logbook/log_file.h"
+#include "logbook/qso_line.h"
+#include "platform/platform.h"
+#include "scoring/edr.h"
+#include "scoring/points.h"
+#include "text/codepage.h"
+#include "text/numbers.h"
+
+namespace vatro {
+
+using namespace literals;
+
+const std::string_view kDupeAdvarsel = "* DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * ";
+
+namespace {
+
+/// The contact is accepted: from here there is no way back and no question. The call counts as typed for country and points,
+/// as base call for the station.
+void LogQSO(const std::string& tid) {
+    FrmMain& main = *frmMain;
+    const std::string call = main.Text1[1].Text();
+
+    Qso qso;
+    LandWkd(call, qso.multiplier, Handling::Op);
+    EDRstnWkd(gsCall, Handling::Op);
+    BeregnPoint(call);
+    qso.tid = tid;
+    qso.call = call;
+    qso.rstSendt = main.Text1[2].Text();
+    qso.nrSendt = main.Text1[3].Text();
+    qso.rstModtaget = main.Text1[4].Text();
+    qso.nrModtaget = main.Text1[5].Text();
+    // The country stays marked and counted, even if this contact has marked it.
+    if (gbDupe) {
+        giQSOPoint = 0;
+        qso.multiplier = kDupeMærke;
+    }
+    std::string status;
+    LandStatusTekst(call, status);
+    if (ErUkendt(status)) giQSOPoint = 0;
+    qso.point = giQSOPoint;
+    qso.operatør = Trim(main.Combo1.Text());
+    qso.qsl = main.Check1.Value();
+    qso.qsoMode = gsQsoMode;
+    // Always today's, even if the time was set back over midnight by hand.
+    qso.dato = FormatDate(NuUTC());
+
+    const std::string linje = QsoLine(qso, gsMode);
+    if (ErUkendt(status)) GemUkendt(linje);
+    AppendLog(linje);
+    main.List1.AddItem(linje);
+    main.List1.SetListIndex(main.List1.ListCount() - 1);
+    glPoint = ToInt32(static_cast<double>(glPoint) + giQSOPoint);
+    VisStilling();
+    ResetQSO();
+}
+
+void ResetRst(TextBox& felt) {
+    const std::string_view standard = StandardRST();
+    felt.SetText({});
+    felt.SetMaxLength(static_cast<int>(standard.size()));
+    felt.SetText(standard);
+}
+
+}  // namespace
+
+void ValiderQSO() {
+    FrmMain& main = *frmMain;
+    if (const int index = Kommando(main.Text1[1].Text()); index != 0) {
+        SkiftBåndMode(index);
+        return;
+    }
+    if (gsBand.empty()) {
+        MsgBox("Vælg bånd"_t);
+        return;
+    }
+    if (gsMode.empty()) {
+        MsgBox("Vælg modulationsart"_t);
+        return;
+    }
+    if (!TjekOperatør(main.Combo1.Text())) return main.Combo1.SetFocus();
+    std::string tid;
+    if (!TjekTid(main.Text1[0], tid)) return main.Text1[0].SetFocus();
+    gsCall = main.Text1[1].Text();
+    StripCall(gsCall);
+    if (!TjekKaldesignal(gsCall)) return main.Text1[1].SetFocus();
+    // A duplicate is no fault: it only changes what is logged.
+    CheckDupe();
+    if (!TjekRst(main.Text1[2].Text())) return main.Text1[2].SetFocus();
+    if (!IsNumeric(main.Text1[3].Text())) {
+        MsgBox("Sendt rapport skal være numerisk"_t);
+        return main.Text1[3].SetFocus();
+    }
+    if (!TjekRst(main.Text1[4].Text())) return main.Text1[4].SetFocus();
+    if (!TjekModtagetNr(main.Text1[5])) return main.Text1[5].SetFocus();
+    LogQSO(tid);
+}
+
+void ResetQSO() {
+    FrmMain& main = *frmMain;
+    if (gbAutoTid == 1) main.Text1[0].SetText(NuUTCTid());
+    main.Text1[1].SetText({});
+    ResetRst(main.Text1[2]);
+    ResetRst(main.Text1[4]);
+    giQSOnr = ToInt16(giQSOnr + 1);
+    main.Text1[3].SetText(ZeroPadded(giQSOnr, 4));
+    main.Text1[5].SetText({});
+    main.Check1.SetValue(false);
+    frmQSOnr->visQSOnr();
+    if (gbAutoTid != 1) {
+        main.Text1[0].SetFocus();
+        main.Text1[0].SelectAll();
+        TimerStop();
+    } else {
+        main.Text1[1].SetFocus();
+        TimerStart();
+    }
+}
+
+std::string_view StandardRST() {
+    if (gsQsoMode == "CW" || gsQsoMode == "RTTY" || gsQsoMode == "HELL" || gsQsoMode == "PSK31") return "599";
+    if (gsQsoMode == "SSB") return "59";
+    return {};
+}
+
+}  // namespace vatro

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "frame/start.h"
+
+#include "country/tables.h"
+#include "entry/frmMain.h"
+#include "entry/operators.h"
+#include "exchange/backup.h"
+#include "frame/band_mode.h"
+#include "frame/frmSplash.h"
+#include "frame/settings.h"
+#include "frame/station.h"
+#include "logbook/log_file.h"
+#include "platform/platform.h"
+#include "platform/program.h"
+#include "scoring/edr.h"
+#include "text/codepage.h"
+#include "text/numbers.h"
+
+namespace vatro {
+
+using namespace literals;
+
+namespace {
+
+/// A run begins with nothing of an earlier one in memory.
+void NulstilAlt() {
+    NulstilStation();
+    NulstilBåndMode();
+    NulstilLog();
+    NulstilTabeller();
+    NulstilEDR();
+    NulstilOperatør();
+    gsBackupLib.clear();
+    gbAutoTid = 0;
+    gbVisLand = false;
+}
+
+void LæsIndstillinger() {
+    gsUTC = HentTekst(kSettings, "UTC", "-2");
+    gsMyCall = HentTekst(kSettings, "MyCall");
+    gsFDLib = HentTekst(kSettings, "gsFDLib");
+    gsKlasse = HentTekst(kSettings, "gsKlasse", "A");
+    gsTelefon = HentTekst(kSettings, "gsTelefon", "12345678");
+    gsOperatør = HentTekst(kSettings, "LastOP");
+    gbVisInfo = HentFlag(kSettings, "VisInfo2002", true);
+}
+
+}  // namespace
+
+std::string VersionTekst() {
+    const Version& version = platform().version;
+    return PlainNumber(version.major) + "." + PlainNumber(version.minor) + "." + PlainNumber(version.revision);
+}
+
+void StartProgram() {
+    NulstilAlt();
+    LæsIndstillinger();
+
+    // Before any table is loaded: two copies would write the same log.
+    if (platform().instance.AnotherCopyRuns()) {
+        MessageBox afvist;
+        afvist.text = "Der må kun køre en udgave ellers går der kuk i loggen!"_t;
+        afvist.title = "Vatro kører allerede."_t;
+        MsgBox(afvist);
+        EndProgram();
+    }
+
+    frmSplash->Show();
+    frmSplash->Refresh();
+
+    if (gsFDLib.empty()) {
+        gsFDLib = platform().files.CurrentDirectory();
+        // Another key than the one read above, which gets the value at a regular end: both are meant.
+        GemTekst(kSettings, "FDLib", gsFDLib);
+    }
+
+    frmSplash->Vis("Indlæser Lande"_t);
+    IndlæsLande();
+    frmSplash->Vis("Indlæser Præfixliste."_t);
+    IndlæsRefPfx();
+    frmSplash->Vis("Indlæser EDR stationer."_t);
+    IndlæsEDR();
+
+    frmMain.Load();
+    frmSplash.Unload();
+}
+
+}  // namespace vatro

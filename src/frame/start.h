@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+//
+// How the program comes up. There is no main loop of its own: the start procedure loads what every later step needs,
+// brings up the main form and returns; from then on everything happens in handlers of events.
+#pragma once
+
+#include <string>
+
+namespace vatro {
+
+/// Reads the general settings, refuses a second running copy, loads the country table, the prefix table and the list of
+/// the society's stations behind the splash window, and loads the main form, which does the rest. To be dispatched once
+/// after BeginProgram.
+void StartProgram();
+
+/// Major, minor and revision, joined by ".".
+std::string VersionTekst();
+
+}  // namespace vatro

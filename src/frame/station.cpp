@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "frame/station.h"
+
+#include "platform/platform.h"
+#include "text/numbers.h"
+
+namespace vatro {
+
+std::string gsFDLib;
+std::string gsMyCall;
+std::string gsKlasse;
+std::string gsTelefon;
+std::string gsUTC;
+bool gbVisInfo = false;
+
+DateTime NuUTC() {
+    return AddHours(platform().clock.Now(), ToInt16(ToNumber(gsUTC)));
+}
+
+std::string NuUTCTid() {
+    const DateTime nu = NuUTC();
+    return FormatTime(nu.hour, nu.minute);
+}
+
+std::string Sti(const std::string& bibliotek, std::string_view navn) {
+    std::string sti = bibliotek;
+    sti += platform().files.Separator();
+    sti += navn;
+    return sti;
+}
+
+void NulstilStation() {
+    gsFDLib.clear();
+    gsMyCall.clear();
+    gsKlasse.clear();
+    gsTelefon.clear();
+    gsUTC.clear();
+    gbVisInfo = false;
+}
+
+}  // namespace vatro

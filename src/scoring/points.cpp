@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "scoring/points.h"
+
+#include "country/call_analysis.h"
+#include "country/lookup.h"
+#include "scoring/edr.h"
+#include "text/codepage.h"
+
+namespace vatro {
+
+std::int32_t giQSOPoint = 0;
+
+bool ErDansk(std::string_view call) {
+    return ContainsNoCase("5P,5Q,OU,OV,OW,OZ,XP,", call.substr(0, 2));
+}
+
+void BeregnPoint(std::string call) {
+    FlytTalsuffiks(call);
+    if (call.ends_with("/QRP")) call.resize(call.size() - 4);
+    std::string basis = call;
+    StripCall(basis);
+
+    // Each step overrides those before it.
+    giQSOPoint = 3;
+    if (ErDansk(call))
+        giQSOPoint = 1;
+    else if (call.ends_with("/P"))
+        giQSOPoint = 5;
+    std::string resultat;
+    LandWkd(call, resultat, Handling::Test);
+    EDRstnWkd(basis, Handling::Test);
+    std::string tekst;
+    LandStatusTekst(call, tekst);
+    if (ErUkendt(tekst)) giQSOPoint = 0;
+}
+
+}  // namespace vatro
