@@ -78,6 +78,16 @@ bool TjekRst(std::string_view rst) {
     return true;
 }
 
+int TjekRapporter(TextBox (&felter)[6]) {
+    if (!TjekRst(felter[2].Text())) return 2;
+    if (!IsNumeric(felter[3].Text())) {
+        MsgBox("Sendt rapport skal være numerisk"_t);
+        return 3;
+    }
+    if (!TjekRst(felter[4].Text())) return 4;
+    return TjekModtagetNr(felter[5]) ? -1 : 5;
+}
+
 bool TjekModtagetNr(TextBox& felt) {
     if (felt.Text().empty() || NumericValue(felt.Text()) == 0) {
         if (!Bekræft("Skal modtaget rapportnummer være nul?"_t, "Modtaget rapport"_t)) return false;

@@ -23,6 +23,10 @@ bool TjekKaldesignal(std::string_view call);
 /// A report: as many figures as the log mode has, 1-5, 1-9 and in CW 1-9. The messages say "Modtaget" for both reports.
 bool TjekRst(std::string_view rst);
 
+/// Reports and numbers of a contact, in the order of the fields 2 to 5, with their messages. Gives the field at fault, -1 if
+/// all are good.
+int TjekRapporter(TextBox (&felter)[6]);
+
 /// A received number: nought must be confirmed and then becomes "0000"; it must be numeric.
 bool TjekModtagetNr(TextBox& felt);
 

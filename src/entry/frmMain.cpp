@@ -15,6 +15,7 @@
 #include "frame/settings.h"
 #include "frame/station.h"
 #include "logbook/dupe.h"
+#include "logbook/frmRetQSO.h"
 #include "logbook/log_file.h"
 #include "platform/platform.h"
 #include "scoring/edr.h"
@@ -97,6 +98,10 @@ void FrmMain::BindFelter() {
         if (key == kEnter) ValiderQSO();
     };
     Command1.Click = ValiderQSO;
+    List1.KeyPress = [](KeyCode& key) {
+        if (key == kEnter) RetLinje();
+    };
+    List1.DblClick = RetLinje;
     Combo1.KeyPress = [this](KeyCode& key) { OperatørTast(Combo1, key); };
     Combo1.Click = [this] { OperatørValgt(Combo1); };
     Combo1.LostFocus = [this] {

@@ -4,13 +4,18 @@
 #include "country/lookup.h"
 #include "country/unknown.h"
 #include "entry/frmB4.h"
+#include "entry/frmCall.h"
 #include "entry/frmContestCall.h"
 #include "entry/frmMain.h"
 #include "entry/frmQSOnr.h"
+#include "entry/frmUTC.h"
 #include "entry/validation.h"
+#include "exchange/equipment.h"
 #include "frame/band_mode.h"
 #include "frame/settings.h"
 #include "frame/station.h"
+#include "logbook/frmNote.h"
+#include "logbook/frmNytQSOnr.h"
 #include "logbook/log_file.h"
 #include "scoring/frmEDR.h"
 
@@ -43,9 +48,14 @@ void FrmMain::BindMenu() {
 
     for (MenuItem* punkt : BåndPunkter()) punkt->Click = [punkt] { SkiftBåndMode(punkt->Index()); };
 
+    mnuFunktionerNytQSOnr.Click = NytQSOnr;
+    mnuFunktionerCall.Click = RetContestCall;
+    menuIndstillingerUdstyr.Click = [] { formRigAnt->ShowModal(); };
+    mnuFunktionerRetUTC.Click = RetUTC;
     mnuIndstillingerKlasseA.Click = [this] { SætKlasse("A"); };
     mnuIndstillingerKlasseB.Click = [this] { SætKlasse("B"); };
     mnuIndstillingerKlokken.Click = SkiftAutoTid;
+    mnuFunktionerNote.Click = IndsætNote;
     mnuFunktionerVisLand.Click = VisLandNu;
 }
 

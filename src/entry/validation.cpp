@@ -98,13 +98,7 @@ void ValiderQSO() {
     if (!TjekKaldesignal(gsCall)) return main.Text1[1].SetFocus();
     // A duplicate is no fault: it only changes what is logged.
     CheckDupe();
-    if (!TjekRst(main.Text1[2].Text())) return main.Text1[2].SetFocus();
-    if (!IsNumeric(main.Text1[3].Text())) {
-        MsgBox("Sendt rapport skal være numerisk"_t);
-        return main.Text1[3].SetFocus();
-    }
-    if (!TjekRst(main.Text1[4].Text())) return main.Text1[4].SetFocus();
-    if (!TjekModtagetNr(main.Text1[5])) return main.Text1[5].SetFocus();
+    if (const int felt = TjekRapporter(main.Text1); felt >= 0) return main.Text1[felt].SetFocus();
     LogQSO(tid);
 }
 

@@ -5,6 +5,7 @@
 #include "entry/frmMain.h"
 #include "entry/operators.h"
 #include "exchange/backup.h"
+#include "exchange/equipment.h"
 #include "frame/band_mode.h"
 #include "frame/frmSplash.h"
 #include "frame/settings.h"
@@ -55,6 +56,7 @@ std::string VersionTekst() {
 void StartProgram() {
     NulstilAlt();
     LæsIndstillinger();
+    HentUdstyr();
 
     // Before any table is loaded: two copies would write the same log.
     if (platform().instance.AnotherCopyRuns()) {

@@ -6,6 +6,7 @@
 #include "platform/forms.h"
 #include "platform/platform.h"
 #include "text/codepage.h"
+#include "text/numbers.h"
 
 namespace vatro {
 
@@ -143,6 +144,17 @@ void TextControl::UserSelected(int selStart, int selLength) {
 
 Label::Label(Form& form, std::string_view name, std::string_view caption, Font font)
     : Control(form, name), caption_(caption), font_(std::move(font)) {}
+
+Label::Label(Form& form, std::string_view name, int index, std::string_view caption, Control* accessTarget)
+    : Control(form, name, index), caption_(caption), accessTarget_(accessTarget) {}
+
+char Label::AccessLetter() const {
+    return accessTarget_ != nullptr ? AccessKey(caption_) : '\0';
+}
+
+void Label::UseAccessLetter() {
+    Parent().UserFocus(*accessTarget_);
+}
 
 void Label::SetCaption(std::string_view caption) {
     if (caption_ == caption) return;
@@ -292,6 +304,14 @@ void ComboBox::SetListIndex(int row) {
     if (row >= 0) TakeText(items_[static_cast<std::size_t>(row)]);
     Tell(Aspect::ListIndex);
     if (Click) Click();
+}
+
+// --- UpDown
+
+void UpDown::Spin(bool up) {
+    if (!Enabled()) return;
+    const double value = NumericValue(buddy_.Text()) + (up ? range_.step : -range_.step);
+    buddy_.SetText(PlainNumber(static_cast<long long>(std::clamp<double>(value, range_.min, range_.max))));
 }
 
 // --- Timer

@@ -192,7 +192,9 @@ public:
 /// A line of text that the user does not edit.
 class Label : public Control {
 public:
-    Label(Form& form, std::string_view name, std::string_view caption = {}, Font font = {});
+    explicit Label(Form& form, std::string_view name, std::string_view caption = {}, Font font = {});
+    /// The name of a field: the access letter in the caption leads to the field.
+    Label(Form& form, std::string_view name, int index, std::string_view caption, Control* accessTarget = nullptr);
 
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string_view caption);
@@ -207,10 +209,13 @@ public:
     std::function<void()> Change;
     /// Width of the caption in the font, in points.
     double TextWidth() const;
+    char AccessLetter() const override;
+    void UseAccessLetter() override;
 
 private:
     std::string caption_;
     Font font_;
+    Control* accessTarget_ = nullptr;
     Colour foreColour_ = kBlack;
     Colour backColour_ = 0xFFFFFF;
     bool opaque_ = false;
@@ -317,10 +322,16 @@ private:
     bool filling_ = false;
 };
 
+/// Whether the text of a combo box can be edited or only be chosen.
+enum class ComboStyle { DropDown, DropDownList };
+
 /// A text field with a list of texts to choose from.
 class ComboBox : public TextControl {
 public:
-    using TextControl::TextControl;
+    explicit ComboBox(Form& form, std::string_view name, ComboStyle style = ComboStyle::DropDown) : TextControl(form, name), style_(style) {
+        SetLocked(style == ComboStyle::DropDownList);
+    }
+    ComboStyle Style() const { return style_; }
 
     const std::vector<std::string>& Items() const { return items_; }
     int ListCount() const { return static_cast<int>(items_.size()); }
@@ -338,6 +349,30 @@ public:
 private:
     std::vector<std::string> items_;
     int listIndex_ = -1;
+    ComboStyle style_;
+};
+
+/// A pair of arrows that counts the number in a text field up and down.
+class UpDown : public Control {
+public:
+    struct Range {
+        int min = 0;
+        int max = 0;
+        int step = 1;
+    };
+    UpDown(Form& form, std::string_view name, TextBox& buddy, Range range) : Control(form, name), buddy_(buddy), range_(range) {}
+    const Range& Limits() const { return range_; }
+    const TextBox& Buddy() const { return buddy_; }
+    void SetMin(int min) { range_.min = min; }
+
+    // From the front.
+
+    /// One step from the number in the field, within the range.
+    void Spin(bool up);
+
+private:
+    TextBox& buddy_;
+    Range range_;
 };
 
 /// Ticks on the clock service: every Interval milliseconds while it is enabled and its interval is above 0.

@@ -94,6 +94,11 @@ void Form::ShowModal() {
 void Form::Hide() {
     if (!visible_) return;
     visible_ = false;
+    if (modal_) {
+        // The next showing begins at the first control.
+        active_ = nullptr;
+        entered_ = false;
+    }
     modal_ = false;
     Deactivate(*this);
     platform().front.Changed(*this);
