@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "program.h"
+
+#include <stdexcept>
+
+#include "disk/disk_files.h"
+#include "entry/frmMain.h"
+#include "frame/start.h"
+#include "platform/platform.h"
+#include "platform/program.h"
+#include "replay/scene_clock.h"
+#include "replay/settings_store.h"
+#include "sample.h"
+
+namespace vatro::bench {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class BlindFront : public Front {
+public:
+    void Created(Form&) override {}
+    void Destroyed(Form&) override {}
+    void Changed(Form&) override {}
+    void Activated(Form&) override {}
+    void RunModal(Form& form) override { throw std::runtime_error("a benchmark waits for the form " + form.Name()); }
+    void Refresh(Form&) override {}
+    void DoEvents() override {}
+    double TextWidth(std::string_view text, const Font& font) override { return 0.6 * font.size * static_cast<double>(text.size()); }
+    double TextHeight(const Font& font) override { return 1.2 * font.size; }
+    void Ended() override {}
+};
+
+/// A box would stop the run for ever, so it ends it.
+class NoDialogs : public Dialogs {
+public:
+    Answer Show(const MessageBox& box) override { throw std::runtime_error("a benchmark meets a box: " + box.text); }
+    std::string SaveFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    std::string OpenFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    void ShowFailure(const RunTimeError& failure) override {
+        throw std::runtime_error("a benchmark meets failure " + std::to_string(failure.Number()));
+    }
+};
+
+class NoHelp : public Help {
+public:
+    void Show(std::string_view) override {}
+};
+
+class OnlyCopy : public Instance {
+public:
+    bool AnotherCopyRuns() override { return false; }
+};
+
+}  // namespace
+
+Workplace::Workplace() {
+    std::string name = (fs::current_path() / "vatro-bench-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("cannot create " + name);
+    root_ = name;
+}
+
+Workplace::~Workplace() {
+    std::error_code ignored;
+    fs::remove_all(root_, ignored);
+}
+
+struct Program::Services {
+    BlindFront front;
+    NoDialogs dialogs;
+    SettingsStore settings;
+    DiskFiles files;
+    SceneClock clock;
+    NoHelp help;
+    OnlyCopy instance;
+};
+
+Program::Program(const std::vector<std::string>& log) : services_(std::make_unique<Services>()) {
+    const fs::path data = workplace_.Path("data");
+    const fs::path logs = workplace_.Path("log");
+    fs::create_directory(data);
+    fs::create_directory(logs);
+    WriteTables(data);
+    WriteLines(LogFile(), log);
+
+    Services& with = *services_;
+    with.settings.Write("Settings", "gsFDLib", NativeText(data));
+    with.settings.Write("Settings", "gsLogLib", NativeText(logs));
+    with.settings.Write("Settings", "LastOP", "OZ1QN");
+    with.settings.Write("Settings", "VisInfo2002", "False");
+    InstallPlatform({with.front, with.dialogs, with.settings, with.files, with.clock, with.help, with.instance, Version{}});
+    BeginProgram();
+    Dispatch(StartProgram);
+    if (frmMain->List1.ListCount() != static_cast<int>(log.size())) throw std::runtime_error("the log was not read");
+}
+
+Program::~Program() {
+    if (ProgramRuns()) EndProgram();
+}
+
+void Program::Press(char key) {
+    auto* const field = dynamic_cast<TextBox*>(frmMain->ActiveControl());
+    if (field == nullptr) throw std::runtime_error("a benchmark types beside the fields");
+    Dispatch([field, key] {
+        const KeyCode taken = field->PressKey(static_cast<unsigned char>(key));
+        if (taken == kBackspace)
+            field->DeleteBack();
+        else if (taken >= kSpace)
+            field->Insert(std::string(1, static_cast<char>(taken)));
+    });
+}
+
+void Program::Type(std::string_view text) {
+    for (const char key : text) Press(key);
+}
+
+void Program::Backspace() {
+    Press(static_cast<char>(kBackspace));
+}
+
+}  // namespace vatro::bench
