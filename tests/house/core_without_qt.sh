@@ -32,7 +32,7 @@ for file in "$core" "$replay"; do
 done
 
 if [ -n "$window" ]; then
-    libraries "$window" | grep -qi 'qt6widgets' || complain "the search for libraries does not find Qt in $window"
+    grep -qi 'qt6widgets' <<<"$(libraries "$window")" || complain "the search for libraries does not find Qt in $window"
     [ -n "$(qt_symbols "$window")" ] || complain "the search for symbols does not find Qt in $window"
 fi
 exit $fault
