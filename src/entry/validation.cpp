@@ -16,6 +16,7 @@
 #include "scoring/edr.h"
 #include "scoring/points.h"
 #include "text/codepage.h"
+#include "text/datetime.h"
 #include "text/numbers.h"
 
 namespace vatro {
@@ -105,6 +106,8 @@ void ValiderQSO() {
     }
     if (!TjekRst(main.Text1[4].Text())) return main.Text1[4].SetFocus();
     if (!TjekModtagetNr(main.Text1[5])) return main.Text1[5].SetFocus();
+    // The clock may have moved the field on while a question was open.
+    if (const auto klokken = ParseTime(main.Text1[0].Text())) tid = FormatTime(klokken->hour, klokken->minute);
     LogQSO(tid);
 }
 
