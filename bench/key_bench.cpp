@@ -34,8 +34,8 @@ void Key(benchmark::State& state, std::string_view call) {
     if (frmB4->List1.ListCount() != 0) return state.SkipWithError("the call stands in the log");
     state.SetLabel("scan of calls and prefixes, at most 2");
     for (auto _ : state) {
-        program.Press('Q');
-        program.Backspace();
+        program.Type("Q");
+        program.Press("Backspace");
     }
 }
 

@@ -8,6 +8,7 @@
 #include "frame/start.h"
 #include "platform/platform.h"
 #include "platform/program.h"
+#include "replay/memory_front.h"
 #include "replay/scene_clock.h"
 #include "replay/settings_store.h"
 #include "sample.h"
@@ -17,20 +18,6 @@ namespace vatro::bench {
 namespace fs = std::filesystem;
 
 namespace {
-
-class BlindFront : public Front {
-public:
-    void Created(Form&) override {}
-    void Destroyed(Form&) override {}
-    void Changed(Form&) override {}
-    void Activated(Form&) override {}
-    void RunModal(Form& form) override { throw std::runtime_error("a benchmark waits for the form " + form.Name()); }
-    void Refresh(Form&) override {}
-    void DoEvents() override {}
-    double TextWidth(std::string_view text, const Font& font) override { return 0.6 * font.size * static_cast<double>(text.size()); }
-    double TextHeight(const Font& font) override { return 1.2 * font.size; }
-    void Ended() override {}
-};
 
 /// A box would stop the run for ever, so it ends it.
 class NoDialogs : public Dialogs {
@@ -67,7 +54,7 @@ Workplace::~Workplace() {
 }
 
 struct Program::Services {
-    BlindFront front;
+    MemoryFront front;
     NoDialogs dialogs;
     SettingsStore settings;
     DiskFiles files;
@@ -89,7 +76,7 @@ Program::Program(const std::vector<std::string>& log) : services_(std::make_uniq
     with.settings.Write("Settings", "gsLogLib", NativeText(logs));
     with.settings.Write("Settings", "LastOP", "OZ1QN");
     with.settings.Write("Settings", "VisInfo2002", "False");
-    InstallPlatform({with.front, with.dialogs, with.settings, with.files, with.clock, with.help, with.instance, Version{}});
+    InstallPlatform({with.front.ProgramFront(), with.dialogs, with.settings, with.files, with.clock, with.help, with.instance, Version{}});
     BeginProgram();
     Dispatch(StartProgram);
     if (frmMain->List1.ListCount() != static_cast<int>(log.size())) throw std::runtime_error("the log was not read");
@@ -99,24 +86,12 @@ Program::~Program() {
     if (ProgramRuns()) EndProgram();
 }
 
-void Program::Press(char key) {
-    auto* const field = dynamic_cast<TextBox*>(frmMain->ActiveControl());
-    if (field == nullptr) throw std::runtime_error("a benchmark types beside the fields");
-    Dispatch([field, key] {
-        const KeyCode taken = field->PressKey(static_cast<unsigned char>(key));
-        if (taken == kBackspace)
-            field->DeleteBack();
-        else if (taken >= kSpace)
-            field->Insert(std::string(1, static_cast<char>(taken)));
-    });
+void Program::Press(const char* key) {
+    services_->front.Press({.name = key});
 }
 
 void Program::Type(std::string_view text) {
-    for (const char key : text) Press(key);
-}
-
-void Program::Backspace() {
-    Press(static_cast<char>(kBackspace));
+    for (const char character : text) services_->front.Press({.name = {}, .character = character});
 }
 
 }  // namespace vatro::bench

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The program started for a benchmark: all of the logic, files on the real disk, and a front that shows nothing, so that
-// what is measured is the program and not a window.
+// The program started for a benchmark: all of the logic, files on the real disk, and the front
+// without windows, so that what is measured is the program and not a toolkit.
 #pragma once
 
 #include <filesystem>
@@ -36,10 +36,10 @@ public:
 
     std::filesystem::path LogFile() const { return workplace_.Path("log") / "FD80mSSB.txt"; }
 
-    /// A key in the field that has the focus.
-    void Press(char key);
+    /// A key by its name: "Enter", "Backspace", "Space".
+    void Press(const char* key);
+    /// The characters, one key after the other.
     void Type(std::string_view text);
-    void Backspace();
 
 private:
     struct Services;
