@@ -79,20 +79,18 @@ TEST_P(Reports, AreJudgedFigureByFigure) {
     EXPECT_EQ(TjekRst(text), *message == 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Checks, Reports,
-                         ::testing::Values(Report{"SSB", "59", ""}, Report{"SSB", "11", ""},
-                                           Report{"SSB", "", "Modtaget RST skal være på 2 cifre."},
-                                           Report{"SSB", "5", "Modtaget RST skal være på 2 cifre."},
-                                           Report{"SSB", "599", "Modtaget RST skal være på 2 cifre."},
-                                           Report{"SSB", "09", "Første ciffer i RST skal være mellem 1 og 5."},
-                                           Report{"SSB", "60", "Første ciffer i RST skal være mellem 1 og 5."},
-                                           Report{"SSB", "50", "Andet ciffer i RST skal være mellem 1 og 9."},
-                                           Report{"CW", "599", ""}, Report{"CW", "519", ""}, Report{"CW", "111", ""},
-                                           Report{"CW", "59", "Modtaget RST skal være på 3 cifre."},
-                                           Report{"CW", "699", "Første ciffer i RST skal være mellem 1 og 5."},
-                                           Report{"CW", "509", "Andet ciffer i RST skal være mellem 1 og 9."},
-                                           Report{"CW", "500", "Andet ciffer i RST skal være mellem 1 og 9."},
-                                           Report{"CW", "510", "Sidste ciffer i RST skal være mellem 1 og 9."}));
+INSTANTIATE_TEST_SUITE_P(
+    Checks, Reports,
+    ::testing::Values(Report{"SSB", "59", ""}, Report{"SSB", "11", ""}, Report{"SSB", "", "Modtaget RST skal være på 2 cifre."},
+                      Report{"SSB", "5", "Modtaget RST skal være på 2 cifre."}, Report{"SSB", "599", "Modtaget RST skal være på 2 cifre."},
+                      Report{"SSB", "09", "Første ciffer i RST skal være mellem 1 og 5."},
+                      Report{"SSB", "60", "Første ciffer i RST skal være mellem 1 og 5."},
+                      Report{"SSB", "50", "Andet ciffer i RST skal være mellem 1 og 9."}, Report{"CW", "599", ""}, Report{"CW", "519", ""},
+                      Report{"CW", "111", ""}, Report{"CW", "59", "Modtaget RST skal være på 3 cifre."},
+                      Report{"CW", "699", "Første ciffer i RST skal være mellem 1 og 5."},
+                      Report{"CW", "509", "Andet ciffer i RST skal være mellem 1 og 9."},
+                      Report{"CW", "500", "Andet ciffer i RST skal være mellem 1 og 9."},
+                      Report{"CW", "510", "Sidste ciffer i RST skal være mellem 1 og 9."}));
 
 TEST_F(Checks, ANumberOfNoughtIsAskedForAndBecomesFourOfThem) {
     Start();

@@ -76,7 +76,9 @@ TEST_F(ProgramStart, ARegularEndStoresTheSideWindowsBeforeTheMainForm) {
     Start();
     settings.written.clear();
     Dispatch([] { frmMain->Unload(); });
-    const auto at = [&](std::string_view key) { return std::find(settings.written.begin(), settings.written.end(), key) - settings.written.begin(); };
+    const auto at = [&](std::string_view key) {
+        return std::find(settings.written.begin(), settings.written.end(), key) - settings.written.begin();
+    };
     EXPECT_LT(at("CallLeft"), at("QSOLeft"));
     EXPECT_LT(at("QSOLeft"), at("B4Left"));
     EXPECT_LT(at("B4Left"), at("MainLeft"));
