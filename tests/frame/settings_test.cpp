@@ -16,22 +16,22 @@ int NumberOf(const std::function<void()>& call) {
     return 0;
 }
 
-class SettingsStore : public RunningProgram {};
+class StoredSettings : public RunningProgram {};
 
-TEST_F(SettingsStore, AMissingKeyYieldsTheDefaultAndWritesNothing) {
+TEST_F(StoredSettings, AMissingKeyYieldsTheDefaultAndWritesNothing) {
     EXPECT_EQ(HentTekst("CW", "Tekst9", "x"), "x");
     EXPECT_EQ(HentTal("CW", "WPM", 20), 20);
     EXPECT_TRUE(HentFlag("Settings", "VisLand", true));
     EXPECT_TRUE(settings.written.empty());
 }
 
-TEST_F(SettingsStore, KeysAreOneWhateverTheirCase) {
+TEST_F(StoredSettings, KeysAreOneWhateverTheirCase) {
     GemTekst("Settings", "gsFDlib", "c:\\vatro");
     EXPECT_EQ(HentTekst("Settings", "gsFDLib"), "c:\\vatro");
     EXPECT_EQ(HentTekst("Settings", "FDLib", "none"), "none");
 }
 
-TEST_F(SettingsStore, AFlagComesBackAsItWasWritten) {
+TEST_F(StoredSettings, AFlagComesBackAsItWasWritten) {
     for (const bool flag : {true, false}) {
         GemFlag("Settings", "VisLand", flag);
         EXPECT_EQ(HentTekst("Settings", "VisLand"), flag ? "True" : "False");
@@ -39,13 +39,13 @@ TEST_F(SettingsStore, AFlagComesBackAsItWasWritten) {
     }
 }
 
-TEST_F(SettingsStore, ANumberIsWrittenAsDecimalDigits) {
+TEST_F(StoredSettings, ANumberIsWrittenAsDecimalDigits) {
     GemTal("Settings", "MainLeft", -120);
     EXPECT_EQ(HentTekst("Settings", "MainLeft"), "-120");
     EXPECT_EQ(HentTal("Settings", "MainLeft", 0), -120);
 }
 
-TEST_F(SettingsStore, ATextThatIsNoNumberIsAFailure) {
+TEST_F(StoredSettings, ATextThatIsNoNumberIsAFailure) {
     GemTekst("Settings", "AutoTid", "ja");
     EXPECT_EQ(NumberOf([] { HentTal("Settings", "AutoTid", 1); }), 13);
     EXPECT_EQ(NumberOf([] { HentFlag("Settings", "AutoTid", true); }), 13);
@@ -53,7 +53,7 @@ TEST_F(SettingsStore, ATextThatIsNoNumberIsAFailure) {
     EXPECT_EQ(NumberOf([] { HentTal("Settings", "AutoTid", 1); }), 6);
 }
 
-TEST_F(SettingsStore, AWindowComesUpWhereItWasClosed) {
+TEST_F(StoredSettings, AWindowComesUpWhereItWasClosed) {
     Start();
     frmB4->Place(100, 200, 5000, 4000);
     frmB4.Unload();
@@ -65,7 +65,7 @@ TEST_F(SettingsStore, AWindowComesUpWhereItWasClosed) {
     EXPECT_EQ(frmB4->Height(), 4000);
 }
 
-TEST_F(SettingsStore, AMinimisedWindowStoresNoPlace) {
+TEST_F(StoredSettings, AMinimisedWindowStoresNoPlace) {
     Start();
     frmB4->Place(100, 200, 5000, 4000);
     frmB4->UserState(WindowState::Minimised);
