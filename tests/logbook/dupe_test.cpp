@@ -49,6 +49,18 @@ TEST_F(Duplicates, AreExactAboutCase) {
     EXPECT_FALSE(IsDuplicate("DL1ABC"));
 }
 
+TEST_F(Duplicates, AreSoughtAgainInALogThatHasChanged) {
+    Log({Line("DL1ABC"), Line("DL2XYZ")});
+    EXPECT_FALSE(IsDuplicate("DL3QQQ"));
+    frmMain->List1.AddItem(Line("DL3QQQ"));
+    EXPECT_TRUE(IsDuplicate("DL3QQQ"));
+    frmMain->List1.SetList(2, Line("DL4QQQ"));
+    EXPECT_FALSE(IsDuplicate("DL3QQQ"));
+    EXPECT_TRUE(IsDuplicate("DL1ABC"));
+    frmMain->List1.Clear();
+    EXPECT_FALSE(IsDuplicate("DL1ABC"));
+}
+
 TEST_F(Duplicates, AreFoundBehindANote) {
     Log({"NOTE: pause", Line("DL1ABC")});
     EXPECT_TRUE(IsDuplicate("DL1ABC"));
@@ -72,6 +84,13 @@ TEST_F(Duplicates, AreNotFoundBehindANoteAboutANote) {
 TEST_F(Duplicates, CountTheLinesOfDuplicates) {
     Log({"12:07 DL1ABC          59 -0001 59 -0345  0 -DUPE-     OZ1AB      SSB   05-09-26"});
     EXPECT_TRUE(IsDuplicate("DL1ABC"));
+}
+
+TEST_F(Duplicates, GoByALineAsItNowStands) {
+    Log({Line("DL1ABC")});
+    frmMain->List1.SetList(0, Line("DL1ABD"));
+    EXPECT_FALSE(IsDuplicate("DL1ABC"));
+    EXPECT_TRUE(IsDuplicate("DL1ABD"));
 }
 
 TEST_F(Duplicates, OfTheEmptyCallNeedALineWithoutACall) {
