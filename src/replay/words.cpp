@@ -114,10 +114,10 @@ DateTime ReadDateTime(std::string_view date, std::string_view time) {
                  ReadDigits(date.substr(8, 2), moment.day) && ReadDigits(time.substr(0, 2), moment.hour) &&
                  ReadDigits(time.substr(3, 2), moment.minute) && ReadDigits(time.substr(6, 2), moment.second);
     if (valid && time.size() > 8) {
-        std::string digits(time.substr(9, 3));
-        valid = time[8] == '.' && time.size() <= 12;
-        digits.resize(3, '0');
-        valid = valid && ReadDigits(digits, moment.millisecond);
+        std::string milliseconds(time.substr(9));
+        valid = time[8] == '.' && !milliseconds.empty() && milliseconds.size() <= 3;
+        milliseconds.resize(3, '0');
+        valid = valid && ReadDigits(milliseconds, moment.millisecond);
     }
     valid = valid && moment.hour < 24 && moment.minute < 60 && moment.second < 60 &&
             std::chrono::year_month_day(std::chrono::year(moment.year), std::chrono::month(static_cast<unsigned>(moment.month)),
