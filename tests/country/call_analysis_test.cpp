@@ -53,6 +53,7 @@ TEST(StripCall, GoesRoundUntilNothingIsLeftToTakeOff) {
     EXPECT_EQ(Base("DL1ABC/P/QRP"), "DL1ABC");
     EXPECT_EQ(Base("DL1ABC/QRP/M/3/"), "DL1ABC");
     EXPECT_EQ(Base("DL1ABC//P"), "DL1ABC");
+    EXPECT_EQ(Base("OZ/DL1ABC/AM"), "DL1ABC");
 }
 
 TEST(StripCall, KeepsTheLongerSideAndOfEqualOnesTheSecond) {
