@@ -16,6 +16,7 @@
 #include "scoring/edr.h"
 #include "scoring/points.h"
 #include "text/codepage.h"
+#include "text/datetime.h"
 #include "text/numbers.h"
 
 namespace vatro {
@@ -99,6 +100,8 @@ void ValiderQSO() {
     // A duplicate is no fault: it only changes what is logged.
     CheckDupe();
     if (const int felt = TjekRapporter(main.Text1); felt >= 0) return main.Text1[felt].SetFocus();
+    // The clock may have moved the field on while a question was open.
+    if (const auto klokken = ParseTime(main.Text1[0].Text())) tid = FormatTime(klokken->hour, klokken->minute);
     LogQSO(tid);
 }
 

@@ -61,7 +61,7 @@ void StartProgram() {
     // Before any table is loaded: two copies would write the same log.
     if (platform().instance.AnotherCopyRuns()) {
         MessageBox afvist;
-        afvist.text = "Der må kun køre en udgave ellers går der kuk i loggen!"_t;
+        afvist.text = "Der må kun køre een udgave ellers går der kuk i loggen!"_t;
         afvist.title = "Vatro kører allerede."_t;
         MsgBox(afvist);
         EndProgram();

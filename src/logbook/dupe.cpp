@@ -52,21 +52,40 @@ std::string B4Linje(std::string_view linje) {
     return fundet;
 }
 
-}  // namespace
-
-void CheckDupe() {
-    gbDupe = false;
-    std::string s;
+bool StårILoggen(std::string_view call) {
+    std::string_view s;
+    std::string kort;
     for (const std::string& linje : frmMain->List1.Items()) {
         // The text of the line before, not of this one: see the header.
         if (s.starts_with(kNoteMærke)) continue;
         s = kCall.TrimmetAf(linje);
-        StripCall(s);
-        if (s == gsCall) {
-            gbDupe = true;
-            return;
+        // Without a slash a call is its base call.
+        if (s.find('/') != std::string_view::npos) {
+            kort = s;
+            StripCall(kort);
+            s = kort;
         }
+        if (s == call) return true;
     }
+    return false;
+}
+
+/// What the last search of the log has found.
+struct Svar {
+    std::string call;
+    unsigned udgave = 0;
+    bool fundet = false;
+};
+
+}  // namespace
+
+void CheckDupe() {
+    // A call is sought when its field is left and again at Enter: the second time the answer is still good, unless the log
+    // has become another one.
+    static Svar svar;
+    const unsigned udgave = frmMain->List1.Revision();
+    if (svar.udgave != udgave || svar.call != gsCall) svar = {gsCall, udgave, StårILoggen(gsCall)};
+    gbDupe = svar.fundet;
 }
 
 void WkdB4(const TextBox& txtCall, const ListBox& lstLog, ListBox& lstB4) {

@@ -226,7 +226,14 @@ void CheckBox::SetValue(bool value) {
 // --- ListBox
 
 ListBox::ListBox(Form& form, std::string_view name, Font font, int columns)
-    : Control(form, name), font_(std::move(font)), columns_(columns) {}
+    : Control(form, name), font_(std::move(font)), columns_(columns) {
+    Revise();
+}
+
+void ListBox::Revise() {
+    static unsigned last = 0;
+    revision_ = ++last;
+}
 
 const std::string& ListBox::List(int row) const {
     if (row < 0 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
@@ -236,17 +243,20 @@ const std::string& ListBox::List(int row) const {
 void ListBox::SetList(int row, std::string_view text) {
     if (row < 0 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
     items_[static_cast<std::size_t>(row)] = text;
+    Revise();
     Tell(Aspect::ItemChanged, row);
 }
 
 void ListBox::AddItem(std::string text) {
     items_.push_back(std::move(text));
+    Revise();
     if (!filling_) Tell(Aspect::ItemAdded, ListCount() - 1);
 }
 
 void ListBox::Clear() {
     if (items_.empty() && listIndex_ < 0) return;
     items_.clear();
+    Revise();
     listIndex_ = -1;
     if (!filling_) Tell(Aspect::Items);
 }

@@ -287,6 +287,8 @@ public:
     int ListCount() const { return static_cast<int>(items_.size()); }
     /// Fails with 5 if there is no such row.
     const std::string& List(int row) const;
+    /// Another number after every change of the rows; no two lists ever have the same.
+    unsigned Revision() const { return revision_; }
     void SetList(int row, std::string_view text);
     void AddItem(std::string text);
     void Clear();
@@ -315,7 +317,10 @@ public:
     void UserDoubleClicked(int row);
 
 private:
+    void Revise();
+
     std::vector<std::string> items_;
+    unsigned revision_ = 0;
     Font font_;
     int columns_;
     int listIndex_ = -1;

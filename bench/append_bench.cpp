@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+//
+// From Enter to the line on the disk. The yardstick opens a file as long as the log, appends the same line, syncs and
+// closes, with the calls of the system.
+//
+// A disk is as fast as what it has just done lets it be. So each of the three does all three in every round, in turns, and
+// counts the time of its own.
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <functional>
+
+#include "entry/frmMain.h"
+#include "logbook/log_file.h"
+#include "program.h"
+#include "sample.h"
+
+namespace vatro::bench {
+
+namespace {
+
+/// A disk has its moments: many short runs, of which the median counts.
+constexpr int kRounds = 30;
+constexpr int kRuns = 25;
+
+/// In the order of the steps of a round.
+enum class Counted { Bare, Append, Enter };
+
+bool AppendBare(const char* file, std::string_view line) {
+    const int handle = open(file, O_WRONLY | O_APPEND | O_CLOEXEC);
+    if (handle < 0) return false;
+    const bool written = write(handle, line.data(), line.size()) == static_cast<ssize_t>(line.size()) && fdatasync(handle) == 0;
+    return close(handle) == 0 && written;
+}
+
+double Seconds(const std::function<void()>& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+void Contact(benchmark::State& state, Counted counted) {
+    const std::vector<std::string> log = SampleLog();
+    Program program(log);
+    const Workplace workplace;
+    const std::string file = workplace.Path("bare.txt").string();
+    WriteLines(file, log);
+    const std::string line = log.back() + "\r\n";
+
+    if (counted != Counted::Bare) state.SetLabel("open, write, fdatasync, close, at most 1.2");
+    bool written = true;
+    const std::function<void()> steps[]{[&] { written = AppendBare(file.c_str(), line) && written; }, [&] { AppendLog(log.back()); },
+                                        [&] { program.Press("Enter"); }};
+    std::size_t first = 0;
+    for (auto _ : state) {
+        program.Type("DL9QQQ");
+        program.Press("Space");
+        program.Type("345");
+        for (std::size_t i = 0; i < 3; ++i) {
+            const std::size_t step = (first + i) % 3;
+            const double seconds = Seconds(steps[step]);
+            if (step == static_cast<std::size_t>(counted)) state.SetIterationTime(seconds);
+        }
+        ++first;
+    }
+    if (!written) state.SkipWithError("a line was not written");
+    if (frmMain->List1.ListCount() != kLogLines + static_cast<int>(state.iterations())) state.SkipWithError("a contact is missing");
+}
+
+void InRounds(benchmark::internal::Benchmark* measured) {
+    measured->Iterations(kRounds)->Repetitions(kRuns)->Unit(benchmark::kMicrosecond)->UseManualTime();
+}
+
+BENCHMARK_CAPTURE(Contact, bare, Counted::Bare)->Name("open, write, fdatasync, close")->Apply(InRounds);
+BENCHMARK_CAPTURE(Contact, append, Counted::Append)->Name("line appended")->Apply(InRounds);
+BENCHMARK_CAPTURE(Contact, enter, Counted::Enter)->Name("Enter to the synced line")->Apply(InRounds);
+
+}  // namespace
+
+}  // namespace vatro::bench

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+//
+// One key in the call field: the country in words, the contacts worked before, the number to send. The yardstick looks at
+// the call of every line and at every prefix once.
+//
+// The call stands nowhere in the log, so that the search cannot stop early. Each round is a key and the one that takes it
+// back, and two scans.
+#include <benchmark/benchmark.h>
+
+#include "entry/frmB4.h"
+#include "entry/frmMain.h"
+#include "program.h"
+#include "sample.h"
+#include "scan.h"
+
+namespace vatro::bench {
+
+namespace {
+
+void ScanForKey(benchmark::State& state) {
+    const Program program(SampleLog());
+    const std::vector<std::string>& lines = frmMain->List1.Items();
+    for (auto _ : state) {
+        for (const char sought : {'Q', 'Z'}) {
+            benchmark::DoNotOptimize(ScanLog(lines, sought));
+            benchmark::DoNotOptimize(ScanTable(sought));
+        }
+    }
+}
+
+void Key(benchmark::State& state, std::string_view call) {
+    Program program(SampleLog());
+    program.Type(call);
+    if (frmB4->List1.ListCount() != 0) return state.SkipWithError("the call stands in the log");
+    state.SetLabel("scan of calls and prefixes, at most 2");
+    for (auto _ : state) {
+        program.Type("Q");
+        program.Press("Backspace");
+    }
+}
+
+BENCHMARK(ScanForKey)->Name("scan of calls and prefixes")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Key, known, "DL9QQQ")->Name("key, known country")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Key, unknown, "QQ9QQQ")->Name("key, unknown prefix")->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+}  // namespace vatro::bench

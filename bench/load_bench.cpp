@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+//
+// Loading a log: the list, the marks, the counters. The yardstick reads the same file into lines.
+#include <benchmark/benchmark.h>
+
+#include <fstream>
+
+#include "entry/frmMain.h"
+#include "logbook/log_file.h"
+#include "program.h"
+#include "sample.h"
+
+namespace vatro::bench {
+
+namespace {
+
+void ReadLines(benchmark::State& state) {
+    const Program program(SampleLog());
+    for (auto _ : state) {
+        std::ifstream in(program.LogFile(), std::ios::binary);
+        std::vector<std::string> lines;
+        for (std::string line; std::getline(in, line);) lines.push_back(line);
+        if (lines.size() != static_cast<std::size_t>(kLogLines)) return state.SkipWithError("the file was not read");
+    }
+}
+
+void LoadLog(benchmark::State& state) {
+    const Program program(SampleLog());
+    state.SetLabel("file into lines, at most 3");
+    for (auto _ : state) {
+        IndlæsLogfil();
+        if (frmMain->List1.ListCount() != kLogLines) return state.SkipWithError("the log was not read");
+    }
+}
+
+BENCHMARK(ReadLines)->Name("file into lines")->Unit(benchmark::kMillisecond);
+BENCHMARK(LoadLog)->Name("log loaded")->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace vatro::bench

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+//
+// The barest way to look at the same bytes: how often one character stands in them.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "country/tables.h"
+#include "logbook/qso_line.h"
+
+namespace vatro::bench {
+
+inline std::ptrdiff_t CountIn(std::string_view text, char sought) {
+    return std::count(text.begin(), text.end(), sought);
+}
+
+/// The call columns of every line.
+inline std::ptrdiff_t ScanLog(const std::vector<std::string>& lines, char sought) {
+    std::ptrdiff_t found = 0;
+    for (const std::string& line : lines) found += CountIn(kCall.Af(line), sought);
+    return found;
+}
+
+/// The prefixes of the table.
+inline std::ptrdiff_t ScanTable(char sought) {
+    std::ptrdiff_t found = 0;
+    for (int row = 1; row <= giRefPfx; ++row) found += CountIn(RefPfx[static_cast<std::size_t>(row)].Pfx.Padded(), sought);
+    return found;
+}
+
+}  // namespace vatro::bench

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+//
+// The searches of the prefix table against a plain scan of it, on any table and any call. Input: lines; the first is the
+// call, every other one a row's prefix.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "country/call_analysis.h"
+#include "country/lookup.h"
+#include "country/tables.h"
+#include "text/columns.h"
+#include "text/errors.h"
+
+namespace {
+
+using namespace vatro;
+
+template <class Meets>
+int Scan(int start, Meets meets) {
+    for (int i = std::max(start, 1); i <= giRefPfx; ++i)
+        if (meets(RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed())) return i;
+    return 0;
+}
+
+std::string_view TakeLine(std::string_view& rest) {
+    const std::size_t end = std::min(rest.find('\n'), rest.size());
+    const std::string_view line = rest.substr(0, end);
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+    return line;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    std::string_view rest(reinterpret_cast<const char*>(data), size);
+    const std::string_view call = TakeLine(rest);
+    if (call.empty()) return 0;
+
+    NulstilTabeller();
+    giLande = 1;
+    Lande[1].Pfx = "QQ";
+    while (!rest.empty() && giRefPfx < 100) {
+        ++giRefPfx;
+        RefPfx[static_cast<std::size_t>(giRefPfx)].Pfx = Trim(TakeLine(rest));
+        RefPfx[static_cast<std::size_t>(giRefPfx)].Land = "QQ";
+    }
+    IndekserRefPfx();
+
+    std::string pfxcall;
+    findPfxCall(call, pfxcall);
+    for (int start = 0; start <= giRefPfx; ++start) {
+        if (FindHeleCall(call, start) != Scan(start, [&](std::string_view pfx) { return pfx == call; })) __builtin_trap();
+        if (FindPræfix(pfxcall, start) != Scan(start, [&](std::string_view pfx) { return pfxcall.starts_with(pfx); })) __builtin_trap();
+    }
+
+    std::string base(call);
+    StripCall(base);
+    if (base.size() > call.size()) __builtin_trap();
+    std::string again = base;
+    StripCall(again);
+    // Only a call that keeps a slash can lose more.
+    if (base.find('/') == std::string::npos && again != base) __builtin_trap();
+
+    gbVisLand = true;
+    giMult = 0;
+    std::string found;
+    LandWkd(call, found, Handling::Op);
+    if ((giMult == 1) != Lande[1].Wkd || (giMult == 1) == found.empty()) __builtin_trap();
+    std::string status;
+    LandStatusTekst(call, status);
+    LandWkd(call, found, Handling::Ned);
+    if (giMult != 0 || Lande[1].Wkd) __builtin_trap();
+    return 0;
+}

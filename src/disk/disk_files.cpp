@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: MIT
+#include "disk/disk_files.h"
+
+#include <cerrno>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+namespace vatro {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t kCopyBufferSize = 65'536;
+
+[[noreturn]] void Fail(Failure failure) {
+    throw RunTimeError(failure);
+}
+
+/// Opens the file, however its path is spelled, and creates it if it is missing unless it is to be read. Gives the
+/// directory in which it has been created.
+std::optional<fs::path> OpenPath(SystemFile& file, const fs::path& spelled, SystemFile::Access access) {
+    // The directories are searched only when the path does not lead anywhere as it stands.
+    int error = file.Open(spelled, access, false);
+    if (error == 0) return std::nullopt;
+    if (error != ENOENT) Fail(FailureOf(error));
+    const FoundPath found = FindPath(spelled);
+    if (!found.directoryExists) Fail(Failure::PathNotFound);
+    const bool read = access == SystemFile::Access::Read;
+    if (read && !found.exists) Fail(Failure::FileNotFound);
+    error = file.Open(found.path, access, !read);
+    if (error != 0) Fail(FailureOf(error));
+    if (found.exists) return std::nullopt;
+    return found.path.parent_path();
+}
+
+/// The path of a file that must be there.
+fs::path ExistingPath(const fs::path& spelled) {
+    FoundPath found = FindPath(spelled);
+    if (!found.directoryExists) Fail(Failure::PathNotFound);
+    if (!found.exists) Fail(Failure::FileNotFound);
+    return std::move(found.path);
+}
+
+SystemFile::Access AccessFor(FileMode mode) {
+    switch (mode) {
+        case FileMode::Output:
+            return SystemFile::Access::Write;
+        case FileMode::Append:
+            return SystemFile::Access::Append;
+        case FileMode::Input:
+            break;
+    }
+    return SystemFile::Access::Read;
+}
+
+}  // namespace
+
+DiskFiles::DiskFiles(PathMap toPath, char separator, std::optional<std::string> currentDirectory)
+    : toPath_(std::move(toPath)), separator_(separator), currentDirectory_(std::move(currentDirectory)) {}
+
+DiskFiles::~DiskFiles() {
+    for (const int number : {1, 2}) {
+        try {
+            Close(number);
+        } catch (const RunTimeError&) {
+            // Nobody is left to be told.
+            continue;
+        }
+    }
+}
+
+void DiskFiles::Open(int number, std::string_view path, FileMode mode) {
+    Slot& slot = SlotOf(number);
+    if (slot.file.IsOpen()) Fail(Failure::FileAlreadyOpen);
+    SystemFile file;
+    auto newIn = OpenPath(file, ToPath(path), AccessFor(mode));
+    if (mode == FileMode::Input && file.IsDirectory()) Fail(Failure::PathFileAccess);
+    for (const Slot& other : slots_) {
+        const bool bothRead = mode == FileMode::Input && other.mode == FileMode::Input;
+        if (!bothRead && file.IsSameFile(other.file)) Fail(Failure::FileAlreadyOpen);
+    }
+    if (mode == FileMode::Output) file.Truncate(0);
+    if (mode == FileMode::Append) slot.oldLength = file.Length();
+    slot.file = std::move(file);
+    slot.mode = mode;
+    slot.newIn = std::move(newIn);
+    slot.unwritten.clear();
+    if (mode == FileMode::Input) slot.reader.Start(slot.file);
+}
+
+std::string DiskFiles::LineInput(int number) {
+    Slot& slot = OpenSlot(number);
+    if (slot.mode != FileMode::Input) Fail(Failure::BadFileMode);
+    if (slot.reader.AtEnd()) Fail(Failure::InputPastEnd);
+    return slot.reader.Next();
+}
+
+bool DiskFiles::EndOfFile(int number) {
+    Slot& slot = OpenSlot(number);
+    return slot.mode != FileMode::Input || slot.reader.AtEnd();
+}
+
+void DiskFiles::PrintLine(int number, std::string_view text) {
+    SlotToPrint(number).unwritten.append(text).append("\r\n");
+}
+
+void DiskFiles::Print(int number, std::string_view text) {
+    SlotToPrint(number).unwritten.append(text);
+}
+
+void DiskFiles::Close(int number) {
+    if (number != 1 && number != 2) return;
+    Slot& slot = SlotOf(number);
+    if (!slot.file.IsOpen()) return;
+    try {
+        if (slot.mode != FileMode::Input) Save(slot);
+    } catch (const RunTimeError&) {
+        slot.file.Close();
+        throw;
+    }
+    slot.file.Close();
+}
+
+void DiskFiles::Save(Slot& slot) {
+    try {
+        slot.file.Write(slot.unwritten);
+        slot.file.Sync();
+        if (slot.newIn) SyncDirectory(*slot.newIn);
+    } catch (const RunTimeError&) {
+        if (slot.mode == FileMode::Append) {
+            try {
+                slot.file.Truncate(slot.oldLength);
+                slot.file.Sync();
+            } catch (const RunTimeError&) {
+                // The first failure is the one that is told.
+            }
+        }
+        throw;
+    }
+}
+
+void DiskFiles::Delete(std::string_view path) {
+    const fs::path spelled = ToPath(path);
+    int error = RemoveFile(spelled);
+    if (error == ENOENT) error = RemoveFile(ExistingPath(spelled));
+    if (error != 0) Fail(FailureOf(error));
+}
+
+void DiskFiles::Rename(std::string_view from, std::string_view to) {
+    const fs::path source = ExistingPath(ToPath(from));
+    const fs::path spelled = ToPath(to);
+    FoundPath target = FindPath(spelled);
+    if (!target.directoryExists) Fail(Failure::PathNotFound);
+    if (target.exists) {
+        // A file may be given the same name in another spelling.
+        const fs::path respelled = target.path.parent_path() / spelled.filename();
+        if (target.path != source || respelled == source) Fail(Failure::FileExists);
+        target.path = respelled;
+    }
+    std::error_code error;
+    fs::rename(source, target.path, error);
+    if (error) Fail(FailureOf(error.default_error_condition().value()));
+    SyncDirectory(target.path.parent_path());
+    if (source.parent_path() != target.path.parent_path()) SyncDirectory(source.parent_path());
+}
+
+void DiskFiles::Copy(std::string_view from, std::string_view to) {
+    SystemFile source;
+    try {
+        OpenPath(source, ToPath(from), SystemFile::Access::Read);
+    } catch (const RunTimeError& failure) {
+        // Its directory, or its drive, may be missing with it.
+        if (failure.Which() == Failure::PathNotFound) Fail(Failure::FileNotFound);
+        throw;
+    }
+    if (source.IsDirectory()) Fail(Failure::PathFileAccess);
+    SystemFile target;
+    const auto newIn = OpenPath(target, ToPath(to), SystemFile::Access::Write);
+    if (target.IsSameFile(source)) Fail(Failure::PermissionDenied);
+    for (const Slot& slot : slots_)
+        if (target.IsSameFile(slot.file)) Fail(Failure::FileAlreadyOpen);
+    target.Truncate(0);
+    std::vector<char> buffer(kCopyBufferSize);
+    while (const std::size_t count = source.Read(buffer)) target.Write({buffer.data(), count});
+    target.Sync();
+    if (newIn) SyncDirectory(*newIn);
+}
+
+std::string DiskFiles::CurrentDirectory() {
+    if (currentDirectory_) return *currentDirectory_;
+    std::error_code error;
+    const fs::path directory = fs::current_path(error);
+    if (error) Fail(Failure::PathNotFound);
+    std::string text = NativeText(directory);
+    if (text.ends_with(kNativeSeparator)) text.pop_back();
+    return text;
+}
+
+DiskFiles::Slot& DiskFiles::SlotOf(int number) {
+    if (number != 1 && number != 2) Fail(Failure::BadFileNumber);
+    return slots_[static_cast<std::size_t>(number - 1)];
+}
+
+DiskFiles::Slot& DiskFiles::OpenSlot(int number) {
+    Slot& slot = SlotOf(number);
+    if (!slot.file.IsOpen()) Fail(Failure::BadFileNumber);
+    return slot;
+}
+
+DiskFiles::Slot& DiskFiles::SlotToPrint(int number) {
+    Slot& slot = OpenSlot(number);
+    if (slot.mode == FileMode::Input) Fail(Failure::BadFileMode);
+    return slot;
+}
+
+fs::path DiskFiles::ToPath(std::string_view path) const {
+    if (path.empty() || path.find('\0') != std::string_view::npos) Fail(Failure::BadFileNumber);
+    return toPath_(path);
+}
+
+}  // namespace vatro

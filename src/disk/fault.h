@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+//
+// Files that fail when they are told to: what a full disk, a missing diskette or a protected file does to the program.
+//
+// Paths are compared without regard to case and to the kind of their separators; a bare name is also that of a file in
+// the current directory. A step that fails does nothing to the disk. What was printed is handed on at Close, so that a
+// failing Close can withhold it.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace vatro {
+
+class FaultyFiles : public Files {
+public:
+    enum class Step { Open, Write, Close, Delete, Rename, Copy };
+
+    /// `files` must outlive this.
+    explicit FaultyFiles(Files& files) : files_(files) {}
+
+    /// From now on what touches `path`, or a file below it, fails with this number: every opening and every copying, or
+    /// only the step told. Number 0 ends it, without a step all of it. The last that was told counts first.
+    void Fail(std::string_view path, int number, std::optional<Step> step = std::nullopt);
+
+    /// Closes both numbers and loses what was printed since they were opened, as a power failure does.
+    void Abandon();
+
+    void Open(int number, std::string_view path, FileMode mode) override;
+    std::string LineInput(int number) override { return files_.LineInput(number); }
+    bool EndOfFile(int number) override { return files_.EndOfFile(number); }
+    void PrintLine(int number, std::string_view text) override;
+    void Print(int number, std::string_view text) override;
+    void Close(int number) override;
+    void Delete(std::string_view path) override;
+    void Rename(std::string_view from, std::string_view to) override;
+    /// A missing source fails with 53 before anything else.
+    void Copy(std::string_view from, std::string_view to) override;
+    std::string CurrentDirectory() override { return files_.CurrentDirectory(); }
+    char Separator() const override { return files_.Separator(); }
+
+private:
+    /// A path as spelled and, of a bare name, in the current directory; normalised.
+    struct Place {
+        std::string asSpelled;
+        std::string inDirectory;
+        friend bool operator==(const Place&, const Place&) = default;
+    };
+    struct Fault {
+        Place place;
+        int number = 0;
+        std::optional<Step> step;
+    };
+    struct Slot {
+        bool open = false;
+        std::string path;
+        std::string unwritten;
+    };
+
+    /// The number's slot, or nothing if it is not open.
+    Slot* OpenSlot(int number);
+    Place PlaceOf(std::string_view path);
+    void Take(int number, std::string_view text);
+    void FailIfTold(std::string_view path, Step step);
+    bool IsMissing(std::string_view path);
+
+    Files& files_;
+    std::vector<Fault> faults_;
+    std::array<Slot, 2> slots_;
+};
+
+}  // namespace vatro

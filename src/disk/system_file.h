@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+//
+// One open file of the operating system, and the numbers of its failures.
+//
+// The only place, together with system_file.cpp, that knows which system it is. Opening gives the system's error
+// number, because its callers try again with another spelling; everything else fails as a RunTimeError.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string_view>
+
+#include "text/errors.h"
+
+namespace vatro {
+
+/// The failure that stands for an error number of the system. A missing file gives FileNotFound; whether it is its
+/// directory that is missing only the caller knows.
+Failure FailureOf(int error);
+
+class SystemFile {
+public:
+    enum class Access {
+        Read,
+        /// Writes from the start and keeps what is there.
+        Write,
+        /// Every write goes to the end.
+        Append,
+    };
+
+    SystemFile() = default;
+    SystemFile(SystemFile&& other) noexcept;
+    SystemFile& operator=(SystemFile&& other) noexcept;
+    SystemFile(const SystemFile&) = delete;
+    SystemFile& operator=(const SystemFile&) = delete;
+    ~SystemFile();
+
+    /// Opens the file, or creates it if it is missing and `create` says so. 0, or the error number.
+    int Open(const std::filesystem::path& path, Access access, bool create);
+    bool IsOpen() const { return handle_ >= 0; }
+    bool IsDirectory() const;
+    /// Whether both are the same file on the disk.
+    bool IsSameFile(const SystemFile& other) const;
+
+    /// The bytes read into the front of `buffer`, 0 at the end of the file.
+    std::size_t Read(std::span<char> buffer);
+    /// Writes all of it or fails.
+    void Write(std::string_view bytes);
+    std::int64_t Length();
+    void Truncate(std::int64_t length);
+    /// What has been written is on the disk on return.
+    void Sync();
+    void Close() noexcept;
+
+private:
+    int handle_ = -1;
+};
+
+/// Removes a file, not a directory. 0, or the error number.
+int RemoveFile(const std::filesystem::path& path);
+
+/// Names that were created or changed in the directory are on the disk on return.
+void SyncDirectory(const std::filesystem::path& directory);
+
+}  // namespace vatro

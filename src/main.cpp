@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+//
+// The program: the logic on Qt.
+#include <QApplication>
+#include <QTimer>
+
+#include "disk/disk_files.h"
+#include "frame/start.h"
+#include "platform/program.h"
+#include "qt/application.h"
+#include "qt/clock.h"
+#include "qt/deliver.h"
+#include "qt/dialogs.h"
+#include "qt/front.h"
+#include "qt/services.h"
+#include "qt/settings_store.h"
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    vatro::PrepareApplication();
+
+    vatro::QtFront front;
+    vatro::QtDialogs dialogs;
+    vatro::QtSettings settings;
+    vatro::DiskFiles files;
+    vatro::QtClock clock;
+    vatro::QtHelp help;
+    vatro::QtInstance instance;
+    vatro::InstallPlatform({front, dialogs, settings, files, clock, help, instance,
+                            {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
+
+    front.ended = [] { QCoreApplication::quit(); };
+    // The start procedure may open boxes, so it runs inside the event loop like every other event.
+    QTimer::singleShot(0, &front, [] {
+        vatro::BeginProgram();
+        vatro::Deliver([] { vatro::StartProgram(); });
+    });
+    return QApplication::exec();
+}

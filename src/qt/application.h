@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+//
+// What both window programs set up before anything is shown.
+#pragma once
+
+namespace vatro {
+
+/// Names, fonts readable at arm's length, and that the program, not its last window, ends it. After QApplication.
+void PrepareApplication();
+
+}  // namespace vatro

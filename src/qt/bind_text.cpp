@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+//
+// Text fields and combo boxes.
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "platform/forms.h"
+#include "qt/bind_common.h"
+#include "qt/binder.h"
+#include "qt/deliver.h"
+#include "qt/input.h"
+#include "qt/text.h"
+#include "qt/window.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr int kNoLimit = 32767;
+
+/// The limit holds for the user; a text that the program has put in may be longer.
+void PushLimit(const TextControl& control, QLineEdit& editor) {
+    const int length = static_cast<int>(control.Text().size());
+    editor.setMaxLength(control.MaxLength() > 0 ? qMax(control.MaxLength(), length) : kNoLimit);
+}
+
+void PushText(const TextControl& control, QLineEdit& editor) {
+    const QString text = ToQt(control.Text());
+    if (editor.text() != text) {
+        const QSignalBlocker quiet(editor);
+        editor.setMaxLength(kNoLimit);
+        editor.setText(text);
+        PushSelection(control, editor);
+    }
+    // A text that came from the editor leaves its caret where it is; the selection follows by itself.
+    PushLimit(control, editor);
+}
+
+void FollowEditor(const TextControl& control, QLineEdit& editor, Aspect aspect) {
+    if (aspect == Aspect::Text) PushText(control, editor);
+    if (aspect == Aspect::Selection) PushSelection(control, editor);
+    if (aspect == Aspect::MaxLength) PushLimit(control, editor);
+}
+
+/// What the user does in the editor by key, paste, drop or undo, and where the caret goes.
+void ConnectEditor(TextControl& control, QLineEdit& editor, QObject& scope) {
+    const auto selection = [&editor] {
+        return editor.hasSelectedText() ? std::pair(editor.selectionStart(), static_cast<int>(editor.selectionLength()))
+                                        : std::pair(editor.cursorPosition(), 0);
+    };
+    QObject::connect(&editor, &QLineEdit::textEdited, &scope, [&control, selection](const QString& text) {
+        const auto [start, length] = selection();
+        Deliver([&, start = start, length = length] { control.UserEdited(FromQt(text), start, length); });
+    });
+    const auto moved = [&control, selection] {
+        const auto [start, length] = selection();
+        if (start == control.SelStart() && length == control.SelLength()) return;
+        Deliver([&, start = start, length = length] { control.UserSelected(start, length); });
+    };
+    QObject::connect(&editor, &QLineEdit::cursorPositionChanged, &scope, moved);
+    QObject::connect(&editor, &QLineEdit::selectionChanged, &scope, moved);
+}
+
+void PushItems(const ComboBox& control, QComboBox& widget) {
+    const QSignalBlocker quiet(widget);
+    const QSignalBlocker quietEditor(*widget.lineEdit());
+    if (control.ListCount() == widget.count() + 1 && widget.count() > 0) {
+        widget.addItem(ToQt(control.Items().back()));
+    } else {
+        widget.clear();
+        for (const std::string& item : control.Items()) widget.addItem(ToQt(item));
+    }
+    widget.setCurrentIndex(control.ListIndex());
+    PushText(control, *widget.lineEdit());
+    PushSelection(control, *widget.lineEdit());
+}
+
+}  // namespace
+
+void Bind(TextBox& control, QLineEdit& widget, FormWindow& window) {
+    PushState(control, widget);
+    PushText(control, widget);
+    widget.setReadOnly(control.Locked());
+    window.AddInput(control, widget, &widget);
+    ConnectEditor(control, widget, window.Scope());
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        FollowState(control, widget, aspect);
+        FollowEditor(control, widget, aspect);
+    };
+}
+
+void Bind(ComboBox& control, QComboBox& widget, FormWindow& window) {
+    widget.setEditable(true);
+    widget.setInsertPolicy(QComboBox::NoInsert);
+    widget.setCompleter(nullptr);
+    if (widget.property("fixedPitch").toBool()) widget.setFont(FixedPitchFont());
+    PushState(control, widget);
+    PushItems(control, widget);
+    QLineEdit& editor = *widget.lineEdit();
+    window.AddInput(control, widget, &editor);
+    ConnectEditor(control, editor, window.Scope());
+    QObject::connect(&widget, &QComboBox::activated, &window.Scope(), [&control](int row) {
+        Deliver([&] {
+            if (control.Parent().Reachable()) control.UserPicked(row);
+        });
+    });
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        FollowState(control, widget, aspect);
+        if (aspect == Aspect::Items || aspect == Aspect::ListIndex)
+            PushItems(control, widget);
+        else
+            FollowEditor(control, *widget.lineEdit(), aspect);
+    };
+}
+
+}  // namespace vatro

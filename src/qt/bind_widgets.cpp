@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+//
+// Lists, buttons, boxes, labels and frames.
+#include <QCheckBox>
+#include <QFontDatabase>
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+
+#include "platform/forms.h"
+#include "qt/bind_common.h"
+#include "qt/binder.h"
+#include "qt/column_head.h"
+#include "qt/deliver.h"
+#include "qt/fields.h"
+#include "qt/item_list.h"
+#include "qt/text.h"
+#include "qt/window.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr double kFixedPitchPoints = 12;
+
+QColor ColourOf(Colour colour) {
+    return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
+}
+
+/// Black on no ground of its own is whatever the desktop writes in.
+QColor TextColour(const Label& label) {
+    return label.ForeColour() == kBlack && !label.Opaque() ? QColor() : ColourOf(label.ForeColour());
+}
+
+void PushLook(const Label& control, QLabel& widget) {
+    widget.setFont(ToQt(control.LabelFont(), widget.font()));
+    QPalette palette;
+    if (const QColor text = TextColour(control); text.isValid()) palette.setColor(QPalette::WindowText, text);
+    if (control.Opaque()) palette.setColor(QPalette::Window, ColourOf(control.BackColour()));
+    widget.setPalette(palette);
+    widget.setAutoFillBackground(control.Opaque());
+}
+
+void PushLook(const Label& control, FittedText& widget) {
+    const Font& font = control.LabelFont();
+    widget.SetTextFont(ToQt(font.name), font.size, font.bold);
+    widget.SetColours(TextColour(control), control.Opaque() ? ColourOf(control.BackColour()) : QColor());
+}
+
+template <class W>
+void BindText(Label& control, W& widget) {
+    PushState(control, widget);
+    PushLook(control, widget);
+    widget.setText(ToQt(control.Caption()));
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        FollowState(control, widget, aspect);
+        if (aspect == Aspect::Text) widget.setText(ToQt(control.Caption()));
+        if (aspect == Aspect::Look) PushLook(control, widget);
+    };
+}
+
+/// The form owns the access key; the button only shows it.
+void PushCaption(const std::string& caption, QAbstractButton& widget) {
+    widget.setText(ToQt(caption));
+    widget.setShortcut(QKeySequence());
+}
+
+void PushRow(const ListBox& control, ItemList& widget) {
+    const QModelIndex index = widget.model()->index(control.ListIndex(), 0);
+    if (!index.isValid()) {
+        widget.clearSelection();
+        widget.setCurrentIndex({});
+    } else if (widget.currentIndex() != index || !widget.selectionModel()->isSelected(index)) {
+        widget.setCurrentIndex(index);
+    }
+    if (index.isValid()) widget.scrollTo(index);
+}
+
+void FollowRows(const ListBox& control, ItemModel& model, ItemList& widget, Aspect aspect, int row) {
+    switch (aspect) {
+        case Aspect::Items:
+            model.Reset();
+            PushRow(control, widget);
+            break;
+        case Aspect::ItemAdded:
+            model.Append();
+            break;
+        case Aspect::ItemChanged:
+            model.RowChanged(row);
+            break;
+        case Aspect::ListIndex:
+            PushRow(control, widget);
+            break;
+        default:
+            break;
+    }
+}
+
+}  // namespace
+
+void PushState(const Control& control, QWidget& widget) {
+    for (const Aspect aspect : {Aspect::Enabled, Aspect::Visible, Aspect::ToolTip}) FollowState(control, widget, aspect);
+    widget.setFocusPolicy(control.TabStop() ? Qt::StrongFocus : control.TakesFocus() ? Qt::ClickFocus : Qt::NoFocus);
+}
+
+void FollowState(const Control& control, QWidget& widget, Aspect aspect) {
+    if (aspect == Aspect::Enabled) widget.setEnabled(control.Enabled());
+    if (aspect == Aspect::Visible && widget.isHidden() == control.Visible()) widget.setVisible(control.Visible());
+    if (aspect == Aspect::ToolTip) widget.setToolTip(ToQt(control.ToolTip()));
+}
+
+QFont FixedPitchFont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(kFixedPitchPoints);
+    return font;
+}
+
+QFont ToQt(const Font& font, const QFont& otherwise) {
+    if (font.name == "Fixedsys") return FixedPitchFont();
+    QFont result = otherwise;
+    if (!font.name.empty()) result.setFamily(ToQt(font.name));
+    if (font.size > 0) result.setPointSizeF(font.size);
+    result.setBold(font.bold);
+    result.setUnderline(font.underline);
+    return result;
+}
+
+void Bind(ListBox& control, ItemList& widget, FormWindow& window) {
+    PushState(control, widget);
+    widget.setFont(ToQt(control.ListFont(), widget.font()));
+    widget.SetColumns(control.ColumnCount());
+    auto* model = new ItemModel(control, &widget);
+    widget.setModel(model);
+    PushRow(control, widget);
+    window.AddInput(control, widget, nullptr);
+    // Goes with the window's connections, before the rows do.
+    QObject::connect(&window.Scope(), &QObject::destroyed, model, &ItemModel::Release);
+    QObject::connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, &window.Scope(), [&control, &widget] {
+        const QModelIndexList rows = widget.selectionModel()->selectedIndexes();
+        if (rows.isEmpty() || rows.front().row() == control.ListIndex()) return;
+        Deliver([&, row = rows.front().row()] {
+            if (control.Parent().Reachable()) control.UserSelected(row);
+        });
+    });
+    QObject::connect(&widget, &QAbstractItemView::doubleClicked, &window.Scope(), [&control](const QModelIndex& index) {
+        Deliver([&, row = index.row()] {
+            if (control.Parent().Reachable()) control.UserDoubleClicked(row);
+        });
+    });
+    control.mirror = [&control, &widget, model](Aspect aspect, int row) {
+        FollowState(control, widget, aspect);
+        FollowRows(control, *model, widget, aspect, row);
+    };
+}
+
+void Bind(Button& control, QPushButton& widget, FormWindow& window) {
+    PushState(control, widget);
+    PushCaption(control.Caption(), widget);
+    widget.setAutoDefault(false);
+    window.AddInput(control, widget, nullptr);
+    QObject::connect(&widget, &QAbstractButton::clicked, &window.Scope(), [&control] {
+        Deliver([&] {
+            if (control.Parent().Reachable()) control.Press();
+        });
+    });
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
+}
+
+void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window) {
+    PushState(control, widget);
+    PushCaption(control.Caption(), widget);
+    widget.setChecked(control.Value());
+    window.AddInput(control, widget, nullptr);
+    QObject::connect(&widget, &QAbstractButton::clicked, &window.Scope(), [&control, &widget] {
+        // Qt has flipped the box by itself; the control decides.
+        widget.setChecked(control.Value());
+        Deliver([&] {
+            if (control.Parent().Reachable()) control.Flip();
+        });
+    });
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        FollowState(control, widget, aspect);
+        if (aspect == Aspect::Value) widget.setChecked(control.Value());
+    };
+}
+
+void Bind(Label& control, QLabel& widget, FormWindow& /*window*/) {
+    widget.setTextFormat(Qt::PlainText);
+    BindText(control, widget);
+}
+
+void Bind(Label& control, FittedText& widget, FormWindow& /*window*/) {
+    BindText(control, widget);
+}
+
+void Bind(Label& control, ColumnHead& widget, FormWindow& /*window*/) {
+    PushState(control, widget);
+    widget.SetCaption(ToQt(control.Caption()));
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        FollowState(control, widget, aspect);
+        if (aspect == Aspect::Text) widget.SetCaption(ToQt(control.Caption()));
+    };
+}
+
+void Bind(Frame& control, QFrame& widget, FormWindow& window) {
+    PushState(control, widget);
+    const QString head = widget.objectName() + QStringLiteral("Caption");
+    if (auto* caption = widget.findChild<ColumnHead*>(head))
+        caption->SetCaption(ToQt(control.Caption()));
+    else
+        window.AddProblem(QStringLiteral("no head %1").arg(head));
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
+}
+
+}  // namespace vatro

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "qt/binder.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QToolBar>
+#include <set>
+
+#include "platform/forms.h"
+#include "qt/bars.h"
+#include "qt/column_head.h"
+#include "qt/fields.h"
+#include "qt/item_list.h"
+#include "qt/text.h"
+#include "qt/window.h"
+
+namespace vatro {
+
+namespace {
+
+/// Binds if control and widget are of these classes.
+template <class C, class W>
+bool BindPair(Control& control, QWidget& widget, FormWindow& window) {
+    auto* c = dynamic_cast<C*>(&control);
+    auto* w = dynamic_cast<W*>(&widget);
+    if (c == nullptr || w == nullptr) return false;
+    Bind(*c, *w, window);
+    return true;
+}
+
+/// The pairs there are; a class stands before the one that it is derived from.
+constexpr bool (*kPairs[])(Control&, QWidget&, FormWindow&) = {
+    BindPair<TextBox, QLineEdit>, BindPair<ComboBox, QComboBox>,   BindPair<ListBox, ItemList>,
+    BindPair<Button, QPushButton>, BindPair<CheckBox, QCheckBox>,  BindPair<Label, FittedText>,
+    BindPair<Label, QLabel>,      BindPair<Label, ColumnHead>,     BindPair<Frame, QFrame>,
+    BindPair<Toolbar, QToolBar>,  BindPair<StatusBar, QStatusBar>,
+};
+
+bool HasWidget(const Control& control) {
+    return dynamic_cast<const Timer*>(&control) == nullptr && dynamic_cast<const MenuItem*>(&control) == nullptr;
+}
+
+/// What the control is called where it is not seen.
+QString SpokenName(const Control& control) {
+    if (const auto* button = dynamic_cast<const Button*>(&control)) return PlainCaption(button->Caption());
+    if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return PlainCaption(box->Caption());
+    const QString tip = ToQt(control.ToolTip());
+    const qsizetype sentence = tip.indexOf(QStringLiteral(". "));
+    return sentence < 0 ? tip : tip.left(sentence);
+}
+
+void BindOne(Control& control, FormWindow& window) {
+    const QList<QWidget*> widgets = window.Top()->findChildren<QWidget*>(ObjectName(control));
+    if (widgets.size() != 1) {
+        window.AddProblem(QStringLiteral("%1 has %2 widgets").arg(ObjectName(control)).arg(widgets.size()));
+        return;
+    }
+    QWidget& widget = *widgets.front();
+    window.Enter(control, widget);
+    for (const auto& bind : kPairs) {
+        if (!bind(control, widget, window)) continue;
+        if (control.TakesFocus() && widget.accessibleName().isEmpty()) widget.setAccessibleName(SpokenName(control));
+        return;
+    }
+    window.AddProblem(QStringLiteral("%1 cannot be tied to a %2").arg(ObjectName(control), QLatin1String(widget.metaObject()->className())));
+}
+
+bool Bindable(const QWidget& widget) {
+    return qobject_cast<const QLineEdit*>(&widget) != nullptr || qobject_cast<const QComboBox*>(&widget) != nullptr ||
+           qobject_cast<const QAbstractItemView*>(&widget) != nullptr || qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+           qobject_cast<const QLabel*>(&widget) != nullptr || qobject_cast<const ColumnHead*>(&widget) != nullptr;
+}
+
+/// Widgets of the layout that no control owns.
+void FindOrphans(const Form& form, FormWindow& window) {
+    std::set<QString> known{QStringLiteral("FormCaption")};
+    for (const Control* control : form.Controls()) {
+        known.insert(ObjectName(*control));
+        if (dynamic_cast<const Frame*>(control) != nullptr) known.insert(ObjectName(*control) + QStringLiteral("Caption"));
+    }
+    for (const QWidget* widget : window.Top()->findChildren<QWidget*>()) {
+        if (!Bindable(*widget) || known.count(widget->objectName()) > 0) continue;
+        // What a widget has inside itself is its own.
+        bool inside = false;
+        for (const QWidget* parent = widget->parentWidget(); parent != nullptr && !inside; parent = parent->parentWidget())
+            inside = qobject_cast<const QComboBox*>(parent) != nullptr || qobject_cast<const QAbstractScrollArea*>(parent) != nullptr ||
+                     qobject_cast<const QToolBar*>(parent) != nullptr || qobject_cast<const QStatusBar*>(parent) != nullptr ||
+                     parent->inherits("QMenuBar");
+        if (inside || widget->inherits("QToolButton")) continue;
+        window.AddProblem(QStringLiteral("no control owns the widget \"%1\"").arg(widget->objectName()));
+    }
+}
+
+void SetTabOrder(const Form& form, FormWindow& window) {
+    QWidget* last = nullptr;
+    for (const Control* control : form.TabOrder()) {
+        QWidget* widget = window.WidgetOf(*control);
+        if (widget == nullptr) continue;
+        if (last != nullptr) QWidget::setTabOrder(last, widget);
+        last = widget;
+    }
+}
+
+}  // namespace
+
+void BindForm(Form& form, FormWindow& window) {
+    for (QWidget* widget : window.Top()->findChildren<QWidget*>())
+        if (Bindable(*widget)) widget->setFocusPolicy(Qt::NoFocus);
+    for (Control* control : form.Controls())
+        if (HasWidget(*control)) BindOne(*control, window);
+    if (auto* main = qobject_cast<QMainWindow*>(window.Top())) BindMenu(form, *main, window.Scope());
+    FindOrphans(form, window);
+    SetTabOrder(form, window);
+    for (const QString& problem : window.Problems()) qWarning("%s: %s", qUtf8Printable(ToQt(form.Name())), qUtf8Printable(problem));
+}
+
+}  // namespace vatro

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+//
+// The computer's local time, and the timers of the forms.
+#pragma once
+
+#include <QTimer>
+#include <map>
+#include <memory>
+
+#include "platform/platform.h"
+
+namespace vatro {
+
+class QtClock : public Clock {
+public:
+    DateTime Now() override;
+    double SecondsSinceMidnight() override;
+    void Schedule(Timer& timer) override;
+
+private:
+    void Tick(Timer& timer);
+
+    std::map<Timer*, std::unique_ptr<QTimer>> ticking_;
+};
+
+}  // namespace vatro

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "qt/column_head.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QStyle>
+
+#include "qt/item_list.h"
+
+namespace vatro {
+
+ColumnHead::ColumnHead(QWidget* parent) : QWidget(parent) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void ColumnHead::SetCaption(const QString& caption) {
+    if (caption_ == caption) return;
+    caption_ = caption;
+    QString plain = caption;
+    setAccessibleName(plain.remove(u'&').simplified());
+    update();
+}
+
+QSize ColumnHead::sizeHint() const {
+    return {fontMetrics().averageCharWidth() * 4, fontMetrics().height() + fontMetrics().leading() + 2};
+}
+
+QWidget* ColumnHead::Sibling(const QString& name) const {
+    return window()->findChild<QWidget*>(name);
+}
+
+QList<int> ColumnHead::Places() const {
+    QList<int> places;
+    if (const auto* list = qobject_cast<ItemList*>(Sibling(list_))) {
+        for (const QString& column : columns_.split(u' ', Qt::SkipEmptyParts))
+            places.append(mapFromGlobal(list->viewport()->mapToGlobal(QPoint(list->ColumnLeft(column.toInt()), 0))).x());
+    } else {
+        for (const QString& field : fields_.split(u' ', Qt::SkipEmptyParts))
+            if (const QWidget* widget = Sibling(field)) places.append(mapFromGlobal(widget->mapToGlobal(QPoint())).x() + 2);
+    }
+    return places;
+}
+
+QList<ColumnHead::Piece> ColumnHead::Pieces() const {
+    static const QRegularExpression blank(QStringLiteral(" +"));
+    static const QRegularExpression blanks(QStringLiteral("  +"));
+    const QStringList texts = caption_.split(words_ ? blank : blanks, Qt::SkipEmptyParts);
+    const QList<int> places = Places();
+    QList<Piece> pieces;
+    int end = 0;
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        // A piece without a place of its own, or pushed on by a long one before it, follows at a distance.
+        const int x = i < places.size() ? qMax(places[i], end) : end;
+        pieces.append({texts[i], x});
+        end = x + fontMetrics().size(Qt::TextShowMnemonic, texts[i]).width() + fontMetrics().averageCharWidth();
+    }
+    return pieces;
+}
+
+void ColumnHead::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine | Qt::TextShowMnemonic;
+    if (style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) == 0) flags |= Qt::TextHideMnemonic;
+    for (const Piece& piece : Pieces()) {
+        const QRect place(piece.x, 0, qMax(0, width() - piece.x), height());
+        style()->drawItemText(&painter, place, flags, palette(), isEnabled(), piece.text, foregroundRole());
+    }
+}
+
+bool ColumnHead::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize || event->type() == QEvent::FontChange) update();
+    return QWidget::eventFilter(watched, event);
+}
+
+void ColumnHead::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (watching_) return;
+    watching_ = true;
+    if (auto* list = qobject_cast<ItemList*>(Sibling(list_))) {
+        list->installEventFilter(this);
+        connect(list->horizontalScrollBar(), &QScrollBar::valueChanged, this, qOverload<>(&QWidget::update));
+    }
+    for (const QString& field : fields_.split(u' ', Qt::SkipEmptyParts))
+        if (QWidget* widget = Sibling(field)) widget->installEventFilter(this);
+}
+
+}  // namespace vatro

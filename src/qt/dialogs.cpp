@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+#include "qt/dialogs.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <memory>
+
+#include "platform/forms.h"
+#include "platform/program.h"
+#include "qt/deliver.h"
+#include "qt/front.h"
+#include "qt/text.h"
+#include "qt/window.h"
+#include "text/codepage.h"
+
+namespace vatro {
+
+using namespace literals;
+
+namespace {
+
+QMessageBox::Icon QtIcon(Icon icon) {
+    switch (icon) {
+        case Icon::None:
+            return QMessageBox::NoIcon;
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::Question:
+            return QMessageBox::Question;
+        case Icon::Exclamation:
+            return QMessageBox::Warning;
+        case Icon::Critical:
+            return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+std::string_view Meaning(Failure failure) {
+    switch (failure) {
+        case Failure::InvalidCall:
+            return "Ugyldigt procedurekald"_t;
+        case Failure::Overflow:
+            return "Overløb"_t;
+        case Failure::IndexOutOfRange:
+            return "Indeks uden for det tilladte område"_t;
+        case Failure::DivisionByZero:
+            return "Division med nul"_t;
+        case Failure::TypeMismatch:
+            return "Typerne passer ikke sammen"_t;
+        case Failure::BadFileNumber:
+            return "Forkert filnummer"_t;
+        case Failure::FileNotFound:
+            return "Filen blev ikke fundet"_t;
+        case Failure::BadFileMode:
+            return "Forkert filtilstand"_t;
+        case Failure::FileAlreadyOpen:
+            return "Filen er allerede åben"_t;
+        case Failure::FileExists:
+            return "Filen findes allerede"_t;
+        case Failure::DiskFull:
+            return "Disken er fuld"_t;
+        case Failure::InputPastEnd:
+            return "Læsning efter filens slutning"_t;
+        case Failure::PermissionDenied:
+            return "Adgang nægtet"_t;
+        case Failure::DiskNotReady:
+            return "Disken er ikke klar"_t;
+        case Failure::PathFileAccess:
+            return "Fejl ved adgang til sti eller fil"_t;
+        case Failure::PathNotFound:
+            return "Stien blev ikke fundet"_t;
+        case Failure::Cancelled:
+            return "Dialogen blev annulleret"_t;
+    }
+    return {};
+}
+
+/// "Logs|*.txt;*.log|All|*.*" as Qt writes it.
+QStringList NameFilters(const std::string& filter) {
+    const QStringList parts = ToQt(filter).split(u'|', Qt::SkipEmptyParts);
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QString patterns = parts[i + 1];
+        patterns.replace(u';', u' ').replace(QStringLiteral("*.*"), QStringLiteral("*"));
+        // What the description says in brackets of its own stands for the patterns otherwise.
+        filters.append(parts[i].section(u'(', 0, 0).trimmed() + QStringLiteral(" (") + patterns + u')');
+    }
+    return filters;
+}
+
+/// Qt gives the keys back to the window that had them; the active form may be another one by now.
+void GiveKeysBack() {
+    if (Form* form = ActiveForm()) platform().front.Activated(*form);
+}
+
+}  // namespace
+
+QWidget* DialogOwner() {
+    const auto* front = dynamic_cast<const QtFront*>(&platform().front);
+    // A side window may go while the box is open; the main window and a modal one stay.
+    const Form* form = ModalForm();
+    for (const Form* loaded : LoadedForms())
+        if (form == nullptr && loaded->Kind() == FormKind::Main) form = loaded;
+    const FormWindow* window = front != nullptr && form != nullptr ? front->WindowOf(*form) : nullptr;
+    return window != nullptr && window->Top()->isVisible() ? window->Top() : nullptr;
+}
+
+bool RunDialog(QDialog& dialog) {
+    dialog.setWindowModality(Qt::ApplicationModal);
+    dialog.show();
+    WaitLoop([open = QPointer<QDialog>(&dialog)] { return open == nullptr || !open->isVisible(); }).Run();
+    dialog.hide();
+    GiveKeysBack();
+    return !ProgramEnding();
+}
+
+QMessageBox* MakeBox(const MessageBox& box, QWidget* owner) {
+    auto* made = new QMessageBox(owner);
+    made->setWindowTitle(box.title.empty() ? QStringLiteral("vatro") : ToQt(box.title));
+    made->setTextFormat(Qt::PlainText);
+    made->setText(ToQt(box.text));
+    made->setIcon(QtIcon(box.icon));
+    if (box.buttons == Buttons::Ok) {
+        QPushButton* ok = made->addButton(QStringLiteral("&OK"), QMessageBox::AcceptRole);
+        made->setDefaultButton(ok);
+        made->setEscapeButton(ok);
+    } else {
+        QPushButton* yes = made->addButton(QStringLiteral("&Ja"), QMessageBox::YesRole);
+        QPushButton* no = made->addButton(QStringLiteral("&Nej"), QMessageBox::NoRole);
+        made->setDefaultButton(box.defaultNo ? no : yes);
+        made->setEscapeButton(no);
+    }
+    QObject::connect(made, &QDialog::finished, made, [] { WaitLoop::Look(); });
+    return made;
+}
+
+Answer AnswerOf(const QMessageBox& box) {
+    const QAbstractButton* pressed = box.clickedButton();
+    for (const QAbstractButton* button : box.buttons()) {
+        if (box.buttonRole(const_cast<QAbstractButton*>(button)) == QMessageBox::AcceptRole) return Answer::Ok;
+        if (button == pressed) return box.buttonRole(const_cast<QAbstractButton*>(button)) == QMessageBox::YesRole ? Answer::Yes : Answer::No;
+    }
+    return Answer::No;
+}
+
+Answer QtDialogs::Show(const MessageBox& box) {
+    const std::unique_ptr<QMessageBox> made(MakeBox(box, DialogOwner()));
+    RunDialog(*made);
+    LeaveIfEnding();
+    return AnswerOf(*made);
+}
+
+std::string QtDialogs::SaveFile(const FileDialog& dialog) {
+    return ChooseFile(dialog, true);
+}
+
+std::string QtDialogs::OpenFile(const FileDialog& dialog) {
+    return ChooseFile(dialog, false);
+}
+
+std::string QtDialogs::ChooseFile(const FileDialog& dialog, bool save) {
+    QFileDialog chooser(DialogOwner(), ToQt(dialog.title));
+    chooser.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    chooser.setFileMode(!save && dialog.fileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    chooser.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwritePrompt);
+    chooser.setNameFilters(NameFilters(dialog.filter));
+    chooser.setDefaultSuffix(ToQt(dialog.defaultExtension));
+    const QFileInfo named(ToQt(dialog.fileName));
+    if (named.isAbsolute()) chooser.setDirectory(named.absolutePath());
+    if (!dialog.fileName.empty()) chooser.selectFile(named.fileName());
+    chooser.setLabelText(QFileDialog::Accept, save ? QStringLiteral("&Gem") : QStringLiteral("&Åbn"));
+    chooser.setLabelText(QFileDialog::Reject, QStringLiteral("Annuller"));
+    QObject::connect(&chooser, &QDialog::finished, &chooser, [] { WaitLoop::Look(); });
+    RunDialog(chooser);
+    LeaveIfEnding();
+    if (chooser.result() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) throw RunTimeError(Failure::Cancelled);
+    return FromQt(QDir::toNativeSeparators(chooser.selectedFiles().constFirst()));
+}
+
+void QtDialogs::ShowFailure(const RunTimeError& failure) {
+    MessageBox box;
+    box.text = std::string("Kørselsfejl "_t) + std::to_string(failure.Number()) + ":\n\n" + std::string(Meaning(failure.Which()));
+    box.icon = Icon::Critical;
+    const std::unique_ptr<QMessageBox> made(MakeBox(box, DialogOwner()));
+    RunDialog(*made);
+}
+
+}  // namespace vatro

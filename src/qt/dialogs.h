@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+//
+// Message boxes and file dialogues of the desktop, with Danish buttons.
+#pragma once
+
+#include <QPointer>
+#include <vector>
+
+#include "platform/platform.h"
+
+class QDialog;
+class QMessageBox;
+class QWidget;
+
+namespace vatro {
+
+class QtDialogs : public Dialogs {
+public:
+    Answer Show(const MessageBox& box) override;
+    std::string SaveFile(const FileDialog& dialog) override;
+    std::string OpenFile(const FileDialog& dialog) override;
+    void ShowFailure(const RunTimeError& failure) override;
+
+private:
+    std::string ChooseFile(const FileDialog& dialog, bool save);
+};
+
+/// A box that is not open yet. The caller owns it.
+QMessageBox* MakeBox(const MessageBox& box, QWidget* owner);
+/// The answer of its buttons. Esc and the window's frame say No, or OK if there is nothing else.
+Answer AnswerOf(const QMessageBox& box);
+/// The window above which a dialogue opens.
+QWidget* DialogOwner();
+/// Opens the dialogue and waits until it is closed; false if the program ends meanwhile.
+bool RunDialog(QDialog& dialog);
+
+}  // namespace vatro

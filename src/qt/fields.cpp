@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "qt/fields.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QResizeEvent>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+namespace vatro {
+
+namespace {
+
+constexpr double kEntryPoints = 14.25;
+/// Device independent pixels of a point, at 96 to the inch.
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
+
+}  // namespace
+
+EntryField::EntryField(QWidget* parent) : QLineEdit(parent) {
+    QFont font(QStringLiteral("Arial"));
+    font.setPointSizeF(kEntryPoints);
+    font.setBold(true);
+    setFont(font);
+}
+
+QSize EntryField::sizeHint() const {
+    // Between a figure and the widest letter: calls are a mixture of both.
+    const int wide = fontMetrics().horizontalAdvance(u'0') * 6 / 5;
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QSize content(wide * chars_ + fontMetrics().averageCharWidth(), fontMetrics().height() + 4);
+    return style()->sizeFromContents(QStyle::CT_LineEdit, &option, content, this);
+}
+
+QFont MeasureFont(const QString& family, bool bold) {
+    QFont font(family);
+    font.setPixelSize(kMeasurePixels);
+    font.setBold(bold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+FittedText::FittedText(QWidget* parent) : QLabel(parent), font_(MeasureFont(QStringLiteral("Arial"), true)) {
+    setTextFormat(Qt::PlainText);
+}
+
+void FittedText::SetTextFont(const QString& family, double points, bool bold) {
+    font_ = MeasureFont(family, bold);
+    points_ = points;
+    update();
+}
+
+void FittedText::SetColours(const QColor& text, const QColor& ground) {
+    text_ = text;
+    ground_ = ground;
+    update();
+}
+
+void FittedText::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    if (ground_.isValid()) painter.fillRect(rect(), ground_);
+    QPainterPath letters;
+    letters.addText(0, 0, font_, text());
+    if (letters.isEmpty()) return;
+    const QRectF ink = letters.boundingRect();
+    const double advance = QFontMetricsF(font_).horizontalAdvance(text());
+    const double told = points_ * kPixelsPerPoint / kMeasurePixels;
+    const double scale = qMin(told, qMin(height() / ink.height(), width() / qMax(advance, ink.right())));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate((width() - advance * scale) / 2, height() / 2.0 - ink.center().y() * scale);
+    painter.scale(scale, scale);
+    painter.fillPath(letters, text_.isValid() ? text_ : palette().color(foregroundRole()));
+}
+
+StatusPanel::StatusPanel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setMargin(2);
+}
+
+void StatusPanel::SetPanelText(const QString& text, const QString& toolTip) {
+    whole_ = text;
+    toolTip_ = toolTip;
+    setAccessibleName(text);
+    Show();
+}
+
+void StatusPanel::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    Show();
+}
+
+void StatusPanel::Show() {
+    // A panel that gives way to the window's width has no width of its own to ask for.
+    const bool elastic = sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
+    const QString shown = elastic ? fontMetrics().elidedText(whole_, Qt::ElideRight, contentsRect().width() - 2 * margin()) : whole_;
+    setToolTip(shown == whole_ ? toolTip_ : whole_ + u'\n' + toolTip_);
+    if (text() != shown) setText(shown);
+}
+
+}  // namespace vatro

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "qt/front.h"
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QTimer>
+#include <QWidget>
+
+#include "platform/program.h"
+#include "qt/deliver.h"
+#include "qt/fields.h"
+#include "qt/text.h"
+#include "qt/window.h"
+
+namespace vatro {
+
+namespace {
+
+int held = 0;
+
+}  // namespace
+
+bool TicksHeld() {
+    return held > 0;
+}
+
+void FollowFocusSoon(Form& form) {
+    const auto* front = dynamic_cast<QtFront*>(&platform().front);
+    FormWindow* window = front != nullptr ? front->WindowOf(form) : nullptr;
+    if (window != nullptr) QTimer::singleShot(0, &window->Scope(), [window] { window->FollowFocus(); });
+}
+
+QtFront::QtFront() : waitModal([](const std::function<bool()>& over) { WaitLoop(over).Run(); }) {}
+
+QtFront::~QtFront() = default;
+
+FormWindow* QtFront::WindowOf(const Form& form) const {
+    const auto found = windows_.find(&form);
+    return found == windows_.end() ? nullptr : found->second.get();
+}
+
+QWidget* QtFront::WidgetOf(const Control& control) const {
+    const FormWindow* window = WindowOf(control.Parent());
+    return window == nullptr ? nullptr : window->WidgetOf(control);
+}
+
+void QtFront::Created(Form& form) {
+    QWidget* owner = nullptr;
+    for (const auto& [other, window] : windows_)
+        if (other->Kind() == FormKind::Main && form.Kind() != FormKind::Main) owner = window->Top();
+    windows_[&form] = std::make_unique<FormWindow>(form, owner, *this);
+    windows_[&form]->TakeDesignSize();
+}
+
+void QtFront::Destroyed(Form& form) {
+    if (const FormWindow* window = WindowOf(form); window != nullptr && window->Top() == awaited_) awaited_ = nullptr;
+    for (Control* control : form.Controls()) control->mirror = nullptr;
+    windows_.erase(&form);
+    WaitLoop::Look();
+}
+
+void QtFront::Changed(Form& form) {
+    if (FormWindow* window = WindowOf(form)) window->Follow();
+    WaitLoop::Look();
+}
+
+void QtFront::Activated(Form& /*form*/) {
+    // A handler may pass through several forms: only where it ends is shown.
+    if (activationPending_) return;
+    activationPending_ = true;
+    QTimer::singleShot(0, this, &QtFront::FollowActivation);
+}
+
+void QtFront::FollowActivation() {
+    activationPending_ = false;
+    Form* form = ActiveForm();
+    const FormWindow* window = form != nullptr ? WindowOf(*form) : nullptr;
+    // A box in front keeps the keys; its form gets them back when it closes.
+    if (window == nullptr || QApplication::activeModalWidget() != (form->Modal() ? window->Top() : nullptr)) return;
+    if (QApplication::activeWindow() == window->Top() || !window->Top()->isVisible()) return;
+    awaited_ = window->Top();
+    window->Top()->raise();
+    window->Top()->activateWindow();
+}
+
+void QtFront::WindowActivated(Form& form) {
+    const FormWindow* window = WindowOf(form);
+    if (window == nullptr || activationPending_) return;
+    if (awaited_ != nullptr) {
+        if (awaited_ == window->Top()) awaited_ = nullptr;
+        return;
+    }
+    if (ActiveForm() == &form) return;
+    Deliver([&] {
+        if (form.Reachable()) form.UserActivated();
+    });
+}
+
+void QtFront::WindowUsed(Form& form) {
+    awaited_ = nullptr;
+    if (ActiveForm() == &form || activationPending_) return;
+    Deliver([&] {
+        if (form.Reachable()) form.UserActivated();
+    });
+}
+
+void QtFront::RunModal(Form& form) {
+    const FormSlotBase* slot = FindFormSlot(form.Name());
+    waitModal([slot, &form] { return slot->Peek() != &form || !form.Visible(); });
+}
+
+void QtFront::Refresh(Form& form) {
+    FormWindow* window = WindowOf(form);
+    if (window == nullptr || !form.Visible()) return;
+    // The first picture of a window waits for the window system; nothing else may come between meanwhile.
+    ++held;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    window->Top()->repaint();
+    --held;
+}
+
+void QtFront::DoEvents() {
+    QCoreApplication::processEvents();
+    LeaveIfEnding();
+}
+
+double QtFront::TextWidth(std::string_view text, const Font& font) {
+    const QFontMetricsF metrics(MeasureFont(ToQt(font.name), font.bold));
+    return metrics.horizontalAdvance(ToQt(text)) / kMeasurePixels * font.size;
+}
+
+double QtFront::TextHeight(const Font& font) {
+    const QFontMetricsF metrics(MeasureFont(ToQt(font.name), font.bold));
+    return metrics.height() / kMeasurePixels * font.size;
+}
+
+void QtFront::Ended() {
+    awaited_ = nullptr;
+    WaitLoop::Look();
+    if (ended) ended();
+}
+
+}  // namespace vatro

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+//
+// The front on Qt: one window for each loaded form, which mirrors what form and controls tell it.
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "platform/forms.h"
+#include "platform/platform.h"
+
+class QWidget;
+
+namespace vatro {
+
+class FormWindow;
+
+class QtFront : public QObject, public Front {
+    Q_OBJECT
+
+public:
+    QtFront();
+    ~QtFront() override;
+
+    void Created(Form& form) override;
+    void Destroyed(Form& form) override;
+    void Changed(Form& form) override;
+    void Activated(Form& form) override;
+    void RunModal(Form& form) override;
+    void Refresh(Form& form) override;
+    void DoEvents() override;
+    double TextWidth(std::string_view text, const Font& font) override;
+    double TextHeight(const Font& font) override;
+    void Ended() override;
+
+    /// The window of a loaded form, or nothing.
+    FormWindow* WindowOf(const Form& form) const;
+    /// The widget of a control, or nothing if it has none.
+    QWidget* WidgetOf(const Control& control) const;
+    /// The active form's window is, or is about to become, the active window.
+    bool ActivationPending() const { return activationPending_ || awaited_ != nullptr; }
+
+    /// Waits while a modal form is open; another wait can be put in its place.
+    std::function<void(const std::function<bool()>& over)> waitModal;
+    /// The program has ended.
+    std::function<void()> ended;
+
+    // From the windows.
+
+    void WindowActivated(Form& form);
+    /// Keys or clicks have arrived at the window of this form.
+    void WindowUsed(Form& form);
+
+private:
+    void FollowActivation();
+
+    std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
+    /// The window of the active form will be activated when Qt's events run next.
+    bool activationPending_ = false;
+    /// Asked to become the active window, and not yet it: what other windows tell meanwhile is out of date.
+    QWidget* awaited_ = nullptr;
+};
+
+/// Gives the focus to the widget of the form's active control when the present event of Qt is over.
+void FollowFocusSoon(Form& form);
+
+/// Whether events wait, by which a tick of the clock must not come between the steps of a handler.
+bool TicksHeld();
+
+}  // namespace vatro

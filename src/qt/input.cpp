@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "qt/input.h"
+
+#include <QClipboard>
+#include <QFocusEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+#include "qt/deliver.h"
+#include "qt/front.h"
+#include "qt/text.h"
+
+namespace vatro {
+
+namespace {
+
+/// The byte of a key as KeyPress takes it, above 127 too.
+KeyCode Code(char byte) {
+    return static_cast<KeyCode>(static_cast<unsigned char>(byte));
+}
+
+/// Qt gives the focus back to where it was; nobody has moved it in the form.
+bool OnlyReturns(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+}
+
+}  // namespace
+
+std::optional<KeyCode> CodeOf(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers modifiers = event.modifiers();
+    const bool ctrl = modifiers.testFlag(Qt::ControlModifier);
+    const bool alt = modifiers.testFlag(Qt::AltModifier);
+    if (modifiers.testFlag(Qt::MetaModifier)) return std::nullopt;
+    if (!ctrl && !alt) {
+        if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return kEnter;
+        if (event.key() == Qt::Key_Escape) return kEsc;
+        if (event.key() == Qt::Key_Backspace) return kBackspace;
+    }
+    // Both together are AltGr on some systems.
+    if (ctrl != alt) return std::nullopt;
+    const QString text = event.text();
+    if (text.isEmpty() || !text.at(0).isPrint()) return std::nullopt;
+    return Code(FromQt(text).front());
+}
+
+void PushSelection(const TextControl& control, QLineEdit& editor) {
+    const int start = editor.hasSelectedText() ? editor.selectionStart() : editor.cursorPosition();
+    const int length = editor.hasSelectedText() ? editor.selectionLength() : 0;
+    if (start == control.SelStart() && length == control.SelLength()) return;
+    const QSignalBlocker quiet(editor);
+    if (control.SelLength() > 0)
+        editor.setSelection(control.SelStart(), control.SelLength());
+    else
+        editor.setCursorPosition(control.SelStart());
+}
+
+Input::Input(Control& control, QWidget& widget, QLineEdit* editor) : QObject(&widget), control_(&control), widget_(&widget), editor_(editor) {
+    widget.installEventFilter(this);
+    if (editor != nullptr && editor != &widget) editor->installEventFilter(this);
+}
+
+bool Input::eventFilter(QObject* watched, QEvent* event) {
+    if (control_ == nullptr) return false;
+    switch (event->type()) {
+        case QEvent::KeyPress:
+            return watched == widget_ && TakeKeyEvent(static_cast<QKeyEvent&>(*event));
+        case QEvent::InputMethod:
+            return watched == widget_ && TakeInputMethod(static_cast<QInputMethodEvent&>(*event));
+        case QEvent::FocusIn:
+            if (watched != widget_) return false;
+            TakeFocus(static_cast<QFocusEvent&>(*event));
+            return true;
+        case QEvent::Wheel:
+            // A wheel over a combo box would choose without a click.
+            return editor_ != nullptr && editor_ != widget_;
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseMove:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+            return TakeMouse(*watched, *event);
+        default:
+            return false;
+    }
+}
+
+bool Input::TakeKeyEvent(QKeyEvent& event) {
+    Form& form = control_->Parent();
+    const bool plain = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == Qt::NoModifier;
+    if (plain && (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)) {
+        const bool back = event.key() == Qt::Key_Backtab || event.modifiers().testFlag(Qt::ShiftModifier);
+        Deliver([&] {
+            if (form.Reachable()) form.UserTab(back);
+        });
+        return true;
+    }
+    if (editor_ != nullptr && event.matches(QKeySequence::Paste)) {
+        const std::string text = PastedText(QGuiApplication::clipboard()->text());
+        Deliver([&] { Text()->Insert(text); });
+        return true;
+    }
+    const std::optional<KeyCode> key = CodeOf(event);
+    if (key) return !TakeKey(*key);
+    // Qt walks from button to button with the arrows; the form knows only Tab.
+    const bool arrow = event.key() >= Qt::Key_Left && event.key() <= Qt::Key_Down;
+    return arrow && editor_ == nullptr && dynamic_cast<ListBox*>(control_) == nullptr;
+}
+
+bool Input::TakeKey(KeyCode key) {
+    bool wanted = false;
+    const QPointer<Input> self(this);
+    Deliver([&] {
+        Form& form = control_->Parent();
+        if (!form.Reachable()) return;
+        if ((key == kEnter || key == kEsc) && form.UserDefaultKey(key)) return;
+        const KeyCode taken = control_->PressKey(key);
+        if (taken == kNoKey || self == nullptr || control_ == nullptr) return;
+        if (editor_ != nullptr) {
+            Edit(taken);
+        } else if (auto* button = dynamic_cast<Button*>(control_)) {
+            if (taken == kEnter) button->Press();
+            wanted = taken == kSpace;
+        } else {
+            wanted = taken == kSpace && dynamic_cast<CheckBox*>(control_) != nullptr;
+        }
+    });
+    return wanted;
+}
+
+void Input::Edit(KeyCode key) {
+    TextControl& text = *Text();
+    if (text.Locked() || !text.Enabled()) return;
+    if (key == kBackspace) {
+        editor_->backspace();
+    } else if (key >= kSpace && text.Room() > 0) {
+        const char byte = static_cast<char>(key);
+        editor_->insert(ToQt({&byte, 1}));
+    }
+}
+
+bool Input::TakeInputMethod(QInputMethodEvent& event) {
+    if (event.commitString().isEmpty() || event.replacementLength() > 0) return false;
+    const QPointer<Input> self(this);
+    const QPointer<QWidget> widget(widget_);
+    const std::string commit = FromQt(event.commitString());
+    const QString preedit = event.preeditString();
+    const QList<QInputMethodEvent::Attribute> attributes = event.attributes();
+    // The widget ends the composition before the characters come in as keys.
+    QInputMethodEvent rest(preedit, attributes);
+    static_cast<QObject*>(widget)->event(&rest);
+    for (const char byte : commit)
+        if (self != nullptr && control_ != nullptr) TakeKey(Code(byte));
+    return true;
+}
+
+void Input::TakeFocus(QFocusEvent& event) {
+    Control* const control = control_;
+    static_cast<QObject*>(widget_)->event(&event);
+    if (control_ == nullptr) return;
+    Form& form = control->Parent();
+    const QPointer<Input> self(this);
+    if (form.ActiveControl() != control) {
+        if (form.ActiveControl() != nullptr && OnlyReturns(event.reason())) {
+            FollowFocusSoon(form);
+            return;
+        }
+        Deliver([&] {
+            if (form.Reachable()) form.UserFocus(*control);
+        });
+        if (self == nullptr || control_ == nullptr) return;
+        if (form.ActiveControl() != control) {
+            FollowFocusSoon(form);
+            return;
+        }
+    }
+    if (TextControl* text = Text(); text != nullptr && editor_ != nullptr) {
+        keepSelection_ = event.reason() == Qt::MouseFocusReason && text->SelLength() > 0;
+        PushSelection(*text, *editor_);
+    }
+}
+
+bool Input::TakeMouse(QObject& watched, const QEvent& event) {
+    if (&watched != editor_ || !keepSelection_) return false;
+    if (event.type() == QEvent::MouseButtonRelease) keepSelection_ = false;
+    return true;
+}
+
+}  // namespace vatro

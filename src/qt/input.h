@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+//
+// Keys, input methods, paste and focus of one control's widget, on their way into the control.
+//
+// A key that gives a character, and Enter, Esc and Backspace, goes through the control's KeyPress before the widget's
+// own editing takes what has become of it. Tab walks through the form's controls. A focus that Qt moves by itself, to
+// a window or back from a menu or popup, is no event of the form.
+#pragma once
+
+#include <QLineEdit>
+#include <QObject>
+#include <QPointer>
+#include <optional>
+
+#include "platform/forms.h"
+
+class QKeyEvent;
+class QInputMethodEvent;
+class QFocusEvent;
+
+namespace vatro {
+
+class Input : public QObject {
+    Q_OBJECT
+
+public:
+    /// `editor` is the line under editing: the widget itself, the one in a combo box, or nothing.
+    Input(Control& control, QWidget& widget, QLineEdit* editor);
+    /// The control is going away.
+    void Release() { control_ = nullptr; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool TakeKeyEvent(QKeyEvent& event);
+    bool TakeInputMethod(QInputMethodEvent& event);
+    void TakeFocus(QFocusEvent& event);
+    bool TakeMouse(QObject& watched, const QEvent& event);
+    /// Runs the key through form and control; true if the widget's own handling of it is still wanted.
+    bool TakeKey(KeyCode key);
+    void Edit(KeyCode key);
+    TextControl* Text() const { return dynamic_cast<TextControl*>(control_); }
+
+    Control* control_;
+    QPointer<QWidget> widget_;
+    QPointer<QLineEdit> editor_;
+    /// The click that brought the focus must not take away what the control's handler has selected.
+    bool keepSelection_ = false;
+};
+
+/// The code of a key press as KeyPress gets it; nothing for a key that gives no character.
+std::optional<KeyCode> CodeOf(const QKeyEvent& event);
+
+/// Puts the caret and the selection of the control into its widget, unless they are there.
+void PushSelection(const TextControl& control, QLineEdit& editor);
+
+}  // namespace vatro

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "qt/item_list.h"
+
+#include <QResizeEvent>
+
+#include "qt/text.h"
+
+namespace vatro {
+
+ItemModel::ItemModel(const ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(&list), rows_(list.ListCount()) {}
+
+int ItemModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
+
+QVariant ItemModel::data(const QModelIndex& index, int role) const {
+    // While the control is being refilled it may hold fewer rows than are shown.
+    if (role != Qt::DisplayRole || list_ == nullptr || index.row() >= list_->ListCount()) return {};
+    return ToQt(list_->Items()[static_cast<std::size_t>(index.row())]);
+}
+
+void ItemModel::Reset() {
+    beginResetModel();
+    rows_ = list_ != nullptr ? list_->ListCount() : 0;
+    endResetModel();
+}
+
+void ItemModel::Append() {
+    const int count = list_->ListCount();
+    if (count <= rows_) return;
+    beginInsertRows({}, rows_, count - 1);
+    rows_ = count;
+    endInsertRows();
+}
+
+void ItemModel::RowChanged(int row) {
+    Q_EMIT dataChanged(index(row), index(row), {Qt::DisplayRole});
+}
+
+void ItemModel::Release() {
+    list_ = nullptr;
+    Reset();
+}
+
+ItemList::ItemList(QWidget* parent) : QListView(parent) {
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setVerticalScrollMode(ScrollPerItem);
+    setTabKeyNavigation(false);
+    setTextElideMode(Qt::ElideNone);
+}
+
+void ItemList::SetColumns(int columns) {
+    columns_ = columns;
+    setAlternatingRowColors(columns == 0);
+    setWrapping(columns > 0);
+    setFlow(TopToBottom);
+    setResizeMode(columns > 0 ? Adjust : Fixed);
+    FitGrid();
+}
+
+int ItemList::ColumnLeft(int column) const {
+    // The style puts a text so far into its row.
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    const QFontMetricsF metrics(font());
+    return margin - horizontalOffset() + qRound(metrics.horizontalAdvance(QString(column - 1, u'0')));
+}
+
+QItemSelectionModel::SelectionFlags ItemList::selectionCommand(const QModelIndex& index, const QEvent* /*event*/) const {
+    // A row once selected is left only for another one, with whatever key held down.
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}
+
+void ItemList::focusInEvent(QFocusEvent* event) {
+    // The view's own handler would make the first row the current one.
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+void ItemList::resizeEvent(QResizeEvent* event) {
+    FitGrid();
+    QListView::resizeEvent(event);
+}
+
+void ItemList::changeEvent(QEvent* event) {
+    QListView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) FitGrid();
+}
+
+void ItemList::FitGrid() {
+    if (columns_ <= 0) return;
+    const QSize cell(qMax(1, viewport()->width() / columns_), fontMetrics().height() + 2);
+    if (gridSize() != cell) setGridSize(cell);
+}
+
+}  // namespace vatro

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "qt/services.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+namespace vatro {
+
+namespace {
+
+QString LockPath() {
+    QString directory = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (directory.isEmpty()) directory = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    QDir().mkpath(directory);
+    return directory + QStringLiteral("/vatro.lock");
+}
+
+}  // namespace
+
+QtInstance::QtInstance() : QtInstance(LockPath()) {}
+
+QtInstance::QtInstance(const QString& lockFile) : lock_(lockFile) {
+    // A log may be open for days: only a process that is gone loses its lock.
+    lock_.setStaleLockTime(0);
+}
+
+bool QtInstance::AnotherCopyRuns() {
+    if (lock_.isLocked() || lock_.tryLock(0)) return false;
+    // Without a place for the lock the program runs all the same.
+    return lock_.error() == QLockFile::LockFailedError;
+}
+
+void QtHelp::Show(std::string_view /*path*/) {}
+
+}  // namespace vatro

@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+#include "qt/window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QShortcut>
+#include <QVBoxLayout>
+#include <QScreen>
+#include <QWindow>
+#include <cmath>
+#include <set>
+
+#include "qt/bars.h"
+#include "qt/binder.h"
+#include "qt/column_head.h"
+#include "qt/deliver.h"
+#include "qt/front.h"
+#include "qt/input.h"
+#include "qt/layouts.h"
+#include "qt/text.h"
+
+namespace vatro {
+
+namespace {
+
+Qt::WindowFlags Flags(FormKind kind) {
+    switch (kind) {
+        case FormKind::Main:
+            return Qt::Window;
+        case FormKind::Tool:
+            return Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+        case FormKind::Dialog:
+            return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+        case FormKind::Splash:
+            return Qt::SplashScreen | Qt::FramelessWindowHint;
+    }
+    return Qt::Window;
+}
+
+}  // namespace
+
+int ToPixels(int twips) {
+    return static_cast<int>(std::lround(static_cast<double>(twips) / kTwipsPerPixel));
+}
+
+FormWindow::FormWindow(Form& form, QWidget* owner, QtFront& front) : form_(form), front_(front), scope_(std::make_unique<QObject>()) {
+    Build(owner);
+    BindForm(form, *this);
+    std::set<char> letters;
+    for (const Control* control : form.Controls()) letters.insert(control->AccessLetter());
+    letters.erase('\0');
+    for (const char letter : letters) {
+        auto* key = new QShortcut(QKeySequence(QStringLiteral("Alt+") + ToQt({&letter, 1})), top_);
+        const auto use = [this, letter] {
+            Deliver([&] {
+                if (form_.Reachable()) form_.UserAccessKey(letter);
+            });
+        };
+        connect(key, &QShortcut::activated, scope_.get(), use);
+        connect(key, &QShortcut::activatedAmbiguously, scope_.get(), use);
+    }
+    Follow();
+    top_->installEventFilter(this);
+}
+
+FormWindow::~FormWindow() {
+    for (const QPointer<Input>& input : inputs_)
+        if (input) input->Release();
+    scope_.reset();
+    if (!top_) return;
+    top_->removeEventFilter(this);
+    // Windows above this one are about to get another owner, or to go themselves.
+    for (QWidget* child : top_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (child->isWindow() && child->property("vatroForm").toBool()) child->setParent(nullptr, child->windowFlags());
+    top_->hide();
+    top_->deleteLater();
+}
+
+void FormWindow::Build(QWidget* owner) {
+    const QString name = ToQt(form_.Name());
+    auto* content = new QWidget;
+    const LayoutMaker make = FindLayout(form_.Name());
+    if (make != nullptr)
+        make(content);
+    else
+        AddProblem(name + QStringLiteral(" has no layout"));
+    if (form_.Kind() == FormKind::Main) {
+        auto* window = new QMainWindow(owner, Flags(form_.Kind()));
+        const QSize size = content->size();
+        window->setCentralWidget(content);
+        AddBars(form_, *window);
+        window->resize(size);
+        top_ = window;
+    } else {
+        content->setParent(owner, Flags(form_.Kind()));
+        top_ = content;
+    }
+    content->setObjectName(name);
+    top_->setProperty("vatroForm", true);
+    if (form_.Kind() == FormKind::Tool || form_.Kind() == FormKind::Splash) top_->setAttribute(Qt::WA_ShowWithoutActivating);
+    captionHead_ = top_->findChild<ColumnHead*>(QStringLiteral("FormCaption"));
+}
+
+void FormWindow::AddInput(Control& control, QWidget& widget, QLineEdit* editor) {
+    inputs_.emplace_back(new Input(control, widget, editor));
+}
+
+QWidget* FormWindow::WidgetOf(const Control& control) const {
+    const auto found = widgets_.find(&control);
+    return found == widgets_.end() ? nullptr : found->second.data();
+}
+
+void FormWindow::TakeDesignSize() {
+    if (form_.Width() != 0 || form_.Height() != 0) return;
+    const QSize size = top_->size();
+    form_.SetDesignSize(size.width() * kTwipsPerPixel, size.height() * kTwipsPerPixel);
+    place_ = {form_.Left(), form_.Top(), form_.Width(), form_.Height()};
+}
+
+void FormWindow::Follow() {
+    const QString caption = ToQt(form_.Caption());
+    if (top_->windowTitle() != caption) top_->setWindowTitle(caption);
+    if (captionHead_ != nullptr) captionHead_->SetCaption(caption);
+    if (top_->isEnabled() != form_.Enabled()) top_->setEnabled(form_.Enabled());
+    if (form_.Hourglass())
+        top_->setCursor(Qt::WaitCursor);
+    else if (top_->testAttribute(Qt::WA_SetCursor))
+        top_->unsetCursor();
+    FollowPlace();
+    FollowVisible();
+    FollowFocus();
+}
+
+void FormWindow::FollowPlace() {
+    const Place told{form_.Left(), form_.Top(), form_.Width(), form_.Height()};
+    if (told == place_) return;
+    const bool moved = told.left != place_.left || told.top != place_.top || place_.width == 0;
+    place_ = told;
+    if (placing_) return;
+    placing_ = true;
+    placed_ = placed_ || moved;
+    if (!top_->isMinimized()) {
+        const QPoint at(ToPixels(told.left), ToPixels(told.top));
+        if (moved) top_->move(at);
+        const QSize size(qMax(1, ToPixels(told.width)), qMax(1, ToPixels(told.height)));
+        if (top_->size() != size) top_->resize(size);
+    }
+    placing_ = false;
+    if (top_->isVisible()) TellPlace();
+}
+
+void FormWindow::FollowVisible() {
+    if (form_.Visible() == top_->isVisible()) return;
+    if (!form_.Visible()) {
+        top_->hide();
+        return;
+    }
+    top_->setWindowModality(form_.Modal() ? Qt::ApplicationModal : Qt::NonModal);
+    placing_ = true;
+    if (!placed_) PlaceInMiddle();
+    top_->show();
+    placing_ = false;
+    top_->windowHandle()->installEventFilter(this);
+    TellPlace();
+}
+
+void FormWindow::PlaceInMiddle() {
+    if (form_.Kind() == FormKind::Main) return;
+    const QWidget* owner = top_->parentWidget();
+    const QRect room = owner != nullptr && owner->isVisible() ? owner->frameGeometry() : top_->screen()->availableGeometry();
+    top_->move(room.center() - QRect(QPoint(), top_->size()).center());
+    placed_ = true;
+}
+
+void FormWindow::FollowFocus() {
+    const Control* active = form_.ActiveControl();
+    if (active == nullptr) return;
+    QWidget* widget = WidgetOf(*active);
+    if (widget == nullptr) return;
+    QWidget* const focused = top_->focusWidget();
+    if (!widget->isEnabled() || widget->isHidden()) {
+        // Keys have nowhere to go until the form moves the focus.
+        if (focused != nullptr) focused->clearFocus();
+    } else if (focused != widget) {
+        widget->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void FormWindow::TellPlace() {
+    if (placing_ || !top_->isVisible() || top_->isMinimized()) return;
+    const auto twips = [](int pixels, int told) { return ToPixels(told) == pixels ? told : pixels * kTwipsPerPixel; };
+    const Place now{twips(top_->pos().x(), form_.Left()), twips(top_->pos().y(), form_.Top()), twips(top_->width(), form_.Width()),
+                    twips(top_->height(), form_.Height())};
+    const Place told{form_.Left(), form_.Top(), form_.Width(), form_.Height()};
+    if (now == told) return;
+    place_ = now;
+    Deliver([&] { form_.UserPlaced(now.left, now.top, now.width, now.height); });
+}
+
+void FormWindow::TellState() {
+    const WindowState state = top_->isMinimized()   ? WindowState::Minimised
+                              : top_->isMaximized() ? WindowState::Maximised
+                                                    : WindowState::Normal;
+    Deliver([&] { form_.UserState(state); });
+}
+
+bool FormWindow::TakeKey(const QKeyEvent& event) {
+    // Only keys that no control has taken come here.
+    const std::optional<KeyCode> key = CodeOf(event);
+    if (!key || form_.ActiveControl() != nullptr) return false;
+    Deliver([&] {
+        if (!form_.Reachable()) return;
+        if ((*key == kEnter || *key == kEsc) && form_.UserDefaultKey(*key)) return;
+        form_.UserKey(*key);
+    });
+    return true;
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != top_) {
+        // The window itself sees keys and clicks before its widgets.
+        if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) front_.WindowUsed(form_);
+        return false;
+    }
+    switch (event->type()) {
+        case QEvent::Close:
+            event->ignore();
+            Deliver([&] {
+                if (form_.Reachable()) form_.UserClosed();
+            });
+            return true;
+        case QEvent::Move:
+        case QEvent::Resize:
+            TellPlace();
+            return false;
+        case QEvent::WindowStateChange:
+            TellState();
+            return false;
+        case QEvent::WindowActivate:
+            front_.WindowActivated(form_);
+            return false;
+        case QEvent::MouseButtonPress:
+            Deliver([&] {
+                if (form_.Reachable()) form_.UserClicked();
+            });
+            return true;
+        case QEvent::KeyPress:
+            return TakeKey(static_cast<QKeyEvent&>(*event));
+        default:
+            return false;
+    }
+}
+
+}  // namespace vatro

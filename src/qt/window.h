@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+//
+// The window of one form, made from its layout and, for a main form, from the form's own description of menu, toolbar
+// and status bar.
+//
+// 15 twips of the form are one pixel at 96 dpi; Qt scales. A number of the form that says the pixel on which the window
+// stands is left as it is, so that nothing drifts.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "platform/forms.h"
+
+class QWidget;
+
+namespace vatro {
+
+class Input;
+class QtFront;
+
+inline constexpr int kTwipsPerPixel = 15;
+int ToPixels(int twips);
+
+class FormWindow : public QObject {
+    Q_OBJECT
+
+public:
+    /// `owner` is the window above which this one stays.
+    FormWindow(Form& form, QWidget* owner, QtFront& front);
+    /// The window goes as soon as Qt lets it; nothing of it reaches the form any more.
+    ~FormWindow() override;
+
+    QWidget* Top() const { return top_; }
+    QWidget* WidgetOf(const Control& control) const;
+    /// Controls without exactly one widget, and widgets without a control.
+    const QStringList& Problems() const { return problems_; }
+
+    /// Takes over what the form says of its frame.
+    void Follow();
+    void FollowFocus();
+    /// The size of the layout becomes that of a form that has none yet.
+    void TakeDesignSize();
+
+    // Of the binder.
+
+    /// Connections and models of the controls; gone before the form is.
+    QObject& Scope() const { return *scope_; }
+    void Enter(const Control& control, QWidget& widget) { widgets_[&control] = &widget; }
+    void AddInput(Control& control, QWidget& widget, class QLineEdit* editor);
+    void AddProblem(const QString& problem) { problems_.append(problem); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void Build(QWidget* owner);
+    void FollowPlace();
+    void FollowVisible();
+    void PlaceInMiddle();
+    void TellPlace();
+    void TellState();
+    bool TakeKey(const class QKeyEvent& event);
+
+    Form& form_;
+    QtFront& front_;
+    QPointer<QWidget> top_;
+    std::unique_ptr<QObject> scope_;
+    std::map<const Control*, QPointer<QWidget>> widgets_;
+    std::vector<QPointer<Input>> inputs_;
+    QStringList problems_;
+    class ColumnHead* captionHead_ = nullptr;
+    /// The place as it was last taken over from the form.
+    struct Place {
+        int left = 0, top = 0, width = 0, height = 0;
+        friend bool operator==(const Place&, const Place&) = default;
+    } place_;
+    bool placing_ = false;
+    /// The form has said where it stands.
+    bool placed_ = false;
+};
+
+}  // namespace vatro

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+#include "replay/memory_front.h"
+
+#include "platform/program.h"
+#include "replay/memory_keys.h"
+#include "replay/words.h"
+#include "text/codepage.h"
+
+namespace vatro {
+
+namespace {
+
+/// The widths of a character and of a line in a font of the size 1.
+constexpr double kCharacterWidth = 0.6;
+constexpr double kLineHeight = 1.2;
+
+/// The entry of the active form's menus with this shortcut, or nothing.
+MenuItem* FindShortcut(const Form& form, const std::string& shortcut) {
+    for (Control* control : form.Controls()) {
+        auto* item = dynamic_cast<MenuItem*>(control);
+        if (item != nullptr && item->Shortcut() == shortcut) return item;
+    }
+    return nullptr;
+}
+
+/// A character alone is never a shortcut, with Shift neither.
+bool CanBeShortcut(const KeyStroke& key) {
+    return key.ctrl || key.alt || (key.name.size() > 1 && key.name[0] == 'F');
+}
+
+}  // namespace
+
+void MemoryFront::Press(const KeyStroke& key) {
+    Form* form = ActiveForm();
+    if (form == nullptr) throw CannotDeliver("no form is active");
+    Dispatch([&] {
+        if (menu_ != nullptr)
+            PressInMenu(key);
+        else
+            PressInForm(*form, key);
+    });
+}
+
+void MemoryFront::PressInMenu(const KeyStroke& key) {
+    MenuItem& menu = *menu_;
+    if (key.name == "Esc") {
+        menu_ = menu.Menu();
+        return;
+    }
+    if (!key.name.empty()) return;
+    for (MenuItem* entry : menu.Entries()) {
+        if (AccessKey(entry->Caption()) != Upper(key.character) || !entry->Visible()) continue;
+        if (!entry->Entries().empty()) {
+            if (entry->Enabled()) menu_ = entry;
+        } else {
+            menu_ = nullptr;
+            entry->Choose();
+        }
+        return;
+    }
+}
+
+bool MemoryFront::OpenMenu(const Form& form, char letter) {
+    for (Control* control : form.Controls()) {
+        auto* item = dynamic_cast<MenuItem*>(control);
+        if (item == nullptr || item->Menu() != nullptr || !item->Choosable() || AccessKey(item->Caption()) != letter) continue;
+        menu_ = item;
+        return true;
+    }
+    return false;
+}
+
+void MemoryFront::PressInForm(Form& form, const KeyStroke& key) {
+    if (key.alt && key.name.empty()) {
+        const char letter = Upper(key.character);
+        if (form.UserAccessKey(letter) || OpenMenu(form, letter)) return;
+    }
+    if (CanBeShortcut(key)) {
+        if (MenuItem* item = FindShortcut(form, ShortcutOf(key))) {
+            item->Choose();
+            return;
+        }
+    }
+    if (key.ctrl || key.alt) return;
+    if (key.name == "Tab") {
+        form.UserTab(key.shift);
+        return;
+    }
+    const KeyCode pressed = KeyCodeOf(key);
+    if ((pressed == kEnter || pressed == kEsc) && form.UserDefaultKey(pressed)) return;
+    // The key is the control's that had the focus when it was pressed, wherever KeyPress moves the focus.
+    Control* control = form.ActiveControl();
+    const KeyCode code = pressed == kNoKey ? kNoKey : form.UserKey(pressed);
+    if (control != nullptr && (pressed == kNoKey || code != kNoKey)) UseKey(*control, key, code);
+}
+
+void MemoryFront::Paste(std::string_view text) {
+    auto* field = dynamic_cast<TextControl*>(ActiveForm()->ActiveControl());
+    Dispatch([&] { field->Insert(text); });
+}
+
+void MemoryFront::Focus(Control& control) {
+    Dispatch([&] {
+        auto* field = dynamic_cast<TextControl*>(&control);
+        const auto caretToEnd = [&] {
+            if (field != nullptr) field->UserSelected(static_cast<int>(field->Text().size()), 0);
+        };
+        caretToEnd();
+        control.Parent().UserFocus(control);
+        // The handlers of the change of focus may have set another text; what they have selected stays.
+        if (field != nullptr && field->SelLength() == 0) caretToEnd();
+    });
+}
+
+void MemoryFront::Click(Control& control) {
+    Dispatch([&] {
+        Form& form = control.Parent();
+        form.UserActivated();
+        if (control.TakesFocus()) form.UserFocus(control);
+        // A handler of the change of focus may have taken the control away from under the mouse.
+        if (!form.Reachable() || !control.Enabled() || !control.Visible()) return;
+        if (auto* button = dynamic_cast<Button*>(&control))
+            button->Press();
+        else if (auto* box = dynamic_cast<CheckBox*>(&control))
+            box->Flip();
+        else if (control.Click)
+            control.Click();
+    });
+}
+
+void MemoryFront::ClickForm(Form& form) {
+    Dispatch([&] {
+        form.UserActivated();
+        form.UserClicked();
+    });
+}
+
+void MemoryFront::Pick(Control& control, int row) {
+    Dispatch([&] {
+        control.Parent().UserFocus(control);
+        if (!control.Enabled()) return;
+        if (auto* list = dynamic_cast<ListBox*>(&control))
+            list->UserSelected(row);
+        else if (auto* combo = dynamic_cast<ComboBox*>(&control))
+            if (row < combo->ListCount()) combo->UserPicked(row);
+    });
+}
+
+void MemoryFront::DoubleClick(ListBox& list, int row) {
+    Dispatch([&] {
+        list.Parent().UserFocus(list);
+        list.UserDoubleClicked(row);
+    });
+}
+
+void MemoryFront::Choose(MenuItem& item) {
+    menu_ = nullptr;
+    Dispatch([&] {
+        item.Parent().UserActivated();
+        item.Choose();
+    });
+}
+
+void MemoryFront::PressTool(Toolbar& toolbar, int index) {
+    Dispatch([&] {
+        toolbar.Parent().UserActivated();
+        toolbar.UserPressed(index);
+    });
+}
+
+void MemoryFront::Close(Form& form) {
+    Dispatch([&] { form.UserClosed(); });
+}
+
+void MemoryFront::Minimise(Form& form) {
+    Dispatch([&] { form.UserState(WindowState::Minimised); });
+}
+
+void MemoryFront::Restore(Form& form) {
+    Dispatch([&] {
+        form.UserState(WindowState::Normal);
+        form.UserActivated();
+    });
+}
+
+void MemoryFront::Place(Form& form, int left, int top, int width, int height) {
+    Dispatch([&] { form.UserPlaced(left, top, width, height); });
+}
+
+std::string MemoryFront::Mismatch(const Control& control) {
+    static_cast<void>(control);
+    return {};
+}
+
+std::string MemoryFront::Mismatch(const Form& form) {
+    static_cast<void>(form);
+    return {};
+}
+
+void MemoryFront::Created(Form& form) {
+    if (form.Kind() == FormKind::Main && form.Width() == 0) form.SetDesignSize(kMainWidth, kMainHeight);
+}
+
+void MemoryFront::Destroyed(Form& form) {
+    if (menu_ != nullptr && &menu_->Parent() == &form) menu_ = nullptr;
+}
+
+void MemoryFront::RunModal(Form& form) {
+    playUntil([&] { return !form.Visible(); });
+}
+
+double MemoryFront::TextWidth(std::string_view text, const Font& font) {
+    return kCharacterWidth * font.size * static_cast<double>(text.size());
+}
+
+double MemoryFront::TextHeight(const Font& font) {
+    return kLineHeight * font.size;
+}
+
+}  // namespace vatro

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+//
+// The front without windows: events go to the controls themselves, and there is nothing to mirror.
+//
+// What a window system does before a key reaches a control is done here: access keys, the menu, shortcuts, Tab and the
+// default buttons; and behind KeyPress the editing of the control, see memory_keys.h.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "replay/driver.h"
+
+namespace vatro {
+
+class MemoryFront : public Driver, private Front {
+public:
+    /// The size of the main form's room, whose window is as large as the screen lets it; in twips.
+    static constexpr int kMainWidth = 12000;
+    static constexpr int kMainHeight = 7500;
+
+    Front& ProgramFront() override { return *this; }
+
+    void Press(const KeyStroke& key) override;
+    void Paste(std::string_view text) override;
+    void Focus(Control& control) override;
+    void Click(Control& control) override;
+    void ClickForm(Form& form) override;
+    void Pick(Control& control, int row) override;
+    void DoubleClick(ListBox& list, int row) override;
+    void Choose(MenuItem& item) override;
+    void PressTool(Toolbar& toolbar, int index) override;
+    void Close(Form& form) override;
+    void Minimise(Form& form) override;
+    void Restore(Form& form) override;
+    void Place(Form& form, int left, int top, int width, int height) override;
+
+    void OpenBox(const MessageBox& box) override { static_cast<void>(box); }
+    void AnswerBox(Answer answer) override { static_cast<void>(answer); }
+    void DropBox() override {}
+
+    void Settle() override {}
+    std::string Mismatch(const Control& control) override;
+    std::string Mismatch(const Form& form) override;
+    void Shot(const std::string& file) override { static_cast<void>(file); }
+
+private:
+    void Created(Form& form) override;
+    void Destroyed(Form& form) override;
+    void Changed(Form& form) override { static_cast<void>(form); }
+    void Activated(Form& form) override { static_cast<void>(form); }
+    void RunModal(Form& form) override;
+    void Refresh(Form& form) override { static_cast<void>(form); }
+    void DoEvents() override {}
+    double TextWidth(std::string_view text, const Font& font) override;
+    double TextHeight(const Font& font) override;
+    void Ended() override { menu_ = nullptr; }
+
+    void PressInMenu(const KeyStroke& key);
+    bool OpenMenu(const Form& form, char letter);
+    void PressInForm(Form& form, const KeyStroke& key);
+
+    /// The menu that hangs open, or nothing.
+    MenuItem* menu_ = nullptr;
+};
+
+}  // namespace vatro

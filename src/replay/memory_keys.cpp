@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "replay/memory_keys.h"
+
+#include <algorithm>
+
+namespace vatro {
+
+namespace {
+
+/// Rows that PageUp and PageDown move by.
+constexpr int kPage = 10;
+
+/// Moves the caret, and with Shift the selection's end that lies on the side of the move.
+void MoveCaret(TextControl& field, const KeyStroke& key) {
+    const int size = static_cast<int>(field.Text().size());
+    const int start = field.SelStart();
+    const int end = start + field.SelLength();
+    const bool back = key.name == "Left" || key.name == "Home";
+    const bool far = key.name == "Home" || key.name == "End";
+    if (key.shift) {
+        if (back) {
+            const int to = far ? 0 : std::max(0, start - 1);
+            field.UserSelected(to, end - to);
+        } else {
+            const int to = far ? size : std::min(size, end + 1);
+            field.UserSelected(start, to - start);
+        }
+        return;
+    }
+    int to = 0;
+    if (far)
+        to = back ? 0 : size;
+    else if (field.SelLength() > 0)
+        to = back ? start : end;
+    else
+        to = std::clamp(start + (back ? -1 : 1), 0, size);
+    field.UserSelected(to, 0);
+}
+
+void UseInField(TextControl& field, const KeyStroke& key, KeyCode code) {
+    if (key.name == "Delete")
+        field.DeleteForward();
+    else if (key.name == "Left" || key.name == "Right" || key.name == "Home" || key.name == "End")
+        MoveCaret(field, key);
+    else if (code == kBackspace)
+        field.DeleteBack();
+    else if (code >= kSpace)
+        field.Insert(std::string(1, static_cast<char>(code)));
+}
+
+/// The row that a key leads to in a list of so many rows, or -1.
+int RowBehind(const KeyStroke& key, int row, int rows) {
+    if (rows == 0) return -1;
+    int to = row;
+    if (key.name == "Up")
+        to = row - 1;
+    else if (key.name == "Down")
+        to = row + 1;
+    else if (key.name == "PageUp")
+        to = row - kPage;
+    else if (key.name == "PageDown")
+        to = row + kPage;
+    else if (key.name == "Home")
+        to = 0;
+    else if (key.name == "End")
+        to = rows - 1;
+    else
+        return -1;
+    return std::clamp(to, 0, rows - 1);
+}
+
+}  // namespace
+
+KeyCode KeyCodeOf(const KeyStroke& key) {
+    if (key.ctrl || key.alt) return kNoKey;
+    if (key.name.empty()) return static_cast<unsigned char>(key.character);
+    if (key.name == "Enter") return kEnter;
+    if (key.name == "Esc") return kEsc;
+    if (key.name == "Space") return kSpace;
+    if (key.name == "Backspace") return kBackspace;
+    return kNoKey;
+}
+
+void UseKey(Control& control, const KeyStroke& key, KeyCode code) {
+    if (key.ctrl || key.alt || !control.Enabled()) return;
+    if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
+        if (key.name == "Up" || key.name == "Down") {
+            const int row = RowBehind(key, combo->ListIndex(), combo->ListCount());
+            if (row >= 0 && row != combo->ListIndex()) combo->UserPicked(row);
+            return;
+        }
+    }
+    if (auto* field = dynamic_cast<TextControl*>(&control)) {
+        UseInField(*field, key, code);
+    } else if (auto* list = dynamic_cast<ListBox*>(&control)) {
+        const int row = RowBehind(key, list->ListIndex(), list->ListCount());
+        if (row >= 0) list->UserSelected(row);
+    } else if (auto* button = dynamic_cast<Button*>(&control)) {
+        if (code == kEnter || code == kSpace) button->Press();
+    } else if (auto* box = dynamic_cast<CheckBox*>(&control)) {
+        if (code == kSpace) box->Flip();
+    }
+}
+
+}  // namespace vatro

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+//
+// Plays one scenario: its commands in their order as events of a driver, with the output lines as they come.
+//
+// One thread. A message box, modal form or dialogue that a handler opens plays the following commands inside the
+// handler until one of them closes it; what the handler's remaining steps put out belongs to that command. Whatever of
+// a command is left when a box opens (characters to type, time to pass) comes first there, because it is the handler
+// that is held up, not the scenario.
+//
+// An error ends the program as kill does and leaves every open box on the way out, so that no exception of the player
+// passes a frame that is not its own.
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "disk/disk_files.h"
+#include "disk/fault.h"
+#include "platform/platform.h"
+#include "replay/driver.h"
+#include "replay/scenario.h"
+#include "replay/scene_clock.h"
+#include "replay/settings_store.h"
+#include "replay/world.h"
+
+namespace vatro {
+
+class Player : private Dialogs, private Help, private Instance {
+public:
+    /// All must outlive the player. `startProgram` is the program's start procedure.
+    Player(const Scenario& scenario, const World& world, Driver& driver, std::function<void()> startProgram);
+    ~Player() override;
+
+    /// Plays all of it, once. Fails with ScenarioError at the command that cannot be played.
+    void Play();
+    /// The output lines of each command.
+    const std::vector<Output>& Outputs() const { return outputs_; }
+
+private:
+    /// What waits for the scenario to close it.
+    struct Open {
+        enum class Kind { Box, FileDialog };
+        Kind kind;
+        Buttons buttons = Buttons::Ok;
+        bool closed = false;
+        Answer answer = Answer::Ok;
+        /// Nothing for Cancel.
+        std::optional<std::string> path = std::nullopt;
+    };
+
+    struct Verb;
+    static const Verb* FindVerb(const std::string& name);
+
+    // Dialogs, Help, Instance.
+    Answer Show(const MessageBox& box) override;
+    std::string SaveFile(const FileDialog& dialog) override;
+    std::string OpenFile(const FileDialog& dialog) override;
+    void ShowFailure(const RunTimeError& failure) override;
+    void Show(std::string_view path) override;
+    bool AnotherCopyRuns() override { return anotherCopy_; }
+
+    void PlayUntil(const std::function<bool()>& done);
+    void PlayStep();
+    void PlayCommand(const Command& command);
+    void CheckAllowed(const Verb& verb) const;
+    void Press(const KeyStroke& key);
+    void PassTime();
+    void NoteEnd();
+    void EndSilently();
+    std::string WaitFor(const std::string& line);
+    void Print(const std::string& line) { outputs_[current_].push_back(line); }
+    void Print(const Output& lines);
+
+    // The commands, by their words.
+    void DoClock(const Command& command);
+    void DoAdvance(const Command& command);
+    void DoSetting(const Command& command);
+    void DoFile(const Command& command);
+    void DoRemove(const Command& command);
+    void DoFail(const Command& command);
+    void DoAnotherCopy(const Command& command);
+    void DoSoundCard(const Command& command);
+    void DoStart(const Command& command);
+    void DoKill(const Command& command);
+    void DoType(const Command& command);
+    void DoKey(const Command& command);
+    void DoPaste(const Command& command);
+    void DoFocus(const Command& command);
+    void DoClick(const Command& command);
+    void DoPick(const Command& command);
+    void DoDoubleClick(const Command& command);
+    void DoNotYet(const Command& command);
+    void DoMenu(const Command& command);
+    void DoToolbar(const Command& command);
+    void DoClose(const Command& command);
+    void DoMinimise(const Command& command);
+    void DoRestore(const Command& command);
+    void DoPlace(const Command& command);
+    void DoAnswer(const Command& command);
+    void DoDialog(const Command& command);
+    void DoShow(const Command& command);
+    void DoCat(const Command& command);
+    void DoList(const Command& command);
+    void DoPages(const Command& command);
+    void DoSound(const Command& command);
+    void DoShot(const Command& command);
+
+    const Scenario& scenario_;
+    const World& world_;
+    Driver& driver_;
+    std::function<void()> startProgram_;
+    SettingsStore settings_;
+    SceneClock clock_;
+    /// The sources of events in time; of equal moments the one that stands first comes first.
+    std::vector<DueEvents*> dueEvents_{&clock_};
+    DiskFiles disk_;
+    FaultyFiles files_;
+    bool anotherCopy_ = false;
+    bool soundCard_ = true;
+
+    std::vector<Output> outputs_;
+    std::size_t next_ = 0;
+    std::size_t current_ = 0;
+    /// Of the current command, what is still to be pressed, and until when time passes.
+    std::deque<KeyStroke> keys_;
+    std::optional<Moment> until_;
+    /// The one in front last.
+    std::vector<Open*> open_;
+    /// A run has begun whose end has not been noted.
+    bool started_ = false;
+    /// The run has ended by kill, a failure or with the scenario, which is not told as an end.
+    bool silentEnd_ = false;
+    std::optional<ScenarioError> error_;
+};
+
+}  // namespace vatro

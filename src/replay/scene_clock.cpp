@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "replay/scene_clock.h"
+
+#include <algorithm>
+
+#include "platform/controls.h"
+#include "platform/program.h"
+
+namespace vatro {
+
+DateTime SceneClock::Now() {
+    return AddMilliseconds(origin_, passed_);
+}
+
+double SceneClock::SecondsSinceMidnight() {
+    const DateTime now = Now();
+    return now.hour * 3600 + now.minute * 60 + now.second + now.millisecond / 1000.0;
+}
+
+void SceneClock::Set(const DateTime& now) {
+    origin_ = AddMilliseconds(now, -passed_);
+}
+
+void SceneClock::MoveTo(Moment moment) {
+    passed_ = std::max(passed_, moment);
+}
+
+void SceneClock::Schedule(Timer& timer) {
+    std::erase_if(waiting_, [&](const Waiting& waiting) { return waiting.timer == &timer; });
+    if (timer.Running()) waiting_.push_back({&timer, passed_ + timer.Interval()});
+}
+
+std::vector<SceneClock::Waiting>::const_iterator SceneClock::Next() const {
+    return std::min_element(waiting_.begin(), waiting_.end(), [](const Waiting& a, const Waiting& b) { return a.due < b.due; });
+}
+
+std::optional<Moment> SceneClock::NextDue() const {
+    const auto next = Next();
+    if (next == waiting_.end()) return std::nullopt;
+    return next->due;
+}
+
+void SceneClock::DeliverNext() {
+    const auto next = Next();
+    if (next == waiting_.end()) return;
+    Timer& timer = *next->timer;
+    // The countdown begins anew before the handler runs, which may change it.
+    Schedule(timer);
+    Dispatch([&] { timer.Tick(); });
+}
+
+}  // namespace vatro

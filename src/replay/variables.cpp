@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "replay/variables.h"
+
+#include <array>
+#include <cstdint>
+#include <variant>
+
+#include "country/lookup.h"
+#include "country/tables.h"
+#include "entry/clock.h"
+#include "entry/operators.h"
+#include "exchange/backup.h"
+#include "frame/band_mode.h"
+#include "frame/station.h"
+#include "logbook/dupe.h"
+#include "logbook/log_file.h"
+#include "replay/scenario.h"
+#include "scoring/edr.h"
+#include "scoring/points.h"
+#include "text/codepage.h"
+
+namespace vatro {
+
+namespace {
+
+struct Variable {
+    std::string_view name;
+    std::variant<const std::string*, const FixedText<6>*, const bool*, const std::int16_t*, const std::int32_t*> value;
+};
+
+const std::array kVariables{
+    Variable{"gsBand", &gsBand},         Variable{"gsMode", &gsMode},
+    Variable{"gsQsoMode", &gsQsoMode},   Variable{"gsLogLib", &gsLogLib},
+    Variable{"gsFDLib", &gsFDLib},       Variable{"gsBackupLib", &gsBackupLib},
+    Variable{"gsUTC", &gsUTC},           Variable{"gbAutoTid", &gbAutoTid},
+    Variable{"gbVisLand", &gbVisLand},   Variable{"gbVisInfo", &gbVisInfo},
+    Variable{"gsMyCall", &gsMyCall},     Variable{"gsKlasse", &gsKlasse},
+    Variable{"gsTelefon", &gsTelefon},   Variable{"gsOperatør"_t, &gsOperatør},
+    Variable{"gsCall", &gsCall},         Variable{"gbDupe", &gbDupe},
+    Variable{"giQSOPoint", &giQSOPoint}, Variable{"giQSOnr", &giQSOnr},
+    Variable{"glPoint", &glPoint},       Variable{"giMult", &giMult},
+    Variable{"giLande", &giLande},       Variable{"giRefPfx", &giRefPfx},
+    Variable{"giEDR", &giEDR},
+};
+
+struct Shown {
+    std::string operator()(const std::string* text) const { return Quoted(*text); }
+    std::string operator()(const FixedText<6>* text) const { return Quoted(text->Padded()); }
+    std::string operator()(const bool* flag) const { return *flag ? "true" : "false"; }
+    std::string operator()(const std::int16_t* number) const { return std::to_string(*number); }
+    std::string operator()(const std::int32_t* number) const { return std::to_string(*number); }
+};
+
+}  // namespace
+
+std::optional<std::string> VariableValue(std::string_view name) {
+    for (const Variable& variable : kVariables)
+        if (variable.name == name) return std::visit(Shown{}, variable.value);
+    return std::nullopt;
+}
+
+}  // namespace vatro

@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: MIT
+#include "text/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <system_error>
+
+#include "text/errors.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+constexpr bool IsSign(char c) {
+    return c == '+' || c == '-';
+}
+constexpr bool IsExponentMark(char c) {
+    return c == 'e' || c == 'E' || c == 'd' || c == 'D';
+}
+constexpr bool IsBlank(char c) {
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+/// Whether an unsigned number that no double can hold is too large, rather than too close to 0.
+bool IsTooLarge(std::string_view number) {
+    long long places = 0;
+    bool pointSeen = false;
+    bool figureSeen = false;
+    for (std::size_t i = 0; i < number.size() && number[i] != 'e'; ++i) {
+        if (number[i] == '.') {
+            pointSeen = true;
+            continue;
+        }
+        if (number[i] != '0') figureSeen = true;
+        if (figureSeen && !pointSeen) ++places;
+        if (!figureSeen && pointSeen) --places;
+    }
+    const std::size_t mark = number.find('e');
+    if (mark == std::string_view::npos) return places > 0;
+    std::string_view exponent = number.substr(mark + 1);
+    if (exponent.starts_with('+')) exponent.remove_prefix(1);
+    long long shift = 0;
+    const auto read = std::from_chars(exponent.data(), exponent.data() + exponent.size(), shift);
+    if (read.ec == std::errc::result_out_of_range) return !exponent.starts_with('-');
+    return shift > -places;
+}
+
+/// The value of the number at the front of a text of digits, ".", "e" and signs, which begins with a digit or ".";
+/// 0 if there is none.
+double UnsignedValue(std::string_view number) {
+    double value = 0;
+    const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (read.ec == std::errc::result_out_of_range) return IsTooLarge(number) ? std::numeric_limits<double>::infinity() : 0.0;
+    return read.ec == std::errc{} ? value : 0.0;
+}
+
+/// The number that the text is as a whole, or nothing.
+std::optional<double> WholeNumber(std::string_view text) {
+    std::size_t i = 0;
+    const auto skipBlanks = [&] {
+        while (i < text.size() && IsBlank(text[i])) ++i;
+    };
+    const auto takeDigits = [&](std::string& number) {
+        const std::size_t from = i;
+        while (i < text.size() && IsDigit(text[i])) number += text[i++];
+        return i - from;
+    };
+
+    skipBlanks();
+    char sign = 0;
+    if (i < text.size() && IsSign(text[i])) {
+        sign = text[i++];
+        skipBlanks();
+    }
+    std::string number;
+    std::size_t digits = takeDigits(number);
+    if (i < text.size() && text[i] == '.') {
+        number += text[i++];
+        digits += takeDigits(number);
+    }
+    if (digits == 0) return std::nullopt;
+    if (i < text.size() && IsExponentMark(text[i])) {
+        ++i;
+        number += 'e';
+        if (i < text.size() && IsSign(text[i])) number += text[i++];
+        if (takeDigits(number) == 0) return std::nullopt;
+    }
+    skipBlanks();
+    if (sign == 0 && i < text.size() && IsSign(text[i])) {
+        sign = text[i++];
+        skipBlanks();
+    }
+    if (i < text.size()) return std::nullopt;
+
+    const double value = UnsignedValue(number);
+    if (std::isinf(value)) return std::nullopt;
+    return sign == '-' ? -value : value;
+}
+
+template <class Integer>
+Integer Rounded(double value) {
+    const double below = std::floor(value);
+    const double part = value - below;
+    const bool up = part > 0.5 || (part == 0.5 && std::fmod(below, 2.0) != 0);
+    const double rounded = up ? below + 1 : below;
+    // Written so that what is no number fails, too.
+    if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
+        throw RunTimeError(Failure::Overflow);
+    return static_cast<Integer>(rounded);
+}
+
+}  // namespace
+
+double NumericValue(std::string_view text) {
+    std::string number;
+    bool negative = false;
+    bool signTaken = false;
+    for (const char c : text) {
+        if (IsBlank(c)) continue;
+        if (number.empty() && !signTaken && IsSign(c)) {
+            negative = c == '-';
+            signTaken = true;
+        } else if (IsDigit(c) || c == '.') {
+            number += c;
+        } else if (IsExponentMark(c) && !number.empty()) {
+            number += 'e';
+        } else if (IsSign(c) && number.ends_with('e')) {
+            number += c;
+        } else {
+            break;
+        }
+    }
+    if (number.empty()) return 0;
+    const double value = UnsignedValue(number);
+    return negative && value != 0 ? -value : value;
+}
+
+bool IsNumeric(std::string_view text) {
+    return WholeNumber(text).has_value();
+}
+
+double ToNumber(std::string_view text) {
+    const auto value = WholeNumber(text);
+    if (!value) throw RunTimeError(Failure::TypeMismatch);
+    return *value;
+}
+
+std::int16_t ToInt16(double value) {
+    return Rounded<std::int16_t>(value);
+}
+
+std::int32_t ToInt32(double value) {
+    return Rounded<std::int32_t>(value);
+}
+
+std::string PlainNumber(long long value) {
+    std::array<char, 24> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    return {digits.data(), end};
+}
+
+std::string ZeroPadded(double value, int digits) {
+    if (!std::isfinite(value)) throw RunTimeError(Failure::Overflow);
+    const double rounded = std::round(value);
+    // The largest double has 309 digits.
+    std::array<char, 320> figures;
+    const auto end = std::to_chars(figures.data(), figures.data() + figures.size(), std::fabs(rounded), std::chars_format::fixed, 0).ptr;
+    const auto count = static_cast<std::size_t>(end - figures.data());
+    const auto wanted = static_cast<std::size_t>(std::max(digits, 0));
+    std::string text;
+    if (rounded < 0) text += '-';
+    if (count < wanted) text.append(wanted - count, '0');
+    text.append(figures.data(), count);
+    return text;
+}
+
+std::string ZeroPadded(std::string_view text, int digits) {
+    const auto value = WholeNumber(text);
+    return value ? ZeroPadded(*value, digits) : std::string(text);
+}
+
+std::string InTemplate(std::string_view placeholders, long long value) {
+    std::string number = PlainNumber(value);
+    if (value >= 0) number.insert(0, 1, ' ');
+    const auto places = static_cast<std::size_t>(std::count(placeholders.begin(), placeholders.end(), '@'));
+    if (number.size() < places) number.insert(0, places - number.size(), ' ');
+    // What has no place goes in front of the first one; without any place all of it stands at the end.
+    std::size_t extra = number.size() - places;
+    std::size_t next = 0;
+    std::string text;
+    text.reserve(placeholders.size() + extra);
+    for (const char c : placeholders) {
+        if (c != '@') {
+            text += c;
+            continue;
+        }
+        text.append(number, next, extra + 1);
+        next += extra + 1;
+        extra = 0;
+    }
+    text.append(number, next);
+    return text;
+}
+
+}  // namespace vatro

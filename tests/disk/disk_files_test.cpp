@@ -1,0 +1,373 @@
+// SPDX-License-Identifier: MIT
+#include "disk/disk_files.h"
+
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <csignal>
+
+#ifdef __linux__
+#include <sys/mount.h>
+#endif
+
+#include "disk/temporary_world.h"
+
+namespace vatro {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class DiskFilesTest : public TemporaryWorld {
+protected:
+    int OpenFails(int number, std::string_view path, FileMode mode) {
+        return NumberOf([&] { files_.Open(number, path, mode); });
+    }
+
+    DiskFiles files_;
+};
+
+TEST_F(DiskFilesTest, PrintLineWritesCrLfAndPrintTheTextAlone) {
+    files_.Open(1, At("a.txt"), FileMode::Output);
+    files_.Print(1, "a");
+    files_.PrintLine(1, "b");
+    files_.PrintLine(1, "");
+    files_.PrintLine(1, "Ø"_t);
+    files_.Close(1);
+    EXPECT_EQ(Content("a.txt"), "ab\r\n\r\n\xD8\r\n");
+}
+
+TEST_F(DiskFilesTest, OutputReplacesAndAppendGoesOn) {
+    Put("a.txt", "a longer content than the new one");
+    WriteFile(files_, At("a.txt"), FileMode::Output, "one");
+    WriteFile(files_, At("a.txt"), FileMode::Append, "two");
+    EXPECT_EQ(Content("a.txt"), "one\r\ntwo\r\n");
+    WriteFile(files_, At("new.txt"), FileMode::Append, "one");
+    EXPECT_EQ(Content("new.txt"), "one\r\n");
+}
+
+TEST_F(DiskFilesTest, AnOutputWithoutALineIsAnEmptyFile) {
+    Put("a.txt", "old");
+    files_.Open(1, At("a.txt"), FileMode::Output);
+    files_.Close(1);
+    EXPECT_EQ(Content("a.txt"), "");
+}
+
+TEST_F(DiskFilesTest, BothNumbersWorkSideBySide) {
+    Put("a.txt", "one\r\ntwo\r\n");
+    files_.Open(1, At("a.txt"), FileMode::Input);
+    files_.Open(2, At("b.txt"), FileMode::Output);
+    while (!files_.EndOfFile(1)) files_.PrintLine(2, files_.LineInput(1));
+    files_.Close(1);
+    files_.Close(2);
+    EXPECT_EQ(Content("b.txt"), "one\r\ntwo\r\n");
+}
+
+TEST_F(DiskFilesTest, WhatIsLeftOpenIsWrittenAtTheEnd) {
+    {
+        DiskFiles files;
+        files.Open(1, At("a.txt"), FileMode::Output);
+        files.PrintLine(1, "a");
+    }
+    EXPECT_EQ(Content("a.txt"), "a\r\n");
+}
+
+TEST_F(DiskFilesTest, OnlyNumbers1And2AreFileNumbers) {
+    for (const int number : {0, 3, -1}) {
+        EXPECT_EQ(OpenFails(number, At("a.txt"), FileMode::Output), 52);
+        EXPECT_EQ(NumberOf([&] { files_.LineInput(number); }), 52);
+        EXPECT_EQ(NumberOf([&] { files_.EndOfFile(number); }), 52);
+        EXPECT_EQ(NumberOf([&] { files_.Print(number, ""); }), 52);
+        EXPECT_EQ(NumberOf([&] { files_.Close(number); }), 0);
+    }
+    EXPECT_THAT(Names(), IsEmpty());
+}
+
+TEST_F(DiskFilesTest, ANumberThatIsNotOpenIsABadNumber) {
+    EXPECT_EQ(NumberOf([&] { files_.LineInput(1); }), 52);
+    EXPECT_EQ(NumberOf([&] { files_.EndOfFile(1); }), 52);
+    EXPECT_EQ(NumberOf([&] { files_.Print(1, ""); }), 52);
+    EXPECT_EQ(NumberOf([&] { files_.PrintLine(1, ""); }), 52);
+    EXPECT_EQ(NumberOf([&] { files_.Close(1); }), 0);
+}
+
+TEST_F(DiskFilesTest, ReadingAndWritingNeedTheirMode) {
+    Put("a.txt", "a\r\n");
+    files_.Open(1, At("a.txt"), FileMode::Input);
+    EXPECT_EQ(NumberOf([&] { files_.Print(1, "x"); }), 54);
+    EXPECT_EQ(NumberOf([&] { files_.PrintLine(1, "x"); }), 54);
+    files_.Open(2, At("b.txt"), FileMode::Output);
+    EXPECT_EQ(NumberOf([&] { files_.LineInput(2); }), 54);
+    EXPECT_TRUE(files_.EndOfFile(2));
+    files_.Close(1);
+    EXPECT_EQ(Content("a.txt"), "a\r\n");
+}
+
+TEST_F(DiskFilesTest, ANumberInUseIsNotGivenAgain) {
+    Put("a.txt", "a\r\n");
+    files_.Open(1, At("a.txt"), FileMode::Input);
+    EXPECT_EQ(OpenFails(1, At("b.txt"), FileMode::Output), 55);
+    EXPECT_THAT(Names(), ElementsAre("a.txt"));
+    EXPECT_EQ(files_.LineInput(1), "a");
+}
+
+TEST_F(DiskFilesTest, AFileIsOpenTwiceOnlyForReading) {
+    Put("a.txt", "a\r\n");
+    files_.Open(1, At("a.txt"), FileMode::Input);
+    EXPECT_EQ(OpenFails(2, At("A.TXT"), FileMode::Output), 55);
+    EXPECT_EQ(OpenFails(2, At("a.txt"), FileMode::Append), 55);
+    EXPECT_EQ(OpenFails(2, At("a.txt"), FileMode::Input), 0);
+    files_.Close(1);
+    files_.Close(2);
+    files_.Open(1, At("a.txt"), FileMode::Append);
+    EXPECT_EQ(OpenFails(2, At("a.txt"), FileMode::Append), 55);
+    EXPECT_EQ(OpenFails(2, At("a.txt"), FileMode::Input), 55);
+    files_.Close(1);
+    EXPECT_EQ(OpenFails(2, At("a.txt"), FileMode::Append), 0);
+    files_.Close(2);
+    EXPECT_EQ(Content("a.txt"), "a\r\n");
+}
+
+TEST_F(DiskFilesTest, AMissingFileIsToldFromAMissingDirectory) {
+    EXPECT_EQ(OpenFails(1, At("a.txt"), FileMode::Input), 53);
+    for (const FileMode mode : {FileMode::Input, FileMode::Output, FileMode::Append}) {
+        EXPECT_EQ(OpenFails(1, At("gone/a.txt"), mode), 76);
+        EXPECT_EQ(OpenFails(1, At("gone/deep/a.txt"), mode), 76);
+    }
+    EXPECT_EQ(NumberOf([&] { files_.Delete(At("a.txt")); }), 53);
+    EXPECT_EQ(NumberOf([&] { files_.Delete(At("gone/a.txt")); }), 76);
+    EXPECT_THAT(Names(), IsEmpty());
+}
+
+TEST_F(DiskFilesTest, ADirectoryThatGoesAwayIsToldAtTheNextAppend) {
+    std::filesystem::create_directory(root_ / "log");
+    WriteFile(files_, At("log/a.txt"), FileMode::Append, "a");
+    std::filesystem::remove_all(root_ / "log");
+    EXPECT_EQ(OpenFails(1, At("log/a.txt"), FileMode::Append), 76);
+    std::filesystem::create_directory(root_ / "log");
+    EXPECT_EQ(OpenFails(1, At("log/a.txt"), FileMode::Append), 0);
+}
+
+TEST_F(DiskFilesTest, AFileIsNoDirectoryAndADirectoryNoFile) {
+    Put("a.txt", "");
+    std::filesystem::create_directory(root_ / "log");
+    EXPECT_EQ(OpenFails(1, At("a.txt/b.txt"), FileMode::Input), 76);
+    EXPECT_EQ(OpenFails(1, At("a.txt/b.txt"), FileMode::Append), 76);
+    for (const FileMode mode : {FileMode::Input, FileMode::Output, FileMode::Append}) EXPECT_EQ(OpenFails(1, At("log"), mode), 75);
+    EXPECT_EQ(NumberOf([&] { files_.Delete(At("log")); }), 75);
+    EXPECT_EQ(NumberOf([&] { files_.Copy(At("log"), At("b.txt")); }), 75);
+    EXPECT_EQ(NumberOf([&] { files_.Copy(At("a.txt"), At("log")); }), 75);
+    EXPECT_THAT(Names(), ElementsAre("a.txt", "log"));
+}
+
+TEST_F(DiskFilesTest, APathThatIsNoneIsABadName) {
+    using namespace std::string_literals;
+    EXPECT_EQ(OpenFails(1, "", FileMode::Input), 52);
+    EXPECT_EQ(OpenFails(1, At("a\0b"s), FileMode::Output), 52);
+    EXPECT_EQ(NumberOf([&] { files_.Delete(""); }), 52);
+    EXPECT_EQ(NumberOf([&] { files_.Rename("", At("b")); }), 52);
+    EXPECT_EQ(NumberOf([&] { files_.Copy("", At("b")); }), 52);
+    EXPECT_THAT(Names(), IsEmpty());
+}
+
+TEST_F(DiskFilesTest, DeleteTakesTheFileHoweverItIsSpelled) {
+    Put("FDkopi.txt", "");
+    Put("b.txt", "");
+    files_.Delete(At("fdKOPI.txt"));
+    EXPECT_THAT(Names(), ElementsAre("b.txt"));
+}
+
+TEST_F(DiskFilesTest, RenameMovesTheFile) {
+    std::filesystem::create_directory(root_ / "log");
+    Put("FDkopi.txt", "a");
+    files_.Rename(At("fdkopi.txt"), At("FD10mCW.txt"));
+    EXPECT_THAT(Names(), ElementsAre("FD10mCW.txt", "log"));
+    files_.Rename(At("FD10mCW.txt"), At("LOG\\b.txt"));
+    EXPECT_EQ(Content("log/b.txt"), "a");
+    EXPECT_THAT(Names(), ElementsAre("log"));
+}
+
+TEST_F(DiskFilesTest, RenameNeverReplacesAFile) {
+    Put("a.txt", "a");
+    Put("b.txt", "b");
+    EXPECT_EQ(NumberOf([&] { files_.Rename(At("a.txt"), At("b.txt")); }), 58);
+    EXPECT_EQ(NumberOf([&] { files_.Rename(At("a.txt"), At("B.TXT")); }), 58);
+    EXPECT_EQ(NumberOf([&] { files_.Rename(At("a.txt"), At("a.txt")); }), 58);
+    EXPECT_EQ(Content("a.txt"), "a");
+    EXPECT_EQ(Content("b.txt"), "b");
+}
+
+TEST_F(DiskFilesTest, RenameMayChangeTheSpelling) {
+    Put("a.txt", "a");
+    files_.Rename(At("a.txt"), At("A.TXT"));
+    EXPECT_THAT(Names(), ElementsAre("A.TXT"));
+}
+
+TEST_F(DiskFilesTest, RenameNeedsItsSourceAndItsDirectories) {
+    Put("a.txt", "a");
+    EXPECT_EQ(NumberOf([&] { files_.Rename(At("b.txt"), At("gone/b.txt")); }), 53);
+    EXPECT_EQ(NumberOf([&] { files_.Rename(At("gone/b.txt"), At("b.txt")); }), 76);
+    EXPECT_EQ(NumberOf([&] { files_.Rename(At("a.txt"), At("gone/a.txt")); }), 76);
+    EXPECT_THAT(Names(), ElementsAre("a.txt"));
+}
+
+TEST_F(DiskFilesTest, CopyReplacesItsTarget) {
+    std::string content(200'000, 'x');
+    content += '\0';
+    Put("a.txt", content);
+    Put("B.txt", std::string(300'000, 'y'));
+    files_.Copy(At("A.txt"), At("b.TXT"));
+    EXPECT_EQ(Content("B.txt"), content);
+    EXPECT_EQ(Content("a.txt"), content);
+    EXPECT_THAT(Names(), ElementsAre("B.txt", "a.txt"));
+    Put("empty.txt", "");
+    files_.Copy(At("empty.txt"), At("c.txt"));
+    EXPECT_EQ(Content("c.txt"), "");
+}
+
+TEST_F(DiskFilesTest, CopyTellsTheMissingSourceBeforeTheMissingTarget) {
+    Put("a.txt", "a");
+    EXPECT_EQ(NumberOf([&] { files_.Copy(At("b.txt"), At("c.txt")); }), 53);
+    EXPECT_EQ(NumberOf([&] { files_.Copy(At("b.txt"), At("gone/c.txt")); }), 53);
+    EXPECT_EQ(NumberOf([&] { files_.Copy(At("gone/b.txt"), At("gone/c.txt")); }), 53);
+    EXPECT_EQ(NumberOf([&] { files_.Copy(At("a.txt"), At("gone/c.txt")); }), 76);
+    EXPECT_THAT(Names(), ElementsAre("a.txt"));
+}
+
+TEST_F(DiskFilesTest, CopyLeavesAFileThatIsInUseAlone) {
+    Put("a.txt", "a");
+    EXPECT_EQ(NumberOf([&] { files_.Copy(At("a.txt"), At("A.txt")); }), 70);
+    Put("b.txt", "b\r\n");
+    files_.Open(1, At("b.txt"), FileMode::Input);
+    EXPECT_EQ(NumberOf([&] { files_.Copy(At("a.txt"), At("b.txt")); }), 55);
+    EXPECT_EQ(Content("a.txt"), "a");
+    EXPECT_EQ(Content("b.txt"), "b\r\n");
+}
+
+TEST_F(DiskFilesTest, NothingIsWrittenToAProtectedDirectory) {
+    if (geteuid() == 0) GTEST_SKIP() << "nothing is protected from root";
+    Put("a.txt", "a");
+    std::filesystem::permissions(root_, std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    EXPECT_EQ(OpenFails(1, At("b.txt"), FileMode::Output), 70);
+    EXPECT_EQ(OpenFails(1, At("b.txt"), FileMode::Append), 70);
+    EXPECT_EQ(NumberOf([&] { files_.Delete(At("a.txt")); }), 70);
+    EXPECT_EQ(NumberOf([&] { files_.Rename(At("a.txt"), At("b.txt")); }), 70);
+    EXPECT_EQ(NumberOf([&] { files_.Copy(At("a.txt"), At("b.txt")); }), 70);
+    EXPECT_THAT(Names(), ElementsAre("a.txt"));
+}
+
+/// Files may not grow beyond a size while this lives.
+class SizeLimit {
+public:
+    explicit SizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        rlimit limit = before_;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~SizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+private:
+    void (*handler_)(int);
+    rlimit before_{};
+};
+
+TEST_F(DiskFilesTest, AFailedAppendLeavesNoHalfALine) {
+    const std::string before(5000, 'x');
+    Put("a.txt", before);
+    int number = 0;
+    int again = 0;
+    {
+        const SizeLimit limit(5040);
+        files_.Open(1, At("a.txt"), FileMode::Append);
+        files_.PrintLine(1, std::string(79, 'y'));
+        number = NumberOf([&] { files_.Close(1); });
+        files_.Open(1, At("a.txt"), FileMode::Append);
+        files_.PrintLine(1, std::string(30, 'z'));
+        again = NumberOf([&] { files_.Close(1); });
+    }
+    EXPECT_EQ(number, 61);
+    EXPECT_EQ(again, 0);
+    EXPECT_EQ(Content("a.txt"), before + std::string(30, 'z') + "\r\n");
+}
+
+TEST_F(DiskFilesTest, AFailedCloseFreesTheNumber) {
+    Put("a.txt", "a\r\n");
+    {
+        const SizeLimit limit(0);
+        files_.Open(1, At("b.txt"), FileMode::Output);
+        files_.PrintLine(1, "b");
+        EXPECT_EQ(NumberOf([&] { files_.Close(1); }), 61);
+    }
+    EXPECT_EQ(NumberOf([&] { files_.Close(1); }), 0);
+    EXPECT_THAT(Lines(files_, At("a.txt")), ElementsAre("a"));
+    WriteFile(files_, At("b.txt"), FileMode::Append, "b");
+    EXPECT_EQ(Content("b.txt"), "b\r\n");
+}
+
+#ifdef __linux__
+TEST_F(DiskFilesTest, AFullDeviceIsToldAtClose) {
+    files_.Open(2, "/dev/full", FileMode::Output);
+    files_.PrintLine(2, "a");
+    EXPECT_EQ(NumberOf([&] { files_.Close(2); }), 61);
+    Put("a.txt", "a");
+    EXPECT_EQ(NumberOf([&] { files_.Copy(At("a.txt"), "/dev/full"); }), 61);
+}
+
+TEST_F(DiskFilesTest, AFullDiskLosesNothingThatWasThere) {
+    std::filesystem::create_directory(root_ / "stick");
+    if (mount("tmpfs", (root_ / "stick").c_str(), "tmpfs", 0, "size=64k") != 0) GTEST_SKIP() << "no right to mount a small disk";
+    const std::string before(61 * 1024, 'x');
+    Put("stick/a.txt", before);
+    files_.Open(1, At("stick/a.txt"), FileMode::Append);
+    files_.PrintLine(1, std::string(10'000, 'y'));
+    const int append = NumberOf([&] { files_.Close(1); });
+    const std::string after = Content("stick/a.txt");
+
+    Put("big.txt", before);
+    const int copy = NumberOf([&] { files_.Copy(At("big.txt"), At("stick/b.txt")); });
+    const std::string source = Content("big.txt");
+
+    files_.Delete(At("stick/b.txt"));
+    const int small = NumberOf([&] { WriteFile(files_, At("stick/a.txt"), FileMode::Append, "z"); });
+    const std::string last = Content("stick/a.txt");
+    umount2((root_ / "stick").c_str(), MNT_DETACH);
+
+    EXPECT_EQ(append, 61);
+    EXPECT_EQ(after, before);
+    EXPECT_EQ(copy, 61);
+    EXPECT_EQ(source, before);
+    EXPECT_EQ(small, 0);
+    EXPECT_EQ(last, before + "z\r\n");
+}
+
+TEST_F(DiskFilesTest, AReadOnlyDiskIsPermissionDenied) {
+    std::filesystem::create_directory(root_ / "stick");
+    if (mount("tmpfs", (root_ / "stick").c_str(), "tmpfs", MS_RDONLY, "size=64k") != 0) GTEST_SKIP() << "no right to mount a disk";
+    Put("a.txt", "a");
+    const int open = OpenFails(1, At("stick/a.txt"), FileMode::Append);
+    const int copy = NumberOf([&] { files_.Copy(At("a.txt"), At("stick/a.txt")); });
+    const int rename = NumberOf([&] { files_.Rename(At("a.txt"), At("stick/a.txt")); });
+    umount2((root_ / "stick").c_str(), MNT_DETACH);
+    EXPECT_EQ(open, 70);
+    EXPECT_EQ(copy, 70);
+    EXPECT_NE(rename, 0);
+    EXPECT_EQ(Content("a.txt"), "a");
+}
+#endif
+
+TEST(FailureOf, MapsTheSystemsNumbers) {
+    EXPECT_EQ(FailureOf(ENOENT), Failure::FileNotFound);
+    EXPECT_EQ(FailureOf(ENOTDIR), Failure::PathNotFound);
+    for (const int error : {EROFS, EACCES, EPERM}) EXPECT_EQ(FailureOf(error), Failure::PermissionDenied);
+    for (const int error : {ENOSPC, EFBIG, EDQUOT}) EXPECT_EQ(FailureOf(error), Failure::DiskFull);
+    for (const int error : {EIO, ENXIO, ENODEV}) EXPECT_EQ(FailureOf(error), Failure::DiskNotReady);
+    for (const int error : {EISDIR, EMFILE, EXDEV, ENAMETOOLONG}) EXPECT_EQ(FailureOf(error), Failure::PathFileAccess);
+}
+
+}  // namespace
+}  // namespace vatro

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+//
+// A directory of its own for each test on real files.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "disk/disk_files.h"
+#include "text/codepage.h"
+#include "text/errors.h"
+
+namespace vatro {
+
+class TemporaryWorld : public ::testing::Test {
+protected:
+    TemporaryWorld() {
+        std::string name = (std::filesystem::temp_directory_path() / "vatro-disk-XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary directory");
+        root_ = name;
+    }
+    ~TemporaryWorld() override {
+        std::error_code ignored;
+        std::filesystem::permissions(root_, std::filesystem::perms::owner_all, ignored);
+        std::filesystem::remove_all(root_, ignored);
+    }
+
+    /// The program's path of a name, in the code page, in the directory.
+    std::string At(std::string_view name) const { return FromUtf8(root_.string()) + "/" + std::string(name); }
+
+    /// Writes a file; the name in UTF-8.
+    void Put(const std::string& name, std::string_view content) const { std::ofstream(root_ / name, std::ios::binary) << content; }
+    std::string Content(const std::string& name) const {
+        std::ifstream file(root_ / name, std::ios::binary);
+        if (!file) return "(missing)";
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    /// The names in a directory, in UTF-8, sorted.
+    std::vector<std::string> Names(const std::string& directory = ".") const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(root_ / directory)) names.push_back(entry.path().filename().string());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    std::filesystem::path root_;
+};
+
+/// The number with which the call fails, 0 if it does not.
+template <class Call>
+int NumberOf(Call call) {
+    try {
+        call();
+    } catch (const RunTimeError& failure) {
+        return failure.Number();
+    }
+    return 0;
+}
+
+inline void WriteFile(Files& files, std::string_view path, FileMode mode, std::string_view line) {
+    files.Open(1, path, mode);
+    files.PrintLine(1, line);
+    files.Close(1);
+}
+
+inline std::vector<std::string> Lines(Files& files, std::string_view path) {
+    std::vector<std::string> lines;
+    files.Open(1, path, FileMode::Input);
+    while (!files.EndOfFile(1)) lines.push_back(files.LineInput(1));
+    files.Close(1);
+    return lines;
+}
+
+}  // namespace vatro

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "entry/clock.h"
+
+#include "running_program.h"
+
+namespace vatro {
+namespace {
+
+class EntryClock : public RunningProgram {};
+
+TEST_F(EntryClock, TicksATenthOfASecondAfterTheNextFullMinute) {
+    Start();
+    clock.now.second = 45;
+    clock.now.millisecond = 500;
+    TimerStart();
+    EXPECT_EQ(frmMain->Timer1.Interval(), 14600);
+    EXPECT_TRUE(frmMain->Timer1.Running());
+    EXPECT_TRUE(frmMain->mnuIndstillingerKlokken.Ticked());
+}
+
+TEST_F(EntryClock, TicksEveryMinuteFromTheFirstTickOn) {
+    Start();
+    clock.now.minute = 1;
+    clock.now.millisecond = 100;
+    TimerTick();
+    EXPECT_EQ(frmMain->Timer1.Interval(), 60000);
+    EXPECT_EQ(frmMain->Text1[0].Text(), "13:01");
+}
+
+TEST_F(EntryClock, StopsWithoutForgettingThatItIsAutomatic) {
+    Start();
+    TimerStop();
+    EXPECT_FALSE(frmMain->Timer1.Running());
+    EXPECT_FALSE(frmMain->mnuIndstillingerKlokken.Ticked());
+    EXPECT_EQ(gbAutoTid, 1);
+}
+
+TEST_F(EntryClock, IsSwitchedByItsMenuEntry) {
+    Start();
+    SkiftAutoTid();
+    EXPECT_EQ(gbAutoTid, 0);
+    EXPECT_FALSE(frmMain->Timer1.Running());
+    SkiftAutoTid();
+    EXPECT_EQ(gbAutoTid, 1);
+    EXPECT_TRUE(frmMain->Timer1.Running());
+}
+
+}  // namespace
+}  // namespace vatro

@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+//
+// The power goes at any moment. A contest is played in a process of its own, which is killed with a signal that it cannot
+// catch; what it had told of is then looked for on the disk.
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <sstream>
+#include <thread>
+#include <vector>
+
+#include "entry/frmMain.h"
+#include "frame/start.h"
+#include "logbook/log_file.h"
+#include "platform/program.h"
+#include "replay/memory_front.h"
+#include "replay/player.h"
+#include "replay/scenario.h"
+#include "replay/world.h"
+
+namespace vatro {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kLineWidth = 79;
+
+/// What the doomed process tells of, one byte each.
+class Teller {
+public:
+    explicit Teller(int pipe) : pipe_(pipe) {}
+    void Tell() const {
+        const char byte = '+';
+        if (write(pipe_, &byte, 1) != 1) _exit(1);
+    }
+
+private:
+    int pipe_;
+};
+
+/// Runs `life` in a process of its own, kills it `wait` after it has told of something for the first time, and gives the number
+/// of things it has told of. A life that fails tells of nothing more.
+template <class Life>
+std::size_t KillAfter(std::chrono::microseconds wait, Life life) {
+    int ends[2];
+    if (pipe(ends) != 0) throw std::runtime_error("no pipe");
+    const pid_t child = fork();
+    if (child == 0) {
+        close(ends[0]);
+        try {
+            life(Teller(ends[1]));
+        } catch (...) {
+            _exit(1);
+        }
+        _exit(0);
+    }
+    close(ends[1]);
+    std::size_t told = 0;
+    char bytes[4096];
+    const auto listen = [&](std::size_t most) {
+        const ssize_t got = read(ends[0], bytes, most);
+        told += got > 0 ? static_cast<std::size_t>(got) : 0;
+        return got > 0;
+    };
+    listen(1);
+    std::this_thread::sleep_for(wait);
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    while (listen(sizeof bytes)) {
+    }
+    close(ends[0]);
+    return told;
+}
+
+/// The in-memory front, which tells when Enter has returned.
+class TellingFront : public MemoryFront {
+public:
+    explicit TellingFront(Teller teller) : teller_(teller) {}
+    void Press(const KeyStroke& key) override {
+        MemoryFront::Press(key);
+        if (key.name == "Enter") teller_.Tell();
+    }
+
+private:
+    Teller teller_;
+};
+
+std::string Call(int number) {
+    std::string call = "DL";
+    call += static_cast<char>('0' + number % 10);
+    for (int divisor : {10, 260}) call += static_cast<char>('A' + number / divisor % 26);
+    return call + "Q";
+}
+
+std::string Setting() {
+    return "file data/lande.txt\n| DL        Fed. Rep. of Germany     EU -1 \n"
+           "file data/refpfx.txt\n| DL        DL        14 28\n"
+           "file data/edr.txt\n| OZ1ABC Test\n"
+           "file data/operator.txt\n| OZ1AB\n"
+           "setting Settings gsLogLib log\nsetting Settings LastOP OZ1AB\nsetting Settings VisInfo2002 False\n";
+}
+
+std::string Contest(int contacts) {
+    std::ostringstream scenario;
+    scenario << Setting() << "start\n";
+    for (int i = 0; i < contacts; ++i) scenario << "type " << Call(i) << "\nkey Space\ntype 7\nkey Enter\n";
+    return scenario.str();
+}
+
+std::string Content(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+class PowerCut : public testing::Test {
+protected:
+    PowerCut() {
+        std::string name = (fs::temp_directory_path() / "vatro-power-XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary directory");
+        root = name;
+    }
+    ~PowerCut() override { fs::remove_all(root); }
+
+    /// A world that no earlier cut has touched.
+    fs::path NextWorld() {
+        const fs::path world = root / std::to_string(worlds_++);
+        fs::create_directory(world);
+        return world;
+    }
+    std::chrono::microseconds Moment(int longest) {
+        return std::chrono::microseconds(std::uniform_int_distribution<>(0, longest)(random_));
+    }
+
+    fs::path root;
+
+private:
+    int worlds_ = 0;
+    // Another moment at every run of the test would make a failure hard to find again.
+    std::mt19937 random_{20260905};
+};
+
+TEST_F(PowerCut, NeverLosesALineWhoseEnterHadReturned) {
+    const Scenario contest(Contest(400));
+    std::size_t cutShort = 0;
+    for (int cut = 0; cut < 150; ++cut) {
+        const fs::path directory = NextWorld();
+        const std::size_t logged = KillAfter(Moment(60000), [&](Teller teller) {
+            const World world(directory);
+            TellingFront front(teller);
+            Player(contest, world, front, StartProgram).Play();
+        });
+        const std::string log = Content(directory / "log" / "FD80mSSB.txt");
+        ASSERT_EQ(log.size() % (kLineWidth + 2), 0U) << "half a line stands in the log";
+        const std::size_t lines = log.size() / (kLineWidth + 2);
+        ASSERT_GE(lines, logged);
+        ASSERT_LE(lines, logged + 1) << "only the contact under way may be on disk beside those told of";
+        for (std::size_t i = 0; i < lines; ++i) {
+            const std::string line = log.substr(i * (kLineWidth + 2), kLineWidth + 2);
+            ASSERT_EQ(line.substr(6, 6), Call(static_cast<int>(i)));
+            ASSERT_EQ(line.substr(kLineWidth), "\r\n");
+        }
+        if (lines < 400) ++cutShort;
+        fs::remove_all(directory);
+    }
+    EXPECT_GT(cutShort, 100U) << "the cuts came too late to prove anything";
+}
+
+/// A log of which every line names its version.
+std::string Version(char mark, int lines) {
+    std::string log;
+    for (int i = 0; i < lines; ++i) {
+        std::string line = "10:10 DL1AA           59 -0007 59 -0003  3            OZ1DEF     SSB   05-09-26";
+        line[50] = mark;
+        log += line + "\r\n";
+    }
+    return log;
+}
+
+/// The in-memory front, on which a key rewrites the log in the other version again and again.
+class RewritingFront : public MemoryFront {
+public:
+    explicit RewritingFront(Teller teller) : teller_(teller) {}
+    [[noreturn]] void Press(const KeyStroke&) override {
+        for (char mark = 'B';; mark = mark == 'A' ? 'B' : 'A') {
+            Dispatch([mark] { Rewrite(mark); });
+            teller_.Tell();
+        }
+    }
+
+private:
+    static void Rewrite(char mark) {
+        ListBox& list = frmMain->List1;
+        for (int i = 0; i < list.ListCount(); ++i) {
+            std::string line = list.List(i);
+            line[50] = mark;
+            list.SetList(i, line);
+        }
+        SkrivLog();
+    }
+    Teller teller_;
+};
+
+TEST_F(PowerCut, LeavesTheOldLogOrTheNewOneOrTheWholeCopy) {
+    constexpr int kLines = 300;
+    const Scenario start(Setting() + "start\nkey F2\n");
+    const std::string versions[]{Version('A', kLines), Version('B', kLines)};
+    const auto whole = [&](const std::string& content) { return content == versions[0] || content == versions[1]; };
+    std::size_t copies = 0;
+    for (int cut = 0; cut < 150; ++cut) {
+        const fs::path directory = NextWorld();
+        fs::create_directory(directory / "log");
+        const fs::path log = directory / "log" / "FD80mSSB.txt";
+        std::ofstream(log, std::ios::binary) << versions[0];
+        const std::size_t rewritten = KillAfter(Moment(20000), [&](Teller teller) {
+            const World world(directory);
+            RewritingFront front(teller);
+            Player(start, world, front, StartProgram).Play();
+        });
+        ASSERT_GT(rewritten, 0U);
+        if (fs::exists(log)) {
+            ASSERT_TRUE(whole(Content(log))) << "the log is neither the old one nor the new one";
+        } else {
+            ASSERT_TRUE(whole(Content(directory / "log" / "FDkopi.txt"))) << "the log is gone and the copy is not whole";
+            ++copies;
+        }
+        fs::remove_all(directory);
+    }
+    RecordProperty("copies_found", static_cast<int>(copies));
+}
+
+}  // namespace
+}  // namespace vatro

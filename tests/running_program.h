@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: MIT
+//
+// The program on a platform of fakes, for tests of procedures that need a main form, files, boxes or settings.
+//
+// The fakes record what happened and can be told to fail. A box that no test expects, and an answer that no box asks for,
+// fail the test.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "entry/frmMain.h"
+#include "frame/start.h"
+#include "platform/forms.h"
+#include "platform/platform.h"
+#include "platform/program.h"
+#include "text/codepage.h"
+
+namespace vatro {
+
+class FakeSettings : public Settings {
+public:
+    std::optional<std::string> Read(std::string_view section, std::string_view key) override {
+        const auto it = texts.find(UpperText(std::string(section) + "/" + std::string(key)));
+        return it == texts.end() ? std::nullopt : std::optional(it->second);
+    }
+    void Write(std::string_view section, std::string_view key, std::string_view text) override {
+        written.emplace_back(key);
+        texts[UpperText(std::string(section) + "/" + std::string(key))] = text;
+    }
+    /// By "SECTION/KEY" in upper case.
+    std::map<std::string, std::string> texts;
+    /// The keys in the order in which they were written.
+    std::vector<std::string> written;
+};
+
+/// Files in memory, whole lines ended by CR LF.
+class FakeFiles : public Files {
+public:
+    void Open(int number, std::string_view path, FileMode mode) override {
+        Step("open", path);
+        if (open_.contains(number)) throw RunTimeError(Failure::FileAlreadyOpen);
+        const std::string name = UpperText(path);
+        if (mode == FileMode::Input && !files.contains(name)) throw RunTimeError(Failure::FileNotFound);
+        if (mode == FileMode::Output) files[name].clear();
+        if (mode == FileMode::Append) files[name];
+        open_[number] = {name, 0};
+    }
+    std::string LineInput(int number) override {
+        auto& [name, at] = open_.at(number);
+        Step("read", name);
+        if (at >= files[name].size()) throw RunTimeError(Failure::InputPastEnd);
+        return files[name][at++];
+    }
+    bool EndOfFile(int number) override { return open_.at(number).second >= files[open_.at(number).first].size(); }
+    void PrintLine(int number, std::string_view text) override {
+        Step("write", open_.at(number).first);
+        files[open_.at(number).first].emplace_back(text);
+    }
+    void Print(int number, std::string_view text) override { PrintLine(number, text); }
+    void Close(int number) override {
+        if (open_.erase(number) != 0) steps.emplace_back("close");
+    }
+    void Delete(std::string_view path) override {
+        Step("delete", path);
+        if (files.erase(UpperText(path)) == 0) throw RunTimeError(Failure::FileNotFound);
+    }
+    void Rename(std::string_view from, std::string_view to) override {
+        Step("rename", from);
+        if (files.contains(UpperText(to))) throw RunTimeError(Failure::FileExists);
+        files[UpperText(to)] = files.at(UpperText(from));
+        files.erase(UpperText(from));
+    }
+    void Copy(std::string_view from, std::string_view to) override {
+        Step("copy", from);
+        files[UpperText(to)] = files.at(UpperText(from));
+    }
+    std::string CurrentDirectory() override { return "data"; }
+    char Separator() const override { return '\\'; }
+
+    /// The step of this name ("open", "read", "write", "delete", "rename") fails from its n-th time on, counted from now.
+    void FailFrom(std::string_view step, int times, Failure failure) { failing_ = {std::string(step), times, failure}; }
+    bool IsOpen() const { return !open_.empty(); }
+
+    /// The lines of each file, by path in upper case.
+    std::map<std::string, std::vector<std::string>> files;
+    /// What was done, as "open LOG\FD80MSSB.TXT".
+    std::vector<std::string> steps;
+
+private:
+    struct Failing {
+        std::string step;
+        int times = 0;
+        Failure failure = Failure::PermissionDenied;
+    };
+    void Step(std::string_view step, std::string_view path) {
+        steps.push_back(std::string(step) + " " + UpperText(path));
+        if (failing_.step == step && --failing_.times <= 0) throw RunTimeError(failing_.failure);
+    }
+    std::map<int, std::pair<std::string, std::size_t>> open_;
+    Failing failing_;
+};
+
+class FakeDialogs : public Dialogs {
+public:
+    Answer Show(const MessageBox& box) override {
+        boxes.push_back(box);
+        if (expected.empty()) {
+            ADD_FAILURE() << "unexpected box: " << ToUtf8(box.text);
+            return box.buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+        }
+        auto [text, answer] = expected.front();
+        expected.pop_front();
+        EXPECT_EQ(ToUtf8(box.text), text);
+        return answer;
+    }
+    std::string SaveFile(const FileDialog& dialog) override { return Choose(dialog); }
+    std::string OpenFile(const FileDialog& dialog) override { return Choose(dialog); }
+    void ShowFailure(const RunTimeError& failure) override { failures.push_back(failure.Number()); }
+
+    /// The next box must have this text, in UTF-8, and is answered so.
+    void Expect(std::string text, Answer answer = Answer::Ok) { expected.emplace_back(std::move(text), answer); }
+
+    std::deque<std::pair<std::string, Answer>> expected;
+    std::vector<MessageBox> boxes;
+    /// The file that the next dialogue gives; nothing is Cancel.
+    std::optional<std::string> chosen;
+    std::vector<FileDialog> asked;
+    std::vector<int> failures;
+
+private:
+    std::string Choose(const FileDialog& dialog) {
+        asked.push_back(dialog);
+        if (!chosen) throw RunTimeError(Failure::Cancelled);
+        return *chosen;
+    }
+};
+
+class FakeClock : public Clock {
+public:
+    DateTime Now() override { return now; }
+    double SecondsSinceMidnight() override { return now.hour * 3600 + now.minute * 60 + now.second + now.millisecond / 1000.0; }
+    void Schedule(Timer& timer) override { static_cast<void>(timer); }
+    DateTime now{2026, 9, 5, 15, 0, 0, 0};
+};
+
+class FakeFront : public Front {
+public:
+    void Created(Form&) override {}
+    void Destroyed(Form&) override {}
+    void Changed(Form&) override {}
+    void Activated(Form&) override {}
+    void RunModal(Form& form) override { ADD_FAILURE() << "unexpected modal form: " << form.Name(); }
+    void Refresh(Form&) override {}
+    void DoEvents() override {}
+    double TextWidth(std::string_view text, const Font& font) override { return 0.6 * font.size * static_cast<double>(text.size()); }
+    double TextHeight(const Font& font) override { return 1.2 * font.size; }
+    void Ended() override { ended = true; }
+    bool ended = false;
+};
+
+class FakeHelp : public Help {
+public:
+    void Show(std::string_view) override {}
+};
+
+class FakeInstance : public Instance {
+public:
+    bool AnotherCopyRuns() override { return false; }
+};
+
+/// A world with Germany and Denmark, one station of the society and one operator. Nothing runs before Start.
+class RunningProgram : public ::testing::Test {
+protected:
+    RunningProgram() {
+        files.files["DATA\\LANDE.TXT"] = {"DL        Fed. Rep. of Germany     EU -1 ", "OZ        Denmark                  EU -1 "};
+        files.files["DATA\\REFPFX.TXT"] = {"DL        DL        14 28", "OZ        OZ        14 18"};
+        files.files["DATA\\EDR.TXT"] = {"OZ1ABC Test, formand"};
+        files.files["DATA\\OPERATOR.TXT"] = {"OZ1DEF"};
+        settings.texts = {{"SETTINGS/GSLOGLIB", "log"}, {"SETTINGS/LASTOP", "OZ1DEF"}, {"SETTINGS/VISINFO2002", "False"}};
+        InstallPlatform({front, dialogs, settings, files, clock, help, instance, {1, 2, 3}});
+    }
+    ~RunningProgram() override {
+        EndProgram();
+        EXPECT_TRUE(dialogs.expected.empty()) << "a box that did not come: " << dialogs.expected.front().first;
+    }
+
+    void Start() {
+        BeginProgram();
+        Dispatch(StartProgram);
+    }
+    /// The lines of the file, in UTF-8.
+    std::vector<std::string> LinesOf(std::string_view path) {
+        std::vector<std::string> lines;
+        for (const std::string& line : files.files[UpperText(path)]) lines.push_back(ToUtf8(line));
+        return lines;
+    }
+
+    FakeFront front;
+    FakeDialogs dialogs;
+    FakeSettings settings;
+    FakeFiles files;
+    FakeClock clock;
+    FakeHelp help;
+    FakeInstance instance;
+};
+
+}  // namespace vatro
