@@ -97,6 +97,7 @@ void Bind(ComboBox& control, QComboBox& widget, FormWindow& window) {
     PushState(control, widget);
     PushItems(control, widget);
     QLineEdit& editor = *widget.lineEdit();
+    editor.setReadOnly(control.Style() == ComboStyle::DropDownList);
     window.AddInput(control, widget, &editor);
     ConnectEditor(control, editor, window.Scope());
     QObject::connect(&widget, &QComboBox::activated, &window.Scope(), [&control](int row) {

@@ -167,6 +167,16 @@ void Bind(Button& control, QPushButton& widget, FormWindow& window) {
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
 }
 
+void Bind(UpDown& control, SpinArrows& widget, FormWindow& window) {
+    PushState(control, widget);
+    QObject::connect(&widget, &SpinArrows::Stepped, &window.Scope(), [&control](bool up) {
+        Deliver([&] {
+            if (control.Parent().Reachable()) control.Spin(up);
+        });
+    });
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
+}
+
 void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window) {
     PushState(control, widget);
     PushCaption(control.Caption(), widget);

@@ -28,7 +28,9 @@ class Frame;
 class ItemList;
 class Label;
 class ListBox;
+class SpinArrows;
 class TextBox;
+class UpDown;
 
 /// Ties all controls of the form, and sets the order of Tab.
 void BindForm(Form& form, FormWindow& window);
@@ -37,6 +39,7 @@ void Bind(TextBox& control, QLineEdit& widget, FormWindow& window);
 void Bind(ComboBox& control, QComboBox& widget, FormWindow& window);
 void Bind(ListBox& control, ItemList& widget, FormWindow& window);
 void Bind(Button& control, QPushButton& widget, FormWindow& window);
+void Bind(UpDown& control, SpinArrows& widget, FormWindow& window);
 void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window);
 void Bind(Label& control, QLabel& widget, FormWindow& window);
 void Bind(Label& control, FittedText& widget, FormWindow& window);

@@ -6,6 +6,8 @@
 #include <QResizeEvent>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <QToolButton>
+#include <QVBoxLayout>
 
 namespace vatro {
 
@@ -31,6 +33,20 @@ QSize EntryField::sizeHint() const {
     initStyleOption(&option);
     const QSize content(wide * chars_ + fontMetrics().averageCharWidth(), fontMetrics().height() + 4);
     return style()->sizeFromContents(QStyle::CT_LineEdit, &option, content, this);
+}
+
+SpinArrows::SpinArrows(QWidget* parent) : QWidget(parent) {
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(0);
+    column->setContentsMargins(0, 0, 0, 0);
+    for (const bool up : {true, false}) {
+        auto* arrow = new QToolButton(this);
+        arrow->setArrowType(up ? Qt::UpArrow : Qt::DownArrow);
+        arrow->setAutoRepeat(true);
+        arrow->setFocusPolicy(Qt::NoFocus);
+        column->addWidget(arrow);
+        connect(arrow, &QToolButton::clicked, this, [this, up] { Q_EMIT Stepped(up); });
+    }
 }
 
 QFont MeasureFont(const QString& family, bool bold) {

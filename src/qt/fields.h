@@ -63,6 +63,17 @@ private:
     QString toolTip_;
 };
 
+/// Two arrows that count the number in a field up and down.
+class SpinArrows : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit SpinArrows(QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    void Stepped(bool up);
+};
+
 /// The font at a size that every measure is taken from, so that widths are in the ratio of the sizes.
 inline constexpr int kMeasurePixels = 200;
 QFont MeasureFont(const QString& family, bool bold);

@@ -55,7 +55,8 @@ void PushSelection(const TextControl& control, QLineEdit& editor) {
         editor.setCursorPosition(control.SelStart());
 }
 
-Input::Input(Control& control, QWidget& widget, QLineEdit* editor) : QObject(&widget), control_(&control), widget_(&widget), editor_(editor) {
+Input::Input(Control& control, QWidget& widget, QLineEdit* editor)
+    : QObject(&widget), control_(&control), widget_(&widget), editor_(editor) {
     widget.installEventFilter(this);
     if (editor != nullptr && editor != &widget) editor->installEventFilter(this);
 }

@@ -4,12 +4,19 @@
 #include <map>
 #include <string>
 
+#include "ui_FormRigAnt.h"
 #include "ui_frmB4.h"
+#include "ui_frmCall.h"
 #include "ui_frmContestCall.h"
 #include "ui_frmEDR.h"
+#include "ui_frmInfo.h"
 #include "ui_frmMain.h"
+#include "ui_frmNote.h"
+#include "ui_frmNytQSOnr.h"
 #include "ui_frmQSOnr.h"
+#include "ui_frmRetQSO.h"
 #include "ui_frmSplash.h"
+#include "ui_frmUTC.h"
 
 namespace vatro {
 
@@ -22,12 +29,13 @@ void Make(QWidget* widget) {
 
 std::map<std::string, LayoutMaker, std::less<>>& Layouts() {
     static std::map<std::string, LayoutMaker, std::less<>> layouts{
-        {"frmB4", Make<Ui::frmB4>},
-        {"frmContestCall", Make<Ui::frmContestCall>},
-        {"frmEDR", Make<Ui::frmEDR>},
-        {"frmMain", Make<Ui::frmMain>},
-        {"frmQSOnr", Make<Ui::frmQSOnr>},
-        {"frmSplash", Make<Ui::frmSplash>},
+        {"FormRigAnt", Make<Ui::FormRigAnt>},   {"frmB4", Make<Ui::frmB4>},
+        {"frmCall", Make<Ui::frmCall>},         {"frmContestCall", Make<Ui::frmContestCall>},
+        {"frmEDR", Make<Ui::frmEDR>},           {"frmInfo", Make<Ui::frmInfo>},
+        {"frmMain", Make<Ui::frmMain>},         {"frmNote", Make<Ui::frmNote>},
+        {"frmNytQSOnr", Make<Ui::frmNytQSOnr>}, {"frmQSOnr", Make<Ui::frmQSOnr>},
+        {"frmRetQSO", Make<Ui::frmRetQSO>},     {"frmSplash", Make<Ui::frmSplash>},
+        {"frmUTC", Make<Ui::frmUTC>},
     };
     return layouts;
 }

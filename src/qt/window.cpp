@@ -4,9 +4,9 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
-#include <QScreen>
 #include <QWindow>
 #include <cmath>
 #include <set>
