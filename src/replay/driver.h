@@ -48,6 +48,8 @@ public:
     /// Chooses the row of a list or combo box with the mouse.
     virtual void Pick(Control& control, int row) = 0;
     virtual void DoubleClick(ListBox& list, int row) = 0;
+    /// One press on the upper or the lower arrow; a front without arrows refuses it.
+    virtual void Spin(UpDown& /*arrows*/, bool /*up*/) { throw CannotDeliver("the front has no arrows"); }
     virtual void Choose(MenuItem& item) = 0;
     virtual void PressTool(Toolbar& toolbar, int index) = 0;
     virtual void Close(Form& form) = 0;

@@ -161,6 +161,13 @@ void MemoryFront::Choose(MenuItem& item) {
     });
 }
 
+void MemoryFront::Spin(UpDown& arrows, bool up) {
+    Dispatch([&] {
+        arrows.Parent().UserActivated();
+        arrows.Spin(up);
+    });
+}
+
 void MemoryFront::PressTool(Toolbar& toolbar, int index) {
     Dispatch([&] {
         toolbar.Parent().UserActivated();

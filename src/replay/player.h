@@ -94,6 +94,7 @@ private:
     void DoClick(const Command& command);
     void DoPick(const Command& command);
     void DoDoubleClick(const Command& command);
+    void DoSpin(const Command& command);
     void DoNotYet(const Command& command);
     void DoMenu(const Command& command);
     void DoToolbar(const Command& command);

@@ -33,7 +33,7 @@ const Player::Verb* Player::FindVerb(const std::string& name) {
         Verb{"click", Event, 1, 1, &Player::DoClick},
         Verb{"pick", Event, 2, 2, &Player::DoPick},
         Verb{"dblclick", Event, 2, 2, &Player::DoDoubleClick},
-        Verb{"spin", Event, 2, 2, &Player::DoNotYet},
+        Verb{"spin", Event, 2, 2, &Player::DoSpin},
         Verb{"scroll", Event, 2, 2, &Player::DoNotYet},
         Verb{"menu", Event, 1, 1, &Player::DoMenu},
         Verb{"toolbar", Event, 1, 1, &Player::DoToolbar},
@@ -234,6 +234,15 @@ void Player::DoDoubleClick(const Command& command) {
     auto* list = dynamic_cast<ListBox*>(&control);
     if (list == nullptr) throw CannotDeliver(NameOf(control) + " is no list");
     driver_.DoubleClick(*list, CheckRow(ReadInteger(command.arguments[1]), *list));
+}
+
+void Player::DoSpin(const Command& command) {
+    Control& control = ReachableControl(command.arguments[0]);
+    auto* arrows = dynamic_cast<UpDown*>(&control);
+    if (arrows == nullptr) throw CannotDeliver(NameOf(control) + " has no arrows");
+    const std::string& way = command.arguments[1];
+    if (way != "up" && way != "down") throw CannotDeliver("spin: " + way + " is neither up nor down");
+    driver_.Spin(*arrows, way == "up");
 }
 
 /// Events of control kinds that the program does not have yet.
