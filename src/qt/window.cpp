@@ -38,6 +38,11 @@ Qt::WindowFlags Flags(FormKind kind) {
     return Qt::Window;
 }
 
+/// No window is without a pixel.
+int ToLength(int twips) {
+    return qMax(1, ToPixels(twips));
+}
+
 }  // namespace
 
 int ToPixels(int twips) {
@@ -92,6 +97,8 @@ void FormWindow::Build(QWidget* owner) {
         AddBars(form_, *window);
         window->resize(size);
         top_ = window;
+        // A side window that is shown first finds the window above which it stays.
+        window->winId();
     } else {
         content->setParent(owner, Flags(form_.Kind()));
         top_ = content;
@@ -135,15 +142,15 @@ void FormWindow::Follow() {
 void FormWindow::FollowPlace() {
     const Place told{form_.Left(), form_.Top(), form_.Width(), form_.Height()};
     if (told == place_) return;
-    const bool moved = told.left != place_.left || told.top != place_.top || place_.width == 0;
+    const bool first = !placed_;
     place_ = told;
     if (placing_) return;
     placing_ = true;
-    placed_ = placed_ || moved;
+    placed_ = true;
     if (!top_->isMinimized()) {
         const QPoint at(ToPixels(told.left), ToPixels(told.top));
-        if (moved) top_->move(at);
-        const QSize size(qMax(1, ToPixels(told.width)), qMax(1, ToPixels(told.height)));
+        if (first || top_->pos() != at) top_->move(at);
+        const QSize size(ToLength(told.width), ToLength(told.height));
         if (top_->size() != size) top_->resize(size);
     }
     placing_ = false;
@@ -156,13 +163,26 @@ void FormWindow::FollowVisible() {
         top_->hide();
         return;
     }
+    // Window managers keep a window above another one only if they know that one already.
+    if (form_.Kind() == FormKind::Tool && top_->parentWidget() != nullptr && !top_->parentWidget()->isVisible()) return;
     top_->setWindowModality(form_.Modal() ? Qt::ApplicationModal : Qt::NonModal);
     placing_ = true;
     if (!placed_) PlaceInMiddle();
+    if (form_.Kind() == FormKind::Main && front_.fitToScreen) FitToScreen();
     top_->show();
     placing_ = false;
+    front_.Shown(*this);
     top_->windowHandle()->installEventFilter(this);
     TellPlace();
+    if (form_.Kind() == FormKind::Main) front_.FollowAll();
+}
+
+void FormWindow::FitToScreen() {
+    const QRect room = top_->screen()->availableGeometry();
+    // The frame is not known before the window is on the screen.
+    const int title = top_->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, top_);
+    const QSize left(room.right() - top_->x(), room.bottom() - top_->y() - title);
+    top_->resize(top_->size().boundedTo(left.expandedTo(top_->minimumSizeHint())));
 }
 
 void FormWindow::PlaceInMiddle() {
@@ -189,13 +209,19 @@ void FormWindow::FollowFocus() {
 
 void FormWindow::TellPlace() {
     if (placing_ || !top_->isVisible() || top_->isMinimized()) return;
-    const auto twips = [](int pixels, int told) { return ToPixels(told) == pixels ? told : pixels * kTwipsPerPixel; };
-    const Place now{twips(top_->pos().x(), form_.Left()), twips(top_->pos().y(), form_.Top()), twips(top_->width(), form_.Width()),
-                    twips(top_->height(), form_.Height())};
+    // What the form makes of its new place is shown, but not told again: it may never be content with what it gets.
+    if (telling_) return;
+    const auto at = [](int pixels, int told) { return ToPixels(told) == pixels ? told : pixels * kTwipsPerPixel; };
+    const auto length = [](int pixels, int told) { return ToLength(told) == pixels ? told : pixels * kTwipsPerPixel; };
+    const Place now{at(top_->pos().x(), form_.Left()), at(top_->pos().y(), form_.Top()), length(top_->width(), form_.Width()),
+                    length(top_->height(), form_.Height())};
     const Place told{form_.Left(), form_.Top(), form_.Width(), form_.Height()};
     if (now == told) return;
     place_ = now;
+    telling_ = true;
+    const QPointer<FormWindow> self(this);
     Deliver([&] { form_.UserPlaced(now.left, now.top, now.width, now.height); });
+    if (self != nullptr) telling_ = false;
 }
 
 void FormWindow::TellState() {

@@ -61,6 +61,7 @@ private:
     void FollowPlace();
     void FollowVisible();
     void PlaceInMiddle();
+    void FitToScreen();
     void TellPlace();
     void TellState();
     bool TakeKey(const class QKeyEvent& event);
@@ -79,6 +80,7 @@ private:
         friend bool operator==(const Place&, const Place&) = default;
     } place_;
     bool placing_ = false;
+    bool telling_ = false;
     /// The form has said where it stands.
     bool placed_ = false;
 };
