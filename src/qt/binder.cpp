@@ -37,10 +37,9 @@ bool BindPair(Control& control, QWidget& widget, FormWindow& window) {
 
 /// The pairs there are; a class stands before the one that it is derived from.
 constexpr bool (*kPairs[])(Control&, QWidget&, FormWindow&) = {
-    BindPair<TextBox, QLineEdit>, BindPair<ComboBox, QComboBox>,   BindPair<ListBox, ItemList>,
-    BindPair<Button, QPushButton>, BindPair<CheckBox, QCheckBox>,  BindPair<Label, FittedText>,
-    BindPair<Label, QLabel>,      BindPair<Label, ColumnHead>,     BindPair<Frame, QFrame>,
-    BindPair<Toolbar, QToolBar>,  BindPair<StatusBar, QStatusBar>,
+    BindPair<TextBox, QLineEdit>,  BindPair<ComboBox, QComboBox>, BindPair<ListBox, ItemList>,     BindPair<Button, QPushButton>,
+    BindPair<CheckBox, QCheckBox>, BindPair<Label, FittedText>,   BindPair<Label, QLabel>,         BindPair<Label, ColumnHead>,
+    BindPair<Frame, QFrame>,       BindPair<Toolbar, QToolBar>,   BindPair<StatusBar, QStatusBar>,
 };
 
 bool HasWidget(const Control& control) {
@@ -69,7 +68,8 @@ void BindOne(Control& control, FormWindow& window) {
         if (control.TakesFocus() && widget.accessibleName().isEmpty()) widget.setAccessibleName(SpokenName(control));
         return;
     }
-    window.AddProblem(QStringLiteral("%1 cannot be tied to a %2").arg(ObjectName(control), QLatin1String(widget.metaObject()->className())));
+    window.AddProblem(
+        QStringLiteral("%1 cannot be tied to a %2").arg(ObjectName(control), QLatin1String(widget.metaObject()->className())));
 }
 
 bool Bindable(const QWidget& widget) {

@@ -139,7 +139,8 @@ Answer AnswerOf(const QMessageBox& box) {
     const QAbstractButton* pressed = box.clickedButton();
     for (const QAbstractButton* button : box.buttons()) {
         if (box.buttonRole(const_cast<QAbstractButton*>(button)) == QMessageBox::AcceptRole) return Answer::Ok;
-        if (button == pressed) return box.buttonRole(const_cast<QAbstractButton*>(button)) == QMessageBox::YesRole ? Answer::Yes : Answer::No;
+        if (button == pressed)
+            return box.buttonRole(const_cast<QAbstractButton*>(button)) == QMessageBox::YesRole ? Answer::Yes : Answer::No;
     }
     return Answer::No;
 }

@@ -22,12 +22,9 @@ void Make(QWidget* widget) {
 
 std::map<std::string, LayoutMaker, std::less<>>& Layouts() {
     static std::map<std::string, LayoutMaker, std::less<>> layouts{
-        {"frmB4", Make<Ui::frmB4>},
-        {"frmContestCall", Make<Ui::frmContestCall>},
-        {"frmEDR", Make<Ui::frmEDR>},
-        {"frmMain", Make<Ui::frmMain>},
-        {"frmQSOnr", Make<Ui::frmQSOnr>},
-        {"frmSplash", Make<Ui::frmSplash>},
+        {"frmB4", Make<Ui::frmB4>},       {"frmContestCall", Make<Ui::frmContestCall>},
+        {"frmEDR", Make<Ui::frmEDR>},     {"frmMain", Make<Ui::frmMain>},
+        {"frmQSOnr", Make<Ui::frmQSOnr>}, {"frmSplash", Make<Ui::frmSplash>},
     };
     return layouts;
 }

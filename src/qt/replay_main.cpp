@@ -18,9 +18,9 @@ int warnings = 0;
 
 void CountWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
     // What windows without a screen cannot do, and need not; and what a machine without a session lacks.
-    static const std::array kHarmless{QStringLiteral("This plugin does not support raise()"),
-                                      QStringLiteral("This plugin does not support propagateSizeHints()"),
-                                      QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR not set")};
+    static const std::array kHarmless{
+        QStringLiteral("This plugin does not support raise()"), QStringLiteral("This plugin does not support propagateSizeHints()"),
+        QStringLiteral("This plugin does not support grabbing the keyboard"), QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR not set")};
     for (const QString& harmless : kHarmless)
         if (text.startsWith(harmless)) return;
     std::fprintf(stderr, "Qt: %s\n", qPrintable(text));

@@ -4,12 +4,10 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMainWindow>
-#include <QShortcut>
-#include <QVBoxLayout>
 #include <QScreen>
+#include <QVBoxLayout>
 #include <QWindow>
 #include <cmath>
-#include <set>
 
 #include "qt/bars.h"
 #include "qt/binder.h"
@@ -52,19 +50,6 @@ int ToPixels(int twips) {
 FormWindow::FormWindow(Form& form, QWidget* owner, QtFront& front) : form_(form), front_(front), scope_(std::make_unique<QObject>()) {
     Build(owner);
     BindForm(form, *this);
-    std::set<char> letters;
-    for (const Control* control : form.Controls()) letters.insert(control->AccessLetter());
-    letters.erase('\0');
-    for (const char letter : letters) {
-        auto* key = new QShortcut(QKeySequence(QStringLiteral("Alt+") + ToQt({&letter, 1})), top_);
-        const auto use = [this, letter] {
-            Deliver([&] {
-                if (form_.Reachable()) form_.UserAccessKey(letter);
-            });
-        };
-        connect(key, &QShortcut::activated, scope_.get(), use);
-        connect(key, &QShortcut::activatedAmbiguously, scope_.get(), use);
-    }
     Follow();
     top_->installEventFilter(this);
 }
@@ -122,7 +107,7 @@ void FormWindow::TakeDesignSize() {
     if (form_.Width() != 0 || form_.Height() != 0) return;
     const QSize size = top_->size();
     form_.SetDesignSize(size.width() * kTwipsPerPixel, size.height() * kTwipsPerPixel);
-    place_ = {form_.Left(), form_.Top(), form_.Width(), form_.Height()};
+    place_ = Told();
 }
 
 void FormWindow::Follow() {
@@ -139,8 +124,12 @@ void FormWindow::Follow() {
     FollowFocus();
 }
 
+WindowPlace FormWindow::Told() const {
+    return {form_.Left(), form_.Top(), form_.Width(), form_.Height()};
+}
+
 void FormWindow::FollowPlace() {
-    const Place told{form_.Left(), form_.Top(), form_.Width(), form_.Height()};
+    const WindowPlace told = Told();
     if (told == place_) return;
     const bool first = !placed_;
     place_ = told;
@@ -207,16 +196,27 @@ void FormWindow::FollowFocus() {
     }
 }
 
+void FormWindow::MoveByUser(int left, int top, int width, int height) {
+    placing_ = true;
+    top_->move(ToPixels(left), ToPixels(top));
+    top_->resize(ToLength(width), ToLength(height));
+    placing_ = false;
+    TellPlace({left, top, width, height});
+}
+
 void FormWindow::TellPlace() {
+    TellPlace(Told());
+}
+
+void FormWindow::TellPlace(const WindowPlace& finer) {
     if (placing_ || !top_->isVisible() || top_->isMinimized()) return;
     // What the form makes of its new place is shown, but not told again: it may never be content with what it gets.
     if (telling_) return;
-    const auto at = [](int pixels, int told) { return ToPixels(told) == pixels ? told : pixels * kTwipsPerPixel; };
-    const auto length = [](int pixels, int told) { return ToLength(told) == pixels ? told : pixels * kTwipsPerPixel; };
-    const Place now{at(top_->pos().x(), form_.Left()), at(top_->pos().y(), form_.Top()), length(top_->width(), form_.Width()),
-                    length(top_->height(), form_.Height())};
-    const Place told{form_.Left(), form_.Top(), form_.Width(), form_.Height()};
-    if (now == told) return;
+    const auto at = [](int pixels, int twips) { return ToPixels(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
+    const auto length = [](int pixels, int twips) { return ToLength(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
+    const WindowPlace now{at(top_->pos().x(), finer.left), at(top_->pos().y(), finer.top), length(top_->width(), finer.width),
+                          length(top_->height(), finer.height)};
+    if (now == Told()) return;
     place_ = now;
     telling_ = true;
     const QPointer<FormWindow> self(this);
@@ -233,6 +233,12 @@ void FormWindow::TellState() {
 
 bool FormWindow::TakeKey(const QKeyEvent& event) {
     // Only keys that no control has taken come here.
+    if (const char letter = AccessLetterOf(event); letter != 0) {
+        Deliver([&] {
+            if (form_.Reachable()) form_.UserAccessKey(letter);
+        });
+        return true;
+    }
     const std::optional<KeyCode> key = CodeOf(event);
     if (!key || form_.ActiveControl() != nullptr) return false;
     Deliver([&] {
@@ -271,6 +277,8 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
                 if (form_.Reachable()) form_.UserClicked();
             });
             return true;
+        case QEvent::ShortcutOverride:
+            return KeepsKey(form_, static_cast<QKeyEvent&>(*event));
         case QEvent::KeyPress:
             return TakeKey(static_cast<QKeyEvent&>(*event));
         default:

@@ -34,12 +34,24 @@ namespace {
 
 /// Until the window system has moved the keys to another window, in milliseconds.
 constexpr int kPatience = 3000;
+/// Milliseconds between two clicks that belong to different things.
+constexpr int kShortly = 25;
 
 Qt::Key QtKey(const KeyStroke& key) {
-    static const std::array<std::pair<std::string_view, Qt::Key>, 14> kNames{
-        {{"Enter", Qt::Key_Return}, {"Esc", Qt::Key_Escape}, {"Space", Qt::Key_Space}, {"Tab", Qt::Key_Tab}, {"Backspace", Qt::Key_Backspace},
-         {"Delete", Qt::Key_Delete}, {"Home", Qt::Key_Home}, {"End", Qt::Key_End}, {"Left", Qt::Key_Left}, {"Right", Qt::Key_Right},
-         {"Up", Qt::Key_Up}, {"Down", Qt::Key_Down}, {"PageUp", Qt::Key_PageUp}, {"PageDown", Qt::Key_PageDown}}};
+    static const std::array<std::pair<std::string_view, Qt::Key>, 14> kNames{{{"Enter", Qt::Key_Return},
+                                                                              {"Esc", Qt::Key_Escape},
+                                                                              {"Space", Qt::Key_Space},
+                                                                              {"Tab", Qt::Key_Tab},
+                                                                              {"Backspace", Qt::Key_Backspace},
+                                                                              {"Delete", Qt::Key_Delete},
+                                                                              {"Home", Qt::Key_Home},
+                                                                              {"End", Qt::Key_End},
+                                                                              {"Left", Qt::Key_Left},
+                                                                              {"Right", Qt::Key_Right},
+                                                                              {"Up", Qt::Key_Up},
+                                                                              {"Down", Qt::Key_Down},
+                                                                              {"PageUp", Qt::Key_PageUp},
+                                                                              {"PageDown", Qt::Key_PageDown}}};
     if (key.name.empty()) return static_cast<Qt::Key>(ToQt({&key.character, 1}).toUpper().at(0).unicode());
     for (const auto& [name, code] : kNames)
         if (key.name == name) return name == "Tab" && key.shift ? Qt::Key_Backtab : code;
@@ -157,7 +169,8 @@ void WindowDriver::Focus(Control& control) {
 
 void WindowDriver::Click(Control& control) {
     QWidget& widget = WidgetOf(control);
-    const QPoint at = qobject_cast<QCheckBox*>(&widget) != nullptr ? QPoint(widget.height() / 2, widget.height() / 2) : widget.rect().center();
+    const QPoint at =
+        qobject_cast<QCheckBox*>(&widget) != nullptr ? QPoint(widget.height() / 2, widget.height() / 2) : widget.rect().center();
     ClickAt(widget, at);
 }
 
@@ -175,14 +188,14 @@ void WindowDriver::Pick(Control& control, int row) {
     }
     auto* combo = qobject_cast<QComboBox*>(&widget);
     if (combo == nullptr) throw CannotDeliver(control.FullName() + " is no list");
-    // A second click soon after the one that opens the list would be taken for a double click.
+    // For so long the open list takes a button let go for the end of the click that has opened it.
     const int interval = QApplication::doubleClickInterval();
-    QApplication::setDoubleClickInterval(0);
+    QApplication::setDoubleClickInterval(kShortly);
     QStyleOptionComboBox option;
     option.initFrom(combo);
     const QRect arrow = combo->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, combo);
     ClickAt(*combo, arrow.center());
-    Settle();
+    QTest::qWait(2 * kShortly);
     QApplication::setDoubleClickInterval(interval);
     QAbstractItemView* view = combo->view();
     if (!view->isVisible()) throw CannotDeliver("the list of " + control.FullName() + " does not open");
@@ -245,9 +258,8 @@ void WindowDriver::Restore(Form& form) {
 }
 
 void WindowDriver::Place(Form& form, int left, int top, int width, int height) {
-    const QPointer<QWidget> window(&WindowOf(form));
-    window->move(ToPixels(left), ToPixels(top));
-    if (window != nullptr) window->resize(ToPixels(width), ToPixels(height));
+    WindowOf(form);
+    front_.WindowOf(form)->MoveByUser(left, top, width, height);
 }
 
 // --- Boxes
@@ -323,7 +335,8 @@ std::string WindowDriver::Mismatch(const Form& form) {
     if (top.size() != size) return "the size is another one";
     const Control* active = form.ActiveControl();
     const QWidget* focused = top.focusWidget();
-    if (&form == ActiveForm() && active != nullptr && active->Enabled() && focused != front_.WidgetOf(*active)) return "the focus is elsewhere";
+    if (&form == ActiveForm() && active != nullptr && active->Enabled() && focused != front_.WidgetOf(*active))
+        return "the focus is elsewhere";
     return {};
 }
 

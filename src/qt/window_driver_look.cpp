@@ -6,8 +6,8 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
-#include <QToolBar>
 #include <QStatusBar>
+#include <QToolBar>
 
 #include "platform/forms.h"
 #include "qt/bars.h"
