@@ -49,7 +49,7 @@ void Contact(benchmark::State& state, Counted counted) {
     WriteLines(file, log);
     const std::string line = log.back() + "\r\n";
 
-    if (counted != Counted::Bare) state.SetLabel("open, write, fdatasync, close, at most 1.2");
+    if (counted != Counted::Bare) state.SetLabel("vs open, write, fdatasync, close, at most 1.2");
     bool written = true;
     const std::function<void()> steps[]{[&] { written = AppendBare(file.c_str(), line) && written; }, [&] { AppendLog(log.back()); },
                                         [&] { program.Press("Enter"); }};

@@ -32,7 +32,7 @@ void Key(benchmark::State& state, std::string_view call) {
     Program program(SampleLog());
     program.Type(call);
     if (frmB4->List1.ListCount() != 0) return state.SkipWithError("the call stands in the log");
-    state.SetLabel("scan of calls and prefixes, at most 2");
+    state.SetLabel("vs scan of calls and prefixes, at most 2");
     for (auto _ : state) {
         program.Type("Q");
         program.Press("Backspace");

@@ -26,7 +26,7 @@ void ReadLines(benchmark::State& state) {
 
 void LoadLog(benchmark::State& state) {
     const Program program(SampleLog());
-    state.SetLabel("file into lines, at most 3");
+    state.SetLabel("vs file into lines, at most 3");
     for (auto _ : state) {
         IndlæsLogfil();
         if (frmMain->List1.ListCount() != kLogLines) return state.SkipWithError("the log was not read");

@@ -20,7 +20,7 @@ void ScanForCountry(benchmark::State& state) {
 
 void NoCountry(benchmark::State& state) {
     const Program program({});
-    state.SetLabel("scan of prefixes, at most 2");
+    state.SetLabel("vs scan of prefixes, at most 2");
     std::string status;
     for (auto _ : state) {
         LandStatusTekst("QQ9QQQ", status);

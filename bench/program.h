@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/platform.h"
+
 namespace vatro::bench {
 
 /// A directory for what a benchmark writes, on the disk of the current directory; removed at the end.
@@ -20,6 +22,10 @@ public:
     Workplace(const Workplace&) = delete;
     Workplace& operator=(const Workplace&) = delete;
     std::filesystem::path Path(std::string_view name) const { return root_ / name; }
+
+    /// Full tables, this log of 80 metres SSB, and the settings that lead to them.
+    void Furnish(const std::vector<std::string>& log, Settings& settings) const;
+    std::filesystem::path LogFile() const;
 
 private:
     std::filesystem::path root_;
@@ -34,7 +40,7 @@ public:
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    std::filesystem::path LogFile() const { return workplace_.Path("log") / "FD80mSSB.txt"; }
+    std::filesystem::path LogFile() const { return workplace_.LogFile(); }
 
     /// A key by its name: "Enter", "Backspace", "Space".
     void Press(const char* key);

@@ -4,8 +4,8 @@
 
     vatro-bench --benchmark_format=json --benchmark_repetitions=9 | bench/ratios.py
 
-A benchmark names its yardstick and its limit in its label, as "bare scan, at most 2". The median of the repetitions
-counts. Exit 1 if a limit is not kept or a yardstick is missing.
+A benchmark names its yardstick in its label, and its limit if it has one, as "vs bare scan, at most 2". The median of the
+repetitions counts. A benchmark with the counter "bytes" has a second line for its memory. Exit 1 if a limit is not kept or a yardstick is missing.
 """
 
 import json
@@ -21,10 +21,18 @@ def text(seconds):
     return f"{seconds / 1e-9:.3g} ns"
 
 
+def row(name, measured, yardstick, compared, limit):
+    """Prints a row of figures with their unit; false if the limit is not kept."""
+    ratio = measured[0] / compared[0]
+    over = limit is not None and ratio > float(limit)
+    print(f"| {name} | {measured[1]} | {yardstick} | {compared[1]} | {ratio:.3g}{' **over**' if over else ''} | {limit or '-'} |")
+    return not over
+
+
 def main():
     report = json.load(sys.stdin)
     units = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}
-    times, labels = {}, {}
+    times, memory, labels = {}, {}, {}
     for run in sorted(report["benchmarks"], key=lambda run: (run["family_index"], run["per_family_instance_index"])):
         if run.get("error_occurred"):
             sys.exit(f"{run['name']}: {run['error_message']}")
@@ -32,25 +40,28 @@ def main():
             continue
         name = re.sub(r"/(iterations|repeats|real_time|manual_time|min_time).*$", "", run["run_name"])
         times.setdefault(name, []).append(run["real_time"] * units[run["time_unit"]])
+        if "bytes" in run:
+            memory.setdefault(name, []).append(run["bytes"])
         labels[name] = run.get("label", "")
 
     fault = False
-    print("| measured | time | yardstick | time | ratio | limit |")
+    print("| measured | | yardstick | | ratio | limit |")
     print("|---|---|---|---|---|---|")
     for name, label in labels.items():
-        match = re.fullmatch(r"(.+), at most ([0-9.]+)", label)
+        match = re.fullmatch(r"vs (.+?)(?:, at most ([0-9.]+))?", label)
         if not match:
             continue
-        yardstick, limit = match[1], float(match[2])
+        yardstick, limit = match[1], match[2]
         if yardstick not in times:
             print(f"no yardstick {yardstick} for {name}", file=sys.stderr)
             fault = True
             continue
-        measured, compared = statistics.median(times[name]), statistics.median(times[yardstick])
-        ratio = measured / compared
-        over = " **over**" if ratio > limit else ""
-        print(f"| {name} | {text(measured)} | {yardstick} | {text(compared)} | {ratio:.2f}{over} | {limit:g} |")
-        fault |= ratio > limit
+        seconds = [statistics.median(times[which]) for which in (name, yardstick)]
+        fault |= not row(name, (seconds[0], text(seconds[0])), yardstick, (seconds[1], text(seconds[1])), limit)
+        if name in memory and yardstick in memory:
+            size = [statistics.median(memory[which]) for which in (name, yardstick)]
+            told = [f"{bytes / 1e6:.1f} MB" for bytes in size]
+            row("its memory", (size[0], told[0]), "its memory", (size[1], told[1]), None)
     sys.exit(1 if fault else 0)
 
 

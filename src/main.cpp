@@ -26,9 +26,10 @@ int main(int argc, char** argv) {
     vatro::QtClock clock;
     vatro::QtHelp help;
     vatro::QtInstance instance;
-    vatro::InstallPlatform({front, dialogs, settings, files, clock, help, instance,
-                            {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
+    vatro::InstallPlatform(
+        {front, dialogs, settings, files, clock, help, instance, {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
+    front.fitToScreen = true;
     front.ended = [] { QCoreApplication::quit(); };
     // The start procedure may open boxes, so it runs inside the event loop like every other event.
     QTimer::singleShot(0, &front, [] {

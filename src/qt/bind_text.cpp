@@ -21,7 +21,12 @@ constexpr int kNoLimit = 32767;
 /// The limit holds for the user; a text that the program has put in may be longer.
 void PushLimit(const TextControl& control, QLineEdit& editor) {
     const int length = static_cast<int>(control.Text().size());
-    editor.setMaxLength(control.MaxLength() > 0 ? qMax(control.MaxLength(), length) : kNoLimit);
+    const int limit = control.MaxLength() > 0 ? qMax(control.MaxLength(), length) : kNoLimit;
+    if (editor.maxLength() == limit) return;
+    // Qt puts the text in anew, with the caret at its end.
+    const QSignalBlocker quiet(editor);
+    editor.setMaxLength(limit);
+    PushSelection(control, editor);
 }
 
 void PushText(const TextControl& control, QLineEdit& editor) {

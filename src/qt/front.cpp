@@ -54,7 +54,10 @@ void QtFront::Created(Form& form) {
 }
 
 void QtFront::Destroyed(Form& form) {
-    if (const FormWindow* window = WindowOf(form); window != nullptr && window->Top() == awaited_) awaited_ = nullptr;
+    if (const FormWindow* window = WindowOf(form)) {
+        if (window->Top() == awaited_) awaited_ = nullptr;
+        fresh_.erase(window->Top());
+    }
     for (Control* control : form.Controls()) control->mirror = nullptr;
     windows_.erase(&form);
     WaitLoop::Look();
@@ -84,14 +87,28 @@ void QtFront::FollowActivation() {
     window->Top()->activateWindow();
 }
 
+void QtFront::Shown(const FormWindow& window) {
+    fresh_.insert(window.Top());
+}
+
+void QtFront::FollowAll() {
+    for (const auto& [form, window] : windows_)
+        if (form->Visible() && !window->Top()->isVisible()) window->Follow();
+}
+
 void QtFront::WindowActivated(Form& form) {
     const FormWindow* window = WindowOf(form);
-    if (window == nullptr || activationPending_) return;
-    if (awaited_ != nullptr) {
+    if (window == nullptr) return;
+    const bool fresh = fresh_.erase(window->Top()) > 0;
+    if (ActiveForm() == &form) {
         if (awaited_ == window->Top()) awaited_ = nullptr;
         return;
     }
-    if (ActiveForm() == &form) return;
+    // Out of date, or only because the window has been shown: the keys go where the program wants them.
+    if (activationPending_ || awaited_ != nullptr || fresh) {
+        Activated(form);
+        return;
+    }
     Deliver([&] {
         if (form.Reachable()) form.UserActivated();
     });
@@ -99,6 +116,7 @@ void QtFront::WindowActivated(Form& form) {
 
 void QtFront::WindowUsed(Form& form) {
     awaited_ = nullptr;
+    if (const FormWindow* window = WindowOf(form)) fresh_.erase(window->Top());
     if (ActiveForm() == &form || activationPending_) return;
     Deliver([&] {
         if (form.Reachable()) form.UserActivated();
@@ -137,6 +155,7 @@ double QtFront::TextHeight(const Font& font) {
 
 void QtFront::Ended() {
     awaited_ = nullptr;
+    fresh_.clear();
     WaitLoop::Look();
     if (ended) ended();
 }

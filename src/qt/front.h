@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 
 #include "platform/forms.h"
 #include "platform/platform.h"
@@ -44,11 +45,17 @@ public:
 
     /// Waits while a modal form is open; another wait can be put in its place.
     std::function<void(const std::function<bool()>& over)> waitModal;
+    /// A main window does not reach beyond the screen when it is first shown.
+    bool fitToScreen = false;
     /// The program has ended.
     std::function<void()> ended;
 
     // From the windows.
 
+    /// The window has been put on the screen by the program.
+    void Shown(const FormWindow& window);
+    /// The main window is on the screen: those above it may follow.
+    void FollowAll();
     void WindowActivated(Form& form);
     /// Keys or clicks have arrived at the window of this form.
     void WindowUsed(Form& form);
@@ -61,6 +68,8 @@ private:
     bool activationPending_ = false;
     /// Asked to become the active window, and not yet it: what other windows tell meanwhile is out of date.
     QWidget* awaited_ = nullptr;
+    /// Shown by the program and not active since: some window systems make every new window the active one.
+    std::set<const QWidget*> fresh_;
 };
 
 /// Gives the focus to the widget of the form's active control when the present event of Qt is over.

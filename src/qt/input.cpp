@@ -6,10 +6,12 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <algorithm>
 
 #include "qt/deliver.h"
 #include "qt/front.h"
 #include "qt/text.h"
+#include "text/codepage.h"
 
 namespace vatro {
 
@@ -44,6 +46,23 @@ std::optional<KeyCode> CodeOf(const QKeyEvent& event) {
     return Code(FromQt(text).front());
 }
 
+char AccessLetterOf(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (held != Qt::AltModifier || event.key() <= Qt::Key_Space || event.key() > 0xFF) return 0;
+    return Upper(static_cast<char>(event.key()));
+}
+
+bool KeepsKey(const Form& form, QKeyEvent& shortcutOverride) {
+    const char letter = AccessLetterOf(shortcutOverride);
+    const auto& controls = form.Controls();
+    const bool own = letter != 0 && std::any_of(controls.begin(), controls.end(), [letter](const Control* control) {
+                         return control->AccessLetter() == letter && control->Enabled() && control->Visible();
+                     });
+    if (!own && form.Kind() == FormKind::Main) return false;
+    shortcutOverride.accept();
+    return true;
+}
+
 void PushSelection(const TextControl& control, QLineEdit& editor) {
     const int start = editor.hasSelectedText() ? editor.selectionStart() : editor.cursorPosition();
     const int length = editor.hasSelectedText() ? editor.selectionLength() : 0;
@@ -64,6 +83,8 @@ Input::Input(Control& control, QWidget& widget, QLineEdit* editor)
 bool Input::eventFilter(QObject* watched, QEvent* event) {
     if (control_ == nullptr) return false;
     switch (event->type()) {
+        case QEvent::ShortcutOverride:
+            return watched == widget_ && KeepsKey(control_->Parent(), static_cast<QKeyEvent&>(*event));
         case QEvent::KeyPress:
             return watched == widget_ && TakeKeyEvent(static_cast<QKeyEvent&>(*event));
         case QEvent::InputMethod:
@@ -94,6 +115,11 @@ bool Input::TakeKeyEvent(QKeyEvent& event) {
             if (form.Reachable()) form.UserTab(back);
         });
         return true;
+    }
+    if (const char letter = AccessLetterOf(event); letter != 0) {
+        bool used = false;
+        Deliver([&] { used = form.Reachable() && form.UserAccessKey(letter); });
+        return used;
     }
     if (editor_ != nullptr && event.matches(QKeySequence::Paste)) {
         const std::string text = PastedText(QGuiApplication::clipboard()->text());

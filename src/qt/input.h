@@ -51,6 +51,12 @@ private:
 /// The code of a key press as KeyPress gets it; nothing for a key that gives no character.
 std::optional<KeyCode> CodeOf(const QKeyEvent& event);
 
+/// The letter that is pressed with Alt, upper case, or 0.
+char AccessLetterOf(const QKeyEvent& event);
+/// Whether the form gets the key before the menu's shortcuts are looked up, which then take no notice of it: an access
+/// key of its own, and every key of a window without a menu, for which Qt would ask the main window's.
+bool KeepsKey(const Form& form, QKeyEvent& shortcutOverride);
+
 /// Puts the caret and the selection of the control into its widget, unless they are there.
 void PushSelection(const TextControl& control, QLineEdit& editor);
 

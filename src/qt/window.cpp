@@ -5,11 +5,9 @@
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QScreen>
-#include <QShortcut>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <cmath>
-#include <set>
 
 #include "qt/bars.h"
 #include "qt/binder.h"
@@ -38,6 +36,11 @@ Qt::WindowFlags Flags(FormKind kind) {
     return Qt::Window;
 }
 
+/// No window is without a pixel.
+int ToLength(int twips) {
+    return qMax(1, ToPixels(twips));
+}
+
 }  // namespace
 
 int ToPixels(int twips) {
@@ -47,19 +50,6 @@ int ToPixels(int twips) {
 FormWindow::FormWindow(Form& form, QWidget* owner, QtFront& front) : form_(form), front_(front), scope_(std::make_unique<QObject>()) {
     Build(owner);
     BindForm(form, *this);
-    std::set<char> letters;
-    for (const Control* control : form.Controls()) letters.insert(control->AccessLetter());
-    letters.erase('\0');
-    for (const char letter : letters) {
-        auto* key = new QShortcut(QKeySequence(QStringLiteral("Alt+") + ToQt({&letter, 1})), top_);
-        const auto use = [this, letter] {
-            Deliver([&] {
-                if (form_.Reachable()) form_.UserAccessKey(letter);
-            });
-        };
-        connect(key, &QShortcut::activated, scope_.get(), use);
-        connect(key, &QShortcut::activatedAmbiguously, scope_.get(), use);
-    }
     Follow();
     top_->installEventFilter(this);
 }
@@ -92,6 +82,8 @@ void FormWindow::Build(QWidget* owner) {
         AddBars(form_, *window);
         window->resize(size);
         top_ = window;
+        // A side window that is shown first finds the window above which it stays.
+        window->winId();
     } else {
         content->setParent(owner, Flags(form_.Kind()));
         top_ = content;
@@ -115,7 +107,7 @@ void FormWindow::TakeDesignSize() {
     if (form_.Width() != 0 || form_.Height() != 0) return;
     const QSize size = top_->size();
     form_.SetDesignSize(size.width() * kTwipsPerPixel, size.height() * kTwipsPerPixel);
-    place_ = {form_.Left(), form_.Top(), form_.Width(), form_.Height()};
+    place_ = Told();
 }
 
 void FormWindow::Follow() {
@@ -132,18 +124,22 @@ void FormWindow::Follow() {
     FollowFocus();
 }
 
+WindowPlace FormWindow::Told() const {
+    return {form_.Left(), form_.Top(), form_.Width(), form_.Height()};
+}
+
 void FormWindow::FollowPlace() {
-    const Place told{form_.Left(), form_.Top(), form_.Width(), form_.Height()};
+    const WindowPlace told = Told();
     if (told == place_) return;
-    const bool moved = told.left != place_.left || told.top != place_.top || place_.width == 0;
+    const bool first = !placed_;
     place_ = told;
     if (placing_) return;
     placing_ = true;
-    placed_ = placed_ || moved;
+    placed_ = true;
     if (!top_->isMinimized()) {
         const QPoint at(ToPixels(told.left), ToPixels(told.top));
-        if (moved) top_->move(at);
-        const QSize size(qMax(1, ToPixels(told.width)), qMax(1, ToPixels(told.height)));
+        if (first || top_->pos() != at) top_->move(at);
+        const QSize size(ToLength(told.width), ToLength(told.height));
         if (top_->size() != size) top_->resize(size);
     }
     placing_ = false;
@@ -156,13 +152,26 @@ void FormWindow::FollowVisible() {
         top_->hide();
         return;
     }
+    // Window managers keep a window above another one only if they know that one already.
+    if (form_.Kind() == FormKind::Tool && top_->parentWidget() != nullptr && !top_->parentWidget()->isVisible()) return;
     top_->setWindowModality(form_.Modal() ? Qt::ApplicationModal : Qt::NonModal);
     placing_ = true;
     if (!placed_) PlaceInMiddle();
+    if (form_.Kind() == FormKind::Main && front_.fitToScreen) FitToScreen();
     top_->show();
     placing_ = false;
+    front_.Shown(*this);
     top_->windowHandle()->installEventFilter(this);
     TellPlace();
+    if (form_.Kind() == FormKind::Main) front_.FollowAll();
+}
+
+void FormWindow::FitToScreen() {
+    const QRect room = top_->screen()->availableGeometry();
+    // The frame is not known before the window is on the screen.
+    const int title = top_->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, top_);
+    const QSize left(room.right() - top_->x(), room.bottom() - top_->y() - title);
+    top_->resize(top_->size().boundedTo(left.expandedTo(top_->minimumSizeHint())));
 }
 
 void FormWindow::PlaceInMiddle() {
@@ -187,15 +196,32 @@ void FormWindow::FollowFocus() {
     }
 }
 
+void FormWindow::MoveByUser(int left, int top, int width, int height) {
+    placing_ = true;
+    top_->move(ToPixels(left), ToPixels(top));
+    top_->resize(ToLength(width), ToLength(height));
+    placing_ = false;
+    TellPlace({left, top, width, height});
+}
+
 void FormWindow::TellPlace() {
+    TellPlace(Told());
+}
+
+void FormWindow::TellPlace(const WindowPlace& finer) {
     if (placing_ || !top_->isVisible() || top_->isMinimized()) return;
-    const auto twips = [](int pixels, int told) { return ToPixels(told) == pixels ? told : pixels * kTwipsPerPixel; };
-    const Place now{twips(top_->pos().x(), form_.Left()), twips(top_->pos().y(), form_.Top()), twips(top_->width(), form_.Width()),
-                    twips(top_->height(), form_.Height())};
-    const Place told{form_.Left(), form_.Top(), form_.Width(), form_.Height()};
-    if (now == told) return;
+    // What the form makes of its new place is shown, but not told again: it may never be content with what it gets.
+    if (telling_) return;
+    const auto at = [](int pixels, int twips) { return ToPixels(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
+    const auto length = [](int pixels, int twips) { return ToLength(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
+    const WindowPlace now{at(top_->pos().x(), finer.left), at(top_->pos().y(), finer.top), length(top_->width(), finer.width),
+                          length(top_->height(), finer.height)};
+    if (now == Told()) return;
     place_ = now;
+    telling_ = true;
+    const QPointer<FormWindow> self(this);
     Deliver([&] { form_.UserPlaced(now.left, now.top, now.width, now.height); });
+    if (self != nullptr) telling_ = false;
 }
 
 void FormWindow::TellState() {
@@ -207,6 +233,12 @@ void FormWindow::TellState() {
 
 bool FormWindow::TakeKey(const QKeyEvent& event) {
     // Only keys that no control has taken come here.
+    if (const char letter = AccessLetterOf(event); letter != 0) {
+        Deliver([&] {
+            if (form_.Reachable()) form_.UserAccessKey(letter);
+        });
+        return true;
+    }
     const std::optional<KeyCode> key = CodeOf(event);
     if (!key || form_.ActiveControl() != nullptr) return false;
     Deliver([&] {
@@ -245,6 +277,8 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
                 if (form_.Reachable()) form_.UserClicked();
             });
             return true;
+        case QEvent::ShortcutOverride:
+            return KeepsKey(form_, static_cast<QKeyEvent&>(*event));
         case QEvent::KeyPress:
             return TakeKey(static_cast<QKeyEvent&>(*event));
         default:

@@ -26,6 +26,15 @@ class QtFront;
 inline constexpr int kTwipsPerPixel = 15;
 int ToPixels(int twips);
 
+/// In twips.
+struct WindowPlace {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    friend bool operator==(const WindowPlace&, const WindowPlace&) = default;
+};
+
 class FormWindow : public QObject {
     Q_OBJECT
 
@@ -43,6 +52,8 @@ public:
     /// Takes over what the form says of its frame.
     void Follow();
     void FollowFocus();
+    /// The user puts the window there; in twips, which are finer than what the screen can show.
+    void MoveByUser(int left, int top, int width, int height);
     /// The size of the layout becomes that of a form that has none yet.
     void TakeDesignSize();
 
@@ -58,9 +69,12 @@ public:
 
 private:
     void Build(QWidget* owner);
+    WindowPlace Told() const;
     void FollowPlace();
     void FollowVisible();
     void PlaceInMiddle();
+    void FitToScreen();
+    void TellPlace(const WindowPlace& finer);
     void TellPlace();
     void TellState();
     bool TakeKey(const class QKeyEvent& event);
@@ -73,12 +87,10 @@ private:
     std::vector<QPointer<Input>> inputs_;
     QStringList problems_;
     class ColumnHead* captionHead_ = nullptr;
-    /// The place as it was last taken over from the form.
-    struct Place {
-        int left = 0, top = 0, width = 0, height = 0;
-        friend bool operator==(const Place&, const Place&) = default;
-    } place_;
+    /// As it was last taken over from the form.
+    WindowPlace place_;
     bool placing_ = false;
+    bool telling_ = false;
     /// The form has said where it stands.
     bool placed_ = false;
 };

@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: MIT
+//
+// What the operator waits for: from the start to the painted window, from a key to the painted list. The yardsticks are
+// windows of the toolkit alone.
+//
+//   vatro-bench-window --paint empty               a process that paints its window, prints its memory in bytes and ends
+//   vatro-bench-window --paint program SETTINGS    the same with the program, as the settings in this file have it
+#include <benchmark/benchmark.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QMainWindow>
+#include <QStringListModel>
+#include <QVBoxLayout>
+#include <chrono>
+#include <fstream>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "disk/disk_files.h"
+#include "entry/frmB4.h"
+#include "entry/frmMain.h"
+#include "frame/start.h"
+#include "platform/program.h"
+#include "program.h"
+#include "qt/application.h"
+#include "qt/clock.h"
+#include "qt/deliver.h"
+#include "qt/front.h"
+#include "qt/settings_store.h"
+#include "sample.h"
+#include "unattended.h"
+
+namespace vatro::bench {
+
+namespace {
+
+/// Delivers events until a widget has been painted.
+class UntilPainted : public QObject {
+public:
+    explicit UntilPainted(QWidget& widget) : widget_(widget) { widget.installEventFilter(this); }
+    void Wait() {
+        const auto start = std::chrono::steady_clock::now();
+        while (!painted_) {
+            QCoreApplication::processEvents();
+            if (std::chrono::steady_clock::now() - start > std::chrono::seconds(10)) throw std::runtime_error("nothing is painted");
+        }
+        // The filter sees the event before the widget does; the next round comes behind it.
+        QCoreApplication::processEvents();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == &widget_ && event->type() == QEvent::Paint) painted_ = true;
+        return false;
+    }
+
+private:
+    QWidget& widget_;
+    bool painted_ = false;
+};
+
+/// What paints of a list.
+QWidget& Surface(QWidget* widget) {
+    auto* const area = qobject_cast<QAbstractScrollArea*>(widget);
+    if (area == nullptr) throw std::runtime_error("a list without a widget");
+    return *area->viewport();
+}
+
+/// The program in its window.
+class Windows {
+public:
+    explicit Windows(const QString& settings) : settings_(settings) {}
+    ~Windows() {
+        if (ProgramRuns()) EndProgram();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+    Windows(const Windows&) = delete;
+    Windows& operator=(const Windows&) = delete;
+
+    /// Returns when the log is painted.
+    void Start() {
+        InstallPlatform({front_, unattended_, settings_, files_, clock_, help_, unattended_, Version{}});
+        BeginProgram();
+        Deliver([] { StartProgram(); });
+        if (frmMain->List1.ListCount() != kLogLines) throw std::runtime_error("the log was not read");
+        UntilPainted(Surface(WidgetOf(frmMain->List1))).Wait();
+    }
+    QWidget* WidgetOf(const Control& control) const { return front_.WidgetOf(control); }
+
+private:
+    QtSettings settings_;
+    QtFront front_;
+    Unattended unattended_;
+    DiskFiles files_;
+    QtClock clock_;
+    NoHelp help_;
+};
+
+void PaintEmpty(QMainWindow& window) {
+    window.resize(800, 600);
+    window.show();
+    UntilPainted(window).Wait();
+}
+
+/// A station with the long log, and the settings that lead to it.
+class Station {
+public:
+    Station() {
+        QtSettings settings(SettingsFile());
+        workplace_.Furnish(SampleLog(), settings);
+    }
+    QString SettingsFile() const { return QString::fromStdString(workplace_.Path("vatro.conf").string()); }
+
+private:
+    Workplace workplace_;
+};
+
+/// Runs this program again with these arguments, up to its end; it tells its memory.
+void RunSelf(benchmark::State& state, std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), "/proc/self/exe");
+    std::vector<char*> argv;
+    for (std::string& argument : arguments) argv.push_back(argument.data());
+    argv.push_back(nullptr);
+
+    int told[2];
+    if (pipe(told) != 0) return state.SkipWithError("no pipe");
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, told[1], STDOUT_FILENO);
+    pid_t child = 0;
+    int status = 1;
+    if (posix_spawn(&child, argv[0], &actions, nullptr, argv.data(), environ) == 0) waitpid(child, &status, 0);
+    posix_spawn_file_actions_destroy(&actions);
+    char memory[32]{};
+    const bool heard = status == 0 && read(told[0], memory, sizeof memory - 1) > 0;
+    close(told[0]);
+    close(told[1]);
+    if (!heard) return state.SkipWithError("the process has failed");
+    state.counters["bytes"] = std::stod(memory);
+}
+
+void EmptyWindow(benchmark::State& state) {
+    for (auto _ : state) RunSelf(state, {"--paint", "empty"});
+}
+
+void StartToPainted(benchmark::State& state) {
+    const Station station;
+    state.SetLabel("vs process to an empty painted window");
+    for (auto _ : state) RunSelf(state, {"--paint", "program", station.SettingsFile().toStdString()});
+}
+
+void PressKey(QWidget& field, Qt::Key key, const QString& text) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&field, &press);
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&field, &release);
+}
+
+/// A key that fills the list and the one that empties it, each up to the painted list.
+void Keys(benchmark::State& state, QWidget& field, QWidget& list) {
+    for (auto _ : state) {
+        UntilPainted filled(list);
+        PressKey(field, Qt::Key_L, QStringLiteral("L"));
+        filled.Wait();
+        UntilPainted emptied(list);
+        PressKey(field, Qt::Key_Backspace, QStringLiteral("\b"));
+        emptied.Wait();
+    }
+}
+
+/// Contacts of the log whose call holds "1L".
+constexpr int kFound = 26;
+
+void BareKey(benchmark::State& state) {
+    QMainWindow window;
+    QStringListModel model;
+    auto* const content = new QWidget;
+    auto* const field = new QLineEdit;
+    auto* const list = new QListView;
+    auto* const layout = new QVBoxLayout(content);
+    layout->addWidget(list);
+    layout->addWidget(field);
+    list->setModel(&model);
+    list->setUniformItemSizes(true);
+    window.setCentralWidget(content);
+    QStringList rows;
+    for (int row = 0; row < kFound; ++row) rows.append(QStringLiteral("DL9QQQ         0001/0345 12:07"));
+    QObject::connect(field, &QLineEdit::textChanged, &model,
+                     [&](const QString& text) { model.setStringList(text.size() > 1 ? rows : QStringList()); });
+    PaintEmpty(window);
+    field->setFocus();
+    PressKey(*field, Qt::Key_1, QStringLiteral("1"));
+    Keys(state, *field, *list->viewport());
+}
+
+void KeyToPainted(benchmark::State& state) {
+    const Station station;
+    Windows windows(station.SettingsFile());
+    windows.Start();
+    QWidget* const field = windows.WidgetOf(frmMain->Text1[1]);
+    PressKey(*field, Qt::Key_1, QStringLiteral("1"));
+    PressKey(*field, Qt::Key_L, QStringLiteral("L"));
+    if (frmB4->List1.ListCount() != kFound) return state.SkipWithError("the list is not as long as the bare one");
+    PressKey(*field, Qt::Key_Backspace, QStringLiteral("\b"));
+    state.SetLabel("vs key in a bare field over a list");
+    Keys(state, *field, Surface(windows.WidgetOf(frmB4->List1)));
+}
+
+BENCHMARK(EmptyWindow)->Name("process to an empty painted window")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(StartToPainted)->Name("process to the painted log")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BareKey)->Name("key in a bare field over a list")->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(KeyToPainted)->Name("key to painted list")->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+/// Resident memory of this process, in bytes.
+long Memory() {
+    std::ifstream statm("/proc/self/statm");
+    long pages = 0;
+    long resident = 0;
+    statm >> pages >> resident;
+    return resident * sysconf(_SC_PAGESIZE);
+}
+
+/// Ends the process as soon as the window is painted: how long it takes to go is not asked.
+[[noreturn]] void Paint(const std::string& settings) {
+    std::optional<QMainWindow> window;
+    std::optional<Windows> windows;
+    if (settings.empty())
+        PaintEmpty(window.emplace());
+    else
+        windows.emplace(QString::fromStdString(settings)).Start();
+    const std::string memory = std::to_string(Memory()) + "\n";
+    const bool told = write(STDOUT_FILENO, memory.data(), memory.size()) > 0;
+    _exit(told ? 0 : 1);
+}
+
+}  // namespace
+
+}  // namespace vatro::bench
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    vatro::PrepareApplication();
+    if (argc > 2 && std::string(argv[1]) == "--paint") vatro::bench::Paint(argc > 3 ? argv[3] : "");
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,347 @@
+// SPDX-License-Identifier: MIT
+#include "qt/window_driver.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStyle>
+#include <QStyleOption>
+#include <QTest>
+#include <QToolBar>
+#include <QWindow>
+#include <array>
+#include <utility>
+
+#include "platform/program.h"
+#include "qt/bars.h"
+#include "qt/dialogs.h"
+#include "qt/item_list.h"
+#include "qt/text.h"
+#include "qt/window.h"
+#include "text/codepage.h"
+
+namespace vatro {
+
+namespace {
+
+/// Until the window system has moved the keys to another window, in milliseconds.
+constexpr int kPatience = 3000;
+/// Milliseconds between two clicks that belong to different things.
+constexpr int kShortly = 25;
+
+Qt::Key QtKey(const KeyStroke& key) {
+    static const std::array<std::pair<std::string_view, Qt::Key>, 14> kNames{{{"Enter", Qt::Key_Return},
+                                                                              {"Esc", Qt::Key_Escape},
+                                                                              {"Space", Qt::Key_Space},
+                                                                              {"Tab", Qt::Key_Tab},
+                                                                              {"Backspace", Qt::Key_Backspace},
+                                                                              {"Delete", Qt::Key_Delete},
+                                                                              {"Home", Qt::Key_Home},
+                                                                              {"End", Qt::Key_End},
+                                                                              {"Left", Qt::Key_Left},
+                                                                              {"Right", Qt::Key_Right},
+                                                                              {"Up", Qt::Key_Up},
+                                                                              {"Down", Qt::Key_Down},
+                                                                              {"PageUp", Qt::Key_PageUp},
+                                                                              {"PageDown", Qt::Key_PageDown}}};
+    if (key.name.empty()) return static_cast<Qt::Key>(ToQt({&key.character, 1}).toUpper().at(0).unicode());
+    for (const auto& [name, code] : kNames)
+        if (key.name == name) return name == "Tab" && key.shift ? Qt::Key_Backtab : code;
+    if (key.name[0] == 'F') return static_cast<Qt::Key>(Qt::Key_F1 + std::stoi(key.name.substr(1)) - 1);
+    throw CannotDeliver("there is no key " + key.name);
+}
+
+QString KeyText(const KeyStroke& key) {
+    if (key.ctrl || key.alt) return {};
+    if (key.name.empty()) return ToQt({&key.character, 1});
+    if (key.name == "Enter") return QStringLiteral("\r");
+    if (key.name == "Esc") return QStringLiteral("\x1b");
+    if (key.name == "Space") return QStringLiteral(" ");
+    if (key.name == "Backspace") return QStringLiteral("\b");
+    return {};
+}
+
+void Tap(QWindow& window, Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers) {
+    const QPointer<QWindow> alive(&window);
+    QTest::sendKeyEvent(QTest::Press, &window, key, text, modifiers);
+    if (alive != nullptr) QTest::sendKeyEvent(QTest::Release, alive, key, text, modifiers);
+}
+
+/// A press and a release, as far as the window is there for both.
+void ClickAt(QWidget& widget, const QPoint& at) {
+    const QPointer<QWindow> window(widget.window()->windowHandle());
+    if (window == nullptr || !widget.isVisible()) throw CannotDeliver("a widget is not shown");
+    const QPoint there = widget.mapTo(widget.window(), at);
+    QTest::mousePress(window.data(), Qt::LeftButton, {}, there);
+    if (window != nullptr) QTest::mouseRelease(window.data(), Qt::LeftButton, {}, there);
+}
+
+/// Behind the last character of a field.
+QPoint BehindText(const QLineEdit& field) {
+    return {field.width() - 3, field.height() / 2};
+}
+
+QMainWindow& MainOf(QWidget& window) {
+    auto* main = qobject_cast<QMainWindow*>(&window);
+    if (main == nullptr) throw CannotDeliver("the window has no menu");
+    return *main;
+}
+
+QMessageBox::ButtonRole Role(Answer answer) {
+    return answer == Answer::Ok ? QMessageBox::AcceptRole : answer == Answer::Yes ? QMessageBox::YesRole : QMessageBox::NoRole;
+}
+
+}  // namespace
+
+WindowDriver::WindowDriver() {
+    front_.waitModal = [this](const std::function<bool()>& over) { playUntil(over); };
+}
+
+WindowDriver::~WindowDriver() {
+    DropBox();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+QWidget& WindowDriver::WindowOf(const Form& form) const {
+    const FormWindow* window = front_.WindowOf(form);
+    if (window == nullptr || !window->Top()->isVisible()) throw CannotDeliver(form.Name() + " has no window on the screen");
+    return *window->Top();
+}
+
+QWidget& WindowDriver::WidgetOf(const Control& control) const {
+    QWidget* widget = front_.WidgetOf(control);
+    if (widget == nullptr) throw CannotDeliver(control.FullName() + " has no widget");
+    if (!widget->isVisible() || !widget->isEnabled()) throw CannotDeliver(control.FullName() + " is not shown or disabled on the screen");
+    return *widget;
+}
+
+QWindow& WindowDriver::KeyWindow() const {
+    const Form* form = ActiveForm();
+    if (form == nullptr) throw CannotDeliver("no form is active");
+    QWidget& window = WindowOf(*form);
+    if (QApplication::activePopupWidget() == nullptr && QApplication::activeWindow() != &window)
+        throw CannotDeliver(form->Name() + " is not the active window");
+    return *window.windowHandle();
+}
+
+// --- Keys
+
+void WindowDriver::Press(const KeyStroke& key) {
+    Qt::KeyboardModifiers modifiers;
+    if (key.shift) modifiers |= Qt::ShiftModifier;
+    if (key.ctrl) modifiers |= Qt::ControlModifier;
+    if (key.alt) modifiers |= Qt::AltModifier;
+    Tap(KeyWindow(), QtKey(key), KeyText(key), modifiers);
+}
+
+void WindowDriver::Paste(std::string_view text) {
+    QApplication::clipboard()->setText(ToQt(text));
+    Tap(KeyWindow(), Qt::Key_V, {}, Qt::ControlModifier);
+}
+
+// --- Clicks
+
+void WindowDriver::Focus(Control& control) {
+    QWidget& widget = WidgetOf(control);
+    if (auto* field = qobject_cast<QLineEdit*>(&widget)) {
+        ClickAt(*field, BehindText(*field));
+    } else if (auto* combo = qobject_cast<QComboBox*>(&widget)) {
+        ClickAt(*combo->lineEdit(), BehindText(*combo->lineEdit()));
+    } else if (qobject_cast<ItemList*>(&widget) != nullptr) {
+        // The list's frame.
+        ClickAt(widget, {0, 0});
+    } else {
+        // Pressed, and let go beside it, a button does nothing.
+        QWindow* window = widget.window()->windowHandle();
+        QTest::mousePress(window, Qt::LeftButton, {}, widget.mapTo(widget.window(), widget.rect().center()));
+        QTest::mouseMove(window, widget.mapTo(widget.window(), QPoint(-4, -4)));
+        QTest::mouseRelease(window, Qt::LeftButton, {}, widget.mapTo(widget.window(), QPoint(-4, -4)));
+    }
+}
+
+void WindowDriver::Click(Control& control) {
+    QWidget& widget = WidgetOf(control);
+    const QPoint at =
+        qobject_cast<QCheckBox*>(&widget) != nullptr ? QPoint(widget.height() / 2, widget.height() / 2) : widget.rect().center();
+    ClickAt(widget, at);
+}
+
+void WindowDriver::ClickForm(Form& form) {
+    ClickAt(WindowOf(form), {1, 1});
+}
+
+void WindowDriver::Pick(Control& control, int row) {
+    QWidget& widget = WidgetOf(control);
+    if (auto* list = qobject_cast<ItemList*>(&widget)) {
+        const QModelIndex index = list->model()->index(row, 0);
+        list->scrollTo(index);
+        ClickAt(*list->viewport(), list->visualRect(index).center());
+        return;
+    }
+    auto* combo = qobject_cast<QComboBox*>(&widget);
+    if (combo == nullptr) throw CannotDeliver(control.FullName() + " is no list");
+    // For so long the open list takes a button let go for the end of the click that has opened it.
+    const int interval = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(kShortly);
+    QStyleOptionComboBox option;
+    option.initFrom(combo);
+    const QRect arrow = combo->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, combo);
+    ClickAt(*combo, arrow.center());
+    QTest::qWait(2 * kShortly);
+    QApplication::setDoubleClickInterval(interval);
+    QAbstractItemView* view = combo->view();
+    if (!view->isVisible()) throw CannotDeliver("the list of " + control.FullName() + " does not open");
+    const QModelIndex index = combo->model()->index(row, 0);
+    view->scrollTo(index);
+    const QPoint at = view->visualRect(index).center();
+    QTest::mouseMove(view->window()->windowHandle(), view->viewport()->mapTo(view->window(), at));
+    ClickAt(*view->viewport(), at);
+}
+
+void WindowDriver::DoubleClick(ListBox& list, int row) {
+    auto& view = dynamic_cast<ItemList&>(WidgetOf(list));
+    const QModelIndex index = view.model()->index(row, 0);
+    view.scrollTo(index);
+    const QPoint at = view.viewport()->mapTo(view.window(), view.visualRect(index).center());
+    QTest::mouseDClick(view.window()->windowHandle(), Qt::LeftButton, {}, at);
+}
+
+// --- Bars
+
+void WindowDriver::Choose(MenuItem& item) {
+    QMainWindow& main = MainOf(WindowOf(item.Parent()));
+    std::vector<const MenuItem*> road;
+    for (const MenuItem* step = &item; step != nullptr; step = step->Menu()) road.insert(road.begin(), step);
+    QAction* action = ActionOf(*road.front(), main);
+    ClickAt(*main.menuBar(), main.menuBar()->actionGeometry(action).center());
+    for (std::size_t i = 1; i < road.size(); ++i) {
+        QMenu* menu = action->menu();
+        action = ActionOf(*road[i], main);
+        if (menu == nullptr || !menu->isVisible() || !action->isVisible() || !action->isEnabled()) {
+            while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+            throw CannotDeliver(ToUtf8(road[i]->Name()) + " cannot be reached in the menu");
+        }
+        ClickAt(*menu, menu->actionGeometry(action).center());
+    }
+}
+
+void WindowDriver::PressTool(Toolbar& toolbar, int index) {
+    auto& bar = dynamic_cast<QToolBar&>(WidgetOf(toolbar));
+    QAction* action = ActionOf(index, bar);
+    QWidget* button = action != nullptr ? bar.widgetForAction(action) : nullptr;
+    if (button == nullptr || !button->isVisible()) throw CannotDeliver("there is no button " + std::to_string(index));
+    ClickAt(*button, button->rect().center());
+}
+
+// --- The window's frame
+
+void WindowDriver::Close(Form& form) {
+    WindowOf(form).windowHandle()->close();
+}
+
+void WindowDriver::Minimise(Form& form) {
+    WindowOf(form).showMinimized();
+}
+
+void WindowDriver::Restore(Form& form) {
+    QWidget& window = WindowOf(form);
+    window.showNormal();
+    window.activateWindow();
+}
+
+void WindowDriver::Place(Form& form, int left, int top, int width, int height) {
+    WindowOf(form);
+    front_.WindowOf(form)->MoveByUser(left, top, width, height);
+}
+
+// --- Boxes
+
+void WindowDriver::OpenBox(const MessageBox& box) {
+    box_ = MakeBox(box, DialogOwner());
+    box_->setWindowModality(Qt::ApplicationModal);
+    box_->show();
+}
+
+void WindowDriver::AnswerBox(Answer answer) {
+    if (box_ == nullptr || !box_->isVisible()) throw CannotDeliver("no message box is open");
+    for (QAbstractButton* button : box_->buttons()) {
+        if (box_->buttonRole(button) != Role(answer)) continue;
+        ClickAt(*button, button->rect().center());
+        if (AnswerOf(*box_) != answer || box_->isVisible()) throw CannotDeliver("the box does not close with this answer");
+        box_->deleteLater();
+        box_ = nullptr;
+        if (Form* form = ActiveForm()) front_.Activated(*form);
+        return;
+    }
+    throw CannotDeliver("the message box has no such button");
+}
+
+void WindowDriver::DropBox() {
+    delete box_;
+}
+
+// --- Rest
+
+bool WindowDriver::AtRest() const {
+    const Form* form = ActiveForm();
+    const FormWindow* window = form != nullptr ? front_.WindowOf(*form) : nullptr;
+    const QWidget* wanted = box_ != nullptr ? box_.data() : window != nullptr ? window->Top() : nullptr;
+    return wanted == nullptr || !wanted->isVisible() || wanted->isMinimized() || QApplication::activePopupWidget() != nullptr ||
+           (!front_.ActivationPending() && QApplication::activeWindow() == wanted);
+}
+
+void WindowDriver::Settle() {
+    QElapsedTimer waited;
+    waited.start();
+    do {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    } while (!AtRest() && waited.elapsed() < kPatience);
+}
+
+std::string WindowDriver::Mismatch(const Control& control) {
+    if (const auto* item = dynamic_cast<const MenuItem*>(&control)) {
+        const FormWindow* window = front_.WindowOf(item->Parent());
+        const QAction* action = ActionOf(*item, MainOf(*window->Top()));
+        if (action == nullptr) return "no entry in the menu";
+        if (action->text() != ToQt(item->Caption())) return "the text is another one";
+        if (action->isChecked() != item->Ticked()) return "the tick is another one";
+        // An entry of a disabled menu says so itself.
+        return action->isEnabled() == item->Enabled() ? "" : "it is disabled on one side only";
+    }
+    const QWidget* widget = front_.WidgetOf(control);
+    if (widget == nullptr) return dynamic_cast<const Timer*>(&control) != nullptr ? "" : "no widget";
+    return Difference(control, *widget);
+}
+
+std::string WindowDriver::Mismatch(const Form& form) {
+    const FormWindow* window = front_.WindowOf(form);
+    if (window == nullptr) return "no window";
+    const QWidget& top = *window->Top();
+    if (top.windowTitle() != ToQt(form.Caption())) return "the caption is another one";
+    if (top.isVisible() != form.Visible()) return "one is hidden, the other shown";
+    if (!top.isVisible() || top.isMinimized()) return {};
+    if (top.isEnabled() != form.Enabled()) return "one is disabled, the other enabled";
+    if (top.pos() != QPoint(ToPixels(form.Left()), ToPixels(form.Top()))) return "the place is another one";
+    const QSize size(qMax(1, ToPixels(form.Width())), qMax(1, ToPixels(form.Height())));
+    if (top.size() != size) return "the size is another one";
+    const Control* active = form.ActiveControl();
+    const QWidget* focused = top.focusWidget();
+    if (&form == ActiveForm() && active != nullptr && active->Enabled() && focused != front_.WidgetOf(*active))
+        return "the focus is elsewhere";
+    return {};
+}
+
+void WindowDriver::Shot(const std::string& file) {
+    SaveWindows(file);
+}
+
+}  // namespace vatro

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+//
+// The window front under the player of scenarios: every event is a real key or click on a real window.
+#pragma once
+
+#include <QPoint>
+#include <QPointer>
+
+#include "qt/front.h"
+#include "replay/driver.h"
+
+class QMessageBox;
+class QWidget;
+class QWindow;
+
+namespace vatro {
+
+class WindowDriver : public Driver {
+public:
+    WindowDriver();
+    ~WindowDriver() override;
+
+    Front& ProgramFront() override { return front_; }
+
+    void Press(const KeyStroke& key) override;
+    /// Through the clipboard and Ctrl+V.
+    void Paste(std::string_view text) override;
+    void Focus(Control& control) override;
+    void Click(Control& control) override;
+    void ClickForm(Form& form) override;
+    void Pick(Control& control, int row) override;
+    void DoubleClick(ListBox& list, int row) override;
+    void Choose(MenuItem& item) override;
+    void PressTool(Toolbar& toolbar, int index) override;
+    void Close(Form& form) override;
+    void Minimise(Form& form) override;
+    void Restore(Form& form) override;
+    void Place(Form& form, int left, int top, int width, int height) override;
+
+    void OpenBox(const MessageBox& box) override;
+    void AnswerBox(Answer answer) override;
+    void DropBox() override;
+
+    void Settle() override;
+    std::string Mismatch(const Control& control) override;
+    std::string Mismatch(const Form& form) override;
+    void Shot(const std::string& file) override;
+
+private:
+    QWidget& WindowOf(const Form& form) const;
+    QWidget& WidgetOf(const Control& control) const;
+    /// The window that has the keys, which must be the one that the program means.
+    QWindow& KeyWindow() const;
+    bool AtRest() const;
+
+    QtFront front_;
+    QPointer<QMessageBox> box_;
+};
+
+/// What of the control its widget shows otherwise; empty if nothing.
+std::string Difference(const Control& control, const QWidget& widget);
+/// All visible windows at their places on the screen, in one picture.
+void SaveWindows(const std::string& file);
+
+}  // namespace vatro

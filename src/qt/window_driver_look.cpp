@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPixmap>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "platform/forms.h"
+#include "qt/bars.h"
+#include "qt/column_head.h"
+#include "qt/fields.h"
+#include "qt/item_list.h"
+#include "qt/text.h"
+#include "qt/window_driver.h"
+
+namespace vatro {
+
+namespace {
+
+std::string Differs(const TextControl& control, const QLineEdit& editor) {
+    if (editor.text() != ToQt(control.Text())) return "the text is \"" + editor.text().toStdString() + "\"";
+    const int start = editor.hasSelectedText() ? editor.selectionStart() : editor.cursorPosition();
+    const auto length = editor.hasSelectedText() ? static_cast<int>(editor.selectionLength()) : 0;
+    if (start != control.SelStart() || length != control.SelLength())
+        return "the selection is " + std::to_string(start) + " " + std::to_string(length);
+    if (editor.isReadOnly() != control.Locked()) return "it is locked on one side only";
+    return {};
+}
+
+std::string Differs(const ComboBox& control, const QComboBox& widget) {
+    if (widget.count() != control.ListCount()) return "there are other items";
+    for (int row = 0; row < widget.count(); ++row)
+        if (widget.itemText(row) != ToQt(control.List(row))) return "item " + std::to_string(row) + " is another one";
+    return Differs(control, *widget.lineEdit());
+}
+
+std::string Differs(const ListBox& control, const ItemList& widget) {
+    const QAbstractItemModel& model = *widget.model();
+    if (model.rowCount() != control.ListCount()) return "there are other rows";
+    for (int row = 0; row < model.rowCount(); ++row)
+        if (model.index(row, 0).data().toString() != ToQt(control.List(row))) return "row " + std::to_string(row) + " is another one";
+    const QModelIndexList selected = widget.selectionModel()->selectedIndexes();
+    const int row = selected.isEmpty() ? -1 : selected.front().row();
+    return row == control.ListIndex() ? "" : "row " + std::to_string(row) + " is selected";
+}
+
+std::string Differs(const Label& control, const QWidget& widget) {
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    const auto* head = qobject_cast<const ColumnHead*>(&widget);
+    const QString shown = label != nullptr ? label->text() : head != nullptr ? head->Caption() : QString();
+    return shown == ToQt(control.Caption()) ? "" : "the text is \"" + shown.toStdString() + "\"";
+}
+
+std::string Differs(const Toolbar& control, const QToolBar& bar) {
+    for (const Toolbar::ToolButton& button : control.ToolButtons()) {
+        const QAction* action = ActionOf(button.index, bar);
+        if (action != nullptr && (action->isChecked() != button.pressed || action->isVisible() != button.visible))
+            return "button " + std::to_string(button.index) + " is another one";
+    }
+    return {};
+}
+
+std::string Differs(const StatusBar& control, const QStatusBar& bar) {
+    const QList<StatusPanel*> panels = PanelsOf(bar);
+    if (panels.size() != static_cast<qsizetype>(control.Panels().size())) return "there are other panels";
+    for (std::size_t number = 1; number <= control.Panels().size(); ++number)
+        if (panels[static_cast<qsizetype>(number) - 1]->PanelText() != ToQt(control.Panel(number)))
+            return "panel " + std::to_string(number) + " is another one";
+    return {};
+}
+
+}  // namespace
+
+std::string Difference(const Control& control, const QWidget& widget) {
+    if (widget.isHidden() == control.Visible()) return "one is hidden, the other shown";
+    if (control.Parent().Enabled() && widget.isEnabled() != control.Enabled()) return "one is disabled, the other enabled";
+    if (const auto* box = dynamic_cast<const ComboBox*>(&control)) return Differs(*box, dynamic_cast<const QComboBox&>(widget));
+    if (const auto* text = dynamic_cast<const TextControl*>(&control)) return Differs(*text, dynamic_cast<const QLineEdit&>(widget));
+    if (const auto* list = dynamic_cast<const ListBox*>(&control)) return Differs(*list, dynamic_cast<const ItemList&>(widget));
+    if (const auto* label = dynamic_cast<const Label*>(&control)) return Differs(*label, widget);
+    if (const auto* bar = dynamic_cast<const Toolbar*>(&control)) return Differs(*bar, dynamic_cast<const QToolBar&>(widget));
+    if (const auto* bar = dynamic_cast<const StatusBar*>(&control)) return Differs(*bar, dynamic_cast<const QStatusBar&>(widget));
+    if (const auto* check = dynamic_cast<const CheckBox*>(&control))
+        if (dynamic_cast<const QAbstractButton&>(widget).isChecked() != check->Value()) return "the tick is another one";
+    if (const auto* button = dynamic_cast<const Button*>(&control))
+        if (dynamic_cast<const QAbstractButton&>(widget).text() != ToQt(button->Caption())) return "the text is another one";
+    return {};
+}
+
+void SaveWindows(const std::string& file) {
+    QRect all;
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && !window->isMinimized()) all = all.united(window->geometry());
+    if (all.isEmpty()) throw CannotDeliver("no window is shown");
+    const double ratio = qApp->devicePixelRatio();
+    QPixmap picture(all.size() * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::darkGray);
+    QPainter painter(&picture);
+    // Main windows, then those that stay above them, then the one in front.
+    const auto layer = [](const QWidget& window) {
+        if (&window == QApplication::activePopupWidget()) return 3;
+        if (window.isModal()) return 2;
+        return window.parentWidget() != nullptr ? 1 : 0;
+    };
+    for (int at = 0; at <= 3; ++at)
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window->isVisible() && !window->isMinimized() && layer(*window) == at)
+                painter.drawPixmap(window->geometry().topLeft() - all.topLeft(), window->grab());
+    painter.end();
+    if (!picture.save(QString::fromStdString(file), "PNG")) throw CannotDeliver("cannot write " + file);
+}
+
+}  // namespace vatro
