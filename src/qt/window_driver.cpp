@@ -289,6 +289,7 @@ void WindowDriver::DropBox() {
     if (boxes_.empty()) return;
     delete boxes_.back();
     boxes_.pop_back();
+    if (!boxes_.empty() && boxes_.back() != nullptr) boxes_.back()->activateWindow();
 }
 
 // --- Rest
