@@ -84,6 +84,12 @@ void TextControl::SetMaxLength(int length) {
     Tell(Aspect::MaxLength);
 }
 
+void TextControl::SetLocked(bool locked) {
+    if (locked_ == locked) return;
+    locked_ = locked;
+    Tell(Aspect::Locked);
+}
+
 void TextControl::Select(int start, int length) {
     const int size = static_cast<int>(text_.size());
     selStart_ = std::clamp(start, 0, size);

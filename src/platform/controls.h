@@ -50,6 +50,7 @@ enum class Aspect {
     Text,
     Selection,
     MaxLength,
+    Locked,
     Enabled,
     Visible,
     ToolTip,
@@ -145,7 +146,7 @@ public:
     void SetMaxLength(int length);
     /// Keys and paste do not change the text.
     bool Locked() const { return locked_; }
-    void SetLocked(bool locked) { locked_ = locked; }
+    void SetLocked(bool locked);
 
     int SelStart() const { return selStart_; }
     int SelLength() const { return selLength_; }

@@ -2,16 +2,19 @@
 #include "qt/bars.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
 #include "platform/forms.h"
 #include "qt/deliver.h"
 #include "qt/fields.h"
+#include "qt/front.h"
 #include "qt/text.h"
 #include "qt/window.h"
 
@@ -97,6 +100,13 @@ void BindMenu(Form& form, QMainWindow& window, QObject& scope) {
         if (item == nullptr || item->Menu() != nullptr) continue;
         QMenu* menu = window.menuBar()->addMenu(ToQt(item->Caption()));
         QAction* action = AddMenu(*item, *menu, scope);
+        // A menu left without a choice gives the keys back at once; Qt would keep them in the menu bar.
+        QObject::connect(menu, &QMenu::aboutToHide, &scope, [&form] {
+            QTimer::singleShot(0, qApp, [name = form.Name()] {
+                const FormSlotBase* slot = FindFormSlot(name);
+                if (slot != nullptr && slot->Loaded() && QApplication::activePopupWidget() == nullptr) FollowFocusSoon(*slot->Peek());
+            });
+        });
         action->setObjectName(ObjectName(*item));
         action->setEnabled(item->Enabled());
         action->setVisible(item->Visible());

@@ -45,6 +45,7 @@ void FollowEditor(const TextControl& control, QLineEdit& editor, Aspect aspect) 
     if (aspect == Aspect::Text) PushText(control, editor);
     if (aspect == Aspect::Selection) PushSelection(control, editor);
     if (aspect == Aspect::MaxLength) PushLimit(control, editor);
+    if (aspect == Aspect::Locked) editor.setReadOnly(control.Locked());
 }
 
 /// What the user does in the editor by key, paste, drop or undo, and where the caret goes.

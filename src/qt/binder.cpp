@@ -46,6 +46,13 @@ bool HasWidget(const Control& control) {
     return dynamic_cast<const Timer*>(&control) == nullptr && dynamic_cast<const MenuItem*>(&control) == nullptr;
 }
 
+/// The widgets of the window itself, without those of windows above it.
+QList<QWidget*> WidgetsOf(const FormWindow& window, const QString& name = {}) {
+    QList<QWidget*> widgets = window.Top()->findChildren<QWidget*>(name);
+    widgets.removeIf([&](const QWidget* widget) { return widget->window() != window.Top(); });
+    return widgets;
+}
+
 /// What the control is called where it is not seen.
 QString SpokenName(const Control& control) {
     if (const auto* button = dynamic_cast<const Button*>(&control)) return PlainCaption(button->Caption());
@@ -56,7 +63,7 @@ QString SpokenName(const Control& control) {
 }
 
 void BindOne(Control& control, FormWindow& window) {
-    const QList<QWidget*> widgets = window.Top()->findChildren<QWidget*>(ObjectName(control));
+    const QList<QWidget*> widgets = WidgetsOf(window, ObjectName(control));
     if (widgets.size() != 1) {
         window.AddProblem(QStringLiteral("%1 has %2 widgets").arg(ObjectName(control)).arg(widgets.size()));
         return;
@@ -65,7 +72,11 @@ void BindOne(Control& control, FormWindow& window) {
     window.Enter(control, widget);
     for (const auto& bind : kPairs) {
         if (!bind(control, widget, window)) continue;
-        if (control.TakesFocus() && widget.accessibleName().isEmpty()) widget.setAccessibleName(SpokenName(control));
+        if (control.TakesFocus() && widget.accessibleName().isEmpty()) {
+            widget.setAccessibleName(SpokenName(control));
+            // A list that fills its window is called as the window is.
+            if (widget.accessibleName().isEmpty()) window.NameByCaption(widget);
+        }
         return;
     }
     window.AddProblem(
@@ -85,7 +96,7 @@ void FindOrphans(const Form& form, FormWindow& window) {
         known.insert(ObjectName(*control));
         if (dynamic_cast<const Frame*>(control) != nullptr) known.insert(ObjectName(*control) + QStringLiteral("Caption"));
     }
-    for (const QWidget* widget : window.Top()->findChildren<QWidget*>()) {
+    for (const QWidget* widget : WidgetsOf(window)) {
         if (!Bindable(*widget) || known.count(widget->objectName()) > 0) continue;
         // What a widget has inside itself is its own.
         bool inside = false;
@@ -111,7 +122,7 @@ void SetTabOrder(const Form& form, FormWindow& window) {
 }  // namespace
 
 void BindForm(Form& form, FormWindow& window) {
-    for (QWidget* widget : window.Top()->findChildren<QWidget*>())
+    for (QWidget* widget : WidgetsOf(window))
         if (Bindable(*widget)) widget->setFocusPolicy(Qt::NoFocus);
     for (Control* control : form.Controls())
         if (HasWidget(*control)) BindOne(*control, window);

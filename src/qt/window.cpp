@@ -113,6 +113,7 @@ void FormWindow::TakeDesignSize() {
 void FormWindow::Follow() {
     const QString caption = ToQt(form_.Caption());
     if (top_->windowTitle() != caption) top_->setWindowTitle(caption);
+    for (QWidget* widget : namedByCaption_) widget->setAccessibleName(caption.simplified());
     if (captionHead_ != nullptr) captionHead_->SetCaption(caption);
     if (top_->isEnabled() != form_.Enabled()) top_->setEnabled(form_.Enabled());
     if (form_.Hourglass())

@@ -63,6 +63,8 @@ public:
     QObject& Scope() const { return *scope_; }
     void Enter(const Control& control, QWidget& widget) { widgets_[&control] = &widget; }
     void AddInput(Control& control, QWidget& widget, class QLineEdit* editor);
+    /// The widget is called as the form's caption says.
+    void NameByCaption(QWidget& widget) { namedByCaption_.emplace_back(&widget); }
     void AddProblem(const QString& problem) { problems_.append(problem); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -85,6 +87,7 @@ private:
     std::unique_ptr<QObject> scope_;
     std::map<const Control*, QPointer<QWidget>> widgets_;
     std::vector<QPointer<Input>> inputs_;
+    std::vector<QPointer<QWidget>> namedByCaption_;
     QStringList problems_;
     class ColumnHead* captionHead_ = nullptr;
     /// As it was last taken over from the form.

@@ -106,7 +106,7 @@ WindowDriver::WindowDriver() {
 }
 
 WindowDriver::~WindowDriver() {
-    DropBox();
+    while (!boxes_.empty()) DropBox();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
@@ -265,19 +265,20 @@ void WindowDriver::Place(Form& form, int left, int top, int width, int height) {
 // --- Boxes
 
 void WindowDriver::OpenBox(const MessageBox& box) {
-    box_ = MakeBox(box, DialogOwner());
-    box_->setWindowModality(Qt::ApplicationModal);
-    box_->show();
+    QWidget* owner = boxes_.empty() ? DialogOwner() : boxes_.back().data();
+    boxes_.emplace_back(MakeBox(box, owner));
+    boxes_.back()->setWindowModality(Qt::ApplicationModal);
+    boxes_.back()->show();
 }
 
 void WindowDriver::AnswerBox(Answer answer) {
-    if (box_ == nullptr || !box_->isVisible()) throw CannotDeliver("no message box is open");
-    for (QAbstractButton* button : box_->buttons()) {
-        if (box_->buttonRole(button) != Role(answer)) continue;
+    if (boxes_.empty() || boxes_.back() == nullptr || !boxes_.back()->isVisible()) throw CannotDeliver("no message box is open");
+    QMessageBox& box = *boxes_.back();
+    for (QAbstractButton* button : box.buttons()) {
+        if (box.buttonRole(button) != Role(answer)) continue;
         ClickAt(*button, button->rect().center());
-        if (AnswerOf(*box_) != answer || box_->isVisible()) throw CannotDeliver("the box does not close with this answer");
-        box_->deleteLater();
-        box_ = nullptr;
+        if (AnswerOf(box) != answer || box.isVisible()) throw CannotDeliver("the box does not close with this answer");
+        DropBox();
         if (Form* form = ActiveForm()) front_.Activated(*form);
         return;
     }
@@ -285,7 +286,10 @@ void WindowDriver::AnswerBox(Answer answer) {
 }
 
 void WindowDriver::DropBox() {
-    delete box_;
+    if (boxes_.empty()) return;
+    delete boxes_.back();
+    boxes_.pop_back();
+    if (!boxes_.empty() && boxes_.back() != nullptr) boxes_.back()->activateWindow();
 }
 
 // --- Rest
@@ -293,7 +297,7 @@ void WindowDriver::DropBox() {
 bool WindowDriver::AtRest() const {
     const Form* form = ActiveForm();
     const FormWindow* window = form != nullptr ? front_.WindowOf(*form) : nullptr;
-    const QWidget* wanted = box_ != nullptr ? box_.data() : window != nullptr ? window->Top() : nullptr;
+    const QWidget* wanted = !boxes_.empty() ? boxes_.back().data() : window != nullptr ? window->Top() : nullptr;
     return wanted == nullptr || !wanted->isVisible() || wanted->isMinimized() || QApplication::activePopupWidget() != nullptr ||
            (!front_.ActivationPending() && QApplication::activeWindow() == wanted);
 }
@@ -304,6 +308,8 @@ void WindowDriver::Settle() {
     do {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        // Where there is no window manager, no window follows one that has gone.
+        if (QApplication::activeWindow() == nullptr && boxes_.empty() && ActiveForm() != nullptr) front_.Activated(*ActiveForm());
     } while (!AtRest() && waited.elapsed() < kPatience);
 }
 

@@ -5,6 +5,7 @@
 
 #include <QPoint>
 #include <QPointer>
+#include <vector>
 
 #include "qt/front.h"
 #include "replay/driver.h"
@@ -54,7 +55,8 @@ private:
     bool AtRest() const;
 
     QtFront front_;
-    QPointer<QMessageBox> box_;
+    /// The open message boxes, the one in front last.
+    std::vector<QPointer<QMessageBox>> boxes_;
 };
 
 /// What of the control its widget shows otherwise; empty if nothing.

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "qt/rules_layouts.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFrame>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "qt/column_head.h"
+#include "qt/item_list.h"
+#include "qt/layouts.h"
+
+namespace vatro {
+
+namespace {
+
+template <class W>
+W* Add(QLayout* rows, const char* name) {
+    auto* widget = new W;
+    widget->setObjectName(QLatin1String(name));
+    rows->addWidget(widget);
+    return widget;
+}
+
+void MakeRules(QWidget* form) {
+    form->resize(400, 300);
+    auto* rows = new QVBoxLayout(form);
+    rows->setContentsMargins(2, 2, 2, 2);
+    rows->setSpacing(1);
+    auto* frame = Add<QFrame>(rows, "Frame1");
+    auto* inside = new QVBoxLayout(frame);
+    Add<ColumnHead>(inside, "Frame1Caption")->setProperty("fields", QStringLiteral("Text1_1"));
+    Add<QLineEdit>(inside, "Text1_0");
+    Add<QLineEdit>(inside, "Text1_1");
+    Add<QCheckBox>(rows, "Check1");
+    Add<QPushButton>(rows, "Command1");
+    Add<QPushButton>(rows, "Command2");
+    Add<ItemList>(rows, "List1")->setMinimumHeight(60);
+    Add<QComboBox>(rows, "Combo1");
+}
+
+void MakeRulesOver(QWidget* form) {
+    form->resize(200, 100);
+    auto* rows = new QVBoxLayout(form);
+    Add<QLineEdit>(rows, "Text1");
+    Add<QPushButton>(rows, "cmdOK");
+}
+
+}  // namespace
+
+void AddRulesLayouts() {
+    AddLayout("frmRules", MakeRules);
+    AddLayout("frmRulesOver", MakeRulesOver);
+}
+
+}  // namespace vatro

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QLockFile>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <csignal>
+
+#include "qt/clock.h"
+#include "qt/dialogs.h"
+#include "qt/fields.h"
+#include "qt/services.h"
+#include "qt/settings_store.h"
+#include "qt/window_program.h"
+
+namespace vatro {
+
+using namespace literals;
+using namespace std::string_view_literals;
+
+// --- Settings
+
+class SettingsFile : public ::testing::Test {
+protected:
+    QTemporaryDir directory;
+    QString file = directory.filePath(QStringLiteral("vatro.ini"));
+};
+
+TEST_F(SettingsFile, IsOnDiskWhenWriteReturns) {
+    QtSettings store(file);
+    store.Write("Settings", "MyCall", "OZ1AB/P");
+    QFile written(file);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(written.readAll().contains("MyCall=OZ1AB/P"));
+}
+
+TEST_F(SettingsFile, KeepsBlanksAndSignsAndDanishLetters) {
+    for (const std::string_view text : {"OZ1A  "sv, ""sv, "a,b;c=\"d\""sv, "C:\\LOG\\x"sv, "@at %p"sv, "æøåÆØÅ"_t}) {
+        QtSettings(file).Write("CW", "Tekst1", text);
+        EXPECT_EQ(QtSettings(file).Read("CW", "Tekst1"), std::string(text));
+    }
+}
+
+TEST_F(SettingsFile, ComparesKeysWithoutRegardToCase) {
+    QtSettings store(file);
+    store.Write("Settings", "gsFDLib", "one");
+    store.Write("settings", "gsFDlib", "two");
+    EXPECT_EQ(store.Read("SETTINGS", "GSFDLIB"), "two");
+    EXPECT_EQ(store.Read("Settings", "FDLib"), std::nullopt);
+}
+
+TEST_F(SettingsFile, ReadingWritesNothing) {
+    QtSettings store(file);
+    EXPECT_EQ(store.Read("Settings", "Band"), std::nullopt);
+    EXPECT_FALSE(QFile::exists(file));
+}
+
+// --- One running copy
+
+TEST(OneCopy, IsRefusedWhileAnotherHoldsTheLock) {
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("vatro.lock"));
+    QtInstance first(file);
+    QtInstance second(file);
+    EXPECT_FALSE(first.AnotherCopyRuns());
+    EXPECT_TRUE(second.AnotherCopyRuns());
+    EXPECT_FALSE(first.AnotherCopyRuns());
+}
+
+TEST(OneCopy, TakesTheLockOfAKilledOne) {
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("vatro.lock"));
+    int ready[2];
+    ASSERT_EQ(::pipe(ready), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        QLockFile lock(file);
+        lock.setStaleLockTime(0);
+        const char held = lock.tryLock(0) ? 1 : 0;
+        static_cast<void>(::write(ready[1], &held, 1) == 1);
+        for (;;) ::pause();
+    }
+    char held = 0;
+    ASSERT_EQ(::read(ready[0], &held, 1), 1);
+    ASSERT_EQ(held, 1);
+    QtInstance mine(file);
+    EXPECT_TRUE(mine.AnotherCopyRuns());
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    EXPECT_FALSE(mine.AnotherCopyRuns());
+    ::close(ready[0]);
+    ::close(ready[1]);
+}
+
+// --- Boxes
+
+class Box : public ::testing::Test {
+protected:
+    std::unique_ptr<QMessageBox> Make(const MessageBox& box) {
+        std::unique_ptr<QMessageBox> made(MakeBox(box, nullptr));
+        made->show();
+        return made;
+    }
+    static QStringList Texts(const QMessageBox& box) {
+        QStringList texts;
+        for (const QAbstractButton* button : box.buttons()) texts.append(button->text().remove(u'&'));
+        return texts;
+    }
+};
+
+TEST_F(Box, HasDanishButtonsAndTheProgramsTitle) {
+    MessageBox question;
+    question.buttons = Buttons::YesNo;
+    EXPECT_EQ(Texts(*Make(question)), (QStringList{QStringLiteral("Ja"), QStringLiteral("Nej")}));
+    EXPECT_EQ(Texts(*Make({})), (QStringList{QStringLiteral("OK")}));
+    EXPECT_EQ(Make({})->windowTitle(), QStringLiteral("vatro"));
+}
+
+TEST_F(Box, HasTheFirstButtonAsDefaultUnlessToldOtherwise) {
+    MessageBox question;
+    question.buttons = Buttons::YesNo;
+    EXPECT_EQ(Make(question)->defaultButton()->text(), QStringLiteral("&Ja"));
+    question.defaultNo = true;
+    EXPECT_EQ(Make(question)->defaultButton()->text(), QStringLiteral("&Nej"));
+}
+
+TEST_F(Box, AnswersByItsButtonsAndByEsc) {
+    MessageBox question;
+    question.buttons = Buttons::YesNo;
+    auto yes = Make(question);
+    QTest::mouseClick(yes->buttons().constFirst(), Qt::LeftButton);
+    EXPECT_EQ(AnswerOf(*yes), Answer::Yes);
+    auto esc = Make(question);
+    QTest::keyClick(esc.get(), Qt::Key_Escape);
+    EXPECT_FALSE(esc->isVisible());
+    EXPECT_EQ(AnswerOf(*esc), Answer::No);
+    auto ok = Make({});
+    QTest::keyClick(ok.get(), Qt::Key_Escape);
+    EXPECT_EQ(AnswerOf(*ok), Answer::Ok);
+}
+
+TEST_F(Box, ShowsItsTextAsItStands) {
+    MessageBox box;
+    box.text = "<b>1 < 2</b> & Ø"_t;
+    const auto made = Make(box);
+    EXPECT_EQ(made->text(), QStringLiteral("<b>1 < 2</b> & Ø"));
+    EXPECT_EQ(made->textFormat(), Qt::PlainText);
+}
+
+// --- Clock
+
+class FrmTicking : public Form {
+public:
+    FrmTicking() : Form("frmTicking", FormKind::Dialog, "Ticking") {}
+    Timer Timer1{*this, "Timer1", 1};
+};
+
+TEST_F(WindowProgram, TimersTickUntilTheyAreSwitchedOff) {
+    QtClock ticking;
+    InstallPlatform({driver.ProgramFront(), dialogs, settings, files, ticking, help, instance, {1, 2, 3}});
+    BeginProgram();
+    Dispatch([] { frmRules.Load(); });
+    FrmTicking form;
+    int ticks = 0;
+    form.Timer1.OnTimer = [&] {
+        if (++ticks == 3) form.Timer1.SetRunning(false);
+    };
+    form.Timer1.SetRunning(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks == 3; }));
+    QTest::qWait(20);
+    EXPECT_EQ(ticks, 3);
+    EndProgram();
+    InstallPlatform({driver.ProgramFront(), dialogs, settings, files, clock, help, instance, {1, 2, 3}});
+}
+
+// --- Text in points
+
+TEST_F(WindowProgram, WidthOfATextGrowsWithItsSize) {
+    Front& window = driver.ProgramFront();
+    const double one = window.TextWidth("SSB 59 012", {"Arial", 10, true});
+    EXPECT_GT(one, 40);
+    EXPECT_DOUBLE_EQ(window.TextWidth("SSB 59 012", {"Arial", 150, true}), 15 * one);
+    EXPECT_GT(window.TextWidth("SSB 59 0123", {"Arial", 10, true}), one);
+    EXPECT_EQ(window.TextWidth("", {"Arial", 10, true}), 0);
+}
+
+TEST(FittedLetters, AreNeverCutAndFillTheHeight) {
+    FittedText text;
+    text.SetTextFont(QStringLiteral("Arial"), 75, true);
+    text.SetColours(Qt::black, Qt::white);
+    text.setText(QStringLiteral("SSB 59 012"));
+    text.resize(600, 100);
+    const QImage picture = text.grab().toImage();
+    int top = picture.height();
+    int bottom = -1;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (qGray(picture.pixel(x, y)) < 128) {
+                top = std::min(top, y);
+                bottom = std::max(bottom, y);
+            }
+    EXPECT_GT(top, 0);
+    EXPECT_LT(bottom, picture.height() - 1);
+    EXPECT_GT(bottom - top, picture.height() * 2 / 3);
+}
+
+}  // namespace vatro

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+//
+// The program, or a small form of the platform's rules, on real windows with a platform of fakes behind them.
+#pragma once
+
+#include <QApplication>
+
+#include "platform/rules_forms.h"
+#include "qt/rules_layouts.h"
+#include "qt/window.h"
+#include "qt/window_driver.h"
+#include "running_program.h"
+
+namespace vatro {
+
+class WindowProgram : public RunningProgram {
+protected:
+    WindowProgram() {
+        happenings = {};
+        AddRulesLayouts();
+        driver.playUntil = [](const std::function<bool()>&) { ADD_FAILURE() << "unexpected modal form"; };
+        InstallPlatform({driver.ProgramFront(), dialogs, settings, files, clock, help, instance, {1, 2, 3}});
+    }
+    ~WindowProgram() override {
+        EndProgram();
+        driver.Settle();
+    }
+
+    void StartRules() {
+        BeginProgram();
+        Dispatch([] { frmRules->Show(); });
+        driver.Settle();
+        happenings.lines.clear();
+    }
+    void StartVatro() {
+        Start();
+        driver.Settle();
+    }
+    const FormWindow& WindowOf(const Form& form) const {
+        const FormWindow* window = Qt().WindowOf(form);
+        if (window == nullptr) throw std::logic_error("no window");
+        return *window;
+    }
+    template <class W>
+    W& WidgetOf(const Control& control) const {
+        return dynamic_cast<W&>(*Qt().WidgetOf(control));
+    }
+
+    WindowDriver driver;
+
+private:
+    const QtFront& Qt() const { return dynamic_cast<const QtFront&>(platform().front); }
+};
+
+}  // namespace vatro
