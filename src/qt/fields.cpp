@@ -35,18 +35,21 @@ QSize EntryField::sizeHint() const {
     return style()->sizeFromContents(QStyle::CT_LineEdit, &option, content, this);
 }
 
-SpinArrows::SpinArrows(QWidget* parent) : QWidget(parent) {
+SpinArrows::SpinArrows(QWidget* parent) : QWidget(parent), up_(MakeArrow(true)), down_(MakeArrow(false)) {
     auto* column = new QVBoxLayout(this);
     column->setSpacing(0);
     column->setContentsMargins(0, 0, 0, 0);
-    for (const bool up : {true, false}) {
-        auto* arrow = new QToolButton(this);
-        arrow->setArrowType(up ? Qt::UpArrow : Qt::DownArrow);
-        arrow->setAutoRepeat(true);
-        arrow->setFocusPolicy(Qt::NoFocus);
-        column->addWidget(arrow);
-        connect(arrow, &QToolButton::clicked, this, [this, up] { Q_EMIT Stepped(up); });
-    }
+    column->addWidget(up_);
+    column->addWidget(down_);
+}
+
+QToolButton* SpinArrows::MakeArrow(bool up) {
+    auto* arrow = new QToolButton(this);
+    arrow->setArrowType(up ? Qt::UpArrow : Qt::DownArrow);
+    arrow->setAutoRepeat(true);
+    arrow->setFocusPolicy(Qt::NoFocus);
+    connect(arrow, &QToolButton::clicked, this, [this, up] { Q_EMIT Stepped(up); });
+    return arrow;
 }
 
 QFont MeasureFont(const QString& family, bool bold) {

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+class QToolButton;
+
 namespace vatro {
 
 /// A field of the entry, in letters that are read at arm's length, wide enough for so many of them.
@@ -69,9 +71,16 @@ class SpinArrows : public QWidget {
 
 public:
     explicit SpinArrows(QWidget* parent = nullptr);
+    QToolButton& Arrow(bool up) const { return up ? *up_ : *down_; }
 
 Q_SIGNALS:
     void Stepped(bool up);
+
+private:
+    QToolButton* MakeArrow(bool up);
+
+    QToolButton* up_;
+    QToolButton* down_;
 };
 
 /// The font at a size that every measure is taken from, so that widths are in the ratio of the sizes.

@@ -16,6 +16,7 @@
 #include <QStyleOption>
 #include <QTest>
 #include <QToolBar>
+#include <QToolButton>
 #include <QWindow>
 #include <array>
 #include <utility>
@@ -23,6 +24,7 @@
 #include "platform/program.h"
 #include "qt/bars.h"
 #include "qt/dialogs.h"
+#include "qt/fields.h"
 #include "qt/item_list.h"
 #include "qt/text.h"
 #include "qt/window.h"
@@ -212,6 +214,12 @@ void WindowDriver::DoubleClick(ListBox& list, int row) {
     view.scrollTo(index);
     const QPoint at = view.viewport()->mapTo(view.window(), view.visualRect(index).center());
     QTest::mouseDClick(view.window()->windowHandle(), Qt::LeftButton, {}, at);
+}
+
+void WindowDriver::Spin(UpDown& arrows, bool up) {
+    const auto& widget = dynamic_cast<SpinArrows&>(WidgetOf(arrows));
+    QToolButton& arrow = widget.Arrow(up);
+    ClickAt(arrow, arrow.rect().center());
 }
 
 // --- Bars

@@ -30,6 +30,7 @@ public:
     void Click(Control& control) override;
     void ClickForm(Form& form) override;
     void Pick(Control& control, int row) override;
+    void Spin(UpDown& arrows, bool up) override;
     void DoubleClick(ListBox& list, int row) override;
     void Choose(MenuItem& item) override;
     void PressTool(Toolbar& toolbar, int index) override;
