@@ -77,13 +77,24 @@ void Tap(QWindow& window, Qt::Key key, const QString& text, Qt::KeyboardModifier
     if (alive != nullptr) QTest::sendKeyEvent(QTest::Release, alive, key, text, modifiers);
 }
 
+/// The release that is owed to a press. A press whose handler opens a window gets it before the scenario goes on in there,
+/// as a finger has left the button by then; otherwise the window system knows of no other press.
+std::function<void()> owedRelease;
+
+void LetGo() {
+    if (owedRelease) std::exchange(owedRelease, {})();
+}
+
 /// A press and a release, as far as the window is there for both.
 void ClickAt(QWidget& widget, const QPoint& at) {
     const QPointer<QWindow> window(widget.window()->windowHandle());
     if (window == nullptr || !widget.isVisible()) throw CannotDeliver("a widget is not shown");
     const QPoint there = widget.mapTo(widget.window(), at);
+    owedRelease = [window, there] {
+        if (window != nullptr) QTest::mouseRelease(window.data(), Qt::LeftButton, {}, there);
+    };
     QTest::mousePress(window.data(), Qt::LeftButton, {}, there);
-    if (window != nullptr) QTest::mouseRelease(window.data(), Qt::LeftButton, {}, there);
+    LetGo();
 }
 
 /// Behind the last character of a field.
@@ -104,7 +115,10 @@ QMessageBox::ButtonRole Role(Answer answer) {
 }  // namespace
 
 WindowDriver::WindowDriver() {
-    front_.waitModal = [this](const std::function<bool()>& over) { playUntil(over); };
+    front_.waitModal = [this](const std::function<bool()>& over) {
+        LetGo();
+        playUntil(over);
+    };
 }
 
 WindowDriver::~WindowDriver() {
@@ -213,7 +227,11 @@ void WindowDriver::DoubleClick(ListBox& list, int row) {
     const QModelIndex index = view.model()->index(row, 0);
     view.scrollTo(index);
     const QPoint at = view.viewport()->mapTo(view.window(), view.visualRect(index).center());
-    QTest::mouseDClick(view.window()->windowHandle(), Qt::LeftButton, {}, at);
+    QWindow* const window = view.window()->windowHandle();
+    owedRelease = [window, at] { QTest::mouseRelease(window, Qt::LeftButton, {}, at); };
+    QTest::mouseDClick(window, Qt::LeftButton, {}, at);
+    // Its own release has come, or one before it.
+    owedRelease = {};
 }
 
 void WindowDriver::Spin(UpDown& arrows, bool up) {
@@ -277,6 +295,7 @@ void WindowDriver::OpenBox(const MessageBox& box) {
     boxes_.emplace_back(MakeBox(box, owner));
     boxes_.back()->setWindowModality(Qt::ApplicationModal);
     boxes_.back()->show();
+    LetGo();
 }
 
 void WindowDriver::AnswerBox(Answer answer) {
