@@ -117,6 +117,7 @@ QMessageBox::ButtonRole Role(Answer answer) {
 WindowDriver::WindowDriver() {
     front_.waitModal = [this](const std::function<bool()>& over) {
         LetGo();
+        Settle();
         playUntil(over);
     };
 }
