@@ -20,11 +20,15 @@ void ColumnHead::SetCaption(const QString& caption) {
     caption_ = caption;
     QString plain = caption;
     setAccessibleName(plain.remove(u'&').simplified());
+    updateGeometry();
     update();
 }
 
 QSize ColumnHead::sizeHint() const {
-    return {fontMetrics().averageCharWidth() * 4, fontMetrics().height() + fontMetrics().leading() + 2};
+    // Over a list or fields it takes the width that they have; beside a field it needs its own.
+    const bool alone = columns_.isEmpty() && fields_.isEmpty();
+    const int width = alone ? fontMetrics().size(Qt::TextShowMnemonic, caption_).width() + 2 : fontMetrics().averageCharWidth() * 4;
+    return {width, fontMetrics().height() + fontMetrics().leading() + 2};
 }
 
 QWidget* ColumnHead::Sibling(const QString& name) const {
