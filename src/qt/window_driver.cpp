@@ -102,7 +102,10 @@ QMessageBox::ButtonRole Role(Answer answer) {
 }  // namespace
 
 WindowDriver::WindowDriver() {
-    front_.waitModal = [this](const std::function<bool()>& over) { playUntil(over); };
+    front_.waitModal = [this](const std::function<bool()>& over) {
+        Settle();
+        playUntil(over);
+    };
 }
 
 WindowDriver::~WindowDriver() {
@@ -269,6 +272,7 @@ void WindowDriver::OpenBox(const MessageBox& box) {
     boxes_.emplace_back(MakeBox(box, owner));
     boxes_.back()->setWindowModality(Qt::ApplicationModal);
     boxes_.back()->show();
+    Settle();
 }
 
 void WindowDriver::AnswerBox(Answer answer) {
@@ -295,6 +299,8 @@ void WindowDriver::DropBox() {
 // --- Rest
 
 bool WindowDriver::AtRest() const {
+    for (const Form* loaded : LoadedForms())
+        if (loaded->Visible() && front_.WindowOf(*loaded) != nullptr && front_.WindowOf(*loaded)->Arriving()) return false;
     const Form* form = ActiveForm();
     const FormWindow* window = form != nullptr ? front_.WindowOf(*form) : nullptr;
     const QWidget* wanted = !boxes_.empty() ? boxes_.back().data() : window != nullptr ? window->Top() : nullptr;
