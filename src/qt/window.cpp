@@ -82,8 +82,6 @@ void FormWindow::Build(QWidget* owner) {
         AddBars(form_, *window);
         window->resize(size);
         top_ = window;
-        // A side window that is shown first finds the window above which it stays.
-        window->winId();
     } else {
         content->setParent(owner, Flags(form_.Kind()));
         top_ = content;
@@ -131,15 +129,17 @@ WindowPlace FormWindow::Told() const {
 
 void FormWindow::FollowPlace() {
     const WindowPlace told = Told();
-    if (told == place_) return;
-    const bool first = !placed_;
+    // A window on its way to the screen is not disturbed: it would lose the place of its frame.
+    if (told == place_ || arriving_) return;
+    // Where the user has put the window, or the window manager is about to, is not for a new size to undo.
+    const bool moved = !placed_ || told.left != place_.left || told.top != place_.top;
     place_ = told;
     if (placing_) return;
     placing_ = true;
     placed_ = true;
     if (!top_->isMinimized()) {
         const QPoint at(ToPixels(told.left), ToPixels(told.top));
-        if (first || top_->pos() != at) top_->move(at);
+        if (moved) top_->move(at);
         const QSize size(ToLength(told.width), ToLength(told.height));
         if (top_->size() != size) top_->resize(size);
     }
@@ -159,12 +159,19 @@ void FormWindow::FollowVisible() {
     placing_ = true;
     if (!placed_) PlaceInMiddle();
     if (form_.Kind() == FormKind::Main && front_.fitToScreen) FitToScreen();
+    arriving_ = true;
     top_->show();
     placing_ = false;
-    front_.Shown(*this);
     top_->windowHandle()->installEventFilter(this);
-    TellPlace();
+    if (top_->windowHandle()->isExposed()) Arrive();
+    front_.Shown(*this);
     if (form_.Kind() == FormKind::Main) front_.FollowAll();
+}
+
+void FormWindow::Arrive() {
+    arriving_ = false;
+    FollowPlace();
+    TellPlace();
 }
 
 void FormWindow::FitToScreen() {
@@ -210,7 +217,7 @@ void FormWindow::TellPlace() {
 }
 
 void FormWindow::TellPlace(const WindowPlace& finer) {
-    if (placing_ || !top_->isVisible() || top_->isMinimized()) return;
+    if (placing_ || arriving_ || !top_->isVisible() || top_->isMinimized()) return;
     // What the form makes of its new place is shown, but not told again: it may never be content with what it gets.
     if (telling_) return;
     const auto at = [](int pixels, int twips) { return ToPixels(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
@@ -254,6 +261,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched != top_) {
         // The window itself sees keys and clicks before its widgets.
         if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) front_.WindowUsed(form_);
+        if (event->type() == QEvent::Expose && arriving_ && top_->windowHandle()->isExposed()) Arrive();
         return false;
     }
     switch (event->type()) {

@@ -49,6 +49,9 @@ public:
     /// Controls without exactly one widget, and widgets without a control.
     const QStringList& Problems() const { return problems_; }
 
+    /// Shown, and not on the screen yet.
+    bool Arriving() const { return arriving_; }
+
     /// Takes over what the form says of its frame.
     void Follow();
     void FollowFocus();
@@ -74,6 +77,7 @@ private:
     WindowPlace Told() const;
     void FollowPlace();
     void FollowVisible();
+    void Arrive();
     void PlaceInMiddle();
     void FitToScreen();
     void TellPlace(const WindowPlace& finer);
@@ -94,6 +98,7 @@ private:
     WindowPlace place_;
     bool placing_ = false;
     bool telling_ = false;
+    bool arriving_ = false;
     /// The form has said where it stands.
     bool placed_ = false;
 };

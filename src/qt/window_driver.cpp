@@ -297,6 +297,7 @@ void WindowDriver::OpenBox(const MessageBox& box) {
     boxes_.back()->setWindowModality(Qt::ApplicationModal);
     boxes_.back()->show();
     LetGo();
+    Settle();
 }
 
 void WindowDriver::AnswerBox(Answer answer) {
@@ -323,6 +324,8 @@ void WindowDriver::DropBox() {
 // --- Rest
 
 bool WindowDriver::AtRest() const {
+    for (const Form* loaded : LoadedForms())
+        if (loaded->Visible() && front_.WindowOf(*loaded) != nullptr && front_.WindowOf(*loaded)->Arriving()) return false;
     const Form* form = ActiveForm();
     const FormWindow* window = form != nullptr ? front_.WindowOf(*form) : nullptr;
     const QWidget* wanted = !boxes_.empty() ? boxes_.back().data() : window != nullptr ? window->Top() : nullptr;
