@@ -58,7 +58,7 @@ QList<ColumnHead::Piece> ColumnHead::Pieces() const {
         // A piece without a place of its own, or pushed on by a long one before it, follows at a distance.
         const int x = i < places.size() ? qMax(places[i], end) : end;
         pieces.append({texts[i], x});
-        end = x + fontMetrics().size(Qt::TextShowMnemonic, texts[i]).width() + fontMetrics().averageCharWidth();
+        end = x + fontMetrics().size(Qt::TextShowMnemonic, texts[i]).width() + fontMetrics().horizontalAdvance(u' ');
     }
     return pieces;
 }

@@ -338,7 +338,10 @@ void Player::DoSound(const Command& command) {
 }
 
 void Player::DoShot(const Command& command) {
-    const std::u8string file = world_.Found(command.arguments[0]).u8string();
+    const std::filesystem::path path = world_.Found(command.arguments[0]);
+    std::error_code refused;
+    std::filesystem::create_directories(path.parent_path(), refused);
+    const std::u8string file = path.u8string();
     driver_.Shot(std::string(file.begin(), file.end()));
 }
 
