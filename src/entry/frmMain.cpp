@@ -113,7 +113,7 @@ void FrmMain::BindFelter() {
 }
 
 void FrmMain::Form_Load() {
-    MoveTo(HentTal(kSettings, "MainLeft", 1000), HentTal(kSettings, "MainTop", 1000));
+    MoveTo(HentTwips("MainLeft", 1000), HentTwips("MainTop", 1000));
     gsBand = HentTekst(kSettings, "Band", "80m");
     gsMode = HentTekst(kSettings, "Mode", "SSB");
     gsQsoMode = HentTekst(kSettings, "QsoMode", "SSB");

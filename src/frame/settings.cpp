@@ -14,11 +14,6 @@ std::string Nøgle(const Vinduesplads& plads, std::string_view mål) {
     return std::string(plads.navn).append(mål);
 }
 
-int HentMål(const Vinduesplads& plads, std::string_view mål, int standard) {
-    const auto tekst = platform().settings.Read(kSettings, Nøgle(plads, mål));
-    return tekst ? ToInt32(ToNumber(*tekst)) : standard;
-}
-
 }  // namespace
 
 std::string HentTekst(std::string_view sektion, std::string_view nøgle, std::string_view standard) {
@@ -28,6 +23,11 @@ std::string HentTekst(std::string_view sektion, std::string_view nøgle, std::st
 int HentTal(std::string_view sektion, std::string_view nøgle, int standard) {
     const auto tekst = platform().settings.Read(sektion, nøgle);
     return tekst ? ToInt16(ToNumber(*tekst)) : standard;
+}
+
+int HentTwips(std::string_view nøgle, int standard) {
+    const auto tekst = platform().settings.Read(kSettings, nøgle);
+    return tekst ? ToInt32(ToNumber(*tekst)) : standard;
 }
 
 bool HentFlag(std::string_view sektion, std::string_view nøgle, bool standard) {
@@ -51,10 +51,10 @@ void GemFlag(std::string_view sektion, std::string_view nøgle, bool flag) {
 }
 
 void HentPlads(Form& form, const Vinduesplads& plads) {
-    const int left = HentMål(plads, "Left", plads.left);
-    const int top = HentMål(plads, "Top", plads.top);
-    const int width = HentMål(plads, "Width", plads.width);
-    const int height = HentMål(plads, "Height", plads.height);
+    const int left = HentTwips(Nøgle(plads, "Left"), plads.left);
+    const int top = HentTwips(Nøgle(plads, "Top"), plads.top);
+    const int width = HentTwips(Nøgle(plads, "Width"), plads.width);
+    const int height = HentTwips(Nøgle(plads, "Height"), plads.height);
     form.Place(left, top, width, height);
 }
 

@@ -17,6 +17,8 @@ inline constexpr std::string_view kSettings = "Settings";
 std::string HentTekst(std::string_view sektion, std::string_view nøgle, std::string_view standard = {});
 /// A whole number, -32768 to 32767; fails with 6 beyond.
 int HentTal(std::string_view sektion, std::string_view nøgle, int standard);
+/// A place or length in twips: beside a wide screen, or on a second one, it can be more than HentTal takes.
+int HentTwips(std::string_view nøgle, int standard);
 /// "True" or "False" without regard to case, or a number, of which 0 is false.
 bool HentFlag(std::string_view sektion, std::string_view nøgle, bool standard);
 
