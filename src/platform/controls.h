@@ -45,6 +45,9 @@ struct Font {
     friend bool operator==(const Font&, const Font&) = default;
 };
 
+/// How the focus comes to a control: with the mouse, or by key or program.
+enum class FocusWay { Key, Mouse };
+
 /// What of a control has changed, as its mirror is told it.
 enum class Aspect {
     Text,
@@ -122,6 +125,10 @@ protected:
     }
 
 private:
+    friend class Form;
+    /// The control has got the focus; runs before GotFocus.
+    virtual void Entered(FocusWay /*way*/) {}
+
     Form& form_;
     std::string name_;
     int index_;
@@ -353,6 +360,11 @@ public:
     void UserPicked(int row) { SetListIndex(row); }
 
 private:
+    /// Its text is selected, so that what is typed takes its place; a click only sets the caret.
+    void Entered(FocusWay way) override {
+        if (way == FocusWay::Key) SelectAll();
+    }
+
     std::vector<std::string> items_;
     int listIndex_ = -1;
     ComboStyle style_;

@@ -142,7 +142,7 @@ bool Form::CanFocus(const Control& control) const {
     return visible_ && control.TakesFocus() && control.Enabled() && control.Visible();
 }
 
-void Form::MoveFocus(Control& control) {
+void Form::MoveFocus(Control& control, FocusWay way) {
     if (active_ == &control) return;
     Control* const left = active_;
     const bool owed = entered_;
@@ -153,6 +153,7 @@ void Form::MoveFocus(Control& control) {
     if (active_ != &control || entered_) return;
     entered_ = true;
     platform().front.Changed(*this);
+    control.Entered(way);
     if (control.GotFocus) control.GotFocus();
 }
 
@@ -166,10 +167,10 @@ void Form::FocusFirst() {
     }
 }
 
-void Form::UserFocus(Control& control) {
+void Form::UserFocus(Control& control, FocusWay way) {
     if (!CanFocus(control)) return;
     Activate(*this);
-    MoveFocus(control);
+    MoveFocus(control, way);
 }
 
 void Form::UserTab(bool back) {

@@ -81,8 +81,8 @@ public:
 
     // From the front.
 
-    /// The user has moved the focus to this control.
-    void UserFocus(Control& control);
+    /// The user has moved the focus to this control, with the mouse or by key.
+    void UserFocus(Control& control, FocusWay way = FocusWay::Key);
     /// Tab or Shift+Tab: the next control that can take the focus; round at the end.
     void UserTab(bool back);
     /// Enter and Esc: presses the default button (unless the focus is on a button) or the cancel button; false if the
@@ -122,7 +122,7 @@ private:
     friend class Control;
     friend class FormSlotBase;
     void Enrol(Control& control) { controls_.push_back(&control); }
-    void MoveFocus(Control& control);
+    void MoveFocus(Control& control, FocusWay way = FocusWay::Key);
     bool CanFocus(const Control& control) const;
     void FocusFirst();
 

@@ -192,7 +192,8 @@ void Input::TakeFocus(QFocusEvent& event) {
             return;
         }
         Deliver([&] {
-            if (form.Reachable()) form.UserFocus(*control);
+            const bool mouse = event.reason() == Qt::MouseFocusReason;
+            if (form.Reachable()) form.UserFocus(*control, mouse ? FocusWay::Mouse : FocusWay::Key);
         });
         if (self == nullptr || control_ == nullptr) return;
         if (form.ActiveControl() != control) {

@@ -106,7 +106,7 @@ void MemoryFront::Focus(Control& control) {
             if (field != nullptr) field->UserSelected(static_cast<int>(field->Text().size()), 0);
         };
         caretToEnd();
-        control.Parent().UserFocus(control);
+        control.Parent().UserFocus(control, FocusWay::Mouse);
         // The handlers of the change of focus may have set another text; what they have selected stays.
         if (field != nullptr && field->SelLength() == 0) caretToEnd();
     });
@@ -116,7 +116,7 @@ void MemoryFront::Click(Control& control) {
     Dispatch([&] {
         Form& form = control.Parent();
         form.UserActivated();
-        if (control.TakesFocus()) form.UserFocus(control);
+        if (control.TakesFocus()) form.UserFocus(control, FocusWay::Mouse);
         // A handler of the change of focus may have taken the control away from under the mouse.
         if (!form.Reachable() || !control.Enabled() || !control.Visible()) return;
         if (auto* button = dynamic_cast<Button*>(&control))
@@ -137,7 +137,7 @@ void MemoryFront::ClickForm(Form& form) {
 
 void MemoryFront::Pick(Control& control, int row) {
     Dispatch([&] {
-        control.Parent().UserFocus(control);
+        control.Parent().UserFocus(control, FocusWay::Mouse);
         if (!control.Enabled()) return;
         if (auto* list = dynamic_cast<ListBox*>(&control))
             list->UserSelected(row);
@@ -148,7 +148,7 @@ void MemoryFront::Pick(Control& control, int row) {
 
 void MemoryFront::DoubleClick(ListBox& list, int row) {
     Dispatch([&] {
-        list.Parent().UserFocus(list);
+        list.Parent().UserFocus(list, FocusWay::Mouse);
         list.UserDoubleClicked(row);
     });
 }
