@@ -15,9 +15,9 @@ namespace vatro {
 
 class MemoryFront : public Driver, private Front {
 public:
-    /// The size of the main form's room, whose window is as large as the screen lets it; in twips.
-    static constexpr int kMainWidth = 12000;
-    static constexpr int kMainHeight = 7500;
+    /// The size of the main form's room, as its layout gives it; in twips.
+    static constexpr int kMainWidth = 13800;
+    static constexpr int kMainHeight = 6900;
 
     Front& ProgramFront() override { return *this; }
 

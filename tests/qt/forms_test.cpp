@@ -15,6 +15,7 @@
 #include "qt/item_list.h"
 #include "qt/layouts.h"
 #include "qt/window_program.h"
+#include "replay/memory_front.h"
 #include "scoring/frmEDR.h"
 
 namespace vatro {
@@ -97,6 +98,11 @@ TEST_F(MainWindow, FitsASmallScreenBesideItsStoredPlace) {
     // A screen of 1920 by 1080 at twice the size.
     EXPECT_LE(Top().minimumSizeHint().width() + 67, 960);
     EXPECT_LE(Top().minimumSizeHint().height() + 67 + 40, 540);
+}
+
+TEST_F(MainWindow, HasTheSizeThatTheFrontInMemoryGivesIt) {
+    EXPECT_EQ(frmMain->Width(), MemoryFront::kMainWidth);
+    EXPECT_EQ(frmMain->Height(), MemoryFront::kMainHeight);
 }
 
 TEST_F(MainWindow, ShowsAllColumnsOfAContact) {
