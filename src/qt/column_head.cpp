@@ -83,6 +83,11 @@ void ColumnHead::showEvent(QShowEvent* event) {
     if (watching_) return;
     watching_ = true;
     if (auto* list = qobject_cast<ItemList*>(Sibling(list_))) {
+        // A little smaller than the rest, so that no word pushes the next one off its column.
+        constexpr double kSmaller = 0.9;
+        QFont smaller = font();
+        smaller.setPointSizeF(smaller.pointSizeF() * kSmaller);
+        setFont(smaller);
         list->installEventFilter(this);
         connect(list->horizontalScrollBar(), &QScrollBar::valueChanged, this, qOverload<>(&QWidget::update));
     }

@@ -184,6 +184,8 @@ void FormWindow::FitToScreen() {
 
 void FormWindow::PlaceInMiddle() {
     if (form_.Kind() == FormKind::Main) return;
+    // As large as its layout asks for, which nobody has told it before it is shown.
+    if (form_.Kind() == FormKind::Dialog) top_->adjustSize();
     const QWidget* owner = top_->parentWidget();
     const QRect room = owner != nullptr && owner->isVisible() ? owner->frameGeometry() : top_->screen()->availableGeometry();
     top_->move(room.center() - QRect(QPoint(), top_->size()).center());
