@@ -47,8 +47,9 @@ for front in "$@"; do
     diff -u "$work/contest.scn" "$work/played$number.scn" | head -60 || { echo "$name: another contest than the one worked out"; fault=1; }
     found=$(pairs "$work/played$number.scn")
     [ "$found" = "$wanted pairs" ] || { echo "$name: $wanted pairs of status bars wanted, found:"; echo "$found"; fault=1; }
-    logs=$(find "$work/world$number/log" -name 'FD*.txt' | wc -l)
-    [ "$logs" -ge 10 ] || { echo "$name: $logs logs, not ten"; fault=1; }
+    logs=$(find "$work/world$number" -path '*/log/FD*.txt' | wc -l)
+    # A short contest may leave a log out.
+    [ "$logs" -eq 10 ] || [ "$contacts" -lt 1000 ] || { echo "$name: $logs logs, not ten"; fault=1; }
     if [ "$number" -gt 1 ]; then
         cmp "$work/played1.scn" "$work/played$number.scn" || fault=1
         diff -r "$work/world1/log" "$work/world$number/log" || fault=1

@@ -249,10 +249,10 @@ void Contest::CloseLogs(int number) {
 
 void Contest::Act(bool& raised) {
     const int what = dice_.Roll(100);
-    raised = what >= 97;
-    if (what < 6) ChangeBandOrMode();
-    if (what >= 6 && what < 10) WriteNote();
-    if (what >= 10 && what < 30) Correct();
+    raised = what >= 95;
+    if (what < 20) ChangeBandOrMode();
+    if (what >= 20 && what < 28) WriteNote();
+    if (what >= 28 && what < 60) Correct();
     // A raised number that no contact has used would be lost with the next band change.
     if (raised) ChangeNumber();
 }
@@ -262,7 +262,7 @@ void Contest::Play(int contacts) {
     int checkpoints = 0;
     for (int logged = 1; logged <= contacts; ++logged) {
         bool raised = false;
-        while (Pick(35) && !raised) Act(raised);
+        while (Pick(30) && !raised) Act(raised);
         while (!LogContact()) {
         }
         if (logged % 100 == 0) Checkpoint(++checkpoints);

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -233,6 +234,93 @@ TEST_F(PowerCut, LeavesTheOldLogOrTheNewOneOrTheWholeCopy) {
         fs::remove_all(directory);
     }
     RecordProperty("copies_found", static_cast<int>(copies));
+}
+
+/// The in-memory front, which tells when it has opened the log and when a correction has returned.
+class CorrectingFront : public MemoryFront {
+public:
+    explicit CorrectingFront(Teller teller) : teller_(teller) {}
+    void Press(const KeyStroke& key) override {
+        MemoryFront::Press(key);
+        if (key.name == "F2") teller_.Tell();
+    }
+    void DoubleClick(ListBox& list, int row) override {
+        MemoryFront::DoubleClick(list, row);
+        teller_.Tell();
+    }
+
+private:
+    Teller teller_;
+};
+
+/// A log of 300 contacts, of which every correction gives another line another received number.
+class CorrectedLog {
+public:
+    static constexpr int kLines = 300;
+
+    /// The whole file after so many corrections.
+    std::string After(std::size_t corrections) const {
+        std::vector<int> received(kLines, 7);
+        for (std::size_t i = 0; i < corrections; ++i) received[static_cast<std::size_t>(Line(i))] = Number(i);
+        std::string log;
+        for (int i = 0; i < kLines; ++i) {
+            char line[kLineWidth + 3];
+            std::snprintf(line, sizeof line, "10:10 %-15s 59 -%04d 59 -%04d  3 %-10s OZ1AB      SSB   05-09-26\r\n", Call(i).c_str(), i + 1,
+                          received[static_cast<std::size_t>(i)], i == 0 ? "DL" : "");
+            log += line;
+        }
+        return log;
+    }
+    std::string Corrections(std::size_t count) const {
+        std::ostringstream scenario;
+        for (std::size_t i = 0; i < count; ++i) {
+            scenario << "dblclick frmMain.List1 " << Line(i) << "\nfocus frmRetQSO.Text1(5)\n";
+            for (int key = 0; key < 4; ++key) scenario << "key Backspace\n";
+            scenario << "type " << Number(i) << "\nkey Enter\n";
+        }
+        return scenario.str();
+    }
+
+private:
+    // Not one line after the other, so that a file of two versions would show.
+    static int Line(std::size_t correction) { return static_cast<int>(correction * 37 % kLines); }
+    static int Number(std::size_t correction) { return 1000 + static_cast<int>(correction); }
+};
+
+TEST_F(PowerCut, DuringACorrectionLeavesTheOldLogOrTheNewOneOrTheWholeCopy) {
+    constexpr std::size_t kCorrections = 1000;
+    constexpr int kCuts = 300;
+    const CorrectedLog corrected;
+    const Scenario contest(Setting() + "start\nkey F2\n" + corrected.Corrections(kCorrections));
+    int cutShort = 0;
+    int halfway = 0;
+    for (int cut = 0; cut < kCuts; ++cut) {
+        const fs::path directory = NextWorld();
+        fs::create_directory(directory / "log");
+        const fs::path log = directory / "log" / "FD80mSSB.txt";
+        const fs::path copy = directory / "log" / "FDkopi.txt";
+        std::ofstream(log, std::ios::binary) << corrected.After(0);
+        const std::size_t told = KillAfter(Moment(20000), [&](Teller teller) {
+            const World world(directory);
+            CorrectingFront front(teller);
+            Player(contest, world, front, StartProgram).Play();
+        });
+        ASSERT_GT(told, 0U) << "the program has not come up";
+        const std::size_t done = told - 1;
+        if (done < kCorrections) ++cutShort;
+        if (fs::exists(copy)) ++halfway;
+        if (fs::exists(log)) {
+            const std::string content = Content(log);
+            ASSERT_TRUE(content == corrected.After(done) || content == corrected.After(done + 1))
+                << "after " << done << " corrections the log is neither the old one nor the new one";
+        } else {
+            ASSERT_EQ(Content(copy), corrected.After(done + 1)) << "the log is gone and the copy is not whole";
+        }
+        fs::remove_all(directory);
+    }
+    EXPECT_EQ(cutShort, kCuts) << "a life ended by itself";
+    EXPECT_GT(halfway, kCuts / 10) << "the cuts fell beside the rewriting";
+    RecordProperty("halfway", halfway);
 }
 
 }  // namespace
