@@ -7,8 +7,8 @@
 #include "entry/frmB4.h"
 #include "entry/frmContestCall.h"
 #include "entry/frmQSOnr.h"
-#include "entry/keys.h"
 #include "entry/operators.h"
+#include "entry/qso_fields.h"
 #include "entry/validation.h"
 #include "exchange/backup.h"
 #include "frame/band_mode.h"
@@ -26,8 +26,6 @@ namespace vatro {
 namespace {
 
 const Font kFast{"Fixedsys", 9};
-
-enum Felter { kUtc, kCallFelt, kRstSendtFelt, kNrSendtFelt, kRstModtagetFelt, kNrModtagetFelt };
 
 std::vector<Toolbar::ToolButton> Knapper() {
     constexpr int kBånd = 1;
@@ -81,12 +79,11 @@ void FrmMain::BindFelter() {
                                        "Sendt rapportløbenr"_t,
                                        "Modtaget rapport",
                                        "Modtaget rapportløbenr"_t};
-    constexpr int kLængder[]{5, 15, 3, 4, 3, 4};
-    for (int i = kUtc; i <= kNrModtagetFelt; ++i) {
+    SætFeltlængder(Text1);
+    for (int i = kUtcFelt; i <= kNrModtagetFelt; ++i) {
         TextBox& felt = Text1[i];
         felt.SetToolTip(kTips[i]);
-        felt.SetMaxLength(kLængder[i]);
-        felt.KeyPress = [this, i](KeyCode& key) { Text1_KeyPress(i, key); };
+        felt.KeyPress = [this, i](KeyCode& key) { FeltTast(Text1, i, key, ValiderQSO); };
         felt.Change = [this, i] { Text1_Change(i); };
         felt.GotFocus = [this, i] { Text1_GotFocus(i); };
         felt.LostFocus = [this, i] { Text1_LostFocus(i); };
@@ -190,37 +187,6 @@ void FrmMain::Form_Unload() {
     SetHourglass(false);
 }
 
-void FrmMain::Text1_KeyPress(int Index, KeyCode& KeyAscii) {
-    if (KeyAscii == kEnter) {
-        ValiderQSO();
-        KeyAscii = kNoKey;
-        return;
-    }
-    if (Index == kCallFelt) KeyAscii = StorTast(KeyAscii);
-    if (KeyAscii == kEsc) {
-        if (Index == kCallFelt || Index == kNrModtagetFelt) {
-            Text1[kCallFelt].SetText({});
-            Text1[kNrModtagetFelt].SetText({});
-            Text1[kCallFelt].SetFocus();
-        } else if (Index != kNrSendtFelt) {
-            Text1[Index].SetText({});
-        }
-        KeyAscii = kNoKey;
-        return;
-    }
-    if (KeyAscii == kSpace) {
-        if (Index == kCallFelt)
-            Text1[kNrModtagetFelt].SetFocus();
-        else if (Index == kNrModtagetFelt)
-            Text1[kCallFelt].SetFocus();
-        KeyAscii = kNoKey;
-        return;
-    }
-    if (Index == kUtc) FiltrerTast(KeyAscii, kTidTegn);
-    if (Index == kCallFelt) FiltrerTast(KeyAscii, kCallTegn);
-    if (Index == kNrModtagetFelt) FiltrerTast(KeyAscii, kCifferTegn);
-}
-
 void FrmMain::Text1_Change(int Index) {
     if (Index != kCallFelt) return;
     const TextBox& felt = Text1[kCallFelt];
@@ -236,8 +202,8 @@ void FrmMain::Text1_Change(int Index) {
 
 void FrmMain::Text1_GotFocus(int Index) {
     // A time being typed is not overwritten: the clock stands still until the contact is logged.
-    if (Index == kUtc) TimerStop();
-    if (Index == kUtc || Index == kRstSendtFelt || Index == kRstModtagetFelt) Text1[Index].SelectAll();
+    if (Index == kUtcFelt) TimerStop();
+    if (Index == kUtcFelt || Index == kRstSendtFelt || Index == kRstModtagetFelt) Text1[Index].SelectAll();
 }
 
 void FrmMain::Text1_LostFocus(int Index) {

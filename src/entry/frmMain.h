@@ -36,7 +36,6 @@ public:
     void Form_Resize() override;
 
 private:
-    void Text1_KeyPress(int Index, KeyCode& KeyAscii);
     void Text1_Change(int Index);
     void Text1_GotFocus(int Index);
     void Text1_LostFocus(int Index);

@@ -7,8 +7,8 @@
 #include "entry/checks.h"
 #include "entry/frmMain.h"
 #include "entry/frmQSOnr.h"
-#include "entry/keys.h"
 #include "entry/operators.h"
+#include "entry/qso_fields.h"
 #include "frame/band_mode.h"
 #include "frame/station.h"
 #include "logbook/dupe.h"
@@ -24,8 +24,6 @@
 namespace vatro {
 
 namespace {
-
-enum Felter { kUtcFelt, kCallFelt, kRstSendtFelt, kNrSendtFelt, kRstModtagetFelt, kNrModtagetFelt };
 
 /// Readers of the operator take one column more than is written.
 constexpr Felt kOperatørLæst{kOperatør.fra, kOperatør.bredde + 1};
@@ -62,10 +60,9 @@ FrmRetQSO::FrmRetQSO()
              {*this, "Label1", 8, "&Dato:", &txtDato}} {
     SetTabOrder({&Text1[0], &Text1[1], &Text1[2], &Text1[3], &Text1[4], &Text1[5], &Combo2, &Text3, &Combo1, &Check1, &cboMode, &txtDato,
                  &Command1, &Command2, &cmdBeregn});
-    constexpr int kLængder[]{5, 15, 3, 4, 3, 4};
+    SætFeltlængder(Text1);
     for (int i = kUtcFelt; i <= kNrModtagetFelt; ++i) {
-        Text1[i].SetMaxLength(kLængder[i]);
-        Text1[i].KeyPress = [this, i](KeyCode& key) { Text1_KeyPress(i, key); };
+        Text1[i].KeyPress = [this, i](KeyCode& key) { FeltTast(Text1, i, key, [this] { Command1_Click(); }); };
     }
     Text1[kCallFelt].GotFocus = [this] {
         sbStatusBar.SetPanel(1, "Hop ud af feltet for at få beregnet point automatisk inden du trykker på 'Log'"_t);
@@ -130,35 +127,6 @@ void FrmRetQSO::CheckDupQSO() {
 
 void FrmRetQSO::Form_Unload() {
     GemOperatører(Combo1);
-}
-
-void FrmRetQSO::Text1_KeyPress(int Index, KeyCode& KeyAscii) {
-    if (KeyAscii == kEnter) {
-        KeyAscii = kNoKey;
-        Command1_Click();
-        return;
-    }
-    if (Index == kCallFelt) KeyAscii = StorTast(KeyAscii);
-    if (KeyAscii == kEsc) {
-        KeyAscii = kNoKey;
-        if (Index == kCallFelt || Index == kNrModtagetFelt) {
-            Text1[kCallFelt].SetText({});
-            Text1[kNrModtagetFelt].SetText({});
-            Text1[kCallFelt].SetFocus();
-        } else if (Index != kNrSendtFelt) {
-            Text1[Index].SetText({});
-        }
-        return;
-    }
-    if (KeyAscii == kSpace) {
-        KeyAscii = kNoKey;
-        if (Index == kCallFelt) Text1[kNrModtagetFelt].SetFocus();
-        if (Index == kNrModtagetFelt) Text1[kCallFelt].SetFocus();
-        return;
-    }
-    if (Index == kUtcFelt) FiltrerTast(KeyAscii, kTidTegn);
-    if (Index == kCallFelt) FiltrerTast(KeyAscii, kCallTegn);
-    if (Index == kNrModtagetFelt) FiltrerTast(KeyAscii, kCifferTegn);
 }
 
 void FrmRetQSO::Text1_LostFocus() {

@@ -39,7 +39,6 @@ public:
     void Form_Unload() override;
 
 private:
-    void Text1_KeyPress(int Index, KeyCode& KeyAscii);
     void Text1_LostFocus();
     void Command1_Click();
     void Beregn();

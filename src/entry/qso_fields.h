@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+//
+// The six text fields of a contact, which entry and correction have alike: their order, lengths and keys.
+#pragma once
+
+#include <functional>
+
+#include "platform/controls.h"
+
+namespace vatro {
+
+/// Indices of the fields, Text1 of either form.
+enum QsoFelter { kUtcFelt, kCallFelt, kRstSendtFelt, kNrSendtFelt, kRstModtagetFelt, kNrModtagetFelt, kAntalFelter };
+
+using QsoTekster = TextBox[kAntalFelter];
+
+/// Sets the length limits of the fields.
+void SætFeltlængder(QsoTekster& felter);
+
+/// A key in one of the fields. Enter runs `enter`; Esc empties call and received number together, or the field alone; Space jumps
+/// between call and received number; time, call and received number take only their own characters. A key that has done
+/// something becomes nothing.
+void FeltTast(QsoTekster& felter, int Index, KeyCode& KeyAscii, const std::function<void()>& enter);
+
+}  // namespace vatro
