@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// Loading a log: the list, the marks, the counters. The yardstick reads the same file into lines.
+// Loading a log: the list, the marks, the counters; and a band change, which loads and prepares the form. The yardstick reads
+// the same file into lines.
 #include <benchmark/benchmark.h>
 
 #include <fstream>
 
 #include "entry/frmMain.h"
+#include "frame/band_mode.h"
 #include "logbook/log_file.h"
 #include "program.h"
 #include "sample.h"
@@ -33,8 +35,20 @@ void LoadLog(benchmark::State& state) {
     }
 }
 
+/// From one long log to another: the band in use is chosen again, which is a change like any other.
+void ChangeBand(benchmark::State& state) {
+    constexpr int k80m = 5;
+    const Program program(SampleLog());
+    state.SetLabel("vs file into lines, at most 3");
+    for (auto _ : state) {
+        SkiftBåndMode(k80m);
+        if (frmMain->List1.ListCount() != kLogLines) return state.SkipWithError("the log was not read");
+    }
+}
+
 BENCHMARK(ReadLines)->Name("file into lines")->Unit(benchmark::kMillisecond);
 BENCHMARK(LoadLog)->Name("log loaded")->Unit(benchmark::kMillisecond);
+BENCHMARK(ChangeBand)->Name("band changed")->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

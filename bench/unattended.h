@@ -11,10 +11,14 @@
 
 namespace vatro::bench {
 
-/// A box would stop a run for ever, so it ends it. No other copy runs.
+/// The operator stays the same when the band changes. Any other box would stop a run for ever, so it ends it. No other copy
+/// runs.
 class Unattended : public Dialogs, public Instance {
 public:
-    Answer Show(const MessageBox& box) override { throw std::runtime_error("a benchmark meets a box: " + ToUtf8(box.text)); }
+    Answer Show(const MessageBox& box) override {
+        if (box.title == "Bånd/modeskift"_t && box.buttons == Buttons::YesNo) return Answer::Yes;
+        throw std::runtime_error("a benchmark meets a box: " + ToUtf8(box.text));
+    }
     std::string SaveFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
     std::string OpenFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
     void ShowFailure(const RunTimeError& failure) override {
