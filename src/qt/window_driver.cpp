@@ -38,6 +38,7 @@ namespace {
 constexpr int kPatience = 3000;
 /// Milliseconds between two clicks that belong to different things.
 constexpr int kShortly = 25;
+constexpr int kTries = 10;
 
 Qt::Key QtKey(const KeyStroke& key) {
     static const std::array<std::pair<std::string_view, Qt::Key>, 14> kNames{{{"Enter", Qt::Key_Return},
@@ -211,10 +212,13 @@ void WindowDriver::Pick(Control& control, int row) {
     QStyleOptionComboBox option;
     option.initFrom(combo);
     const QRect arrow = combo->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, combo);
-    ClickAt(*combo, arrow.center());
-    QTest::qWait(2 * kShortly);
-    QApplication::setDoubleClickInterval(interval);
     QAbstractItemView* view = combo->view();
+    // On a busy machine the click may last too long and close the list again.
+    for (int tries = 0; tries < kTries && !view->isVisible(); ++tries) {
+        ClickAt(*combo, arrow.center());
+        QTest::qWait(2 * kShortly);
+    }
+    QApplication::setDoubleClickInterval(interval);
     if (!view->isVisible()) throw CannotDeliver("the list of " + control.FullName() + " does not open");
     const QModelIndex index = combo->model()->index(row, 0);
     view->scrollTo(index);
