@@ -42,9 +42,17 @@ void FrmCtyDat::Vis(std::string_view hvad) {
     Refresh();
 }
 
+void FrmCtyDat::Begynd(int rækker) {
+    ProgressBar1.SetMax(rækker);
+    ProgressBar1.SetValue(0);
+    næsteBillede_ = 0;
+}
+
 void FrmCtyDat::Trin(int række) {
     ProgressBar1.SetValue(række);
-    if (række % std::max(ProgressBar1.Max() / kBilleder, 1) == 0) Refresh();
+    if (række < næsteBillede_) return;
+    næsteBillede_ = række + std::max(ProgressBar1.Max() / kBilleder, 1);
+    Refresh();
 }
 
 }  // namespace vatro

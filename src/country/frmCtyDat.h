@@ -21,11 +21,16 @@ public:
 
     /// Tells what is being done, at once.
     void Vis(std::string_view hvad);
+    /// Empties the bar; it fills with so many rows.
+    void Begynd(int rækker);
     /// Moves the bar to a row. It is painted some hundred times in a run and not for every row.
     void Trin(int række);
 
 private:
     void Timer1_Timer();
+
+    /// The row at which the bar is painted next.
+    int næsteBillede_ = 0;
 };
 
 inline FormSlot<FrmCtyDat> frmCtyDat{"frmCtyDat"};

@@ -84,7 +84,7 @@ private:
         do {
             præfikser = filer.LineInput(1);
             CtyPoster poster(præfikser, hoved);
-            while (poster.Flere()) GemPræfiks(poster.Næste(), hoved);
+            while (poster.Flere()) GemPræfiks(poster.Næste());
         } while (!præfikser.ends_with(';'));
     }
 
@@ -99,7 +99,7 @@ private:
         land.TidsZone = ToFloat(hoved.tidsZone);
     }
 
-    void GemPræfiks(const CtyPost& post, const CtyHoved& hoved) {
+    void GemPræfiks(const CtyPost& post) {
         if (++præfikser_ > kRefPfxRækker) {
             VisOverløb(præfikser_);
             throw RunTimeError(Failure::IndexOutOfRange);
@@ -107,7 +107,7 @@ private:
         std::string nøgle(post.tekst.substr(0, kPfxLængde));
         nøgle.resize(kPfxLængde, kFyld);
         PfxRec& række = RefPfx[static_cast<std::size_t>(præfikser_)];
-        række.Land = hoved.pfx;
+        række.Land = Lande[static_cast<std::size_t>(lande_)].Pfx;
         række.Pfx = nøgle;
         række.ITUzone = post.ituZone;
         række.CQzone = post.cqZone;
@@ -131,55 +131,54 @@ void RydOp(int række, std::string& sidste) {
 }
 
 template <class Linje>
-void SkrivFil(std::string_view navn, std::string_view trin, int antal, Linje linje) {
+void SkrivFil(FrmCtyDat& form, std::string_view navn, std::string_view trin, int antal, Linje tilføj) {
     Files& filer = platform().files;
-    frmCtyDat->Vis(trin);
+    form.Vis(trin);
     filer.Open(1, Sti(gsFDLib, navn), FileMode::Output);
-    frmCtyDat->ProgressBar1.SetMax(antal);
+    form.Begynd(antal);
+    std::string linje;
     for (int i = 1; i <= antal; ++i) {
-        frmCtyDat->Trin(i);
-        filer.PrintLine(1, linje(static_cast<std::size_t>(i)));
+        form.Trin(i);
+        linje.clear();
+        tilføj(linje, static_cast<std::size_t>(i));
+        filer.PrintLine(1, linje);
     }
     filer.Close(1);
 }
 
-std::string LandLinje(std::size_t række) {
+void TilføjLand(std::string& linje, std::size_t række) {
     const LandRec& land = Lande[række];
-    std::string linje;
     linje.append(land.Pfx.Padded()).append(land.Navn.Padded()).append(land.Kontinent.Padded()).append(" ");
-    return linje + TalTekst(land.TidsZone);
+    linje += TalTekst(land.TidsZone);
 }
 
-std::string PfxLinje(std::size_t række) {
+void TilføjPfx(std::string& linje, std::size_t række) {
     const PfxRec& pfx = RefPfx[række];
-    std::string linje;
-    linje.append(pfx.Pfx.Padded()).append(pfx.Land.Padded()).append(pfx.CQzone.Padded()).append(" ");
-    return linje.append(pfx.ITUzone.Padded());
+    linje.append(pfx.Pfx.Padded()).append(pfx.Land.Padded()).append(pfx.CQzone.Padded()).append(" ").append(pfx.ITUzone.Padded());
 }
 
 }  // namespace
 
 void ImporterCty() {
-    frmCtyDat->Vis("Indlæser Cty.dat"_t);
+    FrmCtyDat& form = *frmCtyDat;
+    form.Vis("Indlæser Cty.dat"_t);
     Indlæser().Indlæs();
 
-    ProgressBar& bjælke = frmCtyDat->ProgressBar1;
-    frmCtyDat->Vis("Sorterer Præfix-referencetabel"_t);
-    bjælke.SetMax(giRefPfx);
-    bjælke.SetValue(0);
-    SorterPræfikser(RefPfx, giRefPfx, [](int række) { frmCtyDat->Trin(række); });
+    form.Vis("Sorterer Præfix-referencetabel"_t);
+    form.Begynd(giRefPfx);
+    SorterPræfikser(RefPfx, giRefPfx, [&form](int række) { form.Trin(række); });
 
-    frmCtyDat->Vis("Rydder op i Præfix-referencetabel"_t);
-    bjælke.SetValue(0);
+    form.Vis("Rydder op i Præfix-referencetabel"_t);
+    form.Begynd(giRefPfx);
     std::string sidste;
     for (int i = 1; i <= giRefPfx; ++i) {
-        frmCtyDat->Trin(i);
+        form.Trin(i);
         RydOp(i, sidste);
     }
     IndekserRefPfx();
 
-    SkrivFil("lande.txt", "Skriver Lande.txt fil", giLande, LandLinje);
-    SkrivFil("refpfx.txt", "Skriver RefPfx.txt fil", giRefPfx, PfxLinje);
+    SkrivFil(form, "lande.txt", "Skriver Lande.txt fil", giLande, TilføjLand);
+    SkrivFil(form, "refpfx.txt", "Skriver RefPfx.txt fil", giRefPfx, TilføjPfx);
 }
 
 void ImporterCtyMenu() {

@@ -2,29 +2,44 @@
 #include "country/prefix_order.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
+#include <numeric>
 #include <vector>
 
 namespace vatro {
 
 namespace {
 
-/// A prefix as two numbers that compare as its characters do.
+using Plads = std::uint16_t;
+
+/// A row by its characters and its place.
 struct Nøgle {
-    std::uint64_t start = 0;
-    std::uint16_t slut = 0;
-    std::uint16_t plads = 0;
-    bool Før(const Nøgle& b) const { return start != b.start ? start < b.start : slut < b.slut; }
+    std::array<unsigned char, kPfxLængde> tegn{};
+    Plads plads = 0;
 };
 
-Nøgle NøgleFor(const PfxRec& række, std::size_t plads) {
-    Nøgle nøgle;
-    const std::string_view pfx = række.Pfx.Padded();
-    static_assert(kPfxLængde == 10);
-    for (const char c : pfx.substr(0, 8)) nøgle.start = nøgle.start << 8U | static_cast<unsigned char>(c);
-    nøgle.slut = static_cast<std::uint16_t>(static_cast<unsigned char>(pfx[8]) << 8U | static_cast<unsigned char>(pfx[9]));
-    nøgle.plads = static_cast<std::uint16_t>(plads);
-    return nøgle;
+/// The rows 1 to `antal` in ascending order: sorted by each character in turn, the last one first, every time without
+/// disturbing the order of equal ones.
+std::vector<Nøgle> EfterTegn(std::span<const PfxRec> rækker, int antal) {
+    std::vector<Nøgle> nøgler(static_cast<std::size_t>(antal));
+    // How many rows have which character, by the place of the character.
+    std::array<std::array<Plads, 256>, kPfxLængde> antalMed{};
+    for (std::size_t i = 0; i < nøgler.size(); ++i) {
+        const std::string_view pfx = rækker[i + 1].Pfx.Padded();
+        nøgler[i].plads = static_cast<Plads>(i + 1);
+        for (std::size_t nr = 0; nr < kPfxLængde; ++nr) ++antalMed[nr][nøgler[i].tegn[nr] = static_cast<unsigned char>(pfx[nr])];
+    }
+    std::vector<Nøgle> næste(nøgler.size());
+    for (std::size_t nr = kPfxLængde; nr-- > 0 && !nøgler.empty();) {
+        std::array<Plads, 256>& start = antalMed[nr];
+        // Often nothing but filler.
+        if (start[nøgler.front().tegn[nr]] == nøgler.size()) continue;
+        std::exclusive_scan(start.begin(), start.end(), start.begin(), Plads{0});
+        for (const Nøgle& nøgle : nøgler) næste[start[nøgle.tegn[nr]]++] = nøgle;
+        nøgler.swap(næste);
+    }
+    return nøgler;
 }
 
 /// Knows of each place to which group of equal rows its row belongs, and of each group where its rows stand. The groups
@@ -32,17 +47,14 @@ Nøgle NøgleFor(const PfxRec& række, std::size_t plads) {
 class Valg {
 public:
     Valg(std::span<const PfxRec> rækker, int antal) : gruppe_(rækker.size()) {
-        std::vector<Nøgle> nøgler;
-        nøgler.reserve(static_cast<std::size_t>(antal));
-        for (std::size_t plads = 1; plads <= static_cast<std::size_t>(antal); ++plads) nøgler.push_back(NøgleFor(rækker[plads], plads));
-        std::sort(nøgler.begin(), nøgler.end(), [](const Nøgle& a, const Nøgle& b) { return a.Før(b); });
+        const std::vector<Nøgle> nøgler = EfterTegn(rækker, antal);
         // A swap adds two places at the most.
         led_.reserve(nøgler.size() * 3 + 1);
         led_.emplace_back();
-        første_.reserve(nøgler.size() + 1);
+        første_.reserve(nøgler.size());
         for (std::size_t i = 0; i < nøgler.size(); ++i) {
-            if (i == 0 || nøgler[i - 1].Før(nøgler[i])) første_.push_back(0);
-            Sæt(nøgler[i].plads, første_.size() - 1);
+            if (i == 0 || nøgler[i - 1].tegn != nøgler[i].tegn) første_.push_back(0);
+            Sæt(nøgler[i].plads, static_cast<Plads>(første_.size() - 1));
         }
     }
 
@@ -50,7 +62,7 @@ public:
     std::size_t Vælg(std::size_t fra) {
         for (;;) {
             while (!steder_.empty()) {
-                const std::size_t plads = steder_.front();
+                const Plads plads = steder_.front();
                 // An entry stays behind when its row has been moved or settled.
                 if (plads >= fra && gruppe_[plads] == nu_) return plads;
                 std::pop_heap(steder_.begin(), steder_.end());
@@ -60,42 +72,43 @@ public:
         }
     }
 
-    std::size_t Gruppe(std::size_t plads) const { return gruppe_[plads]; }
+    Plads Gruppe(std::size_t plads) const { return gruppe_[plads]; }
 
     /// A row of this group stands at the place from now on.
-    void Sæt(std::size_t plads, std::size_t gruppe) {
+    void Sæt(std::size_t hvor, Plads gruppe) {
+        const auto plads = static_cast<Plads>(hvor);
         gruppe_[plads] = gruppe;
         if (begyndt_ && gruppe == nu_) {
             steder_.push_back(plads);
             std::push_heap(steder_.begin(), steder_.end());
         } else {
             led_.push_back({plads, første_[gruppe]});
-            første_[gruppe] = led_.size() - 1;
+            første_[gruppe] = static_cast<Plads>(led_.size() - 1);
         }
     }
 
 private:
     struct Led {
-        std::size_t plads = 0;
-        std::size_t næste = 0;
+        Plads plads = 0;
+        Plads næste = 0;
     };
 
     void Næste() {
-        nu_ = begyndt_ ? nu_ + 1 : 0;
+        if (begyndt_) ++nu_;
         begyndt_ = true;
-        for (std::size_t led = første_[nu_]; led != 0; led = led_[led].næste) steder_.push_back(led_[led].plads);
+        for (Plads led = første_[nu_]; led != 0; led = led_[led].næste) steder_.push_back(led_[led].plads);
         std::make_heap(steder_.begin(), steder_.end());
     }
 
     /// By place.
-    std::vector<std::size_t> gruppe_;
+    std::vector<Plads> gruppe_;
     /// By group: its first entry in led_, 0 for none. Entry 0 is no entry.
-    std::vector<std::size_t> første_;
+    std::vector<Plads> første_;
     std::vector<Led> led_;
     /// The group that is being settled, and a heap of the places of its rows, the last one on top.
-    std::size_t nu_ = 0;
+    Plads nu_ = 0;
     bool begyndt_ = false;
-    std::vector<std::size_t> steder_;
+    std::vector<Plads> steder_;
 };
 
 }  // namespace

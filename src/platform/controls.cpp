@@ -377,7 +377,9 @@ void StatusBar::SetPanel(std::size_t number, std::string_view text) {
 // --- ProgressBar
 
 void ProgressBar::SetMax(int max) {
-    max_ = std::max(max, 0);
+    max = std::max(max, 0);
+    if (max_ == max) return;
+    max_ = max;
     value_ = std::min(value_, max_);
     Tell(Aspect::Value);
 }

@@ -209,8 +209,9 @@ TEST_F(Import, TheBarPassesEveryRowOfEveryStep) {
     };
     ImporterCty();
     EXPECT_EQ(seen, (std::vector<std::string>{"Sorterer  0/3", "Sorterer  1/3", "Sorterer  2/3", "Sorterer  3/3", "Rydder op 0/3",
-                                              "Rydder op 1/3", "Rydder op 2/3", "Rydder op 3/3", "Skriver L 1/1", "Skriver R 1/3",
-                                              "Skriver R 2/3", "Skriver R 3/3"}));
+                                              "Rydder op 1/3", "Rydder op 2/3", "Rydder op 3/3", "Skriver L 1/1", "Skriver L 0/1",
+                                              "Skriver L 1/1", "Skriver R 1/3", "Skriver R 0/3", "Skriver R 1/3", "Skriver R 2/3",
+                                              "Skriver R 3/3"}));
     frmCtyDat.Unload();
 }
 
