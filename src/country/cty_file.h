@@ -21,6 +21,9 @@
 
 namespace vatro {
 
+/// Fills the sort key of a prefix up to the width of its field: "å", above all digits and capital letters.
+inline constexpr char kCtyFyld = '\xE5';
+
 /// A header line in its fields, which point into the line.
 struct CtyHoved {
     std::string_view navn;

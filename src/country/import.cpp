@@ -26,9 +26,6 @@ using namespace literals;
 
 namespace {
 
-/// Fills a sort key up: "å", above all digits and capital letters.
-constexpr char kFyld = "å"_t.front();
-
 float ToFloat(std::string_view tekst) {
     const double tal = NumericValue(tekst);
     if (std::fabs(tal) > std::numeric_limits<float>::max()) throw RunTimeError(Failure::Overflow);
@@ -105,7 +102,7 @@ private:
             throw RunTimeError(Failure::IndexOutOfRange);
         }
         std::string nøgle(post.tekst.substr(0, kPfxLængde));
-        nøgle.resize(kPfxLængde, kFyld);
+        nøgle.resize(kPfxLængde, kCtyFyld);
         PfxRec& række = RefPfx[static_cast<std::size_t>(præfikser_)];
         række.Land = Lande[static_cast<std::size_t>(lande_)].Pfx;
         række.Pfx = nøgle;
@@ -121,8 +118,8 @@ private:
 /// passed over by both; that is meant so.
 void RydOp(int række, std::string& sidste) {
     FixedText<kPfxLængde>& pfx = RefPfx[static_cast<std::size_t>(række)].Pfx;
-    if (pfx.Padded().back() != kFyld) return;
-    const std::string tekst(pfx.Padded().substr(0, pfx.Padded().find(kFyld)));
+    if (pfx.Padded().back() != kCtyFyld) return;
+    const std::string tekst(pfx.Padded().substr(0, pfx.Padded().find(kCtyFyld)));
     pfx = tekst;
     const std::string_view første = pfx.Padded().substr(0, 1);
     if (første == sidste) return;
