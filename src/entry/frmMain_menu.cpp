@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // What the entries of the menu bar do.
+#include "country/import.h"
 #include "country/lookup.h"
 #include "country/unknown.h"
 #include "entry/frmB4.h"
@@ -57,6 +58,7 @@ void FrmMain::BindMenu() {
     mnuIndstillingerKlokken.Click = SkiftAutoTid;
     mnuFunktionerNote.Click = IndsætNote;
     mnuFunktionerVisLand.Click = VisLandNu;
+    mnuFunktionerImporterCTY.Click = ImporterCtyMenu;
 }
 
 void FrmMain::SætKlasse(std::string_view klasse) {

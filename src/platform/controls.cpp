@@ -374,6 +374,23 @@ void StatusBar::SetPanel(std::size_t number, std::string_view text) {
     Tell(Aspect::Panels, static_cast<int>(number));
 }
 
+// --- ProgressBar
+
+void ProgressBar::SetMax(int max) {
+    max = std::max(max, 0);
+    if (max_ == max) return;
+    max_ = max;
+    value_ = std::min(value_, max_);
+    Tell(Aspect::Value);
+}
+
+void ProgressBar::SetValue(int value) {
+    value = std::clamp(value, 0, max_);
+    if (value_ == value) return;
+    value_ = value;
+    Tell(Aspect::Value);
+}
+
 // --- MenuItem
 
 MenuItem::MenuItem(Form& form, MenuItem* menu, std::string_view name, std::string_view caption, int index, MenuLook look)

@@ -452,6 +452,22 @@ private:
     std::vector<std::string> panels_;
 };
 
+/// A bar that fills from 0 to Max.
+class ProgressBar : public Control {
+public:
+    using Control::Control;
+    int Max() const { return max_; }
+    /// A value above the new maximum becomes it. A maximum below 0 is 0.
+    void SetMax(int max);
+    int Value() const { return value_; }
+    /// Is cut to the bar.
+    void SetValue(int value);
+
+private:
+    int max_ = 100;
+    int value_ = 0;
+};
+
 /// What a menu entry has beside its caption.
 struct MenuLook {
     /// As "Ctrl+F1"; empty for none.

@@ -5,8 +5,10 @@
 #include <QFontDatabase>
 #include <QFrame>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QWidget>
+#include <algorithm>
 
 #include "platform/forms.h"
 #include "qt/bind_common.h"
@@ -58,6 +60,12 @@ void BindText(Label& control, W& widget) {
         if (aspect == Aspect::Text) widget.setText(ToQt(control.Caption()));
         if (aspect == Aspect::Look) PushLook(control, widget);
     };
+}
+
+void PushProgress(const ProgressBar& control, QProgressBar& widget) {
+    // A bar from 0 to 0 would be drawn as one whose end is not known.
+    widget.setRange(0, std::max(control.Max(), 1));
+    widget.setValue(control.Value());
 }
 
 /// The form owns the access key; the button only shows it.
@@ -175,6 +183,16 @@ void Bind(UpDown& control, SpinArrows& widget, FormWindow& window) {
         });
     });
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
+}
+
+void Bind(ProgressBar& control, QProgressBar& widget, FormWindow& window) {
+    PushState(control, widget);
+    PushProgress(control, widget);
+    window.NameByCaption(widget);
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        FollowState(control, widget, aspect);
+        if (aspect == Aspect::Value) PushProgress(control, widget);
+    };
 }
 
 void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window) {

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QToolBar>
@@ -37,9 +38,19 @@ bool BindPair(Control& control, QWidget& widget, FormWindow& window) {
 
 /// The pairs there are; a class stands before the one that it is derived from.
 constexpr bool (*kPairs[])(Control&, QWidget&, FormWindow&) = {
-    BindPair<TextBox, QLineEdit>,  BindPair<ComboBox, QComboBox>, BindPair<ListBox, ItemList>,     BindPair<Button, QPushButton>,
-    BindPair<CheckBox, QCheckBox>, BindPair<Label, FittedText>,   BindPair<Label, QLabel>,         BindPair<Label, ColumnHead>,
-    BindPair<Frame, QFrame>,       BindPair<Toolbar, QToolBar>,   BindPair<StatusBar, QStatusBar>, BindPair<UpDown, SpinArrows>,
+    BindPair<TextBox, QLineEdit>,
+    BindPair<ComboBox, QComboBox>,
+    BindPair<ListBox, ItemList>,
+    BindPair<Button, QPushButton>,
+    BindPair<CheckBox, QCheckBox>,
+    BindPair<Label, FittedText>,
+    BindPair<Label, QLabel>,
+    BindPair<Label, ColumnHead>,
+    BindPair<Frame, QFrame>,
+    BindPair<Toolbar, QToolBar>,
+    BindPair<StatusBar, QStatusBar>,
+    BindPair<UpDown, SpinArrows>,
+    BindPair<ProgressBar, QProgressBar>,
 };
 
 bool HasWidget(const Control& control) {
@@ -86,7 +97,8 @@ void BindOne(Control& control, FormWindow& window) {
 bool Bindable(const QWidget& widget) {
     return qobject_cast<const QLineEdit*>(&widget) != nullptr || qobject_cast<const QComboBox*>(&widget) != nullptr ||
            qobject_cast<const QAbstractItemView*>(&widget) != nullptr || qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
-           qobject_cast<const QLabel*>(&widget) != nullptr || qobject_cast<const ColumnHead*>(&widget) != nullptr;
+           qobject_cast<const QLabel*>(&widget) != nullptr || qobject_cast<const QProgressBar*>(&widget) != nullptr ||
+           qobject_cast<const ColumnHead*>(&widget) != nullptr;
 }
 
 /// Widgets of the layout that no control owns.

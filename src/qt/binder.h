@@ -13,6 +13,7 @@ class QComboBox;
 class QFrame;
 class QLabel;
 class QLineEdit;
+class QProgressBar;
 class QPushButton;
 
 namespace vatro {
@@ -28,6 +29,7 @@ class Frame;
 class ItemList;
 class Label;
 class ListBox;
+class ProgressBar;
 class SpinArrows;
 class TextBox;
 class UpDown;
@@ -40,6 +42,7 @@ void Bind(ComboBox& control, QComboBox& widget, FormWindow& window);
 void Bind(ListBox& control, ItemList& widget, FormWindow& window);
 void Bind(Button& control, QPushButton& widget, FormWindow& window);
 void Bind(UpDown& control, SpinArrows& widget, FormWindow& window);
+void Bind(ProgressBar& control, QProgressBar& widget, FormWindow& window);
 void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window);
 void Bind(Label& control, QLabel& widget, FormWindow& window);
 void Bind(Label& control, FittedText& widget, FormWindow& window);

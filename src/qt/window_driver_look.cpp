@@ -6,8 +6,10 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
+#include <QProgressBar>
 #include <QStatusBar>
 #include <QToolBar>
+#include <algorithm>
 
 #include "platform/forms.h"
 #include "qt/bars.h"
@@ -73,6 +75,12 @@ std::string Differs(const StatusBar& control, const QStatusBar& bar) {
     return {};
 }
 
+std::string Differs(const ProgressBar& control, const QProgressBar& bar) {
+    if (bar.maximum() != std::max(control.Max(), 1) || bar.value() != control.Value())
+        return "the bar stands at " + std::to_string(bar.value()) + " of " + std::to_string(bar.maximum());
+    return {};
+}
+
 }  // namespace
 
 std::string Difference(const Control& control, const QWidget& widget) {
@@ -84,6 +92,7 @@ std::string Difference(const Control& control, const QWidget& widget) {
     if (const auto* label = dynamic_cast<const Label*>(&control)) return Differs(*label, widget);
     if (const auto* bar = dynamic_cast<const Toolbar*>(&control)) return Differs(*bar, dynamic_cast<const QToolBar&>(widget));
     if (const auto* bar = dynamic_cast<const StatusBar*>(&control)) return Differs(*bar, dynamic_cast<const QStatusBar&>(widget));
+    if (const auto* bar = dynamic_cast<const ProgressBar*>(&control)) return Differs(*bar, dynamic_cast<const QProgressBar&>(widget));
     if (const auto* check = dynamic_cast<const CheckBox*>(&control))
         if (dynamic_cast<const QAbstractButton&>(widget).isChecked() != check->Value()) return "the tick is another one";
     if (const auto* button = dynamic_cast<const Button*>(&control))

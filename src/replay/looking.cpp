@@ -109,6 +109,8 @@ Output ShowControl(const Control& control) {
         for (const std::string& panel : bar->Panels()) line += " " + Quoted(panel);
         return {line};
     }
+    if (const auto* progress = dynamic_cast<const ProgressBar*>(&control))
+        return {name + " " + std::to_string(progress->Value()) + " of " + std::to_string(progress->Max())};
     throw CannotDeliver(name + " has nothing to show");
 }
 

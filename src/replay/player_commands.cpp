@@ -219,7 +219,8 @@ void Player::DoClick(const Command& command) {
     }
     if (dynamic_cast<const ListBox*>(&control) != nullptr || dynamic_cast<const Toolbar*>(&control) != nullptr ||
         dynamic_cast<const MenuItem*>(&control) != nullptr || dynamic_cast<const Timer*>(&control) != nullptr ||
-        dynamic_cast<const StatusBar*>(&control) != nullptr || dynamic_cast<const Frame*>(&control) != nullptr)
+        dynamic_cast<const StatusBar*>(&control) != nullptr || dynamic_cast<const ProgressBar*>(&control) != nullptr ||
+        dynamic_cast<const Frame*>(&control) != nullptr)
         throw CannotDeliver(NameOf(control) + " is nothing to click on");
     driver_.Click(control);
 }

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+//
+// The import of a country file with as many prefixes as the table holds. What it writes stays in memory, so that waiting for
+// the disk is no part of it. The yardstick reads the same file and splits it into its items.
+#include <benchmark/benchmark.h>
+
+#include <string>
+#include <vector>
+
+#include "country/cty_file.h"
+#include "country/frmCtyDat.h"
+#include "country/import.h"
+#include "country/tables.h"
+#include "disk/disk_files.h"
+#include "frame/station.h"
+#include "platform/program.h"
+#include "program.h"
+#include "replay/memory_front.h"
+#include "replay/scene_clock.h"
+#include "replay/settings_store.h"
+#include "sample.h"
+#include "unattended.h"
+
+namespace vatro::bench {
+
+namespace {
+
+constexpr int kCountries = 345;
+constexpr int kItemsPerLine = 9;
+
+/// Reads from the disk; what is written is kept in memory.
+class ReadingFiles : public DiskFiles {
+public:
+    void Open(int number, std::string_view path, FileMode mode) override {
+        if (mode == FileMode::Input) return DiskFiles::Open(number, path, mode);
+        written_.clear();
+    }
+    void PrintLine(int, std::string_view text) override { written_.append(text).append("\r\n"); }
+
+private:
+    std::string written_;
+};
+
+std::string Letters(int number) {
+    std::string text;
+    for (int i = 0; i < 3; ++i, number /= 26) text += static_cast<char>('A' + number % 26);
+    return text;
+}
+
+/// kTableRows items out of order, a zone at one in eight, spread over the countries.
+std::vector<std::string> SampleCtyFile() {
+    std::vector<std::string> lines;
+    int item = 0;
+    for (int country = 0; country < kCountries; ++country) {
+        lines.push_back("Country Of The Bench:     14:  27:  EU:   56.00:   -10.00:    -1.0:  " + Letters(country) + ":");
+        const int last = kTableRows * (country + 1) / kCountries;
+        for (int inLine = 0; item < last; ++item, ++inLine) {
+            if (inLine % kItemsPerLine == 0) lines.emplace_back("    ");
+            lines.back() += Letters(item * 7919 % 17576) + (item % 8 == 0 ? "(15)" : "") + (item + 1 == last ? ";" : ",");
+        }
+    }
+    return lines;
+}
+
+struct World {
+    World() {
+        WriteLines(workplace.Path("cty.dat"), SampleCtyFile());
+        gsFDLib = NativeText(workplace.Path(""));
+        InstallPlatform({front.ProgramFront(), unattended, settings, files, clock, help, unattended, Version{}});
+        BeginProgram();
+        Dispatch([] { frmCtyDat.Load(); });
+    }
+    ~World() { EndProgram(); }
+    World(const World&) = delete;
+    World& operator=(const World&) = delete;
+
+    Workplace workplace;
+    MemoryFront front;
+    SettingsStore settings;
+    ReadingFiles files;
+    SceneClock clock;
+    Unattended unattended;
+    NoHelp help;
+};
+
+void SplitFile(benchmark::State& state) {
+    World world;
+    Files& files = platform().files;
+    for (auto _ : state) {
+        std::vector<std::string> items;
+        files.Open(1, Sti(gsFDLib, "cty.dat"), FileMode::Input);
+        while (!files.EndOfFile(1)) {
+            const std::string headerLine = files.LineInput(1);
+            const CtyHoved header = LæsCtyHoved(headerLine);
+            std::string line;
+            do {
+                line = files.LineInput(1);
+                CtyPoster rest(line, header);
+                while (rest.Flere()) items.emplace_back(rest.Næste().tekst);
+            } while (!line.ends_with(';'));
+        }
+        files.Close(1);
+        if (items.size() != kTableRows) return state.SkipWithError("the file was not read");
+        benchmark::DoNotOptimize(items.data());
+    }
+}
+
+void Import(benchmark::State& state) {
+    World world;
+    state.SetLabel("vs country file into items, at most 2");
+    for (auto _ : state) {
+        ImporterCty();
+        if (giRefPfx != kTableRows) return state.SkipWithError("the file was not imported");
+    }
+    NulstilTabeller();
+}
+
+BENCHMARK(SplitFile)->Name("country file into items")->Unit(benchmark::kMicrosecond);
+BENCHMARK(Import)->Name("country file imported")->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+}  // namespace vatro::bench

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+//
+// The import of any country file: it ends with one of its failures and has written nothing, or leaves sorted tables behind.
+// Input: the file as it stands.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "country/frmCtyDat.h"
+#include "country/import.h"
+#include "country/tables.h"
+#include "platform/platform.h"
+#include "platform/program.h"
+#include "replay/memory_front.h"
+#include "replay/scene_clock.h"
+#include "replay/settings_store.h"
+
+namespace {
+
+using namespace vatro;
+
+class OneFile : public Files {
+public:
+    void Open(int, std::string_view, FileMode mode) override { wrote = wrote || mode != FileMode::Input; }
+    std::string LineInput(int) override {
+        if (EndOfFile(1)) throw RunTimeError(Failure::InputPastEnd);
+        std::string line(rest.substr(0, rest.find('\n')));
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+        return line;
+    }
+    bool EndOfFile(int) override { return rest.empty(); }
+    void PrintLine(int, std::string_view) override {}
+    void Print(int, std::string_view) override {}
+    void Close(int) override {}
+    void Delete(std::string_view) override {}
+    void Rename(std::string_view, std::string_view) override {}
+    void Copy(std::string_view, std::string_view) override {}
+    std::string CurrentDirectory() override { return {}; }
+    char Separator() const override { return '/'; }
+    std::string_view rest;
+    bool wrote = false;
+};
+
+class Nobody : public Dialogs, public Help, public Instance {
+public:
+    Answer Show(const MessageBox&) override { return Answer::Ok; }
+    std::string SaveFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    std::string OpenFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    void ShowFailure(const RunTimeError&) override {}
+    void Show(std::string_view) override {}
+    bool AnotherCopyRuns() override { return false; }
+};
+
+struct World {
+    World() {
+        InstallPlatform({front.ProgramFront(), nobody, settings, files, clock, nobody, nobody, Version{}});
+        BeginProgram();
+        frmCtyDat.Load();
+    }
+    MemoryFront front;
+    Nobody nobody;
+    SettingsStore settings;
+    OneFile files;
+    SceneClock clock;
+};
+
+bool Expected(Failure failure) {
+    return failure == Failure::InvalidCall || failure == Failure::Overflow || failure == Failure::IndexOutOfRange ||
+           failure == Failure::InputPastEnd;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static auto* const world = new World;
+    NulstilTabeller();
+    world->files.rest = {reinterpret_cast<const char*>(data), size};
+    world->files.wrote = false;
+    try {
+        ImporterCty();
+    } catch (const RunTimeError& failure) {
+        if (!Expected(failure.Which()) || world->files.wrote || giRefPfx != 0) __builtin_trap();
+        return 0;
+    }
+    if (giLande > kLandeRækker || giRefPfx > kRefPfxRækker) __builtin_trap();
+    for (int i = 1; i <= giRefPfx; ++i)
+        if (FindHeleCall(RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed(), 1) > i) __builtin_trap();
+    return 0;
+}

@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: MIT
+#include "country/cty_fit.h"
+
+#include <algorithm>
+#include <map>
+#include <unordered_map>
+#include <utility>
+
+#include "country/cty_file.h"
+#include "country/tables.h"
+#include "text/errors.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr std::size_t kLinjeLængde = 78;
+
+bool Stjerne(const CtyLand& land) {
+    return land.pfx.starts_with('*');
+}
+
+/// An item that stays, and its country.
+struct Sted {
+    const CtyLand* land = nullptr;
+    CtyItem* post = nullptr;
+};
+
+bool SammeZoner(const CtyItem& a, const CtyItem& b) {
+    return a.cqZone == b.cqZone && a.ituZone == b.ituZone;
+}
+
+/// The items that stay, by prefix.
+class Beholdt {
+public:
+    /// False if the prefix is there already.
+    bool Tilføj(const Sted& sted) { return steder_.emplace(sted.post->pfx, sted).second; }
+    void Fjern(CtyItem& post) {
+        post.med = false;
+        steder_.erase(post.pfx);
+    }
+    std::size_t Antal() const { return steder_.size(); }
+    const Sted* Find(const std::string& pfx) const {
+        const auto fundet = steder_.find(pfx);
+        return fundet == steder_.end() ? nullptr : &fundet->second;
+    }
+    /// The longest one that is shorter than the prefix and begins it, or nothing.
+    const Sted* Kortere(const std::string& pfx) const {
+        for (std::size_t længde = pfx.size(); længde-- > 0;)
+            if (const Sted* sted = Find(pfx.substr(0, længde))) return sted;
+        return nullptr;
+    }
+
+private:
+    std::unordered_map<std::string, Sted> steder_;
+};
+
+[[noreturn]] void FejlILinje(std::size_t nr, const std::string& hvad) {
+    throw CtyFejl{"linje " + std::to_string(nr) + ": " + hvad};
+}
+
+/// All items but those that stand twice, the shortest first; of equal length in the order of the file. What stands twice under
+/// one country goes to `dobbelte`, first those with the same zones.
+std::vector<Sted> Stedfæst(std::vector<CtyLand>& lande, Beholdt& beholdt, std::vector<Sted>& dobbelte, CtyUdeladt& ude) {
+    std::vector<Sted> steder;
+    std::vector<Sted> andreZoner;
+    for (CtyLand& land : lande)
+        for (CtyItem& post : land.poster) {
+            const Sted sted{&land, &post};
+            if (beholdt.Tilføj(sted)) {
+                steder.push_back(sted);
+                continue;
+            }
+            const Sted& første = *beholdt.Find(post.pfx);
+            if (første.land->pfx == land.pfx) {
+                (SammeZoner(*første.post, post) ? dobbelte : andreZoner).push_back(sted);
+                continue;
+            }
+            post.med = false;
+            ude.dubletter.push_back(post.tekst);
+        }
+    dobbelte.insert(dobbelte.end(), andreZoner.begin(), andreZoner.end());
+    std::stable_sort(steder.begin(), steder.end(), [](const Sted& a, const Sted& b) { return a.post->pfx.size() < b.post->pfx.size(); });
+    return steder;
+}
+
+/// Leaves out items that may go until the rest fits.
+template <class MåUd>
+void Udelad(const std::vector<Sted>& steder, Beholdt& beholdt, std::size_t plads, MåUd måUd) {
+    for (const Sted& sted : steder) {
+        if (beholdt.Antal() <= plads) return;
+        if (sted.post->med && måUd(sted, beholdt.Kortere(sted.post->pfx))) beholdt.Fjern(*sted.post);
+    }
+}
+
+/// Leaves out calls of full length that stand before all other prefixes of their first character and that no shorter one
+/// gives: until the program is started again the import's index leads past them.
+void UdeladForreste(const std::vector<Sted>& steder, Beholdt& beholdt) {
+    std::map<std::string, Sted> rækker;
+    for (const Sted& sted : steder) {
+        std::string nøgle = sted.post->pfx;
+        nøgle.resize(kPfxLængde, kCtyFyld);
+        if (sted.post->med) rækker.emplace(nøgle, sted);
+    }
+    char indekseret = '\0';
+    for (const auto& [nøgle, sted] : rækker) {
+        if (nøgle.front() == indekseret) continue;
+        if (nøgle.back() == kCtyFyld) {
+            indekseret = nøgle.front();
+            continue;
+        }
+        const Sted* kortere = beholdt.Kortere(sted.post->pfx);
+        if (kortere == nullptr || kortere->land->pfx != sted.land->pfx) beholdt.Fjern(*sted.post);
+    }
+}
+
+}  // namespace
+
+std::vector<std::string> CtyLinjer(std::string_view indhold) {
+    std::vector<std::string> linjer;
+    while (!indhold.empty()) {
+        const std::size_t slut = std::min(indhold.find_first_of("\r\n"), indhold.size());
+        linjer.emplace_back(indhold.substr(0, slut));
+        indhold.remove_prefix(slut);
+        if (indhold.empty()) break;
+        indhold.remove_prefix(indhold.starts_with("\r\n") ? 2 : 1);
+    }
+    return linjer;
+}
+
+std::vector<CtyLand> LæsCtyFil(const std::vector<std::string>& linjer) {
+    std::vector<CtyLand> lande;
+    for (std::size_t nr = 0; nr < linjer.size(); ++nr) {
+        CtyLand land;
+        land.hoved = linjer[nr];
+        try {
+            const CtyHoved hoved = LæsCtyHoved(land.hoved);
+            land.pfx = hoved.pfx.substr(0, kPfxLængde);
+            do {
+                if (++nr == linjer.size()) FejlILinje(nr, "filen holder op midt i et land");
+                CtyPoster rest(linjer[nr], hoved);
+                while (rest.Flere()) {
+                    const std::string_view tekst = rest.NæsteTekst();
+                    const CtyPost post = CtyPoster::Opdel(tekst, hoved);
+                    land.poster.push_back(
+                        {std::string(tekst), std::string(post.tekst.substr(0, kPfxLængde)), post.cqZone, post.ituZone, post.kald, true});
+                }
+            } while (!linjer[nr].ends_with(';'));
+        } catch (const RunTimeError&) {
+            FejlILinje(nr + 1, "kan ikke læses");
+        }
+        lande.push_back(std::move(land));
+    }
+    return lande;
+}
+
+std::vector<std::string> KontrollerCty(const std::vector<CtyLand>& lande) {
+    std::vector<std::string> fejl;
+    std::size_t antalLande = 0;
+    std::size_t poster = 0;
+    bool udeladt = false;
+    const CtyLand* forrige = nullptr;
+    std::unordered_map<std::string, std::string> landAf;
+    for (const CtyLand& land : lande) {
+        if (Stjerne(land) && !udeladt) {
+            udeladt = true;
+            continue;
+        }
+        if (udeladt && Stjerne(land)) fejl.push_back("to lande med * efter hinanden: " + land.pfx + " bliver taget med");
+        // The import looks for the next header by its last character.
+        if (udeladt && !land.hoved.ends_with(':')) fejl.push_back("overskriften efter et land med * slutter ikke med ':': " + land.hoved);
+        udeladt = false;
+        ++antalLande;
+        poster += land.poster.size();
+        if (forrige != nullptr && forrige->pfx >= land.pfx) fejl.push_back(land.pfx + " står ikke i rækkefølge efter " + forrige->pfx);
+        forrige = &land;
+        for (const CtyItem& post : land.poster) {
+            const auto [sted, ny] = landAf.emplace(post.pfx, land.pfx);
+            if (!ny && sted->second != land.pfx) fejl.push_back(post.pfx + " står under både " + sted->second + " og " + land.pfx);
+        }
+    }
+    if (udeladt) fejl.emplace_back("det sidste land er mærket med *");
+    if (antalLande > static_cast<std::size_t>(kLandeRækker))
+        fejl.push_back(std::to_string(antalLande) + " lande, der er plads til " + std::to_string(kLandeRækker));
+    if (poster > kPladsTilPræfikser)
+        fejl.push_back(std::to_string(poster) + " præfixer, der er plads til " + std::to_string(kPladsTilPræfikser));
+    return fejl;
+}
+
+CtyUdeladt TilpasCty(std::vector<CtyLand>& lande, std::size_t plads) {
+    CtyUdeladt ude;
+    for (const CtyLand& land : lande)
+        if (Stjerne(land)) ude.lande.push_back(land.pfx);
+    std::erase_if(lande, Stjerne);
+
+    Beholdt beholdt;
+    std::vector<Sted> dobbelte;
+    const std::vector<Sted> steder = Stedfæst(lande, beholdt, dobbelte, ude);
+    for (std::size_t i = 0; i < dobbelte.size() && beholdt.Antal() + dobbelte.size() - i > plads; ++i) {
+        CtyItem& post = *dobbelte[i].post;
+        post.med = false;
+        (SammeZoner(*beholdt.Find(post.pfx)->post, post) ? ude.intetTabt : ude.zoner).push_back(post.tekst);
+    }
+    // An exact call is no support: it may have to go itself.
+    const auto støttet = [](const Sted& sted, const Sted* kortere) {
+        return kortere != nullptr && !kortere->post->kald && kortere->land->pfx == sted.land->pfx;
+    };
+    Udelad(steder, beholdt, plads,
+           [&](const Sted& sted, const Sted* kortere) { return støttet(sted, kortere) && SammeZoner(*sted.post, *kortere->post); });
+    Udelad(steder, beholdt, plads, støttet);
+    Udelad(steder, beholdt, plads, [](const Sted& sted, const Sted*) { return sted.post->kald; });
+    if (beholdt.Antal() > plads)
+        throw CtyFejl{std::to_string(beholdt.Antal()) + " præfixer kan ikke undværes, der er plads til " + std::to_string(plads)};
+
+    UdeladForreste(steder, beholdt);
+
+    // What an item has lost shows only now: the one that gave its zones may have gone after it.
+    for (const Sted& sted : steder) {
+        if (sted.post->med) continue;
+        const Sted* kortere = beholdt.Kortere(sted.post->pfx);
+        if (kortere == nullptr || kortere->land->pfx != sted.land->pfx)
+            ude.kald.push_back(sted.post->tekst);
+        else
+            (SammeZoner(*kortere->post, *sted.post) ? ude.intetTabt : ude.zoner).push_back(sted.post->tekst);
+    }
+    return ude;
+}
+
+std::vector<std::string> SkrivCty(const std::vector<CtyLand>& lande) {
+    std::vector<std::string> linjer;
+    for (const CtyLand& land : lande) {
+        linjer.push_back(land.hoved);
+        std::string linje(4, ' ');
+        bool første = true;
+        for (const CtyItem& post : land.poster) {
+            if (!post.med) continue;
+            if (!første) linje += ',';
+            if (linje.size() > 4 && linje.size() + post.tekst.size() + 1 > kLinjeLængde) {
+                linjer.push_back(linje);
+                linje.assign(4, ' ');
+            }
+            linje += post.tekst;
+            første = false;
+        }
+        linjer.push_back(linje + ';');
+    }
+    return linjer;
+}
+
+}  // namespace vatro

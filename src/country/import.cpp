@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: MIT
+#include "country/import.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include "country/cty_file.h"
+#include "country/frmCtyDat.h"
+#include "country/prefix_order.h"
+#include "country/tables.h"
+#include "entry/frmMain.h"
+#include "entry/validation.h"
+#include "frame/station.h"
+#include "logbook/log_file.h"
+#include "platform/platform.h"
+#include "text/codepage.h"
+#include "text/numbers.h"
+
+namespace vatro {
+
+using namespace literals;
+
+namespace {
+
+float ToFloat(std::string_view tekst) {
+    const double tal = NumericValue(tekst);
+    if (std::fabs(tal) > std::numeric_limits<float>::max()) throw RunTimeError(Failure::Overflow);
+    return static_cast<float>(tal);
+}
+
+/// "-" or a blank, the number in its shortest form, a blank.
+std::string TalTekst(float tal) {
+    // The smallest float has 45 decimals.
+    std::array<char, 64> cifre;
+    const auto slut = std::to_chars(cifre.data(), cifre.data() + cifre.size(), std::fabs(tal), std::chars_format::fixed).ptr;
+    return (tal < 0 ? "-" : " ") + std::string(cifre.data(), slut) + " ";
+}
+
+void VisOverløb(int antal) {
+    MessageBox besked;
+    besked.title = "Tabeloverløb"_t;
+    besked.text = "Der er " + PlainNumber(antal);
+    besked.text += " præfixer, men der er kun plads til "_t;
+    besked.text += PlainNumber(kRefPfxRækker);
+    besked.text += " i tabellen. \r\n";
+    besked.text += "Kontakt programleverandøren om fejlen. \r\n"_t;
+    besked.text += "I kan køre videre, men der vil være fejl i jeres præfixberegning. \r\n"_t;
+    besked.text += "Det kan rettes op senere med en korrekt fil.";
+    besked.icon = Icon::Information;
+    MsgBox(besked);
+}
+
+/// Takes the country file into the tables. The rows in use are not counted there before the whole file is read.
+class Indlæser {
+public:
+    void Indlæs() {
+        Files& filer = platform().files;
+        filer.Open(1, Sti(gsFDLib, "cty.dat"), FileMode::Input);
+        while (!filer.EndOfFile(1)) IndlæsLand(filer);
+        filer.Close(1);
+        giLande = ToInt16(lande_);
+        giRefPfx = ToInt16(præfikser_);
+    }
+
+private:
+    void IndlæsLand(Files& filer) {
+        std::string linje = filer.LineInput(1);
+        CtyHoved hoved = LæsCtyHoved(linje);
+        if (hoved.Udelades()) {
+            do linje = filer.LineInput(1);
+            while (!linje.ends_with(':'));
+            // Not looked at for a mark again: of two left out one behind the other the second one is kept. That is meant so.
+            hoved = LæsCtyHoved(linje);
+        }
+        GemLand(hoved);
+        std::string præfikser;
+        do {
+            præfikser = filer.LineInput(1);
+            CtyPoster poster(præfikser, hoved);
+            while (poster.Flere()) GemPræfiks(poster.Næste());
+        } while (!præfikser.ends_with(';'));
+    }
+
+    void GemLand(const CtyHoved& hoved) {
+        if (++lande_ > kLandeRækker) throw RunTimeError(Failure::IndexOutOfRange);
+        LandRec& land = Lande[static_cast<std::size_t>(lande_)];
+        land.Pfx = hoved.pfx;
+        land.Navn = hoved.navn;
+        land.Kontinent = hoved.kontinent;
+        land.Bredde = ToFloat(hoved.bredde);
+        land.Laengde = ToFloat(hoved.længde);
+        land.TidsZone = ToFloat(hoved.tidsZone);
+    }
+
+    void GemPræfiks(const CtyPost& post) {
+        if (++præfikser_ > kRefPfxRækker) {
+            VisOverløb(præfikser_);
+            throw RunTimeError(Failure::IndexOutOfRange);
+        }
+        std::string nøgle(post.tekst.substr(0, kPfxLængde));
+        nøgle.resize(kPfxLængde, kCtyFyld);
+        PfxRec& række = RefPfx[static_cast<std::size_t>(præfikser_)];
+        række.Land = Lande[static_cast<std::size_t>(lande_)].Pfx;
+        række.Pfx = nøgle;
+        række.ITUzone = post.ituZone;
+        række.CQzone = post.cqZone;
+    }
+
+    int lande_ = 0;
+    int præfikser_ = 0;
+};
+
+/// Takes the filler off and finds the first row of each first character. A prefix of full length has no filler and is
+/// passed over by both; that is meant so.
+void RydOp(int række, std::string& sidste) {
+    FixedText<kPfxLængde>& pfx = RefPfx[static_cast<std::size_t>(række)].Pfx;
+    if (pfx.Padded().back() != kCtyFyld) return;
+    const std::string tekst(pfx.Padded().substr(0, pfx.Padded().find(kCtyFyld)));
+    pfx = tekst;
+    const std::string_view første = pfx.Padded().substr(0, 1);
+    if (første == sidste) return;
+    sidste = første;
+    gaPfxStart[static_cast<unsigned char>(første.front())] = static_cast<std::int16_t>(række);
+}
+
+template <class Linje>
+void SkrivFil(FrmCtyDat& form, std::string_view navn, std::string_view trin, int antal, Linje tilføj) {
+    Files& filer = platform().files;
+    form.Vis(trin);
+    filer.Open(1, Sti(gsFDLib, navn), FileMode::Output);
+    form.Begynd(antal);
+    std::string linje;
+    for (int i = 1; i <= antal; ++i) {
+        form.Trin(i);
+        linje.clear();
+        tilføj(linje, static_cast<std::size_t>(i));
+        filer.PrintLine(1, linje);
+    }
+    filer.Close(1);
+}
+
+void TilføjLand(std::string& linje, std::size_t række) {
+    const LandRec& land = Lande[række];
+    linje.append(land.Pfx.Padded()).append(land.Navn.Padded()).append(land.Kontinent.Padded()).append(" ");
+    linje += TalTekst(land.TidsZone);
+}
+
+void TilføjPfx(std::string& linje, std::size_t række) {
+    const PfxRec& pfx = RefPfx[række];
+    linje.append(pfx.Pfx.Padded()).append(pfx.Land.Padded()).append(pfx.CQzone.Padded()).append(" ").append(pfx.ITUzone.Padded());
+}
+
+}  // namespace
+
+void ImporterCty() {
+    FrmCtyDat& form = *frmCtyDat;
+    form.Vis("Indlæser Cty.dat"_t);
+    Indlæser().Indlæs();
+
+    form.Vis("Sorterer Præfix-referencetabel"_t);
+    form.Begynd(giRefPfx);
+    SorterPræfikser(RefPfx, giRefPfx, [&form](int række) { form.Trin(række); });
+
+    form.Vis("Rydder op i Præfix-referencetabel"_t);
+    form.Begynd(giRefPfx);
+    std::string sidste;
+    for (int i = 1; i <= giRefPfx; ++i) {
+        form.Trin(i);
+        RydOp(i, sidste);
+    }
+    IndekserRefPfx();
+
+    SkrivFil(form, "lande.txt", "Skriver Lande.txt fil", giLande, TilføjLand);
+    SkrivFil(form, "refpfx.txt", "Skriver RefPfx.txt fil", giRefPfx, TilføjPfx);
+}
+
+void ImporterCtyMenu() {
+    MessageBox spørgsmål;
+    spørgsmål.title = "Import af CTY.DAT";
+    spørgsmål.text = "Det tager nogle minutter. Er du sikker?";
+    spørgsmål.buttons = Buttons::YesNo;
+    if (MsgBox(spørgsmål) == Answer::Yes) {
+        frmMain->SetEnabled(false);
+        frmCtyDat->Show();
+        ImporterCty();
+        frmCtyDat.Unload();
+        frmMain->SetEnabled(true);
+    }
+    IndlæsLogfil();
+    ResetQSO();
+}
+
+}  // namespace vatro

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+//
+//   vatro-cty CTY.DAT            checks a country file against the rules of the import
+//   vatro-cty CTY.DAT OUT.DAT    writes one that the import takes, and tells what it has left out
+//
+// Exit 1 if the file cannot be taken, or not be made to fit; nothing is written then.
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+#include "country/cty_fit.h"
+#include "text/codepage.h"
+
+namespace {
+
+using namespace vatro;
+
+std::string Læs(const char* sti) {
+    std::ifstream fil(sti, std::ios::binary);
+    std::string indhold(std::istreambuf_iterator<char>(fil), {});
+    if (!fil.is_open() || fil.bad()) throw CtyFejl{std::string(sti) + " kan ikke læses"};
+    return indhold;
+}
+
+void Fortæl(const char* hvad, const std::vector<std::string>& poster) {
+    if (poster.empty()) return;
+    std::cout << poster.size() << " " << hvad << ":\n ";
+    for (const std::string& post : poster) std::cout << ' ' << ToUtf8(post);
+    std::cout << '\n';
+}
+
+/// Tells what is wrong; whether nothing is.
+bool Kontroller(const std::vector<CtyLand>& lande) {
+    const std::vector<std::string> fejl = KontrollerCty(lande);
+    for (const std::string& linje : fejl) std::cerr << linje << '\n';
+    return fejl.empty();
+}
+
+int Tilpas(std::vector<CtyLand>& lande, const char* sti) {
+    const CtyUdeladt ude = TilpasCty(lande);
+    const std::vector<std::string> linjer = SkrivCty(lande);
+    if (!Kontroller(LæsCtyFil(linjer))) return 1;
+    std::ofstream fil(sti, std::ios::binary);
+    for (const std::string& linje : linjer) fil << linje << "\r\n";
+    fil.close();
+    if (!fil) throw CtyFejl{std::string(sti) + " kan ikke skrives"};
+    Fortæl("lande med * er udeladt", ude.lande);
+    Fortæl("poster står allerede under et andet land og er udeladt", ude.dubletter);
+    Fortæl("poster er udeladt uden tab", ude.intetTabt);
+    Fortæl("poster er udeladt, kun deres zoner er tabt", ude.zoner);
+    Fortæl("kald er udeladt og hører nu til et andet land eller intet", ude.kald);
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2 && argc != 3) {
+        std::cerr << "brug: vatro-cty CTY.DAT [NY.DAT]\n";
+        return 2;
+    }
+    try {
+        std::vector<CtyLand> lande = LæsCtyFil(CtyLinjer(Læs(argv[1])));
+        if (argc == 3) return Tilpas(lande, argv[2]);
+        if (!Kontroller(lande)) return 1;
+        std::cout << lande.size() << " lande, filen kan importeres\n";
+        return 0;
+    } catch (const CtyFejl& fejl) {
+        std::cerr << "vatro-cty: " << fejl.tekst << '\n';
+        return 1;
+    }
+}

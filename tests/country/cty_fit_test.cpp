@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "country/cty_fit.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace vatro {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+std::string Header(const std::string& pfx) {
+    return "Fantasia:                 14:  27:  EU:   56.00:   -10.00:    -1.0:  " + pfx + ":";
+}
+
+const Texts kTwo{Header("QA"), "    QA,QA1,QA2(15),=QA5AB,=QB7XY;", Header("QB"), "    QB,=QB1AB;"};
+
+Texts Fitted(const Texts& lines, std::size_t room) {
+    std::vector<CtyLand> countries = LæsCtyFil(lines);
+    TilpasCty(countries, room);
+    return SkrivCty(countries);
+}
+
+std::string Refused(const Texts& lines) {
+    try {
+        LæsCtyFil(lines);
+    } catch (const CtyFejl& fault) {
+        return fault.tekst;
+    }
+    return {};
+}
+
+TEST(CtyFit, LinesEndInAnyWay) {
+    EXPECT_EQ(CtyLinjer("a\r\nb\nc\rd"), (Texts{"a", "b", "c", "d"}));
+    EXPECT_EQ(CtyLinjer("a\n\nb\n"), (Texts{"a", "", "b"}));
+    EXPECT_EQ(CtyLinjer(""), (Texts{}));
+}
+
+TEST(CtyFit, WhatFitsStays) {
+    EXPECT_EQ(Fitted(kTwo, 7), kTwo);
+}
+
+TEST(CtyFit, WhatAShorterPrefixGivesGoesFirst) {
+    // QA1, QA5AB and QB1AB are given whole; the shortest goes first, and no more than needed.
+    EXPECT_EQ(Fitted(kTwo, 6), (Texts{Header("QA"), "    QA,QA2(15),=QA5AB,=QB7XY;", Header("QB"), "    QB,=QB1AB;"}));
+    EXPECT_EQ(Fitted(kTwo, 4), (Texts{Header("QA"), "    QA,QA2(15),=QB7XY;", Header("QB"), "    QB;"}));
+}
+
+TEST(CtyFit, ThenZonesAndThenExactCalls) {
+    EXPECT_EQ(Fitted(kTwo, 3), (Texts{Header("QA"), "    QA,=QB7XY;", Header("QB"), "    QB;"}));
+    EXPECT_EQ(Fitted(kTwo, 2), (Texts{Header("QA"), "    QA;", Header("QB"), "    QB;"}));
+    EXPECT_THROW(Fitted(kTwo, 1), CtyFejl);
+}
+
+TEST(CtyFit, TellsWhatIsLost) {
+    std::vector<CtyLand> countries = LæsCtyFil(kTwo);
+    const CtyUdeladt out = TilpasCty(countries, 2);
+    EXPECT_EQ(out.intetTabt, (Texts{"QA1", "=QA5AB", "=QB1AB"}));
+    EXPECT_EQ(out.zoner, (Texts{"QA2(15)"}));
+    EXPECT_EQ(out.kald, (Texts{"=QB7XY"}));
+    EXPECT_EQ(out.dubletter, (Texts{}));
+    EXPECT_EQ(out.lande, (Texts{}));
+}
+
+TEST(CtyFit, APrefixOfAnotherCountryInBetweenKeepsTheLongerOne) {
+    // QA12 would be counted for QB, whose QA1 is longer than QA.
+    const Texts lines{Header("QA"), "    QA,QA12;", Header("QB"), "    QA1,QB,QB3;"};
+    EXPECT_EQ(Fitted(lines, 4), (Texts{Header("QA"), "    QA,QA12;", Header("QB"), "    QA1,QB;"}));
+    EXPECT_THROW(Fitted(lines, 3), CtyFejl);
+}
+
+TEST(CtyFit, AnExactCallSupportsNoLongerOne) {
+    // QB7XY/P is given by QB7XY alone, which goes itself in the end.
+    const Texts lines{Header("QA"), "    QA,=QB7XY,=QB7XY/P;", Header("QB"), "    QB;"};
+    std::vector<CtyLand> countries = LæsCtyFil(lines);
+    EXPECT_EQ(TilpasCty(countries, 2).kald, (Texts{"=QB7XY", "=QB7XY/P"}));
+}
+
+TEST(CtyFit, StarredCountriesAndItemsOfAnEarlierCountryAlwaysGo) {
+    const Texts lines{Header("*QA/x"), "    QA5;", Header("QA"), "    QA,QX;", Header("QB"), "    QB,QX;"};
+    std::vector<CtyLand> countries = LæsCtyFil(lines);
+    const CtyUdeladt out = TilpasCty(countries);
+    EXPECT_EQ(out.lande, (Texts{"*QA/x"}));
+    EXPECT_EQ(out.dubletter, (Texts{"QX"}));
+    EXPECT_EQ(SkrivCty(countries), (Texts{Header("QA"), "    QA,QX;", Header("QB"), "    QB;"}));
+    EXPECT_EQ(KontrollerCty(countries).size(), 1U) << "the lists still hold what is not written";
+    EXPECT_EQ(KontrollerCty(LæsCtyFil(SkrivCty(countries))), (Texts{}));
+}
+
+TEST(CtyFit, AnItemThatStandsTwiceGoesWhenRoomIsShort) {
+    const Texts lines{Header("QA"), "    QA,QB(5),QB(5),QB(6);"};
+    EXPECT_EQ(Fitted(lines, 4), lines);
+    EXPECT_EQ(Fitted(lines, 3), (Texts{Header("QA"), "    QA,QB(5),QB(6);"}));
+    EXPECT_EQ(Fitted(lines, 2), (Texts{Header("QA"), "    QA,QB(5);"}));
+}
+
+TEST(CtyFit, LongCallsAreComparedAsTheTableCutsThem) {
+    const Texts lines{Header("QA"), "    QA,=QA1/ABCDEFGH;", Header("QB"), "    QB,=QA1/ABCDEFXY;"};
+    EXPECT_EQ(Fitted(lines, 5999), (Texts{Header("QA"), "    QA,=QA1/ABCDEFGH;", Header("QB"), "    QB;"}));
+}
+
+TEST(CtyFit, ACallOfFullLengthInFrontOfItsLetterGoes) {
+    const Texts country{Header("QA"), "    QA,=IB1/ABCDEF,=QA1/ABCDEF;"};
+    Texts lines = country;
+    lines.insert(lines.end(), {Header("QI"), "    I;"});
+    EXPECT_EQ(Fitted(lines, 5999), (Texts{Header("QA"), "    QA,=QA1/ABCDEF;", Header("QI"), "    I;"})) << "QA gives the other one";
+    lines.back() = "    I,IA;";
+    EXPECT_EQ(Fitted(lines, 5999), lines) << "IA stands before it";
+}
+
+TEST(CtyFit, ACountryWithoutItemsKeepsItsHeader) {
+    EXPECT_EQ(Fitted({Header("QA"), "    QA;", Header("QB"), "    QA;"}, 5999), (Texts{Header("QA"), "    QA;", Header("QB"), "    ;"}));
+}
+
+TEST(CtyFit, LongListsRunOverSeveralLines) {
+    Texts lines{Header("QA"), "    "};
+    for (int i = 100; i < 150; ++i) lines[1] += "QA" + std::to_string(i) + (i == 149 ? ";" : ",");
+    const Texts written = SkrivCty(LæsCtyFil(lines));
+    // Twelve to a line.
+    ASSERT_EQ(written.size(), 6U);
+    std::string all;
+    for (std::size_t i = 1; i < written.size(); ++i) {
+        EXPECT_LE(written[i].size(), 78U);
+        all += written[i].substr(4);
+    }
+    EXPECT_EQ("    " + all, lines[1]);
+}
+
+TEST(CtyFit, DamageIsToldByItsLine) {
+    EXPECT_EQ(Refused({Header("QA"), "    QA;", "no header"}), "linje 3: kan ikke læses");
+    EXPECT_EQ(Refused({Header("QA"), "    QA,", "    QB(1;"}), "linje 3: kan ikke læses");
+    EXPECT_EQ(Refused({Header("QA"), "    QA,"}), "linje 2: filen holder op midt i et land");
+    EXPECT_EQ(Refused(kTwo), "");
+}
+
+TEST(CtyFit, WhatTheImportWouldGoWrongOnIsTold) {
+    const auto told = [](const Texts& lines) { return KontrollerCty(LæsCtyFil(lines)); };
+    EXPECT_EQ(told(kTwo), (Texts{}));
+    EXPECT_EQ(told({Header("*QA"), "    QA;", Header("QB"), "    QA;"}), (Texts{})) << "a starred country leaves no trace";
+    EXPECT_EQ(told({Header("*QA"), "    QA;", Header("*QB"), "    QB;"}), (Texts{"to lande med * efter hinanden: *QB bliver taget med"}));
+    EXPECT_EQ(told({Header("QA"), "    QA;", Header("*QB"), "    QB;"}), (Texts{"det sidste land er mærket med *"}));
+    EXPECT_EQ(told({Header("QB"), "    QB;", Header("QA"), "    QA;"}), (Texts{"QA står ikke i rækkefølge efter QB"}));
+    EXPECT_EQ(told({Header("QA"), "    QA,QX;", Header("QB"), "    QX;"}), (Texts{"QX står under både QA og QB"}));
+    Texts many{Header("QA"), "    "};
+    for (int i = 0; i < 6000; ++i) many[1] += "QA,";
+    many[1].back() = ';';
+    EXPECT_EQ(told(many), (Texts{"6000 præfixer, der er plads til 5999"}));
+    Texts countries;
+    for (int i = 100; i <= 600; ++i) countries.insert(countries.end(), {Header("Q" + std::to_string(i)), "    ;"});
+    EXPECT_EQ(told(countries), (Texts{"501 lande, der er plads til 500"}));
+}
+
+}  // namespace
+}  // namespace vatro
