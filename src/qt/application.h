@@ -5,7 +5,7 @@
 
 namespace vatro {
 
-/// Names, fonts readable at arm's length, and that the program, not its last window, ends it. After QApplication.
+/// Names, icon, Danish words of Qt, fonts readable at arm's length, and that the program, not its last window, ends it. After QApplication.
 void PrepareApplication();
 
 }  // namespace vatro
