@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+//
+// Controls with rows of text to choose from.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/control.h"
+#include "platform/text_controls.h"
+
+namespace vatro {
+
+/// Rows of text of which one may be selected. Row numbers start at 0; no selection is -1.
+class ListBox : public Control {
+public:
+    explicit ListBox(Form& form, std::string_view name, Font font = {}, int columns = 0);
+    bool TakesFocus() const override { return true; }
+    const Font& ListFont() const { return font_; }
+    /// Number of columns in which the rows run on, 0 for one row under the other.
+    int ColumnCount() const { return columns_; }
+
+    const std::vector<std::string>& Items() const { return items_; }
+    int ListCount() const { return static_cast<int>(items_.size()); }
+    /// Fails with 5 if there is no such row.
+    const std::string& List(int row) const;
+    /// Another number after every change of the rows; no two lists ever have the same.
+    unsigned Revision() const { return revision_; }
+    void SetList(int row, std::string_view text);
+    void AddItem(std::string text);
+    void Clear();
+    /// Keeps the mirror still until the end of a run of additions; a guard object of one procedure.
+    class Filling {
+    public:
+        explicit Filling(ListBox& list);
+        ~Filling();
+        Filling(const Filling&) = delete;
+        Filling& operator=(const Filling&) = delete;
+
+    private:
+        ListBox& list_;
+        bool outer_;
+    };
+
+    int ListIndex() const { return listIndex_; }
+    /// Fails with 5 if there is no such row; -1 is no selection. Brings the row into view; runs Click if the selection has
+    /// become another one.
+    void SetListIndex(int row);
+
+    std::function<void()> DblClick;
+
+    // From the front.
+    void UserSelected(int row);
+    void UserDoubleClicked(int row);
+
+private:
+    void Revise();
+
+    std::vector<std::string> items_;
+    unsigned revision_ = 0;
+    Font font_;
+    int columns_;
+    int listIndex_ = -1;
+    bool filling_ = false;
+};
+
+/// Whether the text of a combo box can be edited or only be chosen.
+enum class ComboStyle { DropDown, DropDownList };
+
+/// A text field with a list of texts to choose from.
+class ComboBox : public TextControl {
+public:
+    explicit ComboBox(Form& form, std::string_view name, ComboStyle style = ComboStyle::DropDown) : TextControl(form, name), style_(style) {
+        SetLocked(style == ComboStyle::DropDownList);
+    }
+    ComboStyle Style() const { return style_; }
+
+    const std::vector<std::string>& Items() const { return items_; }
+    int ListCount() const { return static_cast<int>(items_.size()); }
+    const std::string& List(int row) const;
+    void AddItem(std::string text);
+    /// Removes the items and the text.
+    void Clear();
+    int ListIndex() const { return listIndex_; }
+    /// Fails with 5 if there is no such row. Takes the item over as the text and runs Click.
+    void SetListIndex(int row);
+
+    // From the front.
+    void UserPicked(int row) { SetListIndex(row); }
+
+private:
+    /// Its text is selected, so that what is typed takes its place; a click only sets the caret.
+    void Entered(FocusWay way) override {
+        if (way == FocusWay::Key) SelectAll();
+    }
+
+    std::vector<std::string> items_;
+    int listIndex_ = -1;
+    ComboStyle style_;
+};
+
+}  // namespace vatro
