@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "disk/disk_files.h"
+#include "temporary_directory.h"
 #include "text/codepage.h"
 #include "text/errors.h"
 
@@ -21,17 +22,6 @@ namespace vatro {
 
 class TemporaryWorld : public ::testing::Test {
 protected:
-    TemporaryWorld() {
-        std::string name = (std::filesystem::temp_directory_path() / "vatro-disk-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary directory");
-        root_ = name;
-    }
-    ~TemporaryWorld() override {
-        std::error_code ignored;
-        std::filesystem::permissions(root_, std::filesystem::perms::owner_all, ignored);
-        std::filesystem::remove_all(root_, ignored);
-    }
-
     /// The program's path of a name, in the code page, in the directory.
     std::string At(std::string_view name) const { return FromUtf8(root_.string()) + "/" + std::string(name); }
 
@@ -50,7 +40,8 @@ protected:
         return names;
     }
 
-    std::filesystem::path root_;
+    TemporaryDirectory directory_;
+    const std::filesystem::path& root_ = directory_.Path();
 };
 
 /// The number with which the call fails, 0 if it does not.

@@ -13,6 +13,7 @@
 #include "replay/player.h"
 #include "replay/scenario.h"
 #include "replay/world.h"
+#include "temporary_directory.h"
 
 namespace vatro {
 namespace {
@@ -33,9 +34,8 @@ std::string Content(const fs::path& file) {
 
 /// Plays the events on top of a log with this content and gives the content afterwards.
 std::string LogAfter(const std::string& log, const std::string& events) {
-    std::string name = (fs::temp_directory_path() / "vatro-hostile-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary directory");
-    const fs::path directory = name;
+    const TemporaryDirectory temporary;
+    const fs::path& directory = temporary.Path();
     fs::create_directory(directory / "log");
     const fs::path file = directory / "log" / "FD80mSSB.txt";
     std::ofstream(file, std::ios::binary) << log;
@@ -47,9 +47,7 @@ std::string LogAfter(const std::string& log, const std::string& events) {
         player.Play();
         for (const Output& output : player.Outputs()) EXPECT_TRUE(output.empty()) << output.front();
     }
-    const std::string after = Content(file);
-    fs::remove_all(directory);
-    return after;
+    return Content(file);
 }
 
 /// A contact logged behind whatever stands there, with the searches on the way.

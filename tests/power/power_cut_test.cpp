@@ -25,6 +25,7 @@
 #include "replay/player.h"
 #include "replay/scenario.h"
 #include "replay/world.h"
+#include "temporary_directory.h"
 
 namespace vatro {
 namespace {
@@ -122,13 +123,6 @@ std::string Content(const fs::path& file) {
 
 class PowerCut : public testing::Test {
 protected:
-    PowerCut() {
-        std::string name = (fs::temp_directory_path() / "vatro-power-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary directory");
-        root = name;
-    }
-    ~PowerCut() override { fs::remove_all(root); }
-
     /// A world that no earlier cut has touched.
     fs::path NextWorld() {
         const fs::path world = root / std::to_string(worlds_++);
@@ -139,7 +133,8 @@ protected:
         return std::chrono::microseconds(std::uniform_int_distribution<>(0, longest)(random_));
     }
 
-    fs::path root;
+    const TemporaryDirectory temporary;
+    const fs::path& root = temporary.Path();
 
 private:
     int worlds_ = 0;
