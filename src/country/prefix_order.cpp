@@ -68,7 +68,7 @@ public:
                 std::pop_heap(steder_.begin(), steder_.end());
                 steder_.pop_back();
             }
-            Næste();
+            if (const Plads ene = Næste(fra); ene != 0) return ene;
         }
     }
 
@@ -93,11 +93,21 @@ private:
         Plads næste = 0;
     };
 
-    void Næste() {
+    /// Goes on to the next group. Most have one row: its place, or 0 for a group of none or several.
+    Plads Næste(std::size_t fra) {
         if (begyndt_) ++nu_;
         begyndt_ = true;
-        for (Plads led = første_[nu_]; led != 0; led = led_[led].næste) steder_.push_back(led_[led].plads);
+        for (Plads led = første_[nu_]; led != 0; led = led_[led].næste) {
+            const Plads plads = led_[led].plads;
+            if (plads >= fra && gruppe_[plads] == nu_) steder_.push_back(plads);
+        }
+        if (steder_.size() == 1) {
+            const Plads ene = steder_.front();
+            steder_.clear();
+            return ene;
+        }
         std::make_heap(steder_.begin(), steder_.end());
+        return 0;
     }
 
     /// By place.
