@@ -17,6 +17,7 @@
 #include "program.h"
 #include "replay/memory_front.h"
 #include "replay/scene_clock.h"
+#include "replay/scene_sound.h"
 #include "replay/settings_store.h"
 #include "sample.h"
 #include "unattended.h"
@@ -66,7 +67,7 @@ struct World {
     World() {
         WriteLines(workplace.Path("cty.dat"), SampleCtyFile());
         gsFDLib = NativeText(workplace.Path(""));
-        InstallPlatform({front.ProgramFront(), unattended, settings, files, clock, help, unattended, Version{}});
+        InstallPlatform({front.ProgramFront(), unattended, settings, files, clock, help, unattended, sound, Version{}});
         BeginProgram();
         Dispatch([] { frmCtyDat.Load(); });
     }
@@ -79,6 +80,7 @@ struct World {
     SettingsStore settings;
     ReadingFiles files;
     SceneClock clock;
+    SceneSound sound{clock};
     Unattended unattended;
     NoHelp help;
 };

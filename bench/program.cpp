@@ -10,6 +10,7 @@
 #include "platform/program.h"
 #include "replay/memory_front.h"
 #include "replay/scene_clock.h"
+#include "replay/scene_sound.h"
 #include "replay/settings_store.h"
 #include "sample.h"
 #include "unattended.h"
@@ -49,6 +50,7 @@ struct Program::Services {
     SettingsStore settings;
     DiskFiles files;
     SceneClock clock;
+    SceneSound sound{clock};
     Unattended unattended;
     NoHelp help;
 };
@@ -56,8 +58,8 @@ struct Program::Services {
 Program::Program(const std::vector<std::string>& log) : services_(std::make_unique<Services>()) {
     Services& with = *services_;
     workplace_.Furnish(log, with.settings);
-    InstallPlatform(
-        {with.front.ProgramFront(), with.unattended, with.settings, with.files, with.clock, with.help, with.unattended, Version{}});
+    InstallPlatform({with.front.ProgramFront(), with.unattended, with.settings, with.files, with.clock, with.help, with.unattended,
+                     with.sound, Version{}});
     BeginProgram();
     Dispatch(StartProgram);
     if (frmMain->List1.ListCount() != static_cast<int>(log.size())) throw std::runtime_error("the log was not read");

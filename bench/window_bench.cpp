@@ -35,6 +35,7 @@
 #include "qt/deliver.h"
 #include "qt/front.h"
 #include "qt/settings_store.h"
+#include "qt/sound.h"
 #include "sample.h"
 #include "unattended.h"
 
@@ -87,7 +88,7 @@ public:
 
     /// Returns when the log is painted.
     void Start() {
-        InstallPlatform({front_, unattended_, settings_, files_, clock_, help_, unattended_, Version{}});
+        InstallPlatform({front_, unattended_, settings_, files_, clock_, help_, unattended_, sound_, Version{}});
         BeginProgram();
         Deliver([] { StartProgram(); });
         if (frmMain->List1.ListCount() != kLogLines) throw std::runtime_error("the log was not read");
@@ -102,6 +103,7 @@ private:
     DiskFiles files_;
     QtClock clock_;
     NoHelp help_;
+    QtSound sound_;
 };
 
 void PaintEmpty(QMainWindow& window) {

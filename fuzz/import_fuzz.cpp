@@ -16,6 +16,7 @@
 #include "platform/program.h"
 #include "replay/memory_front.h"
 #include "replay/scene_clock.h"
+#include "replay/scene_sound.h"
 #include "replay/settings_store.h"
 
 namespace {
@@ -56,7 +57,7 @@ public:
 
 struct World {
     World() {
-        InstallPlatform({front.ProgramFront(), nobody, settings, files, clock, nobody, nobody, Version{}});
+        InstallPlatform({front.ProgramFront(), nobody, settings, files, clock, nobody, nobody, sound, Version{}});
         BeginProgram();
         frmCtyDat.Load();
     }
@@ -65,6 +66,7 @@ struct World {
     SettingsStore settings;
     OneFile files;
     SceneClock clock;
+    SceneSound sound{clock};
 };
 
 bool Expected(Failure failure) {

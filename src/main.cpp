@@ -14,6 +14,7 @@
 #include "qt/front.h"
 #include "qt/services.h"
 #include "qt/settings_store.h"
+#include "qt/sound.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -26,8 +27,9 @@ int main(int argc, char** argv) {
     vatro::QtClock clock;
     vatro::QtHelp help;
     vatro::QtInstance instance;
+    vatro::QtSound sound;
     vatro::InstallPlatform(
-        {front, dialogs, settings, files, clock, help, instance, {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
+        {front, dialogs, settings, files, clock, help, instance, sound, {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
     front.fitToScreen = true;
     front.ended = [] { QCoreApplication::quit(); };

@@ -8,9 +8,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <deque>
 #include <map>
+#include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -21,6 +25,7 @@
 #include "platform/forms.h"
 #include "platform/platform.h"
 #include "platform/program.h"
+#include "platform/sound.h"
 #include "text/codepage.h"
 
 namespace vatro {
@@ -176,6 +181,69 @@ public:
     bool AnotherCopyRuns() override { return false; }
 };
 
+/// A card that plays nothing: what is written is kept, and events run when a test runs them.
+class FakeSound : public Sound {
+public:
+    struct Buffer : public SoundBuffer {
+        Buffer(FakeSound& on, const SoundBufferDescription& wanted, const WaveFormat& as)
+            : card(on), description(wanted), format(as), samples(static_cast<std::size_t>(wanted.bytes / 2)) {
+            card.buffer = this;
+        }
+        ~Buffer() override {
+            if (card.buffer == this) card.buffer = nullptr;
+        }
+        Buffer(const Buffer&) = delete;
+        Buffer& operator=(const Buffer&) = delete;
+        void SetNotificationPositions(std::span<const PositionNotification> wanted) override {
+            positions.assign(wanted.begin(), wanted.end());
+        }
+        void Write(int startByte, int size, std::span<const std::int16_t> image) override {
+            card.calls.push_back("write " + std::to_string(startByte) + " " + std::to_string(size));
+            std::copy_n(image.begin() + startByte / 2, size / 2, samples.begin() + startByte / 2);
+        }
+        void SetCurrentPosition(int offset) override { card.calls.push_back("position " + std::to_string(offset)); }
+        void PlayLooping() override { card.calls.emplace_back("play"); }
+        void Stop() override { card.calls.emplace_back("stop"); }
+
+        FakeSound& card;
+        SoundBufferDescription description;
+        WaveFormat format;
+        std::vector<std::int16_t> samples;
+        std::vector<PositionNotification> positions;
+    };
+
+    SoundEvent CreateEvent(std::function<void(SoundEvent)> callback) override {
+        events[++last_] = std::move(callback);
+        return last_;
+    }
+    void DestroyEvent(SoundEvent event) override { events.erase(event); }
+    std::unique_ptr<SoundDevice> CreateDevice() override {
+        if (!there) throw RunTimeError(Failure::DeviceUnavailable);
+        return std::make_unique<Device>(*this);
+    }
+
+    bool there = true;
+    std::map<SoundEvent, std::function<void(SoundEvent)>> events;
+    /// In their order: "write 0 44100", "position 0", "play", "stop".
+    std::vector<std::string> calls;
+    /// The one created last, while it lives.
+    Buffer* buffer = nullptr;
+
+private:
+    class Device : public SoundDevice {
+    public:
+        explicit Device(FakeSound& card) : card_(card) {}
+        std::unique_ptr<SoundBuffer> CreateBuffer(const SoundBufferDescription& description, const WaveFormat& format) override {
+            return std::make_unique<Buffer>(card_, description, format);
+        }
+
+    private:
+        FakeSound& card_;
+    };
+
+    SoundEvent last_ = 0;
+};
+
 /// A world with Germany and Denmark, one station of the society and one operator. Nothing runs before Start.
 class RunningProgram : public ::testing::Test {
 protected:
@@ -185,7 +253,7 @@ protected:
         files.files["DATA\\EDR.TXT"] = {"OZ1ABC Test, formand"};
         files.files["DATA\\OPERATOR.TXT"] = {"OZ1DEF"};
         settings.texts = {{"SETTINGS/GSLOGLIB", "log"}, {"SETTINGS/LASTOP", "OZ1DEF"}, {"SETTINGS/VISINFO2002", "False"}};
-        InstallPlatform({front, dialogs, settings, files, clock, help, instance, {1, 2, 3}});
+        InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, {1, 2, 3}});
     }
     ~RunningProgram() override {
         EndProgram();
@@ -210,6 +278,7 @@ protected:
     FakeClock clock;
     FakeHelp help;
     FakeInstance instance;
+    FakeSound sound;
 };
 
 }  // namespace vatro

@@ -88,7 +88,7 @@ public:
 
     /// Whether the focus can stand in it at all, and whether Tab comes by.
     virtual bool TakesFocus() const { return false; }
-    bool TabStop() const { return TakesFocus() && tabStop_; }
+    virtual bool TabStop() const { return TakesFocus() && tabStop_; }
     void SetTabStop(bool stop) { tabStop_ = stop; }
 
     /// Moves the focus here: runs LostFocus of the control that had it, then GotFocus of this one, at once. Runs

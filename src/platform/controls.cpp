@@ -229,6 +229,65 @@ void CheckBox::SetValue(bool value) {
     if (Click) Click();
 }
 
+// --- OptionButton and ScrollBar
+
+std::vector<OptionButton*> OptionButton::Others() const {
+    std::vector<OptionButton*> others;
+    for (Control* control : Parent().Controls()) {
+        auto* option = dynamic_cast<OptionButton*>(control);
+        if (option != nullptr && option != this && &option->group_ == &group_) others.push_back(option);
+    }
+    return others;
+}
+
+bool OptionButton::TabStop() const {
+    return Control::TabStop() && (value_ || std::ranges::none_of(Others(), [](const OptionButton* other) { return other->value_; }));
+}
+
+void OptionButton::SetValue(bool value) {
+    if (value_ == value) return;
+    value_ = value;
+    Tell(Aspect::Value);
+    if (!value) return;
+    for (OptionButton* other : Others()) other->SetValue(false);
+    if (Click) Click();
+}
+
+char OptionButton::AccessLetter() const {
+    return AccessKey(caption_);
+}
+
+void OptionButton::UserChosen(FocusWay way) {
+    Parent().UserFocus(*this, way);
+    // A handler of the change of focus may have taken it out of use.
+    if (Enabled() && Visible()) SetValue(true);
+}
+
+void OptionButton::UserArrow(bool back) {
+    std::vector<OptionButton*> round;
+    for (Control* control : Parent().Controls()) {
+        auto* option = dynamic_cast<OptionButton*>(control);
+        if (option == nullptr || &option->group_ != &group_) continue;
+        if (option == this || (option->Enabled() && option->Visible())) round.push_back(option);
+    }
+    if (back) std::ranges::reverse(round);
+    const auto here = std::ranges::find(round, this);
+    OptionButton* next = here + 1 == round.end() ? round.front() : *(here + 1);
+    if (next != this) next->UserChosen(FocusWay::Key);
+}
+
+void ScrollBar::SetValue(int value) {
+    if (value < range_.min || value > range_.max) throw RunTimeError(Failure::InvalidCall);
+    if (value_ == value) return;
+    value_ = value;
+    Tell(Aspect::Value);
+    if (Change) Change();
+}
+
+void ScrollBar::UserScrolled(int value) {
+    SetValue(std::clamp(value, range_.min, range_.max));
+}
+
 // --- ListBox
 
 ListBox::ListBox(Form& form, std::string_view name, Font font, int columns)

@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/bars.h"
 #include "platform/control.h"
@@ -97,6 +98,65 @@ public:
 private:
     std::string caption_;
     bool value_ = false;
+};
+
+/// One of several choices in a frame, of which one is on at most. Tab leads to the one that is on, the arrow keys from one to
+/// the next.
+class OptionButton : public Control {
+public:
+    OptionButton(Form& form, std::string_view name, int index, std::string_view caption, const Frame& group)
+        : Control(form, name, index), caption_(caption), group_(group) {}
+    bool TakesFocus() const override { return true; }
+    /// Without one that is on, Tab leads to each of them.
+    bool TabStop() const override;
+    const std::string& Caption() const { return caption_; }
+    const Frame& Group() const { return group_; }
+    bool Value() const { return value_; }
+    /// Turning it on turns the others of its frame off and runs Click, if it was off.
+    void SetValue(bool value);
+    char AccessLetter() const override;
+
+    // From the front.
+
+    /// By the mouse, the blank or an arrow key: takes the focus and is turned on.
+    void UserChosen(FocusWay way);
+    void UseAccessLetter() override { UserChosen(FocusWay::Key); }
+    /// The next one of the frame that can take the focus, round at the end, is chosen.
+    void UserArrow(bool back);
+
+private:
+    std::vector<OptionButton*> Others() const;
+
+    std::string caption_;
+    const Frame& group_;
+    bool value_ = false;
+};
+
+/// A bar whose slide stands at a number.
+class ScrollBar : public Control {
+public:
+    struct Range {
+        int min = 0;
+        int max = 0;
+        int smallChange = 1;
+        int largeChange = 1;
+    };
+    ScrollBar(Form& form, std::string_view name, Range range) : Control(form, name), range_(range), value_(range.min) {}
+    bool TakesFocus() const override { return true; }
+    const Range& Limits() const { return range_; }
+    int Value() const { return value_; }
+    /// Fails with 5 outside the range. Runs Change if the value has become another one.
+    void SetValue(int value);
+    std::function<void()> Change;
+
+    // From the front.
+
+    /// Is cut to the range.
+    void UserScrolled(int value);
+
+private:
+    Range range_;
+    int value_;
 };
 
 /// A pair of arrows that counts the number in a text field up and down.

@@ -15,6 +15,7 @@
 namespace vatro {
 
 class Form;
+class Sound;
 class Timer;
 
 enum class Buttons { Ok, YesNo };
@@ -162,6 +163,7 @@ struct Platform {
     Clock& clock;
     Help& help;
     Instance& instance;
+    Sound& sound;
     Version version;
 };
 

@@ -62,6 +62,8 @@ std::string_view Meaning(Failure failure) {
             return "Disken er fuld"_t;
         case Failure::InputPastEnd:
             return "Læsning efter filens slutning"_t;
+        case Failure::DeviceUnavailable:
+            return "Enheden findes ikke"_t;
         case Failure::PermissionDenied:
             return "Adgang nægtet"_t;
         case Failure::DiskNotReady:

@@ -50,6 +50,8 @@ public:
     virtual void DoubleClick(ListBox& list, int row) = 0;
     /// One press on the upper or the lower arrow; a front without arrows refuses it.
     virtual void Spin(UpDown& /*arrows*/, bool /*up*/) { throw CannotDeliver("the front has no arrows"); }
+    /// Moves the slide to this value with the mouse; a front without scroll bars refuses it.
+    virtual void Scroll(ScrollBar& /*bar*/, int /*value*/) { throw CannotDeliver("the front has no scroll bars"); }
     virtual void Choose(MenuItem& item) = 0;
     virtual void PressTool(Toolbar& toolbar, int index) = 0;
     virtual void Close(Form& form) = 0;

@@ -104,6 +104,9 @@ Output ShowControl(const Control& control) {
     if (const auto* button = dynamic_cast<const Button*>(&control)) return {name + " " + Quoted(button->Caption())};
     if (const auto* frame = dynamic_cast<const Frame*>(&control)) return {name + " " + Quoted(frame->Caption())};
     if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return {name + (box->Value() ? " on" : " off")};
+    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return {name + (option->Value() ? " on" : " off")};
+    if (const auto* slide = dynamic_cast<const ScrollBar*>(&control))
+        return {name + " " + std::to_string(slide->Value()) + " of " + std::to_string(slide->Limits().max)};
     if (const auto* bar = dynamic_cast<const StatusBar*>(&control)) {
         std::string line = name;
         for (const std::string& panel : bar->Panels()) line += " " + Quoted(panel);

@@ -123,6 +123,8 @@ void MemoryFront::Click(Control& control) {
             button->Press();
         else if (auto* box = dynamic_cast<CheckBox*>(&control))
             box->Flip();
+        else if (auto* option = dynamic_cast<OptionButton*>(&control))
+            option->UserChosen(FocusWay::Mouse);
         else if (control.Click)
             control.Click();
     });
@@ -165,6 +167,13 @@ void MemoryFront::Spin(UpDown& arrows, bool up) {
     Dispatch([&] {
         arrows.Parent().UserActivated();
         arrows.Spin(up);
+    });
+}
+
+void MemoryFront::Scroll(ScrollBar& bar, int value) {
+    Dispatch([&] {
+        bar.Parent().UserFocus(bar, FocusWay::Mouse);
+        bar.UserScrolled(value);
     });
 }
 

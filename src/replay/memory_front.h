@@ -29,6 +29,7 @@ public:
     void Pick(Control& control, int row) override;
     void DoubleClick(ListBox& list, int row) override;
     void Spin(UpDown& arrows, bool up) override;
+    void Scroll(ScrollBar& bar, int value) override;
     void Choose(MenuItem& item) override;
     void PressTool(Toolbar& toolbar, int index) override;
     void Close(Form& form) override;

@@ -69,6 +69,18 @@ int RowBehind(const KeyStroke& key, int row, int rows) {
     return std::clamp(to, 0, rows - 1);
 }
 
+/// The value that a key leads to in a scroll bar.
+int ValueBehind(const KeyStroke& key, const ScrollBar& bar) {
+    const ScrollBar::Range& limits = bar.Limits();
+    if (key.name == "Home") return limits.min;
+    if (key.name == "End") return limits.max;
+    if (key.name == "Left" || key.name == "Up") return bar.Value() - limits.smallChange;
+    if (key.name == "Right" || key.name == "Down") return bar.Value() + limits.smallChange;
+    if (key.name == "PageUp") return bar.Value() - limits.largeChange;
+    if (key.name == "PageDown") return bar.Value() + limits.largeChange;
+    return bar.Value();
+}
+
 }  // namespace
 
 KeyCode KeyCodeOf(const KeyStroke& key) {
@@ -99,6 +111,14 @@ void UseKey(Control& control, const KeyStroke& key, KeyCode code) {
         if (code == kEnter || code == kSpace) button->Press();
     } else if (auto* box = dynamic_cast<CheckBox*>(&control)) {
         if (code == kSpace) box->Flip();
+    } else if (auto* option = dynamic_cast<OptionButton*>(&control)) {
+        const bool back = key.name == "Up" || key.name == "Left";
+        if (back || key.name == "Down" || key.name == "Right")
+            option->UserArrow(back);
+        else if (code == kSpace)
+            option->UserChosen(FocusWay::Key);
+    } else if (auto* bar = dynamic_cast<ScrollBar*>(&control)) {
+        bar->UserScrolled(ValueBehind(key, *bar));
     }
 }
 

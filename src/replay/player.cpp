@@ -28,6 +28,7 @@ Player::Player(const Scenario& scenario, const World& world, Driver& driver, std
                      .clock = clock_,
                      .help = *this,
                      .instance = *this,
+                     .sound = sound_,
                      .version = {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 }
 

@@ -25,6 +25,7 @@
 #include "replay/driver.h"
 #include "replay/scenario.h"
 #include "replay/scene_clock.h"
+#include "replay/scene_sound.h"
 #include "replay/settings_store.h"
 #include "replay/world.h"
 
@@ -95,7 +96,7 @@ private:
     void DoPick(const Command& command);
     void DoDoubleClick(const Command& command);
     void DoSpin(const Command& command);
-    void DoNotYet(const Command& command);
+    void DoScroll(const Command& command);
     void DoMenu(const Command& command);
     void DoToolbar(const Command& command);
     void DoClose(const Command& command);
@@ -117,12 +118,12 @@ private:
     std::function<void()> startProgram_;
     SettingsStore settings_;
     SceneClock clock_;
+    SceneSound sound_{clock_};
     /// The sources of events in time; of equal moments the one that stands first comes first.
-    std::vector<DueEvents*> dueEvents_{&clock_};
+    std::vector<DueEvents*> dueEvents_{&clock_, &sound_};
     DiskFiles disk_;
     FaultyFiles files_;
     bool anotherCopy_ = false;
-    bool soundCard_ = true;
 
     std::vector<Output> outputs_;
     std::size_t next_ = 0;

@@ -34,7 +34,7 @@ const Player::Verb* Player::FindVerb(const std::string& name) {
         Verb{"pick", Event, 2, 2, &Player::DoPick},
         Verb{"dblclick", Event, 2, 2, &Player::DoDoubleClick},
         Verb{"spin", Event, 2, 2, &Player::DoSpin},
-        Verb{"scroll", Event, 2, 2, &Player::DoNotYet},
+        Verb{"scroll", Event, 2, 2, &Player::DoScroll},
         Verb{"menu", Event, 1, 1, &Player::DoMenu},
         Verb{"toolbar", Event, 1, 1, &Player::DoToolbar},
         Verb{"close", Event, 1, 1, &Player::DoClose},
@@ -110,7 +110,7 @@ void Player::DoAnotherCopy(const Command& command) {
 }
 
 void Player::DoSoundCard(const Command& command) {
-    soundCard_ = ReadSwitch(command.arguments[0]);
+    sound_.SetCard(ReadSwitch(command.arguments[0]));
 }
 
 void Player::DoStart(const Command&) {
@@ -220,7 +220,8 @@ void Player::DoClick(const Command& command) {
     if (dynamic_cast<const ListBox*>(&control) != nullptr || dynamic_cast<const Toolbar*>(&control) != nullptr ||
         dynamic_cast<const MenuItem*>(&control) != nullptr || dynamic_cast<const Timer*>(&control) != nullptr ||
         dynamic_cast<const StatusBar*>(&control) != nullptr || dynamic_cast<const ProgressBar*>(&control) != nullptr ||
-        dynamic_cast<const Frame*>(&control) != nullptr)
+        dynamic_cast<const Frame*>(&control) != nullptr || dynamic_cast<const ScrollBar*>(&control) != nullptr ||
+        dynamic_cast<const UpDown*>(&control) != nullptr)
         throw CannotDeliver(NameOf(control) + " is nothing to click on");
     driver_.Click(control);
 }
@@ -246,9 +247,14 @@ void Player::DoSpin(const Command& command) {
     driver_.Spin(*arrows, way == "up");
 }
 
-/// Events of control kinds that the program does not have yet.
-void Player::DoNotYet(const Command& command) {
-    throw CannotDeliver(NameOf(ReachableControl(command.arguments[0])) + " takes no " + command.name);
+void Player::DoScroll(const Command& command) {
+    Control& control = ReachableControl(command.arguments[0]);
+    auto* bar = dynamic_cast<ScrollBar*>(&control);
+    if (bar == nullptr) throw CannotDeliver(NameOf(control) + " is no scroll bar");
+    const int value = ReadInteger(command.arguments[1]);
+    if (value < bar->Limits().min || value > bar->Limits().max)
+        throw CannotDeliver(NameOf(control) + " ends before " + std::to_string(value));
+    driver_.Scroll(*bar, value);
 }
 
 void Player::DoMenu(const Command& command) {
@@ -332,8 +338,7 @@ void Player::DoPages(const Command&) {
 }
 
 void Player::DoSound(const Command& command) {
-    // Nothing plays yet: what has been heard is silence, which is not counted.
-    const std::vector<std::int16_t> heard;
+    const std::vector<std::int16_t> heard = sound_.TakeHeard();
     if (!world_.Write(command.arguments[0], WavFile(heard))) throw CannotDeliver("cannot write " + ToUtf8(command.arguments[0]));
     Print("sound " + std::to_string(heard.size()));
 }

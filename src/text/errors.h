@@ -21,6 +21,7 @@ enum class Failure : int {
     FileExists = 58,
     DiskFull = 61,
     InputPastEnd = 62,
+    DeviceUnavailable = 68,
     PermissionDenied = 70,
     DiskNotReady = 71,
     PathFileAccess = 75,

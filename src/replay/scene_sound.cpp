@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "replay/scene_sound.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/program.h"
+#include "text/errors.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr Moment kMillisecondsPerSecond = 1000;
+constexpr int kBytesPerSample = 2;
+
+}  // namespace
+
+/// Counts the samples that it has played since the play began.
+class SceneSound::Buffer : public SoundBuffer {
+public:
+    Buffer(SceneSound& sound, int bytes, int samplesPerSecond)
+        : sound_(sound), samplesPerSecond_(samplesPerSecond), samples_(static_cast<std::size_t>(bytes / kBytesPerSample)) {}
+    ~Buffer() override { Stop(); }
+    Buffer(const Buffer&) = delete;
+    Buffer& operator=(const Buffer&) = delete;
+
+    void SetNotificationPositions(std::span<const PositionNotification> positions) override {
+        positions_.assign(positions.begin(), positions.end());
+    }
+
+    void Write(int startByte, int size, std::span<const std::int16_t> image) override {
+        CatchUp();
+        const auto from = image.begin() + startByte / kBytesPerSample;
+        std::copy_n(from, size / kBytesPerSample, samples_.begin() + startByte / kBytesPerSample);
+    }
+
+    void SetCurrentPosition(int offset) override {
+        CatchUp();
+        start_ = offset / kBytesPerSample;
+        played_ = 0;
+        notified_ = 0;
+        began_ = sound_.clock_.Passed();
+    }
+
+    void PlayLooping() override {
+        if (Playing()) return;
+        SetCurrentPosition(static_cast<int>((start_ + played_) % Size()) * kBytesPerSample);
+        sound_.playing_.push_back(this);
+    }
+
+    void Stop() override {
+        CatchUp();
+        std::erase(sound_.playing_, this);
+    }
+
+    /// Plays up to the present moment.
+    void CatchUp() {
+        if (!Playing()) return;
+        const long long due = SamplesAt(sound_.clock_.Passed());
+        for (; played_ < due; ++played_) sound_.heard_.push_back(samples_[static_cast<std::size_t>((start_ + played_) % Size())]);
+    }
+
+    /// When the position next passes an offset that is tied to an event.
+    std::optional<std::pair<Moment, SoundEvent>> Next() const {
+        const std::optional<Passing> passing = NextPassing();
+        if (!passing) return std::nullopt;
+        const Moment due = (passing->samples * kMillisecondsPerSecond + samplesPerSecond_ - 1) / samplesPerSecond_;
+        return std::pair{began_ + due, passing->event};
+    }
+
+    /// The event that Next tells is being delivered.
+    void Pass() { notified_ = NextPassing()->samples; }
+
+private:
+    struct Passing {
+        /// Samples played until then.
+        long long samples;
+        SoundEvent event;
+    };
+
+    bool Playing() const { return std::ranges::find(sound_.playing_, this) != sound_.playing_.end(); }
+    long long Size() const { return static_cast<long long>(samples_.size()); }
+    long long SamplesAt(Moment moment) const { return (moment - began_) * samplesPerSecond_ / kMillisecondsPerSecond; }
+
+    std::optional<Passing> NextPassing() const {
+        std::optional<Passing> next;
+        for (const PositionNotification& position : positions_) {
+            // The sample that holds the byte has been played to its end.
+            long long samples = position.offset / kBytesPerSample + 1 - start_;
+            while (samples <= notified_) samples += Size();
+            if (!next || samples < next->samples) next = Passing{samples, position.event};
+        }
+        return next;
+    }
+
+    SceneSound& sound_;
+    long long samplesPerSecond_;
+    std::vector<std::int16_t> samples_;
+    std::vector<PositionNotification> positions_;
+    /// Where the play began, when, how much has been played since, and up to where events have been delivered.
+    long long start_ = 0;
+    Moment began_ = 0;
+    long long played_ = 0;
+    long long notified_ = 0;
+};
+
+class SceneSound::Device : public SoundDevice {
+public:
+    explicit Device(SceneSound& sound) : sound_(sound) {}
+    std::unique_ptr<SoundBuffer> CreateBuffer(const SoundBufferDescription& description, const WaveFormat& format) override {
+        if (format.channels != 1 || format.bitsPerSample != 8 * kBytesPerSample) throw RunTimeError(Failure::InvalidCall);
+        return std::make_unique<Buffer>(sound_, description.bytes, format.samplesPerSecond);
+    }
+
+private:
+    SceneSound& sound_;
+};
+
+std::vector<std::int16_t> SceneSound::TakeHeard() {
+    for (Buffer* buffer : playing_) buffer->CatchUp();
+    return std::exchange(heard_, {});
+}
+
+SoundEvent SceneSound::CreateEvent(std::function<void(SoundEvent)> callback) {
+    events_.emplace(++lastEvent_, std::move(callback));
+    return lastEvent_;
+}
+
+std::unique_ptr<SoundDevice> SceneSound::CreateDevice() {
+    if (!card_) throw RunTimeError(Failure::DeviceUnavailable);
+    return std::make_unique<Device>(*this);
+}
+
+std::optional<Moment> SceneSound::NextDue() const {
+    std::optional<Moment> due;
+    for (const Buffer* buffer : playing_) {
+        const auto next = buffer->Next();
+        if (next && (!due || next->first < *due)) due = next->first;
+    }
+    return due;
+}
+
+void SceneSound::DeliverNext() {
+    const auto due = NextDue();
+    if (!due) return;
+    const auto found = std::ranges::find_if(playing_, [&](const Buffer* buffer) {
+        const auto next = buffer->Next();
+        return next && next->first == *due;
+    });
+    Buffer& buffer = **found;
+    buffer.CatchUp();
+    const SoundEvent event = buffer.Next()->second;
+    buffer.Pass();
+    const auto callback = events_.find(event);
+    if (callback == events_.end()) return;
+    // The callback may destroy its own event.
+    const auto run = callback->second;
+    Dispatch([&] { run(event); });
+}
+
+}  // namespace vatro

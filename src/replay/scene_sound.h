@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+//
+// The sound card of a scenario: it plays in the scenario's time and keeps what has been heard.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/sound.h"
+#include "replay/scene_clock.h"
+
+namespace vatro {
+
+class SceneSound : public Sound, public DueEvents {
+public:
+    /// The clock must outlive it.
+    explicit SceneSound(const SceneClock& clock) : clock_(clock) {}
+
+    /// Whether a device can be created from now on.
+    void SetCard(bool there) { card_ = there; }
+    /// What has been heard since the last call; silence while nothing plays is not counted.
+    std::vector<std::int16_t> TakeHeard();
+
+    SoundEvent CreateEvent(std::function<void(SoundEvent)> callback) override;
+    void DestroyEvent(SoundEvent event) override { events_.erase(event); }
+    std::unique_ptr<SoundDevice> CreateDevice() override;
+
+    std::optional<Moment> NextDue() const override;
+    void DeliverNext() override;
+
+private:
+    class Buffer;
+    class Device;
+
+    const SceneClock& clock_;
+    bool card_ = true;
+    SoundEvent lastEvent_ = 0;
+    std::map<SoundEvent, std::function<void(SoundEvent)>> events_;
+    std::vector<Buffer*> playing_;
+    std::vector<std::int16_t> heard_;
+};
+
+}  // namespace vatro
