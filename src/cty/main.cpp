@@ -46,6 +46,7 @@ int Tilpas(std::vector<CtyLand>& lande, const char* sti) {
     if (!fil) throw CtyFejl{std::string(sti) + " kan ikke skrives"};
     Fortæl("lande med * er udeladt", ude.lande);
     Fortæl("poster står allerede under et andet land og er udeladt", ude.dubletter);
+    Fortæl("kald er udeladt, fordi programmet aldrig finder dem", ude.uopnåelige);
     Fortæl("poster er udeladt uden tab", ude.intetTabt);
     Fortæl("poster er udeladt, kun deres zoner er tabt", ude.zoner);
     Fortæl("kald er udeladt og hører nu til et andet land eller intet", ude.kald);
