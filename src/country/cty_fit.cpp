@@ -223,11 +223,7 @@ CtyUdeladt TilpasCty(std::vector<CtyLand>& lande, std::size_t plads) {
     Beholdt beholdt;
     std::vector<Sted> dobbelte;
     const std::vector<Sted> steder = Stedfæst(lande, beholdt, dobbelte, ude);
-    for (std::size_t i = 0; i < dobbelte.size() && beholdt.Antal() + dobbelte.size() - i > plads; ++i) {
-        CtyItem& post = *dobbelte[i].post;
-        post.med = false;
-        Bogfør(ude, dobbelte[i], beholdt.Find(post.pfx));
-    }
+    for (std::size_t i = 0; i < dobbelte.size() && beholdt.Antal() + dobbelte.size() - i > plads; ++i) dobbelte[i].post->med = false;
     // A call is no support, with or without its mark: it may have to go itself.
     const auto støttet = [](const Sted& sted, const Sted* ellers) {
         return ellers != nullptr && !ellers->post->kald && ellers->post->helt.find('/') == std::string::npos &&
@@ -244,6 +240,11 @@ CtyUdeladt TilpasCty(std::vector<CtyLand>& lande, std::size_t plads) {
     UdeladForreste(steder, beholdt);
 
     // What an item has lost shows only now: the one that gave its zones may have gone after it.
+    for (const Sted& sted : dobbelte) {
+        const Sted* første = beholdt.Find(sted.post->pfx);
+        if (første == nullptr) sted.post->med = false;
+        if (!sted.post->med) Bogfør(ude, sted, første != nullptr ? første : beholdt.Ellers(*sted.post));
+    }
     for (const Sted& sted : steder)
         if (!sted.post->med) Bogfør(ude, sted, beholdt.Ellers(*sted.post));
     return ude;

@@ -130,6 +130,11 @@ TEST(CtyFit, ACallOfFullLengthInFrontOfItsLetterGoes) {
     EXPECT_EQ(Fitted(lines, 5999), (Texts{Header("QA"), "    QA,=QA1/ABCDEF;", Header("QI"), "    I;"})) << "QA gives the other one";
     lines.back() = "    I,IA;";
     EXPECT_EQ(Fitted(lines, 5999), lines) << "IA stands before it";
+
+    lines = {Header("QA"), "    QA,=IB1/ABCDEF,=IB1/ABCDEF;", Header("QI"), "    I;"};
+    std::vector<CtyLand> countries = LæsCtyFil(lines);
+    EXPECT_EQ(TilpasCty(countries).kald, (Texts{"=IB1/ABCDEF", "=IB1/ABCDEF"})) << "wherever it stands";
+    EXPECT_EQ(SkrivCty(countries), (Texts{Header("QA"), "    QA;", Header("QI"), "    I;"}));
 }
 
 TEST(CtyFit, ACountryWithoutItemsKeepsItsHeader) {
