@@ -9,6 +9,7 @@
 #include "country/call_analysis.h"
 #include "country/cty_file.h"
 #include "country/tables.h"
+#include "text/codepage.h"
 #include "text/errors.h"
 
 namespace vatro {
@@ -163,6 +164,8 @@ std::vector<CtyLand> LæsCtyFil(const std::vector<std::string>& linjer) {
         try {
             const CtyHoved hoved = LæsCtyHoved(land.hoved);
             land.pfx = hoved.pfx.substr(0, kPfxLængde);
+            if (!hoved.Udelades())
+                for (const std::string_view tal : {hoved.bredde, hoved.længde, hoved.tidsZone}) LæsCtyTal(tal);
             do {
                 if (++nr == linjer.size()) FejlILinje(nr, "filen holder op midt i et land");
                 CtyPoster rest(linjer[nr], hoved);
@@ -193,20 +196,24 @@ std::vector<std::string> KontrollerCty(const std::vector<CtyLand>& lande) {
             udeladt = true;
             continue;
         }
-        if (udeladt && Stjerne(land)) fejl.push_back("to lande med * efter hinanden: " + land.pfx + " bliver taget med");
+        if (udeladt && Stjerne(land)) fejl.push_back("to lande med * efter hinanden: " + ToUtf8(land.pfx) + " bliver taget med");
         // The import looks for the next header by its last character.
-        if (udeladt && !land.hoved.ends_with(':')) fejl.push_back("overskriften efter et land med * slutter ikke med ':': " + land.hoved);
+        if (udeladt && !land.hoved.ends_with(':'))
+            fejl.push_back("overskriften efter et land med * slutter ikke med ':': " + ToUtf8(land.hoved));
         udeladt = false;
         ++antalLande;
         poster += land.poster.size();
-        if (forrige != nullptr && forrige->pfx >= land.pfx) fejl.push_back(land.pfx + " står ikke i rækkefølge efter " + forrige->pfx);
+        if (forrige != nullptr && forrige->pfx >= land.pfx)
+            fejl.push_back(ToUtf8(land.pfx) + " står ikke i rækkefølge efter " + ToUtf8(forrige->pfx));
         forrige = &land;
         for (const CtyItem& post : land.poster) {
             const auto [sted, ny] = landAf.emplace(post.pfx, land.pfx);
-            if (!ny && sted->second != land.pfx) fejl.push_back(post.pfx + " står under både " + sted->second + " og " + land.pfx);
+            if (!ny && sted->second != land.pfx)
+                fejl.push_back(ToUtf8(post.pfx) + " står under både " + ToUtf8(sted->second) + " og " + ToUtf8(land.pfx));
         }
     }
     if (udeladt) fejl.emplace_back("det sidste land er mærket med *");
+    if (antalLande == 0) fejl.emplace_back("filen har ingen lande");
     if (antalLande > static_cast<std::size_t>(kLandeRækker))
         fejl.push_back(std::to_string(antalLande) + " lande, der er plads til " + std::to_string(kLandeRækker));
     if (poster > kPladsTilPræfikser)

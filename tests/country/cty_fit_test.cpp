@@ -165,6 +165,7 @@ TEST(CtyFit, DamageIsToldByItsLine) {
 TEST(CtyFit, WhatTheImportWouldGoWrongOnIsTold) {
     const auto told = [](const Texts& lines) { return KontrollerCty(LæsCtyFil(lines)); };
     EXPECT_EQ(told(kTwo), (Texts{}));
+    EXPECT_EQ(told({}), (Texts{"filen har ingen lande"})) << "the import would empty the tables";
     EXPECT_EQ(told({Header("*QA"), "    QA;", Header("QB"), "    QA;"}), (Texts{})) << "a starred country leaves no trace";
     EXPECT_EQ(told({Header("*QA"), "    QA;", Header("*QB"), "    QB;"}), (Texts{"to lande med * efter hinanden: *QB bliver taget med"}));
     EXPECT_EQ(told({Header("QA"), "    QA;", Header("*QB"), "    QB;"}), (Texts{"det sidste land er mærket med *"}));
