@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "country/cty_file.h"
 
+#include <cmath>
+#include <limits>
 #include <string>
 
 #include "text/errors.h"
+#include "text/numbers.h"
 
 namespace vatro {
 
@@ -48,6 +51,12 @@ CtyHoved LæsCtyHoved(std::string_view linje) {
     hoved.længde = Columns(linje, 51, 7);
     hoved.tidsZone = Columns(linje, 62, 5);
     return hoved;
+}
+
+float LæsCtyTal(std::string_view tekst) {
+    const double tal = NumericValue(tekst);
+    if (std::fabs(tal) > std::numeric_limits<float>::max()) throw RunTimeError(Failure::Overflow);
+    return static_cast<float>(tal);
 }
 
 std::string_view CtyPoster::NæsteTekst() {

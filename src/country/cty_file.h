@@ -51,6 +51,9 @@ struct CtyPost {
 /// Fails with 5 if a ":" is missing behind name, continent or primary prefix.
 CtyHoved LæsCtyHoved(std::string_view linje);
 
+/// The numeric value of latitude, longitude or UTC offset. Fails with 6 if it is too large.
+float LæsCtyTal(std::string_view tekst);
+
 /// The items of a prefix line, one after the other.
 class CtyPoster {
 public:

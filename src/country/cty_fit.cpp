@@ -6,8 +6,10 @@
 #include <unordered_map>
 #include <utility>
 
+#include "country/call_analysis.h"
 #include "country/cty_file.h"
 #include "country/tables.h"
+#include "text/codepage.h"
 #include "text/errors.h"
 
 namespace vatro {
@@ -30,6 +32,18 @@ bool SammeZoner(const CtyItem& a, const CtyItem& b) {
     return a.cqZone == b.cqZone && a.ituZone == b.ituZone;
 }
 
+/// The text that is looked up where the call is not found whole.
+std::string Landetekst(const CtyItem& post) {
+    std::string tekst;
+    findPfxCall(post.helt, tekst);
+    return tekst;
+}
+
+/// Whether the row of the item is met by the item's own call.
+bool Opnåelig(const CtyItem& post) {
+    return post.helt.size() <= kPfxLængde || Landetekst(post).starts_with(post.pfx);
+}
+
 /// The items that stay, by prefix.
 class Beholdt {
 public:
@@ -44,10 +58,11 @@ public:
         const auto fundet = steder_.find(pfx);
         return fundet == steder_.end() ? nullptr : &fundet->second;
     }
-    /// The longest one that is shorter than the prefix and begins it, or nothing.
-    const Sted* Kortere(const std::string& pfx) const {
-        for (std::size_t længde = pfx.size(); længde-- > 0;)
-            if (const Sted* sted = Find(pfx.substr(0, længde))) return sted;
+    /// What gives the item its country without its own row: the longest other one that begins the text, or nothing.
+    const Sted* Ellers(const CtyItem& post) const {
+        const std::string tekst = Landetekst(post);
+        for (std::size_t længde = std::min(tekst.size(), kPfxLængde) + 1; længde-- > 0;)
+            if (const Sted* sted = Find(tekst.substr(0, længde)); sted != nullptr && sted->post->pfx != post.pfx) return sted;
         return nullptr;
     }
 
@@ -89,11 +104,11 @@ template <class MåUd>
 void Udelad(const std::vector<Sted>& steder, Beholdt& beholdt, std::size_t plads, MåUd måUd) {
     for (const Sted& sted : steder) {
         if (beholdt.Antal() <= plads) return;
-        if (sted.post->med && måUd(sted, beholdt.Kortere(sted.post->pfx))) beholdt.Fjern(*sted.post);
+        if (sted.post->med && måUd(sted, beholdt.Ellers(*sted.post))) beholdt.Fjern(*sted.post);
     }
 }
 
-/// Leaves out calls of full length that stand before all other prefixes of their first character and that no shorter one
+/// Leaves out calls of full length that stand before all other prefixes of their first character and that no other one
 /// gives: until the program is started again the import's index leads past them.
 void UdeladForreste(const std::vector<Sted>& steder, Beholdt& beholdt) {
     std::map<std::string, Sted> rækker;
@@ -109,9 +124,22 @@ void UdeladForreste(const std::vector<Sted>& steder, Beholdt& beholdt) {
             indekseret = nøgle.front();
             continue;
         }
-        const Sted* kortere = beholdt.Kortere(sted.post->pfx);
-        if (kortere == nullptr || kortere->land->pfx != sted.land->pfx) beholdt.Fjern(*sted.post);
+        const Sted* ellers = beholdt.Ellers(*sted.post);
+        if (ellers == nullptr || ellers->land->pfx != sted.land->pfx) beholdt.Fjern(*sted.post);
     }
+}
+
+/// Enters what it costs that the item is left out, where `giver` decides its country now.
+void Bogfør(CtyUdeladt& ude, const Sted& sted, const Sted* giver) {
+    const CtyItem& post = *sted.post;
+    std::vector<std::string>* liste = &ude.intetTabt;
+    if (!Opnåelig(post))
+        liste = &ude.uopnåelige;
+    else if (giver == nullptr || giver->land->pfx != sted.land->pfx)
+        liste = &ude.kald;
+    else if (!SammeZoner(*giver->post, post))
+        liste = &ude.zoner;
+    liste->push_back(post.tekst);
 }
 
 }  // namespace
@@ -136,14 +164,16 @@ std::vector<CtyLand> LæsCtyFil(const std::vector<std::string>& linjer) {
         try {
             const CtyHoved hoved = LæsCtyHoved(land.hoved);
             land.pfx = hoved.pfx.substr(0, kPfxLængde);
+            if (!hoved.Udelades())
+                for (const std::string_view tal : {hoved.bredde, hoved.længde, hoved.tidsZone}) LæsCtyTal(tal);
             do {
                 if (++nr == linjer.size()) FejlILinje(nr, "filen holder op midt i et land");
                 CtyPoster rest(linjer[nr], hoved);
                 while (rest.Flere()) {
                     const std::string_view tekst = rest.NæsteTekst();
                     const CtyPost post = CtyPoster::Opdel(tekst, hoved);
-                    land.poster.push_back(
-                        {std::string(tekst), std::string(post.tekst.substr(0, kPfxLængde)), post.cqZone, post.ituZone, post.kald, true});
+                    land.poster.push_back({std::string(tekst), std::string(post.tekst), std::string(post.tekst.substr(0, kPfxLængde)),
+                                           post.cqZone, post.ituZone, post.kald, true});
                 }
             } while (!linjer[nr].ends_with(';'));
         } catch (const RunTimeError&) {
@@ -166,20 +196,24 @@ std::vector<std::string> KontrollerCty(const std::vector<CtyLand>& lande) {
             udeladt = true;
             continue;
         }
-        if (udeladt && Stjerne(land)) fejl.push_back("to lande med * efter hinanden: " + land.pfx + " bliver taget med");
+        if (udeladt && Stjerne(land)) fejl.push_back("to lande med * efter hinanden: " + ToUtf8(land.pfx) + " bliver taget med");
         // The import looks for the next header by its last character.
-        if (udeladt && !land.hoved.ends_with(':')) fejl.push_back("overskriften efter et land med * slutter ikke med ':': " + land.hoved);
+        if (udeladt && !land.hoved.ends_with(':'))
+            fejl.push_back("overskriften efter et land med * slutter ikke med ':': " + ToUtf8(land.hoved));
         udeladt = false;
         ++antalLande;
         poster += land.poster.size();
-        if (forrige != nullptr && forrige->pfx >= land.pfx) fejl.push_back(land.pfx + " står ikke i rækkefølge efter " + forrige->pfx);
+        if (forrige != nullptr && forrige->pfx >= land.pfx)
+            fejl.push_back(ToUtf8(land.pfx) + " står ikke i rækkefølge efter " + ToUtf8(forrige->pfx));
         forrige = &land;
         for (const CtyItem& post : land.poster) {
             const auto [sted, ny] = landAf.emplace(post.pfx, land.pfx);
-            if (!ny && sted->second != land.pfx) fejl.push_back(post.pfx + " står under både " + sted->second + " og " + land.pfx);
+            if (!ny && sted->second != land.pfx)
+                fejl.push_back(ToUtf8(post.pfx) + " står under både " + ToUtf8(sted->second) + " og " + ToUtf8(land.pfx));
         }
     }
     if (udeladt) fejl.emplace_back("det sidste land er mærket med *");
+    if (antalLande == 0) fejl.emplace_back("filen har ingen lande");
     if (antalLande > static_cast<std::size_t>(kLandeRækker))
         fejl.push_back(std::to_string(antalLande) + " lande, der er plads til " + std::to_string(kLandeRækker));
     if (poster > kPladsTilPræfikser)
@@ -196,17 +230,15 @@ CtyUdeladt TilpasCty(std::vector<CtyLand>& lande, std::size_t plads) {
     Beholdt beholdt;
     std::vector<Sted> dobbelte;
     const std::vector<Sted> steder = Stedfæst(lande, beholdt, dobbelte, ude);
-    for (std::size_t i = 0; i < dobbelte.size() && beholdt.Antal() + dobbelte.size() - i > plads; ++i) {
-        CtyItem& post = *dobbelte[i].post;
-        post.med = false;
-        (SammeZoner(*beholdt.Find(post.pfx)->post, post) ? ude.intetTabt : ude.zoner).push_back(post.tekst);
-    }
-    // An exact call is no support: it may have to go itself.
-    const auto støttet = [](const Sted& sted, const Sted* kortere) {
-        return kortere != nullptr && !kortere->post->kald && kortere->land->pfx == sted.land->pfx;
+    for (std::size_t i = 0; i < dobbelte.size() && beholdt.Antal() + dobbelte.size() - i > plads; ++i) dobbelte[i].post->med = false;
+    // A call is no support, with or without its mark: it may have to go itself.
+    const auto støttet = [](const Sted& sted, const Sted* ellers) {
+        return ellers != nullptr && !ellers->post->kald && ellers->post->helt.find('/') == std::string::npos &&
+               ellers->land->pfx == sted.land->pfx;
     };
+    Udelad(steder, beholdt, plads, [](const Sted& sted, const Sted*) { return !Opnåelig(*sted.post); });
     Udelad(steder, beholdt, plads,
-           [&](const Sted& sted, const Sted* kortere) { return støttet(sted, kortere) && SammeZoner(*sted.post, *kortere->post); });
+           [&](const Sted& sted, const Sted* ellers) { return støttet(sted, ellers) && SammeZoner(*sted.post, *ellers->post); });
     Udelad(steder, beholdt, plads, støttet);
     Udelad(steder, beholdt, plads, [](const Sted& sted, const Sted*) { return sted.post->kald; });
     if (beholdt.Antal() > plads)
@@ -215,14 +247,13 @@ CtyUdeladt TilpasCty(std::vector<CtyLand>& lande, std::size_t plads) {
     UdeladForreste(steder, beholdt);
 
     // What an item has lost shows only now: the one that gave its zones may have gone after it.
-    for (const Sted& sted : steder) {
-        if (sted.post->med) continue;
-        const Sted* kortere = beholdt.Kortere(sted.post->pfx);
-        if (kortere == nullptr || kortere->land->pfx != sted.land->pfx)
-            ude.kald.push_back(sted.post->tekst);
-        else
-            (SammeZoner(*kortere->post, *sted.post) ? ude.intetTabt : ude.zoner).push_back(sted.post->tekst);
+    for (const Sted& sted : dobbelte) {
+        const Sted* første = beholdt.Find(sted.post->pfx);
+        if (første == nullptr) sted.post->med = false;
+        if (!sted.post->med) Bogfør(ude, sted, første != nullptr ? første : beholdt.Ellers(*sted.post));
     }
+    for (const Sted& sted : steder)
+        if (!sted.post->med) Bogfør(ude, sted, beholdt.Ellers(*sted.post));
     return ude;
 }
 

@@ -4,7 +4,9 @@
 // the table of prefixes holds the rest.
 //
 // The import takes every item, an exact call too, as a prefix: a call belongs to the country of the longest item that
-// begins it. So an item can go without loss if the longest shorter one that stays gives the same country and zones.
+// begins it. So an item can go without loss if the longest shorter one that stays gives the same country and zones. An
+// item with a slash is one call, which the program finds whole or else by the text that decides its country: LU1DHL/D
+// belongs to D once its own item has gone, not to LU.
 #pragma once
 
 #include <string>
@@ -21,6 +23,8 @@ inline constexpr std::size_t kPladsTilPræfikser = 5999;
 struct CtyItem {
     /// As it stands in the file, marks included.
     std::string tekst;
+    /// Without marks.
+    std::string helt;
     /// Without marks, cut as the table cuts it.
     std::string pfx;
     FixedText<2> cqZone;
@@ -38,6 +42,8 @@ struct CtyLand {
 
 /// What has been left out, and what that costs.
 struct CtyUdeladt {
+    /// Calls that are longer than the table is wide, and that the program therefore never finds.
+    std::vector<std::string> uopnåelige;
     /// A shorter prefix gives the same country and zones.
     std::vector<std::string> intetTabt;
     /// A shorter prefix gives the same country with other zones.
@@ -64,9 +70,10 @@ std::vector<CtyLand> LæsCtyFil(const std::vector<std::string>& linjer);
 /// What keeps the import from taking the file as it is meant, one text for the user each; none if nothing does.
 std::vector<std::string> KontrollerCty(const std::vector<CtyLand>& lande);
 
-/// Leaves out countries marked with "*" and items that stand under an earlier country; then, until the rest fits, items
-/// without which nothing is lost, items that lose their zones, exact calls. At last go exact calls that the import would
-/// not find before the next start. Throws CtyFejl if the rest does not fit.
+/// Leaves out countries marked with "*" and items that stand under an earlier country; then, until the rest fits, calls
+/// that are never found, items without which nothing is lost, items that lose their zones, exact calls, in each case the
+/// shortest first. At last go exact calls that the import would not find before the next start. Throws CtyFejl if the
+/// rest does not fit.
 CtyUdeladt TilpasCty(std::vector<CtyLand>& lande, std::size_t plads = kPladsTilPræfikser);
 
 /// The lines of a file with the items that stay.

@@ -5,7 +5,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <limits>
 #include <optional>
 #include <string>
 
@@ -26,12 +25,6 @@ namespace vatro {
 using namespace literals;
 
 namespace {
-
-float ToFloat(std::string_view tekst) {
-    const double tal = NumericValue(tekst);
-    if (std::fabs(tal) > std::numeric_limits<float>::max()) throw RunTimeError(Failure::Overflow);
-    return static_cast<float>(tal);
-}
 
 /// "-" or a blank, the number in its shortest form, a blank.
 std::string TalTekst(float tal) {
@@ -92,9 +85,9 @@ private:
         land.Pfx = hoved.pfx;
         land.Navn = hoved.navn;
         land.Kontinent = hoved.kontinent;
-        land.Bredde = ToFloat(hoved.bredde);
-        land.Laengde = ToFloat(hoved.længde);
-        land.TidsZone = ToFloat(hoved.tidsZone);
+        land.Bredde = LæsCtyTal(hoved.bredde);
+        land.Laengde = LæsCtyTal(hoved.længde);
+        land.TidsZone = LæsCtyTal(hoved.tidsZone);
     }
 
     void GemPræfiks(const CtyPost& post) {

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
 //   vatro-cty CTY.DAT            checks a country file against the rules of the import
-//   vatro-cty CTY.DAT OUT.DAT    writes one that the import takes, and tells what it has left out
+//   vatro-cty CTY.DAT NY.DAT    writes one that the import takes, and tells what it has left out
 //
-// Exit 1 if the file cannot be taken, or not be made to fit; nothing is written then.
+// Exit 1 if the file cannot be taken, or not be made to fit; nothing is written then. Exit 2 for another number of arguments.
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <string>
+#include <system_error>
+#include <vector>
 
 #include "country/cty_fit.h"
 #include "text/codepage.h"
@@ -17,9 +21,25 @@ using namespace vatro;
 
 std::string Læs(const char* sti) {
     std::ifstream fil(sti, std::ios::binary);
-    std::string indhold(std::istreambuf_iterator<char>(fil), {});
-    if (!fil.is_open() || fil.bad()) throw CtyFejl{std::string(sti) + " kan ikke læses"};
-    return indhold;
+    try {
+        if (fil) return {std::istreambuf_iterator<char>(fil), {}};
+    } catch (const std::ios_base::failure&) {
+        // As a directory does.
+    }
+    throw CtyFejl{std::string(sti) + " kan ikke læses"};
+}
+
+/// Writes the file whole or not at all.
+void Skriv(const std::string& sti, const std::vector<std::string>& linjer) {
+    const std::string ny = sti + ".ny";
+    std::ofstream fil(ny, std::ios::binary);
+    for (const std::string& linje : linjer) fil << linje << "\r\n";
+    fil.close();
+    std::error_code fejl;
+    if (fil) std::filesystem::rename(ny, sti, fejl);
+    if (fil && !fejl) return;
+    std::filesystem::remove(ny, fejl);
+    throw CtyFejl{sti + " kan ikke skrives"};
 }
 
 void Fortæl(const char* hvad, const std::vector<std::string>& poster) {
@@ -40,12 +60,10 @@ int Tilpas(std::vector<CtyLand>& lande, const char* sti) {
     const CtyUdeladt ude = TilpasCty(lande);
     const std::vector<std::string> linjer = SkrivCty(lande);
     if (!Kontroller(LæsCtyFil(linjer))) return 1;
-    std::ofstream fil(sti, std::ios::binary);
-    for (const std::string& linje : linjer) fil << linje << "\r\n";
-    fil.close();
-    if (!fil) throw CtyFejl{std::string(sti) + " kan ikke skrives"};
+    Skriv(sti, linjer);
     Fortæl("lande med * er udeladt", ude.lande);
     Fortæl("poster står allerede under et andet land og er udeladt", ude.dubletter);
+    Fortæl("kald er udeladt, fordi programmet aldrig finder dem", ude.uopnåelige);
     Fortæl("poster er udeladt uden tab", ude.intetTabt);
     Fortæl("poster er udeladt, kun deres zoner er tabt", ude.zoner);
     Fortæl("kald er udeladt og hører nu til et andet land eller intet", ude.kald);

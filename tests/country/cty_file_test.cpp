@@ -73,6 +73,21 @@ TEST(CtyFile, AHeaderCutAnywhereBeforeItsLastColonFails) {
     EXPECT_EQ(FailureOfHeader(kHeader), 0);
 }
 
+TEST(CtyFile, ANumberIsReadUnlessItIsTooLarge) {
+    EXPECT_FLOAT_EQ(LæsCtyTal(" -10.25"), -10.25F);
+    EXPECT_FLOAT_EQ(LæsCtyTal("   x"), 0.0F);
+    EXPECT_FLOAT_EQ(LæsCtyTal("-3e38"), -3e38F);
+    for (const std::string_view text : {"4e38", "-4e38", "1e99"}) {
+        int number = 0;
+        try {
+            LæsCtyTal(text);
+        } catch (const RunTimeError& failure) {
+            number = failure.Number();
+        }
+        EXPECT_EQ(number, 6) << text;
+    }
+}
+
 TEST(CtyFile, ItemsBeginInTheFifthColumn) {
     EXPECT_EQ(Items("    QQ,QR;"), (Texts{"QQ 14 27", "QR 14 27"}));
     EXPECT_EQ(Items("A,B;QQ;"), (Texts{"QQ 14 27"}));

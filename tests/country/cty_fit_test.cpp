@@ -78,6 +78,28 @@ TEST(CtyFit, AnExactCallSupportsNoLongerOne) {
     EXPECT_EQ(TilpasCty(countries, 2).kald, (Texts{"=QB7XY", "=QB7XY/P"}));
 }
 
+TEST(CtyFit, ACallWithASlashGoesWithoutLossOnlyIfItsCountryTextGivesTheSame) {
+    // Of QA5AB/QB1 the program looks up QB1, of QA5AB/P it looks up QA5AB, of QA5AB/7 it looks up QA7AB.
+    const Texts lines{Header("QA"), "    QA,=QA5AB/QB1,=QA5AB/P,=QA5AB/7;", Header("QB"), "    QB,QA7;"};
+    EXPECT_EQ(Fitted(lines, 5), (Texts{Header("QA"), "    QA,=QA5AB/QB1,=QA5AB/7;", Header("QB"), "    QB,QA7;"}));
+    std::vector<CtyLand> countries = LæsCtyFil(lines);
+    const CtyUdeladt out = TilpasCty(countries, 3);
+    EXPECT_EQ(out.intetTabt, (Texts{"=QA5AB/P"}));
+    EXPECT_EQ(out.kald, (Texts{"=QA5AB/7", "=QA5AB/QB1"}));
+}
+
+TEST(CtyFit, ACallThatIsTooLongToBeFoundGoesBeforeAllOthers) {
+    // Eleven characters are never found whole: of QB1ABCD/QA1 the program looks up QA1, whose row QB1ABCD/QA is not; of
+    // QB12345678Z it looks up the whole, which the row QB12345678 begins.
+    const Texts lines{Header("QA"), "    QA,QA1,=QB1ABCD/QA1;", Header("QB"), "    QB,=QB12345678Z;"};
+    EXPECT_EQ(Fitted(lines, 5), lines);
+    EXPECT_EQ(Fitted(lines, 4), (Texts{Header("QA"), "    QA,QA1;", Header("QB"), "    QB,=QB12345678Z;"}));
+    std::vector<CtyLand> countries = LæsCtyFil(lines);
+    const CtyUdeladt out = TilpasCty(countries, 3);
+    EXPECT_EQ(out.uopnåelige, (Texts{"=QB1ABCD/QA1"}));
+    EXPECT_EQ(out.intetTabt, (Texts{"QA1"}));
+}
+
 TEST(CtyFit, StarredCountriesAndItemsOfAnEarlierCountryAlwaysGo) {
     const Texts lines{Header("*QA/x"), "    QA5;", Header("QA"), "    QA,QX;", Header("QB"), "    QB,QX;"};
     std::vector<CtyLand> countries = LæsCtyFil(lines);
@@ -108,6 +130,11 @@ TEST(CtyFit, ACallOfFullLengthInFrontOfItsLetterGoes) {
     EXPECT_EQ(Fitted(lines, 5999), (Texts{Header("QA"), "    QA,=QA1/ABCDEF;", Header("QI"), "    I;"})) << "QA gives the other one";
     lines.back() = "    I,IA;";
     EXPECT_EQ(Fitted(lines, 5999), lines) << "IA stands before it";
+
+    lines = {Header("QA"), "    QA,=IB1/ABCDEF,=IB1/ABCDEF;", Header("QI"), "    I;"};
+    std::vector<CtyLand> countries = LæsCtyFil(lines);
+    EXPECT_EQ(TilpasCty(countries).kald, (Texts{"=IB1/ABCDEF", "=IB1/ABCDEF"})) << "wherever it stands";
+    EXPECT_EQ(SkrivCty(countries), (Texts{Header("QA"), "    QA;", Header("QI"), "    I;"}));
 }
 
 TEST(CtyFit, ACountryWithoutItemsKeepsItsHeader) {
@@ -138,6 +165,7 @@ TEST(CtyFit, DamageIsToldByItsLine) {
 TEST(CtyFit, WhatTheImportWouldGoWrongOnIsTold) {
     const auto told = [](const Texts& lines) { return KontrollerCty(LæsCtyFil(lines)); };
     EXPECT_EQ(told(kTwo), (Texts{}));
+    EXPECT_EQ(told({}), (Texts{"filen har ingen lande"})) << "the import would empty the tables";
     EXPECT_EQ(told({Header("*QA"), "    QA;", Header("QB"), "    QA;"}), (Texts{})) << "a starred country leaves no trace";
     EXPECT_EQ(told({Header("*QA"), "    QA;", Header("*QB"), "    QB;"}), (Texts{"to lande med * efter hinanden: *QB bliver taget med"}));
     EXPECT_EQ(told({Header("QA"), "    QA;", Header("*QB"), "    QB;"}), (Texts{"det sidste land er mærket med *"}));

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+//
+// The program vatro-cty, run as a process of its own in a directory of the test's own.
+#pragma once
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "country/frmCtyDat.h"
+#include "country/import.h"
+#include "country/lookup.h"
+#include "country/tables.h"
+#include "disk/temporary_world.h"
+#include "frame/station.h"
+#include "platform/program.h"
+#include "running_program.h"
+
+namespace vatro {
+
+/// A header line of Fantasia with this primary prefix.
+inline std::string CtyHeader(const std::string& pfx) {
+    return "Fantasia:                 14:  27:  EU:   56.00:   -10.00:    -1.0:  " + pfx + ":";
+}
+
+class CtyCommand : public TemporaryWorld {
+protected:
+    struct Result {
+        /// -1 if the process did not end by itself.
+        int exit = -1;
+        std::string out;
+        std::string err;
+    };
+
+    ~CtyCommand() override {
+        if (ProgramRuns()) EndProgram();
+        NulstilTabeller();
+    }
+
+    /// The arguments, with the directory as the current one.
+    Result Run(std::vector<std::string> arguments) const {
+        arguments.insert(arguments.begin(), VATRO_CTY);
+        const pid_t child = fork();
+        if (child == 0) {
+            std::vector<char*> argv;
+            for (std::string& argument : arguments) argv.push_back(argument.data());
+            argv.push_back(nullptr);
+            if (chdir(root_.c_str()) != 0 || freopen("out.txt", "w", stdout) == nullptr || freopen("err.txt", "w", stderr) == nullptr)
+                _exit(127);
+            execv(argv.front(), argv.data());
+            _exit(127);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        Result result{WIFEXITED(status) ? WEXITSTATUS(status) : -1, Content("out.txt"), Content("err.txt")};
+        std::filesystem::remove(root_ / "out.txt");
+        std::filesystem::remove(root_ / "err.txt");
+        return result;
+    }
+
+    static std::string Joined(const std::vector<std::string>& lines, const std::string& end) {
+        std::string all;
+        for (const std::string& line : lines) all += line + end;
+        return all;
+    }
+    void PutLines(const std::string& name, const std::vector<std::string>& lines) const { Put(name, Joined(lines, "\r\n")); }
+
+    /// The program's own import of this file of the directory. The number of the failure that stops it, 0 if none does.
+    int Import(const std::string& name) {
+        Put("cty.dat", Content(name));
+        InstallPlatform({front_, dialogs_, settings_, files_, clock_, help_, instance_, {1, 0, 0}});
+        BeginProgram();
+        NulstilTabeller();
+        gsFDLib = NativeText(root_);
+        const int number = NumberOf(ImporterCty);
+        // As the end of the program does.
+        files_.Close(1);
+        frmCtyDat.Unload();
+        return number;
+    }
+    /// The primary prefix of the country that the program finds for the call, "" for none.
+    static std::string CountryOf(const std::string& call) {
+        std::string country;
+        LandWkd(call, country, Handling::Test);
+        return std::string(Trim(country));
+    }
+
+    FakeDialogs dialogs_;
+
+private:
+    FakeFront front_;
+    FakeSettings settings_;
+    DiskFiles files_;
+    FakeClock clock_;
+    FakeHelp help_;
+    FakeInstance instance_;
+};
+
+}  // namespace vatro
