@@ -108,6 +108,13 @@ void Udelad(const std::vector<Sted>& steder, Beholdt& beholdt, std::size_t plads
     }
 }
 
+/// Leaves out calls that the program never finds, unless another prefix leads them home all the same.
+void UdeladVildledte(const std::vector<Sted>& steder, Beholdt& beholdt) {
+    Udelad(steder, beholdt, 0, [](const Sted& sted, const Sted* ellers) {
+        return !Opnåelig(*sted.post) && (ellers == nullptr || ellers->land->pfx != sted.land->pfx);
+    });
+}
+
 /// Leaves out calls of full length that stand before all other prefixes of their first character and that no other one
 /// gives: until the program is started again the import's index leads past them.
 void UdeladForreste(const std::vector<Sted>& steder, Beholdt& beholdt) {
@@ -236,6 +243,7 @@ CtyUdeladt TilpasCty(std::vector<CtyLand>& lande, std::size_t plads) {
         return ellers != nullptr && !ellers->post->kald && ellers->post->helt.find('/') == std::string::npos &&
                ellers->land->pfx == sted.land->pfx;
     };
+    UdeladVildledte(steder, beholdt);
     Udelad(steder, beholdt, plads, [](const Sted& sted, const Sted*) { return !Opnåelig(*sted.post); });
     Udelad(steder, beholdt, plads,
            [&](const Sted& sted, const Sted* ellers) { return støttet(sted, ellers) && SammeZoner(*sted.post, *ellers->post); });
@@ -245,6 +253,8 @@ CtyUdeladt TilpasCty(std::vector<CtyLand>& lande, std::size_t plads) {
         throw CtyFejl{std::to_string(beholdt.Antal()) + " præfixer kan ikke undværes, der er plads til " + std::to_string(plads)};
 
     UdeladForreste(steder, beholdt);
+    // What led them home may have gone.
+    UdeladVildledte(steder, beholdt);
 
     // What an item has lost shows only now: the one that gave its zones may have gone after it.
     for (const Sted& sted : dobbelte) {

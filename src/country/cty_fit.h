@@ -70,10 +70,10 @@ std::vector<CtyLand> LæsCtyFil(const std::vector<std::string>& linjer);
 /// What keeps the import from taking the file as it is meant, one text for the user each; none if nothing does.
 std::vector<std::string> KontrollerCty(const std::vector<CtyLand>& lande);
 
-/// Leaves out countries marked with "*" and items that stand under an earlier country; then, until the rest fits, calls
-/// that are never found, items without which nothing is lost, items that lose their zones, exact calls, in each case the
-/// shortest first. At last go exact calls that the import would not find before the next start. Throws CtyFejl if the
-/// rest does not fit.
+/// Leaves out countries marked with "*", items that stand under an earlier country, and calls that are too long to be found
+/// and that no other item leads to their country; then, until the rest fits, other calls that are never found, items without which nothing
+/// is lost, items that lose their zones, exact calls, in each case the shortest first. At last go exact calls that the import would not
+/// find before the next start. Throws CtyFejl if the rest does not fit.
 CtyUdeladt TilpasCty(std::vector<CtyLand>& lande, std::size_t plads = kPladsTilPræfikser);
 
 /// The lines of a file with the items that stay.

@@ -100,6 +100,14 @@ TEST(CtyFit, ACallThatIsTooLongToBeFoundGoesBeforeAllOthers) {
     EXPECT_EQ(out.intetTabt, (Texts{"QA1"}));
 }
 
+TEST(CtyFit, ACallThatIsNeverFoundInItsCountryAlwaysGoes) {
+    // Eleven characters: the program looks up QA1 and finds the other country, in a file with room to spare as well.
+    const Texts lines{Header("QA"), "    QA;", Header("QB"), "    QB,=QB12345/QA1;"};
+    std::vector<CtyLand> countries = LæsCtyFil(lines);
+    EXPECT_EQ(TilpasCty(countries).uopnåelige, (Texts{"=QB12345/QA1"}));
+    EXPECT_EQ(SkrivCty(countries), (Texts{Header("QA"), "    QA;", Header("QB"), "    QB;"}));
+}
+
 TEST(CtyFit, StarredCountriesAndItemsOfAnEarlierCountryAlwaysGo) {
     const Texts lines{Header("*QA/x"), "    QA5;", Header("QA"), "    QA,QX;", Header("QB"), "    QB,QX;"};
     std::vector<CtyLand> countries = LæsCtyFil(lines);
