@@ -172,6 +172,9 @@ std::string QtDialogs::ChooseFile(const FileDialog& dialog, bool save) {
     const QFileInfo named(ToQt(dialog.fileName));
     if (named.isAbsolute()) chooser.setDirectory(named.absolutePath());
     if (!dialog.fileName.empty()) chooser.selectFile(named.fileName());
+    chooser.setLabelText(QFileDialog::LookIn, QStringLiteral("Søg i:"));
+    chooser.setLabelText(QFileDialog::FileName, QStringLiteral("&Filnavn:"));
+    chooser.setLabelText(QFileDialog::FileType, QStringLiteral("Filtype:"));
     chooser.setLabelText(QFileDialog::Accept, save ? QStringLiteral("&Gem") : QStringLiteral("&Åbn"));
     chooser.setLabelText(QFileDialog::Reject, QStringLiteral("Annuller"));
     QObject::connect(&chooser, &QDialog::finished, &chooser, [] { WaitLoop::Look(); });
