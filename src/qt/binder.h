@@ -13,6 +13,7 @@ class QComboBox;
 class QFrame;
 class QLabel;
 class QLineEdit;
+class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
 
@@ -29,21 +30,26 @@ class Frame;
 class ItemList;
 class Label;
 class ListBox;
+class Picture;
+class PictureView;
 class ProgressBar;
 class SpinArrows;
 class TextBox;
+class TextView;
 class UpDown;
 
 /// Ties all controls of the form, and sets the order of Tab.
 void BindForm(Form& form, FormWindow& window);
 
 void Bind(TextBox& control, QLineEdit& widget, FormWindow& window);
+void Bind(TextView& control, QPlainTextEdit& widget, FormWindow& window);
 void Bind(ComboBox& control, QComboBox& widget, FormWindow& window);
 void Bind(ListBox& control, ItemList& widget, FormWindow& window);
 void Bind(Button& control, QPushButton& widget, FormWindow& window);
 void Bind(UpDown& control, SpinArrows& widget, FormWindow& window);
 void Bind(ProgressBar& control, QProgressBar& widget, FormWindow& window);
 void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window);
+void Bind(Picture& control, PictureView& widget, FormWindow& window);
 void Bind(Label& control, QLabel& widget, FormWindow& window);
 void Bind(Label& control, FittedText& widget, FormWindow& window);
 void Bind(Label& control, ColumnHead& widget, FormWindow& window);

@@ -130,7 +130,8 @@ bool Input::TakeKeyEvent(QKeyEvent& event) {
     if (key) return !TakeKey(*key);
     // Qt walks from button to button with the arrows; the form knows only Tab.
     const bool arrow = event.key() >= Qt::Key_Left && event.key() <= Qt::Key_Down;
-    return arrow && editor_ == nullptr && dynamic_cast<ListBox*>(control_) == nullptr;
+    const bool own = dynamic_cast<ListBox*>(control_) != nullptr || dynamic_cast<TextView*>(control_) != nullptr;
+    return arrow && editor_ == nullptr && !own;
 }
 
 bool Input::TakeKey(KeyCode key) {
