@@ -4,7 +4,9 @@
 #include <map>
 #include <string>
 
+#include "ui_FormQuickInfo.h"
 #include "ui_FormRigAnt.h"
+#include "ui_frmAbout.h"
 #include "ui_frmB4.h"
 #include "ui_frmCall.h"
 #include "ui_frmContestCall.h"
@@ -17,7 +19,10 @@
 #include "ui_frmQSOnr.h"
 #include "ui_frmRetQSO.h"
 #include "ui_frmSplash.h"
+#include "ui_frmStregP.h"
+#include "ui_frmTilFloppy.h"
 #include "ui_frmUTC.h"
+#include "ui_frmVisTekst.h"
 
 namespace vatro {
 
@@ -30,13 +35,25 @@ void Make(QWidget* widget) {
 
 std::map<std::string, LayoutMaker, std::less<>>& Layouts() {
     static std::map<std::string, LayoutMaker, std::less<>> layouts{
-        {"FormRigAnt", Make<Ui::FormRigAnt>}, {"frmB4", Make<Ui::frmB4>},
-        {"frmCall", Make<Ui::frmCall>},       {"frmContestCall", Make<Ui::frmContestCall>},
-        {"frmCtyDat", Make<Ui::frmCtyDat>},   {"frmEDR", Make<Ui::frmEDR>},
-        {"frmInfo", Make<Ui::frmInfo>},       {"frmMain", Make<Ui::frmMain>},
-        {"frmNote", Make<Ui::frmNote>},       {"frmNytQSOnr", Make<Ui::frmNytQSOnr>},
-        {"frmQSOnr", Make<Ui::frmQSOnr>},     {"frmRetQSO", Make<Ui::frmRetQSO>},
-        {"frmSplash", Make<Ui::frmSplash>},   {"frmUTC", Make<Ui::frmUTC>},
+        {"FormQuickInfo", Make<Ui::FormQuickInfo>},
+        {"frmAbout", Make<Ui::frmAbout>},
+        {"frmStregP", Make<Ui::frmStregP>},
+        {"frmTilFloppy", Make<Ui::frmTilFloppy>},
+        {"frmVisTekst", Make<Ui::frmVisTekst>},
+        {"FormRigAnt", Make<Ui::FormRigAnt>},
+        {"frmB4", Make<Ui::frmB4>},
+        {"frmCall", Make<Ui::frmCall>},
+        {"frmContestCall", Make<Ui::frmContestCall>},
+        {"frmCtyDat", Make<Ui::frmCtyDat>},
+        {"frmEDR", Make<Ui::frmEDR>},
+        {"frmInfo", Make<Ui::frmInfo>},
+        {"frmMain", Make<Ui::frmMain>},
+        {"frmNote", Make<Ui::frmNote>},
+        {"frmNytQSOnr", Make<Ui::frmNytQSOnr>},
+        {"frmQSOnr", Make<Ui::frmQSOnr>},
+        {"frmRetQSO", Make<Ui::frmRetQSO>},
+        {"frmSplash", Make<Ui::frmSplash>},
+        {"frmUTC", Make<Ui::frmUTC>},
     };
     return layouts;
 }

@@ -300,8 +300,7 @@ TEST_P(FrontRules, ComboBoxIsEditedLikeAField) {
 // --- Sorted lists, texts to read, pictures
 
 TEST_P(FrontRules, SortedListIsInTheOrderOfCharacterCodes) {
-    EXPECT_EQ(PlayLook("show frmRulesLook.List1"),
-              (Lines{"frmRulesLook.List1 4 items selected -1", "\"C\"", "\"a\"", "\"b\"", "\"æ\""}));
+    EXPECT_EQ(PlayLook("show frmRulesLook.List1"), (Lines{"frmRulesLook.List1 4 items selected -1", "\"C\"", "\"a\"", "\"b\"", "\"æ\""}));
 }
 
 TEST_P(FrontRules, AddedItemGoesBehindItsEquals) {
@@ -319,8 +318,8 @@ TEST_P(FrontRules, SelectionStaysOnItsItem) {
         list.RemoveItem(0);
     });
     EXPECT_EQ(PlayLook("pick frmRulesLook.List1 b\nclick frmRulesLook.Image1\nshow frmRulesLook.List1\nkey Down\nshow frmRulesLook.List1"),
-              (Lines{"frmRulesLook.List1 4 items selected 1", "\"a\"", "\"b\"", "\"z\"", "\"æ\"",
-                     "frmRulesLook.List1 4 items selected 2", "\"a\"", "\"b\"", "\"z\"", "\"æ\""}));
+              (Lines{"frmRulesLook.List1 4 items selected 1", "\"a\"", "\"b\"", "\"z\"", "\"æ\"", "frmRulesLook.List1 4 items selected 2",
+                     "\"a\"", "\"b\"", "\"z\"", "\"æ\""}));
     EXPECT_EQ(happenings.lines, (Lines{"Change Text1(0) a", "Click List1", "Click Image1", "Click List1"}));
 }
 
@@ -337,10 +336,10 @@ TEST_P(FrontRules, ItemThatIsNotThereCannotBeRemoved) {
 }
 
 TEST_P(FrontRules, TextToReadKeepsItsTextAndItsCaret) {
-    EXPECT_EQ(PlayLook("type xy\nkey Backspace\nkey Delete\nkey Down\nkey End\nkey PageDown\npaste z\nshow frmRulesLook.Text1\n"
-                       "show frmRulesLook.Text1 state\nshow focus"),
-              (Lines{"frmRulesLook.Text1 \"one\\n\\nthree\\n\"", "frmRulesLook.Text1 enabled shown selected 0 0",
-                     "focus frmRulesLook.Text1"}));
+    EXPECT_EQ(
+        PlayLook("type xy\nkey Backspace\nkey Delete\nkey Down\nkey End\nkey PageDown\npaste z\nshow frmRulesLook.Text1\n"
+                 "show frmRulesLook.Text1 state\nshow focus"),
+        (Lines{"frmRulesLook.Text1 \"one\\n\\nthree\\n\"", "frmRulesLook.Text1 enabled shown selected 0 0", "focus frmRulesLook.Text1"}));
     EXPECT_EQ(happenings.lines, (Lines{"Change Text1(0) a", "KeyPress Text1 120", "KeyPress Text1 121", "KeyPress Text1 8"}));
 }
 
