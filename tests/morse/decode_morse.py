@@ -53,7 +53,7 @@ TEXTS = (
     ("THE QUICK BROWN FOX JUMPS OVER THE LAZY DOG", None, True),
     ("0123456789 9876543210 E T 5 0", None, True),
     (between_letters(PUNCTUATION), None, True),
-    ("#C UR #T #N BK", "DL1ABC/P UR 5NN T01 BK", True),
+    ("#C UR #T #N BK", "DL1ABC/P UR 5NN TT1 BK", True),
     ("cq test de #r #r test k", "CQ TEST DE OZ1AB OZ1AB TEST K", True),
     (between_letters(FOREIGN), None, False),
     (between_letters(JOINED), None, False),
