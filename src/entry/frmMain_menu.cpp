@@ -4,6 +4,8 @@
 #include "country/import.h"
 #include "country/lookup.h"
 #include "country/unknown.h"
+#include "cw/settings.h"
+#include "cw/texts.h"
 #include "entry/frmB4.h"
 #include "entry/frmCall.h"
 #include "entry/frmContestCall.h"
@@ -59,6 +61,8 @@ void FrmMain::BindMenu() {
     mnuFunktionerNote.Click = IndsætNote;
     mnuFunktionerVisLand.Click = VisLandNu;
     mnuFunktionerImporterCTY.Click = ImporterCtyMenu;
+
+    for (MenuItem& punkt : mnuCWTXT) punkt.Click = [&punkt] { SendCW(CWTekster[static_cast<std::size_t>(punkt.Index())]); };
 }
 
 void FrmMain::SætKlasse(std::string_view klasse) {
