@@ -4,6 +4,7 @@
 #include "country/import.h"
 #include "country/lookup.h"
 #include "country/unknown.h"
+#include "cw/frmCW.h"
 #include "cw/settings.h"
 #include "cw/texts.h"
 #include "entry/frmB4.h"
@@ -63,6 +64,7 @@ void FrmMain::BindMenu() {
     mnuFunktionerImporterCTY.Click = ImporterCtyMenu;
 
     for (MenuItem& punkt : mnuCWTXT) punkt.Click = [&punkt] { SendCW(CWTekster[static_cast<std::size_t>(punkt.Index())]); };
+    mnuCWInstillinger.Click = [] { frmCW->ShowModal(); };
 }
 
 void FrmMain::SætKlasse(std::string_view klasse) {
