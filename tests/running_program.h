@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -164,11 +165,15 @@ public:
     void Activated(Form&) override {}
     void RunModal(Form& form) override { ADD_FAILURE() << "unexpected modal form: " << form.Name(); }
     void Refresh(Form&) override {}
-    void DoEvents() override {}
+    void DoEvents() override {
+        if (pending) pending();
+    }
     double TextWidth(std::string_view text, const Font& font) override { return 0.6 * font.size * static_cast<double>(text.size()); }
     double TextHeight(const Font& font) override { return 1.2 * font.size; }
     void Ended() override { ended = true; }
     bool ended = false;
+    /// What happens while the program lets events run.
+    std::function<void()> pending;
 };
 
 class FakeHelp : public Help {

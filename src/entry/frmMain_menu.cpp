@@ -4,6 +4,9 @@
 #include "country/import.h"
 #include "country/lookup.h"
 #include "country/unknown.h"
+#include "cw/frmCW.h"
+#include "cw/settings.h"
+#include "cw/texts.h"
 #include "entry/frmB4.h"
 #include "entry/frmCall.h"
 #include "entry/frmContestCall.h"
@@ -59,6 +62,9 @@ void FrmMain::BindMenu() {
     mnuFunktionerNote.Click = IndsætNote;
     mnuFunktionerVisLand.Click = VisLandNu;
     mnuFunktionerImporterCTY.Click = ImporterCtyMenu;
+
+    for (MenuItem& punkt : mnuCWTXT) punkt.Click = [&punkt] { SendCW(CWTekster[static_cast<std::size_t>(punkt.Index())]); };
+    mnuCWInstillinger.Click = [] { frmCW->ShowModal(); };
 }
 
 void FrmMain::SætKlasse(std::string_view klasse) {

@@ -15,6 +15,8 @@ class QLabel;
 class QLineEdit;
 class QProgressBar;
 class QPushButton;
+class QRadioButton;
+class QScrollBar;
 
 namespace vatro {
 
@@ -29,7 +31,9 @@ class Frame;
 class ItemList;
 class Label;
 class ListBox;
+class OptionButton;
 class ProgressBar;
+class ScrollBar;
 class SpinArrows;
 class TextBox;
 class UpDown;
@@ -44,6 +48,8 @@ void Bind(Button& control, QPushButton& widget, FormWindow& window);
 void Bind(UpDown& control, SpinArrows& widget, FormWindow& window);
 void Bind(ProgressBar& control, QProgressBar& widget, FormWindow& window);
 void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window);
+void Bind(OptionButton& control, QRadioButton& widget, FormWindow& window);
+void Bind(ScrollBar& control, QScrollBar& widget, FormWindow& window);
 void Bind(Label& control, QLabel& widget, FormWindow& window);
 void Bind(Label& control, FittedText& widget, FormWindow& window);
 void Bind(Label& control, ColumnHead& widget, FormWindow& window);

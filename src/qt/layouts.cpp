@@ -5,7 +5,10 @@
 #include <string>
 
 #include "ui_FormRigAnt.h"
+#include "ui_frmAfslut.h"
 #include "ui_frmB4.h"
+#include "ui_frmCW.h"
+#include "ui_frmCWTX.h"
 #include "ui_frmCall.h"
 #include "ui_frmContestCall.h"
 #include "ui_frmCtyDat.h"
@@ -30,13 +33,23 @@ void Make(QWidget* widget) {
 
 std::map<std::string, LayoutMaker, std::less<>>& Layouts() {
     static std::map<std::string, LayoutMaker, std::less<>> layouts{
-        {"FormRigAnt", Make<Ui::FormRigAnt>}, {"frmB4", Make<Ui::frmB4>},
-        {"frmCall", Make<Ui::frmCall>},       {"frmContestCall", Make<Ui::frmContestCall>},
-        {"frmCtyDat", Make<Ui::frmCtyDat>},   {"frmEDR", Make<Ui::frmEDR>},
-        {"frmInfo", Make<Ui::frmInfo>},       {"frmMain", Make<Ui::frmMain>},
-        {"frmNote", Make<Ui::frmNote>},       {"frmNytQSOnr", Make<Ui::frmNytQSOnr>},
-        {"frmQSOnr", Make<Ui::frmQSOnr>},     {"frmRetQSO", Make<Ui::frmRetQSO>},
-        {"frmSplash", Make<Ui::frmSplash>},   {"frmUTC", Make<Ui::frmUTC>},
+        {"FormRigAnt", Make<Ui::FormRigAnt>},
+        {"frmAfslut", Make<Ui::frmAfslut>},
+        {"frmB4", Make<Ui::frmB4>},
+        {"frmCW", Make<Ui::frmCW>},
+        {"frmCWTX", Make<Ui::frmCWTX>},
+        {"frmCall", Make<Ui::frmCall>},
+        {"frmContestCall", Make<Ui::frmContestCall>},
+        {"frmCtyDat", Make<Ui::frmCtyDat>},
+        {"frmEDR", Make<Ui::frmEDR>},
+        {"frmInfo", Make<Ui::frmInfo>},
+        {"frmMain", Make<Ui::frmMain>},
+        {"frmNote", Make<Ui::frmNote>},
+        {"frmNytQSOnr", Make<Ui::frmNytQSOnr>},
+        {"frmQSOnr", Make<Ui::frmQSOnr>},
+        {"frmRetQSO", Make<Ui::frmRetQSO>},
+        {"frmSplash", Make<Ui::frmSplash>},
+        {"frmUTC", Make<Ui::frmUTC>},
     };
     return layouts;
 }
