@@ -3,12 +3,12 @@
 // The window that sends Morse: it owns the sound card, shows the text and has the button that stops it.
 //
 // It is loaded by the first send and then only hidden, so that card and buffer are there for the next one. The buffer is one
-// second that plays round and round: at the end of each half that half is filled anew while the other one sounds. The first half
-// that holds nothing but the end of the text stops the sound as soon as it is due: what stops unheard is silence, up to 24
-// words per minute.
+// second that plays round and round: at the end of each half that half is filled anew while the other one sounds.
 //
-// A new text during a send is no new start: it comes in at the character where the old one stood. Only after an end or a stop
-// does a text begin at its beginning. Both are meant so.
+// The first half into which nothing of the text has come stops the sound at once, when the half before it has only begun. Up to 24
+// words per minute all that goes unheard is silence; above, it can be the last tones. A new text during a send is no new start: it
+// comes in at the character where the old one stood, and only after an end or a stop does a text begin at its beginning. All
+// this is meant so.
 #pragma once
 
 #include <memory>
