@@ -53,7 +53,7 @@ SoundPlayer::SoundPlayer(std::shared_ptr<SoundRing> ring, int samplesPerSecond, 
 }
 
 SoundPlayer::~SoundPlayer() {
-    DropSink();
+    if (sink_ != nullptr) sink_->reset();
 }
 
 void SoundPlayer::MoveTo(long long sample, unsigned run) {
@@ -109,7 +109,7 @@ void SoundPlayer::DropSink() {
     input_ = nullptr;
     if (sink_ == nullptr) return;
     sink_->reset();
-    // It lets events run when it goes.
+    // It lets events run when it goes, which may be for this player.
     sink_.release()->deleteLater();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/sound_thread.h"
 
+#include <QCoreApplication>
 #include <QSemaphore>
 #include <map>
 
@@ -17,6 +18,11 @@ constexpr int kPatience = 2000;
 
 class SoundThread::Home : public QObject {
 public:
+    ~Home() override {
+        // A sink lets events run when it goes.
+        QCoreApplication::removePostedEvents(this);
+        players.clear();
+    }
     std::map<int, std::unique_ptr<SoundPlayer>> players;
 };
 
@@ -64,7 +70,8 @@ void SoundThread::Ask(int player, std::function<void(SoundPlayer&)> task) {
 }
 
 void SoundThread::RemovePlayer(int player) {
-    Post([home = home_, player] { home->players.erase(player); });
+    // It is out of reach before it goes.
+    Post([home = home_, player] { home->players.extract(player); });
 }
 
 bool SoundThread::End() {
