@@ -17,7 +17,7 @@ namespace {
 Q_LOGGING_CATEGORY(lcSound, "vatro.sound", QtWarningMsg)
 
 /// What the sound system is ahead: long enough for a busy machine, short against the half second of a refill.
-constexpr int kAheadMilliseconds = 80;
+constexpr int kAheadMilliseconds = 150;
 constexpr int kFeedMilliseconds = 10;
 /// Between two tries to find a device again.
 constexpr int kRetryMilliseconds = 1000;

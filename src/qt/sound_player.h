@@ -2,7 +2,7 @@
 //
 // Plays one looping buffer. Lives on the audio thread; what the program writes comes in through the ring.
 //
-// The sound system gets a few hundredths of a second ahead of what is heard. Notifications go by what is heard. An underrun
+// The sound system gets a little ahead of what is heard. Notifications go by what is heard. An underrun
 // delays the sound and nothing else. A device that goes away while it plays is replaced by the default device of the
 // moment as soon as there is one; meanwhile the play goes on unheard, in time, so that a text comes to its end.
 #pragma once

@@ -37,6 +37,15 @@ Samples Recorder::Finish() {
     return samples;
 }
 
+std::size_t Gaps(const Samples& heard) {
+    return static_cast<std::size_t>(std::ranges::count(heard, 0));
+}
+
+Samples WithoutGaps(Samples heard) {
+    std::erase(heard, 0);
+    return heard;
+}
+
 std::size_t Following(const Samples& heard, const Samples& image, std::size_t from) {
     std::size_t count = 0;
     while (count < heard.size() && heard[count] == image[(from + count) % image.size()]) ++count;

@@ -22,6 +22,12 @@ private:
     QProcess parec_;
 };
 
+/// The silent samples among those heard.
+std::size_t Gaps(const Samples& heard);
+/// The sound alone. On a machine that is too busy the sound system runs dry for a moment: that may delay the sound, but must
+/// not cost a sample of it.
+Samples WithoutGaps(Samples heard);
+
 /// As many samples at the front as follow the loop of the image from `from` on, to the sample.
 std::size_t Following(const Samples& heard, const Samples& image, std::size_t from = 0);
 
