@@ -20,6 +20,7 @@
 #include "logbook/frmNote.h"
 #include "logbook/frmNytQSOnr.h"
 #include "logbook/log_file.h"
+#include "reports/error_list.h"
 #include "reports/log_sheets.h"
 #include "reports/mult_check.h"
 #include "reports/summary.h"
@@ -77,6 +78,7 @@ void FrmMain::BindPapirer() {
     mnuFilerDanMult.Click = DanMultCheck;
     mnuEfterSummary.Click = DanSummary;
     mnuEfterAlt.Click = DanAlt;
+    mnuFilerDanFejlliste.Click = DanFejlliste;
 }
 
 void FrmMain::SætKlasse(std::string_view klasse) {
