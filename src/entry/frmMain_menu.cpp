@@ -21,6 +21,7 @@
 #include "logbook/frmNytQSOnr.h"
 #include "logbook/log_file.h"
 #include "reports/error_list.h"
+#include "reports/html_page.h"
 #include "reports/log_sheets.h"
 #include "reports/mult_check.h"
 #include "reports/summary.h"
@@ -79,6 +80,7 @@ void FrmMain::BindPapirer() {
     mnuEfterSummary.Click = DanSummary;
     mnuEfterAlt.Click = DanAlt;
     mnuFilerDanFejlliste.Click = DanFejlliste;
+    mnuFilerDanHtml.Click = DanHtml;
 }
 
 void FrmMain::SætKlasse(std::string_view klasse) {
