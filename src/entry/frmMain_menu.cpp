@@ -20,6 +20,7 @@
 #include "logbook/frmNote.h"
 #include "logbook/frmNytQSOnr.h"
 #include "logbook/log_file.h"
+#include "reports/adif.h"
 #include "reports/error_list.h"
 #include "reports/html_page.h"
 #include "reports/log_sheets.h"
@@ -81,6 +82,7 @@ void FrmMain::BindPapirer() {
     mnuEfterAlt.Click = DanAlt;
     mnuFilerDanFejlliste.Click = DanFejlliste;
     mnuFilerDanHtml.Click = DanHtml;
+    mnuFilerEksportAdif.Click = EksporterAdif;
 }
 
 void FrmMain::SætKlasse(std::string_view klasse) {
