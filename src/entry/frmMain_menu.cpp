@@ -25,6 +25,7 @@
 #include "reports/html_page.h"
 #include "reports/log_sheets.h"
 #include "reports/mult_check.h"
+#include "reports/printing.h"
 #include "reports/summary.h"
 #include "scoring/frmEDR.h"
 
@@ -74,8 +75,12 @@ void FrmMain::BindPapirer() {
     // In the order of kTiLogge.
     const std::array<MenuItem*, kTiLogge.size()> ark{&mnuEfter10mCW,  &mnuEfter10mSSB, &mnuEfter15mCW,  &mnuEfter15mSSB, &mnuEfter20mCW,
                                                      &mnuEfter20mSSB, &mnuEfter40mCW,  &mnuEfter40mSSB, &mnuEfter80mCW,  &mnuEfter80mSSB};
+    const std::array<MenuItem*, kTiLogge.size()> print{&mnuUdskriv10mCW, &mnuUdskriv10mSSB, &mnuUdskriv15mCW, &mnuUdskriv15mSSB,
+                                                       &mnuUdskriv20mCW, &mnuUdskriv20mSSB, &mnuUdskriv40mCW, &mnuUdskriv40mSSB,
+                                                       &mnuUdskriv80mCW, &mnuUdskriv80mSSB};
     for (std::size_t i = 0; i < kTiLogge.size(); ++i) {
         ark[i]->Click = [log = kTiLogge[i]] { Danlog(log); };
+        print[i]->Click = [log = kTiLogge[i]] { Udskriv([&log](PageSurface& surface) { PrintLog(surface, log); }); };
     }
     mnuFilerDanMult.Click = DanMultCheck;
     mnuEfterSummary.Click = DanSummary;
@@ -83,6 +88,12 @@ void FrmMain::BindPapirer() {
     mnuFilerDanFejlliste.Click = DanFejlliste;
     mnuFilerDanHtml.Click = DanHtml;
     mnuFilerEksportAdif.Click = EksporterAdif;
+
+    mnuFilePageSetup.Click = VælgPrinter;
+    mnuUdskrivUkendt.Click = [] { Udskriv(PrintUkendt); };
+    mnuFilerUdskrivMult.Click = [] { Udskriv(PrintMultCheck); };
+    mnuUdskrivSummary.Click = [] { Udskriv(PrintSummary); };
+    mnuUdskrivAlt.Click = [] { Udskriv(PrintAlt); };
 }
 
 void FrmMain::SætKlasse(std::string_view klasse) {
