@@ -19,6 +19,7 @@
 #include "logbook/frmRetQSO.h"
 #include "logbook/log_file.h"
 #include "platform/platform.h"
+#include "reports/weekend.h"
 #include "scoring/edr.h"
 #include "scoring/frmEDR.h"
 
@@ -143,6 +144,7 @@ void FrmMain::Form_Load() {
     mnuCW.SetEnabled(gsQsoMode == "CW");
 
     if (gsLogLib.empty()) mnuFilerSætLogbibliotek.Click();
+    Find1Weekend();
     IndlæsLogfil();
     LæsOperatører(Combo1, gsOperatør.Padded());
     ResetQSO();

@@ -181,6 +181,11 @@ std::string PlainNumber(long long value) {
     return {digits.data(), end};
 }
 
+std::string NumberText(long long value) {
+    const std::string digits = PlainNumber(value);
+    return value < 0 ? digits : " " + digits;
+}
+
 std::string ZeroPadded(double value, int digits) {
     if (!std::isfinite(value)) throw RunTimeError(Failure::Overflow);
     const double rounded = std::round(value);
@@ -202,8 +207,7 @@ std::string ZeroPadded(std::string_view text, int digits) {
 }
 
 std::string InTemplate(std::string_view placeholders, long long value) {
-    std::string number = PlainNumber(value);
-    if (value >= 0) number.insert(0, 1, ' ');
+    std::string number = NumberText(value);
     const auto places = static_cast<std::size_t>(std::count(placeholders.begin(), placeholders.end(), '@'));
     if (number.size() < places) number.insert(0, places - number.size(), ' ');
     // What has no place goes in front of the first one; without any place all of it stands at the end.
