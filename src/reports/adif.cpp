@@ -9,7 +9,6 @@
 #include "reports/weekend.h"
 #include "text/codepage.h"
 #include "text/datetime.h"
-#include "text/numbers.h"
 
 namespace vatro {
 
@@ -17,8 +16,20 @@ namespace {
 
 constexpr std::string_view kLinjeskift = "\r\n";
 
-void TilføjFelt(std::string& post, std::string_view navn, std::string_view værdi) {
-    post.append("<").append(navn).append(":").append(PlainNumber(static_cast<long long>(værdi.size()))).append(">");
+void TilføjToCifre(std::string& post, int tal) {
+    post += static_cast<char>('0' + tal / 10);
+    post += static_cast<char>('0' + tal % 10);
+}
+
+/// `værdi` has at most as many characters as the widest field of a line.
+void TilføjFelt(std::string& post, std::string_view mærke, std::string_view værdi) {
+    const int længde = static_cast<int>(værdi.size());
+    post.append(mærke);
+    if (længde < 10)
+        post += static_cast<char>('0' + længde);
+    else
+        TilføjToCifre(post, længde);
+    post += '>';
     post.append(værdi).append(kLinjeskift);
 }
 
@@ -27,10 +38,12 @@ void TilføjDato(std::string& post, std::string_view dato) {
 }
 
 void TilføjTid(std::string& post, std::string_view linje) {
-    const auto klokken = ParseTime(std::string(Columns(linje, 1, 2)).append(":").append(Columns(linje, 4, 2)));
+    const auto klokken = ParseTime(std::string(Columns(linje, 1, 2)).append(1, ':').append(Columns(linje, 4, 2)));
     if (!klokken) return;
-    const std::string tid = FormatTime(klokken->hour, klokken->minute);
-    post.append("<TIME_ON:4>").append(tid, 0, 2).append(tid, 3, 2).append(kLinjeskift);
+    post.append("<TIME_ON:4>");
+    TilføjToCifre(post, klokken->hour);
+    TilføjToCifre(post, klokken->minute);
+    post.append(kLinjeskift);
 }
 
 void EksporterAlle() {
@@ -71,27 +84,31 @@ void DanAdif(const BåndMode& log) {
 
 void DanAdifKrop(const BåndMode& log) {
     Files& filer = platform().files;
+    std::string post;
     while (!filer.EndOfFile(kLogFil)) {
         const std::string linje = filer.LineInput(kLogFil);
-        if (!ErNotelinje(linje)) Skriv(AdifPost(linje, log.bånd).append(kLinjeskift));
+        if (ErNotelinje(linje)) continue;
+        post.clear();
+        TilføjPost(post, linje, log.bånd);
+        post.append(kLinjeskift);
+        Skriv(post);
     }
 }
 
-std::string AdifPost(std::string_view linje, std::string_view bånd) {
-    std::string post;
+void TilføjPost(std::string& post, std::string_view linje, std::string_view bånd) {
     TilføjDato(post, kDato.Af(linje));
     TilføjTid(post, linje);
-    TilføjFelt(post, "BAND", UpperText(bånd));
-    TilføjFelt(post, "MODE", kQsoMode.TrimmetAf(linje));
-    TilføjFelt(post, "CALL", kCall.TrimmetAf(linje));
-    TilføjFelt(post, "RST_SENT", kRstSendt.TrimmetAf(linje));
-    TilføjFelt(post, "SRL_SENT", kNrSendt.TrimmetAf(linje));
-    TilføjFelt(post, "RST_RCVD", kRstModtaget.TrimmetAf(linje));
-    TilføjFelt(post, "SRL_RCVD", kNrModtaget.TrimmetAf(linje));
-    TilføjFelt(post, "POINTS", kPoint.TrimmetAf(linje));
-    TilføjFelt(post, "MULT", kMultiplier.TrimmetAf(linje));
-    TilføjFelt(post, "OPERATOR", kOperatørLæst.TrimmetAf(linje));
-    return post.append("<EOR>").append(kLinjeskift);
+    TilføjFelt(post, "<BAND:", UpperText(bånd));
+    TilføjFelt(post, "<MODE:", kQsoMode.TrimmetAf(linje));
+    TilføjFelt(post, "<CALL:", kCall.TrimmetAf(linje));
+    TilføjFelt(post, "<RST_SENT:", kRstSendt.TrimmetAf(linje));
+    TilføjFelt(post, "<SRL_SENT:", kNrSendt.TrimmetAf(linje));
+    TilføjFelt(post, "<RST_RCVD:", kRstModtaget.TrimmetAf(linje));
+    TilføjFelt(post, "<SRL_RCVD:", kNrModtaget.TrimmetAf(linje));
+    TilføjFelt(post, "<POINTS:", kPoint.TrimmetAf(linje));
+    TilføjFelt(post, "<MULT:", kMultiplier.TrimmetAf(linje));
+    TilføjFelt(post, "<OPERATOR:", kOperatørLæst.TrimmetAf(linje));
+    post.append("<EOR>").append(kLinjeskift);
 }
 
 }  // namespace vatro

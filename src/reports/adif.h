@@ -21,8 +21,8 @@ void DanAdif(const BåndMode& log);
 /// The records of the open log.
 void DanAdifKrop(const BåndMode& log);
 
-/// The record of a contact line, with the line ends in it. A date or time that is none has no field: whatever stood there
+/// Adds the record of a contact line, with the line ends in it. A date or time that is none has no field: whatever stood there
 /// would be taken for one.
-std::string AdifPost(std::string_view linje, std::string_view bånd);
+void TilføjPost(std::string& post, std::string_view linje, std::string_view bånd);
 
 }  // namespace vatro

@@ -15,6 +15,9 @@ namespace vatro {
 
 namespace {
 
+/// Digits of which any number fits 32 bits.
+constexpr std::size_t kSurelyFits = 9;
+
 constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
@@ -118,7 +121,6 @@ Integer Rounded(double value) {
 
 /// The value of a text of digits and blanks alone, as far as it surely fits; nothing for any other text.
 std::optional<int> PlainDigits(std::string_view text) {
-    constexpr std::size_t kSurelyFits = 9;
     if (text.size() > kSurelyFits) return std::nullopt;
     int value = 0;
     for (const char c : text) {
@@ -158,6 +160,8 @@ double NumericValue(std::string_view text) {
 }
 
 bool IsNumeric(std::string_view text) {
+    // Fields of a log, again and again: a few digits.
+    if (!text.empty() && text.size() <= kSurelyFits && std::all_of(text.begin(), text.end(), IsDigit)) return true;
     return WholeNumber(text).has_value();
 }
 

@@ -13,6 +13,12 @@ using ::testing::HasSubstr;
 
 const std::string kHeader = "Genereret af QQ9ZZZ's Logprogram (RT60)<EOH>\r\n\r\n";
 
+std::string RecordOf(std::string_view line, std::string_view band) {
+    std::string record;
+    TilføjPost(record, line, band);
+    return record;
+}
+
 class Adif : public PaperProgram {
 protected:
     std::string Export() {
@@ -86,10 +92,10 @@ TEST_F(Adif, RunsFrom80MetresUp) {
 }
 
 TEST_F(Adif, LeavesOutADateAndATimeThatAreNone) {
-    EXPECT_EQ(AdifPost(Contact({.time = "25:00"}), "80m").substr(0, 35), "<QSO_DATE:8:d>20260905\r\n<BAND:3>80M");
-    EXPECT_EQ(AdifPost(Contact({.date = "31-02-26"}), "80m").substr(0, 28), "<TIME_ON:4>1305\r\n<BAND:3>80M");
+    EXPECT_EQ(RecordOf(Contact({.time = "25:00"}), "80m").substr(0, 35), "<QSO_DATE:8:d>20260905\r\n<BAND:3>80M");
+    EXPECT_EQ(RecordOf(Contact({.date = "31-02-26"}), "80m").substr(0, 28), "<TIME_ON:4>1305\r\n<BAND:3>80M");
     // A line of earlier years ends before mode and date.
-    EXPECT_EQ(AdifPost("13:05 DL1AA           599-0012", "80m"),
+    EXPECT_EQ(RecordOf("13:05 DL1AA           599-0012", "80m"),
               "<TIME_ON:4>1305\r\n<BAND:3>80M\r\n<MODE:0>\r\n<CALL:5>DL1AA\r\n<RST_SENT:3>599\r\n<SRL_SENT:4>0012\r\n<RST_RCVD:0>\r\n"
               "<SRL_RCVD:0>\r\n<POINTS:0>\r\n<MULT:0>\r\n<OPERATOR:0>\r\n<EOR>\r\n");
 }
