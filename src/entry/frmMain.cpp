@@ -4,6 +4,7 @@
 #include "country/call_analysis.h"
 #include "country/lookup.h"
 #include "country/unknown.h"
+#include "cw/texts.h"
 #include "entry/frmB4.h"
 #include "entry/frmContestCall.h"
 #include "entry/frmQSOnr.h"
@@ -19,6 +20,7 @@
 #include "logbook/frmRetQSO.h"
 #include "logbook/log_file.h"
 #include "platform/platform.h"
+#include "reports/weekend.h"
 #include "scoring/edr.h"
 #include "scoring/frmEDR.h"
 
@@ -126,6 +128,7 @@ void FrmMain::Form_Load() {
         TimerStop();
     mnuVisLand.SetTicked(gbVisLand);
     VisKlasse();
+    SetCwMenuTekster();
 
     // All side windows come up at every start; their ticks are not kept.
     frmB4->Show();
@@ -142,6 +145,7 @@ void FrmMain::Form_Load() {
     mnuCW.SetEnabled(gsQsoMode == "CW");
 
     if (gsLogLib.empty()) mnuFilerSætLogbibliotek.Click();
+    Find1Weekend();
     IndlæsLogfil();
     LæsOperatører(Combo1, gsOperatør.Padded());
     ResetQSO();
@@ -167,7 +171,9 @@ void FrmMain::Form_Resize() {
 void FrmMain::Form_Unload() {
     SetHourglass(true);
     GemOperatører(Combo1);
-    for (std::size_t i = LoadedForms().size(); i-- > 1;) LoadedForms()[i]->Unload();
+    // The keyer lets other events run while it goes, which may close windows too.
+    for (std::size_t i = LoadedForms().size(); i-- > 1;)
+        if (i < LoadedForms().size()) LoadedForms()[i]->Unload();
     if (State() != WindowState::Minimised) {
         GemTal(kSettings, "MainLeft", Left());
         GemTal(kSettings, "MainTop", Top());

@@ -294,6 +294,23 @@ void ScrollBar::UserScrolled(int value) {
     SetValue(std::clamp(value, range_.min, range_.max));
 }
 
+void ScrollBar::UserMoved(Move move) {
+    switch (move) {
+        case Move::StepBack:
+            return UserScrolled(value_ - range_.smallChange);
+        case Move::StepOn:
+            return UserScrolled(value_ + range_.smallChange);
+        case Move::PageBack:
+            return UserScrolled(value_ - range_.largeChange);
+        case Move::PageOn:
+            return UserScrolled(value_ + range_.largeChange);
+        case Move::ToStart:
+            return UserScrolled(range_.min);
+        case Move::ToEnd:
+            return UserScrolled(range_.max);
+    }
+}
+
 // --- ListBox
 
 ListBox::ListBox(Form& form, std::string_view name, Font font, int columns)

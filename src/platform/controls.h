@@ -169,6 +169,9 @@ public:
 
     /// Is cut to the range.
     void UserScrolled(int value);
+    /// What a key does to the slide: small and large changes, and the ends of the bar.
+    enum class Move { StepBack, StepOn, PageBack, PageOn, ToStart, ToEnd };
+    void UserMoved(Move move);
 
 private:
     Range range_;

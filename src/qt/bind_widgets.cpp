@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
 #include <QWidget>
 #include <algorithm>
 
@@ -216,6 +218,49 @@ void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window) {
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
         FollowState(control, widget, aspect);
         if (aspect == Aspect::Value) widget.setChecked(control.Value());
+    };
+}
+
+void Bind(OptionButton& control, QRadioButton& widget, FormWindow& window) {
+    PushState(control, widget);
+    PushCaption(control.Caption(), widget);
+    // The frame's other options are turned off by the control.
+    widget.setAutoExclusive(false);
+    widget.setChecked(control.Value());
+    window.AddInput(control, widget, nullptr);
+    QObject::connect(&widget, &QAbstractButton::clicked, &window.Scope(), [&control, &widget] {
+        // Qt has flipped the button by itself; the control decides.
+        widget.setChecked(control.Value());
+        Deliver([&] {
+            if (control.Parent().Reachable()) control.UserChosen(FocusWay::Mouse);
+        });
+    });
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        FollowState(control, widget, aspect);
+        if (aspect == Aspect::Value) widget.setChecked(control.Value());
+    };
+}
+
+void Bind(ScrollBar& control, QScrollBar& widget, FormWindow& window) {
+    const ScrollBar::Range& limits = control.Limits();
+    PushState(control, widget);
+    widget.setRange(limits.min, limits.max);
+    widget.setSingleStep(limits.smallChange);
+    widget.setPageStep(limits.largeChange);
+    widget.setValue(control.Value());
+    // One change for a slide that is drawn, when it is let go.
+    widget.setTracking(false);
+    widget.setContextMenuPolicy(Qt::PreventContextMenu);
+    window.AddInput(control, widget, nullptr);
+    QObject::connect(&widget, &QAbstractSlider::valueChanged, &window.Scope(), [&control](int value) {
+        if (value == control.Value()) return;
+        Deliver([&] {
+            if (control.Parent().Reachable()) control.UserScrolled(value);
+        });
+    });
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        FollowState(control, widget, aspect);
+        if (aspect == Aspect::Value) widget.setValue(control.Value());
     };
 }
 

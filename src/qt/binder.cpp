@@ -11,6 +11,8 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QToolBar>
 #include <set>
@@ -42,11 +44,13 @@ bool BindPair(Control& control, QWidget& widget, FormWindow& window) {
 constexpr bool (*kPairs[])(Control&, QWidget&, FormWindow&) = {
     BindPair<TextBox, QLineEdit>,
     BindPair<TextView, QPlainTextEdit>,
+    BindPair<Picture, PictureView>,
     BindPair<ComboBox, QComboBox>,
     BindPair<ListBox, ItemList>,
     BindPair<Button, QPushButton>,
     BindPair<CheckBox, QCheckBox>,
-    BindPair<Picture, PictureView>,
+    BindPair<OptionButton, QRadioButton>,
+    BindPair<ScrollBar, QScrollBar>,
     BindPair<Label, FittedText>,
     BindPair<Label, QLabel>,
     BindPair<Label, ColumnHead>,
@@ -72,6 +76,7 @@ QList<QWidget*> WidgetsOf(const FormWindow& window, const QString& name = {}) {
 QString SpokenName(const Control& control) {
     if (const auto* button = dynamic_cast<const Button*>(&control)) return PlainCaption(button->Caption());
     if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return PlainCaption(box->Caption());
+    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return PlainCaption(option->Caption());
     const QString tip = ToQt(control.ToolTip());
     const qsizetype sentence = tip.indexOf(QStringLiteral(". "));
     return sentence < 0 ? tip : tip.left(sentence);
@@ -102,8 +107,8 @@ bool Bindable(const QWidget& widget) {
     return qobject_cast<const QLineEdit*>(&widget) != nullptr || qobject_cast<const QComboBox*>(&widget) != nullptr ||
            qobject_cast<const QAbstractItemView*>(&widget) != nullptr || qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
            qobject_cast<const QLabel*>(&widget) != nullptr || qobject_cast<const QProgressBar*>(&widget) != nullptr ||
-           qobject_cast<const ColumnHead*>(&widget) != nullptr || qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
-           qobject_cast<const PictureView*>(&widget) != nullptr;
+           qobject_cast<const QScrollBar*>(&widget) != nullptr || qobject_cast<const ColumnHead*>(&widget) != nullptr ||
+           qobject_cast<const QPlainTextEdit*>(&widget) != nullptr || qobject_cast<const PictureView*>(&widget) != nullptr;
 }
 
 /// Widgets of the layout that no control owns.

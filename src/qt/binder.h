@@ -16,6 +16,8 @@ class QLineEdit;
 class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
+class QRadioButton;
+class QScrollBar;
 
 namespace vatro {
 
@@ -30,9 +32,11 @@ class Frame;
 class ItemList;
 class Label;
 class ListBox;
+class OptionButton;
 class Picture;
 class PictureView;
 class ProgressBar;
+class ScrollBar;
 class SpinArrows;
 class TextBox;
 class TextView;
@@ -50,6 +54,8 @@ void Bind(UpDown& control, SpinArrows& widget, FormWindow& window);
 void Bind(ProgressBar& control, QProgressBar& widget, FormWindow& window);
 void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window);
 void Bind(Picture& control, PictureView& widget, FormWindow& window);
+void Bind(OptionButton& control, QRadioButton& widget, FormWindow& window);
+void Bind(ScrollBar& control, QScrollBar& widget, FormWindow& window);
 void Bind(Label& control, QLabel& widget, FormWindow& window);
 void Bind(Label& control, FittedText& widget, FormWindow& window);
 void Bind(Label& control, ColumnHead& widget, FormWindow& window);

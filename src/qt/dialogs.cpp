@@ -3,6 +3,7 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <QPushButton>
 #include <memory>
 
@@ -10,6 +11,7 @@
 #include "platform/program.h"
 #include "qt/deliver.h"
 #include "qt/front.h"
+#include "qt/printer.h"
 #include "qt/text.h"
 #include "qt/window.h"
 #include "text/codepage.h"
@@ -140,6 +142,15 @@ std::string QtDialogs::ChooseFile(const FileDialog& dialog, bool save) {
     LeaveIfEnding();
     if (chooser.result() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) throw RunTimeError(Failure::Cancelled);
     return FromQt(QDir::toNativeSeparators(chooser.selectedFiles().constFirst()));
+}
+
+void QtDialogs::SetUpPrinter() {
+    if (printer_ == nullptr) throw RunTimeError(Failure::Cancelled);
+    QPrintDialog chooser(&printer_->Device(), DialogOwner());
+    QObject::connect(&chooser, &QDialog::finished, &chooser, [] { WaitLoop::Look(); });
+    RunDialog(chooser);
+    LeaveIfEnding();
+    if (chooser.result() != QDialog::Accepted) throw RunTimeError(Failure::Cancelled);
 }
 
 void QtDialogs::ShowFailure(const RunTimeError& failure) {

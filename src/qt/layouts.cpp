@@ -7,7 +7,10 @@
 #include "ui_FormQuickInfo.h"
 #include "ui_FormRigAnt.h"
 #include "ui_frmAbout.h"
+#include "ui_frmAfslut.h"
 #include "ui_frmB4.h"
+#include "ui_frmCW.h"
+#include "ui_frmCWTX.h"
 #include "ui_frmCall.h"
 #include "ui_frmContestCall.h"
 #include "ui_frmCtyDat.h"
@@ -36,12 +39,12 @@ void Make(QWidget* widget) {
 std::map<std::string, LayoutMaker, std::less<>>& Layouts() {
     static std::map<std::string, LayoutMaker, std::less<>> layouts{
         {"FormQuickInfo", Make<Ui::FormQuickInfo>},
-        {"frmAbout", Make<Ui::frmAbout>},
-        {"frmStregP", Make<Ui::frmStregP>},
-        {"frmTilFloppy", Make<Ui::frmTilFloppy>},
-        {"frmVisTekst", Make<Ui::frmVisTekst>},
         {"FormRigAnt", Make<Ui::FormRigAnt>},
+        {"frmAbout", Make<Ui::frmAbout>},
+        {"frmAfslut", Make<Ui::frmAfslut>},
         {"frmB4", Make<Ui::frmB4>},
+        {"frmCW", Make<Ui::frmCW>},
+        {"frmCWTX", Make<Ui::frmCWTX>},
         {"frmCall", Make<Ui::frmCall>},
         {"frmContestCall", Make<Ui::frmContestCall>},
         {"frmCtyDat", Make<Ui::frmCtyDat>},
@@ -53,7 +56,10 @@ std::map<std::string, LayoutMaker, std::less<>>& Layouts() {
         {"frmQSOnr", Make<Ui::frmQSOnr>},
         {"frmRetQSO", Make<Ui::frmRetQSO>},
         {"frmSplash", Make<Ui::frmSplash>},
+        {"frmStregP", Make<Ui::frmStregP>},
+        {"frmTilFloppy", Make<Ui::frmTilFloppy>},
         {"frmUTC", Make<Ui::frmUTC>},
+        {"frmVisTekst", Make<Ui::frmVisTekst>},
     };
     return layouts;
 }

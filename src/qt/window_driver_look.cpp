@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QToolBar>
 #include <algorithm>
@@ -93,6 +94,18 @@ std::string Differs(const ProgressBar& control, const QProgressBar& bar) {
     return {};
 }
 
+std::string Differs(const OptionButton& control, const QAbstractButton& widget) {
+    if (widget.isChecked() != control.Value()) return "it is on on one side only";
+    return widget.text() == ToQt(control.Caption()) ? "" : "the text is another one";
+}
+
+std::string Differs(const ScrollBar& control, const QScrollBar& bar) {
+    const ScrollBar::Range& limits = control.Limits();
+    if (bar.minimum() != limits.min || bar.maximum() != limits.max) return "the ends are other ones";
+    if (bar.sliderPosition() != control.Value()) return "the slide stands at " + std::to_string(bar.sliderPosition());
+    return {};
+}
+
 }  // namespace
 
 std::string Difference(const Control& control, const QWidget& widget) {
@@ -106,6 +119,9 @@ std::string Difference(const Control& control, const QWidget& widget) {
     if (const auto* bar = dynamic_cast<const Toolbar*>(&control)) return Differs(*bar, dynamic_cast<const QToolBar&>(widget));
     if (const auto* bar = dynamic_cast<const StatusBar*>(&control)) return Differs(*bar, dynamic_cast<const QStatusBar&>(widget));
     if (const auto* bar = dynamic_cast<const ProgressBar*>(&control)) return Differs(*bar, dynamic_cast<const QProgressBar&>(widget));
+    if (const auto* bar = dynamic_cast<const ScrollBar*>(&control)) return Differs(*bar, dynamic_cast<const QScrollBar&>(widget));
+    if (const auto* option = dynamic_cast<const OptionButton*>(&control))
+        return Differs(*option, dynamic_cast<const QAbstractButton&>(widget));
     if (const auto* check = dynamic_cast<const CheckBox*>(&control))
         if (dynamic_cast<const QAbstractButton&>(widget).isChecked() != check->Value()) return "the tick is another one";
     if (const auto* button = dynamic_cast<const Button*>(&control))

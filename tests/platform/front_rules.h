@@ -34,8 +34,8 @@ protected:
         const Scenario scenario("start\n" + std::string(lines));
         const World world;
         const std::unique_ptr<Driver> driver = GetParam()();
-        Player player(scenario, world, *driver, [] {
-            frmRules->Show();
+        Player player(scenario, world, *driver, [this] {
+            Show();
             happenings.lines.clear();
         });
         player.Play();
@@ -48,6 +48,8 @@ protected:
         Play(lines);
         return happenings.lines;
     }
+    /// The form that the program shows.
+    virtual void Show() { frmRules->Show(); }
     static void On(const std::string& happening, std::function<void()> reaction) { happenings.reactions[happening] = std::move(reaction); }
     /// Plays these lines on the form of things to look at.
     Output PlayLook(std::string_view lines) {

@@ -89,6 +89,38 @@ private:
     }
 };
 
+/// A form with options in two frames and a scroll bar.
+class FrmRulesChoice : public Form {
+public:
+    FrmRulesChoice() : Form("frmRulesChoice", FormKind::Dialog, "Choice") {
+        cmdOK.isDefault = true;
+        for (Control* control : std::vector<Control*>{&Text1, &optRST[0], &optRST[1], &optRST[2], &optNo[0], &optNo[1], &HScroll1, &cmdOK})
+            Watch(*control);
+        for (OptionButton& option : optRST) option.KeyPress = Filter;
+        HScroll1.Change = [this] { happenings.Note("Change HScroll1 " + std::to_string(HScroll1.Value())); };
+        SetTabOrder({&Text1, &optRST[0], &optRST[1], &optRST[2], &optNo[0], &optNo[1], &HScroll1, &cmdOK});
+    }
+
+    TextBox Text1{*this, "Text1"};
+    Frame Frame1{*this, "Frame1", "Report"};
+    Frame Frame2{*this, "Frame2", "Number"};
+    OptionButton optRST[3]{
+        {*this, "optRST", 0, "5&99", Frame1}, {*this, "optRST", 1, "5&nn", Frame1}, {*this, "optRST", 2, "5&79", Frame1}};
+    OptionButton optNo[2]{{*this, "optNo", 0, "&001", Frame2}, {*this, "optNo", 1, "&--1", Frame2}};
+    ScrollBar HScroll1{*this, "HScroll1", {.min = 100, .max = 10000, .smallChange = 1, .largeChange = 1023}};
+    Button cmdOK{*this, "cmdOK", "&OK"};
+
+private:
+    static void Watch(Control& control) {
+        control.GotFocus = [&control] { happenings.Note("GotFocus " + control.FullName()); };
+        control.LostFocus = [&control] { happenings.Note("LostFocus " + control.FullName()); };
+        control.Click = [&control] { happenings.Note("Click " + control.FullName()); };
+    }
+    static void Filter(KeyCode& KeyAscii) {
+        if (happenings.keyFilter) happenings.keyFilter(KeyAscii);
+    }
+};
+
 /// A form to be shown over the other.
 class FrmRulesOver : public Form {
 public:
@@ -130,6 +162,7 @@ public:
 };
 
 inline FormSlot<FrmRules> frmRules{"frmRules"};
+inline FormSlot<FrmRulesChoice> frmRulesChoice{"frmRulesChoice"};
 inline FormSlot<FrmRulesOver> frmRulesOver{"frmRulesOver"};
 inline FormSlot<FrmRulesLook> frmRulesLook{"frmRulesLook"};
 
