@@ -2,7 +2,12 @@
 #include "qt/services.h"
 
 #include <QDir>
+#include <QFile>
 #include <QStandardPaths>
+
+#include "qt/handbook.h"
+#include "qt/help_window.h"
+#include "qt/text.h"
 
 namespace vatro {
 
@@ -30,6 +35,15 @@ bool QtInstance::AnotherCopyRuns() {
     return lock_.error() == QLockFile::LockFailedError;
 }
 
-void QtHelp::Show(std::string_view /*path*/) {}
+QtHelp::QtHelp() = default;
+
+QtHelp::~QtHelp() = default;
+
+void QtHelp::Show(std::string_view path) {
+    const QString page = QDir::fromNativeSeparators(ToQt(path)).section(u'/', -1);
+    if (!QFile::exists(HandbookFile(page))) throw RunTimeError(Failure::FileNotFound);
+    if (!window_) window_ = std::make_unique<HelpWindow>();
+    window_->ShowPage(page);
+}
 
 }  // namespace vatro
