@@ -17,6 +17,7 @@
 #include "program.h"
 #include "replay/memory_front.h"
 #include "replay/scene_clock.h"
+#include "replay/scene_pages.h"
 #include "replay/scene_sound.h"
 #include "replay/settings_store.h"
 #include "sample.h"
@@ -67,7 +68,7 @@ struct World {
     World() {
         WriteLines(workplace.Path("cty.dat"), SampleCtyFile());
         gsFDLib = NativeText(workplace.Path(""));
-        InstallPlatform({front.ProgramFront(), unattended, settings, files, clock, help, unattended, sound, Version{}});
+        InstallPlatform({front.ProgramFront(), unattended, settings, files, clock, help, unattended, sound, printer, Version{}});
         BeginProgram();
         Dispatch([] { frmCtyDat.Load(); });
     }
@@ -81,6 +82,8 @@ struct World {
     ReadingFiles files;
     SceneClock clock;
     SceneSound sound{clock};
+    ScenePages pages;
+    PageSurface printer{pages};
     Unattended unattended;
     NoHelp help;
 };

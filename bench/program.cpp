@@ -10,6 +10,7 @@
 #include "platform/program.h"
 #include "replay/memory_front.h"
 #include "replay/scene_clock.h"
+#include "replay/scene_pages.h"
 #include "replay/scene_sound.h"
 #include "replay/settings_store.h"
 #include "sample.h"
@@ -51,6 +52,8 @@ struct Program::Services {
     DiskFiles files;
     SceneClock clock;
     SceneSound sound{clock};
+    ScenePages pages;
+    PageSurface printer{pages};
     Unattended unattended;
     NoHelp help;
 };
@@ -59,7 +62,7 @@ Program::Program(const std::vector<std::string>& log) : services_(std::make_uniq
     Services& with = *services_;
     workplace_.Furnish(log, with.settings);
     InstallPlatform({with.front.ProgramFront(), with.unattended, with.settings, with.files, with.clock, with.help, with.unattended,
-                     with.sound, Version{}});
+                     with.sound, with.printer, Version{}});
     BeginProgram();
     Dispatch(StartProgram);
     if (frmMain->List1.ListCount() != static_cast<int>(log.size())) throw std::runtime_error("the log was not read");

@@ -21,6 +21,7 @@ public:
     }
     std::string SaveFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
     std::string OpenFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    void SetUpPrinter() override { throw RunTimeError(Failure::Cancelled); }
     void ShowFailure(const RunTimeError& failure) override {
         throw std::runtime_error("a benchmark meets failure " + std::to_string(failure.Number()));
     }

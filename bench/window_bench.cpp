@@ -34,6 +34,7 @@
 #include "qt/clock.h"
 #include "qt/deliver.h"
 #include "qt/front.h"
+#include "qt/printer.h"
 #include "qt/settings_store.h"
 #include "qt/sound.h"
 #include "sample.h"
@@ -88,7 +89,7 @@ public:
 
     /// Returns when the log is painted.
     void Start() {
-        InstallPlatform({front_, unattended_, settings_, files_, clock_, help_, unattended_, sound_, Version{}});
+        InstallPlatform({front_, unattended_, settings_, files_, clock_, help_, unattended_, sound_, printer_, Version{}});
         BeginProgram();
         Deliver([] { StartProgram(); });
         if (frmMain->List1.ListCount() != kLogLines) throw std::runtime_error("the log was not read");
@@ -104,6 +105,8 @@ private:
     QtClock clock_;
     NoHelp help_;
     QtSound sound_;
+    QtPrinter pages_;
+    PageSurface printer_{pages_};
 };
 
 void PaintEmpty(QMainWindow& window) {

@@ -16,6 +16,7 @@
 #include "platform/program.h"
 #include "replay/memory_front.h"
 #include "replay/scene_clock.h"
+#include "replay/scene_pages.h"
 #include "replay/scene_sound.h"
 #include "replay/settings_store.h"
 
@@ -50,6 +51,7 @@ public:
     Answer Show(const MessageBox&) override { return Answer::Ok; }
     std::string SaveFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
     std::string OpenFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    void SetUpPrinter() override { throw RunTimeError(Failure::Cancelled); }
     void ShowFailure(const RunTimeError&) override {}
     void Show(std::string_view) override {}
     bool AnotherCopyRuns() override { return false; }
@@ -57,7 +59,7 @@ public:
 
 struct World {
     World() {
-        InstallPlatform({front.ProgramFront(), nobody, settings, files, clock, nobody, nobody, sound, Version{}});
+        InstallPlatform({front.ProgramFront(), nobody, settings, files, clock, nobody, nobody, sound, printer, Version{}});
         BeginProgram();
         frmCtyDat.Load();
     }
@@ -67,6 +69,8 @@ struct World {
     OneFile files;
     SceneClock clock;
     SceneSound sound{clock};
+    ScenePages pages;
+    PageSurface printer{pages};
 };
 
 bool Expected(Failure failure) {

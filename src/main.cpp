@@ -12,6 +12,7 @@
 #include "qt/deliver.h"
 #include "qt/dialogs.h"
 #include "qt/front.h"
+#include "qt/printer.h"
 #include "qt/services.h"
 #include "qt/settings_store.h"
 #include "qt/sound.h"
@@ -21,15 +22,25 @@ int main(int argc, char** argv) {
     vatro::PrepareApplication();
 
     vatro::QtFront front;
-    vatro::QtDialogs dialogs;
     vatro::QtSettings settings;
     vatro::DiskFiles files;
     vatro::QtClock clock;
     vatro::QtHelp help;
     vatro::QtInstance instance;
     vatro::QtSound sound;
-    vatro::InstallPlatform(
-        {front, dialogs, settings, files, clock, help, instance, sound, {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
+    vatro::QtPrinter pages;
+    vatro::PageSurface printer(pages);
+    vatro::QtDialogs dialogs(&pages);
+    vatro::InstallPlatform({front,
+                            dialogs,
+                            settings,
+                            files,
+                            clock,
+                            help,
+                            instance,
+                            sound,
+                            printer,
+                            {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
     front.fitToScreen = true;
     front.ended = [] { QCoreApplication::quit(); };

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -23,6 +24,7 @@
 #include "entry/frmMain.h"
 #include "frame/start.h"
 #include "platform/forms.h"
+#include "platform/page.h"
 #include "platform/platform.h"
 #include "platform/program.h"
 #include "platform/sound.h"
@@ -128,6 +130,10 @@ public:
     }
     std::string SaveFile(const FileDialog& dialog) override { return Choose(dialog); }
     std::string OpenFile(const FileDialog& dialog) override { return Choose(dialog); }
+    void SetUpPrinter() override {
+        ++printerDialogues;
+        if (!chosen) throw RunTimeError(Failure::Cancelled);
+    }
     void ShowFailure(const RunTimeError& failure) override { failures.push_back(failure.Number()); }
 
     /// The next box must have this text, in UTF-8, and is answered so.
@@ -138,6 +144,7 @@ public:
     /// The file that the next dialogue gives; nothing is Cancel.
     std::optional<std::string> chosen;
     std::vector<FileDialog> asked;
+    int printerDialogues = 0;
     std::vector<int> failures;
 
 private:
@@ -164,11 +171,15 @@ public:
     void Activated(Form&) override {}
     void RunModal(Form& form) override { ADD_FAILURE() << "unexpected modal form: " << form.Name(); }
     void Refresh(Form&) override {}
-    void DoEvents() override {}
+    void DoEvents() override {
+        if (pending) pending();
+    }
     double TextWidth(std::string_view text, const Font& font) override { return 0.6 * font.size * static_cast<double>(text.size()); }
     double TextHeight(const Font& font) override { return 1.2 * font.size; }
     void Ended() override { ended = true; }
     bool ended = false;
+    /// What happens while the program lets events run.
+    std::function<void()> pending;
 };
 
 class FakeHelp : public Help {
@@ -244,6 +255,24 @@ private:
     SoundEvent last_ = 0;
 };
 
+/// A printer for pages of 100 by 50 on which a character of size 1 is 1 wide and high; what is printed is kept.
+class FakePages : public PageDevice {
+public:
+    double Width() const override { return 100; }
+    double Height() const override { return 50; }
+    double TextWidth(std::string_view text, const Font& with) const override { return with.size * static_cast<double>(text.size()); }
+    double TextHeight(const Font& with) const override { return with.size; }
+    void BeginJob() override { printed.emplace_back("job"); }
+    void Place(double x, double y, const Font&, std::string_view text) override {
+        printed.push_back(std::to_string(static_cast<int>(x)) + " " + std::to_string(static_cast<int>(y)) + " " + ToUtf8(text));
+    }
+    void NextPage() override { printed.emplace_back("page"); }
+    void EndJob() override { printed.emplace_back("end"); }
+
+    /// "job", "0 10 text", "page", "end"; texts in UTF-8.
+    std::vector<std::string> printed;
+};
+
 /// A world with Germany and Denmark, one station of the society and one operator. Nothing runs before Start.
 class RunningProgram : public ::testing::Test {
 protected:
@@ -253,7 +282,7 @@ protected:
         files.files["DATA\\EDR.TXT"] = {"OZ1ABC Test, formand"};
         files.files["DATA\\OPERATOR.TXT"] = {"OZ1DEF"};
         settings.texts = {{"SETTINGS/GSLOGLIB", "log"}, {"SETTINGS/LASTOP", "OZ1DEF"}, {"SETTINGS/VISINFO2002", "False"}};
-        InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, {1, 2, 3}});
+        InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
     }
     ~RunningProgram() override {
         EndProgram();
@@ -279,6 +308,8 @@ protected:
     FakeHelp help;
     FakeInstance instance;
     FakeSound sound;
+    FakePages pages;
+    PageSurface printer{pages};
 };
 
 }  // namespace vatro

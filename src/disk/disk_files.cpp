@@ -13,6 +13,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t kCopyBufferSize = 65'536;
+constexpr std::size_t kPieceSize = 32'768;
 
 [[noreturn]] void Fail(Failure failure) {
     throw RunTimeError(failure);
@@ -103,11 +104,21 @@ bool DiskFiles::EndOfFile(int number) {
 }
 
 void DiskFiles::PrintLine(int number, std::string_view text) {
-    SlotToPrint(number).unwritten.append(text).append("\r\n");
+    Slot& slot = SlotToPrint(number);
+    slot.unwritten.append(text).append("\r\n");
+    WritePiece(slot);
 }
 
 void DiskFiles::Print(int number, std::string_view text) {
-    SlotToPrint(number).unwritten.append(text);
+    Slot& slot = SlotToPrint(number);
+    slot.unwritten.append(text);
+    WritePiece(slot);
+}
+
+void DiskFiles::WritePiece(Slot& slot) {
+    if (slot.mode != FileMode::Output || slot.unwritten.size() < kPieceSize) return;
+    slot.file.Write(slot.unwritten);
+    slot.unwritten.clear();
 }
 
 void DiskFiles::Close(int number) {

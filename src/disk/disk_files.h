@@ -2,9 +2,10 @@
 //
 // The program's files on a real disk.
 //
-// What was printed is held back until Close, which writes and syncs it: a contact is on the disk, or it is not in the
-// file at all. A failed append cuts the file back to its old length, so that no half a line stays behind; any other
-// failed output leaves what has been written. The file number is free after Close in every case.
+// What was appended is held back until Close, which writes and syncs it: a contact is on the disk, or it is not in the
+// file at all. A failed append cuts the file back to its old length, so that no half a line stays behind. Any other output is
+// written in pieces, so that a long one takes little memory, and synced by Close; one that fails leaves what has been written.
+// The file number is free after Close in every case.
 #pragma once
 
 #include <array>
@@ -72,6 +73,7 @@ private:
     Slot& SlotOf(int number);
     Slot& OpenSlot(int number);
     Slot& SlotToPrint(int number);
+    static void WritePiece(Slot& slot);
     std::filesystem::path ToPath(std::string_view path) const;
     static void Save(Slot& slot);
 

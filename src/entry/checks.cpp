@@ -36,7 +36,6 @@ bool EtAf(char c, std::string_view tegn) {
     return tegn.find(c) != std::string_view::npos;
 }
 
-/// By character code, so that Æ and Ø, which lie above Å, do not count.
 bool ErBogstav(char c) {
     const auto kode = static_cast<unsigned char>(Upper(c));
     return kode >= 'A' && kode <= static_cast<unsigned char>("Å"_t[0]);
@@ -60,11 +59,14 @@ bool TjekTid(TextBox& felt, std::string& tid) {
     return Fejl("Indtast tid i formatet: " + NuUTCTid());
 }
 
+bool HarTalOgBogstaver(std::string_view call) {
+    const bool ciffer = std::any_of(call.begin(), call.end(), [](char c) { return EtAf(c, "1234567890"); });
+    return ciffer && std::any_of(call.begin(), call.end(), ErBogstav);
+}
+
 bool TjekKaldesignal(std::string_view call) {
     if (call.size() < 3) return Fejl("Et kaldesignal skal være på mindst 3 tegn"_t);
-    const bool ciffer = std::any_of(call.begin(), call.end(), [](char c) { return EtAf(c, "1234567890"); });
-    const bool bogstav = std::any_of(call.begin(), call.end(), ErBogstav);
-    if (!ciffer || !bogstav) return Fejl("Der skal være både tal og bogstaver i et kaldesignal"_t);
+    if (!HarTalOgBogstaver(call)) return Fejl("Der skal være både tal og bogstaver i et kaldesignal"_t);
     return call.front() != '0' || Bekræft("Skal det være et nul?"_t, "Første tegn i call'et er et nul."_t);
 }
 

@@ -17,6 +17,9 @@ bool TjekOperatør(std::string_view operatør);
 /// The time: five characters of which the middle one becomes ":", a time of day. `felt` is rewritten, `tid` becomes "Hh:Nn".
 bool TjekTid(TextBox& felt, std::string& tid);
 
+/// Whether a call has both figures and letters. Letters go by character code, so that Æ and Ø, which lie above Å, are none.
+bool HarTalOgBogstaver(std::string_view call);
+
 /// The base call: three characters, figures and letters; a nought as first character must be confirmed.
 bool TjekKaldesignal(std::string_view call);
 

@@ -4,6 +4,7 @@
 #include "country/call_analysis.h"
 #include "country/lookup.h"
 #include "country/unknown.h"
+#include "cw/texts.h"
 #include "entry/frmB4.h"
 #include "entry/frmContestCall.h"
 #include "entry/frmQSOnr.h"
@@ -11,6 +12,7 @@
 #include "entry/qso_fields.h"
 #include "entry/validation.h"
 #include "exchange/backup.h"
+#include "exchange/frmVisTekst.h"
 #include "frame/band_mode.h"
 #include "frame/settings.h"
 #include "frame/station.h"
@@ -18,6 +20,7 @@
 #include "logbook/frmRetQSO.h"
 #include "logbook/log_file.h"
 #include "platform/platform.h"
+#include "reports/weekend.h"
 #include "scoring/edr.h"
 #include "scoring/frmEDR.h"
 
@@ -125,6 +128,7 @@ void FrmMain::Form_Load() {
         TimerStop();
     mnuVisLand.SetTicked(gbVisLand);
     VisKlasse();
+    SetCwMenuTekster();
 
     // All side windows come up at every start; their ticks are not kept.
     frmB4->Show();
@@ -141,9 +145,11 @@ void FrmMain::Form_Load() {
     mnuCW.SetEnabled(gsQsoMode == "CW");
 
     if (gsLogLib.empty()) mnuFilerSætLogbibliotek.Click();
+    Find1Weekend();
     IndlæsLogfil();
     LæsOperatører(Combo1, gsOperatør.Padded());
     ResetQSO();
+    if (gbVisInfo) VisStartInfo();
     // Again, so that the time spent loading does not shift the clock.
     if (gbAutoTid == 1) TimerStart();
 }
@@ -165,7 +171,9 @@ void FrmMain::Form_Resize() {
 void FrmMain::Form_Unload() {
     SetHourglass(true);
     GemOperatører(Combo1);
-    for (std::size_t i = LoadedForms().size(); i-- > 1;) LoadedForms()[i]->Unload();
+    // The keyer lets other events run while it goes, which may close windows too.
+    for (std::size_t i = LoadedForms().size(); i-- > 1;)
+        if (i < LoadedForms().size()) LoadedForms()[i]->Unload();
     if (State() != WindowState::Minimised) {
         GemTal(kSettings, "MainLeft", Left());
         GemTal(kSettings, "MainTop", Top());

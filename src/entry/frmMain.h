@@ -41,6 +41,7 @@ private:
     void Text1_LostFocus(int Index);
     void BindFelter();
     void BindMenu();
+    void BindPapirer();
     void SætKlasse(std::string_view klasse);
     void VisKlasse();
     void SkiftVindue(MenuItem& punkt, FormSlotBase& vindue);

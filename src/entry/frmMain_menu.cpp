@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
 // What the entries of the menu bar do.
+#include <array>
+
 #include "country/import.h"
 #include "country/lookup.h"
 #include "country/unknown.h"
+#include "cw/frmCW.h"
+#include "cw/settings.h"
+#include "cw/texts.h"
 #include "entry/frmB4.h"
 #include "entry/frmCall.h"
 #include "entry/frmContestCall.h"
@@ -11,13 +16,27 @@
 #include "entry/frmQSOnr.h"
 #include "entry/frmUTC.h"
 #include "entry/validation.h"
+#include "exchange/FormQuickInfo.h"
+#include "exchange/backup.h"
+#include "exchange/ct_import.h"
 #include "exchange/equipment.h"
+#include "exchange/frmAbout.h"
+#include "exchange/frmStregP.h"
+#include "exchange/frmVisTekst.h"
+#include "exchange/help.h"
 #include "frame/band_mode.h"
 #include "frame/settings.h"
 #include "frame/station.h"
 #include "logbook/frmNote.h"
 #include "logbook/frmNytQSOnr.h"
 #include "logbook/log_file.h"
+#include "reports/adif.h"
+#include "reports/error_list.h"
+#include "reports/html_page.h"
+#include "reports/log_sheets.h"
+#include "reports/mult_check.h"
+#include "reports/printing.h"
+#include "reports/summary.h"
 #include "scoring/frmEDR.h"
 
 namespace vatro {
@@ -35,6 +54,9 @@ void FrmMain::BindMenu() {
         IndlæsLogfil();
         ResetQSO();
     };
+    mnuFilerBackupUdfor.Click = BackupUdfør;
+    mnuFilerBackupSetBibliotek.Click = SetBackupLib;
+    mnuFilerDiskettekopi.Click = Diskettekopi;
     mnuFileExit.Click = [this] { Unload(); };
 
     mnuVisQSOnr.Click = [this] { SkiftVindue(mnuVisQSOnr, frmQSOnr); };
@@ -58,7 +80,43 @@ void FrmMain::BindMenu() {
     mnuIndstillingerKlokken.Click = SkiftAutoTid;
     mnuFunktionerNote.Click = IndsætNote;
     mnuFunktionerVisLand.Click = VisLandNu;
+    mnuFunktionerStregP.Click = [] { frmStregP->Show(); };
     mnuFunktionerImporterCTY.Click = ImporterCtyMenu;
+    mnuFunktionerImporterCtAll.Click = ImporterCtMenu;
+
+    for (MenuItem& punkt : mnuCWTXT) punkt.Click = [&punkt] { SendCW(CWTekster[static_cast<std::size_t>(punkt.Index())]); };
+    mnuCWInstillinger.Click = [] { frmCW->ShowModal(); };
+
+    mnuHjælpIndhold.Click = VisHjælpIndhold;
+    mnuHjælpQuickInfo.Click = [] { formQuickInfo->ShowModal(); };
+    mnuHelpStartInfo.Click = VisStartInfo;
+    mnuHelpAbout.Click = [] { frmAbout->ShowModal(); };
+    BindPapirer();
+}
+
+void FrmMain::BindPapirer() {
+    // In the order of kTiLogge.
+    const std::array<MenuItem*, kTiLogge.size()> ark{&mnuEfter10mCW,  &mnuEfter10mSSB, &mnuEfter15mCW,  &mnuEfter15mSSB, &mnuEfter20mCW,
+                                                     &mnuEfter20mSSB, &mnuEfter40mCW,  &mnuEfter40mSSB, &mnuEfter80mCW,  &mnuEfter80mSSB};
+    const std::array<MenuItem*, kTiLogge.size()> print{&mnuUdskriv10mCW, &mnuUdskriv10mSSB, &mnuUdskriv15mCW, &mnuUdskriv15mSSB,
+                                                       &mnuUdskriv20mCW, &mnuUdskriv20mSSB, &mnuUdskriv40mCW, &mnuUdskriv40mSSB,
+                                                       &mnuUdskriv80mCW, &mnuUdskriv80mSSB};
+    for (std::size_t i = 0; i < kTiLogge.size(); ++i) {
+        ark[i]->Click = [log = kTiLogge[i]] { Danlog(log); };
+        print[i]->Click = [log = kTiLogge[i]] { Udskriv([&log](PageSurface& surface) { PrintLog(surface, log); }); };
+    }
+    mnuFilerDanMult.Click = DanMultCheck;
+    mnuEfterSummary.Click = DanSummary;
+    mnuEfterAlt.Click = DanAlt;
+    mnuFilerDanFejlliste.Click = DanFejlliste;
+    mnuFilerDanHtml.Click = DanHtml;
+    mnuFilerEksportAdif.Click = EksporterAdif;
+
+    mnuFilePageSetup.Click = VælgPrinter;
+    mnuUdskrivUkendt.Click = [] { Udskriv(PrintUkendt); };
+    mnuFilerUdskrivMult.Click = [] { Udskriv(PrintMultCheck); };
+    mnuUdskrivSummary.Click = [] { Udskriv(PrintSummary); };
+    mnuUdskrivAlt.Click = [] { Udskriv(PrintAlt); };
 }
 
 void FrmMain::SætKlasse(std::string_view klasse) {

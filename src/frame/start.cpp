@@ -2,6 +2,9 @@
 #include "frame/start.h"
 
 #include "country/tables.h"
+#include "cw/settings.h"
+#include "cw/synthesis.h"
+#include "cw/texts.h"
 #include "entry/frmMain.h"
 #include "entry/operators.h"
 #include "exchange/backup.h"
@@ -31,6 +34,8 @@ void NulstilAlt() {
     NulstilTabeller();
     NulstilEDR();
     NulstilOperatør();
+    NulstilSyntese();
+    NulstilCWTekster();
     gsBackupLib.clear();
     gbAutoTid = 0;
     gbVisLand = false;
@@ -56,6 +61,7 @@ std::string VersionTekst() {
 void StartProgram() {
     NulstilAlt();
     LæsIndstillinger();
+    HentCWIndstillinger();
     HentUdstyr();
 
     // Before any table is loaded: two copies would write the same log.

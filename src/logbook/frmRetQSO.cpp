@@ -25,9 +25,6 @@ namespace vatro {
 
 namespace {
 
-/// Readers of the operator take one column more than is written.
-constexpr Felt kOperatørLæst{kOperatør.fra, kOperatør.bredde + 1};
-
 std::string MultiplierTest(std::string_view call) {
     std::string multiplier;
     LandWkd(call, multiplier, Handling::Test);

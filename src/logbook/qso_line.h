@@ -39,6 +39,8 @@ inline constexpr Felt kNrModtaget{36, 4};
 inline constexpr Felt kPoint{41, 2};
 inline constexpr Felt kMultiplier{44, 10};
 inline constexpr Felt kOperatør{55, 6};
+/// One column more than is written: what readers of the operator take.
+inline constexpr Felt kOperatørLæst{kOperatør.fra, kOperatør.bredde + 1};
 inline constexpr Felt kQsl{62, 3};
 inline constexpr Felt kQsoMode{66, 5};
 inline constexpr Felt kDato{72, 8};

@@ -15,6 +15,7 @@
 namespace vatro {
 
 class Form;
+class PageSurface;
 class Sound;
 class Timer;
 
@@ -53,6 +54,8 @@ public:
     /// The full path chosen. Fails with Failure::Cancelled.
     virtual std::string SaveFile(const FileDialog& dialog) = 0;
     virtual std::string OpenFile(const FileDialog& dialog) = 0;
+    /// The choice of the printer and its paper, for all jobs to come. Fails with Failure::Cancelled.
+    virtual void SetUpPrinter() = 0;
     /// The system's box for a run-time failure that nothing has caught; the program ends after it.
     virtual void ShowFailure(const RunTimeError& failure) = 0;
 };
@@ -137,6 +140,7 @@ public:
 class Help {
 public:
     virtual ~Help() = default;
+    /// Opens the viewer at a page of the handbook and does not wait for it. Fails with 53 if there is no such page.
     virtual void Show(std::string_view path) = 0;
 };
 
@@ -164,6 +168,7 @@ struct Platform {
     Help& help;
     Instance& instance;
     Sound& sound;
+    PageSurface& printer;
     Version version;
 };
 

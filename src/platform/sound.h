@@ -51,11 +51,12 @@ public:
     virtual void SetNotificationPositions(std::span<const PositionNotification> positions) = 0;
     /// Takes `size` bytes over from the same offset of `image`, a picture of the whole buffer.
     virtual void Write(int startByte, int size, std::span<const std::int16_t> image) = 0;
-    /// Where Play begins, or goes on at once if it plays; a byte offset.
+    /// Where Play begins, or goes on at once if it plays; a byte offset. An event of the old position that has not run yet
+    /// does not run any more.
     virtual void SetCurrentPosition(int offset) = 0;
     /// Plays round and round until Stop. One that plays goes on.
     virtual void PlayLooping() = 0;
-    /// Silent at once, with no ramp. The position stays.
+    /// Silent at once, with no ramp. The position stays. An event that has not run yet does not run any more.
     virtual void Stop() = 0;
 };
 

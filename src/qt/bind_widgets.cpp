@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// Lists, buttons, boxes, labels and frames.
+// Lists, buttons, boxes, labels, pictures and frames.
 #include <QCheckBox>
 #include <QFontDatabase>
 #include <QFrame>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
 #include <QWidget>
 #include <algorithm>
 
@@ -17,6 +19,7 @@
 #include "qt/deliver.h"
 #include "qt/fields.h"
 #include "qt/item_list.h"
+#include "qt/picture_view.h"
 #include "qt/text.h"
 #include "qt/window.h"
 
@@ -92,7 +95,12 @@ void FollowRows(const ListBox& control, ItemModel& model, ItemList& widget, Aspe
             PushRow(control, widget);
             break;
         case Aspect::ItemAdded:
-            model.Append();
+            model.Added(row);
+            break;
+        case Aspect::ItemRemoved:
+            // Of a selected row that goes, Qt would select the neighbour.
+            if (widget.currentIndex().row() == row) PushRow(control, widget);
+            model.Removed(row);
             break;
         case Aspect::ItemChanged:
             model.RowChanged(row);
@@ -213,6 +221,49 @@ void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window) {
     };
 }
 
+void Bind(OptionButton& control, QRadioButton& widget, FormWindow& window) {
+    PushState(control, widget);
+    PushCaption(control.Caption(), widget);
+    // The frame's other options are turned off by the control.
+    widget.setAutoExclusive(false);
+    widget.setChecked(control.Value());
+    window.AddInput(control, widget, nullptr);
+    QObject::connect(&widget, &QAbstractButton::clicked, &window.Scope(), [&control, &widget] {
+        // Qt has flipped the button by itself; the control decides.
+        widget.setChecked(control.Value());
+        Deliver([&] {
+            if (control.Parent().Reachable()) control.UserChosen(FocusWay::Mouse);
+        });
+    });
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        FollowState(control, widget, aspect);
+        if (aspect == Aspect::Value) widget.setChecked(control.Value());
+    };
+}
+
+void Bind(ScrollBar& control, QScrollBar& widget, FormWindow& window) {
+    const ScrollBar::Range& limits = control.Limits();
+    PushState(control, widget);
+    widget.setRange(limits.min, limits.max);
+    widget.setSingleStep(limits.smallChange);
+    widget.setPageStep(limits.largeChange);
+    widget.setValue(control.Value());
+    // One change for a slide that is drawn, when it is let go.
+    widget.setTracking(false);
+    widget.setContextMenuPolicy(Qt::PreventContextMenu);
+    window.AddInput(control, widget, nullptr);
+    QObject::connect(&widget, &QAbstractSlider::valueChanged, &window.Scope(), [&control](int value) {
+        if (value == control.Value()) return;
+        Deliver([&] {
+            if (control.Parent().Reachable()) control.UserScrolled(value);
+        });
+    });
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        FollowState(control, widget, aspect);
+        if (aspect == Aspect::Value) widget.setValue(control.Value());
+    };
+}
+
 void Bind(Label& control, QLabel& widget, FormWindow& /*window*/) {
     widget.setTextFormat(Qt::PlainText);
     BindText(control, widget);
@@ -220,6 +271,18 @@ void Bind(Label& control, QLabel& widget, FormWindow& /*window*/) {
 
 void Bind(Label& control, FittedText& widget, FormWindow& /*window*/) {
     BindText(control, widget);
+}
+
+void Bind(Picture& control, PictureView& widget, FormWindow& window) {
+    PushState(control, widget);
+    widget.SetPicture(ToQt(control.File()));
+    window.NameByCaption(widget);
+    QObject::connect(&widget, &PictureView::Clicked, &window.Scope(), [&control] {
+        Deliver([&] {
+            if (control.Parent().Reachable()) control.UserClicked();
+        });
+    });
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
 }
 
 void Bind(Label& control, ColumnHead& widget, FormWindow& /*window*/) {

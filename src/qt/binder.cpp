@@ -8,8 +8,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QToolBar>
 #include <set>
@@ -19,6 +22,7 @@
 #include "qt/column_head.h"
 #include "qt/fields.h"
 #include "qt/item_list.h"
+#include "qt/picture_view.h"
 #include "qt/text.h"
 #include "qt/window.h"
 
@@ -39,10 +43,14 @@ bool BindPair(Control& control, QWidget& widget, FormWindow& window) {
 /// The pairs there are; a class stands before the one that it is derived from.
 constexpr bool (*kPairs[])(Control&, QWidget&, FormWindow&) = {
     BindPair<TextBox, QLineEdit>,
+    BindPair<TextView, QPlainTextEdit>,
+    BindPair<Picture, PictureView>,
     BindPair<ComboBox, QComboBox>,
     BindPair<ListBox, ItemList>,
     BindPair<Button, QPushButton>,
     BindPair<CheckBox, QCheckBox>,
+    BindPair<OptionButton, QRadioButton>,
+    BindPair<ScrollBar, QScrollBar>,
     BindPair<Label, FittedText>,
     BindPair<Label, QLabel>,
     BindPair<Label, ColumnHead>,
@@ -68,6 +76,7 @@ QList<QWidget*> WidgetsOf(const FormWindow& window, const QString& name = {}) {
 QString SpokenName(const Control& control) {
     if (const auto* button = dynamic_cast<const Button*>(&control)) return PlainCaption(button->Caption());
     if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return PlainCaption(box->Caption());
+    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return PlainCaption(option->Caption());
     const QString tip = ToQt(control.ToolTip());
     const qsizetype sentence = tip.indexOf(QStringLiteral(". "));
     return sentence < 0 ? tip : tip.left(sentence);
@@ -98,7 +107,8 @@ bool Bindable(const QWidget& widget) {
     return qobject_cast<const QLineEdit*>(&widget) != nullptr || qobject_cast<const QComboBox*>(&widget) != nullptr ||
            qobject_cast<const QAbstractItemView*>(&widget) != nullptr || qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
            qobject_cast<const QLabel*>(&widget) != nullptr || qobject_cast<const QProgressBar*>(&widget) != nullptr ||
-           qobject_cast<const ColumnHead*>(&widget) != nullptr;
+           qobject_cast<const QScrollBar*>(&widget) != nullptr || qobject_cast<const ColumnHead*>(&widget) != nullptr ||
+           qobject_cast<const QPlainTextEdit*>(&widget) != nullptr || qobject_cast<const PictureView*>(&widget) != nullptr;
 }
 
 /// Widgets of the layout that no control owns.

@@ -14,14 +14,20 @@ class QWidget;
 
 namespace vatro {
 
+class QtPrinter;
+
 class QtDialogs : public Dialogs {
 public:
+    /// Without a printer its dialogue is always cancelled.
+    explicit QtDialogs(QtPrinter* printer = nullptr) : printer_(printer) {}
     Answer Show(const MessageBox& box) override;
     std::string SaveFile(const FileDialog& dialog) override;
     std::string OpenFile(const FileDialog& dialog) override;
+    void SetUpPrinter() override;
     void ShowFailure(const RunTimeError& failure) override;
 
 private:
+    QtPrinter* printer_;
     std::string ChooseFile(const FileDialog& dialog, bool save);
 };
 

@@ -81,7 +81,12 @@ void QtFront::FollowActivation() {
     const FormWindow* window = form != nullptr ? WindowOf(*form) : nullptr;
     // A box in front keeps the keys; its form gets them back when it closes.
     if (window == nullptr || QApplication::activeModalWidget() != (form->Modal() ? window->Top() : nullptr)) return;
-    if (QApplication::activeWindow() == window->Top() || !window->Top()->isVisible()) return;
+    if (!window->Top()->isVisible()) return;
+    if (QApplication::activeWindow() == window->Top()) {
+        // A window asked for meanwhile is wanted no more, and may never come.
+        awaited_ = nullptr;
+        return;
+    }
     awaited_ = window->Top();
     window->Top()->raise();
     window->Top()->activateWindow();

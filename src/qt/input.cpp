@@ -7,6 +7,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <algorithm>
+#include <functional>
 
 #include "qt/deliver.h"
 #include "qt/front.h"
@@ -20,6 +21,33 @@ namespace {
 /// The byte of a key as KeyPress takes it, above 127 too.
 KeyCode Code(char byte) {
     return static_cast<KeyCode>(static_cast<unsigned char>(byte));
+}
+
+bool IsArrow(int key) {
+    return key >= Qt::Key_Left && key <= Qt::Key_Down;
+}
+
+/// What a key does to a scroll bar, or nothing.
+std::optional<ScrollBar::Move> MoveOf(int key) {
+    using enum ScrollBar::Move;
+    switch (key) {
+        case Qt::Key_Left:
+        case Qt::Key_Up:
+            return StepBack;
+        case Qt::Key_Right:
+        case Qt::Key_Down:
+            return StepOn;
+        case Qt::Key_PageUp:
+            return PageBack;
+        case Qt::Key_PageDown:
+            return PageOn;
+        case Qt::Key_Home:
+            return ToStart;
+        case Qt::Key_End:
+            return ToEnd;
+        default:
+            return std::nullopt;
+    }
 }
 
 /// Qt gives the focus back to where it was; nobody has moved it in the form.
@@ -128,9 +156,23 @@ bool Input::TakeKeyEvent(QKeyEvent& event) {
     }
     const std::optional<KeyCode> key = CodeOf(event);
     if (key) return !TakeKey(*key);
+    if (plain && TakeMove(event.key())) return true;
     // Qt walks from button to button with the arrows; the form knows only Tab.
-    const bool arrow = event.key() >= Qt::Key_Left && event.key() <= Qt::Key_Down;
-    return arrow && editor_ == nullptr && dynamic_cast<ListBox*>(control_) == nullptr;
+    const bool own = dynamic_cast<ListBox*>(control_) != nullptr || dynamic_cast<TextView*>(control_) != nullptr;
+    return IsArrow(event.key()) && editor_ == nullptr && !own;
+}
+
+bool Input::TakeMove(int key) {
+    std::function<void()> taken;
+    if (auto* option = dynamic_cast<OptionButton*>(control_); option != nullptr && IsArrow(key))
+        taken = [option, back = key == Qt::Key_Left || key == Qt::Key_Up] { option->UserArrow(back); };
+    if (auto* bar = dynamic_cast<ScrollBar*>(control_))
+        if (const auto move = MoveOf(key)) taken = [bar, move] { bar->UserMoved(*move); };
+    if (!taken) return false;
+    Deliver([&] {
+        if (control_->Parent().Reachable() && control_->Enabled()) taken();
+    });
+    return true;
 }
 
 bool Input::TakeKey(KeyCode key) {
@@ -147,6 +189,8 @@ bool Input::TakeKey(KeyCode key) {
         } else if (auto* button = dynamic_cast<Button*>(control_)) {
             if (taken == kEnter) button->Press();
             wanted = taken == kSpace;
+        } else if (auto* option = dynamic_cast<OptionButton*>(control_)) {
+            if (taken == kSpace) option->UserChosen(FocusWay::Key);
         } else {
             wanted = taken == kSpace && dynamic_cast<CheckBox*>(control_) != nullptr;
         }

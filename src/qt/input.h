@@ -36,6 +36,8 @@ private:
     bool TakeInputMethod(QInputMethodEvent& event);
     void TakeFocus(QFocusEvent& event);
     bool TakeMouse(QObject& watched, const QEvent& event);
+    /// A key that gives no character: whether the control has taken it.
+    bool TakeMove(int key);
     /// Runs the key through form and control; true if the widget's own handling of it is still wanted.
     bool TakeKey(KeyCode key);
     void Edit(KeyCode key);

@@ -4,8 +4,13 @@
 #include <map>
 #include <string>
 
+#include "ui_FormQuickInfo.h"
 #include "ui_FormRigAnt.h"
+#include "ui_frmAbout.h"
+#include "ui_frmAfslut.h"
 #include "ui_frmB4.h"
+#include "ui_frmCW.h"
+#include "ui_frmCWTX.h"
 #include "ui_frmCall.h"
 #include "ui_frmContestCall.h"
 #include "ui_frmCtyDat.h"
@@ -17,7 +22,10 @@
 #include "ui_frmQSOnr.h"
 #include "ui_frmRetQSO.h"
 #include "ui_frmSplash.h"
+#include "ui_frmStregP.h"
+#include "ui_frmTilFloppy.h"
 #include "ui_frmUTC.h"
+#include "ui_frmVisTekst.h"
 
 namespace vatro {
 
@@ -30,13 +38,28 @@ void Make(QWidget* widget) {
 
 std::map<std::string, LayoutMaker, std::less<>>& Layouts() {
     static std::map<std::string, LayoutMaker, std::less<>> layouts{
-        {"FormRigAnt", Make<Ui::FormRigAnt>}, {"frmB4", Make<Ui::frmB4>},
-        {"frmCall", Make<Ui::frmCall>},       {"frmContestCall", Make<Ui::frmContestCall>},
-        {"frmCtyDat", Make<Ui::frmCtyDat>},   {"frmEDR", Make<Ui::frmEDR>},
-        {"frmInfo", Make<Ui::frmInfo>},       {"frmMain", Make<Ui::frmMain>},
-        {"frmNote", Make<Ui::frmNote>},       {"frmNytQSOnr", Make<Ui::frmNytQSOnr>},
-        {"frmQSOnr", Make<Ui::frmQSOnr>},     {"frmRetQSO", Make<Ui::frmRetQSO>},
-        {"frmSplash", Make<Ui::frmSplash>},   {"frmUTC", Make<Ui::frmUTC>},
+        {"FormQuickInfo", Make<Ui::FormQuickInfo>},
+        {"FormRigAnt", Make<Ui::FormRigAnt>},
+        {"frmAbout", Make<Ui::frmAbout>},
+        {"frmAfslut", Make<Ui::frmAfslut>},
+        {"frmB4", Make<Ui::frmB4>},
+        {"frmCW", Make<Ui::frmCW>},
+        {"frmCWTX", Make<Ui::frmCWTX>},
+        {"frmCall", Make<Ui::frmCall>},
+        {"frmContestCall", Make<Ui::frmContestCall>},
+        {"frmCtyDat", Make<Ui::frmCtyDat>},
+        {"frmEDR", Make<Ui::frmEDR>},
+        {"frmInfo", Make<Ui::frmInfo>},
+        {"frmMain", Make<Ui::frmMain>},
+        {"frmNote", Make<Ui::frmNote>},
+        {"frmNytQSOnr", Make<Ui::frmNytQSOnr>},
+        {"frmQSOnr", Make<Ui::frmQSOnr>},
+        {"frmRetQSO", Make<Ui::frmRetQSO>},
+        {"frmSplash", Make<Ui::frmSplash>},
+        {"frmStregP", Make<Ui::frmStregP>},
+        {"frmTilFloppy", Make<Ui::frmTilFloppy>},
+        {"frmUTC", Make<Ui::frmUTC>},
+        {"frmVisTekst", Make<Ui::frmVisTekst>},
     };
     return layouts;
 }

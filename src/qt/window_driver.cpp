@@ -12,6 +12,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QScrollBar>
 #include <QStyle>
 #include <QStyleOption>
 #include <QTest>
@@ -103,6 +106,21 @@ QPoint BehindText(const QLineEdit& field) {
     return {field.width() - 3, field.height() / 2};
 }
 
+/// The middle of a scroll bar's slide.
+QPoint SlideOf(const QScrollBar& bar) {
+    QStyleOptionSlider option;
+    option.initFrom(&bar);
+    option.orientation = bar.orientation();
+    option.minimum = bar.minimum();
+    option.maximum = bar.maximum();
+    option.singleStep = bar.singleStep();
+    option.pageStep = bar.pageStep();
+    option.sliderPosition = bar.sliderPosition();
+    option.sliderValue = bar.value();
+    if (bar.orientation() == Qt::Horizontal) option.state |= QStyle::State_Horizontal;
+    return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &bar).center();
+}
+
 QMainWindow& MainOf(QWidget& window) {
     auto* main = qobject_cast<QMainWindow*>(&window);
     if (main == nullptr) throw CannotDeliver("the window has no menu");
@@ -173,9 +191,14 @@ void WindowDriver::Focus(Control& control) {
         ClickAt(*field, BehindText(*field));
     } else if (auto* combo = qobject_cast<QComboBox*>(&widget)) {
         ClickAt(*combo->lineEdit(), BehindText(*combo->lineEdit()));
+    } else if (auto* text = qobject_cast<QPlainTextEdit*>(&widget)) {
+        text->verticalScrollBar()->setValue(text->verticalScrollBar()->maximum());
+        ClickAt(*text->viewport(), text->viewport()->rect().bottomRight() - QPoint(3, 3));
     } else if (qobject_cast<ItemList*>(&widget) != nullptr) {
         // The list's frame.
         ClickAt(widget, {0, 0});
+    } else if (auto* bar = qobject_cast<QScrollBar*>(&widget)) {
+        ClickAt(*bar, SlideOf(*bar));
     } else {
         // Pressed, and let go beside it, a button does nothing.
         QWindow* window = widget.window()->windowHandle();
@@ -187,9 +210,8 @@ void WindowDriver::Focus(Control& control) {
 
 void WindowDriver::Click(Control& control) {
     QWidget& widget = WidgetOf(control);
-    const QPoint at =
-        qobject_cast<QCheckBox*>(&widget) != nullptr ? QPoint(widget.height() / 2, widget.height() / 2) : widget.rect().center();
-    ClickAt(widget, at);
+    const bool marked = qobject_cast<QCheckBox*>(&widget) != nullptr || qobject_cast<QRadioButton*>(&widget) != nullptr;
+    ClickAt(widget, marked ? QPoint(widget.height() / 2, widget.height() / 2) : widget.rect().center());
 }
 
 void WindowDriver::ClickForm(Form& form) {
@@ -243,6 +265,17 @@ void WindowDriver::Spin(UpDown& arrows, bool up) {
     const auto& widget = dynamic_cast<SpinArrows&>(WidgetOf(arrows));
     QToolButton& arrow = widget.Arrow(up);
     ClickAt(arrow, arrow.rect().center());
+}
+
+void WindowDriver::Scroll(ScrollBar& bar, int value) {
+    const QPointer<QScrollBar> widget(&dynamic_cast<QScrollBar&>(WidgetOf(bar)));
+    const QPointer<QWindow> window(widget->window()->windowHandle());
+    const QPoint at = widget->mapTo(widget->window(), SlideOf(*widget));
+    QTest::mousePress(window.data(), Qt::LeftButton, {}, at);
+    if (widget == nullptr || !widget->isSliderDown()) throw CannotDeliver(bar.FullName() + " cannot be taken hold of");
+    // As drawing it there does; a bar has fewer pixels than values.
+    widget->setSliderPosition(value);
+    QTest::mouseRelease(window.data(), Qt::LeftButton, {}, at);
 }
 
 // --- Bars

@@ -31,6 +31,7 @@ public:
     void ClickForm(Form& form) override;
     void Pick(Control& control, int row) override;
     void Spin(UpDown& arrows, bool up) override;
+    void Scroll(ScrollBar& bar, int value) override;
     void DoubleClick(ListBox& list, int row) override;
     void Choose(MenuItem& item) override;
     void PressTool(Toolbar& toolbar, int index) override;

@@ -1,29 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "replay/looking.h"
 
-#include <array>
-#include <charconv>
 #include <set>
 
 #include "replay/names.h"
+#include "replay/scene_font.h"
 #include "replay/variables.h"
 #include "text/codepage.h"
 
 namespace vatro {
 
 namespace {
-
-/// A number with as few decimals as it has.
-std::string Plain(double number) {
-    std::array<char, 32> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
-    return {text.data(), end};
-}
-
-std::string Style(const Font& font) {
-    const std::string style = std::string(font.bold ? "b" : "") + (font.underline ? "u" : "");
-    return style.empty() ? "-" : style;
-}
 
 std::string Count(int items) {
     return " " + std::to_string(items) + " items";
@@ -126,7 +113,8 @@ Output ShowControlState(const Control& control) {
     if (const auto* label = dynamic_cast<const Label*>(&control)) {
         const Font& font = label->LabelFont();
         line += " colour " + std::to_string(label->ForeColour()) + " back " + std::to_string(label->BackColour()) +
-                (label->Opaque() ? " opaque" : " transparent") + " font " + Quoted(font.name) + " " + Plain(font.size) + " " + Style(font);
+                (label->Opaque() ? " opaque" : " transparent") + " font " + Quoted(font.name) + " " + Shortest(font.size) + " " +
+                StyleOf(font);
     }
     if (!control.ToolTip().empty()) line += " tip " + Quoted(control.ToolTip());
     return {line};

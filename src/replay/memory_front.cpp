@@ -3,16 +3,13 @@
 
 #include "platform/program.h"
 #include "replay/memory_keys.h"
+#include "replay/scene_font.h"
 #include "replay/words.h"
 #include "text/codepage.h"
 
 namespace vatro {
 
 namespace {
-
-/// The widths of a character and of a line in a font of the size 1.
-constexpr double kCharacterWidth = 0.6;
-constexpr double kLineHeight = 1.2;
 
 /// The entry of the active form's menus with this shortcut, or nothing.
 MenuItem* FindShortcut(const Form& form, const std::string& shortcut) {
@@ -125,6 +122,8 @@ void MemoryFront::Click(Control& control) {
             box->Flip();
         else if (auto* option = dynamic_cast<OptionButton*>(&control))
             option->UserChosen(FocusWay::Mouse);
+        else if (auto* picture = dynamic_cast<Picture*>(&control))
+            picture->UserClicked();
         else if (control.Click)
             control.Click();
     });
@@ -226,11 +225,11 @@ void MemoryFront::RunModal(Form& form) {
 }
 
 double MemoryFront::TextWidth(std::string_view text, const Font& font) {
-    return kCharacterWidth * font.size * static_cast<double>(text.size());
+    return SceneTextWidth(text, font);
 }
 
 double MemoryFront::TextHeight(const Font& font) {
-    return kLineHeight * font.size;
+    return SceneTextHeight(font);
 }
 
 }  // namespace vatro

@@ -2,6 +2,7 @@
 #include "replay/memory_keys.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace vatro {
 
@@ -69,16 +70,16 @@ int RowBehind(const KeyStroke& key, int row, int rows) {
     return std::clamp(to, 0, rows - 1);
 }
 
-/// The value that a key leads to in a scroll bar.
-int ValueBehind(const KeyStroke& key, const ScrollBar& bar) {
-    const ScrollBar::Range& limits = bar.Limits();
-    if (key.name == "Home") return limits.min;
-    if (key.name == "End") return limits.max;
-    if (key.name == "Left" || key.name == "Up") return bar.Value() - limits.smallChange;
-    if (key.name == "Right" || key.name == "Down") return bar.Value() + limits.smallChange;
-    if (key.name == "PageUp") return bar.Value() - limits.largeChange;
-    if (key.name == "PageDown") return bar.Value() + limits.largeChange;
-    return bar.Value();
+/// What a key does to a scroll bar, or nothing.
+std::optional<ScrollBar::Move> MoveOf(const KeyStroke& key) {
+    using enum ScrollBar::Move;
+    if (key.name == "Left" || key.name == "Up") return StepBack;
+    if (key.name == "Right" || key.name == "Down") return StepOn;
+    if (key.name == "PageUp") return PageBack;
+    if (key.name == "PageDown") return PageOn;
+    if (key.name == "Home") return ToStart;
+    if (key.name == "End") return ToEnd;
+    return std::nullopt;
 }
 
 }  // namespace
@@ -94,7 +95,7 @@ KeyCode KeyCodeOf(const KeyStroke& key) {
 }
 
 void UseKey(Control& control, const KeyStroke& key, KeyCode code) {
-    if (key.ctrl || key.alt || !control.Enabled()) return;
+    if (key.ctrl || key.alt || !control.Enabled() || dynamic_cast<const TextView*>(&control) != nullptr) return;
     if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
         if (key.name == "Up" || key.name == "Down") {
             const int row = RowBehind(key, combo->ListIndex(), combo->ListCount());
@@ -118,7 +119,7 @@ void UseKey(Control& control, const KeyStroke& key, KeyCode code) {
         else if (code == kSpace)
             option->UserChosen(FocusWay::Key);
     } else if (auto* bar = dynamic_cast<ScrollBar*>(&control)) {
-        bar->UserScrolled(ValueBehind(key, *bar));
+        if (const auto move = MoveOf(key)) bar->UserMoved(*move);
     }
 }
 

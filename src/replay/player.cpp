@@ -29,6 +29,7 @@ Player::Player(const Scenario& scenario, const World& world, Driver& driver, std
                      .help = *this,
                      .instance = *this,
                      .sound = sound_,
+                     .printer = printer_,
                      .version = {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 }
 
@@ -163,6 +164,10 @@ std::string Player::SaveFile(const FileDialog& dialog) {
 
 std::string Player::OpenFile(const FileDialog& dialog) {
     return WaitFor("dialog open " + Quoted(dialog.title) + " " + Quoted(dialog.filter));
+}
+
+void Player::SetUpPrinter() {
+    WaitFor("dialog printer");
 }
 
 std::string Player::WaitFor(const std::string& line) {

@@ -25,6 +25,7 @@
 #include "replay/driver.h"
 #include "replay/scenario.h"
 #include "replay/scene_clock.h"
+#include "replay/scene_pages.h"
 #include "replay/scene_sound.h"
 #include "replay/settings_store.h"
 #include "replay/world.h"
@@ -61,6 +62,7 @@ private:
     Answer Show(const MessageBox& box) override;
     std::string SaveFile(const FileDialog& dialog) override;
     std::string OpenFile(const FileDialog& dialog) override;
+    void SetUpPrinter() override;
     void ShowFailure(const RunTimeError& failure) override;
     void Show(std::string_view path) override;
     bool AnotherCopyRuns() override { return anotherCopy_; }
@@ -119,6 +121,8 @@ private:
     SettingsStore settings_;
     SceneClock clock_;
     SceneSound sound_{clock_};
+    ScenePages pages_;
+    PageSurface printer_{pages_};
     /// The sources of events in time; of equal moments the one that stands first comes first.
     std::vector<DueEvents*> dueEvents_{&clock_, &sound_};
     DiskFiles disk_;

@@ -334,7 +334,7 @@ void Player::DoList(const Command& command) {
 }
 
 void Player::DoPages(const Command&) {
-    // Nothing prints yet, so there is never a job.
+    Print(pages_.TakeJobs());
 }
 
 void Player::DoSound(const Command& command) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/program.h"
+#include "platform/sound_course.h"
 #include "text/errors.h"
 
 namespace vatro {
@@ -12,7 +13,6 @@ namespace vatro {
 namespace {
 
 constexpr Moment kMillisecondsPerSecond = 1000;
-constexpr int kBytesPerSample = 2;
 
 }  // namespace
 
@@ -20,14 +20,15 @@ constexpr int kBytesPerSample = 2;
 class SceneSound::Buffer : public SoundBuffer {
 public:
     Buffer(SceneSound& sound, int bytes, int samplesPerSecond)
-        : sound_(sound), samplesPerSecond_(samplesPerSecond), samples_(static_cast<std::size_t>(bytes / kBytesPerSample)) {}
+        : sound_(sound),
+          samplesPerSecond_(samplesPerSecond),
+          samples_(static_cast<std::size_t>(bytes / kBytesPerSample)),
+          course_(bytes / kBytesPerSample) {}
     ~Buffer() override { Stop(); }
     Buffer(const Buffer&) = delete;
     Buffer& operator=(const Buffer&) = delete;
 
-    void SetNotificationPositions(std::span<const PositionNotification> positions) override {
-        positions_.assign(positions.begin(), positions.end());
-    }
+    void SetNotificationPositions(std::span<const PositionNotification> positions) override { course_.SetPositions(positions); }
 
     void Write(int startByte, int size, std::span<const std::int16_t> image) override {
         CatchUp();
@@ -37,15 +38,12 @@ public:
 
     void SetCurrentPosition(int offset) override {
         CatchUp();
-        start_ = offset / kBytesPerSample;
-        played_ = 0;
-        notified_ = 0;
-        began_ = sound_.clock_.Passed();
+        Begin(offset / kBytesPerSample);
     }
 
     void PlayLooping() override {
         if (Playing()) return;
-        SetCurrentPosition(static_cast<int>((start_ + played_) % Size()) * kBytesPerSample);
+        Begin(static_cast<long long>(course_.At(played_)));
         sound_.playing_.push_back(this);
     }
 
@@ -57,52 +55,36 @@ public:
     /// Plays up to the present moment.
     void CatchUp() {
         if (!Playing()) return;
-        const long long due = SamplesAt(sound_.clock_.Passed());
-        for (; played_ < due; ++played_) sound_.heard_.push_back(samples_[static_cast<std::size_t>((start_ + played_) % Size())]);
+        const long long due = (sound_.clock_.Passed() - began_) * samplesPerSecond_ / kMillisecondsPerSecond;
+        for (; played_ < due; ++played_) sound_.heard_.push_back(samples_[course_.At(played_)]);
     }
 
     /// When the position next passes an offset that is tied to an event.
     std::optional<std::pair<Moment, SoundEvent>> Next() const {
-        const std::optional<Passing> passing = NextPassing();
+        const auto passing = course_.Next();
         if (!passing) return std::nullopt;
-        const Moment due = (passing->samples * kMillisecondsPerSecond + samplesPerSecond_ - 1) / samplesPerSecond_;
+        const Moment due = (passing->played * kMillisecondsPerSecond + samplesPerSecond_ - 1) / samplesPerSecond_;
         return std::pair{began_ + due, passing->event};
     }
 
     /// The event that Next tells is being delivered.
-    void Pass() { notified_ = NextPassing()->samples; }
+    void Pass() { course_.Tell(*course_.Next()); }
 
 private:
-    struct Passing {
-        /// Samples played until then.
-        long long samples;
-        SoundEvent event;
-    };
-
     bool Playing() const { return std::ranges::find(sound_.playing_, this) != sound_.playing_.end(); }
-    long long Size() const { return static_cast<long long>(samples_.size()); }
-    long long SamplesAt(Moment moment) const { return (moment - began_) * samplesPerSecond_ / kMillisecondsPerSecond; }
-
-    std::optional<Passing> NextPassing() const {
-        std::optional<Passing> next;
-        for (const PositionNotification& position : positions_) {
-            // The sample that holds the byte has been played to its end.
-            long long samples = position.offset / kBytesPerSample + 1 - start_;
-            while (samples <= notified_) samples += Size();
-            if (!next || samples < next->samples) next = Passing{samples, position.event};
-        }
-        return next;
+    void Begin(long long sample) {
+        course_.Begin(sample);
+        played_ = 0;
+        began_ = sound_.clock_.Passed();
     }
 
     SceneSound& sound_;
     long long samplesPerSecond_;
     std::vector<std::int16_t> samples_;
-    std::vector<PositionNotification> positions_;
-    /// Where the play began, when, how much has been played since, and up to where events have been delivered.
-    long long start_ = 0;
+    SoundCourse course_;
+    /// When the play began, and how much has been played since.
     Moment began_ = 0;
     long long played_ = 0;
-    long long notified_ = 0;
 };
 
 class SceneSound::Device : public SoundDevice {

@@ -7,6 +7,9 @@
 
 #include "country/lookup.h"
 #include "country/tables.h"
+#include "cw/settings.h"
+#include "cw/synthesis.h"
+#include "cw/texts.h"
 #include "entry/clock.h"
 #include "entry/operators.h"
 #include "exchange/backup.h"
@@ -29,18 +32,46 @@ struct Variable {
 };
 
 const std::array kVariables{
-    Variable{"gsBand", &gsBand},         Variable{"gsMode", &gsMode},
-    Variable{"gsQsoMode", &gsQsoMode},   Variable{"gsLogLib", &gsLogLib},
-    Variable{"gsFDLib", &gsFDLib},       Variable{"gsBackupLib", &gsBackupLib},
-    Variable{"gsUTC", &gsUTC},           Variable{"gbAutoTid", &gbAutoTid},
-    Variable{"gbVisLand", &gbVisLand},   Variable{"gbVisInfo", &gbVisInfo},
-    Variable{"gsMyCall", &gsMyCall},     Variable{"gsKlasse", &gsKlasse},
-    Variable{"gsTelefon", &gsTelefon},   Variable{"gsOperatør"_t, &gsOperatør},
-    Variable{"gsCall", &gsCall},         Variable{"gbDupe", &gbDupe},
-    Variable{"giQSOPoint", &giQSOPoint}, Variable{"giQSOnr", &giQSOnr},
-    Variable{"glPoint", &glPoint},       Variable{"giMult", &giMult},
-    Variable{"giLande", &giLande},       Variable{"giRefPfx", &giRefPfx},
+    Variable{"gsBand", &gsBand},
+    Variable{"gsMode", &gsMode},
+    Variable{"gsQsoMode", &gsQsoMode},
+    Variable{"gsLogLib", &gsLogLib},
+    Variable{"gsFDLib", &gsFDLib},
+    Variable{"gsBackupLib", &gsBackupLib},
+    Variable{"gsUTC", &gsUTC},
+    Variable{"gbAutoTid", &gbAutoTid},
+    Variable{"gbVisLand", &gbVisLand},
+    Variable{"gbVisInfo", &gbVisInfo},
+    Variable{"gsMyCall", &gsMyCall},
+    Variable{"gsKlasse", &gsKlasse},
+    Variable{"gsTelefon", &gsTelefon},
+    Variable{"gsOperatør"_t, &gsOperatør},
+    Variable{"gsCall", &gsCall},
+    Variable{"gbDupe", &gbDupe},
+    Variable{"giQSOPoint", &giQSOPoint},
+    Variable{"giQSOnr", &giQSOnr},
+    Variable{"glPoint", &glPoint},
+    Variable{"giMult", &giMult},
+    Variable{"giLande", &giLande},
+    Variable{"giRefPfx", &giRefPfx},
     Variable{"giEDR", &giEDR},
+    Variable{"giCWWPM", &giCWWPM},
+    Variable{"giCWTone", &giCWTone},
+    Variable{"glCWVolume", &glCWVolume},
+    Variable{"giCWFarnsworth", &giCWFarnsworth},
+    Variable{"gsCWNummerFormat", &gsCWNummerFormat},
+    Variable{"gsCWRSTFormat", &gsCWRSTFormat},
+    Variable{"gsCWRaa", &gsCWRaa},
+    Variable{"gsCWCall", &gsCWCall},
+    Variable{"gsCWRST", &gsCWRST},
+    Variable{"gsCWNummer", &gsCWNummer},
+    Variable{"gsCWTekst", &gsCWTekst},
+    Variable{"Priklen", &Priklen},
+    Variable{"glTegnPos", &glTegnPos},
+    Variable{"gscwtegn", &gscwtegn},
+    Variable{"glElementPos", &glElementPos},
+    Variable{"gsElement", &gsElement},
+    Variable{"glCWSlat", &glCWSlat},
 };
 
 struct Shown {

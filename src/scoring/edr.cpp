@@ -17,11 +17,6 @@ std::int16_t giEDR = 0;
 
 namespace {
 
-/// Rows that can be visited: the count, but no row beyond the table.
-int EDRIBrug() {
-    return std::min<int>(giEDR, kEdrRækker);
-}
-
 /// The calls of the rows, packed: every line of a log that is loaded is looked for among all stations.
 std::array<std::uint64_t, kEdrRækker + 1> nøgler{};
 
@@ -36,6 +31,10 @@ std::string_view EdrCall(const EDRRec& station) {
 }
 
 }  // namespace
+
+int EDRIBrug() {
+    return std::min<int>(giEDR, kEdrRækker);
+}
 
 void IndlæsEDR() {
     Files& filer = platform().files;

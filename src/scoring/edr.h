@@ -30,6 +30,8 @@ struct EDRRec {
 extern std::array<EDRRec, kEdrRækker + 1> EDRstn;
 /// Rows in use. After a load that failed at the end of the table it counts the line that did not fit.
 extern std::int16_t giEDR;
+/// Rows that can be visited: the count, but no row beyond the table.
+int EDRIBrug();
 
 /// Loads the list. Any failure, also a line beyond the table, gives one message and leaves what was read; the file stays
 /// open under number 1 in the latter case, so that the first log load of the run finds nothing: meant so.

@@ -152,12 +152,31 @@ std::string FormatTime(int hour, int minute) {
 }
 
 std::string FormatDate(const DateTime& moment) {
+    return FormatDate(moment, "dd-mm-yy");
+}
+
+std::string FormatDate(const DateTime& moment, std::string_view pattern) {
     std::string text;
-    AppendTwoDigits(text, moment.day);
-    text += '-';
-    AppendTwoDigits(text, moment.month);
-    text += '-';
-    AppendTwoDigits(text, moment.year);
+    const auto take = [&pattern](std::string_view part) {
+        if (!pattern.starts_with(part)) return false;
+        pattern.remove_prefix(part.size());
+        return true;
+    };
+    while (!pattern.empty()) {
+        if (take("dd")) {
+            AppendTwoDigits(text, moment.day);
+        } else if (take("mm")) {
+            AppendTwoDigits(text, moment.month);
+        } else if (take("yyyy")) {
+            AppendTwoDigits(text, moment.year / 100);
+            AppendTwoDigits(text, moment.year);
+        } else if (take("yy")) {
+            AppendTwoDigits(text, moment.year);
+        } else {
+            text += pattern.front();
+            pattern.remove_prefix(1);
+        }
+    }
     return text;
 }
 

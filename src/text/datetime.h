@@ -46,6 +46,8 @@ int Weekday(const DateTime& moment);
 std::string FormatTime(int hour, int minute);
 /// "dd-mm-yy".
 std::string FormatDate(const DateTime& moment);
+/// The date through a pattern of "dd", "mm", "yy" and "yyyy"; every other character stands as it is.
+std::string FormatDate(const DateTime& moment, std::string_view pattern);
 
 /// A time of day from "Hh:Nn" or "Hh:Nn:Ss", one or two digits each, blanks around the numbers allowed. Nothing if the
 /// text is no time of day, such as 25:00.

@@ -15,6 +15,9 @@ namespace vatro {
 
 namespace {
 
+/// Digits of which any number fits 32 bits.
+constexpr std::size_t kSurelyFits = 9;
+
 constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
@@ -118,7 +121,6 @@ Integer Rounded(double value) {
 
 /// The value of a text of digits and blanks alone, as far as it surely fits; nothing for any other text.
 std::optional<int> PlainDigits(std::string_view text) {
-    constexpr std::size_t kSurelyFits = 9;
     if (text.size() > kSurelyFits) return std::nullopt;
     int value = 0;
     for (const char c : text) {
@@ -158,6 +160,8 @@ double NumericValue(std::string_view text) {
 }
 
 bool IsNumeric(std::string_view text) {
+    // Fields of a log, again and again: a few digits.
+    if (!text.empty() && text.size() <= kSurelyFits && std::all_of(text.begin(), text.end(), IsDigit)) return true;
     return WholeNumber(text).has_value();
 }
 
@@ -181,6 +185,11 @@ std::string PlainNumber(long long value) {
     return {digits.data(), end};
 }
 
+std::string NumberText(long long value) {
+    const std::string digits = PlainNumber(value);
+    return value < 0 ? digits : " " + digits;
+}
+
 std::string ZeroPadded(double value, int digits) {
     if (!std::isfinite(value)) throw RunTimeError(Failure::Overflow);
     const double rounded = std::round(value);
@@ -202,8 +211,7 @@ std::string ZeroPadded(std::string_view text, int digits) {
 }
 
 std::string InTemplate(std::string_view placeholders, long long value) {
-    std::string number = PlainNumber(value);
-    if (value >= 0) number.insert(0, 1, ' ');
+    std::string number = NumberText(value);
     const auto places = static_cast<std::size_t>(std::count(placeholders.begin(), placeholders.end(), '@'));
     if (number.size() < places) number.insert(0, places - number.size(), ' ');
     // What has no place goes in front of the first one; without any place all of it stands at the end.

@@ -29,6 +29,9 @@ std::int32_t ToInt32(double value);
 /// The value of an integer, in plain decimal digits.
 std::string PlainNumber(long long value);
 
+/// Decimal digits behind one blank, or behind the sign of a negative number.
+std::string NumberText(long long value);
+
 /// At least `digits` digits with leading zeros, as "0000"; a larger number keeps all its digits. A half is rounded
 /// away from zero.
 std::string ZeroPadded(double value, int digits);
@@ -36,9 +39,8 @@ std::string ZeroPadded(double value, int digits);
 /// ZeroPadded of the number that the text is; a text that is no number stands as it is.
 std::string ZeroPadded(std::string_view text, int digits);
 
-/// A number in a template of "@" places: decimal text with one leading blank (a minus sign if negative), right-aligned
-/// in the places from the right; every other character of the template stands as it is; what is too long for the
-/// places keeps all its characters.
+/// A number in a template of "@" places: its NumberText, right-aligned in the places from the right; every other character
+/// of the template stands as it is; what is too long for the places keeps all its characters.
 std::string InTemplate(std::string_view placeholders, long long value);
 
 }  // namespace vatro

@@ -4,7 +4,8 @@
 #   both_fronts.sh GENERATOR SEED CONTACTS FRONT...
 #
 # Plays a random contest through each front, in a world of its own. Every box, status bar and line must be what the generator
-# has worked out, a reload must change no count, and no front may leave another log than the first.
+# has worked out, a reload must change no count, the summary must come to what the status bars of the ten logs do, and no front
+# may leave another log than the first.
 set -euo pipefail
 export LC_ALL=C QT_QPA_PLATFORM=offscreen
 generator=$1 seed=$2 contacts=$3
@@ -35,6 +36,18 @@ pairs() {
         END { print agreeing + 0 " pairs" }' "$1"
 }
 
+# The total of the summary, and what the status bars of the ten logs come to at the end: multipliers, points, score.
+total() { sed -n 's/^> |Total: *[0-9]* *\([0-9]*\) x *\([0-9]*\) = *\([0-9]*\)|$/\1 \2 \3/p' "$1"; }
+panels() {
+    awk '
+        /^# after reload /  { wanted = 1 }
+        /^> frmMain.sbStatusBar "/ && wanted { split($0, parts, "\" \""); points[++n] = parts[2]; mults[n] = parts[4]; wanted = 0 }
+        END {
+            for (i = n - 9; i <= n; i++) { p += points[i]; m += mults[i] }
+            print m, p, m * p
+        }' "$1"
+}
+
 fault=0
 number=0
 for front in "$@"; do
@@ -47,6 +60,8 @@ for front in "$@"; do
     diff -u "$work/contest.scn" "$work/played$number.scn" | head -60 || { echo "$name: another contest than the one worked out"; fault=1; }
     found=$(pairs "$work/played$number.scn")
     [ "$found" = "$wanted pairs" ] || { echo "$name: $wanted pairs of status bars wanted, found:"; echo "$found"; fault=1; }
+    [ -n "$(total "$work/played$number.scn")" ] && [ "$(total "$work/played$number.scn")" = "$(panels "$work/played$number.scn")" ] ||
+        { echo "$name: summary $(total "$work/played$number.scn"), status bars $(panels "$work/played$number.scn")"; fault=1; }
     logs=$(find "$work/world$number" -path '*/log/FD*.txt' | wc -l)
     # A short contest may leave a log out.
     [ "$logs" -eq 10 ] || [ "$contacts" -lt 1000 ] || { echo "$name: $logs logs, not ten"; fault=1; }

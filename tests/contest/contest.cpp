@@ -268,6 +268,7 @@ void Contest::Play(int contacts) {
         if (logged % 100 == 0) Checkpoint(++checkpoints);
     }
     CloseLogs(++checkpoints);
+    SumUp();
 }
 
 }  // namespace contest

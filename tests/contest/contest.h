@@ -57,6 +57,7 @@ private:
     void AskForNought(const Line& line);
     void ShowStatus(const std::string& first);
     void CloseLogs(int number);
+    void SumUp();
 
     Log& Current() { return logs_[LogName()]; }
     std::string LogName() const { return std::string(band_->name) + LogMode(); }

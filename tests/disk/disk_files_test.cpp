@@ -54,6 +54,25 @@ TEST_F(DiskFilesTest, AnOutputWithoutALineIsAnEmptyFile) {
     EXPECT_EQ(Content("a.txt"), "");
 }
 
+TEST_F(DiskFilesTest, ALongOutputIsWrittenInPiecesAndAnAppendAtClose) {
+    const std::string line(998, 'x');
+    std::string wanted;
+    for (const FileMode mode : {FileMode::Output, FileMode::Append}) {
+        files_.Open(1, At("a.txt"), mode);
+        for (int i = 0; i < 200; ++i) {
+            files_.PrintLine(1, line);
+            wanted += line + "\r\n";
+        }
+        const std::size_t before = Content("a.txt").size();
+        if (mode == FileMode::Output)
+            EXPECT_GT(before, 150'000U);
+        else
+            EXPECT_EQ(before, 200'000U);
+        files_.Close(1);
+        EXPECT_EQ(Content("a.txt"), wanted);
+    }
+}
+
 TEST_F(DiskFilesTest, BothNumbersWorkSideBySide) {
     Put("a.txt", "one\r\ntwo\r\n");
     files_.Open(1, At("a.txt"), FileMode::Input);
@@ -307,6 +326,19 @@ TEST_F(DiskFilesTest, AFailedCloseFreesTheNumber) {
     EXPECT_THAT(Lines(files_, At("a.txt")), ElementsAre("a"));
     WriteFile(files_, At("b.txt"), FileMode::Append, "b");
     EXPECT_EQ(Content("b.txt"), "b\r\n");
+}
+
+TEST_F(DiskFilesTest, ALongOutputThatDoesNotFitIsToldByThePieceAndByClose) {
+    const SizeLimit limit(40'000);
+    files_.Open(1, At("b.txt"), FileMode::Output);
+    const std::string piece(30'000, 'x');
+    files_.Print(1, piece);
+    const int told = NumberOf([&] {
+        for (int i = 0; i < 3; ++i) files_.Print(1, piece);
+    });
+    EXPECT_EQ(told, 61);
+    EXPECT_EQ(NumberOf([&] { files_.Close(1); }), 61);
+    EXPECT_EQ(NumberOf([&] { files_.Close(1); }), 0);
 }
 
 #ifdef __linux__

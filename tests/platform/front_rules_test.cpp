@@ -1,10 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "platform/front_rules.h"
+#include "platform/choice_rules.h"
 
 #include "replay/memory_front.h"
 
 namespace vatro {
 
-INSTANTIATE_TEST_SUITE_P(Memory, FrontRules, ::testing::Values(DriverFactory([] { return std::make_unique<MemoryFront>(); })));
+namespace {
+
+const DriverFactory kMemory = [] { return std::make_unique<MemoryFront>(); };
+
+}  // namespace
+
+INSTANTIATE_TEST_SUITE_P(Memory, FrontRules, ::testing::Values(kMemory));
+INSTANTIATE_TEST_SUITE_P(Memory, ChoiceRules, ::testing::Values(kMemory));
 
 }  // namespace vatro

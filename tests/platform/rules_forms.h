@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Two small forms for tests of the platform's rules. They note what their handlers hear; a test may tell them what to
+// Small forms for tests of the platform's rules. They note what their handlers hear; a test may tell them what to
 // do then.
 #pragma once
 
@@ -89,6 +89,38 @@ private:
     }
 };
 
+/// A form with options in two frames and a scroll bar.
+class FrmRulesChoice : public Form {
+public:
+    FrmRulesChoice() : Form("frmRulesChoice", FormKind::Dialog, "Choice") {
+        cmdOK.isDefault = true;
+        for (Control* control : std::vector<Control*>{&Text1, &optRST[0], &optRST[1], &optRST[2], &optNo[0], &optNo[1], &HScroll1, &cmdOK})
+            Watch(*control);
+        for (OptionButton& option : optRST) option.KeyPress = Filter;
+        HScroll1.Change = [this] { happenings.Note("Change HScroll1 " + std::to_string(HScroll1.Value())); };
+        SetTabOrder({&Text1, &optRST[0], &optRST[1], &optRST[2], &optNo[0], &optNo[1], &HScroll1, &cmdOK});
+    }
+
+    TextBox Text1{*this, "Text1"};
+    Frame Frame1{*this, "Frame1", "Report"};
+    Frame Frame2{*this, "Frame2", "Number"};
+    OptionButton optRST[3]{
+        {*this, "optRST", 0, "5&99", Frame1}, {*this, "optRST", 1, "5&nn", Frame1}, {*this, "optRST", 2, "5&79", Frame1}};
+    OptionButton optNo[2]{{*this, "optNo", 0, "&001", Frame2}, {*this, "optNo", 1, "&--1", Frame2}};
+    ScrollBar HScroll1{*this, "HScroll1", {.min = 100, .max = 10000, .smallChange = 1, .largeChange = 1023}};
+    Button cmdOK{*this, "cmdOK", "&OK"};
+
+private:
+    static void Watch(Control& control) {
+        control.GotFocus = [&control] { happenings.Note("GotFocus " + control.FullName()); };
+        control.LostFocus = [&control] { happenings.Note("LostFocus " + control.FullName()); };
+        control.Click = [&control] { happenings.Note("Click " + control.FullName()); };
+    }
+    static void Filter(KeyCode& KeyAscii) {
+        if (happenings.keyFilter) happenings.keyFilter(KeyAscii);
+    }
+};
+
 /// A form to be shown over the other.
 class FrmRulesOver : public Form {
 public:
@@ -104,7 +136,34 @@ public:
     Button cmdOK{*this, "cmdOK", "&OK"};
 };
 
+/// A form of things to look at.
+class FrmRulesLook : public Form {
+public:
+    FrmRulesLook() : Form("frmRulesLook", FormKind::Tool, "Look") {
+        Text1.KeyPress = [](KeyCode& KeyAscii) { happenings.Note("KeyPress Text1 " + std::to_string(KeyAscii)); };
+        Text1.Change = [] { happenings.Note("Change Text1"); };
+        for (Control* control : std::vector<Control*>{&List1, &Image1, &cmdOK})
+            control->Click = [control] { happenings.Note("Click " + control->FullName()); };
+        cmdOK.isDefault = true;
+        cmdOK.isCancel = true;
+        SetTabOrder({&Text1, &List1, &cmdOK});
+    }
+    void Form_Load() override {
+        Text1.SetText("one\r\n\r\nthree\r\n");
+        for (const char* row : {"b", "a", "\xE6", "C"}) List1.AddItem(row);
+        happenings.lines.clear();
+    }
+    void Form_Click() override { happenings.Note("Click frmRulesLook"); }
+
+    TextView Text1{*this, "Text1"};
+    ListBox List1{*this, "List1", {}, ListOrder::Sorted};
+    Picture Image1{*this, "Image1", "none.png"};
+    Button cmdOK{*this, "cmdOK", "&OK"};
+};
+
 inline FormSlot<FrmRules> frmRules{"frmRules"};
+inline FormSlot<FrmRulesChoice> frmRulesChoice{"frmRulesChoice"};
 inline FormSlot<FrmRulesOver> frmRulesOver{"frmRulesOver"};
+inline FormSlot<FrmRulesLook> frmRulesLook{"frmRulesLook"};
 
 }  // namespace vatro

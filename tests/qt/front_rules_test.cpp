@@ -1,14 +1,21 @@
 // SPDX-License-Identifier: MIT
-#include "platform/front_rules.h"
+#include "platform/choice_rules.h"
 
 #include "qt/rules_layouts.h"
 #include "qt/window_driver.h"
 
 namespace vatro {
 
-INSTANTIATE_TEST_SUITE_P(Window, FrontRules, ::testing::Values(DriverFactory([] {
-                             AddRulesLayouts();
-                             return std::make_unique<WindowDriver>();
-                         })));
+namespace {
+
+const DriverFactory kWindow = [] {
+    AddRulesLayouts();
+    return std::make_unique<WindowDriver>();
+};
+
+}  // namespace
+
+INSTANTIATE_TEST_SUITE_P(Window, FrontRules, ::testing::Values(kWindow));
+INSTANTIATE_TEST_SUITE_P(Window, ChoiceRules, ::testing::Values(kWindow));
 
 }  // namespace vatro

@@ -5,12 +5,16 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "qt/column_head.h"
 #include "qt/item_list.h"
 #include "qt/layouts.h"
+#include "qt/picture_view.h"
 
 namespace vatro {
 
@@ -41,6 +45,20 @@ void MakeRules(QWidget* form) {
     Add<QComboBox>(rows, "Combo1");
 }
 
+void MakeRulesChoice(QWidget* form) {
+    form->resize(400, 300);
+    auto* rows = new QVBoxLayout(form);
+    Add<QLineEdit>(rows, "Text1");
+    auto* reports = new QVBoxLayout(Add<QFrame>(rows, "Frame1"));
+    Add<ColumnHead>(reports, "Frame1Caption");
+    for (const char* name : {"optRST_0", "optRST_1", "optRST_2"}) Add<QRadioButton>(reports, name);
+    auto* numbers = new QVBoxLayout(Add<QFrame>(rows, "Frame2"));
+    Add<ColumnHead>(numbers, "Frame2Caption");
+    for (const char* name : {"optNo_0", "optNo_1"}) Add<QRadioButton>(numbers, name);
+    Add<QScrollBar>(rows, "HScroll1")->setOrientation(Qt::Horizontal);
+    Add<QPushButton>(rows, "cmdOK");
+}
+
 void MakeRulesOver(QWidget* form) {
     form->resize(200, 100);
     auto* rows = new QVBoxLayout(form);
@@ -48,11 +66,22 @@ void MakeRulesOver(QWidget* form) {
     Add<QPushButton>(rows, "cmdOK");
 }
 
+void MakeRulesLook(QWidget* form) {
+    form->resize(300, 300);
+    auto* rows = new QVBoxLayout(form);
+    Add<QPlainTextEdit>(rows, "Text1");
+    Add<ItemList>(rows, "List1");
+    Add<PictureView>(rows, "Image1")->setFixedHeight(40);
+    Add<QPushButton>(rows, "cmdOK");
+}
+
 }  // namespace
 
 void AddRulesLayouts() {
     AddLayout("frmRules", MakeRules);
+    AddLayout("frmRulesChoice", MakeRulesChoice);
     AddLayout("frmRulesOver", MakeRulesOver);
+    AddLayout("frmRulesLook", MakeRulesLook);
 }
 
 }  // namespace vatro

@@ -19,7 +19,7 @@ protected:
         happenings = {};
         AddRulesLayouts();
         driver.playUntil = [](const std::function<bool()>&) { ADD_FAILURE() << "unexpected modal form"; };
-        InstallPlatform({driver.ProgramFront(), dialogs, settings, files, clock, help, instance, sound, {1, 2, 3}});
+        InstallPlatform({driver.ProgramFront(), dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
     }
     ~WindowProgram() override {
         EndProgram();

@@ -46,6 +46,14 @@ TEST(DateTime, FormatsHaveTwoDigitsEach) {
     EXPECT_EQ(FormatDate(Moment(1999, 12, 31)), "31-12-99");
 }
 
+TEST(FormatDate, FollowsAPattern) {
+    EXPECT_EQ(FormatDate(Moment(2026, 9, 5), "dd.mm.yyyy"), "05.09.2026");
+    EXPECT_EQ(FormatDate(Moment(2026, 9, 5), "yyyymmdd"), "20260905");
+    EXPECT_EQ(FormatDate(Moment(2009, 12, 31), "yyyy-mm-dd"), "2009-12-31");
+    EXPECT_EQ(FormatDate(Moment(2009, 12, 31), "x yy"), "x 09");
+    EXPECT_EQ(FormatDate(Moment(2009, 12, 31), ""), "");
+}
+
 TEST(ParseTime, TakesOneOrTwoDigitsAndSeconds) {
     EXPECT_EQ(ParseTime("12:07"), (TimeOfDay{12, 7, 0}));
     EXPECT_EQ(ParseTime("0:0"), (TimeOfDay{0, 0, 0}));

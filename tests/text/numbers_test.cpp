@@ -153,6 +153,12 @@ TEST(ZeroPadded, OfATextLeavesWhatIsNoNumber) {
     EXPECT_EQ(ZeroPadded("", 4), "");
 }
 
+TEST(NumberText, StandsBehindABlankOrItsSign) {
+    EXPECT_EQ(NumberText(0), " 0");
+    EXPECT_EQ(NumberText(120), " 120");
+    EXPECT_EQ(NumberText(-7), "-7");
+}
+
 TEST(InTemplate, RightAlignsTheNumberWithItsLeadingBlank) {
     EXPECT_EQ(InTemplate("@@@@@", 120), "  120");
     EXPECT_EQ(InTemplate("@@@@@@", 0), "     0");

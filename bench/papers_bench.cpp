@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+//
+// The papers of ten logs of 2,000 contacts, as the menu makes them. What they write stays in memory, so that waiting for the disk
+// is no part of it, and the printer takes no time. The yardstick reads the ten files into lines; that of the error list looks up
+// the countries that it must look up.
+#include <benchmark/benchmark.h>
+
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "country/lookup.h"
+#include "country/unknown.h"
+#include "disk/disk_files.h"
+#include "entry/frmMain.h"
+#include "frame/band_mode.h"
+#include "frame/station.h"
+#include "logbook/log_file.h"
+#include "logbook/qso_line.h"
+#include "platform/page.h"
+#include "platform/program.h"
+#include "program.h"
+#include "reports/logs.h"
+#include "sample.h"
+#include "scoring/points.h"
+
+namespace vatro::bench {
+
+namespace {
+
+constexpr std::size_t kContacts = 2000;
+/// The check sheet has room for a hundred.
+constexpr int kCountries = 80;
+
+/// A printer on which everything fits and nothing is kept.
+class NoPrinter : public PageDevice {
+public:
+    double Width() const override { return 595; }
+    double Height() const override { return 842; }
+    double TextWidth(std::string_view text, const Font& font) const override { return 0.6 * font.size * static_cast<double>(text.size()); }
+    double TextHeight(const Font& font) const override { return 1.2 * font.size; }
+    void BeginJob() override {}
+    void Place(double, double, const Font&, std::string_view text) override { printed += text.size(); }
+    void NextPage() override {}
+    void EndJob() override {}
+    std::size_t printed = 0;
+};
+
+/// Reads from the disk; of what is written one piece at a time is kept in memory.
+class ReadingFiles : public DiskFiles {
+public:
+    void Open(int number, std::string_view path, FileMode mode) override {
+        if (mode == FileMode::Input) return DiskFiles::Open(number, path, mode);
+        piece_.clear();
+        lines = 0;
+    }
+    void PrintLine(int, std::string_view text) override {
+        constexpr std::size_t kPieceSize = 32'768;
+        if (piece_.size() > kPieceSize) piece_.clear();
+        piece_.append(text).append("\r\n");
+        ++lines;
+    }
+    /// Of the last file written.
+    std::size_t lines = 0;
+
+private:
+    std::string piece_;
+};
+
+/// A log without an error, of calls of the sample.
+std::vector<std::string> FaultlessLog(const std::vector<std::string>& sample, std::string_view mode) {
+    std::vector<std::string> log;
+    ResetLande();
+    giMult = 0;
+    for (const std::string& line : sample) {
+        if (log.size() == kContacts) break;
+        Qso qso;
+        qso.call = kCall.TrimmetAf(line);
+        LandWkd(qso.call, qso.multiplier, Handling::Test);
+        if (giMult == kCountries && !qso.multiplier.empty()) continue;
+        BeregnPoint(qso.call);
+        LandWkd(qso.call, qso.multiplier, Handling::Op);
+        qso.point = giQSOPoint;
+        qso.tid = kTid.Af(line);
+        qso.rstSendt = qso.rstModtaget = mode == "CW" ? "599" : "59";
+        qso.nrSendt = kNrSendt.Af(line);
+        qso.nrModtaget = kNrModtaget.Af(line);
+        qso.operatør = "OZ1QN";
+        qso.qsoMode = mode;
+        qso.dato = kDato.Af(line);
+        log.push_back(QsoLine(qso, mode));
+    }
+    return log;
+}
+
+/// The program with its ten logs.
+class Station {
+public:
+    Station() : program_({}), printer_(noPrinter_) {
+        static const std::vector<std::string> sample = SampleLog();
+        const Platform& had = platform();
+        InstallPlatform({had.front, had.dialogs, had.settings, files, had.clock, had.help, had.instance, had.sound, printer_, had.version});
+        for (const BåndMode& log : kTiLogge) WriteLines(Path(log), FaultlessLog(sample, log.mode));
+    }
+    static std::string Path(const BåndMode& log) { return LogSti(log.bånd, log.mode); }
+    static void Choose(MenuItem& item) {
+        Dispatch([&item] { item.Choose(); });
+    }
+    std::size_t Printed() const { return noPrinter_.printed; }
+    ReadingFiles files;
+
+private:
+    Program program_;
+    NoPrinter noPrinter_;
+    PageSurface printer_;
+};
+
+std::vector<std::string> Lines(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(in, line);) lines.push_back(line);
+    return lines;
+}
+
+void ReadTen(benchmark::State& state) {
+    const Station station;
+    for (auto _ : state) {
+        for (const BåndMode& log : kTiLogge)
+            if (Lines(Station::Path(log)).size() != kContacts) return state.SkipWithError("a log was not read");
+    }
+}
+
+/// What one entry of the menu makes. `lines` is how many the file written last must have, `printed` how many characters the
+/// printer must get at least.
+void MakePaper(benchmark::State& state, MenuItem MainMenu::*entry, std::size_t lines, std::size_t printed) {
+    const Station station;
+    state.SetLabel("vs ten files into lines, at most 6");
+    for (auto _ : state) Station::Choose((*frmMain).*entry);
+    if (!ProgramRuns()) return state.SkipWithError("the paper stopped the program");
+    if (station.files.lines != lines || station.Printed() < printed) state.SkipWithError("another paper was made");
+}
+
+void LookUp(benchmark::State& state) {
+    const Station station;
+    std::vector<std::vector<std::string>> calls;
+    for (const BåndMode& log : kTiLogge) {
+        calls.emplace_back();
+        for (const std::string& line : Lines(Station::Path(log))) calls.back().emplace_back(kCall.TrimmetAf(line));
+    }
+    std::string land;
+    for (auto _ : state) {
+        for (const std::vector<std::string>& log : calls) {
+            ResetLande();
+            for (const std::string& call : log) LandWkd(call, land, Handling::Op);
+        }
+        benchmark::DoNotOptimize(land.data());
+    }
+}
+
+void ListErrors(benchmark::State& state) {
+    const Station station;
+    state.SetLabel("vs country lookups of ten logs, at most 2");
+    for (auto _ : state) Station::Choose(frmMain->mnuFilerDanFejlliste);
+    // Of each log its heading and that it is faultless.
+    if (station.files.lines != 2 + 4 * kTiLogge.size()) state.SkipWithError("errors were found");
+}
+
+constexpr std::size_t kAll = kContacts * kTiLogge.size();
+
+BENCHMARK(ReadTen)->Name("ten files into lines")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MakePaper, sheets, &MainMenu::mnuEfterAlt, 26, 0)->Name("sheets, check sheet, summary")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MakePaper, page, &MainMenu::mnuFilerDanHtml, 5 + 10 * 8 + kAll + 26, 0)->Name("web page")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MakePaper, adif, &MainMenu::mnuFilerEksportAdif, 1 + kAll, 0)->Name("ADIF file")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MakePaper, print, &MainMenu::mnuUdskrivAlt, 0, kAll * 80)->Name("papers printed")->Unit(benchmark::kMillisecond);
+BENCHMARK(LookUp)->Name("country lookups of ten logs")->Unit(benchmark::kMillisecond);
+BENCHMARK(ListErrors)->Name("error list of ten logs")->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace vatro::bench

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+//
+// How papers show their progress: in frmInfo, which stays open, with what it lists, until the user closes it.
+#pragma once
+
+#include <string_view>
+
+namespace vatro {
+
+/// Shows the window under this title.
+void VisForløb(std::string_view titel);
+/// Adds a step to its list and paints it.
+void TilføjForløb(std::string_view trin);
+
+}  // namespace vatro

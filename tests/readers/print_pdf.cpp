@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+//
+//   vatro-print-pdf WORLD FILE.pdf
+//
+// Starts the program in its window, in a world that a scenario has left, chooses the entry that prints all papers, and
+// lets the printer of the window write them to the file.
+#include <QApplication>
+#include <cstdio>
+#include <stdexcept>
+
+#include "disk/disk_files.h"
+#include "entry/frmMain.h"
+#include "frame/start.h"
+#include "platform/program.h"
+#include "qt/application.h"
+#include "qt/deliver.h"
+#include "qt/printer.h"
+#include "qt/window_driver.h"
+#include "replay/scene_clock.h"
+#include "replay/scene_sound.h"
+#include "replay/settings_store.h"
+#include "replay/world.h"
+#include "text/codepage.h"
+
+namespace vatro {
+
+namespace {
+
+/// Nobody sits at the program: a box would wait for ever, so it ends the run.
+class Unattended : public Dialogs, public Instance, public Help {
+public:
+    Answer Show(const MessageBox& box) override { throw std::runtime_error("a box: " + ToUtf8(box.text)); }
+    std::string SaveFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    std::string OpenFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    void SetUpPrinter() override { throw RunTimeError(Failure::Cancelled); }
+    void ShowFailure(const RunTimeError& failure) override {
+        throw std::runtime_error("run-time failure " + std::to_string(failure.Number()));
+    }
+    bool AnotherCopyRuns() override { return false; }
+    void Show(std::string_view) override {}
+};
+
+void PrintAll(const std::string& directory, const QString& pdf) {
+    const World world(directory);
+    DiskFiles files([&world](std::string_view path) { return world.Found(path); }, World::kSeparator,
+                    std::string(World::kCurrentDirectory));
+    SettingsStore settings(world.SettingsFile());
+    SceneClock clock;
+    SceneSound sound(clock);
+    Unattended unattended;
+    QtPrinter pages;
+    pages.Device().setOutputFormat(QPrinter::PdfFormat);
+    pages.Device().setOutputFileName(pdf);
+    PageSurface printer(pages);
+    WindowDriver driver;
+    InstallPlatform({driver.ProgramFront(),
+                     unattended,
+                     settings,
+                     files,
+                     clock,
+                     unattended,
+                     unattended,
+                     sound,
+                     printer,
+                     {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
+    BeginProgram();
+    Deliver([] { StartProgram(); });
+    driver.Settle();
+    driver.Choose(frmMain->mnuUdskrivAlt);
+    driver.Settle();
+    EndProgram();
+    driver.Settle();
+}
+
+}  // namespace
+
+}  // namespace vatro
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::fputs("usage: vatro-print-pdf WORLD FILE.pdf\n", stderr);
+        return 2;
+    }
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    vatro::PrepareApplication();
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
+    try {
+        vatro::PrintAll(argv[1], QString::fromLocal8Bit(argv[2]));
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,299 @@
+// SPDX-License-Identifier: MIT
+#include "replay/scene_sound.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+#include <utility>
+
+#include "platform/forms.h"
+#include "platform/program.h"
+#include "running_program.h"
+#include "text/errors.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr int kBytes = 88200;
+constexpr WaveFormat kFormat{
+    .formatTag = 1, .channels = 1, .samplesPerSecond = 44100, .bytesPerSecond = 88200, .blockAlign = 2, .bitsPerSample = 16};
+
+using Samples = std::vector<std::int16_t>;
+
+/// 44,100 different samples would not fit; these differ within each half.
+Samples Ramp(int first) {
+    Samples image(kBytes / 2);
+    std::iota(image.begin(), image.end(), static_cast<std::int16_t>(first));
+    return image;
+}
+
+class FrmSound : public Form {
+public:
+    FrmSound() : Form("frmSound", FormKind::Dialog, "Sound") {}
+};
+
+FormSlot<FrmSound> frmSound{"frmSound"};
+
+}  // namespace
+
+/// A program with a card, in the middle of its run.
+class SceneCard : public RunningProgram {
+protected:
+    SceneCard() {
+        BeginProgram();
+        Dispatch([] { frmSound.Load(); });
+        for (const int half : {0, 1})
+            events_[half] = card.CreateEvent([this, half](SoundEvent) {
+                run.emplace_back(half, scene.Passed());
+                if (react) react(half);
+            });
+        device_ = card.CreateDevice();
+        buffer = NewBuffer();
+    }
+    std::unique_ptr<SoundBuffer> NewBuffer() {
+        auto made = device_->CreateBuffer({.flags = 0x10100, .bytes = kBytes}, kFormat);
+        const PositionNotification positions[]{{44099, events_[0]}, {88199, events_[1]}};
+        made->SetNotificationPositions(positions);
+        return made;
+    }
+    void Fill(const Samples& image) { buffer->Write(0, kBytes, image); }
+    /// Lets time pass, with what falls due delivered at its moment.
+    void Pass(Moment milliseconds) {
+        const Moment until = scene.Passed() + milliseconds;
+        while (const auto due = card.NextDue()) {
+            if (*due > until) break;
+            scene.MoveTo(*due);
+            card.DeliverNext();
+        }
+        scene.MoveTo(until);
+    }
+    using Run = std::vector<std::pair<int, Moment>>;
+
+    SceneClock scene;
+    SceneSound card{scene};
+    std::unique_ptr<SoundBuffer> buffer;
+    /// The events that have run: which half, and when.
+    Run run;
+    std::function<void(int half)> react;
+    SoundEvent events_[2]{};
+
+private:
+    std::unique_ptr<SoundDevice> device_;
+};
+
+TEST_F(SceneCard, IsSilentUntilItPlays) {
+    Fill(Ramp(0));
+    Pass(2000);
+    EXPECT_EQ(card.TakeHeard(), Samples{});
+    EXPECT_EQ(run, Run{});
+}
+
+TEST_F(SceneCard, PlaysInTheScenariosTimeToTheSample) {
+    Fill(Ramp(0));
+    buffer->PlayLooping();
+    // 3 ms are 132.3 samples.
+    Pass(3);
+    const Samples heard = card.TakeHeard();
+    ASSERT_EQ(heard.size(), 132U);
+    EXPECT_EQ(heard.front(), 0);
+    EXPECT_EQ(heard.back(), 131);
+    // 4 ms are 176.4.
+    Pass(1);
+    EXPECT_EQ(card.TakeHeard().size(), 44U);
+}
+
+TEST_F(SceneCard, NothingIsHeardWhileTheClockStands) {
+    Fill(Ramp(0));
+    buffer->PlayLooping();
+    EXPECT_EQ(card.TakeHeard(), Samples{});
+}
+
+TEST_F(SceneCard, EventsRunWhenAHalfHasBeenPlayed) {
+    buffer->PlayLooping();
+    Pass(499);
+    EXPECT_EQ(run, Run{});
+    Pass(1);
+    EXPECT_EQ(run, (Run{{0, 500}}));
+    Pass(1600);
+    EXPECT_EQ(run, (Run{{0, 500}, {1, 1000}, {0, 1500}, {1, 2000}}));
+}
+
+TEST_F(SceneCard, HalfSecondHasHeardItsHalfWhenItsEventRuns) {
+    Fill(Ramp(0));
+    buffer->PlayLooping();
+    std::size_t heard = 0;
+    react = [&](int) { heard = card.TakeHeard().size(); };
+    Pass(500);
+    EXPECT_EQ(heard, 22050U);
+}
+
+TEST_F(SceneCard, GoesRoundAndPlaysTheSameAgain) {
+    Fill(Ramp(7));
+    buffer->PlayLooping();
+    Pass(1001);
+    const Samples heard = card.TakeHeard();
+    ASSERT_EQ(heard.size(), 44144U);
+    EXPECT_EQ(heard[44099], static_cast<std::int16_t>(44106));
+    EXPECT_EQ(heard[44100], 7);
+    EXPECT_EQ(heard[44143], 50);
+}
+
+TEST_F(SceneCard, WhatIsWrittenWhileItPlaysIsHeardInItsTurn) {
+    Fill(Samples(kBytes / 2, 1));
+    buffer->PlayLooping();
+    react = [&](int half) {
+        const Samples image(kBytes / 2, static_cast<std::int16_t>(half + 2));
+        buffer->Write(half * 44100, 44100, image);
+    };
+    Pass(2000);
+    const Samples heard = card.TakeHeard();
+    ASSERT_EQ(heard.size(), 88200U);
+    // The first half is filled anew while the second one sounds.
+    EXPECT_EQ(std::count(heard.begin(), heard.begin() + 44100, 1), 44100);
+    EXPECT_EQ(std::count(heard.begin() + 44100, heard.begin() + 66150, 2), 22050);
+    EXPECT_EQ(std::count(heard.begin() + 66150, heard.end(), 3), 22050);
+}
+
+TEST_F(SceneCard, WritingChangesOnlyTheBytesNamed) {
+    Fill(Samples(kBytes / 2, 1));
+    buffer->Write(100, 20, Samples(kBytes / 2, 9));
+    buffer->PlayLooping();
+    Pass(10);
+    const Samples heard = card.TakeHeard();
+    EXPECT_EQ(heard[49], 1);
+    EXPECT_EQ(heard[50], 9);
+    EXPECT_EQ(heard[59], 9);
+    EXPECT_EQ(heard[60], 1);
+}
+
+TEST_F(SceneCard, StopIsSilentAtOnceAndRunsNoMoreEvents) {
+    Fill(Ramp(0));
+    buffer->PlayLooping();
+    Pass(499);
+    buffer->Stop();
+    Pass(1000);
+    EXPECT_EQ(card.TakeHeard().size(), 22005U);
+    EXPECT_EQ(run, Run{});
+}
+
+TEST_F(SceneCard, PlayGoesOnWhereItStopped) {
+    Fill(Ramp(0));
+    buffer->PlayLooping();
+    Pass(400);
+    buffer->Stop();
+    Pass(5000);
+    card.TakeHeard();
+    buffer->PlayLooping();
+    Pass(150);
+    EXPECT_EQ(card.TakeHeard().front(), 17640);
+    EXPECT_EQ(run, (Run{{0, 5500}}));
+}
+
+TEST_F(SceneCard, PlayOfOneThatPlaysChangesNothing) {
+    Fill(Ramp(0));
+    buffer->PlayLooping();
+    Pass(300);
+    buffer->PlayLooping();
+    Pass(200);
+    EXPECT_EQ(card.TakeHeard().size(), 22050U);
+    EXPECT_EQ(run, (Run{{0, 500}}));
+}
+
+TEST_F(SceneCard, PositionSetWhileItPlaysGoesOnThereAtOnce) {
+    Fill(Ramp(0));
+    buffer->PlayLooping();
+    Pass(400);
+    buffer->SetCurrentPosition(0);
+    Pass(400);
+    const Samples heard = card.TakeHeard();
+    ASSERT_EQ(heard.size(), 35280U);
+    EXPECT_EQ(heard[17640], 0);
+    EXPECT_EQ(run, Run{});
+    Pass(100);
+    EXPECT_EQ(run, (Run{{0, 900}}));
+}
+
+TEST_F(SceneCard, PositionCountsInBytes) {
+    Fill(Ramp(0));
+    buffer->SetCurrentPosition(44100);
+    buffer->PlayLooping();
+    Pass(500);
+    EXPECT_EQ(card.TakeHeard().front(), 22050);
+    EXPECT_EQ(run, (Run{{1, 500}}));
+}
+
+TEST_F(SceneCard, BufferThatGoesFallsSilent) {
+    Fill(Ramp(0));
+    buffer->PlayLooping();
+    Pass(100);
+    buffer.reset();
+    Pass(1000);
+    EXPECT_EQ(card.TakeHeard().size(), 4410U);
+    EXPECT_EQ(run, Run{});
+}
+
+TEST_F(SceneCard, SecondBufferIsHeardBehindTheFirst) {
+    Fill(Samples(kBytes / 2, 1));
+    buffer->PlayLooping();
+    Pass(100);
+    buffer = nullptr;
+    buffer = NewBuffer();
+    Fill(Samples(kBytes / 2, 2));
+    Pass(100);
+    buffer->PlayLooping();
+    Pass(500);
+    const Samples heard = card.TakeHeard();
+    ASSERT_EQ(heard.size(), 4410U + 22050U);
+    EXPECT_EQ(heard[4409], 1);
+    EXPECT_EQ(heard[4410], 2);
+    EXPECT_EQ(run, (Run{{0, 700}}));
+}
+
+TEST_F(SceneCard, DestroyedEventDoesNotRun) {
+    buffer->PlayLooping();
+    card.DestroyEvent(events_[0]);
+    Pass(1100);
+    EXPECT_EQ(run, (Run{{1, 1000}}));
+}
+
+TEST_F(SceneCard, CallbackMayStopTheBufferAndDestroyItsOwnEvent) {
+    buffer->PlayLooping();
+    react = [&](int half) {
+        card.DestroyEvent(events_[half]);
+        buffer = nullptr;
+    };
+    Pass(3000);
+    EXPECT_EQ(run, (Run{{0, 500}}));
+}
+
+TEST_F(SceneCard, EveryEventHasAHandleOfItsOwnAndGetsIt) {
+    EXPECT_NE(events_[0], 0);
+    EXPECT_NE(events_[0], events_[1]);
+    SoundEvent got = 0;
+    const SoundEvent third = card.CreateEvent([&](SoundEvent event) { got = event; });
+    const PositionNotification position[]{{0, third}};
+    buffer->SetNotificationPositions(position);
+    buffer->PlayLooping();
+    Pass(1);
+    EXPECT_EQ(got, third);
+}
+
+TEST_F(SceneCard, WithoutACardThereIsNoDevice) {
+    card.SetCard(false);
+    try {
+        card.CreateDevice();
+        FAIL() << "a device without a card";
+    } catch (const RunTimeError& failure) {
+        EXPECT_EQ(failure.Number(), static_cast<int>(Failure::DeviceUnavailable));
+    }
+}
+
+TEST_F(SceneCard, FormatThatItCannotPlayIsAnInvalidCall) {
+    const auto device = card.CreateDevice();
+    WaveFormat stereo = kFormat;
+    stereo.channels = 2;
+    EXPECT_THROW(device->CreateBuffer({.bytes = kBytes}, stereo), RunTimeError);
+}
+
+}  // namespace vatro

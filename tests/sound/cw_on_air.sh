@@ -1,0 +1,93 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+#   with_sound_card.sh cw_on_air.sh VATRO DATA WPM TEXT
+#
+# Starts the program on a screen of its own, in CW and at this speed, with the tables of the directory DATA. Presses F5, records
+# what the card plays, and has a decoder that knows nothing of the program read it: it must read TEXT. Exit code 77 if the
+# programs it takes are missing.
+set -euo pipefail
+vatro=$1 data=$2 wpm=$3 text=$4
+
+for program in Xvfb xdotool sox multimon-ng; do
+    command -v $program >/dev/null || { echo "skipped: $program is not installed"; exit 77; }
+done
+
+mkdir -p "$HOME/log" "$HOME/tables" "$XDG_CONFIG_HOME/vatro"
+cp "$data"/*.txt "$HOME/tables/"
+cat >"$XDG_CONFIG_HOME/vatro/vatro.ini" <<SETTINGS
+[Settings]
+gsLogLib=$HOME/log
+MyCall=OZ1AB
+LastOP=OZ1AB
+Mode=CW
+QsoMode=CW
+VisInfo2002=False
+
+[CW]
+WPM=$wpm
+Tone=800
+SETTINGS
+
+screen= program= recorder=
+finish() { kill $program $recorder $screen 2>/dev/null || true; }
+trap finish EXIT
+fail() {
+    echo "$1"
+    cat "$HOME/vatro.err"
+    exit 1
+}
+
+# It finds a free number for its display by itself, and tells it when it is ready.
+mkfifo "$HOME/display"
+Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>"$HOME/display" 2>"$HOME/vatro.err" &
+screen=$!
+read -r number <"$HOME/display" || fail "there is no screen"
+export DISPLAY=:$number
+
+cd "$HOME/tables"
+QT_QPA_PLATFORM=xcb "$vatro" 2>"$HOME/vatro.err" &
+program=$!
+# Waits for a window of this caption, or for its end.
+shown() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
+wait_for() {
+    for _ in $(seq "$2"); do
+        [ -z "$(shown "$1")" ] || return 0
+        sleep 0.1
+    done
+    return 1
+}
+main='^Vatro OZ1AB$'
+wait_for "$main" 200 || fail "the main window does not come"
+# There is nobody else on the screen to give it the keys.
+for _ in $(seq 50); do
+    [ "$(xdotool getwindowfocus 2>/dev/null)" != "$(shown "$main")" ] || break
+    xdotool windowfocus "$(shown "$main")" || true
+    sleep 0.1
+done
+
+parec -d prove.monitor --format=s16le --rate=44100 --channels=1 --raw --latency-msec=50 >"$HOME/heard.raw" &
+recorder=$!
+sleep 0.5
+xdotool key F5
+wait_for '^CW TX$' 50 || fail "the window that sends does not come"
+ended=
+for _ in $(seq 600); do
+    kill -0 "$program" || fail "the program has ended"
+    if [ -z "$(shown '^CW TX$')" ]; then
+        ended=yes
+        break
+    fi
+    sleep 0.1
+done
+[ -n "$ended" ] || fail "the send does not come to an end"
+sleep 1
+kill "$recorder"
+wait "$recorder" || true
+
+# The decoder takes the samples for half as many a second, and so sees half the speed and half the pitch.
+dot=$(((2400 + wpm / 2) / wpm))
+read_=$(sox -t raw -e signed -b 16 -c 1 -r 44100 "$HOME/heard.raw" -t raw -e signed -b 16 -c 1 - pad 1 1 |
+    multimon-ng -q -c -a MORSE_CW -y -d $dot -g $dot -t raw - | tr -d '\n' | sed 's/^ *//; s/ *$//')
+echo "read: $read_"
+[ "$read_" = "$text" ] || fail "sent: $text"
