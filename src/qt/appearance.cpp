@@ -79,14 +79,15 @@ void Appearance::SetTextSize(int step) {
 void Appearance::Apply() {
     // An empty palette is that of the desktop, light or dark.
     QApplication::setPalette(Sun() ? SunPalette() : QPalette());
-    QList<QWidget*> widgets = window_.findChildren<QWidget*>();
-    widgets.prepend(&window_);
-    for (QWidget* widget : widgets) {
+    QList<QWidget*> widgets{&window_};
+    for (QWidget* widget : window_.findChildren<QWidget*>())
         // Other windows above this one keep their text.
-        if (widget != &window_ && widget->window() != &window_ && qobject_cast<QMenu*>(widget) == nullptr) continue;
-        QVariant own = widget->property(kOwnFont);
-        if (!own.isValid()) widget->setProperty(kOwnFont, own = widget->font());
-        QFont font = own.value<QFont>();
+        if (widget->window() == &window_ || qobject_cast<QMenu*>(widget) != nullptr) widgets.append(widget);
+    // All of them before the first is changed: a font is handed down.
+    for (QWidget* widget : widgets)
+        if (!widget->property(kOwnFont).isValid()) widget->setProperty(kOwnFont, widget->font());
+    for (QWidget* widget : widgets) {
+        QFont font = widget->property(kOwnFont).value<QFont>();
         font.setPointSizeF(font.pointSizeF() * (1 + kStep * step_));
         if (Sun()) font.setBold(true);
         widget->setFont(font);

@@ -30,11 +30,13 @@ TEST_F(AppearanceOfTheWindow, SunIsBlackOnWhiteAndBoldAndIsRemembered) {
     StartVatro();
     const QPalette usual = QApplication::palette();
     Sun().trigger();
+    driver.Settle();
     EXPECT_EQ(Window().palette().color(QPalette::Window), QColor(Qt::white));
     EXPECT_EQ(Call().palette().color(QPalette::Text), QColor(Qt::black));
     EXPECT_TRUE(WidgetOf<QWidget>(frmMain->List1).font().bold());
     EXPECT_EQ(settings.Read("Settings", "Solskin"), "True");
     Sun().trigger();
+    driver.Settle();
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), usual.color(QPalette::Window));
     EXPECT_FALSE(WidgetOf<QWidget>(frmMain->List1).font().bold());
     EXPECT_EQ(settings.Read("Settings", "Solskin"), "False");
