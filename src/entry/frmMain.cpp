@@ -12,6 +12,7 @@
 #include "entry/qso_fields.h"
 #include "entry/validation.h"
 #include "exchange/backup.h"
+#include "exchange/frmVisTekst.h"
 #include "frame/band_mode.h"
 #include "frame/settings.h"
 #include "frame/station.h"
@@ -148,6 +149,7 @@ void FrmMain::Form_Load() {
     IndlæsLogfil();
     LæsOperatører(Combo1, gsOperatør.Padded());
     ResetQSO();
+    if (gbVisInfo) VisStartInfo();
     // Again, so that the time spent loading does not shift the clock.
     if (gbAutoTid == 1) TimerStart();
 }

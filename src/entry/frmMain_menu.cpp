@@ -16,7 +16,14 @@
 #include "entry/frmQSOnr.h"
 #include "entry/frmUTC.h"
 #include "entry/validation.h"
+#include "exchange/FormQuickInfo.h"
+#include "exchange/backup.h"
+#include "exchange/ct_import.h"
 #include "exchange/equipment.h"
+#include "exchange/frmAbout.h"
+#include "exchange/frmStregP.h"
+#include "exchange/frmVisTekst.h"
+#include "exchange/help.h"
 #include "frame/band_mode.h"
 #include "frame/settings.h"
 #include "frame/station.h"
@@ -47,6 +54,9 @@ void FrmMain::BindMenu() {
         IndlæsLogfil();
         ResetQSO();
     };
+    mnuFilerBackupUdfor.Click = BackupUdfør;
+    mnuFilerBackupSetBibliotek.Click = SetBackupLib;
+    mnuFilerDiskettekopi.Click = Diskettekopi;
     mnuFileExit.Click = [this] { Unload(); };
 
     mnuVisQSOnr.Click = [this] { SkiftVindue(mnuVisQSOnr, frmQSOnr); };
@@ -70,10 +80,17 @@ void FrmMain::BindMenu() {
     mnuIndstillingerKlokken.Click = SkiftAutoTid;
     mnuFunktionerNote.Click = IndsætNote;
     mnuFunktionerVisLand.Click = VisLandNu;
+    mnuFunktionerStregP.Click = [] { frmStregP->Show(); };
     mnuFunktionerImporterCTY.Click = ImporterCtyMenu;
+    mnuFunktionerImporterCtAll.Click = ImporterCtMenu;
 
     for (MenuItem& punkt : mnuCWTXT) punkt.Click = [&punkt] { SendCW(CWTekster[static_cast<std::size_t>(punkt.Index())]); };
     mnuCWInstillinger.Click = [] { frmCW->ShowModal(); };
+
+    mnuHjælpIndhold.Click = VisHjælpIndhold;
+    mnuHjælpQuickInfo.Click = [] { formQuickInfo->ShowModal(); };
+    mnuHelpStartInfo.Click = VisStartInfo;
+    mnuHelpAbout.Click = [] { frmAbout->ShowModal(); };
     BindPapirer();
 }
 

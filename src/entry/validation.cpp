@@ -31,25 +31,16 @@ namespace {
 /// as base call for the station.
 void LogQSO(const std::string& tid) {
     FrmMain& main = *frmMain;
-    const std::string call = main.Text1[1].Text();
-
     Qso qso;
-    LandWkd(call, qso.multiplier, Handling::Op);
-    EDRstnWkd(gsCall, Handling::Op);
-    BeregnPoint(call);
+    qso.call = main.Text1[1].Text();
+    BedømQSO(qso, gsCall);
     qso.tid = tid;
-    qso.call = call;
     qso.rstSendt = main.Text1[2].Text();
     qso.nrSendt = main.Text1[3].Text();
     qso.rstModtaget = main.Text1[4].Text();
     qso.nrModtaget = main.Text1[5].Text();
-    // The country stays marked and counted, even if this contact has marked it.
-    if (gbDupe) {
-        giQSOPoint = 0;
-        qso.multiplier = kDupeMærke;
-    }
     std::string status;
-    LandStatusTekst(call, status);
+    LandStatusTekst(qso.call, status);
     if (ErUkendt(status)) giQSOPoint = 0;
     qso.point = giQSOPoint;
     qso.operatør = Trim(main.Combo1.Text());
@@ -60,11 +51,7 @@ void LogQSO(const std::string& tid) {
 
     const std::string linje = QsoLine(qso, gsMode);
     if (ErUkendt(status)) GemUkendt(linje);
-    AppendLog(linje);
-    main.List1.AddItem(linje);
-    main.List1.SetListIndex(main.List1.ListCount() - 1);
-    glPoint = ToInt32(static_cast<double>(glPoint) + giQSOPoint);
-    VisStilling();
+    BogførQSO(linje);
     ResetQSO();
 }
 
@@ -103,6 +90,23 @@ void ValiderQSO() {
     // The clock may have moved the field on while a question was open.
     if (const auto klokken = ParseTime(main.Text1[0].Text())) tid = FormatTime(klokken->hour, klokken->minute);
     LogQSO(tid);
+}
+
+void BedømQSO(Qso& qso, std::string& edr) {
+    LandWkd(qso.call, qso.multiplier, Handling::Op);
+    EDRstnWkd(edr, Handling::Op);
+    BeregnPoint(qso.call);
+    if (gbDupe) {
+        giQSOPoint = 0;
+        qso.multiplier = kDupeMærke;
+    }
+    qso.point = giQSOPoint;
+}
+
+void BogførQSO(const std::string& linje) {
+    LogLinje(linje);
+    glPoint = ToInt32(static_cast<double>(glPoint) + giQSOPoint);
+    VisStilling();
 }
 
 void ResetQSO() {

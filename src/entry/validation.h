@@ -7,11 +7,20 @@
 #include <string>
 #include <string_view>
 
+#include "logbook/qso_line.h"
+
 namespace vatro {
 
 /// Checks the entry and logs it. Stops at the first fault with a message and the focus on the field at fault. A band or
 /// mode word in the call field changes band or mode instead.
 void ValiderQSO();
+
+/// What an accepted contact is worth, by its call as logged: marks its country as worked, and the society's station of the call
+/// `edr`, which is cut to six characters, and sets giQSOPoint and the contact's multiplier and points. A duplicate has no points
+/// and "-DUPE-"; its country stays marked and counted all the same.
+void BedømQSO(Qso& qso, std::string& edr);
+/// The line of the contact goes to file and list, giQSOPoint to the counters and the status bar.
+void BogførQSO(const std::string& linje);
 
 /// Makes the form ready for the next contact: the next serial number, default reports, an empty call. Also after every
 /// load of a log, so that each log goes on with its own numbers.

@@ -5,6 +5,7 @@
 
 #include "entry/frmMain.h"
 #include "entry/validation.h"
+#include "frame/station.h"
 #include "logbook/log_file.h"
 #include "platform/platform.h"
 #include "platform/program.h"
@@ -119,9 +120,7 @@ void SetLogLib() {
 
         filer.Open(1, fil, FileMode::Output);
         filer.Close(1);
-        const std::size_t skel = fil.find_last_of(filer.Separator());
-        if (skel == std::string::npos) throw RunTimeError(Failure::InvalidCall);
-        gsLogLib = fil.substr(0, skel);
+        gsLogLib = BibliotekAf(fil);
         MsgBox("Logbibliotek sat til: " + gsLogLib + filer.Separator());
         IndlæsLogfil();
     } catch (const RunTimeError&) {

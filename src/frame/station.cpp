@@ -29,6 +29,12 @@ std::string Sti(const std::string& bibliotek, std::string_view navn) {
     return sti;
 }
 
+std::string BibliotekAf(const std::string& sti) {
+    const std::size_t skel = sti.find_last_of(platform().files.Separator());
+    if (skel == std::string::npos) throw RunTimeError(Failure::InvalidCall);
+    return sti.substr(0, skel);
+}
+
 void NulstilStation() {
     gsFDLib.clear();
     gsMyCall.clear();

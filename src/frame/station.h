@@ -32,6 +32,9 @@ std::string NuUTCTid();
 /// `navn` in the directory `bibliotek`.
 std::string Sti(const std::string& bibliotek, std::string_view navn);
 
+/// The directory in which a file lies, without a final separator. Fails with 5 if its path names none.
+std::string BibliotekAf(const std::string& sti);
+
 /// All state of a run as it is before the start.
 void NulstilStation();
 

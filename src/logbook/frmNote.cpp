@@ -36,10 +36,7 @@ void IndsætNote() {
     frmNote->Text1.SelectAll();
     frmNote->ShowModal();
     if (frmNote->Text1.Text().empty()) return;
-    const std::string linje = NoteLinje();
-    AppendLog(linje);
-    frmMain->List1.AddItem(linje);
-    frmMain->List1.SetListIndex(frmMain->List1.ListCount() - 1);
+    LogLinje(NoteLinje());
 }
 
 void RetNote() {

@@ -60,14 +60,8 @@ void IndlæsLogfil() {
     Files& filer = platform().files;
     ListBox& log = frmMain->List1;
     const ListBox::Filling fylder(log);
-    log.Clear();
-    ResetLande();
-    ResetEDR();
-    giQSOnr = 0;
-    glPoint = 0;
-    giMult = 0;
     // Before the file is opened, so that the bar is right even if it cannot be read.
-    VisLog();
+    TømLog();
     try {
         filer.Open(1, AktuelLogSti(), FileMode::Input);
         while (!filer.EndOfFile(1)) {
@@ -81,6 +75,16 @@ void IndlæsLogfil() {
         return;
     }
     log.SetListIndex(log.ListCount() - 1);
+    VisLog();
+}
+
+void TømLog() {
+    frmMain->List1.Clear();
+    ResetLande();
+    ResetEDR();
+    giQSOnr = 0;
+    glPoint = 0;
+    giMult = 0;
     VisLog();
 }
 
@@ -98,6 +102,13 @@ void TilføjLinje(std::string_view fil, std::string_view linje) {
 
 void AppendLog(std::string_view linje) {
     TilføjLinje(LogNavn(gsBand, gsMode), linje);
+}
+
+void LogLinje(const std::string& linje) {
+    AppendLog(linje);
+    ListBox& log = frmMain->List1;
+    log.AddItem(linje);
+    log.SetListIndex(log.ListCount() - 1);
 }
 
 void SkrivLog() {

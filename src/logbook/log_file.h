@@ -28,9 +28,15 @@ std::string AktuelLogSti();
 /// read is the end of the log, without a word. The entry fields are not touched: callers run ResetQSO right after it.
 void IndlæsLogfil();
 
+/// Empties the list, the worked marks and the counters, and shows the current log as an empty one.
+void TømLog();
+
 /// Appends one line, contact or note, to the file of the current log; it is synced to the disk on return. A failure
 /// ends the program after one message.
 void AppendLog(std::string_view linje);
+
+/// AppendLog; then the line is the last of the list, and selected.
+void LogLinje(const std::string& linje);
 
 /// Appends a line to a file of the log directory, with the promise and the failure of AppendLog.
 void TilføjLinje(std::string_view fil, std::string_view linje);

@@ -57,6 +57,7 @@ enum class Aspect {
     Value,
     Items,
     ItemAdded,
+    ItemRemoved,
     ItemChanged,
     ListIndex,
     Look,

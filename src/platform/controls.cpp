@@ -215,6 +215,12 @@ void Frame::UseAccessLetter() {
     Parent().UserFocus(*accessTarget_);
 }
 
+// --- Picture
+
+void Picture::UserClicked() {
+    if (Enabled() && Click) Click();
+}
+
 // --- Button and CheckBox
 
 char Button::AccessLetter() const {
@@ -319,6 +325,10 @@ ListBox::ListBox(Form& form, std::string_view name, Font font, int columns)
     Revise();
 }
 
+ListBox::ListBox(Form& form, std::string_view name, Font font, ListOrder order) : ListBox(form, name, std::move(font)) {
+    order_ = order;
+}
+
 void ListBox::Revise() {
     static unsigned last = 0;
     revision_ = ++last;
@@ -337,9 +347,24 @@ void ListBox::SetList(int row, std::string_view text) {
 }
 
 void ListBox::AddItem(std::string text) {
-    items_.push_back(std::move(text));
+    // std::string compares characters as unsigned.
+    const auto place = order_ == ListOrder::Sorted ? std::upper_bound(items_.begin(), items_.end(), text) : items_.end();
+    const int row = static_cast<int>(place - items_.begin());
+    items_.insert(place, std::move(text));
+    if (listIndex_ >= row) ++listIndex_;
     Revise();
-    if (!filling_) Tell(Aspect::ItemAdded, ListCount() - 1);
+    if (!filling_) Tell(Aspect::ItemAdded, row);
+}
+
+void ListBox::RemoveItem(int row) {
+    if (row < 0 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
+    items_.erase(items_.begin() + row);
+    if (listIndex_ == row)
+        listIndex_ = -1;
+    else if (listIndex_ > row)
+        --listIndex_;
+    Revise();
+    if (!filling_) Tell(Aspect::ItemRemoved, row);
 }
 
 void ListBox::Clear() {

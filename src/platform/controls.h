@@ -60,6 +60,22 @@ private:
     Control* accessTarget_;
 };
 
+/// A picture of the handbook, stretched to the size of its place. Keys pass it by.
+class Picture : public Control {
+public:
+    Picture(Form& form, std::string_view name, std::string_view file) : Control(form, name), file_(file) {}
+    /// The name of its file.
+    const std::string& File() const { return file_; }
+
+    // From the front.
+
+    /// Runs Click if the picture is enabled.
+    void UserClicked();
+
+private:
+    std::string file_;
+};
+
 /// A button. As default button it is pressed by Enter in any control of the form but another button, as cancel button
 /// by Esc.
 class Button : public Control {

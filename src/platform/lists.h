@@ -13,10 +13,19 @@
 
 namespace vatro {
 
+/// Where an added row of a list box goes.
+enum class ListOrder {
+    /// To the end.
+    AsAdded,
+    /// Before the first row that is greater by character code.
+    Sorted
+};
+
 /// Rows of text of which one may be selected. Row numbers start at 0; no selection is -1.
 class ListBox : public Control {
 public:
     explicit ListBox(Form& form, std::string_view name, Font font = {}, int columns = 0);
+    ListBox(Form& form, std::string_view name, Font font, ListOrder order);
     bool TakesFocus() const override { return true; }
     const Font& ListFont() const { return font_; }
     /// Number of columns in which the rows run on, 0 for one row under the other.
@@ -28,10 +37,14 @@ public:
     const std::string& List(int row) const;
     /// Another number after every change of the rows; no two lists ever have the same.
     unsigned Revision() const { return revision_; }
+    /// The row stays in its place, in a sorted list too.
     void SetList(int row, std::string_view text);
+    /// The selection stays on its item.
     void AddItem(std::string text);
+    /// Fails with 5 if there is no such row. The selection stays on its item; it is gone if its item is.
+    void RemoveItem(int row);
     void Clear();
-    /// Keeps the mirror still until the end of a run of additions; a guard object of one procedure.
+    /// Keeps the mirror still until the end of a run of changes; a guard object of one procedure.
     class Filling {
     public:
         explicit Filling(ListBox& list);
@@ -62,6 +75,7 @@ private:
     unsigned revision_ = 0;
     Font font_;
     int columns_;
+    ListOrder order_ = ListOrder::AsAdded;
     int listIndex_ = -1;
     bool filling_ = false;
 };

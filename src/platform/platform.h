@@ -140,6 +140,7 @@ public:
 class Help {
 public:
     virtual ~Help() = default;
+    /// Opens the viewer at a page of the handbook and does not wait for it. Fails with 53 if there is no such page.
     virtual void Show(std::string_view path) = 0;
 };
 

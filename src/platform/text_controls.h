@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Controls that hold a line of text under editing.
+// Controls that hold text: a line of it under editing, or several lines to read.
 #pragma once
 
 #include <cstddef>
@@ -12,7 +12,7 @@
 
 namespace vatro {
 
-/// A control that holds a line of text under editing: a text field or the field of a combo box.
+/// A control that holds text with a caret in it: a text field, the field of a combo box, or a text to read.
 class TextControl : public Control {
 public:
     using Control::Control;
@@ -69,6 +69,13 @@ private:
 class TextBox : public TextControl {
 public:
     using TextControl::TextControl;
+};
+
+/// Several lines of text that the user reads, scrolls and copies from, but does not edit. Lines are ended by CR LF. Keys
+/// scroll and leave the caret where it is.
+class TextView : public TextControl {
+public:
+    TextView(Form& form, std::string_view name) : TextControl(form, name) { SetLocked(true); }
 };
 
 }  // namespace vatro

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Text fields and combo boxes.
+// Text fields, combo boxes and texts to read.
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <algorithm>
 
 #include "platform/forms.h"
 #include "qt/bind_common.h"
@@ -92,6 +94,60 @@ void Bind(TextBox& control, QLineEdit& widget, FormWindow& window) {
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
         FollowState(control, widget, aspect);
         FollowEditor(control, widget, aspect);
+    };
+}
+
+namespace {
+
+/// Qt's document has one character for a line end, the program's text two.
+int InDocument(std::string_view text, int at) {
+    return at - static_cast<int>(std::count(text.begin(), text.begin() + at, '\n'));
+}
+
+int InText(std::string_view text, int at) {
+    int here = 0;
+    for (; at > 0; --at) here += text[static_cast<std::size_t>(here)] == '\r' ? 2 : 1;
+    return here;
+}
+
+void PushSelection(const TextView& control, QPlainTextEdit& widget) {
+    const QSignalBlocker quiet(widget);
+    QTextCursor cursor = widget.textCursor();
+    cursor.setPosition(InDocument(control.Text(), control.SelStart()));
+    cursor.setPosition(InDocument(control.Text(), control.SelStart() + control.SelLength()), QTextCursor::KeepAnchor);
+    widget.setTextCursor(cursor);
+}
+
+void PushText(const TextView& control, QPlainTextEdit& widget) {
+    const QSignalBlocker quiet(widget);
+    widget.setPlainText(ToQt(control.Text()));
+}
+
+}  // namespace
+
+void Bind(TextView& control, QPlainTextEdit& widget, FormWindow& window) {
+    // Keys scroll, and the mouse selects what is to be copied.
+    widget.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    widget.setTabChangesFocus(true);
+    PushState(control, widget);
+    PushText(control, widget);
+    window.AddInput(control, widget, nullptr);
+    const auto moved = [&control, &widget] {
+        const QTextCursor cursor = widget.textCursor();
+        const int start = InText(control.Text(), cursor.selectionStart());
+        const int length = InText(control.Text(), cursor.selectionEnd()) - start;
+        if (start == control.SelStart() && length == control.SelLength()) return;
+        Deliver([&] { control.UserSelected(start, length); });
+    };
+    QObject::connect(&widget, &QPlainTextEdit::cursorPositionChanged, &window.Scope(), moved);
+    QObject::connect(&widget, &QPlainTextEdit::selectionChanged, &window.Scope(), moved);
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        FollowState(control, widget, aspect);
+        if (aspect == Aspect::Text) PushText(control, widget);
+        const QTextCursor cursor = widget.textCursor();
+        const bool same = cursor.selectionStart() == InDocument(control.Text(), control.SelStart()) &&
+                          cursor.selectionEnd() == InDocument(control.Text(), control.SelStart() + control.SelLength());
+        if (!same && (aspect == Aspect::Text || aspect == Aspect::Selection)) PushSelection(control, widget);
     };
 }
 

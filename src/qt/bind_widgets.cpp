@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Lists, buttons, boxes, labels and frames.
+// Lists, buttons, boxes, labels, pictures and frames.
 #include <QCheckBox>
 #include <QFontDatabase>
 #include <QFrame>
@@ -19,6 +19,7 @@
 #include "qt/deliver.h"
 #include "qt/fields.h"
 #include "qt/item_list.h"
+#include "qt/picture_view.h"
 #include "qt/text.h"
 #include "qt/window.h"
 
@@ -94,7 +95,12 @@ void FollowRows(const ListBox& control, ItemModel& model, ItemList& widget, Aspe
             PushRow(control, widget);
             break;
         case Aspect::ItemAdded:
-            model.Append();
+            model.Added(row);
+            break;
+        case Aspect::ItemRemoved:
+            // Of a selected row that goes, Qt would select the neighbour.
+            if (widget.currentIndex().row() == row) PushRow(control, widget);
+            model.Removed(row);
             break;
         case Aspect::ItemChanged:
             model.RowChanged(row);
@@ -265,6 +271,18 @@ void Bind(Label& control, QLabel& widget, FormWindow& /*window*/) {
 
 void Bind(Label& control, FittedText& widget, FormWindow& /*window*/) {
     BindText(control, widget);
+}
+
+void Bind(Picture& control, PictureView& widget, FormWindow& window) {
+    PushState(control, widget);
+    widget.SetPicture(ToQt(control.File()));
+    window.NameByCaption(widget);
+    QObject::connect(&widget, &PictureView::Clicked, &window.Scope(), [&control] {
+        Deliver([&] {
+            if (control.Parent().Reachable()) control.UserClicked();
+        });
+    });
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
 }
 
 void Bind(Label& control, ColumnHead& widget, FormWindow& /*window*/) {

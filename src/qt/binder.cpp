@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -21,6 +22,7 @@
 #include "qt/column_head.h"
 #include "qt/fields.h"
 #include "qt/item_list.h"
+#include "qt/picture_view.h"
 #include "qt/text.h"
 #include "qt/window.h"
 
@@ -40,11 +42,23 @@ bool BindPair(Control& control, QWidget& widget, FormWindow& window) {
 
 /// The pairs there are; a class stands before the one that it is derived from.
 constexpr bool (*kPairs[])(Control&, QWidget&, FormWindow&) = {
-    BindPair<TextBox, QLineEdit>,    BindPair<ComboBox, QComboBox>, BindPair<ListBox, ItemList>,
-    BindPair<Button, QPushButton>,   BindPair<CheckBox, QCheckBox>, BindPair<OptionButton, QRadioButton>,
-    BindPair<ScrollBar, QScrollBar>, BindPair<Label, FittedText>,   BindPair<Label, QLabel>,
-    BindPair<Label, ColumnHead>,     BindPair<Frame, QFrame>,       BindPair<Toolbar, QToolBar>,
-    BindPair<StatusBar, QStatusBar>, BindPair<UpDown, SpinArrows>,  BindPair<ProgressBar, QProgressBar>,
+    BindPair<TextBox, QLineEdit>,
+    BindPair<TextView, QPlainTextEdit>,
+    BindPair<Picture, PictureView>,
+    BindPair<ComboBox, QComboBox>,
+    BindPair<ListBox, ItemList>,
+    BindPair<Button, QPushButton>,
+    BindPair<CheckBox, QCheckBox>,
+    BindPair<OptionButton, QRadioButton>,
+    BindPair<ScrollBar, QScrollBar>,
+    BindPair<Label, FittedText>,
+    BindPair<Label, QLabel>,
+    BindPair<Label, ColumnHead>,
+    BindPair<Frame, QFrame>,
+    BindPair<Toolbar, QToolBar>,
+    BindPair<StatusBar, QStatusBar>,
+    BindPair<UpDown, SpinArrows>,
+    BindPair<ProgressBar, QProgressBar>,
 };
 
 bool HasWidget(const Control& control) {
@@ -93,7 +107,8 @@ bool Bindable(const QWidget& widget) {
     return qobject_cast<const QLineEdit*>(&widget) != nullptr || qobject_cast<const QComboBox*>(&widget) != nullptr ||
            qobject_cast<const QAbstractItemView*>(&widget) != nullptr || qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
            qobject_cast<const QLabel*>(&widget) != nullptr || qobject_cast<const QProgressBar*>(&widget) != nullptr ||
-           qobject_cast<const QScrollBar*>(&widget) != nullptr || qobject_cast<const ColumnHead*>(&widget) != nullptr;
+           qobject_cast<const QScrollBar*>(&widget) != nullptr || qobject_cast<const ColumnHead*>(&widget) != nullptr ||
+           qobject_cast<const QPlainTextEdit*>(&widget) != nullptr || qobject_cast<const PictureView*>(&widget) != nullptr;
 }
 
 /// Widgets of the layout that no control owns.

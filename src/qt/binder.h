@@ -13,6 +13,7 @@ class QComboBox;
 class QFrame;
 class QLabel;
 class QLineEdit;
+class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
 class QRadioButton;
@@ -32,22 +33,27 @@ class ItemList;
 class Label;
 class ListBox;
 class OptionButton;
+class Picture;
+class PictureView;
 class ProgressBar;
 class ScrollBar;
 class SpinArrows;
 class TextBox;
+class TextView;
 class UpDown;
 
 /// Ties all controls of the form, and sets the order of Tab.
 void BindForm(Form& form, FormWindow& window);
 
 void Bind(TextBox& control, QLineEdit& widget, FormWindow& window);
+void Bind(TextView& control, QPlainTextEdit& widget, FormWindow& window);
 void Bind(ComboBox& control, QComboBox& widget, FormWindow& window);
 void Bind(ListBox& control, ItemList& widget, FormWindow& window);
 void Bind(Button& control, QPushButton& widget, FormWindow& window);
 void Bind(UpDown& control, SpinArrows& widget, FormWindow& window);
 void Bind(ProgressBar& control, QProgressBar& widget, FormWindow& window);
 void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window);
+void Bind(Picture& control, PictureView& widget, FormWindow& window);
 void Bind(OptionButton& control, QRadioButton& widget, FormWindow& window);
 void Bind(ScrollBar& control, QScrollBar& widget, FormWindow& window);
 void Bind(Label& control, QLabel& widget, FormWindow& window);

@@ -158,7 +158,8 @@ bool Input::TakeKeyEvent(QKeyEvent& event) {
     if (key) return !TakeKey(*key);
     if (plain && TakeMove(event.key())) return true;
     // Qt walks from button to button with the arrows; the form knows only Tab.
-    return IsArrow(event.key()) && editor_ == nullptr && dynamic_cast<ListBox*>(control_) == nullptr;
+    const bool own = dynamic_cast<ListBox*>(control_) != nullptr || dynamic_cast<TextView*>(control_) != nullptr;
+    return IsArrow(event.key()) && editor_ == nullptr && !own;
 }
 
 bool Input::TakeMove(int key) {

@@ -25,12 +25,16 @@ void ItemModel::Reset() {
     endResetModel();
 }
 
-void ItemModel::Append() {
-    const int count = list_->ListCount();
-    if (count <= rows_) return;
-    beginInsertRows({}, rows_, count - 1);
-    rows_ = count;
+void ItemModel::Added(int row) {
+    beginInsertRows({}, row, row);
+    ++rows_;
     endInsertRows();
+}
+
+void ItemModel::Removed(int row) {
+    beginRemoveRows({}, row, row);
+    --rows_;
+    endRemoveRows();
 }
 
 void ItemModel::RowChanged(int row) {

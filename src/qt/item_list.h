@@ -21,8 +21,10 @@ public:
 
     /// The control has another set of rows.
     void Reset();
-    /// The control has more rows at the end.
-    void Append();
+    /// The control has one row more, and this is it.
+    void Added(int row);
+    /// The control has no longer the row that was this.
+    void Removed(int row);
     void RowChanged(int row);
     /// The control is going away; what is shown of it goes too.
     void Release();

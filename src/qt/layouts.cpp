@@ -4,7 +4,9 @@
 #include <map>
 #include <string>
 
+#include "ui_FormQuickInfo.h"
 #include "ui_FormRigAnt.h"
+#include "ui_frmAbout.h"
 #include "ui_frmAfslut.h"
 #include "ui_frmB4.h"
 #include "ui_frmCW.h"
@@ -20,7 +22,10 @@
 #include "ui_frmQSOnr.h"
 #include "ui_frmRetQSO.h"
 #include "ui_frmSplash.h"
+#include "ui_frmStregP.h"
+#include "ui_frmTilFloppy.h"
 #include "ui_frmUTC.h"
+#include "ui_frmVisTekst.h"
 
 namespace vatro {
 
@@ -33,7 +38,9 @@ void Make(QWidget* widget) {
 
 std::map<std::string, LayoutMaker, std::less<>>& Layouts() {
     static std::map<std::string, LayoutMaker, std::less<>> layouts{
+        {"FormQuickInfo", Make<Ui::FormQuickInfo>},
         {"FormRigAnt", Make<Ui::FormRigAnt>},
+        {"frmAbout", Make<Ui::frmAbout>},
         {"frmAfslut", Make<Ui::frmAfslut>},
         {"frmB4", Make<Ui::frmB4>},
         {"frmCW", Make<Ui::frmCW>},
@@ -49,7 +56,10 @@ std::map<std::string, LayoutMaker, std::less<>>& Layouts() {
         {"frmQSOnr", Make<Ui::frmQSOnr>},
         {"frmRetQSO", Make<Ui::frmRetQSO>},
         {"frmSplash", Make<Ui::frmSplash>},
+        {"frmStregP", Make<Ui::frmStregP>},
+        {"frmTilFloppy", Make<Ui::frmTilFloppy>},
         {"frmUTC", Make<Ui::frmUTC>},
+        {"frmVisTekst", Make<Ui::frmVisTekst>},
     };
     return layouts;
 }

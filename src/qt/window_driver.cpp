@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QStyle>
@@ -190,6 +191,9 @@ void WindowDriver::Focus(Control& control) {
         ClickAt(*field, BehindText(*field));
     } else if (auto* combo = qobject_cast<QComboBox*>(&widget)) {
         ClickAt(*combo->lineEdit(), BehindText(*combo->lineEdit()));
+    } else if (auto* text = qobject_cast<QPlainTextEdit*>(&widget)) {
+        text->verticalScrollBar()->setValue(text->verticalScrollBar()->maximum());
+        ClickAt(*text->viewport(), text->viewport()->rect().bottomRight() - QPoint(3, 3));
     } else if (qobject_cast<ItemList*>(&widget) != nullptr) {
         // The list's frame.
         ClickAt(widget, {0, 0});

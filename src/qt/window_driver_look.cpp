@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -32,6 +33,17 @@ std::string Differs(const TextControl& control, const QLineEdit& editor) {
         return "the selection is " + std::to_string(start) + " " + std::to_string(length);
     if (editor.isReadOnly() != control.Locked()) return "it is locked on one side only";
     return {};
+}
+
+std::string Differs(const TextView& control, const QPlainTextEdit& widget) {
+    if (widget.toPlainText() != ToQt(control.Text()).remove(u'\r')) return "the text is another one";
+    const QTextCursor cursor = widget.textCursor();
+    const QString before = ToQt(control.Text().substr(0, static_cast<std::size_t>(control.SelStart()))).remove(u'\r');
+    const qsizetype length = widget.textCursor().selectedText().size();
+    const QString selected =
+        ToQt(control.Text().substr(static_cast<std::size_t>(control.SelStart()), static_cast<std::size_t>(control.SelLength())));
+    if (cursor.selectionStart() != before.size() || length != QString(selected).remove(u'\r').size()) return "the selection is another one";
+    return widget.isReadOnly() == control.Locked() ? "" : "it is locked on one side only";
 }
 
 std::string Differs(const ComboBox& control, const QComboBox& widget) {
@@ -100,6 +112,7 @@ std::string Difference(const Control& control, const QWidget& widget) {
     if (widget.isHidden() == control.Visible()) return "one is hidden, the other shown";
     if (control.Parent().Enabled() && widget.isEnabled() != control.Enabled()) return "one is disabled, the other enabled";
     if (const auto* box = dynamic_cast<const ComboBox*>(&control)) return Differs(*box, dynamic_cast<const QComboBox&>(widget));
+    if (const auto* text = dynamic_cast<const TextView*>(&control)) return Differs(*text, dynamic_cast<const QPlainTextEdit&>(widget));
     if (const auto* text = dynamic_cast<const TextControl*>(&control)) return Differs(*text, dynamic_cast<const QLineEdit&>(widget));
     if (const auto* list = dynamic_cast<const ListBox*>(&control)) return Differs(*list, dynamic_cast<const ItemList&>(widget));
     if (const auto* label = dynamic_cast<const Label*>(&control)) return Differs(*label, widget);

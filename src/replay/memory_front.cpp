@@ -122,6 +122,8 @@ void MemoryFront::Click(Control& control) {
             box->Flip();
         else if (auto* option = dynamic_cast<OptionButton*>(&control))
             option->UserChosen(FocusWay::Mouse);
+        else if (auto* picture = dynamic_cast<Picture*>(&control))
+            picture->UserClicked();
         else if (control.Click)
             control.Click();
     });

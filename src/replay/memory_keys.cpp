@@ -95,7 +95,7 @@ KeyCode KeyCodeOf(const KeyStroke& key) {
 }
 
 void UseKey(Control& control, const KeyStroke& key, KeyCode code) {
-    if (key.ctrl || key.alt || !control.Enabled()) return;
+    if (key.ctrl || key.alt || !control.Enabled() || dynamic_cast<const TextView*>(&control) != nullptr) return;
     if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
         if (key.name == "Up" || key.name == "Down") {
             const int row = RowBehind(key, combo->ListIndex(), combo->ListCount());

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <exception>
+#include <string_view>
 
 namespace vatro {
 
@@ -29,6 +30,9 @@ enum class Failure : int {
     /// A common dialogue was left with Cancel.
     Cancelled = 32755,
 };
+
+/// What the number says, in a few words of Danish.
+std::string_view Meaning(Failure failure);
 
 /// A failure of the platform or of arithmetic.
 class RunTimeError : public std::exception {

@@ -51,6 +51,11 @@ protected:
     /// The form that the program shows.
     virtual void Show() { frmRules->Show(); }
     static void On(const std::string& happening, std::function<void()> reaction) { happenings.reactions[happening] = std::move(reaction); }
+    /// Plays these lines on the form of things to look at.
+    Output PlayLook(std::string_view lines) {
+        On("KeyPress Text1(0) 97", [] { frmRulesLook->Show(); });
+        return Play("type a\n" + std::string(lines));
+    }
 };
 
 using Lines = std::vector<std::string>;
@@ -292,6 +297,67 @@ TEST_P(FrontRules, ComboBoxTakesThePickedItemAsItsText) {
 TEST_P(FrontRules, ComboBoxIsEditedLikeAField) {
     EXPECT_EQ(Play("focus frmRules.Combo1\ntype abc\nkey Backspace\nshow frmRules.Combo1"),
               (Lines{"frmRules.Combo1 \"ab\" 3 items", "\"one\"", "\"two\"", "\"three\""}));
+}
+
+// --- Sorted lists, texts to read, pictures
+
+TEST_P(FrontRules, SortedListIsInTheOrderOfCharacterCodes) {
+    EXPECT_EQ(PlayLook("show frmRulesLook.List1"), (Lines{"frmRulesLook.List1 4 items selected -1", "\"C\"", "\"a\"", "\"b\"", "\"æ\""}));
+}
+
+TEST_P(FrontRules, AddedItemGoesBehindItsEquals) {
+    On("Click Image1", [] { frmRulesLook->List1.AddItem("b"); });
+    EXPECT_EQ(PlayLook("pick frmRulesLook.List1 b\nclick frmRulesLook.Image1\nshow frmRulesLook.List1"),
+              (Lines{"frmRulesLook.List1 5 items selected 2", "\"C\"", "\"a\"", "\"b\"", "\"b\"", "\"æ\""}));
+}
+
+TEST_P(FrontRules, SelectionStaysOnItsItem) {
+    On("Click Image1", [] {
+        ListBox& list = frmRulesLook->List1;
+        list.AddItem("B");
+        list.AddItem("z");
+        list.RemoveItem(1);
+        list.RemoveItem(0);
+    });
+    EXPECT_EQ(PlayLook("pick frmRulesLook.List1 b\nclick frmRulesLook.Image1\nshow frmRulesLook.List1\nkey Down\nshow frmRulesLook.List1"),
+              (Lines{"frmRulesLook.List1 4 items selected 1", "\"a\"", "\"b\"", "\"z\"", "\"æ\"", "frmRulesLook.List1 4 items selected 2",
+                     "\"a\"", "\"b\"", "\"z\"", "\"æ\""}));
+    EXPECT_EQ(happenings.lines, (Lines{"Change Text1(0) a", "Click List1", "Click Image1", "Click List1"}));
+}
+
+TEST_P(FrontRules, SelectionGoesWithItsItem) {
+    On("Click Image1", [] { frmRulesLook->List1.RemoveItem(2); });
+    EXPECT_EQ(PlayLook("pick frmRulesLook.List1 b\nclick frmRulesLook.Image1\nshow frmRulesLook.List1"),
+              (Lines{"frmRulesLook.List1 3 items selected -1", "\"C\"", "\"a\"", "\"æ\""}));
+    EXPECT_EQ(happenings.lines, (Lines{"Change Text1(0) a", "Click List1", "Click Image1"}));
+}
+
+TEST_P(FrontRules, ItemThatIsNotThereCannotBeRemoved) {
+    On("Click Image1", [] { frmRulesLook->List1.RemoveItem(4); });
+    EXPECT_EQ(PlayLook("click frmRulesLook.Image1"), (Lines{"error 5"}));
+}
+
+TEST_P(FrontRules, TextToReadKeepsItsTextAndItsCaret) {
+    EXPECT_EQ(
+        PlayLook("type xy\nkey Backspace\nkey Delete\nkey Down\nkey End\nkey PageDown\npaste z\nshow frmRulesLook.Text1\n"
+                 "show frmRulesLook.Text1 state\nshow focus"),
+        (Lines{"frmRulesLook.Text1 \"one\\n\\nthree\\n\"", "frmRulesLook.Text1 enabled shown selected 0 0", "focus frmRulesLook.Text1"}));
+    EXPECT_EQ(happenings.lines, (Lines{"Change Text1(0) a", "KeyPress Text1 120", "KeyPress Text1 121", "KeyPress Text1 8"}));
+}
+
+TEST_P(FrontRules, ClickIntoATextToReadPutsTheCaretBehindIt) {
+    EXPECT_EQ(PlayLook("focus frmRulesLook.List1\nfocus frmRulesLook.Text1\nshow frmRulesLook.Text1 state"),
+              (Lines{"frmRulesLook.Text1 enabled shown selected 14 0"}));
+}
+
+TEST_P(FrontRules, EnterAndEscInATextToReadAreTheFormsButtons) {
+    PlayLook("key Enter\nkey Esc");
+    EXPECT_EQ(happenings.lines, (Lines{"Change Text1(0) a", "Click cmdOK", "Click cmdOK"}));
+}
+
+TEST_P(FrontRules, ClickOnAPictureIsNoneOnItsFormAndLeavesTheFocus) {
+    EXPECT_EQ(PlayLook("click frmRulesLook.Image1\nshow focus"), (Lines{"focus frmRulesLook.Text1"}));
+    EXPECT_EQ(happenings.lines, (Lines{"Change Text1(0) a", "Click Image1"}));
 }
 
 // --- Forms

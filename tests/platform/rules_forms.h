@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Two small forms for tests of the platform's rules. They note what their handlers hear; a test may tell them what to
+// Small forms for tests of the platform's rules. They note what their handlers hear; a test may tell them what to
 // do then.
 #pragma once
 
@@ -136,8 +136,34 @@ public:
     Button cmdOK{*this, "cmdOK", "&OK"};
 };
 
+/// A form of things to look at.
+class FrmRulesLook : public Form {
+public:
+    FrmRulesLook() : Form("frmRulesLook", FormKind::Tool, "Look") {
+        Text1.KeyPress = [](KeyCode& KeyAscii) { happenings.Note("KeyPress Text1 " + std::to_string(KeyAscii)); };
+        Text1.Change = [] { happenings.Note("Change Text1"); };
+        for (Control* control : std::vector<Control*>{&List1, &Image1, &cmdOK})
+            control->Click = [control] { happenings.Note("Click " + control->FullName()); };
+        cmdOK.isDefault = true;
+        cmdOK.isCancel = true;
+        SetTabOrder({&Text1, &List1, &cmdOK});
+    }
+    void Form_Load() override {
+        Text1.SetText("one\r\n\r\nthree\r\n");
+        for (const char* row : {"b", "a", "\xE6", "C"}) List1.AddItem(row);
+        happenings.lines.clear();
+    }
+    void Form_Click() override { happenings.Note("Click frmRulesLook"); }
+
+    TextView Text1{*this, "Text1"};
+    ListBox List1{*this, "List1", {}, ListOrder::Sorted};
+    Picture Image1{*this, "Image1", "none.png"};
+    Button cmdOK{*this, "cmdOK", "&OK"};
+};
+
 inline FormSlot<FrmRules> frmRules{"frmRules"};
 inline FormSlot<FrmRulesChoice> frmRulesChoice{"frmRulesChoice"};
 inline FormSlot<FrmRulesOver> frmRulesOver{"frmRulesOver"};
+inline FormSlot<FrmRulesLook> frmRulesLook{"frmRulesLook"};
 
 }  // namespace vatro

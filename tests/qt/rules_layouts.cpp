@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -13,6 +14,7 @@
 #include "qt/column_head.h"
 #include "qt/item_list.h"
 #include "qt/layouts.h"
+#include "qt/picture_view.h"
 
 namespace vatro {
 
@@ -64,12 +66,22 @@ void MakeRulesOver(QWidget* form) {
     Add<QPushButton>(rows, "cmdOK");
 }
 
+void MakeRulesLook(QWidget* form) {
+    form->resize(300, 300);
+    auto* rows = new QVBoxLayout(form);
+    Add<QPlainTextEdit>(rows, "Text1");
+    Add<ItemList>(rows, "List1");
+    Add<PictureView>(rows, "Image1")->setFixedHeight(40);
+    Add<QPushButton>(rows, "cmdOK");
+}
+
 }  // namespace
 
 void AddRulesLayouts() {
     AddLayout("frmRules", MakeRules);
     AddLayout("frmRulesChoice", MakeRulesChoice);
     AddLayout("frmRulesOver", MakeRulesOver);
+    AddLayout("frmRulesLook", MakeRulesLook);
 }
 
 }  // namespace vatro

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/frmStregP.h"
+
+#include <array>
+
+#include "country/call_analysis.h"
+#include "frame/band_mode.h"
+#include "frame/settings.h"
+#include "frame/station.h"
+#include "logbook/qso_line.h"
+#include "platform/platform.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr Vinduesplads kPlads{"StregP", 2000, 2000, 6000, 6000};
+constexpr std::array kLogs{"FD10mCW",  "FD10mSSB", "FD15mCW",  "FD15mSSB", "FD20mCW",
+                           "FD20mSSB", "FD40mCW",  "FD40mSSB", "FD80mCW",  "FD80mSSB"};
+
+constexpr Felt kNavnBånd{3, 3};
+constexpr Felt kBasis{1, 15};
+constexpr Felt kSkilleMærke{16, 4};
+constexpr Felt kLogget{29, 15};
+constexpr std::string_view kSkille = "------------";
+
+std::string Kontakt(const std::string& navn, std::string_view linje) {
+    std::string basis(kCall.TrimmetAf(linje));
+    StripCall(basis);
+    std::string post = LeftAligned(basis, kBasis.bredde);
+    post.append(kNavnBånd.Af(navn)).append(" ");
+    post.append(LeftAligned(Right(navn, 2) == "CW" ? "CW" : "SSB", 4));
+    post.append(LeftAligned(kNrSendt.Af(linje), kNrSendt.bredde)).append(" ");
+    post.append(LeftAligned(kCall.Af(linje), kCall.bredde));
+    return post;
+}
+
+std::string Gruppe(std::string_view post) {
+    std::string call(kBasis.TrimmetAf(post));
+    StripCall(call);
+    return call;
+}
+
+std::string Skille(std::string_view call) {
+    return LeftAligned(call, kBasis.bredde).append(kSkille);
+}
+
+}  // namespace
+
+FrmStregP::FrmStregP()
+    : Form("frmStregP", FormKind::Tool, "Mangler nogle calls '/P'?"), List1(*this, "List1", {"Fixedsys", 9}, ListOrder::Sorted) {
+    SetTabOrder({&List1});
+}
+
+void FrmStregP::Form_Load() {
+    HentPlads(*this, kPlads);
+    Show();
+    List1.Clear();
+    IndlæsLogs();
+    Refresh();
+    IndsætBlanke();
+    Refresh();
+    FjernDubletter();
+}
+
+void FrmStregP::Form_Unload() {
+    GemPlads(*this, kPlads);
+}
+
+void FrmStregP::IndlæsLogs() {
+    const ListBox::Filling fylder(List1);
+    for (const char* log : kLogs) indlæslog(log);
+}
+
+void FrmStregP::indlæslog(const std::string& navn) {
+    Files& filer = platform().files;
+    try {
+        filer.Open(1, Sti(gsLogLib, navn + ".txt"), FileMode::Input);
+        while (!filer.EndOfFile(1)) {
+            const std::string linje = filer.LineInput(1);
+            if (!ErNote(linje)) List1.AddItem(Kontakt(navn, linje));
+        }
+    } catch (const RunTimeError&) {
+        // What has been read so far is shown.
+    }
+    filer.Close(1);
+}
+
+void FrmStregP::IndsætBlanke() {
+    const ListBox::Filling fylder(List1);
+    const int antal = List1.ListCount();
+    std::string sidste = antal > 0 ? List1.List(antal - 1) : std::string();
+    std::string forrige = Gruppe(sidste);
+    for (int i = antal - 2; i >= 1; --i) {
+        sidste = List1.List(i);
+        std::string denne = Gruppe(sidste);
+        if (denne != forrige) List1.AddItem(Skille(forrige));
+        forrige = std::move(denne);
+    }
+    List1.AddItem(std::string(kBasis.Af(sidste)).append(kSkille));
+}
+
+void FrmStregP::FjernDubletter() {
+    const ListBox::Filling fylder(List1);
+    int i = List1.ListCount() - 1;
+    while (i > 1) {
+        const int sidste = i;
+        bool ens = true;
+        for (; kSkilleMærke.Af(List1.List(i)) != "----"; --i)
+            if (kLogget.Af(List1.List(i)) != kLogget.Af(List1.List(sidste))) ens = false;
+        if (ens)
+            for (int række = sidste; række >= i; --række) List1.RemoveItem(række);
+        --i;
+    }
+}
+
+}  // namespace vatro

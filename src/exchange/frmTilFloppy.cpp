@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/frmTilFloppy.h"
+
+namespace vatro {
+
+FrmTilFloppy::FrmTilFloppy()
+    : Form("frmTilFloppy", FormKind::Dialog, "Kopierer log til diskette..."), List1(*this, "List1", {"Fixedsys", 9}) {
+    SetTabOrder({&List1});
+}
+
+}  // namespace vatro

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/help.h"
+
+#include "frame/station.h"
+#include "platform/platform.h"
+#include "text/codepage.h"
+
+namespace vatro {
+
+using namespace literals;
+
+void VisHjælpIndhold() {
+    try {
+        platform().help.Show(Sti("help", "indhold.html"));
+    } catch (const RunTimeError& fejl) {
+        if (fejl.Which() != Failure::FileNotFound) {
+            MsgBox(Meaning(fejl.Which()));
+            return;
+        }
+        MessageBox ingen;
+        ingen.text = "Kan ikke vise hjælp indhold. Der er ingen hjælp knyttet til dette program."_t;
+        ingen.icon = Icon::Information;
+        MsgBox(ingen);
+    }
+}
+
+}  // namespace vatro

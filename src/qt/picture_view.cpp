@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "qt/picture_view.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "qt/handbook.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr QSize kWithoutPicture(640, 480);
+
+}  // namespace
+
+void PictureView::SetPicture(const QString& file) {
+    picture_ = QPixmap(HandbookFile(file));
+    updateGeometry();
+    update();
+}
+
+QSize PictureView::sizeHint() const {
+    return picture_.isNull() ? kWithoutPicture : picture_.size();
+}
+
+void PictureView::paintEvent(QPaintEvent* /*event*/) {
+    if (picture_.isNull()) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(rect(), picture_);
+}
+
+void PictureView::mousePressEvent(QMouseEvent* event) {
+    // A click on the picture is none on the window behind it.
+    event->setAccepted(event->button() == Qt::LeftButton);
+}
+
+void PictureView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) Q_EMIT Clicked();
+}
+
+}  // namespace vatro
