@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/backup.h"
 
-#include <array>
-
 #include "exchange/frmTilFloppy.h"
 #include "frame/band_mode.h"
 #include "frame/station.h"
+#include "logbook/log_file.h"
 #include "platform/platform.h"
 #include "text/codepage.h"
 #include "text/numbers.h"
@@ -17,10 +16,6 @@ using namespace literals;
 std::string gsBackupLib;
 
 namespace {
-
-constexpr std::array<std::string_view, 11> kFiler{"Ukendt.txt",   "FD10mCW.txt", "FD10mSSB.txt", "FD15mCW.txt",
-                                                  "FD15mSSB.txt", "FD20mCW.txt", "FD20mSSB.txt", "FD40mCW.txt",
-                                                  "FD40mSSB.txt", "FD80mCW.txt", "FD80mSSB.txt"};
 
 const std::string kDrev = "a:";
 
@@ -61,10 +56,9 @@ void KopierAlle(std::string_view titel, void (*kopier)(const std::string& fil, b
     frmTilFloppy->Show();
     frmTilFloppy->List1.Clear();
     bool stop = false;
-    for (const std::string_view fil : kFiler) {
-        kopier(std::string(fil), stop);
-        if (stop) break;
-    }
+    kopier("Ukendt.txt", stop);
+    for (const BåndMode& log : kTiLogge)
+        if (!stop) kopier(LogNavn(log.bånd, log.mode), stop);
     frmTilFloppy->Hide();
 }
 

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/frmStregP.h"
 
-#include <array>
-
 #include "country/call_analysis.h"
-#include "frame/band_mode.h"
 #include "frame/settings.h"
-#include "frame/station.h"
+#include "logbook/log_file.h"
 #include "logbook/qso_line.h"
 #include "platform/platform.h"
 
@@ -15,21 +12,18 @@ namespace vatro {
 namespace {
 
 constexpr Vinduesplads kPlads{"StregP", 2000, 2000, 6000, 6000};
-constexpr std::array kLogs{"FD10mCW",  "FD10mSSB", "FD15mCW",  "FD15mSSB", "FD20mCW",
-                           "FD20mSSB", "FD40mCW",  "FD40mSSB", "FD80mCW",  "FD80mSSB"};
 
-constexpr Felt kNavnBånd{3, 3};
 constexpr Felt kBasis{1, 15};
 constexpr Felt kSkilleMærke{16, 4};
 constexpr Felt kLogget{29, 15};
 constexpr std::string_view kSkille = "------------";
 
-std::string Kontakt(const std::string& navn, std::string_view linje) {
+std::string Kontakt(const BåndMode& log, std::string_view linje) {
     std::string basis(kCall.TrimmetAf(linje));
     StripCall(basis);
     std::string post = LeftAligned(basis, kBasis.bredde);
-    post.append(kNavnBånd.Af(navn)).append(" ");
-    post.append(LeftAligned(Right(navn, 2) == "CW" ? "CW" : "SSB", 4));
+    post.append(log.bånd).append(" ");
+    post.append(LeftAligned(log.mode, 4));
     post.append(LeftAligned(kNrSendt.Af(linje), kNrSendt.bredde)).append(" ");
     post.append(LeftAligned(kCall.Af(linje), kCall.bredde));
     return post;
@@ -69,16 +63,16 @@ void FrmStregP::Form_Unload() {
 
 void FrmStregP::IndlæsLogs() {
     const ListBox::Filling fylder(List1);
-    for (const char* log : kLogs) indlæslog(log);
+    for (const BåndMode& log : kTiLogge) indlæslog(log);
 }
 
-void FrmStregP::indlæslog(const std::string& navn) {
+void FrmStregP::indlæslog(const BåndMode& log) {
     Files& filer = platform().files;
     try {
-        filer.Open(1, Sti(gsLogLib, navn + ".txt"), FileMode::Input);
+        filer.Open(1, LogSti(log.bånd, log.mode), FileMode::Input);
         while (!filer.EndOfFile(1)) {
             const std::string linje = filer.LineInput(1);
-            if (!ErNote(linje)) List1.AddItem(Kontakt(navn, linje));
+            if (!ErNote(linje)) List1.AddItem(Kontakt(log, linje));
         }
     } catch (const RunTimeError&) {
         // What has been read so far is shown.

@@ -15,8 +15,7 @@
 // "-" sorts below the figures of the bands, so the line of dashes stands before the contacts of its call.
 #pragma once
 
-#include <string>
-
+#include "logbook/log_file.h"
 #include "platform/forms.h"
 
 namespace vatro {
@@ -32,8 +31,8 @@ public:
 
     /// The contacts of all ten logs, from the files.
     void IndlæsLogs();
-    /// The contacts of one log, as "FD40mCW". A log that cannot be read ends where it fails, without a word.
-    void indlæslog(const std::string& navn);
+    /// The contacts of one log. A log that cannot be read ends where it fails, without a word.
+    void indlæslog(const BåndMode& log);
     /// Puts a line of dashes before the contacts of each base call. The first item is never looked at: a contact that stands
     /// there alone with its call gets none and stays on view, whatever its spelling. An empty list gets dashes without a call.
     /// Meant so.

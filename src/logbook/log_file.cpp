@@ -21,12 +21,6 @@ std::int32_t glPoint = 0;
 
 namespace {
 
-std::string LogNavn(std::string_view bånd, std::string_view mode) {
-    std::string navn = "FD";
-    navn.append(bånd).append(mode).append(".txt");
-    return navn;
-}
-
 void VisLog() {
     frmMain->sbStatusBar.SetPanel(1, "Vatro " + gsBand + " " + gsMode);
     VisStilling();
@@ -47,6 +41,12 @@ void TælMed(std::string_view linje) {
 }
 
 }  // namespace
+
+std::string LogNavn(std::string_view bånd, std::string_view mode) {
+    std::string navn = "FD";
+    navn.append(bånd).append(mode).append(".txt");
+    return navn;
+}
 
 std::string LogSti(std::string_view bånd, std::string_view mode) {
     return Sti(gsLogLib, LogNavn(bånd, mode));

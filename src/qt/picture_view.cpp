@@ -3,6 +3,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
 
 #include "qt/handbook.h"
 
@@ -11,6 +12,7 @@ namespace vatro {
 namespace {
 
 constexpr QSize kWithoutPicture(640, 480);
+constexpr double kShareOfScreen = 0.9;
 
 }  // namespace
 
@@ -21,7 +23,9 @@ void PictureView::SetPicture(const QString& file) {
 }
 
 QSize PictureView::sizeHint() const {
-    return picture_.isNull() ? kWithoutPicture : picture_.size();
+    if (picture_.isNull()) return kWithoutPicture;
+    const QSize room = screen()->availableSize() * kShareOfScreen;
+    return picture_.size().scaled(room.boundedTo(picture_.size()), Qt::KeepAspectRatio);
 }
 
 void PictureView::paintEvent(QPaintEvent* /*event*/) {

@@ -16,7 +16,10 @@ public:
     /// The file's name without its directory. One that is not there leaves the widget empty.
     void SetPicture(const QString& file);
     const QPixmap& Picture() const { return picture_; }
+    /// Its own size, or as much of it as the screen has room for.
     QSize sizeHint() const override;
+    /// A window is not made so small around it that nothing can be read.
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
     /// Pressed and let go on the picture.

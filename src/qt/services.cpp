@@ -2,7 +2,11 @@
 #include "qt/services.h"
 
 #include <QDir>
+#include <QFile>
 #include <QStandardPaths>
+
+#include "qt/handbook.h"
+#include "qt/help_window.h"
 
 namespace vatro {
 
@@ -30,6 +34,15 @@ bool QtInstance::AnotherCopyRuns() {
     return lock_.error() == QLockFile::LockFailedError;
 }
 
-void QtHelp::Show(std::string_view /*path*/) {}
+QtHelp::QtHelp() = default;
+
+QtHelp::~QtHelp() = default;
+
+void QtHelp::Show(std::string_view /*path*/) {
+    const QString contents = QStringLiteral("indhold.html");
+    if (!QFile::exists(HandbookFile(contents))) throw RunTimeError(Failure::FileNotFound);
+    if (!window_) window_ = std::make_unique<HelpWindow>();
+    window_->ShowPage(contents);
+}
 
 }  // namespace vatro

@@ -4,10 +4,13 @@
 #pragma once
 
 #include <QLockFile>
+#include <memory>
 
 #include "platform/platform.h"
 
 namespace vatro {
+
+class HelpWindow;
 
 /// A lock in the user's runtime directory. The lock of a copy that was killed is known as such and taken over.
 class QtInstance : public Instance {
@@ -20,10 +23,18 @@ private:
     QLockFile lock_;
 };
 
-/// The help viewer.
+/// The help viewer, a window of the program's own that stays open beside the others. Whatever file is named, it shows the
+/// handbook at its table of contents.
 class QtHelp : public Help {
 public:
+    QtHelp();
+    ~QtHelp() override;
     void Show(std::string_view path) override;
+    /// The window, if it has been opened.
+    HelpWindow* Window() const { return window_.get(); }
+
+private:
+    std::unique_ptr<HelpWindow> window_;
 };
 
 }  // namespace vatro

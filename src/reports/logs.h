@@ -8,28 +8,14 @@
 #include <cstdint>
 #include <string_view>
 
+#include "logbook/log_file.h"
+
 namespace vatro {
 
 /// File numbers: of the log being read, and of the paper being written.
 inline constexpr int kLogFil = 1;
 inline constexpr int kPapirFil = 2;
 
-struct BåndMode {
-    std::string_view bånd;
-    std::string_view mode;
-};
-
-/// By their rows in the tables of the summary and of the multipliers, which are read in this order.
-inline constexpr std::array<BåndMode, 10> kTiLogge{{{"10m", "CW"},
-                                                    {"10m", "SSB"},
-                                                    {"15m", "CW"},
-                                                    {"15m", "SSB"},
-                                                    {"20m", "CW"},
-                                                    {"20m", "SSB"},
-                                                    {"40m", "CW"},
-                                                    {"40m", "SSB"},
-                                                    {"80m", "CW"},
-                                                    {"80m", "SSB"}}};
 /// The order in which papers set them out.
 inline constexpr std::array<BåndMode, 10> kPapirOrden{{{"80m", "CW"},
                                                        {"80m", "SSB"},
