@@ -61,15 +61,15 @@ public:
         open_[number] = {name, 0};
     }
     std::string LineInput(int number) override {
-        auto& [name, at] = open_.at(number);
+        auto& [name, at] = Slot(number);
         Step("read", name);
         if (at >= files[name].size()) throw RunTimeError(Failure::InputPastEnd);
         return files[name][at++];
     }
-    bool EndOfFile(int number) override { return open_.at(number).second >= files[open_.at(number).first].size(); }
+    bool EndOfFile(int number) override { return Slot(number).second >= files[Slot(number).first].size(); }
     void PrintLine(int number, std::string_view text) override {
-        Step("write", open_.at(number).first);
-        files[open_.at(number).first].emplace_back(text);
+        Step("write", Slot(number).first);
+        files[Slot(number).first].emplace_back(text);
     }
     void Print(int number, std::string_view text) override { PrintLine(number, text); }
     void Close(int number) override {
@@ -86,13 +86,14 @@ public:
         files.erase(UpperText(from));
     }
     void Copy(std::string_view from, std::string_view to) override {
-        Step("copy", from);
+        if (!files.contains(UpperText(from))) throw RunTimeError(Failure::FileNotFound);
+        Step("copy", to);
         files[UpperText(to)] = files.at(UpperText(from));
     }
     std::string CurrentDirectory() override { return "data"; }
     char Separator() const override { return '\\'; }
 
-    /// The step of this name ("open", "read", "write", "delete", "rename") fails from its n-th time on, counted from now.
+    /// The step of this name ("open", "read", "write", "delete", "rename", "copy") fails from its n-th time on, counted from now.
     void FailFrom(std::string_view step, int times, Failure failure) { failing_ = {std::string(step), times, failure}; }
     bool IsOpen() const { return !open_.empty(); }
 
@@ -110,6 +111,11 @@ private:
     void Step(std::string_view step, std::string_view path) {
         steps.push_back(std::string(step) + " " + UpperText(path));
         if (failing_.step == step && --failing_.times <= 0) throw RunTimeError(failing_.failure);
+    }
+    std::pair<std::string, std::size_t>& Slot(int number) {
+        const auto slot = open_.find(number);
+        if (slot == open_.end()) throw RunTimeError(Failure::BadFileNumber);
+        return slot->second;
     }
     std::map<int, std::pair<std::string, std::size_t>> open_;
     Failing failing_;
@@ -169,7 +175,14 @@ public:
     void Destroyed(Form&) override {}
     void Changed(Form&) override {}
     void Activated(Form&) override {}
-    void RunModal(Form& form) override { ADD_FAILURE() << "unexpected modal form: " << form.Name(); }
+    void RunModal(Form& form) override {
+        const auto use = modal.extract(form.Name());
+        if (use.empty()) {
+            ADD_FAILURE() << "unexpected modal form: " << form.Name();
+            return;
+        }
+        use.mapped()(form);
+    }
     void Refresh(Form&) override {}
     void DoEvents() override {
         if (pending) pending();
@@ -180,11 +193,18 @@ public:
     bool ended = false;
     /// What happens while the program lets events run.
     std::function<void()> pending;
+    /// What is done in the modal form of this name when it next opens; it closes then.
+    std::map<std::string, std::function<void(Form&)>> modal;
 };
 
 class FakeHelp : public Help {
 public:
-    void Show(std::string_view) override {}
+    void Show(std::string_view path) override {
+        if (failure) throw RunTimeError(*failure);
+        shown.emplace_back(path);
+    }
+    std::vector<std::string> shown;
+    std::optional<Failure> failure;
 };
 
 class FakeInstance : public Instance {
