@@ -31,7 +31,7 @@ constexpr std::string_view kStartInfo =
     "Vatro.doc (eller online dokumentationen):\r\n"
     "   Hele onlinedokumentationen samlet i eet worddokument.\r\n"
     "Hjælp:\r\n"
-    "   Se under 'Hurtig hjælp oversigt' i onlinedokumentationen.\r\n"_t;
+    "   Se under 'Hurtig hjælp oversigt' i onlinedokumentationen."_t;
 
 }  // namespace
 

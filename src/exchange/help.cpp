@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/help.h"
 
-#include "frame/station.h"
 #include "platform/platform.h"
 #include "text/codepage.h"
 
@@ -11,7 +10,7 @@ using namespace literals;
 
 void VisHjælpIndhold() {
     try {
-        platform().help.Show(Sti("help", "indhold.html"));
+        platform().help.Show("Vatro.chm");
     } catch (const RunTimeError& fejl) {
         if (fejl.Which() != Failure::FileNotFound) {
             MsgBox(Meaning(fejl.Which()));

@@ -205,6 +205,13 @@ char Frame::AccessLetter() const {
 }
 
 void Frame::UseAccessLetter() {
+    for (Control* control : Parent().Controls()) {
+        // Of a choice the one that is on.
+        const auto* option = dynamic_cast<OptionButton*>(control);
+        if (option == nullptr || &option->Group() != this || !option->TabStop()) continue;
+        Parent().UserFocus(*control);
+        return;
+    }
     Parent().UserFocus(*accessTarget_);
 }
 

@@ -35,6 +35,8 @@ public:
     std::function<void()> Change;
     /// Width of the caption in the font, in points.
     double TextWidth() const;
+    /// The field that it names, or nothing.
+    const Control* AccessTarget() const { return accessTarget_; }
     char AccessLetter() const override;
     void UseAccessLetter() override;
 

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QWidget>
 #include <algorithm>
 
@@ -88,6 +89,16 @@ void PushRow(const ListBox& control, ItemList& widget) {
     if (index.isValid()) widget.scrollTo(index);
 }
 
+/// On the way the selected row has a number that the program does not know, and of one that goes Qt selects the neighbour:
+/// none of that is the user's choice.
+template <class Change>
+void ChangeRows(const ListBox& control, ItemList& widget, Change change) {
+    const QSignalBlocker quiet(widget.selectionModel());
+    change();
+    PushRow(control, widget);
+    widget.viewport()->update();
+}
+
 void FollowRows(const ListBox& control, ItemModel& model, ItemList& widget, Aspect aspect, int row) {
     switch (aspect) {
         case Aspect::Items:
@@ -95,12 +106,10 @@ void FollowRows(const ListBox& control, ItemModel& model, ItemList& widget, Aspe
             PushRow(control, widget);
             break;
         case Aspect::ItemAdded:
-            model.Added(row);
+            ChangeRows(control, widget, [&] { model.Added(row); });
             break;
         case Aspect::ItemRemoved:
-            // Of a selected row that goes, Qt would select the neighbour.
-            if (widget.currentIndex().row() == row) PushRow(control, widget);
-            model.Removed(row);
+            ChangeRows(control, widget, [&] { model.Removed(row); });
             break;
         case Aspect::ItemChanged:
             model.RowChanged(row);

@@ -77,6 +77,10 @@ QString SpokenName(const Control& control) {
     if (const auto* button = dynamic_cast<const Button*>(&control)) return PlainCaption(button->Caption());
     if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return PlainCaption(box->Caption());
     if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return PlainCaption(option->Caption());
+    for (const Control* other : control.Parent().Controls()) {
+        const auto* label = dynamic_cast<const Label*>(other);
+        if (label != nullptr && label->AccessTarget() == &control) return PlainCaption(label->Caption());
+    }
     const QString tip = ToQt(control.ToolTip());
     const qsizetype sentence = tip.indexOf(QStringLiteral(". "));
     return sentence < 0 ? tip : tip.left(sentence);

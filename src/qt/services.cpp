@@ -7,7 +7,6 @@
 
 #include "qt/handbook.h"
 #include "qt/help_window.h"
-#include "qt/text.h"
 
 namespace vatro {
 
@@ -39,11 +38,11 @@ QtHelp::QtHelp() = default;
 
 QtHelp::~QtHelp() = default;
 
-void QtHelp::Show(std::string_view path) {
-    const QString page = QDir::fromNativeSeparators(ToQt(path)).section(u'/', -1);
-    if (!QFile::exists(HandbookFile(page))) throw RunTimeError(Failure::FileNotFound);
+void QtHelp::Show(std::string_view /*path*/) {
+    const QString contents = QStringLiteral("indhold.html");
+    if (!QFile::exists(HandbookFile(contents))) throw RunTimeError(Failure::FileNotFound);
     if (!window_) window_ = std::make_unique<HelpWindow>();
-    window_->ShowPage(page);
+    window_->ShowPage(contents);
 }
 
 }  // namespace vatro

@@ -23,7 +23,8 @@ private:
     QLockFile lock_;
 };
 
-/// The help viewer, a window of the program's own that stays open beside the others.
+/// The help viewer, a window of the program's own that stays open beside the others. Whatever file is named, it shows the
+/// handbook at its table of contents.
 class QtHelp : public Help {
 public:
     QtHelp();

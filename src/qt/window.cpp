@@ -4,11 +4,13 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <cmath>
 
+#include "qt/appearance.h"
 #include "qt/bars.h"
 #include "qt/binder.h"
 #include "qt/column_head.h"
@@ -50,6 +52,7 @@ int ToPixels(int twips) {
 FormWindow::FormWindow(Form& form, QWidget* owner, QtFront& front) : form_(form), front_(front), scope_(std::make_unique<QObject>()) {
     Build(owner);
     BindForm(form, *this);
+    AddAppearance();
     Follow();
     top_->installEventFilter(this);
 }
@@ -90,6 +93,14 @@ void FormWindow::Build(QWidget* owner) {
     top_->setProperty("vatroForm", true);
     if (form_.Kind() == FormKind::Tool || form_.Kind() == FormKind::Splash) top_->setAttribute(Qt::WA_ShowWithoutActivating);
     captionHead_ = top_->findChild<ColumnHead*>(QStringLiteral("FormCaption"));
+}
+
+/// The look is chosen in the menu of what is to be seen.
+void FormWindow::AddAppearance() {
+    auto* window = qobject_cast<QMainWindow*>(top_.data());
+    if (window == nullptr) return;
+    for (const QAction* menu : window->menuBar()->actions())
+        if (menu->objectName() == QStringLiteral("mnuVis")) new Appearance(*window, *menu->menu());
 }
 
 void FormWindow::AddInput(Control& control, QWidget& widget, QLineEdit* editor) {

@@ -74,6 +74,7 @@ public:
 
 private:
     void Build(QWidget* owner);
+    void AddAppearance();
     WindowPlace Told() const;
     void FollowPlace();
     void FollowVisible();

@@ -34,7 +34,11 @@ void TilføjFelt(std::string& post, std::string_view mærke, std::string_view v�
 }
 
 void TilføjDato(std::string& post, std::string_view dato) {
-    if (const auto dag = ParseDate(dato)) post.append("<QSO_DATE:8:d>").append(FormatDate(*dag, "yyyymmdd")).append(kLinjeskift);
+    const auto dag = ParseDate(dato);
+    if (!dag) return;
+    post.append("<QSO_DATE:8:d>");
+    for (const int tal : {dag->year / 100, dag->year % 100, dag->month, dag->day}) TilføjToCifre(post, tal);
+    post.append(kLinjeskift);
 }
 
 void TilføjTid(std::string& post, std::string_view linje) {

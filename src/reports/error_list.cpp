@@ -109,9 +109,9 @@ private:
         if (gsCall.size() < 3) Fejl("Et kaldesignal skal være på mindst 3 tegn."_t);
         if (!HarTalOgBogstaver(gsCall)) Fejl("Der skal være både tal og bogstaver i et kaldesignal."_t);
         if (gsCall.starts_with('0')) Fejl("Første tegn i call'et er et nul."_t);
-        dublet_ = sete_.contains(gsCall);
+        const bool husket = !sete_.insert(gsCall.substr(0, kHusketCall)).second;
+        dublet_ = husket && gsCall.size() <= kHusketCall;
         if (dublet_) Fejl(gsCall + " er en dublet!");
-        sete_.insert(gsCall.substr(0, kHusketCall));
     }
 
     void TjekRapport(std::string_view rst, const RapportBeskeder& beskeder) {

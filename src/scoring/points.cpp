@@ -11,7 +11,8 @@ namespace vatro {
 std::int32_t giQSOPoint = 0;
 
 bool ErDansk(std::string_view call) {
-    return ContainsNoCase("5P,5Q,OU,OV,OW,OZ,XP,", call.substr(0, 2));
+    constexpr std::string_view kDanske = "5P,5Q,OU,OV,OW,OZ,XP,";
+    return kDanske.find(UpperText(call.substr(0, 2))) != std::string_view::npos;
 }
 
 void BeregnPoint(std::string call) {

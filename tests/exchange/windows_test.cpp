@@ -65,7 +65,7 @@ TEST_F(Windows, StartInformationHasTwentyLinesAndCannotBeEdited) {
     Start();
     front.modal["frmVisTekst"] = [](Form& form) {
         const std::string& text = frmVisTekst->Text1.Text();
-        EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 20);
+        EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 19);
         EXPECT_TRUE(text.starts_with("Info fra FD manager:\r\n\r\nDet er tilladt at "));
         EXPECT_NE(ToUtf8(text).find("eller Hellschreiber. \r\nDet vil sige"), std::string::npos);
         EXPECT_NE(ToUtf8(text).find("efter denne regel.\r\n\r\n\r\nInfo til contestdeltagere:\r\n\r\nUdskriv"), std::string::npos);
@@ -124,7 +124,7 @@ TEST_F(Windows, AboutTellsTheVersion) {
 TEST_F(Windows, HelpOpensTheHandbookAtItsContents) {
     Start();
     Choose(frmMain->mnuHjælpIndhold);
-    EXPECT_EQ(help.shown, std::vector<std::string>{"help\\indhold.html"});
+    EXPECT_EQ(help.shown, std::vector<std::string>{"Vatro.chm"});
 }
 
 TEST_F(Windows, HelpThatIsNotThereIsTold) {

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "qt/appearance.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPalette>
+
+#include "platform/platform.h"
+#include "text/numbers.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr std::string_view kSection = "Settings";
+constexpr std::string_view kSun = "Solskin";
+constexpr std::string_view kTextSize = "TekstStr";
+
+/// A step makes the text so much larger.
+constexpr double kStep = 0.1;
+/// The font of a widget as its layout gives it.
+constexpr const char* kOwnFont = "vatroOwnFont";
+
+QPalette SunPalette() {
+    QPalette sun(Qt::white);
+    for (const QPalette::ColorRole back :
+         {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button, QPalette::ToolTipBase})
+        sun.setColor(back, Qt::white);
+    for (const QPalette::ColorRole front :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::BrightText})
+        sun.setColor(front, Qt::black);
+    sun.setColor(QPalette::Highlight, Qt::black);
+    sun.setColor(QPalette::HighlightedText, Qt::white);
+    for (const QPalette::ColorRole front : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        sun.setColor(QPalette::Disabled, front, Qt::darkGray);
+    return sun;
+}
+
+}  // namespace
+
+Appearance::Appearance(QMainWindow& window, QMenu& menu) : QObject(&window), window_(window) {
+    menu.addSeparator();
+    sun_ = menu.addAction(QStringLiteral("&Solskin"));
+    sun_->setObjectName(QStringLiteral("appearanceSun"));
+    sun_->setCheckable(true);
+    AddEntry(menu, QStringLiteral("St&ørre tekst"), QKeySequence(QStringLiteral("Ctrl++")), +1);
+    AddEntry(menu, QStringLiteral("&Mindre tekst"), QKeySequence(QStringLiteral("Ctrl+-")), -1);
+    AddEntry(menu, QStringLiteral("No&rmal tekst"), QKeySequence(QStringLiteral("Ctrl+0")), 0);
+
+    Settings& settings = platform().settings;
+    sun_->setChecked(settings.Read(kSection, kSun) == "True");
+    step_ = static_cast<int>(qBound<double>(kSmallest, NumericValue(settings.Read(kSection, kTextSize).value_or("")), kLargest));
+    if (Sun() || step_ != 0) Apply();
+    connect(sun_, &QAction::toggled, this, [this] {
+        Apply();
+        Store();
+    });
+}
+
+bool Appearance::Sun() const {
+    return sun_->isChecked();
+}
+
+QAction* Appearance::AddEntry(QMenu& menu, const QString& caption, const QKeySequence& key, int step) {
+    QAction* action = menu.addAction(caption);
+    action->setShortcut(key);
+    connect(action, &QAction::triggered, this, [this, step] { SetTextSize(step == 0 ? 0 : step_ + step); });
+    return action;
+}
+
+void Appearance::SetTextSize(int step) {
+    step_ = qBound(kSmallest, step, kLargest);
+    Apply();
+    Store();
+}
+
+void Appearance::Apply() {
+    // An empty palette is that of the desktop, light or dark.
+    QApplication::setPalette(Sun() ? SunPalette() : QPalette());
+    QList<QWidget*> widgets{&window_};
+    for (QWidget* widget : window_.findChildren<QWidget*>())
+        // Other windows above this one keep their text.
+        if (widget->window() == &window_ || qobject_cast<QMenu*>(widget) != nullptr) widgets.append(widget);
+    // All of them before the first is changed: a font is handed down.
+    for (QWidget* widget : widgets)
+        if (!widget->property(kOwnFont).isValid()) widget->setProperty(kOwnFont, widget->font());
+    for (QWidget* widget : widgets) {
+        QFont font = widget->property(kOwnFont).value<QFont>();
+        font.setPointSizeF(font.pointSizeF() * (1 + kStep * step_));
+        if (Sun()) font.setBold(true);
+        widget->setFont(font);
+    }
+}
+
+void Appearance::Store() const {
+    Settings& settings = platform().settings;
+    settings.Write(kSection, kSun, Sun() ? "True" : "False");
+    settings.Write(kSection, kTextSize, PlainNumber(step_));
+}
+
+}  // namespace vatro

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "qt/appearance.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QMainWindow>
+#include <QTest>
+
+#include "qt/window_program.h"
+
+namespace vatro {
+namespace {
+
+class AppearanceOfTheWindow : public WindowProgram {
+protected:
+    ~AppearanceOfTheWindow() override { QApplication::setPalette(QPalette()); }
+    QMainWindow& Window() { return dynamic_cast<QMainWindow&>(*WindowOf(*frmMain).Top()); }
+    QAction& Sun() { return *Window().findChild<QAction*>(QStringLiteral("appearanceSun")); }
+    QWidget& Call() { return WidgetOf<QWidget>(frmMain->Text1[1]); }
+    /// The size of the text of the call field.
+    double Points() { return Call().font().pointSizeF(); }
+    void Press(Qt::Key key) {
+        QTest::keyClick(&Window(), key, Qt::ControlModifier);
+        driver.Settle();
+    }
+};
+
+TEST_F(AppearanceOfTheWindow, SunIsBlackOnWhiteAndBoldAndIsRemembered) {
+    StartVatro();
+    const QPalette usual = QApplication::palette();
+    Sun().trigger();
+    driver.Settle();
+    EXPECT_EQ(Window().palette().color(QPalette::Window), QColor(Qt::white));
+    EXPECT_EQ(Call().palette().color(QPalette::Text), QColor(Qt::black));
+    EXPECT_TRUE(WidgetOf<QWidget>(frmMain->List1).font().bold());
+    EXPECT_EQ(settings.Read("Settings", "Solskin"), "True");
+    Sun().trigger();
+    driver.Settle();
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), usual.color(QPalette::Window));
+    EXPECT_FALSE(WidgetOf<QWidget>(frmMain->List1).font().bold());
+    EXPECT_EQ(settings.Read("Settings", "Solskin"), "False");
+}
+
+TEST_F(AppearanceOfTheWindow, TextGrowsAndShrinksByTenthsAndGoesBack) {
+    StartVatro();
+    const double usual = Points();
+    Press(Qt::Key_Plus);
+    Press(Qt::Key_Plus);
+    EXPECT_NEAR(Points(), usual * 1.2, 0.01);
+    EXPECT_EQ(settings.Read("Settings", "TekstStr"), "2");
+    Press(Qt::Key_0);
+    EXPECT_NEAR(Points(), usual, 0.01);
+    Press(Qt::Key_Minus);
+    EXPECT_NEAR(Points(), usual * 0.9, 0.01);
+    for (int i = 0; i < 20; ++i) Press(Qt::Key_Minus);
+    EXPECT_NEAR(Points(), usual * 0.7, 0.01) << "three steps are the smallest";
+}
+
+TEST_F(AppearanceOfTheWindow, StartsAsItWasLeft) {
+    settings.Write("Settings", "Solskin", "True");
+    settings.Write("Settings", "TekstStr", "5");
+    StartVatro();
+    EXPECT_TRUE(Sun().isChecked());
+    EXPECT_TRUE(Call().font().bold());
+    const double large = Points();
+    Press(Qt::Key_0);
+    EXPECT_NEAR(large, Points() * 1.5, 0.01);
+}
+
+TEST_F(AppearanceOfTheWindow, LeavesTheSettingsAloneUntilItIsUsed) {
+    StartVatro();
+    EXPECT_FALSE(settings.Read("Settings", "Solskin").has_value());
+    EXPECT_FALSE(settings.Read("Settings", "TekstStr").has_value());
+}
+
+}  // namespace
+}  // namespace vatro
