@@ -41,6 +41,7 @@ public:
     Program& operator=(const Program&) = delete;
 
     std::filesystem::path LogFile() const { return workplace_.LogFile(); }
+    std::filesystem::path Path(std::string_view name) const { return workplace_.Path(name); }
 
     /// A key by its name: "Enter", "Backspace", "Space".
     void Press(const char* key);

@@ -12,13 +12,7 @@
 #include "country/frmCtyDat.h"
 #include "country/import.h"
 #include "country/tables.h"
-#include "platform/platform.h"
-#include "platform/program.h"
-#include "replay/memory_front.h"
-#include "replay/scene_clock.h"
-#include "replay/scene_pages.h"
-#include "replay/scene_sound.h"
-#include "replay/settings_store.h"
+#include "world.h"
 
 namespace {
 
@@ -46,31 +40,11 @@ public:
     bool wrote = false;
 };
 
-class Nobody : public Dialogs, public Help, public Instance {
-public:
-    Answer Show(const MessageBox&) override { return Answer::Ok; }
-    std::string SaveFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
-    std::string OpenFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
-    void SetUpPrinter() override { throw RunTimeError(Failure::Cancelled); }
-    void ShowFailure(const RunTimeError&) override {}
-    void Show(std::string_view) override {}
-    bool AnotherCopyRuns() override { return false; }
-};
-
-struct World {
+struct World : FuzzWorld<OneFile> {
     World() {
-        InstallPlatform({front.ProgramFront(), nobody, settings, files, clock, nobody, nobody, sound, printer, Version{}});
         BeginProgram();
         frmCtyDat.Load();
     }
-    MemoryFront front;
-    Nobody nobody;
-    SettingsStore settings;
-    OneFile files;
-    SceneClock clock;
-    SceneSound sound{clock};
-    ScenePages pages;
-    PageSurface printer{pages};
 };
 
 bool Expected(Failure failure) {

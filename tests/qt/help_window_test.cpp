@@ -1,43 +1,154 @@
 // SPDX-License-Identifier: MIT
+//
+// The help viewer, and the picture of the handbook on the window of its own.
 #include "qt/help_window.h"
 
 #include <gtest/gtest.h>
 
+#include <QAction>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTreeWidget>
+
+#include "exchange/FormQuickInfo.h"
 #include "qt/handbook.h"
+#include "qt/picture_view.h"
 #include "qt/services.h"
+#include "qt/window_program.h"
 
 namespace vatro {
+
 namespace {
 
-const QString kContents = QStringLiteral("indhold.html");
-
-TEST(HelpWindow, ShowsTheContentsWhateverFileIsNamed) {
-    QtHelp help;
-    help.Show("Vatro.chm");
-    ASSERT_NE(help.Window(), nullptr);
-    EXPECT_TRUE(help.Window()->isVisible());
-    EXPECT_EQ(help.Window()->Page(), kContents);
+QString Html(const QString& page) {
+    QFile file(HandbookFile(page));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-TEST(HelpWindow, EveryPageOfTheContentsIsThere) {
+class HelpViewer : public ::testing::Test {
+protected:
+    HelpViewer() {
+        help.Show("Vatro.chm");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(help.Window()));
+    }
+    HelpWindow& Window() { return *help.Window(); }
+    QTreeWidget& Contents() { return *Window().findChild<QTreeWidget*>(); }
+    QLineEdit& Wanted() { return *Window().findChild<QLineEdit*>(QStringLiteral("wanted")); }
+    QtHelp help;
+};
+
+}  // namespace
+
+TEST_F(HelpViewer, OpensAtTheContents) {
+    EXPECT_TRUE(Window().isVisible());
+    EXPECT_EQ(Window().windowModality(), Qt::NonModal);
+    EXPECT_EQ(Window().Page(), QStringLiteral("indhold.html"));
+}
+
+TEST_F(HelpViewer, IsOneWindowHoweverOftenItIsOpened) {
+    const HelpWindow* const first = help.Window();
+    Window().ShowPage(QStringLiteral("fejl.html"));
+    Window().close();
+    help.Show("Vatro.chm");
+    EXPECT_EQ(help.Window(), first);
+    EXPECT_TRUE(Window().isVisible());
+    EXPECT_EQ(Window().Page(), QStringLiteral("indhold.html"));
+}
+
+TEST_F(HelpViewer, HasEveryPageThatIsLinkedTo) {
     const QStringList pages = HandbookPages();
     EXPECT_GE(pages.size(), 5);
-    HelpWindow window;
+    static const QRegularExpression link(QStringLiteral("(?:href|src)=\"([^\"#:]+)(?:#([^\"]+))?\""));
     for (const QString& page : pages) {
-        window.ShowPage(page);
-        EXPECT_EQ(window.Page(), page);
+        ASSERT_FALSE(Html(page).isEmpty()) << page.toStdString();
+        for (const auto& found : link.globalMatch(Html(page))) {
+            EXPECT_TRUE(QFile::exists(HandbookFile(found.captured(1)))) << page.toStdString() << ": " << found.captured().toStdString();
+            if (found.captured(2).isEmpty()) continue;
+            const QString anchor = u'"' + found.captured(2) + u'"';
+            EXPECT_TRUE(Html(found.captured(1)).contains(anchor)) << page.toStdString() << ": " << found.captured().toStdString();
+        }
     }
 }
 
-TEST(HelpWindow, SearchGoesThroughAllPages) {
-    HelpWindow window;
-    window.ShowPage(kContents);
-    ASSERT_TRUE(window.FindNext(QStringLiteral("vatro-cty")));
-    EXPECT_EQ(window.SelectedText().toLower(), QStringLiteral("vatro-cty"));
-    EXPECT_NE(window.Page(), kContents) << "only the page on the country file names it";
-    EXPECT_FALSE(window.FindNext(QStringLiteral("qqzzxx")));
-    EXPECT_FALSE(window.FindNext(QString()));
+TEST_F(HelpViewer, GoesToTheEntriesOfItsContents) {
+    const QList<QTreeWidgetItem*> found = Contents().findItems(QStringLiteral("Landefilen cty.dat"), Qt::MatchExactly | Qt::MatchRecursive);
+    ASSERT_EQ(found.size(), 1);
+    Contents().setCurrentItem(found.front());
+    EXPECT_EQ(Window().Page(), QStringLiteral("landefil.html"));
 }
 
-}  // namespace
+TEST_F(HelpViewer, GoesBackByKey) {
+    Window().ShowPage(QStringLiteral("landefil.html"));
+    QTest::keyClick(&Window(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(Window().Page(), QStringLiteral("indhold.html"));
+    QTest::keyClick(&Window(), Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(Window().Page(), QStringLiteral("landefil.html"));
+    QTest::keyClick(&Window(), Qt::Key_Home, Qt::AltModifier);
+    EXPECT_EQ(Window().Page(), QStringLiteral("indhold.html"));
+}
+
+TEST_F(HelpViewer, FindsFromPageToPageAndRoundAtTheEnd) {
+    // No other place than other pages: the contents do not name the file.
+    ASSERT_TRUE(Window().FindNext(QStringLiteral("REFPFX.TXT")));
+    const QString first = Window().Page();
+    EXPECT_NE(first, QStringLiteral("indhold.html"));
+    EXPECT_EQ(Window().SelectedText().toLower(), QStringLiteral("refpfx.txt"));
+    QStringList visited{first};
+    for (int finds = 0; finds < 200; ++finds) {
+        ASSERT_TRUE(Window().FindNext(QStringLiteral("refpfx.txt")));
+        if (visited.back() == Window().Page()) continue;
+        visited.append(Window().Page());
+        if (visited.back() == first) break;
+    }
+    EXPECT_EQ(visited.back(), first);
+}
+
+TEST_F(HelpViewer, TellsWhatIsNowhere) {
+    EXPECT_FALSE(Window().FindNext({}));
+    EXPECT_FALSE(Window().FindNext(QStringLiteral("qwertyuiop")));
+    const auto* told = Window().statusBar()->findChild<QLabel*>();
+    EXPECT_TRUE(told->text().contains(QStringLiteral("qwertyuiop")));
+    EXPECT_TRUE(Window().FindNext(QStringLiteral("cty.dat")));
+    EXPECT_EQ(told->text(), QString());
+}
+
+TEST_F(HelpViewer, SearchIsReachedAndRepeatedByKey) {
+    QTest::keyClick(&Window(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(Wanted().hasFocus());
+    QTest::keyClicks(&Wanted(), QStringLiteral("landefil"));
+    QTest::keyClick(&Wanted(), Qt::Key_Return);
+    EXPECT_EQ(Window().SelectedText().toLower(), QStringLiteral("landefil"));
+    auto* browser = Window().findChild<QTextBrowser*>();
+    const QString page = Window().Page();
+    const int place = browser->textCursor().position();
+    QTest::keyClick(&Window(), Qt::Key_F3);
+    EXPECT_EQ(Window().SelectedText().toLower(), QStringLiteral("landefil"));
+    EXPECT_TRUE(Window().Page() != page || browser->textCursor().position() != place);
+}
+
+TEST_F(HelpViewer, EscClosesIt) {
+    QTest::keyClick(&Window(), Qt::Key_Escape);
+    EXPECT_FALSE(Window().isVisible());
+}
+
+TEST_F(WindowProgram, QuickInfoShowsItsPictureOnAnyScreen) {
+    StartVatro();
+    Dispatch([] { formQuickInfo.Load(); });
+    const auto& picture = WidgetOf<PictureView>(formQuickInfo->Image1);
+    ASSERT_FALSE(picture.Picture().isNull());
+    const QSize screen = picture.screen()->availableSize();
+    EXPECT_LE(picture.sizeHint().width(), screen.width());
+    EXPECT_LE(picture.sizeHint().height(), screen.height());
+    Dispatch([] { formQuickInfo->Show(); });
+    driver.Settle();
+    EXPECT_EQ(picture.size(), picture.window()->size());
+    EXPECT_GE(picture.width(), picture.sizeHint().width());
+}
+
 }  // namespace vatro

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+//
+// The import of a long CT log. Each of its contacts is on the disk before the next one is looked at, so the yardstick is as
+// many appended and synced lines with the calls of the system.
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "disk/names.h"
+#include "entry/frmMain.h"
+#include "exchange/ct_import.h"
+#include "logbook/qso_line.h"
+#include "program.h"
+#include "sample.h"
+
+namespace vatro::bench {
+
+namespace {
+
+constexpr std::size_t kContacts = 5000;
+constexpr int kRuns = 3;
+
+std::vector<std::string> FirstContacts() {
+    std::vector<std::string> lines = SampleLog();
+    lines.resize(kContacts);
+    return lines;
+}
+
+/// The same contacts as CT writes them, behind a head of three lines.
+std::vector<std::string> CtLog() {
+    std::vector<std::string> lines{"", "", std::string(43, ' ') + "SSB"};
+    for (const std::string& line : FirstContacts()) {
+        std::string ct = "    05-Sep-26   ";
+        ct.append(kTid.Af(line).substr(0, 2)).append(kTid.Af(line).substr(3)).append("  ");
+        ct.append(kNrSendt.Af(line)).append(std::string(9, ' '));
+        ct.append(kCall.Af(line).substr(0, 12)).append(" ").append(kRstModtaget.Af(line)).append(" ").append(kNrModtaget.Af(line));
+        lines.push_back(ct);
+    }
+    return lines;
+}
+
+bool Append(const std::filesystem::path& file, const std::string& line) {
+    const int handle = open(file.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+    if (handle < 0) return false;
+    const bool written = write(handle, line.data(), line.size()) == static_cast<ssize_t>(line.size()) && fdatasync(handle) == 0;
+    return close(handle) == 0 && written;
+}
+
+void AppendBare(benchmark::State& state) {
+    const Workplace workplace;
+    std::vector<std::string> lines = FirstContacts();
+    for (std::string& line : lines) line += "\r\n";
+    for (auto _ : state)
+        for (const std::string& line : lines)
+            if (!Append(workplace.Path("bare.txt"), line)) return state.SkipWithError("a line was not written");
+}
+
+void Import(benchmark::State& state) {
+    const Program program(SampleLog());
+    const std::filesystem::path file = program.Path("felt.40");
+    WriteLines(file, CtLog());
+    state.SetLabel("vs 5000 lines appended and synced, at most 20");
+    for (auto _ : state) {
+        ImporterCt(NativeText(file));
+        if (frmMain->List1.ListCount() != static_cast<int>(kContacts)) return state.SkipWithError("contacts are missing");
+    }
+}
+
+BENCHMARK(AppendBare)->Name("5000 lines appended and synced")->Iterations(1)->Repetitions(kRuns)->Unit(benchmark::kMillisecond);
+BENCHMARK(Import)->Name("CT log of 5000 lines imported")->Iterations(1)->Repetitions(kRuns)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace vatro::bench

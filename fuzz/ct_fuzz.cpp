@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+//
+// The import of any CT log: it ends with one of its failures or as told, and whatever it has logged until then stands in the
+// file as in the list, in the columns of every other line, and counts the same when it is loaded again.
+// Input: the file as it stands.
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "entry/frmMain.h"
+#include "exchange/ct_import.h"
+#include "frame/start.h"
+#include "logbook/log_file.h"
+#include "logbook/qso_line.h"
+#include "world.h"
+
+namespace {
+
+using namespace vatro;
+
+/// A number of five figures, which "9E99" is, moves the columns behind it: such a line is not looked at.
+bool InItsColumns(std::string_view line) {
+    constexpr std::size_t kLength = 79;
+    if (line.size() < kLength) return false;
+    if (line.size() > kLength) return true;
+    for (const std::size_t blank : {6U, 22U, 31U, 40U, 43U, 54U, 61U, 65U, 71U})
+        if (line[blank - 1] != ' ') return false;
+    return line[25] == '-' && line[34] == '-' && Trim(kOperatør.Af(line)) == "CT-IMP";
+}
+
+bool Expected(Failure failure) {
+    return failure == Failure::InvalidCall || failure == Failure::Overflow || failure == Failure::TypeMismatch;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static auto* const world = new RunningWorld;
+    auto& texts = world->files.texts;
+    texts["FELT.40"].assign(reinterpret_cast<const char*>(data), size);
+    for (const char* log : {"LOG\\FD40MSSB.TXT", "LOG\\FD40MCW.TXT", "LOG\\FDCW.TXT"}) texts.erase(log);
+    BeginProgram();
+    Dispatch(StartProgram);
+    try {
+        ImporterCt("felt.40");
+    } catch (const RunTimeError& failure) {
+        if (!Expected(failure.Which())) __builtin_trap();
+    }
+    std::string file;
+    for (const std::string& line : frmMain->List1.Items()) {
+        if (!InItsColumns(line)) __builtin_trap();
+        file += line + "\r\n";
+    }
+    const auto written = texts.find(UpperText(AktuelLogSti()));
+    if (file != (written == texts.end() ? std::string() : written->second)) __builtin_trap();
+
+    const std::int32_t points = glPoint;
+    const int count = frmMain->List1.ListCount();
+    const bool whole = file.size() == static_cast<std::size_t>(count) * 81;
+    world->files.Close(2);
+    IndlæsLogfil();
+    // A number that is too long stands where the points are looked for.
+    if (whole && (glPoint != points || frmMain->List1.ListCount() != count)) __builtin_trap();
+    EndProgram();
+    return 0;
+}

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+//
+// Any lines in the logs: the load takes each as it stands, the check of suffixes shows just the calls of two spellings, and
+// the error list is made. Input: lines; the first character of each says which log it stands in.
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "country/call_analysis.h"
+#include "entry/frmMain.h"
+#include "exchange/frmStregP.h"
+#include "frame/start.h"
+#include "logbook/log_file.h"
+#include "logbook/qso_line.h"
+#include "reports/error_list.h"
+#include "world.h"
+
+namespace {
+
+using namespace vatro;
+
+constexpr std::string_view kDashes = "------------";
+constexpr Felt kBasis{1, 15};
+constexpr Felt kBehind{16, 12};
+constexpr Felt kSpelling{29, 15};
+
+/// The base call as the list holds it, and how it is spelled, of each contact.
+using Spellings = std::map<std::string, std::set<std::string>>;
+
+Spellings SpellingsOf(const std::vector<std::string>& lines) {
+    Spellings spellings;
+    for (const std::string& line : lines) {
+        if (ErNote(line)) continue;
+        std::string base(kCall.TrimmetAf(line));
+        StripCall(base);
+        spellings[LeftAligned(base, kBasis.bredde)].insert(LeftAligned(kCall.Af(line), kCall.bredde));
+    }
+    return spellings;
+}
+
+/// Calls of two slashes may be grouped with others: they are left out of the comparison.
+bool Plain(const Spellings& spellings) {
+    for (const auto& [base, ways] : spellings)
+        if (base.find('/') != std::string::npos) return false;
+    return true;
+}
+
+void CheckSuffixes(const std::vector<std::string>& lines) {
+    frmStregP.Load();
+    const std::vector<std::string>& items = frmStregP->List1.Items();
+    for (std::size_t i = 1; i < items.size(); ++i)
+        if (items[i] < items[i - 1]) __builtin_trap();
+    const Spellings spellings = SpellingsOf(lines);
+    if (!Plain(spellings)) return;
+    std::map<std::string, std::set<std::string>> shown;
+    for (const std::string& item : items)
+        if (kBehind.Af(item) != kDashes && item != kDashes) shown[std::string(kBasis.Af(item))].insert(std::string(kSpelling.Af(item)));
+    for (const auto& [base, ways] : spellings)
+        if (ways.size() > 1 && shown[base] != ways) __builtin_trap();
+    // The first call may stay though it has one spelling; so may the second, whose dashes stand where the first item was.
+    std::size_t alone = 0;
+    for (const auto& [base, ways] : shown)
+        if (ways.size() == 1) ++alone;
+    if (alone > 1) __builtin_trap();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static auto* const world = new RunningWorld;
+    auto& texts = world->files.texts;
+    for (const BåndMode& log : kTiLogge) texts.erase(UpperText("log\\" + LogNavn(log.bånd, log.mode)));
+    std::vector<std::string> all;
+    std::vector<std::string> current;
+    std::string_view rest(reinterpret_cast<const char*>(data), size);
+    while (!rest.empty()) {
+        const auto which = static_cast<unsigned char>(rest.front()) % kTiLogge.size();
+        rest.remove_prefix(1);
+        const std::size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
+        const std::string line(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+        const BåndMode& log = kTiLogge[which];
+        texts[UpperText("log\\" + LogNavn(log.bånd, log.mode))] += line + "\r\n";
+        all.push_back(line);
+        if (log.bånd == "80m" && log.mode == "SSB") current.push_back(line);
+    }
+    BeginProgram();
+    Dispatch(StartProgram);
+    // A value too large for a counter ends the load with that line.
+    const std::vector<std::string>& loaded = frmMain->List1.Items();
+    if (loaded.size() > current.size()) __builtin_trap();
+    if (!std::equal(loaded.begin(), loaded.end(), current.begin())) __builtin_trap();
+    CheckSuffixes(all);
+    DanFejlliste();
+    if (texts["LOG\\FEJLLIST.TXT"].empty()) __builtin_trap();
+    EndProgram();
+    return 0;
+}

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+//
+// A program in memory that nobody sits at, with files that the target makes.
+#pragma once
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "platform/platform.h"
+#include "platform/program.h"
+#include "replay/memory_front.h"
+#include "replay/scene_clock.h"
+#include "replay/scene_pages.h"
+#include "replay/scene_sound.h"
+#include "replay/settings_store.h"
+#include "text/codepage.h"
+
+namespace vatro {
+
+/// Says OK or Yes to every box and cancels every dialogue.
+class Nobody : public Dialogs, public Help, public Instance {
+public:
+    Answer Show(const MessageBox& box) override { return box.buttons == Buttons::Ok ? Answer::Ok : Answer::Yes; }
+    std::string SaveFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    std::string OpenFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    void SetUpPrinter() override { throw RunTimeError(Failure::Cancelled); }
+    void ShowFailure(const RunTimeError&) override {}
+    void Show(std::string_view) override {}
+    bool AnotherCopyRuns() override { return false; }
+};
+
+/// Files as texts by their paths in upper case. A path without a text is no file.
+class TextFiles : public Files {
+public:
+    void Open(int number, std::string_view path, FileMode mode) override {
+        Slot& slot = slots_[number];
+        if (slot.open) throw RunTimeError(Failure::FileAlreadyOpen);
+        const std::string name = UpperText(path);
+        if (mode == FileMode::Input && !texts.contains(name)) throw RunTimeError(Failure::FileNotFound);
+        if (mode == FileMode::Output) texts[name].clear();
+        slot = {true, name, mode == FileMode::Input ? texts[name] : std::string()};
+    }
+    std::string LineInput(int number) override {
+        if (EndOfFile(number)) throw RunTimeError(Failure::InputPastEnd);
+        std::string& rest = slots_[number].rest;
+        const std::size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
+        std::string line = rest.substr(0, end);
+        rest.erase(0, end + (rest.substr(end, 2) == "\r\n" ? 2 : 1));
+        return line;
+    }
+    bool EndOfFile(int number) override {
+        if (!slots_[number].open) throw RunTimeError(Failure::BadFileNumber);
+        return slots_[number].rest.empty();
+    }
+    void PrintLine(int number, std::string_view text) override { Print(number, std::string(text) + "\r\n"); }
+    void Print(int number, std::string_view text) override { texts[slots_[number].name] += text; }
+    void Close(int number) override { slots_[number] = {}; }
+    void Delete(std::string_view path) override { texts.erase(UpperText(path)); }
+    void Rename(std::string_view from, std::string_view to) override { texts[UpperText(to)] = std::exchange(texts[UpperText(from)], {}); }
+    void Copy(std::string_view from, std::string_view to) override { texts[UpperText(to)] = texts[UpperText(from)]; }
+    std::string CurrentDirectory() override { return "data"; }
+    char Separator() const override { return '\\'; }
+
+    std::map<std::string, std::string> texts;
+
+private:
+    struct Slot {
+        bool open = false;
+        std::string name;
+        std::string rest;
+    };
+    std::map<int, Slot> slots_;
+};
+
+/// The platform; nothing of the program runs before BeginProgram.
+template <class F>
+struct FuzzWorld {
+    FuzzWorld() { InstallPlatform({front.ProgramFront(), nobody, settings, files, clock, nobody, nobody, sound, printer, Version{}}); }
+    MemoryFront front;
+    Nobody nobody;
+    SettingsStore settings;
+    F files;
+    SceneClock clock;
+    SceneSound sound{clock};
+    ScenePages pages;
+    PageSurface printer{pages};
+};
+
+/// A program with a few countries and stations, on 80 metres SSB in the directory "log".
+struct RunningWorld : FuzzWorld<TextFiles> {
+    RunningWorld() {
+        files.texts["DATA\\LANDE.TXT"] =
+            "DL        Germany                  EU -1 \r\nOZ        Denmark                  EU -1 \r\n"
+            "W         United States            NA +5 \r\n";
+        files.texts["DATA\\REFPFX.TXT"] = "DL        DL        14 28\r\nOZ        OZ        14 18\r\nW         W         5  8 \r\n";
+        files.texts["DATA\\EDR.TXT"] = "OZ1ABC Test, formand\r\n";
+        files.texts["DATA\\OPERATOR.TXT"] = "OZ1AB\r\n";
+        for (const auto& [key, text] : {std::pair{"gsLogLib", "log"}, std::pair{"LastOP", "OZ1AB"}, std::pair{"VisInfo2002", "False"}})
+            settings.Write("Settings", key, text);
+    }
+};
+
+}  // namespace vatro
