@@ -2,6 +2,7 @@
 //
 // Any lines in the logs: the load takes each as it stands, the check of suffixes shows just the calls of two spellings, and
 // the error list is made. Input: lines; the first character of each says which log it stands in.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -42,11 +43,13 @@ Spellings SpellingsOf(const std::vector<std::string>& lines) {
     return spellings;
 }
 
-/// Calls of two slashes may be grouped with others: they are left out of the comparison.
+/// Calls of two slashes may be grouped with others, and blanks within a call change its place: such logs are not compared.
 bool Plain(const Spellings& spellings) {
-    for (const auto& [base, ways] : spellings)
-        if (base.find('/') != std::string::npos) return false;
-    return true;
+    return std::ranges::all_of(spellings, [](const auto& call) {
+        const std::string_view base = Trim(call.first);
+        return !base.empty() && base == call.first.substr(0, base.size()) &&
+               std::ranges::all_of(base, [](char c) { return static_cast<unsigned char>(c) > ' ' && c != '/'; });
+    });
 }
 
 void CheckSuffixes(const std::vector<std::string>& lines) {

@@ -121,6 +121,14 @@ protected:
     void Tell(Aspect aspect, int row = -1) const {
         if (mirror) mirror(aspect, row);
     }
+    /// Sets a property and tells the mirror. False, and nothing done, if it has the value already.
+    template <class T, class Value>
+    bool Put(T& property, const Value& value, Aspect aspect) {
+        if (property == value) return false;
+        property = value;
+        Tell(aspect);
+        return true;
+    }
 
 private:
     friend class Form;

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// All controls that a form can own: the small ones here, those with text, rows or bars in headers of their own.
+// All controls that a form can own: the small ones here, those with text, rows, bars or choices in headers of their own.
 #pragma once
 
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/bars.h"
+#include "platform/buttons.h"
 #include "platform/control.h"
 #include "platform/lists.h"
 #include "platform/text_controls.h"
@@ -49,19 +49,6 @@ private:
     bool opaque_ = false;
 };
 
-/// A frame round other controls, with a caption. The access key in the caption leads to `accessTarget`.
-class Frame : public Control {
-public:
-    Frame(Form& form, std::string_view name, std::string_view caption, Control* accessTarget = nullptr);
-    const std::string& Caption() const { return caption_; }
-    char AccessLetter() const override;
-    void UseAccessLetter() override;
-
-private:
-    std::string caption_;
-    Control* accessTarget_;
-};
-
 /// A picture of the handbook, stretched to the size of its place. Keys pass it by.
 class Picture : public Control {
 public:
@@ -76,78 +63,6 @@ public:
 
 private:
     std::string file_;
-};
-
-/// A button. As default button it is pressed by Enter in any control of the form but another button, as cancel button
-/// by Esc.
-class Button : public Control {
-public:
-    Button(Form& form, std::string_view name, std::string_view caption) : Control(form, name), caption_(caption) {}
-    bool TakesFocus() const override { return true; }
-    const std::string& Caption() const { return caption_; }
-    bool isDefault = false;
-    bool isCancel = false;
-    char AccessLetter() const override;
-
-    // From the front.
-
-    /// Runs Click if the button is enabled.
-    void Press();
-    void UseAccessLetter() override { Press(); }
-
-private:
-    std::string caption_;
-};
-
-class CheckBox : public Control {
-public:
-    CheckBox(Form& form, std::string_view name, std::string_view caption) : Control(form, name), caption_(caption) {}
-    bool TakesFocus() const override { return true; }
-    const std::string& Caption() const { return caption_; }
-    bool Value() const { return value_; }
-    /// Runs Click if the value has become another one.
-    void SetValue(bool value);
-    char AccessLetter() const override;
-
-    // From the front.
-    void Flip() { SetValue(!value_); }
-    void UseAccessLetter() override { Flip(); }
-
-private:
-    std::string caption_;
-    bool value_ = false;
-};
-
-/// One of several choices in a frame, of which one is on at most. Tab leads to the one that is on, the arrow keys from one to
-/// the next.
-class OptionButton : public Control {
-public:
-    OptionButton(Form& form, std::string_view name, int index, std::string_view caption, const Frame& group)
-        : Control(form, name, index), caption_(caption), group_(group) {}
-    bool TakesFocus() const override { return true; }
-    /// Without one that is on, Tab leads to each of them.
-    bool TabStop() const override;
-    const std::string& Caption() const { return caption_; }
-    const Frame& Group() const { return group_; }
-    bool Value() const { return value_; }
-    /// Turning it on turns the others of its frame off and runs Click, if it was off.
-    void SetValue(bool value);
-    char AccessLetter() const override;
-
-    // From the front.
-
-    /// By the mouse, the blank or an arrow key: takes the focus and is turned on.
-    void UserChosen(FocusWay way);
-    void UseAccessLetter() override { UserChosen(FocusWay::Key); }
-    /// The next one of the frame that can take the focus, round at the end, is chosen.
-    void UserArrow(bool back);
-
-private:
-    std::vector<OptionButton*> Others() const;
-
-    std::string caption_;
-    const Frame& group_;
-    bool value_ = false;
 };
 
 /// A bar whose slide stands at a number.
