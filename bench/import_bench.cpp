@@ -15,11 +15,6 @@
 #include "frame/station.h"
 #include "platform/program.h"
 #include "program.h"
-#include "replay/memory_front.h"
-#include "replay/scene_clock.h"
-#include "replay/scene_pages.h"
-#include "replay/scene_sound.h"
-#include "replay/settings_store.h"
 #include "sample.h"
 #include "unattended.h"
 
@@ -68,7 +63,7 @@ struct World {
     World() {
         WriteLines(workplace.Path("cty.dat"), SampleCtyFile());
         gsFDLib = NativeText(workplace.Path(""));
-        InstallPlatform({front.ProgramFront(), unattended, settings, files, clock, help, unattended, sound, printer, Version{}});
+        memory.Install(unattended, files);
         BeginProgram();
         Dispatch([] { frmCtyDat.Load(); });
     }
@@ -77,15 +72,9 @@ struct World {
     World& operator=(const World&) = delete;
 
     Workplace workplace;
-    MemoryFront front;
-    SettingsStore settings;
     ReadingFiles files;
-    SceneClock clock;
-    SceneSound sound{clock};
-    ScenePages pages;
-    PageSurface printer{pages};
+    MemoryPlatform memory;
     Unattended unattended;
-    NoHelp help;
 };
 
 void SplitFile(benchmark::State& state) {

@@ -8,11 +8,6 @@
 #include "frame/start.h"
 #include "platform/platform.h"
 #include "platform/program.h"
-#include "replay/memory_front.h"
-#include "replay/scene_clock.h"
-#include "replay/scene_pages.h"
-#include "replay/scene_sound.h"
-#include "replay/settings_store.h"
 #include "sample.h"
 #include "unattended.h"
 
@@ -47,22 +42,15 @@ void Workplace::Furnish(const std::vector<std::string>& log, Settings& settings)
 }
 
 struct Program::Services {
-    MemoryFront front;
-    SettingsStore settings;
     DiskFiles files;
-    SceneClock clock;
-    SceneSound sound{clock};
-    ScenePages pages;
-    PageSurface printer{pages};
+    MemoryPlatform memory;
     Unattended unattended;
-    NoHelp help;
 };
 
 Program::Program(const std::vector<std::string>& log) : services_(std::make_unique<Services>()) {
     Services& with = *services_;
-    workplace_.Furnish(log, with.settings);
-    InstallPlatform({with.front.ProgramFront(), with.unattended, with.settings, with.files, with.clock, with.help, with.unattended,
-                     with.sound, with.printer, Version{}});
+    workplace_.Furnish(log, with.memory.settings);
+    with.memory.Install(with.unattended, with.files);
     BeginProgram();
     Dispatch(StartProgram);
     if (frmMain->List1.ListCount() != static_cast<int>(log.size())) throw std::runtime_error("the log was not read");
@@ -73,11 +61,11 @@ Program::~Program() {
 }
 
 void Program::Press(const char* key) {
-    services_->front.Press({.name = key});
+    services_->memory.front.Press({.name = key});
 }
 
 void Program::Type(std::string_view text) {
-    for (const char character : text) services_->front.Press({.name = {}, .character = character});
+    for (const char character : text) services_->memory.front.Press({.name = {}, .character = character});
 }
 
 }  // namespace vatro::bench

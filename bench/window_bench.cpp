@@ -89,7 +89,7 @@ public:
 
     /// Returns when the log is painted.
     void Start() {
-        InstallPlatform({front_, unattended_, settings_, files_, clock_, help_, unattended_, sound_, printer_, Version{}});
+        InstallPlatform({front_, unattended_, settings_, files_, clock_, unattended_, unattended_, sound_, printer_, Version{}});
         BeginProgram();
         Deliver([] { StartProgram(); });
         if (frmMain->List1.ListCount() != kLogLines) throw std::runtime_error("the log was not read");
@@ -103,7 +103,6 @@ private:
     Unattended unattended_;
     DiskFiles files_;
     QtClock clock_;
-    NoHelp help_;
     QtSound sound_;
     QtPrinter pages_;
     PageSurface printer_{pages_};

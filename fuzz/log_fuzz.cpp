@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <map>
 #include <set>
 #include <string>
@@ -71,26 +72,25 @@ void CheckSuffixes(const std::vector<std::string>& lines) {
     if (alone > 1) __builtin_trap();
 }
 
+std::vector<std::string> Lines(const std::map<std::string, std::string>& texts, const BåndMode& log) {
+    const auto found = texts.find(LogName(log));
+    std::vector<std::string> lines;
+    for (std::string_view rest = found == texts.end() ? std::string_view() : found->second; !rest.empty();) {
+        lines.emplace_back(rest.substr(0, rest.find("\r\n")));
+        rest.remove_prefix(lines.back().size() + 2);
+    }
+    return lines;
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static auto* const world = new RunningWorld;
     auto& texts = world->files.texts;
-    for (const BåndMode& log : kTiLogge) texts.erase(UpperText("log\\" + LogNavn(log.bånd, log.mode)));
+    FillLogs(texts, {reinterpret_cast<const char*>(data), size});
+    const std::vector<std::string> current = Lines(texts, kTiLogge.back());
     std::vector<std::string> all;
-    std::vector<std::string> current;
-    std::string_view rest(reinterpret_cast<const char*>(data), size);
-    while (!rest.empty()) {
-        const auto which = static_cast<unsigned char>(rest.front()) % kTiLogge.size();
-        rest.remove_prefix(1);
-        const std::size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
-        const std::string line(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-        const BåndMode& log = kTiLogge[which];
-        texts[UpperText("log\\" + LogNavn(log.bånd, log.mode))] += line + "\r\n";
-        all.push_back(line);
-        if (log.bånd == "80m" && log.mode == "SSB") current.push_back(line);
-    }
+    for (const BåndMode& log : kTiLogge) std::ranges::copy(Lines(texts, log), std::back_inserter(all));
     BeginProgram();
     Dispatch(StartProgram);
     // A value too large for a counter ends the load with that line.

@@ -8,28 +8,22 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
+#include "logbook/log_file.h"
 #include "platform/platform.h"
 #include "platform/program.h"
-#include "replay/memory_front.h"
-#include "replay/scene_clock.h"
-#include "replay/scene_pages.h"
-#include "replay/scene_sound.h"
-#include "replay/settings_store.h"
+#include "replay/memory_platform.h"
 #include "text/codepage.h"
 
 namespace vatro {
 
-/// Says OK or Yes to every box and cancels every dialogue.
-class Nobody : public Dialogs, public Help, public Instance {
+/// Says OK or Yes to every box.
+class Agreeing : public NobodyThere {
 public:
+    using NobodyThere::Show;
     Answer Show(const MessageBox& box) override { return box.buttons == Buttons::Ok ? Answer::Ok : Answer::Yes; }
-    std::string SaveFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
-    std::string OpenFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
-    void SetUpPrinter() override { throw RunTimeError(Failure::Cancelled); }
     void ShowFailure(const RunTimeError&) override {}
-    void Show(std::string_view) override {}
-    bool AnotherCopyRuns() override { return false; }
 };
 
 /// Files as texts by their paths in upper case. A path without a text is no file.
@@ -77,16 +71,10 @@ private:
 
 /// The platform; nothing of the program runs before BeginProgram.
 template <class F>
-struct FuzzWorld {
-    FuzzWorld() { InstallPlatform({front.ProgramFront(), nobody, settings, files, clock, nobody, nobody, sound, printer, Version{}}); }
-    MemoryFront front;
-    Nobody nobody;
-    SettingsStore settings;
+struct FuzzWorld : MemoryPlatform {
+    FuzzWorld() { Install(agreeing, files); }
+    Agreeing agreeing;
     F files;
-    SceneClock clock;
-    SceneSound sound{clock};
-    ScenePages pages;
-    PageSurface printer{pages};
 };
 
 /// A program with a few countries and stations, on 80 metres SSB in the directory "log".
@@ -102,5 +90,28 @@ struct RunningWorld : FuzzWorld<TextFiles> {
             settings.Write("Settings", key, text);
     }
 };
+
+/// The lines of a text, without their ends.
+inline std::vector<std::string_view> LinesOf(std::string_view text) {
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+        lines.push_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+inline std::string LogName(const BåndMode& log) {
+    return UpperText("log\\" + LogNavn(log.bånd, log.mode));
+}
+
+/// Lines into the ten logs, instead of what is there. The first character of each says which log it stands in.
+inline void FillLogs(std::map<std::string, std::string>& texts, std::string_view input) {
+    for (const BåndMode& log : kTiLogge) texts.erase(LogName(log));
+    for (const std::string_view line : LinesOf(input))
+        if (!line.empty())
+            texts[LogName(kTiLogge[static_cast<unsigned char>(line.front()) % kTiLogge.size()])].append(line.substr(1)).append("\r\n");
+}
 
 }  // namespace vatro

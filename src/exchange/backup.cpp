@@ -67,14 +67,7 @@ void KopierAlle(std::string_view titel, void (*kopier)(const std::string& fil, b
 void SetBackupLib() {
     Files& filer = platform().files;
     try {
-        FileDialog dialog;
-        dialog.fileName = "setBackup.txt";
-        dialog.title = "Vælg eller opret Backupbibliotek"_t;
-        dialog.filter = "setBackup.txt (*.txt)|*.txt";
-        dialog.defaultExtension = "txt";
-        dialog.overwritePrompt = true;
-        const std::string fil = platform().dialogs.SaveFile(dialog);
-
+        const std::string fil = VælgMærkefil("setBackup.txt", "Vælg eller opret Backupbibliotek"_t);
         gsBackupLib = BibliotekAf(fil);
         if (gsBackupLib != gsLogLib) {
             filer.Open(1, fil, FileMode::Output);

@@ -110,14 +110,7 @@ void SkiftBåndMode(int index) {
 void SetLogLib() {
     Files& filer = platform().files;
     try {
-        FileDialog dialog;
-        dialog.fileName = "setlog.txt";
-        dialog.title = "Vælg eller opret logbibliotek"_t;
-        dialog.filter = "setlog.txt (*.txt)|*.txt";
-        dialog.defaultExtension = "txt";
-        dialog.overwritePrompt = true;
-        const std::string fil = platform().dialogs.SaveFile(dialog);
-
+        const std::string fil = VælgMærkefil("setlog.txt", "Vælg eller opret logbibliotek"_t);
         filer.Open(1, fil, FileMode::Output);
         filer.Close(1);
         gsLogLib = BibliotekAf(fil);

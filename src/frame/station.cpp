@@ -35,6 +35,16 @@ std::string BibliotekAf(const std::string& sti) {
     return sti.substr(0, skel);
 }
 
+std::string VælgMærkefil(std::string_view navn, std::string_view titel) {
+    FileDialog dialog;
+    dialog.fileName = navn;
+    dialog.title = titel;
+    dialog.filter = std::string(navn) + " (*.txt)|*.txt";
+    dialog.defaultExtension = "txt";
+    dialog.overwritePrompt = true;
+    return platform().dialogs.SaveFile(dialog);
+}
+
 void NulstilStation() {
     gsFDLib.clear();
     gsMyCall.clear();

@@ -35,6 +35,10 @@ std::string Sti(const std::string& bibliotek, std::string_view navn);
 /// The directory in which a file lies, without a final separator. Fails with 5 if its path names none.
 std::string BibliotekAf(const std::string& sti);
 
+/// Asks for a directory by the file that the user picks or creates in it, as file dialogues offer no directory itself. Gives
+/// the file's path, which is not created yet; fails with 32755 on Cancel.
+std::string VælgMærkefil(std::string_view navn, std::string_view titel);
+
 /// All state of a run as it is before the start.
 void NulstilStation();
 

@@ -25,21 +25,13 @@ std::string Blanke(std::size_t antal) {
     return std::string(antal, ' ');
 }
 
-/// What a CW row and an SSB row have alike.
-std::string Båndrække(std::size_t båndNr, std::string_view mode, const BandSum& sum) {
-    return std::string(kMegahertz[båndNr])
-        .append(mode)
-        .append(InTemplate("@@@@@", sum.QSOs))
-        .append(InTemplate("  @@@@@ x ", sum.Mults))
-        .append(InTemplate("@@@@@@ = ", sum.Points))
-        .append(InTemplate(" @@@@@@@@", sum.Score));
-}
+constexpr Båndsøjler kSøjler{"  @@@@@ x ", " @@@@@@@@"};
 
 /// Radio and antenna stand one above the other.
 void PrintBånd(PageSurface& surface, const Sammentælling& alt, std::size_t båndNr) {
-    Række(surface, Båndrække(båndNr, " CW  ", alt.CW(båndNr)) + Blanke(29) + RigAf(båndNr));
+    Række(surface, Båndrække(kSøjler, båndNr, " CW  ", alt.CW(båndNr)) + Blanke(29) + RigAf(båndNr));
     const LogSum& bånd = alt.bånd[båndNr];
-    Række(surface, Båndrække(båndNr, " SSB ", alt.SSB(båndNr)) + InTemplate("  @@@@@ x ", bånd.Mults) +
+    Række(surface, Båndrække(kSøjler, båndNr, " SSB ", alt.SSB(båndNr)) + InTemplate("  @@@@@ x ", bånd.Mults) +
                        InTemplate("@@@@@@ = ", bånd.Points) + InTemplate("@@@@@@@@@", bånd.Score) + " " + AntAf(båndNr));
     BlankRække(surface);
 }

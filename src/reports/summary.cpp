@@ -47,21 +47,13 @@ std::string TilNæsteZone(std::string linje) {
     return linje;
 }
 
-/// What a CW row and an SSB row have alike.
-std::string Båndrække(std::size_t båndNr, std::string_view mode, const BandSum& sum) {
-    return std::string(kMegahertz[båndNr])
-        .append(mode)
-        .append(InTemplate("@@@@@", sum.QSOs))
-        .append(InTemplate("       @@@@@ x ", sum.Mults))
-        .append(InTemplate("@@@@@@ = ", sum.Points))
-        .append(InTemplate("@@@@@@@@", sum.Score));
-}
+constexpr Båndsøjler kSøjler{"       @@@@@ x ", "@@@@@@@@"};
 
 void SkrivBånd(const Sammentælling& alt, std::size_t båndNr) {
     constexpr std::size_t kTilUdstyr = 49;
-    Skriv(Båndrække(båndNr, " CW   ", alt.CW(båndNr)).append(kTilUdstyr, ' ') + RigAf(båndNr) + "/" + AntAf(båndNr));
+    Skriv(Båndrække(kSøjler, båndNr, " CW   ", alt.CW(båndNr)).append(kTilUdstyr, ' ') + RigAf(båndNr) + "/" + AntAf(båndNr));
     const LogSum& bånd = alt.bånd[båndNr];
-    Skriv(Båndrække(båndNr, " SSB  ", alt.SSB(båndNr)) + InTemplate("         @@@@@ x ", bånd.Mults) +
+    Skriv(Båndrække(kSøjler, båndNr, " SSB  ", alt.SSB(båndNr)) + InTemplate("         @@@@@ x ", bånd.Mults) +
           InTemplate("      @@@@@@ = ", bånd.Points) + InTemplate("      @@@@@@@@@", bånd.Score));
 }
 
@@ -92,6 +84,15 @@ void SkrivBlad(const Sammentælling& alt) {
 }
 
 }  // namespace
+
+std::string Båndrække(const Båndsøjler& søjler, std::size_t båndNr, std::string_view mode, const BandSum& sum) {
+    return std::string(kMegahertz[båndNr])
+        .append(mode)
+        .append(InTemplate("@@@@@", sum.QSOs))
+        .append(InTemplate(søjler.mults, sum.Mults))
+        .append(InTemplate("@@@@@@ = ", sum.Points))
+        .append(InTemplate(søjler.score, sum.Score));
+}
 
 void SumLog(const BåndMode& log, BandSum& sum, std::string& Operators) {
     Files& filer = platform().files;

@@ -57,6 +57,13 @@ Sammentælling Sammentæl();
 
 /// The bands as sheets name them, in the order of Sammentælling::bånd.
 inline constexpr std::array<std::string_view, kAntalBånd> kMegahertz{" 28 MHz", " 21 MHz", " 14 MHz", "  7 MHz", "3,5 MHz"};
+/// The templates in which the file and the printed sheet differ.
+struct Båndsøjler {
+    std::string_view mults;
+    std::string_view score;
+};
+/// What a CW row and an SSB row have alike: band, mode and figures of a log.
+std::string Båndrække(const Båndsøjler& søjler, std::size_t båndNr, std::string_view mode, const BandSum& sum);
 /// The radio and the antenna of a band, by its place in the same order.
 const std::string& RigAf(std::size_t båndNr);
 const std::string& AntAf(std::size_t båndNr);

@@ -6,7 +6,6 @@
 // lets the printer of the window write them to the file.
 #include <QApplication>
 #include <cstdio>
-#include <stdexcept>
 
 #include "disk/disk_files.h"
 #include "entry/frmMain.h"
@@ -16,30 +15,14 @@
 #include "qt/deliver.h"
 #include "qt/printer.h"
 #include "qt/window_driver.h"
-#include "replay/scene_clock.h"
-#include "replay/scene_sound.h"
-#include "replay/settings_store.h"
+#include "replay/memory_platform.h"
 #include "replay/world.h"
-#include "text/codepage.h"
 
 namespace vatro {
 
 namespace {
 
 /// Nobody sits at the program: a box would wait for ever, so it ends the run.
-class Unattended : public Dialogs, public Instance, public Help {
-public:
-    Answer Show(const MessageBox& box) override { throw std::runtime_error("a box: " + ToUtf8(box.text)); }
-    std::string SaveFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
-    std::string OpenFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
-    void SetUpPrinter() override { throw RunTimeError(Failure::Cancelled); }
-    void ShowFailure(const RunTimeError& failure) override {
-        throw std::runtime_error("run-time failure " + std::to_string(failure.Number()));
-    }
-    bool AnotherCopyRuns() override { return false; }
-    void Show(std::string_view) override {}
-};
-
 void PrintAll(const std::string& directory, const QString& pdf) {
     const World world(directory);
     DiskFiles files([&world](std::string_view path) { return world.Found(path); }, World::kSeparator,
@@ -47,19 +30,19 @@ void PrintAll(const std::string& directory, const QString& pdf) {
     SettingsStore settings(world.SettingsFile());
     SceneClock clock;
     SceneSound sound(clock);
-    Unattended unattended;
+    NobodyThere nobody;
     QtPrinter pages;
     pages.Device().setOutputFormat(QPrinter::PdfFormat);
     pages.Device().setOutputFileName(pdf);
     PageSurface printer(pages);
     WindowDriver driver;
     InstallPlatform({driver.ProgramFront(),
-                     unattended,
+                     nobody,
                      settings,
                      files,
                      clock,
-                     unattended,
-                     unattended,
+                     nobody,
+                     nobody,
                      sound,
                      printer,
                      {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+//
+// The program with nobody at it, for benchmarks, fuzz targets and tools: the platform in memory but for its files.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "platform/page.h"
+#include "platform/platform.h"
+#include "replay/memory_front.h"
+#include "replay/scene_clock.h"
+#include "replay/scene_pages.h"
+#include "replay/scene_sound.h"
+#include "replay/settings_store.h"
+#include "text/codepage.h"
+
+namespace vatro {
+
+/// Cancels every dialogue. A box or a failure would wait for an answer for ever, so it ends the run with an exception that tells
+/// of it; those who expect one derive from this. No other copy runs, and help is not shown.
+class NobodyThere : public Dialogs, public Help, public Instance {
+public:
+    Answer Show(const MessageBox& box) override { throw std::runtime_error("a box with nobody there: " + ToUtf8(box.text)); }
+    std::string SaveFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    std::string OpenFile(const FileDialog&) override { throw RunTimeError(Failure::Cancelled); }
+    void SetUpPrinter() override { throw RunTimeError(Failure::Cancelled); }
+    void ShowFailure(const RunTimeError& failure) override {
+        throw std::runtime_error("failure " + std::to_string(failure.Number()) + " with nobody there");
+    }
+    void Show(std::string_view) override {}
+    bool AnotherCopyRuns() override { return false; }
+};
+
+/// The rest of the platform. It must outlive the program that runs on it.
+struct MemoryPlatform {
+    MemoryFront front;
+    SettingsStore settings;
+    SceneClock clock;
+    SceneSound sound{clock};
+    ScenePages pages;
+    PageSurface printer{pages};
+
+    void Install(NobodyThere& nobody, Files& files) {
+        InstallPlatform({front.ProgramFront(), nobody, settings, files, clock, nobody, nobody, sound, printer, Version{}});
+    }
+};
+
+}  // namespace vatro
