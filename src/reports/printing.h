@@ -36,6 +36,8 @@ void PrintLog(PageSurface& surface, const BåndMode& log);
 /// The pages of the open log, without the footer of the last one.
 void PrintKrop(PageSurface& surface, const BåndMode& log);
 
+/// The multiplier check sheet, from the logs or of a table that is counted already. Fails with 9 on a hundred and one multipliers
+/// of one log.
 void PrintMultCheck(PageSurface& surface);
 void PrintMult(PageSurface& surface, const MultTable& table, const MultCount& count);
 
