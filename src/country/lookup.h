@@ -22,10 +22,12 @@ extern std::int16_t giMult;
 /// Finds the country of a call. `resultat` becomes its ten-character prefix if the action took effect - with Op and Test:
 /// the country was not marked, the contact is a new multiplier - and "" otherwise. Op and Ned keep giMult in step. For a
 /// country outside Europe giQSOPoint becomes 6 with every action, but for the calls of the European areas of a country
-/// that the tables hold as Asian. No country: nothing changes. The call must not be empty.
+/// that the tables hold as Asian. No country: nothing changes. Fails with 5 on an empty
+/// call, and as FindHeleCall does.
 void LandWkd(std::string_view call, std::string& resultat, Handling handling);
 
-/// Words the country of a call for the status bar. With gbVisLand off `tekst` stays as it was. The call must not be empty.
+/// Words the country of a call for the status bar. With gbVisLand off `tekst` stays as it was. Fails
+/// as LandWkd does.
 void LandStatusTekst(std::string_view call, std::string& tekst);
 
 /// Whether a status text is that of an unknown prefix.

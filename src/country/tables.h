@@ -30,10 +30,10 @@ struct LandRec {
     FixedText<25> Navn;
     /// "EU" decides the points; anything else counts as outside Europe.
     FixedText<2> Kontinent;
-    /// Degrees as in the country file; filled by the import, no reader.
+    /// Degrees as in the country file; filled by the import, not in lande.txt, read by nothing.
     float Bredde = 0;
     float Laengde = 0;
-    /// Hours from universal time; no reader.
+    /// Hours from universal time; the import writes it to lande.txt, and nothing else reads it.
     float TidsZone = 0;
     /// Worked in the current log. In no file.
     bool Wkd = false;
@@ -74,6 +74,7 @@ int FindPræfix(std::string_view s, int start);
 /// Rebuilds what the two searches use. To be called whenever rows of RefPfx or giRefPfx have changed.
 void IndekserRefPfx();
 
+/// Empty tables, as before the start.
 void NulstilTabeller();
 
 }  // namespace vatro

@@ -34,6 +34,7 @@ void OperatørValgt(const ComboBox& cbo);
 /// swallowed, so a seventh can be typed: meant so. Enter takes the text over as OperatørTjek does.
 void OperatørTast(ComboBox& cbo, KeyCode& KeyAscii);
 
+/// Nobody at the key, as before the start.
 void NulstilOperatør();
 
 }  // namespace vatro

@@ -24,12 +24,10 @@ extern std::string gsQsoMode;
 /// The log directory, without a final separator.
 extern std::string gsLogLib;
 
-inline constexpr int kFørsteBånd = 1;
 inline constexpr int kBåndXX = 6;
 inline constexpr int kFørsteMode = 8;
-inline constexpr int kSidsteMode = 12;
 
-/// The number of a band's or QSO mode's name, in whatever case it is spelled here; 0 if there is none. "XXm" has one.
+/// The number of a band's or QSO mode's name, spelled exactly as above; 0 if there is none. "XXm" has one.
 int BåndIndeks(std::string_view bånd);
 int ModeIndeks(std::string_view qsoMode);
 /// The choice that a word typed in the call field asks for ("80M", "CW"), or 0.
@@ -53,6 +51,7 @@ void SetLogLib();
 /// Tells that the log directory has gone. The caller ends the program.
 void TjekLogLib();
 
+/// As before the start: no band, no mode, no directory.
 void NulstilBåndMode();
 
 }  // namespace vatro

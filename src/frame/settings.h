@@ -14,6 +14,7 @@ class Form;
 
 inline constexpr std::string_view kSettings = "Settings";
 
+/// The text as it is stored.
 std::string HentTekst(std::string_view sektion, std::string_view nøgle, std::string_view standard = {});
 /// A whole number, -32768 to 32767; fails with 6 beyond.
 int HentTal(std::string_view sektion, std::string_view nøgle, int standard);
@@ -22,6 +23,7 @@ int HentTwips(std::string_view nøgle, int standard);
 /// "True" or "False" without regard to case, or a number, of which 0 is false.
 bool HentFlag(std::string_view sektion, std::string_view nøgle, bool standard);
 
+/// What is stored is on the disk on return.
 void GemTekst(std::string_view sektion, std::string_view nøgle, std::string_view tekst);
 void GemTal(std::string_view sektion, std::string_view nøgle, int tal);
 void GemFlag(std::string_view sektion, std::string_view nøgle, bool flag);
@@ -35,7 +37,7 @@ struct Vinduesplads {
     int height;
 };
 
-/// Moves and sizes the form to its stored place.
+/// Moves and sizes the form to its stored place; one on a screen that is no longer there is taken as it is.
 void HentPlads(Form& form, const Vinduesplads& plads);
 /// Stores the form's place unless it is minimised.
 void GemPlads(const Form& form, const Vinduesplads& plads);

@@ -24,7 +24,7 @@ extern std::string gsUTC;
 /// Whether the start information is shown at the next start.
 extern bool gbVisInfo;
 
-/// Universal time now: the local clock plus gsUTC hours. Fails with 13 if gsUTC is no number.
+/// Universal time now: the local clock plus gsUTC hours. Fails with 13 if gsUTC is no number, with 6 beyond 16 bits.
 DateTime NuUTC();
 /// "Hh:Nn" of now, as the time field and the messages show it.
 std::string NuUTCTid();

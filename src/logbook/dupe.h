@@ -11,9 +11,10 @@
 
 namespace vatro {
 
-/// The call being entered, reduced to the base call. Set when the call field is left and by ValiderQSO.
+/// The call being entered, corrected, imported or checked, reduced to the base call. Set by whoever looks at one, so it has a
+/// meaning only until the next.
 extern std::string gsCall;
-/// The contact being entered is a duplicate.
+/// The contact of gsCall is a duplicate.
 extern bool gbDupe;
 
 /// Sets gbDupe: whether a line of the log holds the station gsCall, both reduced to the base call, by exact comparison.

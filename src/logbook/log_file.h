@@ -45,7 +45,8 @@ std::string AktuelLogSti();
 
 /// Loads the log of the current band and mode into the list and rebuilds counters, worked marks and status panels. The
 /// multiplier and points columns count as they stand; the last contact line gives the serial number. A failure to open or
-/// read is the end of the log, without a word. The entry fields are not touched: callers run ResetQSO right after it.
+/// read, or a number out of range, is the end of the log, without a word. The entry fields are not touched: callers run
+/// ResetQSO right after it.
 void IndlæsLogfil();
 
 /// Empties the list, the worked marks and the counters, and shows the current log as an empty one.
@@ -68,6 +69,7 @@ void SkrivLog();
 /// Writes points, multipliers and score of the current log into the status bar.
 void VisStilling();
 
+/// As before the start; the list goes with its form.
 void NulstilLog();
 
 }  // namespace vatro

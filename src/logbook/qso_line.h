@@ -67,8 +67,9 @@ struct Qso {
     std::string dato;
 };
 
-/// The line of a contact in a log of this mode: in an SSB log a report has two figures and a blank. Texts are cut at
-/// their columns; a serial number above 9999 shifts all that follows.
+/// The line of a contact in a log of this mode: in an SSB log a report has two figures and a blank. Call, multiplier, operator
+/// and QSO mode are cut at their columns or filled up to them; the others must fit theirs. A serial number above 9999 shifts all
+/// that follows.
 std::string QsoLine(const Qso& qso, std::string_view logMode);
 
 }  // namespace vatro

@@ -31,6 +31,7 @@ public:
     /// Shows the button of this index as pressed and the others of its group as released. No such button: nothing.
     void Press(int index);
 
+    /// Runs with the button shown as pressed.
     std::function<void(int index)> ButtonClick;
 
     // From the front.
@@ -45,6 +46,7 @@ class StatusBar : public Control {
 public:
     StatusBar(Form& form, std::string_view name, std::vector<std::string> panels) : Control(form, name), panels_(std::move(panels)) {}
     const std::vector<std::string>& Panels() const { return panels_; }
+    /// The panel must exist, here and below.
     const std::string& Panel(std::size_t number) const { return panels_.at(number - 1); }
     void SetPanel(std::size_t number, std::string_view text);
 

@@ -52,6 +52,7 @@ public:
     void UseAccessLetter() override { Press(); }
 };
 
+/// A box that is ticked or not.
 class CheckBox : public CaptionedControl {
 public:
     CheckBox(Form& form, std::string_view name, std::string_view caption) : CaptionedControl(form, name, -1, caption) {}

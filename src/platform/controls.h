@@ -32,6 +32,7 @@ public:
     void SetBackColour(Colour colour);
     bool Opaque() const { return opaque_; }
     void SetOpaque(bool opaque);
+    /// Runs when the caption has become another one.
     std::function<void()> Change;
     /// Width of the caption in the font, in points.
     double TextWidth() const;
@@ -125,7 +126,9 @@ public:
     ~Timer() override;
     /// Milliseconds.
     int Interval() const { return interval_; }
+    /// The next tick falls due one interval from now.
     void SetInterval(int milliseconds);
+    /// Whether it ticks.
     bool Running() const { return running_ && interval_ > 0; }
     void SetRunning(bool running);
 

@@ -24,6 +24,7 @@ enum class WindowState { Normal, Minimised, Maximised };
 /// What kind of window a form is; the front draws it accordingly.
 enum class FormKind { Main, Tool, Dialog, Splash };
 
+/// A window of the program; the base of each form.
 class Form {
 public:
     Form(std::string_view name, FormKind kind, std::string_view caption);
@@ -60,12 +61,13 @@ public:
     bool Modal() const { return modal_; }
     /// Shows the form and makes it the active one; it does not hold the caller.
     void Show();
-    /// Shows the form and holds the caller until it is hidden or unloaded.
+    /// Shows the form and holds the caller until it is hidden or unloaded. Fails with 5 if it is shown.
     void ShowModal();
+    /// The form keeps what stands in it. A modal one has its focus at the first control when it is shown again.
     void Hide();
     /// Runs Form_QueryUnload and Form_Unload and removes the form; its next use loads it anew.
     void Unload();
-    /// Makes a shown form the active one, with the focus where it was in it.
+    /// Makes a shown form the active one, with the focus where it was in it. Fails with 5 if it is not shown.
     void SetFocus();
     /// Paints the form now.
     void Refresh();
@@ -172,6 +174,7 @@ private:
     std::function<std::unique_ptr<Form>()> make_;
 };
 
+/// The slot of a form of the class F, declared behind it as one variable of the program.
 template <class F>
 class FormSlot : public FormSlotBase {
 public:

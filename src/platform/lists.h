@@ -37,7 +37,7 @@ public:
     const std::string& List(int row) const;
     /// Another number after every change of the rows; no two lists ever have the same.
     unsigned Revision() const { return revision_; }
-    /// The row stays in its place, in a sorted list too.
+    /// Fails with 5 if there is no such row. It stays in its place, in a sorted list too.
     void SetList(int row, std::string_view text);
     /// The selection stays on its item.
     void AddItem(std::string text);
@@ -95,10 +95,10 @@ public:
     int ListCount() const { return static_cast<int>(items_.size()); }
     const std::string& List(int row) const;
     void AddItem(std::string text);
-    /// Removes the items and the text.
+    /// Removes the items and the text; Change runs if there was one.
     void Clear();
     int ListIndex() const { return listIndex_; }
-    /// Fails with 5 if there is no such row. Takes the item over as the text and runs Click.
+    /// Fails with 5 if there is no such row; -1 leaves the text. Takes the item over as the text without a Change and runs Click.
     void SetListIndex(int row);
 
     // From the front.

@@ -53,7 +53,9 @@ public:
     void PrintPart(std::string_view text);
     /// The same as Print, in the middle of the line.
     void PrintCentred(std::string_view text);
+    /// The next text stands at the top of a new page.
     void NewPage();
+    /// Ends the job; the next print begins another one at page 1. The font stays.
     void EndDoc();
 
 private:

@@ -50,6 +50,7 @@ struct FileDialog {
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
+    /// Returns when the box has been answered; closing it is No, or OK where there is no No.
     virtual Answer Show(const MessageBox& box) = 0;
     /// The full path chosen. Fails with Failure::Cancelled.
     virtual std::string SaveFile(const FileDialog& dialog) = 0;
@@ -66,14 +67,15 @@ public:
     virtual ~Settings() = default;
     /// Nothing if the key is missing. Writes nothing.
     virtual std::optional<std::string> Read(std::string_view section, std::string_view key) = 0;
-    /// The value is on disk on return.
+    /// The value is on disk on return. A disk that does not take it is not told.
     virtual void Write(std::string_view section, std::string_view key, std::string_view text) = 0;
 };
 
 enum class FileMode { Input, Output, Append };
 
 /// Sequential text files by number, 1 and 2. Names in a path are found without regard to case. Every failure is a
-/// RunTimeError with the number that the table of numbers gives it.
+/// RunTimeError: 52 for a number that is not open, 54 for reading what is written or the other way round, else what the disk
+/// says.
 class Files {
 public:
     virtual ~Files() = default;
@@ -81,6 +83,7 @@ public:
     virtual void Open(int number, std::string_view path, FileMode mode) = 0;
     /// The next line without its end, which is CR LF, LF or CR. Fails with 62 at the end of the file.
     virtual std::string LineInput(int number) = 0;
+    /// Whether no line is left.
     virtual bool EndOfFile(int number) = 0;
     /// Writes the text and CR LF.
     virtual void PrintLine(int number, std::string_view text) = 0;
@@ -88,6 +91,7 @@ public:
     virtual void Print(int number, std::string_view text) = 0;
     /// What was written is on the disk on return. A number that is not open is no failure.
     virtual void Close(int number) = 0;
+    /// Fails with 53 if there is no such file.
     virtual void Delete(std::string_view path) = 0;
     /// Fails with 58 if `to` exists. The directory is on the disk on return.
     virtual void Rename(std::string_view from, std::string_view to) = 0;
@@ -140,7 +144,7 @@ public:
 class Help {
 public:
     virtual ~Help() = default;
-    /// Opens the viewer at a page of the handbook and does not wait for it. Fails with 53 if there is no such page.
+    /// Opens the viewer on the help file and does not wait for it. Fails with 53 if there is no help.
     virtual void Show(std::string_view path) = 0;
 };
 
@@ -174,6 +178,7 @@ struct Platform {
 
 /// The services installed. Must not be asked before InstallPlatform.
 const Platform& platform();
+/// In place of those installed before.
 void InstallPlatform(const Platform& services);
 
 /// A box with an OK button and the program's title.

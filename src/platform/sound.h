@@ -60,6 +60,7 @@ public:
     virtual void Stop() = 0;
 };
 
+/// A sound card.
 class SoundDevice {
 public:
     virtual ~SoundDevice() = default;
@@ -67,6 +68,7 @@ public:
     virtual std::unique_ptr<SoundBuffer> CreateBuffer(const SoundBufferDescription& description, const WaveFormat& format) = 0;
 };
 
+/// The sound system.
 class Sound {
 public:
     virtual ~Sound() = default;

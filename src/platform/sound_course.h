@@ -17,6 +17,7 @@ namespace vatro {
 
 inline constexpr int kBytesPerSample = 2;
 
+/// One play, from Begin on.
 class SoundCourse {
 public:
     /// A buffer of so many samples, at least one.

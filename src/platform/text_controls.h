@@ -66,6 +66,7 @@ private:
     bool locked_ = false;
 };
 
+/// A field of one line.
 class TextBox : public TextControl {
 public:
     using TextControl::TextControl;

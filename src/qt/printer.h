@@ -38,7 +38,7 @@ private:
     QPainter painter_;
     /// Pages begun before anything stood on the first one.
     int pending_ = 0;
-    /// The user gave no place for the job.
+    /// The user gave no place for the job, or nothing can be printed there.
     bool dropped_ = false;
 };
 

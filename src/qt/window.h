@@ -24,6 +24,7 @@ class Input;
 class QtFront;
 
 inline constexpr int kTwipsPerPixel = 15;
+/// Rounded.
 int ToPixels(int twips);
 
 /// In twips.

@@ -19,11 +19,13 @@ namespace vatro {
 /// show, with all of its arguments.
 Output Show(const std::vector<std::string>& arguments, Driver& driver);
 
+/// What a control holds, and its state. Fails with CannotDeliver for one that has nothing to show.
 Output ShowControl(const Control& control);
 Output ShowControlState(const Control& control);
 
 /// cat: each line of the content between bars, with what ends it if that is not CR LF.
 Output ShowLines(std::string_view content);
+/// A file or directory that is missing is told so.
 Output Cat(const World& world, const std::string& path);
 Output List(const World& world, const std::string& directory);
 

@@ -20,6 +20,7 @@ void DanFejlliste();
 
 /// The section of one log. A log that is missing or empty is told; so is any other failure, which ends the log there.
 void DanFejlList(const BåndMode& log);
+/// The line between two sections.
 void DanFejlListHoved(const BåndMode& log);
 /// All lines of the open log, at least one: fails with 62 if there is none.
 void DanFejlListKrop(const BåndMode& log);

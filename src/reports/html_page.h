@@ -13,6 +13,7 @@ void DanHtml();
 
 /// The section of one log. Without its file it is empty, and the links still find it.
 void DanHtm(const BåndMode& log);
+/// Anchor, heading and the columns' names.
 void DanHtmHoved(const BåndMode& log);
 /// Every line of the open log, notes too, and its sums.
 void DanHtmKrop();

@@ -23,6 +23,7 @@ inline constexpr std::string_view kKolonner = "  Dato    UTC  Call            Se
 inline constexpr std::string_view kDenneSide = "Ialt denne side:";
 inline constexpr std::string_view kAkkumuleret = "Ialt akkumuleret:";
 
+/// The text behind kIndryk.
 std::string Indrykket(std::string_view tekst);
 /// Columns 72 to 79 of a line and its columns 1 to 70, indented.
 std::string Kontaktrække(std::string_view linje);

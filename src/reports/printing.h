@@ -31,11 +31,13 @@ void PrintHoved(PageSurface& surface, std::string_view bånd, std::string_view m
 /// The footer, on the last line of the page.
 void PrintFod(PageSurface& surface);
 
-/// A log. One that cannot be opened prints nothing and takes no page.
+/// A log. One that cannot be opened prints nothing and takes no page; one that fails on the way ends there, without a word.
 void PrintLog(PageSurface& surface, const BåndMode& log);
 /// The pages of the open log, without the footer of the last one.
 void PrintKrop(PageSurface& surface, const BåndMode& log);
 
+/// The multiplier check sheet, from the logs or of a table that is counted already. Fails with 9 on a hundred and one multipliers
+/// of one log.
 void PrintMultCheck(PageSurface& surface);
 void PrintMult(PageSurface& surface, const MultTable& table, const MultCount& count);
 

@@ -38,7 +38,7 @@ int EDRIBrug();
 void IndlæsEDR();
 
 /// Recognises a station by the first six characters of the call, to which `call` is cut or blank-padded. A station found
-/// sets giQSOPoint to 10 with every action; Op and Ned keep its mark.
+/// sets giQSOPoint to 10 with every action; Op marks it as worked, Ned takes the mark away.
 void EDRstnWkd(std::string& call, Handling handling);
 
 /// Words the station of a base call for the operator; `tekst` stays as it was if it is none.
@@ -47,6 +47,7 @@ void findEDRstn(std::string_view call, std::string& tekst);
 /// Clears the worked marks.
 void ResetEDR();
 
+/// An empty list, as before the start.
 void NulstilEDR();
 
 }  // namespace vatro

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "scoring/frmEDR.h"
 
-#include <algorithm>
-
 #include "frame/settings.h"
 #include "platform/platform.h"
 #include "scoring/edr.h"
@@ -50,7 +48,7 @@ void VisEDRstns(bool koert) {
     frmEDR->List1.Clear();
     frmEDR->SetCaption(koert ? "Kørte EDR stationer"_t : "Ikke kørte EDR stationer"_t);
     frmEDR->Show();
-    for (int i = 1; i <= std::min<int>(giEDR, kEdrRækker); ++i) {
+    for (int i = 1; i <= EDRIBrug(); ++i) {
         const EDRRec& station = EDRstn[static_cast<std::size_t>(i)];
         frmEDR->List1.AddItem(station.Wkd == koert ? std::string(station.Linje.Padded().substr(0, kEdrCall)) : "________");
     }

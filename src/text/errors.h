@@ -9,6 +9,7 @@
 
 namespace vatro {
 
+/// The numbers of the failures.
 enum class Failure : int {
     InvalidCall = 5,
     Overflow = 6,

@@ -33,7 +33,7 @@ std::string PlainNumber(long long value);
 std::string NumberText(long long value);
 
 /// At least `digits` digits with leading zeros, as "0000"; a larger number keeps all its digits. A half is rounded
-/// away from zero.
+/// away from zero. Fails with 6 where the value is not finite.
 std::string ZeroPadded(double value, int digits);
 
 /// ZeroPadded of the number that the text is; a text that is no number stands as it is.
