@@ -178,6 +178,9 @@ std::vector<CtyLand> LæsCtyFil(const std::vector<std::string>& linjer) {
                 CtyPoster rest(linjer[nr], hoved);
                 while (rest.Flere()) {
                     const std::string_view tekst = rest.NæsteTekst();
+                    if (tekst.empty()) FejlILinje(nr + 1, "en post er tom");
+                    // The import takes it for a part of the item, which at the end of a line could not be written so again.
+                    if (tekst.find(';') != std::string_view::npos) FejlILinje(nr + 1, "';' står inde i en post");
                     const CtyPost post = CtyPoster::Opdel(tekst, hoved);
                     land.poster.push_back({std::string(tekst), std::string(post.tekst), std::string(post.tekst.substr(0, kPfxLængde)),
                                            post.cqZone, post.ituZone, post.kald, true});

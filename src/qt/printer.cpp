@@ -1,18 +1,41 @@
 // SPDX-License-Identifier: MIT
 #include "qt/printer.h"
 
-#include <QFileDialog>
 #include <QFontMetricsF>
 #include <QPrinterInfo>
 
-#include "qt/dialogs.h"
+#include "platform/platform.h"
 #include "qt/text.h"
 
 namespace vatro {
 
+using namespace literals;
+
 namespace {
 
 constexpr double kPointsPerInch = 72;
+
+/// Empty on Cancel.
+QString AskForPdf() {
+    FileDialog dialog;
+    dialog.title = "Gem udskriften som PDF";
+    dialog.fileName = "vatro.pdf";
+    dialog.filter = "PDF (*.pdf)|*.pdf";
+    dialog.defaultExtension = "pdf";
+    dialog.overwritePrompt = true;
+    try {
+        return ToQt(platform().dialogs.SaveFile(dialog));
+    } catch (const RunTimeError&) {
+        return {};
+    }
+}
+
+void TellFailure(const QString& file) {
+    MessageBox box;
+    box.text = file.isEmpty() ? std::string("Printeren kan ikke bruges.") : "Udskriften kan ikke skrives til " + FromQt(file);
+    box.icon = Icon::Exclamation;
+    platform().dialogs.Show(box);
+}
 
 }  // namespace
 
@@ -61,16 +84,15 @@ bool QtPrinter::Start() {
     if (painter_.isActive()) return true;
     if (dropped_) return false;
     if (printer_->outputFileName().isEmpty() && QPrinterInfo::availablePrinterNames().isEmpty()) {
-        const QString file = QFileDialog::getSaveFileName(DialogOwner(), QStringLiteral("Gem udskriften som PDF"),
-                                                          QStringLiteral("vatro.pdf"), QStringLiteral("PDF (*.pdf)"));
-        if (file.isEmpty()) {
-            dropped_ = true;
-            return false;
-        }
+        const QString file = AskForPdf();
+        dropped_ = file.isEmpty();
+        if (dropped_) return false;
         printer_->setOutputFormat(QPrinter::PdfFormat);
         printer_->setOutputFileName(file);
+        asked_ = true;
     }
     dropped_ = !painter_.begin(printer_.get());
+    if (dropped_) TellFailure(printer_->outputFileName());
     for (; !dropped_ && pending_ > 0; --pending_) printer_->newPage();
     return !dropped_;
 }
@@ -93,6 +115,10 @@ void QtPrinter::NextPage() {
 
 void QtPrinter::EndJob() {
     if (painter_.isActive()) painter_.end();
+    if (!asked_) return;
+    // The next job asks for a file of its own.
+    printer_->setOutputFileName({});
+    asked_ = false;
 }
 
 }  // namespace vatro

@@ -38,8 +38,10 @@ private:
     QPainter painter_;
     /// Pages begun before anything stood on the first one.
     int pending_ = 0;
-    /// The user gave no place for the job, or nothing can be printed there.
+    /// The user gave no place for the job, or nothing can be printed there, which has been told.
     bool dropped_ = false;
+    /// The file is one that the user gave for this job alone.
+    bool asked_ = false;
 };
 
 }  // namespace vatro

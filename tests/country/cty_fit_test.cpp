@@ -166,6 +166,8 @@ TEST(CtyFit, LongListsRunOverSeveralLines) {
 TEST(CtyFit, DamageIsToldByItsLine) {
     EXPECT_EQ(Refused({Header("QA"), "    QA;", "no header"}), "linje 3: kan ikke læses");
     EXPECT_EQ(Refused({Header("QA"), "    QA,", "    QB(1;"}), "linje 3: kan ikke læses");
+    EXPECT_EQ(Refused({Header("QA"), "    QA,", "    QB;QC,QD;"}), "linje 3: ';' står inde i en post");
+    EXPECT_EQ(Refused({Header("QA"), "    QA,,QB;"}), "linje 2: en post er tom");
     EXPECT_EQ(Refused({Header("QA"), "    QA,"}), "linje 2: filen holder op midt i et land");
     EXPECT_EQ(Refused(kTwo), "");
 }

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+//
+// Any tables at the start: countries, prefixes, the society's stations, operators. The program starts, and calls are looked up
+// and given points, or it ends with a failure that is told. Input: lines; the first character of each says which table.
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "country/tables.h"
+#include "entry/frmMain.h"
+#include "entry/qso_fields.h"
+#include "frame/start.h"
+#include "scoring/edr.h"
+#include "scoring/points.h"
+#include "world.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace vatro;
+    static auto* const world = new RunningWorld;
+    constexpr std::array kTables{"DATA\\LANDE.TXT", "DATA\\REFPFX.TXT", "DATA\\EDR.TXT", "DATA\\OPERATOR.TXT"};
+    auto& texts = world->files.texts;
+    for (const char* table : kTables) texts[table].clear();
+    for (const std::string_view line : LinesOf({reinterpret_cast<const char*>(data), size}))
+        if (!line.empty()) texts[kTables[static_cast<unsigned char>(line.front()) % kTables.size()]].append(line.substr(1)).append("\r\n");
+
+    BeginProgram();
+    Dispatch(StartProgram);
+    if (!ProgramRuns()) return 0;
+    if (LandeIBrug() > kLandeRækker || giRefPfx > kRefPfxRækker + 1 || EDRIBrug() > kEdrRækker) __builtin_trap();
+    for (const char* call : {"OZ1ABC", "OZ1ABC/P", "W1AW", "SV9/DL1XYZ", "Q"}) {
+        Dispatch([&] {
+            frmMain->Text1[kCallFelt].SetText(call);
+            std::string points(call);
+            BeregnPoint(points);
+        });
+        if (!ProgramRuns()) return 0;
+    }
+    EndProgram();
+    return 0;
+}
