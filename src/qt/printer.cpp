@@ -9,8 +9,6 @@
 
 namespace vatro {
 
-using namespace literals;
-
 namespace {
 
 constexpr double kPointsPerInch = 72;
