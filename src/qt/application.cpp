@@ -7,6 +7,11 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+// Outside every namespace, as Qt asks.
+static void UseIcon() {
+    Q_INIT_RESOURCE(icon);
+}
+
 namespace vatro {
 
 namespace {
@@ -19,9 +24,10 @@ void PrepareApplication() {
     QApplication::setApplicationName(QStringLiteral("vatro"));
     QApplication::setApplicationVersion(
         QStringLiteral("%1.%2.%3").arg(VATRO_VERSION_MAJOR).arg(VATRO_VERSION_MINOR).arg(VATRO_VERSION_PATCH));
-    QApplication::setDesktopFileName(QStringLiteral("vatro"));
+    QApplication::setDesktopFileName(QStringLiteral("dk.vatro.Vatro"));
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("vatro")));
+    UseIcon();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icon/dk.vatro.Vatro.svg")));
     // Qt's own words, of its file dialogue and context menus, where they are installed.
     auto* danish = new QTranslator(qApp);
     if (danish->load(QStringLiteral("qtbase_da"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+#   package.sh ROOT
+#
+# The desktop entry, the metainfo and the manual pages are as their own checkers want them. Exit code 77 where one of the checkers
+# is missing and the others find nothing.
+set -euo pipefail
+cd "$1/packaging"
+fault=0
+skipped=0
+have() {
+    command -v "$1" >/dev/null && return
+    echo "$1 is not installed"
+    skipped=77
+    return 1
+}
+if have desktop-file-validate; then
+    told=$(desktop-file-validate dk.vatro.Vatro.desktop 2>&1) || fault=1
+    # Hints are no failure of it, and are read here all the same.
+    [ -z "$told" ] || { echo "$told"; fault=1; }
+fi
+if have appstreamcli; then
+    appstreamcli validate --no-net --strict dk.vatro.Vatro.metainfo.xml || fault=1
+fi
+if have man; then
+    for page in *.1; do
+        told=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings=w -E UTF-8 -l -Tutf8 -Z "$page" 2>&1 >/dev/null) || fault=1
+        [ -z "$told" ] || { echo "$page: $told"; fault=1; }
+    done
+fi
+[ $fault = 0 ] || exit 1
+exit $skipped
