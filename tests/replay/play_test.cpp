@@ -30,11 +30,9 @@ protected:
     }
     int Run(std::vector<std::string> arguments) {
         arguments.insert(arguments.begin(), "vatro-replay");
-        std::vector<char*> argv;
-        for (std::string& argument : arguments) argv.push_back(argument.data());
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
-        const int result = PlayMain(static_cast<int>(argv.size()), argv.data(), [] { return std::make_unique<MemoryFront>(); });
+        const int result = PlayMain(arguments, [] { return std::make_unique<MemoryFront>(); });
         out = testing::internal::GetCapturedStdout();
         err = testing::internal::GetCapturedStderr();
         return result;
