@@ -83,7 +83,7 @@ TEST_F(PlayTest, UpdateWritesWhatCameIntoTheFile) {
 TEST_F(PlayTest, KeptWorldIsThereBeforeAndAfterwards) {
     const std::string kept = place.Path("kept/world").string();
     fs::create_directories(fs::path(kept) / "data");
-    std::ofstream(fs::path(kept) / "data" / "a.txt") << "x\r\n";
+    std::ofstream(fs::path(kept) / "data" / "a.txt", std::ios::binary) << "x\r\n";
     EXPECT_EQ(Run({"--keep", kept, File("a.scn", "cat data/a.txt\n> |x|\nfile log/b.txt\n| y\nsetting Settings UTC -1\n")}), 0);
     EXPECT_EQ(TextOf(kept + "/log/b.txt"), "y\r\n");
     EXPECT_EQ(Run({"--keep", kept, File("b.scn", "setting Settings UTC\n> Settings/UTC \"-1\"\n")}), 0);
