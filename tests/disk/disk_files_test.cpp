@@ -210,6 +210,10 @@ TEST_F(DiskFilesTest, RenameNeverReplacesAFile) {
 }
 
 TEST_F(DiskFilesTest, RenameMayChangeTheSpelling) {
+    Put("probe", "");
+    std::filesystem::rename(root_ / "probe", root_ / "PROBE");
+    if (Names() != std::vector<std::string>{"PROBE"}) GTEST_SKIP() << "the system itself keeps the old spelling, as wine does";
+    std::filesystem::remove(root_ / "PROBE");
     Put("a.txt", "a");
     files_.Rename(At("a.txt"), At("A.TXT"));
     EXPECT_THAT(Names(), ElementsAre("A.TXT"));

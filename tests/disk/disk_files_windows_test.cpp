@@ -49,6 +49,10 @@ TEST_F(DiskFilesWindowsTest, ANameThatTheSystemCannotHaveIsABadName) {
 TEST_F(DiskFilesWindowsTest, AFileThatIsProtectedIsPermissionDenied) {
     Put("a.txt", "a");
     std::filesystem::permissions(root_ / "a.txt", std::filesystem::perms::owner_read);
+    if (std::ofstream(root_ / "a.txt", std::ios::app)) {
+        std::filesystem::permissions(root_ / "a.txt", std::filesystem::perms::owner_all);
+        GTEST_SKIP() << "under wine nothing is protected from root";
+    }
     const int append = OpenFails(At("a.txt"), FileMode::Append);
     const int remove = NumberOf([&] { files_.Delete(At("a.txt")); });
     Put("b.txt", "b");
