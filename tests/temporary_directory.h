@@ -3,19 +3,19 @@
 // A directory of a test's own, removed with all that is in it.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
-#include <stdexcept>
+#include <random>
 #include <string>
+#include <system_error>
 
 namespace vatro {
 
 class TemporaryDirectory {
 public:
     TemporaryDirectory() {
-        std::string name = (std::filesystem::temp_directory_path() / "vatro-test-").string() + std::string(6, 'X');
-        if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary directory");
-        path_ = name;
+        std::random_device random;
+        do path_ = std::filesystem::temp_directory_path() / ("vatro-test-" + std::to_string(random()));
+        while (!std::filesystem::create_directory(path_));
     }
     ~TemporaryDirectory() {
         std::error_code ignored;

@@ -13,30 +13,32 @@
 #include <vector>
 
 #include "country/cty_fit.h"
+#include "disk/command_line.h"
+#include "disk/names.h"
 #include "text/codepage.h"
 
 namespace {
 
 using namespace vatro;
 
-std::string Læs(const char* sti) {
-    std::ifstream fil(sti, std::ios::binary);
+std::string Læs(const std::string& sti) {
+    std::ifstream fil(PathOfUtf8(sti), std::ios::binary);
     try {
         if (fil) return {std::istreambuf_iterator<char>(fil), {}};
     } catch (const std::ios_base::failure&) {
         // As a directory does.
     }
-    throw CtyFejl{std::string(sti) + " kan ikke læses"};
+    throw CtyFejl{sti + " kan ikke læses"};
 }
 
 /// Writes the file whole or not at all.
 void Skriv(const std::string& sti, const std::vector<std::string>& linjer) {
-    const std::string ny = sti + ".ny";
+    const std::filesystem::path ny = PathOfUtf8(sti + ".ny");
     std::ofstream fil(ny, std::ios::binary);
     for (const std::string& linje : linjer) fil << linje << "\r\n";
     fil.close();
     std::error_code fejl;
-    if (fil) std::filesystem::rename(ny, sti, fejl);
+    if (fil) std::filesystem::rename(ny, PathOfUtf8(sti), fejl);
     if (fil && !fejl) return;
     std::filesystem::remove(ny, fejl);
     throw CtyFejl{sti + " kan ikke skrives"};
@@ -56,7 +58,7 @@ bool Kontroller(const std::vector<CtyLand>& lande) {
     return fejl.empty();
 }
 
-int Tilpas(std::vector<CtyLand>& lande, const char* sti) {
+int Tilpas(std::vector<CtyLand>& lande, const std::string& sti) {
     const CtyUdeladt ude = TilpasCty(lande);
     const std::vector<std::string> linjer = SkrivCty(lande);
     if (!Kontroller(LæsCtyFil(linjer))) return 1;
@@ -73,13 +75,14 @@ int Tilpas(std::vector<CtyLand>& lande, const char* sti) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2 && argc != 3) {
+    const std::vector<std::string> argumenter = CommandLine(argc, argv);
+    if (argumenter.size() != 2 && argumenter.size() != 3) {
         std::cerr << "brug: vatro-cty CTY.DAT [NY.DAT]\n";
         return 2;
     }
     try {
-        std::vector<CtyLand> lande = LæsCtyFil(CtyLinjer(Læs(argv[1])));
-        if (argc == 3) return Tilpas(lande, argv[2]);
+        std::vector<CtyLand> lande = LæsCtyFil(CtyLinjer(Læs(argumenter[1])));
+        if (argumenter.size() == 3) return Tilpas(lande, argumenter[2]);
         if (!Kontroller(lande)) return 1;
         std::cout << lande.size() << " lande, filen kan importeres\n";
         return 0;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "disk/disk_files.h"
 
-#include <cerrno>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -25,7 +24,7 @@ std::optional<fs::path> OpenPath(SystemFile& file, const fs::path& spelled, Syst
     // The directories are searched only when the path does not lead anywhere as it stands.
     int error = file.Open(spelled, access, false);
     if (error == 0) return std::nullopt;
-    if (error != ENOENT) Fail(FailureOf(error));
+    if (!IsMissing(error)) Fail(FailureOf(error));
     const FoundPath found = FindPath(spelled);
     if (!found.directoryExists) Fail(Failure::PathNotFound);
     const bool read = access == SystemFile::Access::Read;
@@ -155,7 +154,7 @@ void DiskFiles::Save(Slot& slot) {
 void DiskFiles::Delete(std::string_view path) {
     const fs::path spelled = ToPath(path);
     int error = RemoveFile(spelled);
-    if (error == ENOENT) error = RemoveFile(ExistingPath(spelled));
+    if (IsMissing(error)) error = RemoveFile(ExistingPath(spelled));
     if (error != 0) Fail(FailureOf(error));
 }
 
@@ -170,9 +169,8 @@ void DiskFiles::Rename(std::string_view from, std::string_view to) {
         if (target.path != source || respelled == source) Fail(Failure::FileExists);
         target.path = respelled;
     }
-    std::error_code error;
-    fs::rename(source, target.path, error);
-    if (error) Fail(FailureOf(error.default_error_condition().value()));
+    const int error = RenameFile(source, target.path);
+    if (error != 0) Fail(FailureOf(error));
     SyncDirectory(target.path.parent_path());
     if (source.parent_path() != target.path.parent_path()) SyncDirectory(source.parent_path());
 }

@@ -26,11 +26,7 @@ namespace vatro {
 /// Turns a path of the program into one of the file system. It may fail with a RunTimeError.
 using PathMap = std::function<std::filesystem::path(std::string_view)>;
 
-#ifdef _WIN32
-inline constexpr char kNativeSeparator = '\\';
-#else
-inline constexpr char kNativeSeparator = '/';
-#endif
+inline constexpr char kNativeSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
 
 class DiskFiles : public Files {
 public:

@@ -2,8 +2,9 @@
 //
 // One open file of the operating system, and the numbers of its failures.
 //
-// The only place, together with system_file.cpp, that knows which system it is. Opening gives the system's error
-// number, because its callers try again with another spelling; everything else fails as a RunTimeError.
+// system_file_posix.cpp and system_file_windows.cpp are the two systems; the build takes one of them. Opening, removing and
+// renaming give the system's error number, because their callers try again with another spelling; everything else fails as a
+// RunTimeError.
 #pragma once
 
 #include <cstddef>
@@ -19,6 +20,9 @@ namespace vatro {
 /// The failure that stands for an error number of the system. A missing file gives FileNotFound; whether it is its
 /// directory that is missing only the caller knows.
 Failure FailureOf(int error);
+
+/// Whether the error says that nothing has this name, or that nothing can have it; it may be there in another spelling.
+bool IsMissing(int error);
 
 class SystemFile {
 public:
@@ -39,7 +43,7 @@ public:
 
     /// Opens the file, or creates it if it is missing and `create` says so. 0, or the error number.
     int Open(const std::filesystem::path& path, Access access, bool create);
-    bool IsOpen() const { return handle_ >= 0; }
+    bool IsOpen() const { return handle_ != kNone; }
     bool IsDirectory() const;
     /// Whether both are the same file on the disk.
     bool IsSameFile(const SystemFile& other) const;
@@ -55,11 +59,16 @@ public:
     void Close() noexcept;
 
 private:
-    int handle_ = -1;
+    /// Of both systems, a file descriptor or a handle.
+    static constexpr std::intptr_t kNone = -1;
+    std::intptr_t handle_ = kNone;
 };
 
 /// Removes a file, not a directory. 0, or the error number.
 int RemoveFile(const std::filesystem::path& path);
+
+/// Gives a file another name on the same volume, one that no file has. 0, or the error number.
+int RenameFile(const std::filesystem::path& from, const std::filesystem::path& to);
 
 /// Names that were created or changed in the directory are on the disk on return.
 void SyncDirectory(const std::filesystem::path& directory);

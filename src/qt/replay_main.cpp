@@ -39,6 +39,6 @@ int main(int argc, char** argv) {
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
     QApplication::setCursorFlashTime(0);
 
-    const int result = vatro::PlayMain(argc, argv, [] { return std::make_unique<vatro::WindowDriver>(); });
+    const int result = vatro::PlayMain({argv, argv + argc}, [] { return std::make_unique<vatro::WindowDriver>(); });
     return result == 0 && warnings > 0 ? kError : result;
 }

@@ -9,12 +9,15 @@
 #include <string>
 #include <vector>
 
+#include "disk/names.h"
 #include "frame/start.h"
 #include "replay/player.h"
 #include "replay/scenario.h"
 #include "replay/world.h"
 
 namespace vatro {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -52,13 +55,14 @@ std::optional<Options> ReadOptions(const std::vector<std::string>& arguments) {
 }
 
 int PlayFile(const std::string& file, const Options& options, Driver& driver) {
-    std::ifstream stream(file, std::ios::binary);
+    const fs::path path = PathOfUtf8(file);
+    std::ifstream stream(path, std::ios::binary);
     if (!stream) throw ScenarioError(0, "cannot be read");
     const std::string text(std::istreambuf_iterator<char>(stream), {});
     stream.close();
     const Scenario scenario(text);
     const std::optional<World> world =
-        options.keep ? std::optional<World>(std::in_place, *options.keep) : std::optional<World>(std::in_place);
+        options.keep ? std::optional<World>(std::in_place, PathOfUtf8(*options.keep)) : std::optional<World>(std::in_place);
     Player player(scenario, *world, driver, StartProgram);
     player.Play();
     const auto& output = player.Outputs();
@@ -75,7 +79,7 @@ int PlayFile(const std::string& file, const Options& options, Driver& driver) {
     }
     const std::string updated = scenario.WithOutput(output);
     if (updated == text) return kAllWell;
-    std::ofstream update(file, std::ios::binary | std::ios::trunc);
+    std::ofstream update(path, std::ios::binary | std::ios::trunc);
     update << updated;
     update.close();
     if (update.fail()) throw ScenarioError(0, "cannot be written");
@@ -84,10 +88,10 @@ int PlayFile(const std::string& file, const Options& options, Driver& driver) {
 
 }  // namespace
 
-int PlayMain(int argc, char** argv, const std::function<std::unique_ptr<Driver>()>& makeDriver) {
-    const auto options = ReadOptions(std::vector<std::string>(argv + 1, argv + argc));
+int PlayMain(const std::vector<std::string>& arguments, const std::function<std::unique_ptr<Driver>()>& makeDriver) {
+    const auto options = ReadOptions({arguments.begin() + 1, arguments.end()});
     if (!options) {
-        std::cerr << "usage: " << argv[0] << " [--print | --update] [--keep DIR] FILE...\n";
+        std::cerr << "usage: " << arguments.front() << " [--print | --update] [--keep DIR] FILE...\n";
         return kError;
     }
     for (const std::string& file : options->files) {

@@ -19,16 +19,6 @@ namespace {
 
 constexpr std::string_view kFloppy = "floppy";
 
-fs::path FromText(std::string_view text) {
-    const std::string utf8 = ToUtf8(text);
-    return fs::path(std::u8string(utf8.begin(), utf8.end()));
-}
-
-std::string ToText(const fs::path& path) {
-    const std::u8string utf8 = path.u8string();
-    return FromUtf8(std::string(utf8.begin(), utf8.end()));
-}
-
 /// What goes at the end needs no disk: in memory, where there is such a place, the syncing of every contact costs nothing.
 fs::path TemporaryPlace() {
     const fs::path memory = "/dev/shm";
@@ -94,17 +84,17 @@ fs::path World::Path(std::string_view path) const {
             std::error_code ignored;
             fs::create_directory(result, ignored);
         }
-        for (const std::string_view component : Components(path)) result /= FromText(component);
+        for (const std::string_view component : Components(path)) result /= PathOf(component);
         return result;
     }
     const std::vector<std::string_view> components = Components(path);
     if (components.empty()) return root_ / kCurrentDirectory;
     std::error_code ignored;
-    if (components.size() == 1 && !fs::is_directory(FindPath(root_ / FromText(components.front())).path, ignored) &&
+    if (components.size() == 1 && !fs::is_directory(FindPath(root_ / PathOf(components.front())).path, ignored) &&
         !EqualNoCase(components.front(), "log") && !EqualNoCase(components.front(), "backup") &&
         !EqualNoCase(components.front(), kCurrentDirectory))
         result /= kCurrentDirectory;
-    for (const std::string_view component : components) result /= FromText(component);
+    for (const std::string_view component : components) result /= PathOf(component);
     return result;
 }
 
@@ -145,7 +135,7 @@ std::optional<std::vector<std::string>> World::List(std::string_view path) const
     std::error_code error;
     if (!fs::is_directory(directory, error)) return std::nullopt;
     std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(directory)) names.push_back(ToText(entry.path().filename()));
+    for (const auto& entry : fs::directory_iterator(directory)) names.push_back(NativeText(entry.path().filename()));
     // std::string compares characters as unsigned.
     std::sort(names.begin(), names.end());
     return names;

@@ -60,24 +60,15 @@ bool EqualNoCase(std::string_view a, std::string_view b);
 
 namespace detail {
 
-/// A UTF-8 literal as a template argument.
-template <std::size_t N>
-struct Literal {
-    char chars[N]{};
-    // NOLINTNEXTLINE(google-explicit-constructor): a literal becomes a template argument by this conversion.
-    consteval Literal(const char (&text)[N]) {
-        for (std::size_t i = 0; i < N; ++i) chars[i] = text[i];
-    }
-};
-
-/// The literal in the code page, zero-terminated.
+/// A UTF-8 literal in the code page, as a template argument; zero-terminated.
 template <std::size_t N>
 struct CodePageLiteral {
     char chars[N]{};
     std::size_t length = 0;
-    consteval explicit CodePageLiteral(const Literal<N>& utf8) {
+    // NOLINTNEXTLINE(google-explicit-constructor): a literal becomes a template argument by this conversion.
+    consteval CodePageLiteral(const char (&utf8)[N]) {
         for (std::size_t i = 0; i + 1 < N;) {
-            const auto lead = static_cast<unsigned char>(utf8.chars[i]);
+            const auto lead = static_cast<unsigned char>(utf8[i]);
             std::size_t more = 0;
             char32_t point = lead;
             if (lead >= 0xF0) {
@@ -91,7 +82,7 @@ struct CodePageLiteral {
                 more = 1;
             }
             ++i;
-            for (; more > 0; --more, ++i) point = (point << 6U) | (static_cast<unsigned char>(utf8.chars[i]) & 0x3FU);
+            for (; more > 0; --more, ++i) point = (point << 6U) | (static_cast<unsigned char>(utf8[i]) & 0x3FU);
             const int byte = CodePageByte(point);
             if (byte < 0) throw "a character of the literal is not in code page 1252";
             chars[length++] = static_cast<char>(byte);
@@ -99,18 +90,14 @@ struct CodePageLiteral {
     }
 };
 
-template <Literal L>
-inline constexpr CodePageLiteral kCodePageLiteral{L};
-
 }  // namespace detail
 
 inline namespace literals {
 
 /// "Vælg bånd"_t: the literal as text of the code page.
-template <detail::Literal L>
+template <detail::CodePageLiteral L>
 consteval std::string_view operator""_t() {
-    const auto& text = detail::kCodePageLiteral<L>;
-    return {text.chars, text.length};
+    return {L.chars, L.length};
 }
 
 }  // namespace literals

@@ -3,13 +3,10 @@
 // The program vatro-cty, run as a process of its own in a directory of the test's own.
 #pragma once
 
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <cstdlib>
 #include <string>
 #include <vector>
 
+#include "child_process.h"
 #include "country/frmCtyDat.h"
 #include "country/import.h"
 #include "country/lookup.h"
@@ -28,12 +25,7 @@ inline std::string CtyHeader(const std::string& pfx) {
 
 class CtyCommand : public TemporaryWorld {
 protected:
-    struct Result {
-        /// -1 if the process did not end by itself.
-        int exit = -1;
-        std::string out;
-        std::string err;
-    };
+    using Result = ProcessResult;
 
     ~CtyCommand() override {
         if (ProgramRuns()) EndProgram();
@@ -41,25 +33,7 @@ protected:
     }
 
     /// The arguments, with the directory as the current one.
-    Result Run(std::vector<std::string> arguments) const {
-        arguments.insert(arguments.begin(), VATRO_CTY);
-        const pid_t child = fork();
-        if (child == 0) {
-            std::vector<char*> argv;
-            for (std::string& argument : arguments) argv.push_back(argument.data());
-            argv.push_back(nullptr);
-            if (chdir(root_.c_str()) != 0 || freopen("out.txt", "w", stdout) == nullptr || freopen("err.txt", "w", stderr) == nullptr)
-                _exit(127);
-            execv(argv.front(), argv.data());
-            _exit(127);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        Result result{WIFEXITED(status) ? WEXITSTATUS(status) : -1, Content("out.txt"), Content("err.txt")};
-        std::filesystem::remove(root_ / "out.txt");
-        std::filesystem::remove(root_ / "err.txt");
-        return result;
-    }
+    Result Run(const std::vector<std::string>& arguments) const { return RunProcess(VATRO_CTY, arguments, root_); }
 
     static std::string Joined(const std::vector<std::string>& lines, const std::string& end) {
         std::string all;

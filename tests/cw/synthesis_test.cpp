@@ -370,7 +370,7 @@ TEST_F(Synthesis, AWordIsFiftyDotsAtEverySpeed) {
             if (end - silent > 5L * 52920 / wpm) second = end;
             silent = end;
         }
-        const long word = second - first;
+        const auto word = second - first;
         EXPECT_EQ(word, 50L * (52920 / wpm)) << wpm;
         EXPECT_NEAR(static_cast<double>(word) / kSamplesPerSecond, 60.0 / wpm, 50.0 / kSamplesPerSecond) << wpm;
     }

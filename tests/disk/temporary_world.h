@@ -23,19 +23,24 @@ namespace vatro {
 class TemporaryWorld : public ::testing::Test {
 protected:
     /// The program's path of a name, in the code page, in the directory.
-    std::string At(std::string_view name) const { return FromUtf8(root_.string()) + "/" + std::string(name); }
+    std::string At(std::string_view name) const { return NativeText(root_) + "/" + std::string(name); }
 
     /// Writes a file; the name in UTF-8.
-    void Put(const std::string& name, std::string_view content) const { std::ofstream(root_ / name, std::ios::binary) << content; }
+    void Put(const std::string& name, std::string_view content) const {
+        std::ofstream(root_ / PathOfUtf8(name), std::ios::binary) << content;
+    }
     std::string Content(const std::string& name) const {
-        std::ifstream file(root_ / name, std::ios::binary);
+        std::ifstream file(root_ / PathOfUtf8(name), std::ios::binary);
         if (!file) return "(missing)";
         return {std::istreambuf_iterator<char>(file), {}};
     }
     /// The names in a directory, in UTF-8, sorted.
     std::vector<std::string> Names(const std::string& directory = ".") const {
         std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(root_ / directory)) names.push_back(entry.path().filename().string());
+        for (const auto& entry : std::filesystem::directory_iterator(root_ / PathOfUtf8(directory))) {
+            const std::u8string name = entry.path().filename().u8string();
+            names.emplace_back(name.begin(), name.end());
+        }
         std::sort(names.begin(), names.end());
         return names;
     }

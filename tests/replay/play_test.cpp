@@ -30,11 +30,9 @@ protected:
     }
     int Run(std::vector<std::string> arguments) {
         arguments.insert(arguments.begin(), "vatro-replay");
-        std::vector<char*> argv;
-        for (std::string& argument : arguments) argv.push_back(argument.data());
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
-        const int result = PlayMain(static_cast<int>(argv.size()), argv.data(), [] { return std::make_unique<MemoryFront>(); });
+        const int result = PlayMain(arguments, [] { return std::make_unique<MemoryFront>(); });
         out = testing::internal::GetCapturedStdout();
         err = testing::internal::GetCapturedStderr();
         return result;
@@ -85,7 +83,7 @@ TEST_F(PlayTest, UpdateWritesWhatCameIntoTheFile) {
 TEST_F(PlayTest, KeptWorldIsThereBeforeAndAfterwards) {
     const std::string kept = place.Path("kept/world").string();
     fs::create_directories(fs::path(kept) / "data");
-    std::ofstream(fs::path(kept) / "data" / "a.txt") << "x\r\n";
+    std::ofstream(fs::path(kept) / "data" / "a.txt", std::ios::binary) << "x\r\n";
     EXPECT_EQ(Run({"--keep", kept, File("a.scn", "cat data/a.txt\n> |x|\nfile log/b.txt\n| y\nsetting Settings UTC -1\n")}), 0);
     EXPECT_EQ(TextOf(kept + "/log/b.txt"), "y\r\n");
     EXPECT_EQ(Run({"--keep", kept, File("b.scn", "setting Settings UTC\n> Settings/UTC \"-1\"\n")}), 0);

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#include "disk/command_line.h"
+
+namespace vatro {
+
+std::vector<std::string> CommandLine(int argc, char** argv) {
+    return {argv, argv + argc};
+}
+
+}  // namespace vatro

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "disk/command_line.h"
+
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+
+// Behind windows.h, which it needs.
+#include <shellapi.h>
+
+#include <cstdio>
+#include <filesystem>
+
+namespace vatro {
+
+std::vector<std::string> CommandLine(int, char**) {
+    for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+    SetConsoleOutputCP(CP_UTF8);
+    // What main itself is given has been turned into the code page of the machine.
+    int count = 0;
+    wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
+    std::vector<std::string> arguments;
+    for (int i = 0; i < count; ++i) {
+        const std::u8string utf8 = std::filesystem::path(words[i]).u8string();
+        arguments.emplace_back(utf8.begin(), utf8.end());
+    }
+    LocalFree(words);
+    return arguments;
+}
+
+}  // namespace vatro

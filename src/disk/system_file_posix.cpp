@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "disk/system_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace vatro {
+
+namespace {
+
+int Descriptor(std::intptr_t handle) {
+    return static_cast<int>(handle);
+}
+
+/// Repeats a call of the system while signals interrupt it.
+template <class Call>
+auto Uninterrupted(Call call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR) result = call();
+    return result;
+}
+
+[[noreturn]] void Fail(int error) {
+    throw RunTimeError(FailureOf(error));
+}
+
+/// Devices and some network and USB file systems cannot sync or cut a file; there is nothing more to be done there.
+bool IsNotSupported(int error) {
+    return error == EINVAL || error == ENOTSUP || error == ENOSYS;
+}
+
+}  // namespace
+
+Failure FailureOf(int error) {
+    switch (error) {
+        case ENOENT:
+            return Failure::FileNotFound;
+        case ENOTDIR:
+            return Failure::PathNotFound;
+        case EROFS:
+        case EACCES:
+        case EPERM:
+            return Failure::PermissionDenied;
+        case ENOSPC:
+        case EFBIG:
+        case EDQUOT:
+            return Failure::DiskFull;
+        case EIO:
+        case ENXIO:
+        case ENODEV:
+#ifdef ENOMEDIUM
+        case ENOMEDIUM:
+#endif
+            return Failure::DiskNotReady;
+        default:
+            return Failure::PathFileAccess;
+    }
+}
+
+bool IsMissing(int error) {
+    return error == ENOENT;
+}
+
+int SystemFile::Open(const std::filesystem::path& path, Access access, bool create) {
+    Close();
+    int flags = (access == Access::Read ? O_RDONLY : O_WRONLY) | O_CLOEXEC | O_NOCTTY;
+    if (access == Access::Append) flags |= O_APPEND;
+    if (create) flags |= O_CREAT;
+    handle_ = Uninterrupted([&] { return open(path.c_str(), flags, 0666); });
+    return IsOpen() ? 0 : errno;
+}
+
+bool SystemFile::IsDirectory() const {
+    struct stat status {};
+    return fstat(Descriptor(handle_), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+bool SystemFile::IsSameFile(const SystemFile& other) const {
+    if (!IsOpen() || !other.IsOpen()) return false;
+    struct stat one {};
+    struct stat two {};
+    return fstat(Descriptor(handle_), &one) == 0 && fstat(Descriptor(other.handle_), &two) == 0 && one.st_dev == two.st_dev &&
+           one.st_ino == two.st_ino;
+}
+
+std::size_t SystemFile::Read(std::span<char> buffer) {
+    const auto count = Uninterrupted([&] { return read(Descriptor(handle_), buffer.data(), buffer.size()); });
+    if (count < 0) Fail(errno);
+    return static_cast<std::size_t>(count);
+}
+
+void SystemFile::Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const auto count = Uninterrupted([&] { return write(Descriptor(handle_), bytes.data(), bytes.size()); });
+        if (count < 0) Fail(errno);
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+}
+
+std::int64_t SystemFile::Length() {
+    const auto length = lseek(Descriptor(handle_), 0, SEEK_END);
+    if (length >= 0) return length;
+    // A pipe or a terminal has no length.
+    if (errno == ESPIPE) return 0;
+    Fail(errno);
+}
+
+void SystemFile::Truncate(std::int64_t length) {
+    const auto cut = [&] { return ftruncate(Descriptor(handle_), static_cast<off_t>(length)); };
+    if (Uninterrupted(cut) < 0 && !IsNotSupported(errno)) Fail(errno);
+}
+
+void SystemFile::Sync() {
+    const auto sync = [&] {
+#ifdef __APPLE__
+        // There fsync stops at the drive's own memory.
+        return fcntl(Descriptor(handle_), F_FULLFSYNC);
+#else
+        return fdatasync(Descriptor(handle_));
+#endif
+    };
+    if (Uninterrupted(sync) < 0 && !IsNotSupported(errno)) Fail(errno);
+}
+
+void SystemFile::Close() noexcept {
+    if (!IsOpen()) return;
+    close(Descriptor(handle_));
+    handle_ = kNone;
+}
+
+int RemoveFile(const std::filesystem::path& path) {
+    return unlink(path.c_str()) == 0 ? 0 : errno;
+}
+
+int RenameFile(const std::filesystem::path& from, const std::filesystem::path& to) {
+    return rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+}
+
+void SyncDirectory(const std::filesystem::path& directory) {
+    const std::filesystem::path& name = directory.empty() ? std::filesystem::path(".") : directory;
+    const int handle = Uninterrupted([&] { return open(name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
+    if (handle < 0) {
+        // A directory that may be written but not read can be synced by nobody.
+        if (errno == EACCES) return;
+        Fail(errno);
+    }
+    const int failed = Uninterrupted([&] { return fsync(handle); }) < 0 ? errno : 0;
+    close(handle);
+    if (failed != 0 && !IsNotSupported(failed)) Fail(failed);
+}
+
+}  // namespace vatro

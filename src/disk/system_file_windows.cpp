@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "disk/system_file.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+namespace vatro {
+
+namespace {
+
+/// Another program may read and write the file meanwhile, as it may elsewhere, but not take its name away.
+constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE;
+
+HANDLE Handle(std::intptr_t handle) {
+    return reinterpret_cast<HANDLE>(handle);
+}
+
+int LastError() {
+    return static_cast<int>(GetLastError());
+}
+
+[[noreturn]] void FailWithLastError() {
+    throw RunTimeError(FailureOf(LastError()));
+}
+
+/// Devices and some network and USB file systems cannot sync or cut a file; there is nothing more to be done there.
+bool IsNotSupported(int error) {
+    return error == ERROR_INVALID_FUNCTION || error == ERROR_NOT_SUPPORTED || error == ERROR_INVALID_PARAMETER;
+}
+
+/// The system refuses a directory with the word that it has for a protected file.
+int ToldOfDirectory(int error, const std::filesystem::path& path) {
+    if (error != ERROR_ACCESS_DENIED) return error;
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    const bool isDirectory = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return isDirectory ? ERROR_DIRECTORY : error;
+}
+
+/// A call takes 32 bits of length.
+DWORD Piece(std::size_t length) {
+    return static_cast<DWORD>(std::min<std::size_t>(length, 1U << 30U));
+}
+
+}  // namespace
+
+Failure FailureOf(int error) {
+    switch (error) {
+        case ERROR_INVALID_NAME:
+            return Failure::BadFileNumber;
+        case ERROR_FILE_NOT_FOUND:
+            return Failure::FileNotFound;
+        case ERROR_PATH_NOT_FOUND:
+        case ERROR_INVALID_DRIVE:
+        case ERROR_BAD_NETPATH:
+        case ERROR_BAD_NET_NAME:
+            return Failure::PathNotFound;
+        case ERROR_ACCESS_DENIED:
+        case ERROR_SHARING_VIOLATION:
+        case ERROR_LOCK_VIOLATION:
+        case ERROR_WRITE_PROTECT:
+            return Failure::PermissionDenied;
+        case ERROR_DISK_FULL:
+        case ERROR_HANDLE_DISK_FULL:
+        case ERROR_FILE_TOO_LARGE:
+            return Failure::DiskFull;
+        case ERROR_NOT_READY:
+        case ERROR_NO_MEDIA_IN_DRIVE:
+        case ERROR_BAD_UNIT:
+        case ERROR_CRC:
+        case ERROR_SECTOR_NOT_FOUND:
+        case ERROR_WRITE_FAULT:
+        case ERROR_READ_FAULT:
+        case ERROR_GEN_FAILURE:
+        case ERROR_IO_DEVICE:
+        case ERROR_DEV_NOT_EXIST:
+        case ERROR_DEVICE_NOT_CONNECTED:
+        case ERROR_UNRECOGNIZED_VOLUME:
+            return Failure::DiskNotReady;
+        case ERROR_FILE_EXISTS:
+        case ERROR_ALREADY_EXISTS:
+            return Failure::FileExists;
+        default:
+            return Failure::PathFileAccess;
+    }
+}
+
+bool IsMissing(int error) {
+    // A "?" in a name may stand for a character that is not in the code page.
+    return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND || error == ERROR_INVALID_NAME;
+}
+
+int SystemFile::Open(const std::filesystem::path& path, Access access, bool create) {
+    Close();
+    const DWORD rights = access == Access::Read ? GENERIC_READ : access == Access::Write ? GENERIC_WRITE : FILE_APPEND_DATA | SYNCHRONIZE;
+    const DWORD missing = create ? OPEN_ALWAYS : OPEN_EXISTING;
+    handle_ = reinterpret_cast<std::intptr_t>(
+        CreateFileW(path.c_str(), rights | FILE_READ_ATTRIBUTES, kSharing, nullptr, missing, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return IsOpen() ? 0 : ToldOfDirectory(LastError(), path);
+}
+
+bool SystemFile::IsDirectory() const {
+    // Open refuses it.
+    return false;
+}
+
+bool SystemFile::IsSameFile(const SystemFile& other) const {
+    if (!IsOpen() || !other.IsOpen()) return false;
+    BY_HANDLE_FILE_INFORMATION one;
+    BY_HANDLE_FILE_INFORMATION two;
+    return GetFileInformationByHandle(Handle(handle_), &one) != 0 && GetFileInformationByHandle(Handle(other.handle_), &two) != 0 &&
+           one.dwVolumeSerialNumber == two.dwVolumeSerialNumber && one.nFileIndexHigh == two.nFileIndexHigh &&
+           one.nFileIndexLow == two.nFileIndexLow;
+}
+
+std::size_t SystemFile::Read(std::span<char> buffer) {
+    DWORD count = 0;
+    if (ReadFile(Handle(handle_), buffer.data(), Piece(buffer.size()), &count, nullptr) == 0) FailWithLastError();
+    return count;
+}
+
+void SystemFile::Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+        DWORD count = 0;
+        if (WriteFile(Handle(handle_), bytes.data(), Piece(bytes.size()), &count, nullptr) == 0) FailWithLastError();
+        bytes.remove_prefix(count);
+    }
+}
+
+std::int64_t SystemFile::Length() {
+    // A device or a pipe has no length.
+    if (GetFileType(Handle(handle_)) != FILE_TYPE_DISK) return 0;
+    LARGE_INTEGER length;
+    if (GetFileSizeEx(Handle(handle_), &length) == 0) FailWithLastError();
+    return length.QuadPart;
+}
+
+void SystemFile::Truncate(std::int64_t length) {
+    // The right to append alone cuts nothing.
+    SystemFile cutting;
+    cutting.handle_ = reinterpret_cast<std::intptr_t>(ReOpenFile(Handle(handle_), GENERIC_WRITE, kSharing, 0));
+    LARGE_INTEGER end;
+    end.QuadPart = length;
+    if (cutting.IsOpen() && SetFilePointerEx(Handle(cutting.handle_), end, nullptr, FILE_BEGIN) != 0 &&
+        SetEndOfFile(Handle(cutting.handle_)) != 0)
+        return;
+    if (!IsNotSupported(LastError())) FailWithLastError();
+}
+
+void SystemFile::Sync() {
+    if (FlushFileBuffers(Handle(handle_)) == 0 && !IsNotSupported(LastError())) FailWithLastError();
+}
+
+void SystemFile::Close() noexcept {
+    if (!IsOpen()) return;
+    CloseHandle(Handle(handle_));
+    handle_ = kNone;
+}
+
+int RemoveFile(const std::filesystem::path& path) {
+    return DeleteFileW(path.c_str()) != 0 ? 0 : ToldOfDirectory(LastError(), path);
+}
+
+int RenameFile(const std::filesystem::path& from, const std::filesystem::path& to) {
+    return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != 0 ? 0 : LastError();
+}
+
+void SyncDirectory(const std::filesystem::path&) {
+    // The system writes a new name with the file that is synced, and a changed one through.
+}
+
+}  // namespace vatro
