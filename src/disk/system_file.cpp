@@ -34,6 +34,9 @@ auto SystemWrite(int handle, const char* bytes, std::size_t count) {
 auto SystemLength(int handle) {
     return _lseeki64(handle, 0, SEEK_END);
 }
+auto SystemLast(int handle) {
+    return _lseeki64(handle, -1, SEEK_END);
+}
 int SystemTruncate(int handle, std::int64_t length) {
     const int error = _chsize_s(handle, length);
     errno = error;
@@ -57,6 +60,10 @@ auto SystemWrite(int handle, const char* bytes, std::size_t count) {
 }
 auto SystemLength(int handle) {
     return lseek(handle, 0, SEEK_END);
+}
+/// To the last byte, which the next reading gives.
+auto SystemLast(int handle) {
+    return lseek(handle, -1, SEEK_END);
 }
 int SystemTruncate(int handle, std::int64_t length) {
     return ftruncate(handle, static_cast<off_t>(length));
@@ -137,8 +144,9 @@ SystemFile::~SystemFile() {
 
 int SystemFile::Open(const std::filesystem::path& path, Access access, bool create) {
     Close();
-    int flags = access == Access::Read ? O_RDONLY : O_WRONLY;
-    if (access == Access::Append) flags |= O_APPEND;
+    int flags = O_WRONLY;
+    if (access == Access::Read) flags = O_RDONLY;
+    if (access == Access::Append) flags = O_RDWR | O_APPEND;
     if (create) flags |= O_CREAT;
     handle_ = Uninterrupted([&] { return SystemOpen(path, flags); });
     return handle_ < 0 ? errno : 0;
@@ -191,6 +199,13 @@ std::int64_t SystemFile::Length() {
     // A pipe or a terminal has no length.
     if (errno == ESPIPE) return 0;
     Fail(errno);
+}
+
+char SystemFile::LastByte() {
+    char last = 0;
+    if (SystemLast(handle_) < 0) Fail(errno);
+    Read({&last, 1});
+    return last;
 }
 
 void SystemFile::Truncate(std::int64_t length) {

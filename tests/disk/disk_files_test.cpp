@@ -47,6 +47,21 @@ TEST_F(DiskFilesTest, OutputReplacesAndAppendGoesOn) {
     EXPECT_EQ(Content("new.txt"), "one\r\n");
 }
 
+TEST_F(DiskFilesTest, AnAppendBeginsALineOfItsOwn) {
+    Put("a.txt", "half a li");
+    WriteFile(files_, At("a.txt"), FileMode::Append, "one");
+    EXPECT_EQ(Content("a.txt"), "half a li\r\none\r\n");
+    for (const std::string end : {"\r\n", "\n", "\r"}) {
+        Put("a.txt", "a whole line" + end);
+        WriteFile(files_, At("a.txt"), FileMode::Append, "one");
+        EXPECT_EQ(Content("a.txt"), "a whole line" + end + "one\r\n");
+    }
+    Put("a.txt", "half a li");
+    files_.Open(1, At("a.txt"), FileMode::Append);
+    files_.Close(1);
+    EXPECT_EQ(Content("a.txt"), "half a li") << "nothing was appended";
+}
+
 TEST_F(DiskFilesTest, AnOutputWithoutALineIsAnEmptyFile) {
     Put("a.txt", "old");
     files_.Open(1, At("a.txt"), FileMode::Output);
@@ -296,7 +311,7 @@ private:
 };
 
 TEST_F(DiskFilesTest, AFailedAppendLeavesNoHalfALine) {
-    const std::string before(5000, 'x');
+    const std::string before = std::string(4998, 'x') + "\r\n";
     Put("a.txt", before);
     int number = 0;
     int again = 0;
@@ -353,7 +368,7 @@ TEST_F(DiskFilesTest, AFullDeviceIsToldAtClose) {
 TEST_F(DiskFilesTest, AFullDiskLosesNothingThatWasThere) {
     std::filesystem::create_directory(root_ / "stick");
     if (mount("tmpfs", (root_ / "stick").c_str(), "tmpfs", 0, "size=64k") != 0) GTEST_SKIP() << "no right to mount a small disk";
-    const std::string before(61 * 1024, 'x');
+    const std::string before = std::string(61 * 1024, 'x') + "\r\n";
     Put("stick/a.txt", before);
     files_.Open(1, At("stick/a.txt"), FileMode::Append);
     files_.PrintLine(1, std::string(10'000, 'y'));
