@@ -3,10 +3,18 @@
 
 #include <fstream>
 #include <iterator>
+#include <string_view>
 
 namespace vatro {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// How the system shows a file that has no name, or has lost it.
+constexpr std::string_view kNameless = " (deleted)";
+
+}  // namespace
 
 DiskState ReadDisk(const fs::path& directory) {
     DiskState state;
@@ -53,7 +61,9 @@ void DiskModel::Do(const DiskCall& call) {
             Named(call.path).synced = Named(call.path).shown;
             break;
         case DiskCall::Kind::SyncDirectory: {
-            const auto inIt = [&](const auto& name) { return fs::path(name.first).parent_path() == call.path; };
+            const auto inIt = [directory = call.path == "." ? fs::path() : call.path](const auto& name) {
+                return fs::path(name.first).parent_path() == directory;
+            };
             std::erase_if(syncedNames_, inIt);
             for (const auto& name : shownNames_)
                 if (inIt(name)) syncedNames_.insert(name);
@@ -88,7 +98,8 @@ std::string DiskModel::File::Found(Taken taken) const {
 
 DiskState DiskModel::Found(const Names& names, Taken taken) const {
     DiskState state;
-    for (const auto& [path, file] : names) state[path] = files_[file].Found(taken);
+    for (const auto& [path, file] : names)
+        if (!path.ends_with(kNameless)) state[path] = files_[file].Found(taken);
     return state;
 }
 

@@ -100,6 +100,9 @@ private:
             case SYS_renameat:
             case SYS_renameat2:
                 return Rename(PathAt(arguments_[0], arguments_[1]), PathAt(arguments_[2], arguments_[3]), begin);
+            case SYS_linkat:
+                // A file without a name gets one.
+                return Rename(Target(Text(arguments_[1])), PathAt(arguments_[2], arguments_[3]), begin);
             case SYS_writev:
             case SYS_pwrite64:
             case SYS_fallocate:
@@ -113,6 +116,8 @@ private:
     void Leave(bool failed, std::int64_t result) {
         if (failed) return pending_.clear();
         for (DiskCall& call : pending_) {
+            if (call.kind == DiskCall::Kind::Create && (flags_ & O_TMPFILE) == O_TMPFILE)
+                call.path = Target(Proc("fd/" + std::to_string(result))).lexically_relative(directory_);
             if (call.kind == DiskCall::Kind::Write) call.bytes = Memory(arguments_[1], static_cast<std::size_t>(result));
             calls_.push_back(std::move(call));
         }
@@ -121,7 +126,11 @@ private:
 
     template <class Begin>
     void Open(const fs::path& path, int flags, Begin begin) {
-        if ((flags & O_CREAT) != 0 && !fs::exists(path)) {
+        flags_ = flags;
+        if ((flags & O_TMPFILE) == O_TMPFILE) {
+            // It has no name yet.
+            begin(DiskCall::Kind::Create, path / "unnamed");
+        } else if ((flags & O_CREAT) != 0 && !fs::exists(path)) {
             begin(DiskCall::Kind::Create, path);
         } else if ((flags & O_TRUNC) != 0) {
             begin(DiskCall::Kind::Truncate, path);
@@ -137,7 +146,7 @@ private:
         return "/proc/" + std::to_string(process_) + "/" + name;
     }
     bool IsBelow(const fs::path& path) const {
-        return path.string().starts_with(directory_.string() + "/");
+        return (path.string() + "/").starts_with(directory_.string() + "/");
     }
     /// The file of the call's first argument.
     fs::path Opened() const {
@@ -149,6 +158,13 @@ private:
         if (path.is_absolute()) return path;
         const int handle = static_cast<int>(directory);
         return fs::read_symlink(Proc(handle == AT_FDCWD ? "cwd" : "fd/" + std::to_string(handle))) / path;
+    }
+    /// What the process's name of an open file stands for.
+    fs::path Target(fs::path path) const {
+        if (path.string().starts_with("/proc/self/")) path = Proc(path.string().substr(std::string("/proc/self/").size()));
+        std::error_code none;
+        const fs::path target = fs::read_symlink(path, none);
+        return none ? path : target;
     }
     /// Where the next write to the file of the first argument goes.
     std::size_t Position(const fs::path& path) const {
@@ -177,6 +193,8 @@ private:
     int memory_;
     long number_ = 0;
     Arguments arguments_{};
+    /// Of the last opening.
+    int flags_ = 0;
     /// What the call under way does if it succeeds.
     std::vector<DiskCall> pending_;
     std::vector<DiskCall> calls_;
