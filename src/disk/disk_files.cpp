@@ -13,6 +13,11 @@ namespace {
 
 constexpr std::size_t kCopyBufferSize = 65'536;
 constexpr std::size_t kPieceSize = 32'768;
+constexpr std::string_view kLineEnd = "\r\n";
+
+bool EndsALine(char c) {
+    return c == '\r' || c == '\n';
+}
 
 [[noreturn]] void Fail(Failure failure) {
     throw RunTimeError(failure);
@@ -104,7 +109,7 @@ bool DiskFiles::EndOfFile(int number) {
 
 void DiskFiles::PrintLine(int number, std::string_view text) {
     Slot& slot = SlotToPrint(number);
-    slot.unwritten.append(text).append("\r\n");
+    slot.unwritten.append(text).append(kLineEnd);
     WritePiece(slot);
 }
 
@@ -135,6 +140,8 @@ void DiskFiles::Close(int number) {
 
 void DiskFiles::Save(Slot& slot) {
     try {
+        if (slot.mode == FileMode::Append && slot.oldLength > 0 && !slot.unwritten.empty() && !EndsALine(slot.file.LastByte()))
+            slot.unwritten.insert(0, kLineEnd);
         slot.file.Write(slot.unwritten);
         slot.file.Sync();
         if (slot.newIn) SyncDirectory(*slot.newIn);

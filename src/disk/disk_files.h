@@ -3,9 +3,10 @@
 // The program's files on a real disk.
 //
 // What was appended is held back until Close, which writes and syncs it: a contact is on the disk, or it is not in the
-// file at all. A failed append cuts the file back to its old length, so that no half a line stays behind. Any other output is
-// written in pieces, so that a long one takes little memory, and synced by Close; one that fails leaves what has been written.
-// The file number is free after Close in every case.
+// file at all. A failed append cuts the file back to its old length, so that no half a line stays behind; where a power cut
+// has left one, the next append begins a line of its own behind it. Any other output is written in pieces, so that a long one
+// takes little memory, and synced by Close; one that fails leaves what has been written. The file number is free after Close
+// in every case.
 #pragma once
 
 #include <array>

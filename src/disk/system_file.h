@@ -30,7 +30,7 @@ public:
         Read,
         /// Writes from the start and keeps what is there.
         Write,
-        /// Every write goes to the end.
+        /// Every write goes to the end. The file may be read too.
         Append,
     };
 
@@ -53,6 +53,8 @@ public:
     /// Writes all of it or fails.
     void Write(std::string_view bytes);
     std::int64_t Length();
+    /// The last byte of a file that has one.
+    char LastByte();
     void Truncate(std::int64_t length);
     /// What has been written is on the disk on return.
     void Sync();

@@ -66,8 +66,10 @@ bool IsMissing(int error) {
 
 int SystemFile::Open(const std::filesystem::path& path, Access access, bool create) {
     Close();
-    int flags = (access == Access::Read ? O_RDONLY : O_WRONLY) | O_CLOEXEC | O_NOCTTY;
-    if (access == Access::Append) flags |= O_APPEND;
+    int flags = O_CLOEXEC | O_NOCTTY;
+    if (access == Access::Read) flags |= O_RDONLY;
+    if (access == Access::Write) flags |= O_WRONLY;
+    if (access == Access::Append) flags |= O_RDWR | O_APPEND;
     if (create) flags |= O_CREAT;
     handle_ = Uninterrupted([&] { return open(path.c_str(), flags, 0666); });
     return IsOpen() ? 0 : errno;
@@ -106,6 +108,13 @@ std::int64_t SystemFile::Length() {
     // A pipe or a terminal has no length.
     if (errno == ESPIPE) return 0;
     Fail(errno);
+}
+
+char SystemFile::LastByte() {
+    char last = 0;
+    if (lseek(Descriptor(handle_), -1, SEEK_END) < 0) Fail(errno);
+    Read({&last, 1});
+    return last;
 }
 
 void SystemFile::Truncate(std::int64_t length) {

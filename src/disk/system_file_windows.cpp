@@ -92,7 +92,9 @@ bool IsMissing(int error) {
 
 int SystemFile::Open(const std::filesystem::path& path, Access access, bool create) {
     Close();
-    const DWORD rights = access == Access::Read ? GENERIC_READ : access == Access::Write ? GENERIC_WRITE : FILE_APPEND_DATA | SYNCHRONIZE;
+    const DWORD rights = access == Access::Read    ? GENERIC_READ
+                         : access == Access::Write ? GENERIC_WRITE
+                                                   : FILE_APPEND_DATA | FILE_READ_DATA | SYNCHRONIZE;
     const DWORD missing = create ? OPEN_ALWAYS : OPEN_EXISTING;
     handle_ = reinterpret_cast<std::intptr_t>(
         CreateFileW(path.c_str(), rights | FILE_READ_ATTRIBUTES, kSharing, nullptr, missing, FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -133,6 +135,15 @@ std::int64_t SystemFile::Length() {
     LARGE_INTEGER length;
     if (GetFileSizeEx(Handle(handle_), &length) == 0) FailWithLastError();
     return length.QuadPart;
+}
+
+char SystemFile::LastByte() {
+    char last = 0;
+    LARGE_INTEGER back;
+    back.QuadPart = -1;
+    if (SetFilePointerEx(Handle(handle_), back, nullptr, FILE_END) == 0) FailWithLastError();
+    Read({&last, 1});
+    return last;
 }
 
 void SystemFile::Truncate(std::int64_t length) {

@@ -55,10 +55,13 @@ std::string Contest::Utc(const char* format) const {
     return text;
 }
 
-void Contest::Pause() {
-    const int seconds = 15 + dice_.Roll(40);
+void Contest::Advance(int seconds) {
     seconds_ += seconds;
     Say("advance " + std::to_string(seconds));
+}
+
+void Contest::Pause() {
+    Advance(pause_ + dice_.Roll(longerPause_));
 }
 
 std::string Contest::Report() {
@@ -257,14 +260,18 @@ void Contest::Act(bool& raised) {
     if (raised) ChangeNumber();
 }
 
+void Contest::WorkStation() {
+    bool raised = false;
+    while (Pick(30) && !raised) Act(raised);
+    while (!LogContact()) {
+    }
+}
+
 void Contest::Play(int contacts) {
     Setting();
     int checkpoints = 0;
     for (int logged = 1; logged <= contacts; ++logged) {
-        bool raised = false;
-        while (Pick(30) && !raised) Act(raised);
-        while (!LogContact()) {
-        }
+        WorkStation();
         if (logged % 100 == 0) Checkpoint(++checkpoints);
     }
     CloseLogs(++checkpoints);

@@ -37,10 +37,13 @@ public:
     explicit Contest(unsigned seed) : dice_(seed) {}
     void Play(int contacts);
 
-private:
+protected:
     void Setting();
     void Pause();
+    void Advance(int seconds);
     void Act(bool& raised);
+    /// A new contact, and what an operator may do before it.
+    void WorkStation();
     bool LogContact();
     void TakeReports(Line& line);
     void WriteNote();
@@ -74,6 +77,9 @@ private:
     const Choice* mode_ = &kModes[0];
     std::string operator_ = "OZ1AB";
     long long seconds_ = 0;
+    /// Seconds between contacts: at least so many, and up to so many more.
+    int pause_ = 15;
+    int longerPause_ = 40;
 };
 
 }  // namespace contest

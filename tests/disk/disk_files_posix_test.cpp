@@ -60,7 +60,7 @@ private:
 };
 
 TEST_F(DiskFilesPosixTest, AFailedAppendLeavesNoHalfALine) {
-    const std::string before(5000, 'x');
+    const std::string before = std::string(4998, 'x') + "\r\n";
     Put("a.txt", before);
     int number = 0;
     int again = 0;
@@ -117,7 +117,7 @@ TEST_F(DiskFilesPosixTest, AFullDeviceIsToldAtClose) {
 TEST_F(DiskFilesPosixTest, AFullDiskLosesNothingThatWasThere) {
     std::filesystem::create_directory(root_ / "stick");
     if (mount("tmpfs", (root_ / "stick").c_str(), "tmpfs", 0, "size=64k") != 0) GTEST_SKIP() << "no right to mount a small disk";
-    const std::string before(61 * 1024, 'x');
+    const std::string before = std::string(61 * 1024, 'x') + "\r\n";
     Put("stick/a.txt", before);
     files_.Open(1, At("stick/a.txt"), FileMode::Append);
     files_.PrintLine(1, std::string(10'000, 'y'));

@@ -39,6 +39,21 @@ TEST_F(DiskFilesTest, OutputReplacesAndAppendGoesOn) {
     EXPECT_EQ(Content("new.txt"), "one\r\n");
 }
 
+TEST_F(DiskFilesTest, AnAppendBeginsALineOfItsOwn) {
+    Put("a.txt", "half a li");
+    WriteFile(files_, At("a.txt"), FileMode::Append, "one");
+    EXPECT_EQ(Content("a.txt"), "half a li\r\none\r\n");
+    for (const std::string end : {"\r\n", "\n", "\r"}) {
+        Put("a.txt", "a whole line" + end);
+        WriteFile(files_, At("a.txt"), FileMode::Append, "one");
+        EXPECT_EQ(Content("a.txt"), "a whole line" + end + "one\r\n");
+    }
+    Put("a.txt", "half a li");
+    files_.Open(1, At("a.txt"), FileMode::Append);
+    files_.Close(1);
+    EXPECT_EQ(Content("a.txt"), "half a li") << "nothing was appended";
+}
+
 TEST_F(DiskFilesTest, AnOutputWithoutALineIsAnEmptyFile) {
     Put("a.txt", "old");
     files_.Open(1, At("a.txt"), FileMode::Output);

@@ -21,6 +21,7 @@
 #include "frame/start.h"
 #include "logbook/log_file.h"
 #include "platform/program.h"
+#include "power/teller.h"
 #include "replay/memory_front.h"
 #include "replay/player.h"
 #include "replay/scenario.h"
@@ -33,19 +34,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kLineWidth = 79;
-
-/// What the doomed process tells of, one byte each.
-class Teller {
-public:
-    explicit Teller(int pipe) : pipe_(pipe) {}
-    void Tell() const {
-        const char byte = '+';
-        if (write(pipe_, &byte, 1) != 1) _exit(1);
-    }
-
-private:
-    int pipe_;
-};
 
 /// Runs `life` in a process of its own, kills it `wait` after it has told of something for the first time, and gives the number
 /// of things it has told of. A life that fails tells of nothing more.

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+//
+// A field day of 24 hours: a contest of chance with a round through every function of the program several times an hour.
+#pragma once
+
+#include <string>
+
+#include "contest/contest.h"
+
+namespace soak {
+
+inline constexpr int kHours = 24;
+
+class Day : public contest::Contest {
+public:
+    explicit Day(unsigned seed);
+    /// Writes the day. Each hour ends with "file data/measure", in which the number of the hour stands, and "file data/go":
+    /// whoever plays it can make pipes of the two and hold the program between them.
+    void Play(int contacts, int roundsAnHour);
+
+private:
+    void More();
+    void Round(int number);
+    void WaitUntil(long long seconds);
+    void Measure(int hour);
+
+    void Questions();
+    void RefusedNumber();
+    void RefusedNought();
+    void RefusedPoints();
+    void ForgottenDuplicate();
+
+    void Windows();
+    void SideWindows();
+    void Information();
+
+    void Settings();
+    void ContestCall(const std::string& call);
+    void Equipment(const std::string& radio);
+
+    void Morse();
+    void MorseSettings();
+
+    void Papers();
+    void Print(int number);
+    void Safekeeping();
+    void ImportCt();
+    void ShowTables();
+};
+
+}  // namespace soak
