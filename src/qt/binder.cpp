@@ -115,6 +115,14 @@ bool Bindable(const QWidget& widget) {
            qobject_cast<const QPlainTextEdit*>(&widget) != nullptr || qobject_cast<const PictureView*>(&widget) != nullptr;
 }
 
+/// What a widget has inside itself is its own.
+bool Inside(const QWidget& widget, const QWidget& owner) {
+    if (const auto* room = qobject_cast<const ScrollRoom*>(&owner)) return !room->widget()->isAncestorOf(&widget);
+    return qobject_cast<const QComboBox*>(&owner) != nullptr || qobject_cast<const QAbstractScrollArea*>(&owner) != nullptr ||
+           qobject_cast<const QToolBar*>(&owner) != nullptr || qobject_cast<const QStatusBar*>(&owner) != nullptr ||
+           owner.inherits("QMenuBar");
+}
+
 /// Widgets of the layout that no control owns.
 void FindOrphans(const Form& form, FormWindow& window) {
     std::set<QString> known{QStringLiteral("FormCaption")};
@@ -124,12 +132,9 @@ void FindOrphans(const Form& form, FormWindow& window) {
     }
     for (const QWidget* widget : WidgetsOf(window)) {
         if (!Bindable(*widget) || known.count(widget->objectName()) > 0) continue;
-        // What a widget has inside itself is its own.
         bool inside = false;
         for (const QWidget* parent = widget->parentWidget(); parent != nullptr && !inside; parent = parent->parentWidget())
-            inside = qobject_cast<const QComboBox*>(parent) != nullptr || qobject_cast<const QAbstractScrollArea*>(parent) != nullptr ||
-                     qobject_cast<const QToolBar*>(parent) != nullptr || qobject_cast<const QStatusBar*>(parent) != nullptr ||
-                     parent->inherits("QMenuBar");
+            inside = Inside(*widget, *parent);
         if (inside || widget->inherits("QToolButton")) continue;
         window.AddProblem(QStringLiteral("no control owns the widget \"%1\"").arg(widget->objectName()));
     }
