@@ -62,6 +62,7 @@ QToolButton* SpinArrows::MakeArrow(bool up) {
     arrow->setArrowType(up ? Qt::UpArrow : Qt::DownArrow);
     arrow->setAutoRepeat(true);
     arrow->setFocusPolicy(Qt::NoFocus);
+    arrow->setAccessibleName(up ? QStringLiteral("Op") : QStringLiteral("Ned"));
     arrow->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     connect(arrow, &QToolButton::clicked, this, [this, up] { Q_EMIT Stepped(up); });
     return arrow;
