@@ -11,7 +11,7 @@
 namespace vatro {
 
 FrmCall::FrmCall()
-    : Form("frmCall", FormKind::Dialog, "Contest Call"),
+    : Form("frmCall", FormKind::FixedDialog, "Contest Call"),
       cboCall(*this, "cboCall"),
       Label1(*this, "Label1", "Tlf. nr:"),
       Text1(*this, "Text1"),

@@ -16,7 +16,7 @@ constexpr int kSidste = 12;
 }  // namespace
 
 FrmUTC::FrmUTC()
-    : Form("frmUTC", FormKind::Dialog, "UTC offset"),
+    : Form("frmUTC", FormKind::FixedDialog, "UTC offset"),
       Combo1(*this, "Combo1", ComboStyle::DropDownList),
       Command1(*this, "Command1", "&Annuller"),
       Command2(*this, "Command2", "&OK") {

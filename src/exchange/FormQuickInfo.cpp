@@ -3,7 +3,7 @@
 
 namespace vatro {
 
-FormQuickInfo::FormQuickInfo() : Form("FormQuickInfo", FormKind::Dialog, "Quick Info"), Image1(*this, "Image1", "quickinfo.png") {
+FormQuickInfo::FormQuickInfo() : Form("FormQuickInfo", FormKind::FixedTool, "Quick Info"), Image1(*this, "Image1", "quickinfo.png") {
     Image1.Click = [this] { Hide(); };
 }
 

@@ -32,7 +32,7 @@ void GemUdstyr() {
 }
 
 FormRigAnt::FormRigAnt()
-    : Form("FormRigAnt", FormKind::Dialog, "Udstyr"),
+    : Form("FormRigAnt", FormKind::FixedDialog, "Udstyr"),
       Frame1(*this, "Frame1", "Radio + PA"),
       TextRig{{*this, "TextRig", 0}, {*this, "TextRig", 1}, {*this, "TextRig", 2}, {*this, "TextRig", 3}, {*this, "TextRig", 4}},
       Frame2(*this, "Frame2", "Antenner"),

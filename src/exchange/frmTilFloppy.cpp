@@ -4,7 +4,7 @@
 namespace vatro {
 
 FrmTilFloppy::FrmTilFloppy()
-    : Form("frmTilFloppy", FormKind::Dialog, "Kopierer log til diskette..."), List1(*this, "List1", {"Fixedsys", 9}) {
+    : Form("frmTilFloppy", FormKind::FixedDialog, "Kopierer log til diskette..."), List1(*this, "List1", {"Fixedsys", 9}) {
     SetTabOrder({&List1});
 }
 

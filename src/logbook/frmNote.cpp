@@ -16,7 +16,7 @@ std::string NoteLinje() {
 }  // namespace
 
 FrmNote::FrmNote()
-    : Form("frmNote", FormKind::Dialog, "Note"),
+    : Form("frmNote", FormKind::FixedDialog, "Note"),
       Text1(*this, "Text1"),
       Command1(*this, "Command1", "&OK"),
       Command2(*this, "Command2", "&Annuller") {

@@ -10,7 +10,7 @@
 namespace vatro {
 
 FrmNytQSOnr::FrmNytQSOnr()
-    : Form("frmNytQSOnr", FormKind::Dialog, "Nyt QSO nummer"),
+    : Form("frmNytQSOnr", FormKind::FixedDialog, "Nyt QSO nummer"),
       Text1(*this, "Text1"),
       UpDown1(*this, "UpDown1", Text1, {.min = 0, .max = 9999, .step = 1}),
       Command1(*this, "Command1", "&OK"),

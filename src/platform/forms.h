@@ -21,8 +21,9 @@ namespace vatro {
 
 enum class WindowState { Normal, Minimised, Maximised };
 
-/// What kind of window a form is; the front draws it accordingly.
-enum class FormKind { Main, Tool, Dialog, Splash };
+/// What kind of window a form is; the front draws it accordingly. The user does not size a fixed one; a fixed tool stands in the
+/// middle of the screen, a dialogue in that of its owner.
+enum class FormKind { Main, Tool, FixedTool, Dialog, FixedDialog, Splash };
 
 /// A window of the program; the base of each form.
 class Form {

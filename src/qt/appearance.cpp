@@ -3,11 +3,16 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QLayout>
 #include <QMainWindow>
 #include <QMenu>
 #include <QPalette>
+#include <QPushButton>
+#include <QScreen>
 
 #include "platform/platform.h"
+#include "qt/bind_common.h"
+#include "qt/fields.h"
 #include "text/numbers.h"
 
 namespace vatro {
@@ -91,7 +96,23 @@ void Appearance::Apply() {
         font.setPointSizeF(font.pointSizeF() * (1 + kStep * step_));
         if (Sun()) font.setBold(true);
         widget->setFont(font);
+        if (auto* button = qobject_cast<QPushButton*>(widget)) WidenButton(*button);
     }
+    GrowToContent();
+}
+
+void Appearance::GrowToContent() {
+    const auto* room = qobject_cast<ScrollRoom*>(window_.centralWidget());
+    if (room == nullptr || window_.isMaximized()) return;
+    // What the new fonts ask for goes up from layout to layout by this, also before the window is shown.
+    const QList<QWidget*> inside = room->findChildren<QWidget*>();
+    for (auto widget = inside.crbegin(); widget != inside.crend(); ++widget)
+        if ((*widget)->layout() != nullptr) (*widget)->layout()->activate();
+    window_.layout()->activate();
+    const QSize missing = room->Missing();
+    const QRect screen = window_.screen()->availableGeometry();
+    const QSize left(screen.right() - window_.x(), screen.bottom() - window_.y());
+    window_.resize((window_.size() + missing).boundedTo(left.expandedTo(window_.size())));
 }
 
 void Appearance::Store() const {

@@ -29,6 +29,7 @@ private:
     QAction* AddEntry(QMenu& menu, const QString& caption, const QKeySequence& key, int step);
     void SetTextSize(int step);
     void Apply();
+    void GrowToContent();
     void Store() const;
 
     QMainWindow& window_;

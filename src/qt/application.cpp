@@ -7,6 +7,8 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include "qt/accessibility.h"
+
 // Outside every namespace, as Qt asks.
 static void UseIcon() {
     Q_INIT_RESOURCE(icon);
@@ -21,6 +23,7 @@ constexpr double kLeastPoints = 11;
 }  // namespace
 
 void PrepareApplication() {
+    InstallAccessibility();
     QApplication::setApplicationName(QStringLiteral("vatro"));
     QApplication::setApplicationVersion(
         QStringLiteral("%1.%2.%3").arg(VATRO_VERSION_MAJOR).arg(VATRO_VERSION_MINOR).arg(VATRO_VERSION_PATCH));

@@ -135,6 +135,11 @@ void FollowState(const Control& control, QWidget& widget, Aspect aspect) {
     if (aspect == Aspect::ToolTip) widget.setToolTip(ToQt(control.ToolTip()));
 }
 
+void WidenButton(QPushButton& button) {
+    const QFontMetrics metrics = button.fontMetrics();
+    button.setMinimumWidth(metrics.size(Qt::TextShowMnemonic, button.text()).width() + 4 * metrics.averageCharWidth());
+}
+
 QFont FixedPitchFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPointSizeF(kFixedPitchPoints);
@@ -182,6 +187,7 @@ void Bind(ListBox& control, ItemList& widget, FormWindow& window) {
 void Bind(Button& control, QPushButton& widget, FormWindow& window) {
     PushState(control, widget);
     PushCaption(control.Caption(), widget);
+    WidenButton(widget);
     widget.setAutoDefault(false);
     window.AddInput(control, widget, nullptr);
     QObject::connect(&widget, &QAbstractButton::clicked, &window.Scope(), [&control] {

@@ -72,18 +72,35 @@ QList<QWidget*> WidgetsOf(const FormWindow& window, const QString& name = {}) {
     return widgets;
 }
 
+/// A caption as it is spoken.
+QString Spoken(const std::string& caption) {
+    const QString plain = PlainCaption(caption);
+    return plain.endsWith(u':') ? plain.chopped(1) : plain;
+}
+
 /// What the control is called where it is not seen.
 QString SpokenName(const Control& control) {
-    if (const auto* button = dynamic_cast<const Button*>(&control)) return PlainCaption(button->Caption());
-    if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return PlainCaption(box->Caption());
-    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return PlainCaption(option->Caption());
+    if (const auto* button = dynamic_cast<const Button*>(&control)) return Spoken(button->Caption());
+    if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return Spoken(box->Caption());
+    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return Spoken(option->Caption());
     for (const Control* other : control.Parent().Controls()) {
         const auto* label = dynamic_cast<const Label*>(other);
-        if (label != nullptr && label->AccessTarget() == &control) return PlainCaption(label->Caption());
+        if (label != nullptr && label->AccessTarget() == &control) return Spoken(label->Caption());
     }
     const QString tip = ToQt(control.ToolTip());
     const qsizetype sentence = tip.indexOf(QStringLiteral(". "));
     return sentence < 0 ? tip : tip.left(sentence);
+}
+
+void NameWidget(const Control& control, QWidget& widget, FormWindow& window) {
+    const QString name = widget.accessibleName().isEmpty() ? SpokenName(control) : widget.accessibleName();
+    QList<QWidget*> named{&widget};
+    if (const auto* combo = qobject_cast<QComboBox*>(&widget)) named.append(combo->lineEdit());
+    for (QWidget* one : named) {
+        one->setAccessibleName(name);
+        // What fills its window is called as the window is.
+        if (name.isEmpty()) window.NameByCaption(*one);
+    }
 }
 
 void BindOne(Control& control, FormWindow& window) {
@@ -96,11 +113,7 @@ void BindOne(Control& control, FormWindow& window) {
     window.Enter(control, widget);
     for (const auto& bind : kPairs) {
         if (!bind(control, widget, window)) continue;
-        if (control.TakesFocus() && widget.accessibleName().isEmpty()) {
-            widget.setAccessibleName(SpokenName(control));
-            // A list that fills its window is called as the window is.
-            if (widget.accessibleName().isEmpty()) window.NameByCaption(widget);
-        }
+        if (control.TakesFocus()) NameWidget(control, widget, window);
         return;
     }
     window.AddProblem(
@@ -115,6 +128,14 @@ bool Bindable(const QWidget& widget) {
            qobject_cast<const QPlainTextEdit*>(&widget) != nullptr || qobject_cast<const PictureView*>(&widget) != nullptr;
 }
 
+/// What a widget has inside itself is its own.
+bool Inside(const QWidget& widget, const QWidget& owner) {
+    if (const auto* room = qobject_cast<const ScrollRoom*>(&owner)) return !room->widget()->isAncestorOf(&widget);
+    return qobject_cast<const QComboBox*>(&owner) != nullptr || qobject_cast<const QAbstractScrollArea*>(&owner) != nullptr ||
+           qobject_cast<const QToolBar*>(&owner) != nullptr || qobject_cast<const QStatusBar*>(&owner) != nullptr ||
+           owner.inherits("QMenuBar");
+}
+
 /// Widgets of the layout that no control owns.
 void FindOrphans(const Form& form, FormWindow& window) {
     std::set<QString> known{QStringLiteral("FormCaption")};
@@ -124,12 +145,9 @@ void FindOrphans(const Form& form, FormWindow& window) {
     }
     for (const QWidget* widget : WidgetsOf(window)) {
         if (!Bindable(*widget) || known.count(widget->objectName()) > 0) continue;
-        // What a widget has inside itself is its own.
         bool inside = false;
         for (const QWidget* parent = widget->parentWidget(); parent != nullptr && !inside; parent = parent->parentWidget())
-            inside = qobject_cast<const QComboBox*>(parent) != nullptr || qobject_cast<const QAbstractScrollArea*>(parent) != nullptr ||
-                     qobject_cast<const QToolBar*>(parent) != nullptr || qobject_cast<const QStatusBar*>(parent) != nullptr ||
-                     parent->inherits("QMenuBar");
+            inside = Inside(*widget, *parent);
         if (inside || widget->inherits("QToolButton")) continue;
         window.AddProblem(QStringLiteral("no control owns the widget \"%1\"").arg(widget->objectName()));
     }

@@ -26,7 +26,7 @@ void ColumnHead::SetCaption(const QString& caption) {
 
 QSize ColumnHead::sizeHint() const {
     // Over a list or fields it takes the width that they have; beside a field it needs its own.
-    const bool alone = columns_.isEmpty() && fields_.isEmpty();
+    const bool alone = columns_.isEmpty() && !fields_.contains(u' ');
     const int width = alone ? fontMetrics().size(Qt::TextShowMnemonic, caption_).width() + 2 : fontMetrics().averageCharWidth() * 4;
     return {width, fontMetrics().height() + fontMetrics().leading() + 2};
 }
@@ -47,11 +47,24 @@ QList<int> ColumnHead::Places() const {
     return places;
 }
 
+QList<int> ColumnHead::SpreadPlaces(const QStringList& texts) const {
+    int room = width();
+    for (const QString& text : texts) room -= fontMetrics().size(Qt::TextShowMnemonic, text).width();
+    const int gap = texts.size() < 2 ? 0 : room / static_cast<int>(texts.size() - 1);
+    QList<int> places;
+    int at = 0;
+    for (const QString& text : texts) {
+        places.append(at);
+        at += fontMetrics().size(Qt::TextShowMnemonic, text).width() + gap;
+    }
+    return places;
+}
+
 QList<ColumnHead::Piece> ColumnHead::Pieces() const {
     static const QRegularExpression blank(QStringLiteral(" +"));
     static const QRegularExpression blanks(QStringLiteral("  +"));
     const QStringList texts = caption_.split(words_ ? blank : blanks, Qt::SkipEmptyParts);
-    const QList<int> places = Places();
+    const QList<int> places = spread_ ? SpreadPlaces(texts) : Places();
     QList<Piece> pieces;
     int end = 0;
     for (qsizetype i = 0; i < texts.size(); ++i) {

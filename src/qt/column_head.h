@@ -19,6 +19,8 @@ class ColumnHead : public QWidget {
     Q_PROPERTY(QString fields MEMBER fields_)
     /// Pieces end at every blank, not at two or more.
     Q_PROPERTY(bool words MEMBER words_)
+    /// Pieces stand at equal distances from one end to the other, as over a scale.
+    Q_PROPERTY(bool spread MEMBER spread_)
 
 public:
     explicit ColumnHead(QWidget* parent = nullptr);
@@ -43,6 +45,7 @@ protected:
 
 private:
     QList<int> Places() const;
+    QList<int> SpreadPlaces(const QStringList& texts) const;
     QWidget* Sibling(const QString& name) const;
 
     QString caption_;
@@ -50,6 +53,7 @@ private:
     QString list_;
     QString fields_;
     bool words_ = false;
+    bool spread_ = false;
     bool watching_ = false;
 };
 

@@ -2,6 +2,8 @@
 #include "qt/dialogs.h"
 
 #include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
@@ -51,6 +53,17 @@ QStringList NameFilters(const std::string& filter) {
     return filters;
 }
 
+/// Without an icon the text of a box needs no distance from one.
+void CloseUp(QMessageBox& box) {
+    if (auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+        text->setIndent(0);
+        text->setContentsMargins(0, 0, 0, 0);
+    }
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    QLayoutItem* first = grid != nullptr ? grid->itemAtPosition(0, 0) : nullptr;
+    if (first != nullptr && first->spacerItem() != nullptr) first->spacerItem()->changeSize(0, 0);
+}
+
 /// Qt gives the keys back to the window that had them; the active form may be another one by now.
 void GiveKeysBack() {
     if (Form* form = ActiveForm()) platform().front.Activated(*form);
@@ -83,6 +96,7 @@ QMessageBox* MakeBox(const MessageBox& box, QWidget* owner) {
     made->setTextFormat(Qt::PlainText);
     made->setText(ToQt(box.text));
     made->setIcon(QtIcon(box.icon));
+    if (box.icon == Icon::None) CloseUp(*made);
     if (box.buttons == Buttons::Ok) {
         QPushButton* ok = made->addButton(QStringLiteral("&OK"), QMessageBox::AcceptRole);
         made->setDefaultButton(ok);

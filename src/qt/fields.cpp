@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "qt/fields.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QResizeEvent>
@@ -14,6 +16,8 @@ namespace vatro {
 namespace {
 
 constexpr double kEntryPoints = 14.25;
+/// Pixels that stay in sight round a widget that has been brought there.
+constexpr int kSightMargin = 6;
 /// Device independent pixels of a point, at 96 to the inch.
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 
@@ -41,6 +45,16 @@ SpinArrows::SpinArrows(QWidget* parent) : QWidget(parent), up_(MakeArrow(true)),
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(up_);
     column->addWidget(down_);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize SpinArrows::sizeHint() const {
+    QStyleOptionFrame option;
+    option.initFrom(this);
+    option.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, this);
+    // As QLineEdit counts.
+    const QSize text(0, qMax(fontMetrics().height(), 14) + 2);
+    return {up_->sizeHint().width(), style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, this).height()};
 }
 
 QToolButton* SpinArrows::MakeArrow(bool up) {
@@ -48,8 +62,38 @@ QToolButton* SpinArrows::MakeArrow(bool up) {
     arrow->setArrowType(up ? Qt::UpArrow : Qt::DownArrow);
     arrow->setAutoRepeat(true);
     arrow->setFocusPolicy(Qt::NoFocus);
+    arrow->setAccessibleName(up ? QStringLiteral("Op") : QStringLiteral("Ned"));
+    arrow->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     connect(arrow, &QToolButton::clicked, this, [this, up] { Q_EMIT Stepped(up); });
     return arrow;
+}
+
+ScrollRoom::ScrollRoom(QWidget& content) {
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(&content);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*old*/, QWidget* now) {
+        if (now != nullptr && isAncestorOf(now)) BringIntoSight(*now);
+    });
+}
+
+void ScrollRoom::BringIntoSight(const QWidget& inside) {
+    // All of it, not the caret alone; where there is not room for all, its beginning.
+    const QRect place(inside.mapTo(widget(), QPoint()), inside.size());
+    for (const QPoint& corner : {place.bottomRight(), place.topLeft()}) ensureVisible(corner.x(), corner.y(), kSightMargin, kSightMargin);
+}
+
+QSize ScrollRoom::Missing() const {
+    return widget()->minimumSizeHint().expandedTo(size()) - size();
+}
+
+void ScrollRoom::keyPressEvent(QKeyEvent* event) {
+    event->ignore();
+}
+
+bool ScrollRoom::focusNextPrevChild(bool next) {
+    return QWidget::focusNextPrevChild(next);
 }
 
 QFont MeasureFont(const QString& family, bool bold) {

@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 
 class QToolButton;
 
@@ -65,12 +66,14 @@ private:
     QString toolTip_;
 };
 
-/// Two arrows that count the number in a field up and down.
+/// Two arrows that count the number in a field up and down, together as high as the field.
 class SpinArrows : public QWidget {
     Q_OBJECT
 
 public:
     explicit SpinArrows(QWidget* parent = nullptr);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
     QToolButton& Arrow(bool up) const { return up ? *up_ : *down_; }
 
 Q_SIGNALS:
@@ -81,6 +84,24 @@ private:
 
     QToolButton* up_;
     QToolButton* down_;
+};
+
+/// The inside of a window that may be smaller than what is in it, as on a small screen at twice the size: it scrolls, and the
+/// widget with the focus is always in sight. Keys pass it by.
+class ScrollRoom : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit ScrollRoom(QWidget& content);
+    /// What the content lacks to be seen whole.
+    QSize Missing() const;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    void BringIntoSight(const QWidget& inside);
 };
 
 /// The font at a size that every measure is taken from, so that widths are in the ratio of the sizes.

@@ -2,12 +2,32 @@
 #include "qt/item_list.h"
 
 #include <QResizeEvent>
+#include <QStyledItemDelegate>
 
 #include "qt/text.h"
 
 namespace vatro {
 
-ItemModel::ItemModel(const ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(&list), rows_(list.ListCount()) {}
+namespace {
+
+/// Every row is as wide as the longest one, so that none is out of reach of the scroll bar, and blanks at the end ask for none.
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const auto* model = dynamic_cast<const ItemModel*>(index.model());
+        const int characters = model != nullptr ? model->WidestRow() : 0;
+        const int margin = option.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
+        const double text = QFontMetricsF(option.font).horizontalAdvance(QString(characters, u'0'));
+        return {qRound(text) + 2 * margin, QStyledItemDelegate::sizeHint(option, index).height()};
+    }
+};
+
+}  // namespace
+
+ItemModel::ItemModel(const ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(&list) {
+    Reset();
+}
 
 int ItemModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : rows_;
@@ -22,12 +42,20 @@ QVariant ItemModel::data(const QModelIndex& index, int role) const {
 void ItemModel::Reset() {
     beginResetModel();
     rows_ = list_ != nullptr ? list_->ListCount() : 0;
+    widest_ = 0;
+    for (int row = 0; row < rows_; ++row) Measure(row);
     endResetModel();
+}
+
+void ItemModel::Measure(int row) {
+    const std::string& text = list_->Items()[static_cast<std::size_t>(row)];
+    widest_ = qMax(widest_, static_cast<int>(text.find_last_not_of(' ') + 1));
 }
 
 void ItemModel::Added(int row) {
     beginInsertRows({}, row, row);
     ++rows_;
+    Measure(row);
     endInsertRows();
 }
 
@@ -38,6 +66,7 @@ void ItemModel::Removed(int row) {
 }
 
 void ItemModel::RowChanged(int row) {
+    Measure(row);
     Q_EMIT dataChanged(index(row), index(row), {Qt::DisplayRole});
 }
 
@@ -48,6 +77,7 @@ void ItemModel::Release() {
 
 ItemList::ItemList(QWidget* parent) : QListView(parent) {
     setUniformItemSizes(true);
+    setItemDelegate(new RowDelegate(this));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
     setVerticalScrollMode(ScrollPerItem);

@@ -28,10 +28,15 @@ public:
     void RowChanged(int row);
     /// The control is going away; what is shown of it goes too.
     void Release();
+    /// Characters of the longest row there has been since the last reset, without blanks at its end.
+    int WidestRow() const { return widest_; }
 
 private:
+    void Measure(int row);
+
     const ListBox* list_;
     int rows_ = 0;
+    int widest_ = 0;
 };
 
 class ItemList : public QListView {

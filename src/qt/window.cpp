@@ -15,6 +15,7 @@
 #include "qt/binder.h"
 #include "qt/column_head.h"
 #include "qt/deliver.h"
+#include "qt/fields.h"
 #include "qt/front.h"
 #include "qt/input.h"
 #include "qt/layouts.h"
@@ -29,8 +30,10 @@ Qt::WindowFlags Flags(FormKind kind) {
         case FormKind::Main:
             return Qt::Window;
         case FormKind::Tool:
+        case FormKind::FixedTool:
             return Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
         case FormKind::Dialog:
+        case FormKind::FixedDialog:
             return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
         case FormKind::Splash:
             return Qt::SplashScreen | Qt::FramelessWindowHint;
@@ -81,12 +84,15 @@ void FormWindow::Build(QWidget* owner) {
     if (form_.Kind() == FormKind::Main) {
         auto* window = new QMainWindow(owner, Flags(form_.Kind()));
         const QSize size = content->size();
-        window->setCentralWidget(content);
+        window->setCentralWidget(new ScrollRoom(*content));
         AddBars(form_, *window);
         window->resize(size);
         top_ = window;
     } else {
         content->setParent(owner, Flags(form_.Kind()));
+        // The window has the size of its layout, whatever font the desktop comes up with.
+        if (form_.Kind() == FormKind::FixedDialog && content->layout() != nullptr)
+            content->layout()->setSizeConstraint(QLayout::SetFixedSize);
         top_ = content;
     }
     content->setObjectName(name);
@@ -152,7 +158,7 @@ void FormWindow::FollowPlace() {
         const QPoint at(ToPixels(told.left), ToPixels(told.top));
         if (moved) top_->move(at);
         const QSize size(ToLength(told.width), ToLength(told.height));
-        if (top_->size() != size) top_->resize(size);
+        if (top_->size() != size) SetSize(size);
     }
     placing_ = false;
     if (top_->isVisible()) TellPlace();
@@ -168,7 +174,7 @@ void FormWindow::FollowVisible() {
     if (form_.Kind() == FormKind::Tool && top_->parentWidget() != nullptr && !top_->parentWidget()->isVisible()) return;
     top_->setWindowModality(form_.Modal() ? Qt::ApplicationModal : Qt::NonModal);
     placing_ = true;
-    if (!placed_) PlaceInMiddle();
+    if (!placed_) FirstPlace();
     if (form_.Kind() == FormKind::Main && front_.fitToScreen) FitToScreen();
     arriving_ = true;
     top_->show();
@@ -185,22 +191,41 @@ void FormWindow::Arrive() {
     TellPlace();
 }
 
+int FormWindow::TitleHeight() const {
+    return top_->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, top_);
+}
+
 void FormWindow::FitToScreen() {
     const QRect room = top_->screen()->availableGeometry();
-    // The frame is not known before the window is on the screen.
-    const int title = top_->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, top_);
-    const QSize left(room.right() - top_->x(), room.bottom() - top_->y() - title);
+    const QSize left(room.right() - top_->x(), room.bottom() - top_->y() - TitleHeight());
     top_->resize(top_->size().boundedTo(left.expandedTo(top_->minimumSizeHint())));
 }
 
-void FormWindow::PlaceInMiddle() {
-    if (form_.Kind() == FormKind::Main) return;
+void FormWindow::FirstPlace() {
+    if (form_.Kind() == FormKind::Main) {
+        // Also where the form says the corner of the screen, which is no change of place.
+        top_->move(ToPixels(form_.Left()), ToPixels(form_.Top()));
+        return;
+    }
+    const QRect screen = top_->screen()->availableGeometry();
     // As large as its layout asks for, which nobody has told it before it is shown.
-    if (form_.Kind() == FormKind::Dialog) top_->adjustSize();
+    if (form_.Kind() == FormKind::Dialog || form_.Kind() == FormKind::FixedDialog || form_.Kind() == FormKind::FixedTool) {
+        top_->ensurePolished();
+        SetSize(top_->sizeHint().boundedTo(screen.size()));
+    }
     const QWidget* owner = top_->parentWidget();
-    const QRect room = owner != nullptr && owner->isVisible() ? owner->frameGeometry() : top_->screen()->availableGeometry();
-    top_->move(room.center() - QRect(QPoint(), top_->size()).center());
+    const bool above = form_.Kind() != FormKind::FixedTool && owner != nullptr && owner->isVisible();
+    const QPoint middle = (above ? owner->frameGeometry() : screen).center() - QRect(QPoint(), top_->size()).center();
+    const QPoint last = screen.bottomRight() - QPoint(top_->width(), top_->height() + TitleHeight());
+    top_->move(qMax(screen.left(), qMin(middle.x(), last.x())), qMax(screen.top(), qMin(middle.y(), last.y())));
     placed_ = true;
+}
+
+void FormWindow::SetSize(const QSize& size) {
+    if (form_.Kind() == FormKind::FixedTool)
+        top_->setFixedSize(size);
+    else
+        top_->resize(size);
 }
 
 void FormWindow::FollowFocus() {
@@ -220,7 +245,7 @@ void FormWindow::FollowFocus() {
 void FormWindow::MoveByUser(int left, int top, int width, int height) {
     placing_ = true;
     top_->move(ToPixels(left), ToPixels(top));
-    top_->resize(ToLength(width), ToLength(height));
+    SetSize({ToLength(width), ToLength(height)});
     placing_ = false;
     TellPlace({left, top, width, height});
 }

@@ -80,8 +80,13 @@ private:
     void FollowPlace();
     void FollowVisible();
     void Arrive();
-    void PlaceInMiddle();
+    /// In the middle of the owner or of the screen.
+    void FirstPlace();
+    /// A fixed window gets the size for good, not the user.
+    void SetSize(const class QSize& size);
     void FitToScreen();
+    /// The frame is not known before the window is on the screen.
+    int TitleHeight() const;
     void TellPlace(const WindowPlace& finer);
     void TellPlace();
     void TellState();

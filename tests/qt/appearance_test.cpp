@@ -5,8 +5,10 @@
 
 #include <QAction>
 #include <QMainWindow>
+#include <QScreen>
 #include <QTest>
 
+#include "qt/fields.h"
 #include "qt/window_program.h"
 
 namespace vatro {
@@ -55,6 +57,19 @@ TEST_F(AppearanceOfTheWindow, TextGrowsAndShrinksByTenthsAndGoesBack) {
     EXPECT_NEAR(Points(), usual * 0.9, 0.01);
     for (int i = 0; i < 20; ++i) Press(Qt::Key_Minus);
     EXPECT_NEAR(Points(), usual * 0.7, 0.01) << "three steps are the smallest";
+}
+
+TEST_F(AppearanceOfTheWindow, WindowGrowsWithItsTextAsFarAsTheScreenGoes) {
+    StartVatro();
+    const QRect screen = Window().screen()->availableGeometry();
+    const QSize usual = Window().size();
+    const auto* room = dynamic_cast<const ScrollRoom*>(Window().centralWidget());
+    for (int i = 0; i < 10; ++i) Press(Qt::Key_Plus);
+    // All is seen, or what there is of the screen is used.
+    EXPECT_TRUE(room->Missing().width() == 0 || Window().width() >= screen.right() - Window().x());
+    EXPECT_TRUE(room->Missing().height() == 0 || Window().height() >= screen.bottom() - Window().y());
+    EXPECT_GE(Window().width(), usual.width());
+    EXPECT_GT(room->widget()->minimumSizeHint().width(), usual.width());
 }
 
 TEST_F(AppearanceOfTheWindow, StartsAsItWasLeft) {
