@@ -9,6 +9,7 @@
 #include <QLockFile>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
 #include <csignal>
@@ -121,6 +122,16 @@ TEST_F(Box, HasDanishButtonsAndTheProgramsTitle) {
     EXPECT_EQ(Texts(*Make(question)), (QStringList{QStringLiteral("Ja"), QStringLiteral("Nej")}));
     EXPECT_EQ(Texts(*Make({})), (QStringList{QStringLiteral("OK")}));
     EXPECT_EQ(Make({})->windowTitle(), QStringLiteral("vatro"));
+}
+
+TEST_F(Box, WithoutAnIconHasItsTextInTheMiddle) {
+    MessageBox told;
+    told.text = "A text that is wider than the button below it";
+    const auto box = Make(told);
+    const auto* text = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    // But for the distance that the layout keeps between its columns.
+    EXPECT_NEAR(text->x(), box->width() - text->geometry().right(), box->style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing) + 2);
+    EXPECT_EQ(text->indent(), 0);
 }
 
 TEST_F(Box, HasTheFirstButtonAsDefaultUnlessToldOtherwise) {
