@@ -54,7 +54,7 @@ double QtPrinter::Height() const {
 
 QFont QtPrinter::FontOnPaper(const Font& font) const {
     QFont paper(ToQt(font.name));
-    paper.setPointSizeF(font.size);
+    if (font.size > 0) paper.setPointSizeF(font.size);
     paper.setBold(font.bold);
     paper.setUnderline(font.underline);
     // Rows of figures keep their columns where the named font is missing.
