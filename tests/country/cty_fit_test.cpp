@@ -179,6 +179,8 @@ TEST(CtyFit, WhatTheImportWouldGoWrongOnIsTold) {
     EXPECT_EQ(told({Header("*QA"), "    QA;", Header("QB"), "    QA;"}), (Texts{})) << "a starred country leaves no trace";
     EXPECT_EQ(told({Header("*QA"), "    QA;", Header("*QB"), "    QB;"}), (Texts{"to lande med * efter hinanden: *QB bliver taget med"}));
     EXPECT_EQ(told({Header("QA"), "    QA;", Header("*QB"), "    QB;"}), (Texts{"det sidste land er mærket med *"}));
+    EXPECT_EQ(told({Header("*QA"), "    QA;", Header("QB") + " ", "    QB;"}),
+              (Texts{"overskriften efter et land med * slutter ikke med ':': " + Header("QB") + " "}));
     EXPECT_EQ(told({Header("QB"), "    QB;", Header("QA"), "    QA;"}), (Texts{"QA står ikke i rækkefølge efter QB"}));
     EXPECT_EQ(told({Header("QA"), "    QA,QX;", Header("QB"), "    QX;"}), (Texts{"QX står under både QA og QB"}));
     Texts many{Header("QA"), "    "};

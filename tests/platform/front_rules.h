@@ -108,6 +108,14 @@ TEST_P(FrontRules, KeyReplacesTheSelection) {
               (Lines{"frmRules.Text1(1) enabled shown limit 5 selected 0 3", "frmRules.Text1(1) \"x\""}));
 }
 
+TEST_P(FrontRules, BackspaceAndDeleteTakeTheSelectionAwayAndNoMore) {
+    On("GotFocus Text1(1)", [] { frmRules->Text1[1].Select(1, 2); });
+    On("LostFocus Text1(0)", [] { frmRules->Text1[1].SetText("abcd"); });
+    for (const std::string key : {"Backspace", "Delete"})
+        EXPECT_EQ(Play("focus frmRules.Text1(0)\nkey Tab\nkey " + key + "\nshow frmRules.Text1(1)"), (Lines{"frmRules.Text1(1) \"ad\""}))
+            << key;
+}
+
 TEST_P(FrontRules, ClickIntoAFieldPutsTheCaretBehindItsText) {
     EXPECT_EQ(Play("focus frmRules.Text1(1)\ntype abc\nkey Home\nfocus frmRules.Text1(1)\nshow frmRules.Text1(1) state"),
               (Lines{"frmRules.Text1(1) enabled shown limit 5 selected 3 0"}));

@@ -62,6 +62,12 @@ TEST_F(Adif, TrimsValuesAndCountsTheirLength) {
     EXPECT_THAT(file, HasSubstr("<RST_RCVD:2>57\r\n<SRL_RCVD:4>0034\r\n<POINTS:1>3\r\n<MULT:0>\r\n<OPERATOR:7>OZ1ABCD\r\n"));
 }
 
+TEST_F(Adif, CountsTenCharactersAndMoreWithTwoFigures) {
+    EXPECT_THAT(RecordOf(Contact({.call = "DL1ABCD/P"}), "80m"), HasSubstr("<CALL:9>DL1ABCD/P\r\n"));
+    EXPECT_THAT(RecordOf(Contact({.call = "OH0/DL1ABC"}), "80m"), HasSubstr("<CALL:10>OH0/DL1ABC\r\n"));
+    EXPECT_THAT(RecordOf(Contact({.call = "OH0/DL1ABC/QRPP"}), "80m"), HasSubstr("<CALL:15>OH0/DL1ABC/QRPP\r\n"));
+}
+
 TEST_F(Adif, TakesTheModeFromTheLine) {
     Log("80mCW", {Contact({.mode = "PSK31"})});
     EXPECT_THAT(Export(), HasSubstr("<BAND:3>80M\r\n<MODE:5>PSK31\r\n"));
