@@ -61,7 +61,7 @@ void CloseUp(QMessageBox& box) {
     }
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
     QLayoutItem* first = grid != nullptr ? grid->itemAtPosition(0, 0) : nullptr;
-    if (first != nullptr && first->spacerItem() != nullptr) first->spacerItem()->changeSize(0, 0);
+    if (first != nullptr && first->spacerItem() != nullptr) first->spacerItem()->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 /// Qt gives the keys back to the window that had them; the active form may be another one by now.

@@ -141,10 +141,11 @@ TEST_F(PowerCut, NeverLosesALineWhoseEnterHadReturned) {
             Player(contest, world, front, StartProgram).Play();
         });
         const std::string log = Content(directory / "log" / "FD80mSSB.txt");
-        ASSERT_EQ(log.size() % (kLineWidth + 2), 0U) << "half a line stands in the log";
         const std::size_t lines = log.size() / (kLineWidth + 2);
+        // A write that crosses into another page of the system's memory can be cut there.
+        const std::size_t begun = log.size() % (kLineWidth + 2) != 0 ? 1 : 0;
         ASSERT_GE(lines, logged);
-        ASSERT_LE(lines, logged + 1) << "only the contact under way may be on disk beside those told of";
+        ASSERT_LE(lines + begun, logged + 1) << "only the contact under way may be on disk beside those told of";
         for (std::size_t i = 0; i < lines; ++i) {
             const std::string line = log.substr(i * (kLineWidth + 2), kLineWidth + 2);
             ASSERT_EQ(line.substr(6, 6), Call(static_cast<int>(i)));
