@@ -61,7 +61,10 @@ void CloseUp(QMessageBox& box) {
     }
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
     QLayoutItem* first = grid != nullptr ? grid->itemAtPosition(0, 0) : nullptr;
-    if (first != nullptr && first->spacerItem() != nullptr) first->spacerItem()->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
+    if (first == nullptr || first->spacerItem() == nullptr) return;
+    first->spacerItem()->changeSize(0, 0);
+    // Room that a wrapped text leaves goes to it.
+    grid->setColumnStretch(1, 1);
 }
 
 /// Qt gives the keys back to the window that had them; the active form may be another one by now.
