@@ -256,7 +256,7 @@ long Memory() {
 }  // namespace vatro::bench
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     vatro::PrepareApplication();
     if (argc > 2 && std::string(argv[1]) == "--paint") vatro::bench::Paint(argc > 3 ? argv[3] : "");

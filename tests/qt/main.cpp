@@ -29,7 +29,7 @@ void FailOnWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     ::testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(FailOnWarnings);
     QLocale::setDefault(QLocale(QLocale::Danish, QLocale::Denmark));

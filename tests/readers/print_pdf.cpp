@@ -64,7 +64,7 @@ int main(int argc, char** argv) {
         std::fputs("usage: vatro-print-pdf WORLD FILE.pdf\n", stderr);
         return 2;
     }
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     vatro::PrepareApplication();
     QApplication::setStyle(QStringLiteral("Fusion"));
