@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Any settings: the program starts with them and sends Morse, or ends with a failure that is told. What it stores at its end
-// leads to the same stored settings the next time. Input: lines; the first character of each says which key.
+// Any settings: the program starts with them, sends Morse and takes keys, or ends with a failure that is told. Input: lines; the
+// first character of each says which key.
 #include <array>
 #include <cstddef>
 #include <cstdint>
