@@ -23,18 +23,18 @@ struct Nøgle {
 /// disturbing the order of equal ones.
 std::vector<Nøgle> EfterTegn(std::span<const PfxRec> rækker, int antal) {
     std::vector<Nøgle> nøgler(static_cast<std::size_t>(antal));
-    // How many rows have which character, by the place of the character.
-    std::array<std::array<Plads, 256>, kPfxLængde> antalMed{};
+    // Which places of a character are not the same in all rows; at the end of most there is nothing but filler.
+    std::array<unsigned char, kPfxLængde> forskel{};
     for (std::size_t i = 0; i < nøgler.size(); ++i) {
-        const std::string_view pfx = rækker[i + 1].Pfx.Padded();
+        std::ranges::copy(rækker[i + 1].Pfx.Padded(), nøgler[i].tegn.begin());
         nøgler[i].plads = static_cast<Plads>(i + 1);
-        for (std::size_t nr = 0; nr < kPfxLængde; ++nr) ++antalMed[nr][nøgler[i].tegn[nr] = static_cast<unsigned char>(pfx[nr])];
+        for (std::size_t nr = 0; nr < kPfxLængde; ++nr) forskel[nr] |= nøgler[i].tegn[nr] ^ nøgler[0].tegn[nr];
     }
     std::vector<Nøgle> næste(nøgler.size());
-    for (std::size_t nr = kPfxLængde; nr-- > 0 && !nøgler.empty();) {
-        std::array<Plads, 256>& start = antalMed[nr];
-        // Often nothing but filler.
-        if (start[nøgler.front().tegn[nr]] == nøgler.size()) continue;
+    for (std::size_t nr = kPfxLængde; nr-- > 0;) {
+        if (forskel[nr] == 0) continue;
+        std::array<Plads, 256> start{};
+        for (const Nøgle& nøgle : nøgler) ++start[nøgle.tegn[nr]];
         std::exclusive_scan(start.begin(), start.end(), start.begin(), Plads{0});
         for (const Nøgle& nøgle : nøgler) næste[start[nøgle.tegn[nr]]++] = nøgle;
         nøgler.swap(næste);
@@ -42,101 +42,53 @@ std::vector<Nøgle> EfterTegn(std::span<const PfxRec> rækker, int antal) {
     return nøgler;
 }
 
-/// Knows of each place to which group of equal rows its row belongs, and of each group where its rows stand. The groups
-/// are numbered in ascending order, so the rows are settled group by group.
-class Valg {
-public:
-    Valg(std::span<const PfxRec> rækker, int antal) : gruppe_(rækker.size()) {
-        const std::vector<Nøgle> nøgler = EfterTegn(rækker, antal);
-        // A swap adds two places at the most.
-        led_.reserve(nøgler.size() * 3 + 1);
-        led_.emplace_back();
-        første_.reserve(nøgler.size());
-        for (std::size_t i = 0; i < nøgler.size(); ++i) {
-            if (i == 0 || nøgler[i - 1].tegn != nøgler[i].tegn) første_.push_back(0);
-            Sæt(nøgler[i].plads, static_cast<Plads>(første_.size() - 1));
-        }
+/// The selection sort itself, for a full table, in which the spare row is one of those that are sorted.
+void Udvælg(std::span<PfxRec> rækker, const std::function<void(int)>& trin) {
+    PfxRec& reserve = rækker.back();
+    for (std::size_t i = 1; i < rækker.size(); ++i) {
+        trin(static_cast<int>(i));
+        std::size_t valgt = i;
+        for (std::size_t j = i + 1; j < rækker.size(); ++j)
+            if (rækker[j].Pfx.Padded() <= rækker[valgt].Pfx.Padded()) valgt = j;
+        if (valgt == i) continue;
+        reserve = rækker[i];
+        rækker[i] = rækker[valgt];
+        rækker[valgt] = reserve;
     }
-
-    /// The place of the row to be chosen among those from `fra` on.
-    std::size_t Vælg(std::size_t fra) {
-        for (;;) {
-            while (!steder_.empty()) {
-                const Plads plads = steder_.front();
-                // An entry stays behind when its row has been moved or settled.
-                if (plads >= fra && gruppe_[plads] == nu_) return plads;
-                std::pop_heap(steder_.begin(), steder_.end());
-                steder_.pop_back();
-            }
-            if (const Plads ene = Næste(fra); ene != 0) return ene;
-        }
-    }
-
-    Plads Gruppe(std::size_t plads) const { return gruppe_[plads]; }
-
-    /// A row of this group stands at the place from now on.
-    void Sæt(std::size_t hvor, Plads gruppe) {
-        const auto plads = static_cast<Plads>(hvor);
-        gruppe_[plads] = gruppe;
-        if (begyndt_ && gruppe == nu_) {
-            steder_.push_back(plads);
-            std::push_heap(steder_.begin(), steder_.end());
-        } else {
-            led_.push_back({plads, første_[gruppe]});
-            første_[gruppe] = static_cast<Plads>(led_.size() - 1);
-        }
-    }
-
-private:
-    struct Led {
-        Plads plads = 0;
-        Plads næste = 0;
-    };
-
-    /// Goes on to the next group. Most have one row: its place, or 0 for a group of none or several.
-    Plads Næste(std::size_t fra) {
-        if (begyndt_) ++nu_;
-        begyndt_ = true;
-        for (Plads led = første_[nu_]; led != 0; led = led_[led].næste) {
-            const Plads plads = led_[led].plads;
-            if (plads >= fra && gruppe_[plads] == nu_) steder_.push_back(plads);
-        }
-        if (steder_.size() == 1) {
-            const Plads ene = steder_.front();
-            steder_.clear();
-            return ene;
-        }
-        std::make_heap(steder_.begin(), steder_.end());
-        return 0;
-    }
-
-    /// By place.
-    std::vector<Plads> gruppe_;
-    /// By group: its first entry in led_, 0 for none. Entry 0 is no entry.
-    std::vector<Plads> første_;
-    std::vector<Led> led_;
-    /// The group that is being settled, and a heap of the places of its rows, the last one on top.
-    Plads nu_ = 0;
-    bool begyndt_ = false;
-    std::vector<Plads> steder_;
-};
+}
 
 }  // namespace
 
 void SorterPræfikser(std::span<PfxRec> rækker, int antal, const std::function<void(int)>& trin) {
-    Valg valg(rækker, antal);
     const auto sidste = static_cast<std::size_t>(antal);
-    const std::size_t reserve = rækker.size() - 1;
+    if (sidste + 1 == rækker.size()) return Udvælg(rækker, trin);
+
+    std::vector<Nøgle> rest = EfterTegn(rækker, antal);
+    // Only places are swapped until the order is known: where each row has gone, and which row stands at each place.
+    std::vector<Plads> sted(sidste + 1);
+    std::iota(sted.begin(), sted.end(), Plads{0});
+    std::vector<Plads> række = sted;
+    Plads sidstByttet = 0;
     for (std::size_t i = 1; i <= sidste; ++i) {
         trin(static_cast<int>(i));
-        const std::size_t valgt = valg.Vælg(i);
-        if (valgt == i) continue;
-        rækker[reserve] = rækker[i];
-        rækker[i] = rækker[valgt];
-        rækker[valgt] = rækker[reserve];
-        if (valgt != reserve) valg.Sæt(valgt, valg.Gruppe(i));
-        if (reserve <= sidste) valg.Sæt(reserve, valg.Gruppe(i));
+        // Of the rows that are left the smallest are in front. There are seldom two.
+        std::size_t valgt = i - 1;
+        for (std::size_t j = i; j < sidste && rest[j].tegn == rest[i - 1].tegn; ++j)
+            if (sted[rest[j].plads] > sted[rest[valgt].plads]) valgt = j;
+        std::swap(rest[i - 1].plads, rest[valgt].plads);
+        const Plads valgtRække = rest[i - 1].plads;
+        const Plads hertil = sted[valgtRække];
+        if (hertil == i) continue;
+        sidstByttet = række[i];
+        række[hertil] = sidstByttet;
+        sted[sidstByttet] = hertil;
+        række[i] = valgtRække;
     }
+    if (sidstByttet == 0) return;
+
+    const std::vector<PfxRec> før(rækker.begin(), rækker.begin() + antal + 1);
+    for (std::size_t i = 1; i <= sidste; ++i) rækker[i] = før[række[i]];
+    rækker.back() = før[sidstByttet];
 }
 
 }  // namespace vatro
