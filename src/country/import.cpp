@@ -95,12 +95,9 @@ private:
             VisOverløb(præfikser_);
             throw RunTimeError(Failure::IndexOutOfRange);
         }
-        std::array<char, kPfxLængde> nøgle;
-        nøgle.fill(kCtyFyld);
-        post.tekst.copy(nøgle.data(), nøgle.size());
         PfxRec& række = RefPfx[static_cast<std::size_t>(præfikser_)];
         række.Land = Lande[static_cast<std::size_t>(lande_)].Pfx;
-        række.Pfx = std::string_view(nøgle.data(), nøgle.size());
+        række.Pfx.Fill(post.tekst, kCtyFyld);
         række.ITUzone = post.ituZone;
         række.CQzone = post.cqZone;
     }
@@ -146,11 +143,13 @@ std::string LandLinje(std::size_t række) {
 std::string_view PfxLinje(std::size_t række) {
     static std::array<char, 2 * kPfxLængde + 5> linje{};
     const PfxRec& pfx = RefPfx[række];
-    char* slut = std::ranges::copy(pfx.Pfx.Padded(), linje.data()).out;
-    slut = std::ranges::copy(pfx.Land.Padded(), slut).out;
-    slut = std::ranges::copy(pfx.CQzone.Padded(), slut).out;
-    *slut++ = ' ';
-    std::ranges::copy(pfx.ITUzone.Padded(), slut);
+    char* slut = linje.data();
+    const auto tilføj = [&slut](std::string_view tekst) { slut += tekst.copy(slut, tekst.size()); };
+    tilføj(pfx.Pfx.Padded());
+    tilføj(pfx.Land.Padded());
+    tilføj(pfx.CQzone.Padded());
+    tilføj(" ");
+    tilføj(pfx.ITUzone.Padded());
     return {linje.data(), linje.size()};
 }
 

@@ -40,18 +40,19 @@ class FixedText {
 public:
     constexpr FixedText() { chars_.fill(' '); }
     // NOLINTNEXTLINE(google-explicit-constructor): a field is assigned like a text.
-    constexpr FixedText(std::string_view text) { *this = text; }
+    constexpr FixedText(std::string_view text) { Fill(text, ' '); }
     constexpr FixedText& operator=(std::string_view text) {
-        const auto end = std::copy_n(text.begin(), std::min(text.size(), N), chars_.begin());
-        std::fill(end, chars_.end(), ' ');
-        length_ = 0;
-        for (std::size_t i = N; i > 0; --i) {
-            if (chars_[i - 1] != ' ') {
-                length_ = static_cast<unsigned char>(i);
-                break;
-            }
-        }
+        Fill(text, ' ');
         return *this;
+    }
+
+    /// As an assignment, but filled with this character.
+    constexpr void Fill(std::string_view text, char filler) {
+        const auto end = std::copy_n(text.begin(), std::min(text.size(), N), chars_.begin());
+        std::fill(end, chars_.end(), filler);
+        std::size_t length = filler == ' ' ? static_cast<std::size_t>(end - chars_.begin()) : N;
+        while (length > 0 && chars_[length - 1] == ' ') --length;
+        length_ = static_cast<unsigned char>(length);
     }
 
     /// All N columns.

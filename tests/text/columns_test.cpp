@@ -62,6 +62,18 @@ TEST(FixedText, TrimmedViewsFollowEveryAssignment) {
     EXPECT_EQ(text.RightTrimmed(), "12345678");
 }
 
+TEST(FixedText, IsFilledWithAnotherCharacter) {
+    FixedText<4> text;
+    text.Fill("DL", '#');
+    EXPECT_EQ(text.RightTrimmed(), "DL##");
+    text.Fill("DL1ABC", '#');
+    EXPECT_EQ(text.Padded(), "DL1A");
+    text.Fill(" DL ", '#');
+    EXPECT_EQ(text.Trimmed(), "DL");
+    text.Fill("", '#');
+    EXPECT_EQ(text.Trimmed(), "####");
+}
+
 TEST(FixedText, ComparesWhatItHolds) {
     EXPECT_EQ(FixedText<4>("DL"), FixedText<4>("DL  "));
     EXPECT_EQ(FixedText<2>("DLX"), FixedText<2>("DL"));
