@@ -17,6 +17,8 @@ namespace {
 
 /// Digits of which any number fits 32 bits.
 constexpr std::size_t kSurelyFits = 9;
+/// Above all numbers of as many digits.
+constexpr double kSurelyFitting = 1e9;
 
 constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
@@ -193,9 +195,12 @@ std::string NumberText(long long value) {
 std::string ZeroPadded(double value, int digits) {
     if (!std::isfinite(value)) throw RunTimeError(Failure::Overflow);
     const double rounded = std::round(value);
+    const double size = std::fabs(rounded);
     // The largest double has 309 digits.
     std::array<char, 320> figures;
-    const auto end = std::to_chars(figures.data(), figures.data() + figures.size(), std::fabs(rounded), std::chars_format::fixed, 0).ptr;
+    char* const last = figures.data() + figures.size();
+    const auto end = size < kSurelyFitting ? std::to_chars(figures.data(), last, static_cast<std::int32_t>(size)).ptr
+                                           : std::to_chars(figures.data(), last, size, std::chars_format::fixed, 0).ptr;
     const auto count = static_cast<std::size_t>(end - figures.data());
     const auto wanted = static_cast<std::size_t>(std::max(digits, 0));
     std::string text;

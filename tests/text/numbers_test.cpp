@@ -136,6 +136,8 @@ TEST(ZeroPadded, FillsWithZerosAndKeepsAllDigits) {
     EXPECT_EQ(ZeroPadded(10000.0, 4), "10000");
     EXPECT_EQ(ZeroPadded(-5.0, 4), "-0005");
     EXPECT_EQ(ZeroPadded(7.0, 1), "7");
+    EXPECT_EQ(ZeroPadded(999999999.0, 4), "999999999");
+    EXPECT_EQ(ZeroPadded(-1e9, 4), "-1000000000");
     EXPECT_EQ(ZeroPadded(1e21, 4), "1000000000000000000000");
 }
 
