@@ -121,23 +121,38 @@ Integer Rounded(double value) {
     return static_cast<Integer>(rounded);
 }
 
-/// The value of a text of digits and blanks alone, as far as it surely fits; nothing for any other text.
-std::optional<int> PlainDigits(std::string_view text) {
+/// The value of a text of a sign, digits with a point, and blanks, as far as it surely fits; nothing for any other text.
+std::optional<double> ShortNumber(std::string_view text) {
     if (text.size() > kSurelyFits) return std::nullopt;
-    int value = 0;
+    int digits = 0;
+    // A quotient of two whole numbers that a double holds is the double next to it.
+    double unit = 1;
+    char sign = 0;
+    bool begun = false;
+    bool point = false;
     for (const char c : text) {
         if (IsBlank(c)) continue;
-        if (!IsDigit(c)) return std::nullopt;
-        value = value * 10 + (c - '0');
+        if (IsDigit(c)) {
+            digits = digits * 10 + (c - '0');
+            if (point) unit *= 10;
+        } else if (c == '.' && !point) {
+            point = true;
+        } else if (IsSign(c) && !begun) {
+            sign = c;
+        } else {
+            return std::nullopt;
+        }
+        begun = true;
     }
-    return value;
+    const double value = digits / unit;
+    return sign == '-' && digits != 0 ? -value : value;
 }
 
 }  // namespace
 
 double NumericValue(std::string_view text) {
-    // What columns of a log hold, thousands of times at every load: a few digits and blanks.
-    if (const auto digits = PlainDigits(text)) return *digits;
+    // What columns of a log and of a country file hold, thousands of times.
+    if (const auto value = ShortNumber(text)) return *value;
     std::string number;
     bool negative = false;
     bool signTaken = false;

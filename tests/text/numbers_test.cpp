@@ -30,10 +30,22 @@ TEST(NumericValue, IsTheLeadingNumber) {
     EXPECT_EQ(NumericValue("1.5"), 1.5);
     EXPECT_EQ(NumericValue(".5"), 0.5);
     EXPECT_EQ(NumericValue("5."), 5);
+    EXPECT_EQ(NumericValue("-010.07"), -10.07);
+    EXPECT_EQ(NumericValue("  - 1.30"), -1.3);
+    EXPECT_EQ(NumericValue("-.00000003"), -3e-8);
+}
+
+TEST(NumericValue, OfAShortTextIsThatOfALongOne) {
+    // Behind blanks a text is too long for the short way.
+    for (int number = 0; number < 100'000; number += 7) {
+        std::string text = std::to_string(number);
+        text.insert(text.size() / 2, ".");
+        EXPECT_EQ(NumericValue(text), NumericValue(text + "          ")) << text;
+    }
 }
 
 TEST(NumericValue, IsZeroWithoutALeadingNumber) {
-    for (const char* text : {"", "   ", "OZ1AB", "TT1", "-", "+-5", "--5", ".", "-.", "e5", "inf", "nan", "-inf", "&H10"})
+    for (const char* text : {"", "   ", "OZ1AB", "TT1", "-", "-0", "+-5", "--5", ".", "-.", "e5", "inf", "nan", "-inf", "&H10"})
         EXPECT_EQ(NumericValue(text), 0) << text;
 }
 
