@@ -60,7 +60,7 @@ bool TjekTid(TextBox& felt, std::string& tid) {
 }
 
 bool HarTalOgBogstaver(std::string_view call) {
-    const bool ciffer = std::any_of(call.begin(), call.end(), [](char c) { return EtAf(c, "1234567890"); });
+    const bool ciffer = std::any_of(call.begin(), call.end(), [](char c) { return c >= '0' && c <= '9'; });
     return ciffer && std::any_of(call.begin(), call.end(), ErBogstav);
 }
 

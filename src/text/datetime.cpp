@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/datetime.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstddef>
@@ -69,7 +70,7 @@ public:
     }
     bool Take(std::string_view oneOf) {
         SkipBlanks();
-        if (rest_.empty() || oneOf.find(rest_.front()) == std::string_view::npos) return false;
+        if (rest_.empty() || std::ranges::find(oneOf, rest_.front()) == oneOf.end()) return false;
         rest_.remove_prefix(1);
         return true;
     }
