@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "reports/error_list.h"
 
+#include <memory_resource>
 #include <unordered_set>
 
 #include "country/call_analysis.h"
@@ -168,7 +169,9 @@ private:
 
     bool cw_;
     bool ssb_;
-    std::unordered_set<std::string> sete_;
+    /// The calls so far, one behind the other in memory: a log has thousands, and all of them go at once.
+    std::pmr::monotonic_buffer_resource lager_;
+    std::pmr::unordered_set<std::string> sete_{&lager_};
     std::string_view linje_;
     /// The line has been shown above its first error.
     bool vist_ = false;
