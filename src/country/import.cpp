@@ -110,9 +110,10 @@ private:
 /// passed over by both; that is meant so.
 void RydOp(int række, std::optional<char>& sidste) {
     FixedText<kPfxLængde>& pfx = RefPfx[static_cast<std::size_t>(række)].Pfx;
-    if (pfx.Padded().back() != kCtyFyld) return;
     const FixedText<kPfxLængde> nøgle = pfx;
-    pfx = nøgle.Padded().substr(0, nøgle.Padded().find(kCtyFyld));
+    const std::string_view tegn = nøgle.Padded();
+    if (tegn.back() != kCtyFyld) return;
+    pfx = std::string_view(tegn.begin(), std::ranges::find(tegn, kCtyFyld));
     const char første = pfx.Padded().front();
     if (første == sidste) return;
     sidste = første;
