@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <memory>
 
 #include "platform/forms.h"
@@ -38,6 +39,12 @@ QMessageBox::Icon QtIcon(Icon icon) {
             return QMessageBox::Critical;
     }
     return QMessageBox::NoIcon;
+}
+
+/// Where users look for their files. The current directory is none such: it holds the tables, somewhere hidden.
+QString OwnFiles() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo::exists(documents) ? documents : QDir::homePath();
 }
 
 /// "Logs|*.txt;*.log|All|*.*" as Qt writes it.
@@ -147,7 +154,7 @@ std::string QtDialogs::ChooseFile(const FileDialog& dialog, bool save) {
     chooser.setNameFilters(NameFilters(dialog.filter));
     chooser.setDefaultSuffix(ToQt(dialog.defaultExtension));
     const QFileInfo named(ToQt(dialog.fileName));
-    if (named.isAbsolute()) chooser.setDirectory(named.absolutePath());
+    chooser.setDirectory(named.isAbsolute() ? named.absolutePath() : folder_.isEmpty() ? OwnFiles() : folder_);
     if (!dialog.fileName.empty()) chooser.selectFile(named.fileName());
     chooser.setLabelText(QFileDialog::LookIn, QStringLiteral("Søg i:"));
     chooser.setLabelText(QFileDialog::FileName, QStringLiteral("&Filnavn:"));
@@ -158,7 +165,9 @@ std::string QtDialogs::ChooseFile(const FileDialog& dialog, bool save) {
     RunDialog(chooser);
     LeaveIfEnding();
     if (chooser.result() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) throw RunTimeError(Failure::Cancelled);
-    return FromQt(QDir::toNativeSeparators(chooser.selectedFiles().constFirst()));
+    const QString chosen = chooser.selectedFiles().constFirst();
+    folder_ = QFileInfo(chosen).absolutePath();
+    return FromQt(QDir::toNativeSeparators(chosen));
 }
 
 void QtDialogs::SetUpPrinter() {

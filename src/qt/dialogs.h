@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QString>
 #include <vector>
 
 #include "platform/platform.h"
@@ -27,8 +28,11 @@ public:
     void ShowFailure(const RunTimeError& failure) override;
 
 private:
-    QtPrinter* printer_;
     std::string ChooseFile(const FileDialog& dialog, bool save);
+
+    QtPrinter* printer_;
+    /// Of the file chosen last.
+    QString folder_;
 };
 
 /// A box that is not open yet. The caller owns it.

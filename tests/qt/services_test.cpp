@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QDialog>
 #include <QFile>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLockFile>
 #include <QMessageBox>
@@ -12,6 +13,7 @@
 #include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <csignal>
 
 #include "qt/clock.h"
@@ -163,6 +165,61 @@ TEST_F(Box, ShowsItsTextAsItStands) {
     const auto made = Make(box);
     EXPECT_EQ(made->text(), QStringLiteral("<b>1 < 2</b> & Ø"));
     EXPECT_EQ(made->textFormat(), Qt::PlainText);
+}
+
+// --- File dialogues
+
+/// A variable of the environment as long as the test runs.
+class Variable {
+public:
+    Variable(const char* name, const QString& value) : name_(name), was_(qgetenv(name)) { qputenv(name, value.toUtf8()); }
+    ~Variable() { was_.isNull() ? qunsetenv(name_) : qputenv(name_, was_); }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+
+private:
+    const char* name_;
+    QByteArray was_;
+};
+
+/// Asks for a file to write and answers with `typed`, or Esc for nothing. Gives the folder that the dialogue began in.
+QString FolderOffered(QtDialogs& asked, const QString& typed) {
+    QString offered;
+    QTimer::singleShot(0, [&] {
+        auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (chooser == nullptr) {
+            ADD_FAILURE() << "no dialogue";
+            return;
+        }
+        offered = chooser->directory().absolutePath();
+        if (typed.isEmpty()) return chooser->reject();
+        chooser->selectFile(typed);
+        QMetaObject::invokeMethod(chooser, "accept");
+    });
+    FileDialog dialog;
+    dialog.fileName = "setlog.txt";
+    try {
+        EXPECT_EQ(asked.SaveFile(dialog), typed.toStdString());
+    } catch (const RunTimeError& failure) {
+        EXPECT_EQ(failure.Which(), Failure::Cancelled);
+        EXPECT_TRUE(typed.isEmpty());
+    }
+    return offered;
+}
+
+TEST_F(WindowProgram, FilesAreSoughtAmongTheUsersOwnAndThenWhereTheLastOneWas) {
+    const QTemporaryDir home;
+    const Variable variable("HOME", home.path());
+    const Variable none("XDG_CONFIG_HOME", home.path());
+    BeginProgram();
+    QtDialogs asked;
+    EXPECT_EQ(FolderOffered(asked, {}), home.path()) << "without a folder of documents";
+    ASSERT_TRUE(QDir(home.path()).mkpath(QStringLiteral("Documents")));
+    ASSERT_TRUE(QDir(home.path()).mkpath(QStringLiteral("contest")));
+    EXPECT_EQ(FolderOffered(asked, {}), home.filePath(QStringLiteral("Documents")));
+    EXPECT_EQ(FolderOffered(asked, home.filePath(QStringLiteral("contest/setlog.txt"))), home.filePath(QStringLiteral("Documents")));
+    EXPECT_EQ(FolderOffered(asked, {}), home.filePath(QStringLiteral("contest")));
+    EndProgram();
 }
 
 // --- Clock
