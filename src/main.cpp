@@ -2,7 +2,9 @@
 //
 // The program: the logic on Qt.
 #include <QApplication>
+#include <QMessageBox>
 #include <QTimer>
+#include <memory>
 
 #include "disk/disk_files.h"
 #include "frame/start.h"
@@ -49,5 +51,7 @@ int main(int argc, char** argv) {
         vatro::BeginProgram();
         vatro::Deliver([] { vatro::StartProgram(); });
     });
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    if (const auto loss = settings.Loss()) std::unique_ptr<QMessageBox>(vatro::MakeBox(*loss, nullptr))->exec();
+    return result;
 }

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "qt/settings_store.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include "qt/text.h"
+#include "text/codepage.h"
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -12,6 +14,8 @@
 #endif
 
 namespace vatro {
+
+using namespace literals;
 
 namespace {
 
@@ -56,6 +60,16 @@ void QtSettings::Write(std::string_view section, std::string_view key, std::stri
     store_.sync();
     SyncPath(store_.fileName());
     SyncPath(QFileInfo(store_.fileName()).absolutePath());
+}
+
+std::optional<MessageBox> QtSettings::Loss() const {
+    if (store_.status() != QSettings::AccessError) return std::nullopt;
+    MessageBox box;
+    box.text = "Indstillingerne kunne ikke gemmes i\n\n";
+    box.text += FromQt(QDir::toNativeSeparators(store_.fileName()));
+    box.text += "\n\nNæste gang er de, som de var før. Loggene er gemt."_t;
+    box.icon = Icon::Exclamation;
+    return box;
 }
 
 }  // namespace vatro

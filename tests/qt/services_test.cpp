@@ -67,6 +67,20 @@ TEST_F(SettingsFile, ReadingWritesNothing) {
 
 // --- One running copy
 
+TEST_F(SettingsFile, TellsOfALossAndOfNothingElse) {
+    QtSettings store(file);
+    EXPECT_EQ(store.Read("Settings", "MyCall"), std::nullopt);
+    store.Write("Settings", "MyCall", "OZ1AB");
+    EXPECT_FALSE(store.Loss());
+
+    // A file stands where its directory should.
+    const QString nowhere = file + QStringLiteral("/vatro.ini");
+    QtSettings lost(nowhere);
+    lost.Write("Settings", "MyCall", "OZ1AB");
+    ASSERT_TRUE(lost.Loss());
+    EXPECT_NE(lost.Loss()->text.find(nowhere.toStdString()), std::string::npos) << lost.Loss()->text;
+}
+
 TEST(OneCopy, IsRefusedWhileAnotherHoldsTheLock) {
     const QTemporaryDir directory;
     const QString file = directory.filePath(QStringLiteral("vatro.lock"));
