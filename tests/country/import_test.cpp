@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "country/import.h"
 
+#include "country/country_program.h"
 #include "country/frmCtyDat.h"
 #include "country/tables.h"
-#include "frame/station.h"
-#include "running_program.h"
 #include "text/codepage.h"
 
 namespace vatro {
@@ -14,15 +13,8 @@ using namespace literals;
 
 constexpr const char* kHeader = "Fantasia:                 14:  27:  EU:   56.00:   -10.00:    -1.0:  QQ:";
 
-class Import : public RunningProgram {
+class Import : public CountryProgram {
 protected:
-    void SetUp() override {
-        BeginProgram();
-        NulstilTabeller();
-        gsFDLib = "data";
-    }
-    void TearDown() override { NulstilTabeller(); }
-
     void Run(std::vector<std::string> lines) {
         files.files["DATA\\CTY.DAT"] = std::move(lines);
         ImporterCty();
@@ -52,7 +44,6 @@ protected:
         }
         return lines;
     }
-    static const LandRec& Country(int row) { return Lande[static_cast<std::size_t>(row)]; }
     static std::string Prefix(int row) { return std::string(RefPfx[static_cast<std::size_t>(row)].Pfx.Trimmed()); }
     static int Start(char c) { return gaPfxStart[static_cast<unsigned char>(c)]; }
     std::vector<std::string> OldFiles() { return {LinesOf("DATA\\LANDE.TXT").at(0), LinesOf("DATA\\REFPFX.TXT").at(0)}; }

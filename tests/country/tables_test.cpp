@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "country/tables.h"
 
-#include "frame/station.h"
-#include "running_program.h"
+#include "country/country_program.h"
 #include "text/codepage.h"
 
 namespace vatro {
@@ -13,14 +12,8 @@ using namespace literals;
 constexpr const char* kLandeMangler = "data\\Lande.txt kunne ikke findes. Importer cty.dat";
 constexpr const char* kRefPfxMangler = "data\\RefPfx.txt kunne ikke findes. Importer cty.dat";
 
-class Tables : public RunningProgram {
+class Tables : public CountryProgram {
 protected:
-    void SetUp() override {
-        BeginProgram();
-        NulstilTabeller();
-        gsFDLib = "data";
-    }
-    void TearDown() override { NulstilTabeller(); }
     void LoadLande(std::vector<std::string> lines) {
         files.files["DATA\\LANDE.TXT"] = std::move(lines);
         IndlæsLande();
@@ -29,7 +22,6 @@ protected:
         files.files["DATA\\REFPFX.TXT"] = std::move(lines);
         IndlæsRefPfx();
     }
-    static const LandRec& Country(int row) { return Lande[static_cast<std::size_t>(row)]; }
     static const PfxRec& Prefix(int row) { return RefPfx[static_cast<std::size_t>(row)]; }
     static int Start(char c) { return gaPfxStart[static_cast<unsigned char>(c)]; }
 };

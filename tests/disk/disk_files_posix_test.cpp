@@ -19,14 +19,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-class DiskFilesPosixTest : public TemporaryWorld {
-protected:
-    int OpenFails(int number, std::string_view path, FileMode mode) {
-        return NumberOf([&] { files_.Open(number, path, mode); });
-    }
-
-    DiskFiles files_;
-};
+using DiskFilesPosixTest = DiskWorld;
 
 TEST_F(DiskFilesPosixTest, NothingIsWrittenToAProtectedDirectory) {
     if (geteuid() == 0) GTEST_SKIP() << "nothing is protected from root";

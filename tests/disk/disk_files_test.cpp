@@ -11,14 +11,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class DiskFilesTest : public TemporaryWorld {
-protected:
-    int OpenFails(int number, std::string_view path, FileMode mode) {
-        return NumberOf([&] { files_.Open(number, path, mode); });
-    }
-
-    DiskFiles files_;
-};
+using DiskFilesTest = DiskWorld;
 
 TEST_F(DiskFilesTest, PrintLineWritesCrLfAndPrintTheTextAlone) {
     files_.Open(1, At("a.txt"), FileMode::Output);

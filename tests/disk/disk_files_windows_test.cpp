@@ -11,14 +11,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-class DiskFilesWindowsTest : public TemporaryWorld {
-protected:
-    int OpenFails(std::string_view path, FileMode mode) {
-        return NumberOf([&] { files_.Open(1, path, mode); });
-    }
-
-    DiskFiles files_;
-};
+using DiskFilesWindowsTest = DiskWorld;
 
 TEST_F(DiskFilesWindowsTest, PathsTakeEitherSlashAndTheDirectoryIsToldWithBackslashes) {
     EXPECT_EQ(files_.Separator(), '\\');
@@ -42,8 +35,8 @@ TEST_F(DiskFilesWindowsTest, TheRootOfADriveIsReportedWithoutItsSeparator) {
 }
 
 TEST_F(DiskFilesWindowsTest, ANameThatTheSystemCannotHaveIsABadName) {
-    EXPECT_EQ(OpenFails(At("a?.txt"), FileMode::Output), 52);
-    EXPECT_EQ(OpenFails(At("a?.txt"), FileMode::Input), 53);
+    EXPECT_EQ(OpenFails(1, At("a?.txt"), FileMode::Output), 52);
+    EXPECT_EQ(OpenFails(1, At("a?.txt"), FileMode::Input), 53);
 }
 
 TEST_F(DiskFilesWindowsTest, AFileThatIsProtectedIsPermissionDenied) {
@@ -53,7 +46,7 @@ TEST_F(DiskFilesWindowsTest, AFileThatIsProtectedIsPermissionDenied) {
         std::filesystem::permissions(root_ / "a.txt", std::filesystem::perms::owner_all);
         GTEST_SKIP() << "under wine nothing is protected from root";
     }
-    const int append = OpenFails(At("a.txt"), FileMode::Append);
+    const int append = OpenFails(1, At("a.txt"), FileMode::Append);
     const int remove = NumberOf([&] { files_.Delete(At("a.txt")); });
     Put("b.txt", "b");
     const int copy = NumberOf([&] { files_.Copy(At("b.txt"), At("a.txt")); });
@@ -68,7 +61,7 @@ TEST_F(DiskFilesWindowsTest, AFileThatAnotherProgramKeepsForItselfIsPermissionDe
     Put("a.txt", "a\r\n");
     const HANDLE kept = CreateFileW((root_ / "a.txt").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(kept, INVALID_HANDLE_VALUE);
-    const int append = OpenFails(At("a.txt"), FileMode::Append);
+    const int append = OpenFails(1, At("a.txt"), FileMode::Append);
     const int remove = NumberOf([&] { files_.Delete(At("a.txt")); });
     const int rename = NumberOf([&] { files_.Rename(At("a.txt"), At("b.txt")); });
     CloseHandle(kept);
@@ -93,8 +86,8 @@ TEST_F(DiskFilesWindowsTest, ADriveThatIsNotThereHasNoPaths) {
     char letter = 'B';
     while (letter < 'Z' && (drives >> (letter - 'A') & 1U) != 0) ++letter;
     const std::string drive = std::string(1, letter) + ":\\";
-    EXPECT_EQ(OpenFails(drive + "a.txt", FileMode::Output), 76);
-    EXPECT_EQ(OpenFails(drive + "log\\a.txt", FileMode::Append), 76);
+    EXPECT_EQ(OpenFails(1, drive + "a.txt", FileMode::Output), 76);
+    EXPECT_EQ(OpenFails(1, drive + "log\\a.txt", FileMode::Append), 76);
     Put("a.txt", "a");
     EXPECT_EQ(NumberOf([&] { files_.Copy(At("a.txt"), drive + "a.txt"); }), 76);
 }

@@ -60,6 +60,16 @@ int NumberOf(Call call) {
     return 0;
 }
 
+/// With the program's files on it.
+class DiskWorld : public TemporaryWorld {
+protected:
+    int OpenFails(int number, std::string_view path, FileMode mode) {
+        return NumberOf([&] { files_.Open(number, path, mode); });
+    }
+
+    DiskFiles files_;
+};
+
 inline void WriteFile(Files& files, std::string_view path, FileMode mode, std::string_view line) {
     files.Open(1, path, mode);
     files.PrintLine(1, line);
