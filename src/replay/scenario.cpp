@@ -93,7 +93,8 @@ Scenario::Scenario(std::string_view text) {
         const std::size_t end = text.find('\n');
         std::string line(text.substr(0, end));
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-        if (!line.empty() && line.back() == '\r') line.pop_back();
+        // However many an editor has made of one.
+        while (line.ends_with('\r')) line.pop_back();
         ParseLine(line);
     }
 }

@@ -89,6 +89,9 @@ TEST(Scenario, LineEndsOfTheFileAreKept) {
     const Scenario scenario("show focus\r\n> old\r\n\r\n# end\r\n");
     EXPECT_EQ(scenario.Commands()[0].expected, (Lines{"old"}));
     EXPECT_EQ(scenario.WithOutput({{"focus -"}}), "show focus\r\n> focus -\r\n\r\n# end\r\n");
+    // What is read is written so that it is read again.
+    const Scenario twice("show focus\n> old\r\r\n");
+    EXPECT_TRUE(Scenario(twice.WithOutput({twice.Commands()[0].expected})).Matches({{"old"}}));
 }
 
 TEST(Scenario, MatchesWhatItExpectsAndNothingElse) {
