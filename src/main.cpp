@@ -18,6 +18,7 @@
 #include "qt/services.h"
 #include "qt/settings_store.h"
 #include "qt/sound.h"
+#include "qt/spread.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -47,9 +48,11 @@ int main(int argc, char** argv) {
     front.fitToScreen = true;
     front.ended = [] { QCoreApplication::quit(); };
     // The start procedure may open boxes, so it runs inside the event loop like every other event.
-    QTimer::singleShot(0, &front, [] {
+    const bool placesKnown = settings.Read("Settings", "MainLeft").has_value();
+    QTimer::singleShot(0, &front, [&front, placesKnown] {
         vatro::BeginProgram();
         vatro::Deliver([] { vatro::StartProgram(); });
+        if (!placesKnown && vatro::ProgramRuns()) vatro::SpreadWindows(front);
     });
     const int result = QApplication::exec();
     if (const auto loss = settings.Loss()) std::unique_ptr<QMessageBox>(vatro::MakeBox(*loss, nullptr))->exec();
