@@ -14,35 +14,46 @@ namespace vatro {
 
 namespace {
 
-/// With less room a window is of no use.
+/// With less room a window is of little use.
 constexpr int kLeastHeight = 100;
 constexpr int kLeastWidth = 250;
 
+/// Large letters, or as narrow as can be where there are none yet. Its height decides its width.
 bool IsOneLine(const QRect& window) {
-    return window.width() >= 2 * window.height();
+    return window.width() >= 2 * window.height() || 2 * window.width() <= window.height();
 }
 
-/// Equal parts of the room for so many windows, one beside or below the other.
-class Parts {
-public:
-    Parts(const QRect& room, std::ptrdiff_t windows, Qt::Orientation direction)
-        : next_(room),
-          step_(direction == Qt::Horizontal ? room.width() / static_cast<int>(std::max<std::ptrdiff_t>(windows, 1)) : 0,
-                direction == Qt::Vertical ? room.height() / static_cast<int>(std::max<std::ptrdiff_t>(windows, 1)) : 0) {
-        if (step_.x() > 0) next_.setWidth(step_.x());
-        if (step_.y() > 0) next_.setHeight(step_.y());
-    }
-    /// The window in the next part.
-    QRect Take(const QRect& window) {
-        const QRect placed(next_.topLeft(), window.size().boundedTo(next_.size()));
-        next_.translate(step_);
-        return placed;
-    }
+/// The width for a new height.
+int WidthFor(const QRect& line, int height) {
+    return line.width() * height / line.height();
+}
 
-private:
-    QRect next_;
-    QPoint step_;
-};
+/// Side by side, each in as much of the width as the others, all equally high.
+void PlaceLines(const QRect& room, const std::vector<QRect*>& lines) {
+    if (lines.empty()) return;
+    const int width = room.width() / static_cast<int>(lines.size());
+    int height = room.height();
+    for (const QRect* line : lines) {
+        height = std::min(height, line->height());
+        if (WidthFor(*line, height) > width) height = line->height() * width / line->width();
+    }
+    QPoint at = room.topLeft();
+    for (QRect* line : lines) {
+        *line = QRect(at, QSize(WidthFor(*line, height), height));
+        at.rx() += width;
+    }
+}
+
+/// One below the other, each in as much of the height as the others.
+void PlaceOthers(const QRect& room, const std::vector<QRect*>& windows) {
+    if (windows.empty()) return;
+    const int height = room.height() / static_cast<int>(windows.size());
+    QPoint at = room.topLeft();
+    for (QRect* window : windows) {
+        *window = QRect(at, window->size().boundedTo({room.width(), height}));
+        at.ry() += height;
+    }
+}
 
 }  // namespace
 
@@ -62,10 +73,11 @@ std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, int entry,
         others.setTop(lines.bottom() + 1);
     }
 
-    const auto ofOneLine = std::ranges::count_if(windows, IsOneLine);
-    Parts side(lines, ofOneLine, Qt::Horizontal);
-    Parts rows(others, std::ssize(windows) - ofOneLine, Qt::Vertical);
-    for (QRect& window : windows) window = IsOneLine(window) ? side.Take(window) : rows.Take(window);
+    std::vector<QRect*> ofOneLine;
+    std::vector<QRect*> ofMany;
+    for (QRect& window : windows) (IsOneLine(window) ? ofOneLine : ofMany).push_back(&window);
+    PlaceLines(lines, ofOneLine);
+    PlaceOthers(others, ofMany);
     return windows;
 }
 

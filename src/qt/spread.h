@@ -12,8 +12,8 @@ namespace vatro {
 class QtFront;
 
 /// Frames beside that of the main window, one for each of `windows`, none wider or higher than it was. Windows of one line
-/// of large letters go below the main window, others to its right; where the screen has no room there, above the line
-/// `entry` of the screen, from which on the main window stays free.
+/// of large letters go below the main window and keep their shape, others to its right; where the screen has no room there,
+/// above the line `entry` of the screen, from which on the main window stays free.
 std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, int entry, std::vector<QRect> windows);
 
 /// Puts the side windows that are shown there, as if the user had. Nothing without a main window on the screen.

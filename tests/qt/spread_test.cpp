@@ -11,27 +11,27 @@
 namespace vatro {
 namespace {
 
-/// A window of one line, another one of that, and a list.
-const std::vector<QRect> kWindows{{0, 0, 1100, 200}, {0, 0, 1100, 200}, {130, 130, 400, 400}};
+/// A window of one line, another one that has no letters yet, and a list.
+const std::vector<QRect> kWindows{{0, 0, 1100, 200}, {0, 0, 40, 200}, {130, 130, 400, 400}};
 
 TEST(BesideMain, LeavesTheMainWindowFreeOnALargeScreen) {
     const QRect screen(0, 0, 1920, 1080);
     const QRect main(66, 66, 920, 480);
     const std::vector<QRect> places = BesideMain(screen, main, 430, kWindows);
-    // Below: half the screen each. Beside: as large as it was.
-    EXPECT_EQ(places, (std::vector<QRect>{{0, 546, 960, 200}, {960, 546, 960, 200}, {986, 0, 400, 400}}));
+    // Below: half the screen each, which is 960 * 200 / 1100 high. Beside: as large as it was.
+    EXPECT_EQ(places, (std::vector<QRect>{{0, 546, 957, 174}, {960, 546, 34, 174}, {986, 0, 400, 400}}));
     for (const QRect& place : places) EXPECT_FALSE(place.intersects(main));
 }
 
 TEST(BesideMain, CutsWindowsToTheRoomThereIs) {
-    // 222 rows below, of which the panel of the desktop takes 62, and 280 columns beside.
-    const std::vector<QRect> places = BesideMain({0, 0, 1266, 706}, {66, 66, 920, 480}, 430, kWindows);
-    EXPECT_EQ(places, (std::vector<QRect>{{0, 546, 633, 160}, {633, 546, 633, 160}, {986, 0, 280, 400}}));
+    // 110 rows below, and 280 columns beside.
+    const std::vector<QRect> places = BesideMain({0, 0, 1266, 656}, {66, 66, 920, 480}, 430, kWindows);
+    EXPECT_EQ(places, (std::vector<QRect>{{0, 546, 605, 110}, {633, 546, 22, 110}, {986, 0, 280, 400}}));
 }
 
 TEST(BesideMain, KeepsToTheSideOfABottomThatHasNoRoom) {
     const std::vector<QRect> places = BesideMain({0, 0, 1400, 600}, {66, 66, 920, 480}, 430, {kWindows[0], kWindows[2]});
-    EXPECT_EQ(places, (std::vector<QRect>{{66, 0, 920, 200}, {986, 0, 400, 400}}));
+    EXPECT_EQ(places, (std::vector<QRect>{{66, 0, 918, 167}, {986, 0, 400, 400}}));
 }
 
 TEST(BesideMain, NeverCoversTheEntryFields) {
