@@ -57,56 +57,54 @@ bool IsTooLarge(std::string_view number) {
     return shift > -places;
 }
 
-/// The value of the number at the front of a text of digits, ".", "e" and signs, which begins with a digit or ".";
-/// 0 if there is none.
-double UnsignedValue(std::string_view number) {
+struct Reading {
     double value = 0;
-    const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (read.ec == std::errc::result_out_of_range) return IsTooLarge(number) ? std::numeric_limits<double>::infinity() : 0.0;
-    return read.ec == std::errc{} ? value : 0.0;
+    /// The text is the number and nothing else.
+    bool whole = false;
+};
+
+/// The number at the front of a text of digits, ".", "e" and signs, which begins with a digit or ".".
+Reading ReadUnsigned(std::string_view number) {
+    Reading reading;
+    const auto read = std::from_chars(number.data(), number.data() + number.size(), reading.value);
+    reading.whole = read.ec != std::errc::invalid_argument && read.ptr == number.data() + number.size();
+    if (read.ec == std::errc::result_out_of_range) reading.value = IsTooLarge(number) ? std::numeric_limits<double>::infinity() : 0.0;
+    return reading;
+}
+
+/// The number at the front of a text, blanks skipped wherever they stand.
+Reading Read(std::string_view text) {
+    std::string number;
+    bool negative = false;
+    bool signTaken = false;
+    bool whole = true;
+    for (const char c : text) {
+        if (IsBlank(c)) continue;
+        if (number.empty() && !signTaken && IsSign(c)) {
+            negative = c == '-';
+            signTaken = true;
+        } else if (IsDigit(c) || c == '.') {
+            number += c;
+        } else if (IsExponentMark(c) && !number.empty()) {
+            number += 'e';
+        } else if (IsSign(c) && number.ends_with('e')) {
+            number += c;
+        } else {
+            whole = false;
+            break;
+        }
+    }
+    Reading reading = ReadUnsigned(number);
+    reading.whole = reading.whole && whole;
+    if (negative && reading.value != 0) reading.value = -reading.value;
+    return reading;
 }
 
 /// The number that the text is as a whole, or nothing.
 std::optional<double> WholeNumber(std::string_view text) {
-    std::size_t i = 0;
-    const auto skipBlanks = [&] {
-        while (i < text.size() && IsBlank(text[i])) ++i;
-    };
-    const auto takeDigits = [&](std::string& number) {
-        const std::size_t from = i;
-        while (i < text.size() && IsDigit(text[i])) number += text[i++];
-        return i - from;
-    };
-
-    skipBlanks();
-    char sign = 0;
-    if (i < text.size() && IsSign(text[i])) {
-        sign = text[i++];
-        skipBlanks();
-    }
-    std::string number;
-    std::size_t digits = takeDigits(number);
-    if (i < text.size() && text[i] == '.') {
-        number += text[i++];
-        digits += takeDigits(number);
-    }
-    if (digits == 0) return std::nullopt;
-    if (i < text.size() && IsExponentMark(text[i])) {
-        ++i;
-        number += 'e';
-        if (i < text.size() && IsSign(text[i])) number += text[i++];
-        if (takeDigits(number) == 0) return std::nullopt;
-    }
-    skipBlanks();
-    if (sign == 0 && i < text.size() && IsSign(text[i])) {
-        sign = text[i++];
-        skipBlanks();
-    }
-    if (i < text.size()) return std::nullopt;
-
-    const double value = UnsignedValue(number);
-    if (std::isinf(value)) return std::nullopt;
-    return sign == '-' ? -value : value;
+    const Reading reading = Read(text);
+    if (!reading.whole || std::isinf(reading.value)) return std::nullopt;
+    return reading.value;
 }
 
 template <class Integer>
@@ -153,27 +151,7 @@ std::optional<double> ShortNumber(std::string_view text) {
 double NumericValue(std::string_view text) {
     // What columns of a log and of a country file hold, thousands of times.
     if (const auto value = ShortNumber(text)) return *value;
-    std::string number;
-    bool negative = false;
-    bool signTaken = false;
-    for (const char c : text) {
-        if (IsBlank(c)) continue;
-        if (number.empty() && !signTaken && IsSign(c)) {
-            negative = c == '-';
-            signTaken = true;
-        } else if (IsDigit(c) || c == '.') {
-            number += c;
-        } else if (IsExponentMark(c) && !number.empty()) {
-            number += 'e';
-        } else if (IsSign(c) && number.ends_with('e')) {
-            number += c;
-        } else {
-            break;
-        }
-    }
-    if (number.empty()) return 0;
-    const double value = UnsignedValue(number);
-    return negative && value != 0 ? -value : value;
+    return Read(text).value;
 }
 
 bool IsNumeric(std::string_view text) {

@@ -15,8 +15,8 @@ namespace vatro {
 /// exponent count. Never fails.
 double NumericValue(std::string_view text);
 
-/// Whether the whole text is a number: blanks at either end, a sign before or behind it, a decimal point and an
-/// exponent are taken; the empty text is not a number.
+/// Whether the whole text is the number that NumericValue takes from its front; the empty text is not a number, nor is one
+/// too large.
 bool IsNumeric(std::string_view text);
 
 /// The number that a text is as a whole. Fails with 13 (type mismatch) where IsNumeric says no.
