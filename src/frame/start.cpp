@@ -14,6 +14,7 @@
 #include "frame/settings.h"
 #include "frame/station.h"
 #include "logbook/log_file.h"
+#include "platform/page.h"
 #include "platform/platform.h"
 #include "platform/program.h"
 #include "scoring/edr.h"
@@ -25,21 +26,6 @@ namespace vatro {
 using namespace literals;
 
 namespace {
-
-/// A run begins with nothing of an earlier one in memory.
-void NulstilAlt() {
-    NulstilStation();
-    NulstilBåndMode();
-    NulstilLog();
-    NulstilTabeller();
-    NulstilEDR();
-    NulstilOperatør();
-    NulstilSyntese();
-    NulstilCWTekster();
-    gsBackupLib.clear();
-    gbAutoTid = 0;
-    gbVisLand = false;
-}
 
 void LæsIndstillinger() {
     gsUTC = HentTekst(kSettings, "UTC", "-2");
@@ -58,8 +44,23 @@ std::string VersionTekst() {
     return PlainNumber(version.major) + "." + PlainNumber(version.minor) + "." + PlainNumber(version.revision);
 }
 
+void NulstilAlt() {
+    NulstilStation();
+    NulstilBåndMode();
+    NulstilLog();
+    NulstilTabeller();
+    NulstilEDR();
+    NulstilOperatør();
+    NulstilSyntese();
+    NulstilCWTekster();
+    gsBackupLib.clear();
+    gbAutoTid = 0;
+    gbVisLand = false;
+}
+
 void StartProgram() {
     NulstilAlt();
+    platform().printer.Abandon();
     LæsIndstillinger();
     HentCWIndstillinger();
     HentUdstyr();

@@ -8,6 +8,9 @@
 
 namespace vatro {
 
+/// What the program holds in memory becomes what it is before the first start; a run begins with nothing of an earlier one.
+void NulstilAlt();
+
 /// Reads the general settings, refuses a second running copy, loads the country table, the prefix table and the list of
 /// the society's stations behind the splash window, and loads the main form, which does the rest. To be dispatched once
 /// after BeginProgram.

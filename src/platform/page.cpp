@@ -44,10 +44,17 @@ void PageSurface::NewPage() {
 void PageSurface::EndDoc() {
     Begin();
     device_.EndJob();
+    const Font kept = font;
+    Abandon();
+    font = kept;
+}
+
+void PageSurface::Abandon() {
     begun_ = false;
     page_ = 1;
     currentX = 0;
     currentY = 0;
+    font = {};
 }
 
 }  // namespace vatro

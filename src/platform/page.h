@@ -57,6 +57,8 @@ public:
     void NewPage();
     /// Ends the job; the next print begins another one at page 1. The font stays.
     void EndDoc();
+    /// A job that has not ended is no more; the next print begins another one at page 1, in the default font.
+    void Abandon();
 
 private:
     void Begin();

@@ -57,6 +57,13 @@ TEST_F(PlayTest, FirstFileThatDiffersEndsIt) {
     EXPECT_EQ(err, "");
 }
 
+TEST_F(PlayTest, NothingIsLeftOfTheFileBefore) {
+    const std::string tables = "file data/lande.txt\nfile data/refpfx.txt\nfile data/edr.txt\nfile data/operator.txt\n";
+    const std::string store = "setting Settings gsLogLib log\nsetting Settings VisInfo2002 False\nsetting Settings MyCall OZ1AB\n";
+    const std::string a = File("a.scn", tables + store + "start\nshow gsMyCall\n> gsMyCall \"OZ1AB\"\n");
+    EXPECT_EQ(Run({a, File("b.scn", "show gsMyCall\n> gsMyCall \"\"\n")}), 0) << out << err;
+}
+
 TEST_F(PlayTest, WhatCannotBePlayedIsToldWithFileAndLine) {
     const std::string a = File("a.scn", "# story\nnonsense\n");
     EXPECT_EQ(Run({a}), 2);
