@@ -80,7 +80,7 @@ void ScrollBar::UserMoved(Move move) {
 void UpDown::Spin(bool up) {
     if (!Enabled()) return;
     const double value = NumericValue(buddy_.Text()) + (up ? range_.step : -range_.step);
-    buddy_.SetText(PlainNumber(static_cast<long long>(std::clamp<double>(value, range_.min, range_.max))));
+    buddy_.SetText(PlainNumber(static_cast<long long>(std::max<double>(range_.min, std::min<double>(value, range_.max)))));
 }
 
 Timer::~Timer() {
