@@ -133,12 +133,9 @@ void FrmMain::VisKlasse() {
 
 void FrmMain::SkiftVindue(MenuItem& punkt, FormSlotBase& vindue) {
     punkt.SetTicked(!punkt.Ticked());
-    if (!punkt.Ticked()) {
-        // A window that was closed by its frame is not loaded, and its tick has stayed.
-        if (vindue.Loaded()) vindue.Peek()->Hide();
-        return;
-    }
+    // A window that was closed by its frame is not loaded, and its tick has stayed.
     vindue.Load();
+    if (!punkt.Ticked()) return vindue.Peek()->Hide();
     vindue.Peek()->Show();
     SetFocus();
 }
