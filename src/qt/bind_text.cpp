@@ -60,7 +60,10 @@ void ConnectEditor(TextControl& control, QLineEdit& editor, QObject& scope) {
         const auto [start, length] = selection();
         Deliver([&, start = start, length = length] { control.UserEdited(FromQt(text), start, length); });
     });
-    const auto moved = [&control, selection] {
+    const auto moved = [&control, &editor, selection] {
+        // A field that loses the focus shows no selection any more; it still has it.
+        const QWidget* focused = editor.window()->focusWidget();
+        if (focused == nullptr || (focused != &editor && focused != editor.focusProxy())) return;
         const auto [start, length] = selection();
         if (start == control.SelStart() && length == control.SelLength()) return;
         Deliver([&, start = start, length = length] { control.UserSelected(start, length); });
@@ -162,6 +165,8 @@ void Bind(ComboBox& control, QComboBox& widget, FormWindow& window) {
     editor.setReadOnly(control.Style() == ComboStyle::DropDownList);
     window.AddInput(control, widget, &editor);
     ConnectEditor(control, editor, window.Scope());
+    // Qt would choose the item whose text has been typed, when the field is left.
+    QObject::disconnect(&editor, &QLineEdit::editingFinished, &widget, nullptr);
     QObject::connect(&widget, &QComboBox::activated, &window.Scope(), [&control](int row) {
         Deliver([&] {
             if (control.Parent().Reachable()) control.UserPicked(row);

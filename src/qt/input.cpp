@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/input.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QFocusEvent>
 #include <QGuiApplication>
@@ -125,6 +126,8 @@ bool Input::eventFilter(QObject* watched, QEvent* event) {
             // A wheel over a combo box would choose without a click.
             return editor_ != nullptr && editor_ != widget_;
         case QEvent::MouseButtonPress:
+            TakeEarlyClick();
+            return TakeMouse(*watched, *event);
         case QEvent::MouseMove:
         case QEvent::MouseButtonRelease:
         case QEvent::MouseButtonDblClick:
@@ -246,9 +249,23 @@ void Input::TakeFocus(QFocusEvent& event) {
         }
     }
     if (TextControl* text = Text(); text != nullptr && editor_ != nullptr) {
-        keepSelection_ = event.reason() == Qt::MouseFocusReason && text->SelLength() > 0;
+        if (event.reason() == Qt::MouseFocusReason) KeepSelection();
         PushSelection(*text, *editor_);
     }
+}
+
+void Input::TakeEarlyClick() {
+    Form& form = control_->Parent();
+    if (QApplication::activeWindow() == widget_->window() || form.ActiveControl() == control_ || !control_->TakesFocus()) return;
+    Deliver([&] {
+        if (form.Reachable()) form.UserFocus(*control_, FocusWay::Mouse);
+    });
+    KeepSelection();
+}
+
+void Input::KeepSelection() {
+    const TextControl* text = control_ != nullptr ? Text() : nullptr;
+    keepSelection_ = text != nullptr && text->SelLength() > 0;
 }
 
 bool Input::TakeMouse(QObject& watched, const QEvent& event) {

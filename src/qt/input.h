@@ -35,6 +35,10 @@ private:
     bool TakeKeyEvent(QKeyEvent& event);
     bool TakeInputMethod(QInputMethodEvent& event);
     void TakeFocus(QFocusEvent& event);
+    /// What was selected when the focus came is not for the click that brought it to undo.
+    void KeepSelection();
+    /// A window that is not active yet takes a click without its focus, and later tells only that the focus is back.
+    void TakeEarlyClick();
     bool TakeMouse(QObject& watched, const QEvent& event);
     /// A key that gives no character: whether the control has taken it.
     bool TakeMove(int key);

@@ -85,7 +85,7 @@ std::vector<std::string> SplitArguments(std::string_view line, std::size_t at, s
 
 Scenario::Scenario(std::string_view text) {
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-    if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+    while (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
     if (const std::size_t first = text.find('\n'); first != std::string_view::npos && first > 0 && text[first - 1] == '\r')
         lineEnd_ = "\r\n";
     endsWithLineEnd_ = text.empty() || text.back() == '\n';
@@ -126,10 +126,12 @@ void Scenario::ParseLine(const std::string& line) {
     command.line = number;
     command.outputAt = number;
     while (at < line.size() && !IsBlank(line[at])) command.name += line[at++];
-    if (TakesRest(command.name))
+    if (TakesRest(command.name)) {
         command.rest = RestOf(line, at);
-    else
+        command.hasRest = at + 1 < line.size();
+    } else {
         command.arguments = SplitArguments(line, at, number);
+    }
     commands_.push_back(std::move(command));
 }
 

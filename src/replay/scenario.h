@@ -35,6 +35,8 @@ struct Command {
     /// All arguments as one text in the code page: the rest of the line as it stands behind one blank, or what stands
     /// in quotes if all of it does.
     std::string rest;
+    /// An empty text in quotes is one, too.
+    bool hasRest = false;
     /// The content lines, in the code page.
     std::vector<std::string> content;
     /// As they stand in the file, in UTF-8, without "> ".
