@@ -26,6 +26,7 @@
 
 #include "platform/program.h"
 #include "qt/bars.h"
+#include "qt/deliver.h"
 #include "qt/dialogs.h"
 #include "qt/fields.h"
 #include "qt/item_list.h"
@@ -301,8 +302,12 @@ void WindowDriver::PressTool(Toolbar& toolbar, int index) {
     auto& bar = dynamic_cast<QToolBar&>(WidgetOf(toolbar));
     QAction* action = ActionOf(index, bar);
     QWidget* button = action != nullptr ? bar.widgetForAction(action) : nullptr;
-    if (button == nullptr || !button->isVisible()) throw CannotDeliver("there is no button " + std::to_string(index));
-    ClickAt(*button, button->rect().center());
+    if (button == nullptr) throw CannotDeliver("there is no button " + std::to_string(index));
+    if (button->isVisible()) return ClickAt(*button, button->rect().center());
+    Deliver([&] {
+        toolbar.Parent().UserActivated();
+        toolbar.UserPressed(index);
+    });
 }
 
 // --- The window's frame
@@ -386,10 +391,11 @@ std::string WindowDriver::Mismatch(const Control& control) {
         const FormWindow* window = front_.WindowOf(item->Parent());
         const QAction* action = ActionOf(*item, MainOf(*window->Top()));
         if (action == nullptr) return "no entry in the menu";
+        if (item->Separator()) return action->isSeparator() ? "" : "a line is missing";
         if (action->text() != ToQt(item->Caption())) return "the text is another one";
         if (action->isChecked() != item->Ticked()) return "the tick is another one";
-        // An entry of a disabled menu says so itself.
-        return action->isEnabled() == item->Enabled() ? "" : "it is disabled on one side only";
+        // An entry of a disabled menu says so itself, one that is not shown is disabled to Qt.
+        return action->isEnabled() == (item->Enabled() && item->Visible()) ? "" : "it is disabled on one side only";
     }
     const QWidget* widget = front_.WidgetOf(control);
     if (widget == nullptr) return dynamic_cast<const Timer*>(&control) != nullptr ? "" : "no widget";
@@ -415,6 +421,7 @@ std::string WindowDriver::Mismatch(const Form& form) {
 }
 
 void WindowDriver::Shot(const std::string& file) {
+    QDir().mkpath(QFileInfo(QString::fromStdString(file)).path());
     SaveWindows(file);
 }
 

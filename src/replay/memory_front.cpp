@@ -96,8 +96,14 @@ void MemoryFront::Paste(std::string_view text) {
     Dispatch([&] { field->Insert(text); });
 }
 
+void MemoryFront::ByMouse(const std::function<void()>& event) {
+    // An open menu closes.
+    menu_ = nullptr;
+    Dispatch(event);
+}
+
 void MemoryFront::Focus(Control& control) {
-    Dispatch([&] {
+    ByMouse([&] {
         auto* field = dynamic_cast<TextControl*>(&control);
         const auto caretToEnd = [&] {
             if (field != nullptr) field->UserSelected(static_cast<int>(field->Text().size()), 0);
@@ -110,7 +116,7 @@ void MemoryFront::Focus(Control& control) {
 }
 
 void MemoryFront::Click(Control& control) {
-    Dispatch([&] {
+    ByMouse([&] {
         Form& form = control.Parent();
         form.UserActivated();
         if (control.TakesFocus()) form.UserFocus(control, FocusWay::Mouse);
@@ -130,14 +136,14 @@ void MemoryFront::Click(Control& control) {
 }
 
 void MemoryFront::ClickForm(Form& form) {
-    Dispatch([&] {
+    ByMouse([&] {
         form.UserActivated();
         form.UserClicked();
     });
 }
 
 void MemoryFront::Pick(Control& control, int row) {
-    Dispatch([&] {
+    ByMouse([&] {
         control.Parent().UserFocus(control, FocusWay::Mouse);
         if (!control.Enabled()) return;
         if (auto* list = dynamic_cast<ListBox*>(&control))
@@ -148,58 +154,57 @@ void MemoryFront::Pick(Control& control, int row) {
 }
 
 void MemoryFront::DoubleClick(ListBox& list, int row) {
-    Dispatch([&] {
+    ByMouse([&] {
         list.Parent().UserFocus(list, FocusWay::Mouse);
         list.UserDoubleClicked(row);
     });
 }
 
 void MemoryFront::Choose(MenuItem& item) {
-    menu_ = nullptr;
-    Dispatch([&] {
+    ByMouse([&] {
         item.Parent().UserActivated();
         item.Choose();
     });
 }
 
 void MemoryFront::Spin(UpDown& arrows, bool up) {
-    Dispatch([&] {
+    ByMouse([&] {
         arrows.Parent().UserActivated();
         arrows.Spin(up);
     });
 }
 
 void MemoryFront::Scroll(ScrollBar& bar, int value) {
-    Dispatch([&] {
+    ByMouse([&] {
         bar.Parent().UserFocus(bar, FocusWay::Mouse);
         bar.UserScrolled(value);
     });
 }
 
 void MemoryFront::PressTool(Toolbar& toolbar, int index) {
-    Dispatch([&] {
+    ByMouse([&] {
         toolbar.Parent().UserActivated();
         toolbar.UserPressed(index);
     });
 }
 
 void MemoryFront::Close(Form& form) {
-    Dispatch([&] { form.UserClosed(); });
+    ByMouse([&] { form.UserClosed(); });
 }
 
 void MemoryFront::Minimise(Form& form) {
-    Dispatch([&] { form.UserState(WindowState::Minimised); });
+    ByMouse([&] { form.UserState(WindowState::Minimised); });
 }
 
 void MemoryFront::Restore(Form& form) {
-    Dispatch([&] {
+    ByMouse([&] {
         form.UserState(WindowState::Normal);
         form.UserActivated();
     });
 }
 
 void MemoryFront::Place(Form& form, int left, int top, int width, int height) {
-    Dispatch([&] { form.UserPlaced(left, top, width, height); });
+    ByMouse([&] { form.UserPlaced(left, top, width, height); });
 }
 
 std::string MemoryFront::Mismatch(const Control& control) {

@@ -59,6 +59,7 @@ private:
     void Ended() override { menu_ = nullptr; }
 
     void PressInMenu(const KeyStroke& key);
+    void ByMouse(const std::function<void()>& event);
     bool OpenMenu(const Form& form, char letter);
     void PressInForm(Form& form, const KeyStroke& key);
 

@@ -52,6 +52,8 @@ void UseInField(TextControl& field, const KeyStroke& key, KeyCode code) {
 /// The row that a key leads to in a list of so many rows, or -1.
 int RowBehind(const KeyStroke& key, int row, int rows) {
     if (rows == 0) return -1;
+    // What is not there has no neighbours above.
+    if (row < 0 && key.name == "Up") return -1;
     int to = row;
     if (key.name == "Up")
         to = row - 1;

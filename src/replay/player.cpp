@@ -78,7 +78,7 @@ void Player::PlayStep() {
 void Player::PlayCommand(const Command& command) {
     const Verb* verb = FindVerb(command.name);
     if (verb == nullptr) throw CannotDeliver("there is no command " + command.name);
-    const std::size_t count = verb->takesRest ? (command.rest.empty() ? 0U : 1U) : command.arguments.size();
+    const std::size_t count = verb->takesRest ? (command.hasRest ? 1U : 0U) : command.arguments.size();
     if (count < verb->fewest) throw CannotDeliver(command.name + ": an argument is missing");
     if (count > verb->most) throw CannotDeliver(command.name + ": an argument too many");
     CheckAllowed(*verb);

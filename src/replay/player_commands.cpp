@@ -117,6 +117,7 @@ void Player::DoStart(const Command&) {
     if (ProgramRuns()) throw CannotDeliver("the program runs");
     started_ = true;
     silentEnd_ = false;
+    sound_.TakeHeard();
     BeginProgram();
     Dispatch(startProgram_);
 }
@@ -270,9 +271,8 @@ void Player::DoToolbar(const Command& command) {
     CheckReachable(&toolbar.Parent(), toolbar.Parent().Name());
     const int index = ReadInteger(command.arguments[0]);
     const auto& buttons = toolbar.ToolButtons();
-    const bool there = toolbar.Enabled() && toolbar.Visible() && std::any_of(buttons.begin(), buttons.end(), [&](const auto& b) {
-                           return b.index == index && b.group != 0 && b.visible;
-                       });
+    const bool there = toolbar.Enabled() && toolbar.Visible() &&
+                       std::any_of(buttons.begin(), buttons.end(), [&](const auto& b) { return b.index == index && b.group != 0; });
     if (!there) throw CannotDeliver("the toolbar has no button " + command.arguments[0]);
     driver_.PressTool(toolbar, index);
 }
@@ -345,8 +345,6 @@ void Player::DoSound(const Command& command) {
 
 void Player::DoShot(const Command& command) {
     const std::filesystem::path path = world_.Found(command.arguments[0]);
-    std::error_code refused;
-    std::filesystem::create_directories(path.parent_path(), refused);
     const std::u8string file = path.u8string();
     driver_.Shot(std::string(file.begin(), file.end()));
 }

@@ -64,6 +64,8 @@ TEST(Scenario, TypeAndPasteTakeAQuotedRestWithoutItsQuotes) {
     EXPECT_EQ(Rest(R"(type " a\nb ")"), " a\r\nb ");
     EXPECT_EQ(Rest(R"(type "a" b)"), R"("a" b)");
     EXPECT_EQ(Rest("type \""), "\"");
+    EXPECT_TRUE(Scenario("type \"\"").Commands().at(0).hasRest);
+    EXPECT_FALSE(Scenario("type").Commands().at(0).hasRest);
 }
 
 TEST(Scenario, FileHasContentAndEveryCommandExpectedLines) {
@@ -92,6 +94,7 @@ TEST(Scenario, LineEndsOfTheFileAreKept) {
     // What is read is written so that it is read again.
     const Scenario twice("show focus\n> old\r\r\n");
     EXPECT_TRUE(Scenario(twice.WithOutput({twice.Commands()[0].expected})).Matches({{"old"}}));
+    EXPECT_TRUE(Scenario("\xEF\xBB\xBF\xEF\xBB\xBF# two marks\n").Commands().empty());
 }
 
 TEST(Scenario, MatchesWhatItExpectsAndNothingElse) {
