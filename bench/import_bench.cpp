@@ -32,7 +32,7 @@ public:
         if (mode == FileMode::Input) return DiskFiles::Open(number, path, mode);
         written_.clear();
     }
-    void PrintLine(int, std::string_view text) override { written_.append(text).append("\r\n"); }
+    void PrintLine(int, std::string_view text) override { written_.append(text).append("\r\n", 2); }
 
 private:
     std::string written_;
