@@ -27,9 +27,10 @@ int PfxStart(std::string_view tekst) {
 /// The row of Lande to which a row of RefPfx points: the first whose prefix is not below the wanted one, or the last. There
 /// is no test of equality, so a table out of order can give a neighbour: accepted.
 LandRec& LandAf(const PfxRec& pfx) {
-    int j = 1;
-    while (j < LandeIBrug() && pfx.Land.Padded() > Lande[static_cast<std::size_t>(j)].Pfx.Padded()) ++j;
-    return Lande[static_cast<std::size_t>(j)];
+    const auto sidste = static_cast<std::size_t>(LandeIBrug());
+    std::size_t j = 1;
+    while (j < sidste && pfx.Land.Padded() > Lande[j].Pfx.Padded()) ++j;
+    return Lande[j];
 }
 
 /// The country of a call, or nothing. `pfxcall` becomes the text that was looked up as a prefix, where it came so far.

@@ -57,7 +57,7 @@ void IndlæsEDR() {
 }
 
 void EDRstnWkd(std::string& call, Handling handling) {
-    call = LeftAligned(call, kEdrCall);
+    call.resize(kEdrCall, ' ');
     const std::uint64_t søgt = Nøgle(call);
     const auto ende = nøgler.begin() + EDRIBrug() + 1;
     for (auto nøgle = std::find(nøgler.begin() + 1, ende, søgt); nøgle != ende; nøgle = std::find(nøgle + 1, ende, søgt)) {
