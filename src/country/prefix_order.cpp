@@ -28,7 +28,8 @@ std::vector<Nøgle> EfterTegn(std::span<const PfxRec> rækker, int antal) {
     for (std::size_t i = 0; i < nøgler.size(); ++i) {
         std::ranges::copy(rækker[i + 1].Pfx.Padded(), nøgler[i].tegn.begin());
         nøgler[i].plads = static_cast<Plads>(i + 1);
-        for (std::size_t nr = 0; nr < kPfxLængde; ++nr) forskel[nr] |= nøgler[i].tegn[nr] ^ nøgler[0].tegn[nr];
+        for (std::size_t nr = 0; nr < kPfxLængde; ++nr)
+            forskel[nr] = static_cast<unsigned char>(forskel[nr] | (nøgler[i].tegn[nr] ^ nøgler[0].tegn[nr]));
     }
     std::vector<Nøgle> næste(nøgler.size());
     for (std::size_t nr = kPfxLængde; nr-- > 0;) {
