@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "qt/spread.h"
 
-#include <QApplication>
 #include <QScreen>
 #include <QWidget>
 #include <algorithm>
