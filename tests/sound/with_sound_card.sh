@@ -11,7 +11,7 @@ for program in pulseaudio pactl parec; do
     command -v $program >/dev/null || { echo "skipped: $program is not installed"; exit 77; }
 done
 
-world=$(mktemp -d "${TMPDIR:-/tmp}/vatro-sound.XXXXXX")
+world=$(mktemp -d)
 server=
 finish() {
     [ -z "$server" ] || { kill "$server" 2>/dev/null && wait "$server" 2>/dev/null || true; }
