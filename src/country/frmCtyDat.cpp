@@ -48,10 +48,8 @@ void FrmCtyDat::Begynd(int rækker) {
     næsteBillede_ = 0;
 }
 
-void FrmCtyDat::FlytBjælke(int række) {
-    ProgressBar1.SetValue(række);
-    const int rækker = ProgressBar1.Max();
-    næsteBillede_ = std::min(række + std::max(rækker / kBilleder, 1), std::max(rækker, række + 1));
+void FrmCtyDat::MalBjælke(int række) {
+    næsteBillede_ = række + std::max(ProgressBar1.Max() / kBilleder, 1);
     Refresh();
 }
 

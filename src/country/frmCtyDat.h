@@ -23,16 +23,17 @@ public:
     void Vis(std::string_view hvad);
     /// Empties the bar; it fills with so many rows.
     void Begynd(int rækker);
-    /// Moves the bar to a row: some hundred times in a run, and at the last row.
+    /// Moves the bar to a row. It is painted some hundred times in a run and not for every row.
     void Trin(int række) {
-        if (række >= næsteBillede_) FlytBjælke(række);
+        ProgressBar1.SetValue(række);
+        if (række >= næsteBillede_) MalBjælke(række);
     }
 
 private:
     void Timer1_Timer();
-    void FlytBjælke(int række);
+    void MalBjælke(int række);
 
-    /// The row at which the bar is moved next.
+    /// The row at which the bar is painted next.
     int næsteBillede_ = 0;
 };
 

@@ -110,8 +110,4 @@ void ProgressBar::SetMax(int max) {
     Tell(Aspect::Value);
 }
 
-void ProgressBar::SetValue(int value) {
-    Put(value_, std::clamp(value, 0, max_), Aspect::Value);
-}
-
 }  // namespace vatro

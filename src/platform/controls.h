@@ -3,6 +3,7 @@
 // All controls that a form can own: the small ones here, those with text, rows, bars or choices in headers of their own.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -151,7 +152,7 @@ public:
     void SetMax(int max);
     int Value() const { return value_; }
     /// Is cut to the bar.
-    void SetValue(int value);
+    void SetValue(int value) { Put(value_, std::clamp(value, 0, max_), Aspect::Value); }
 
 private:
     int max_ = 100;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "country/import.h"
 
+#include <numeric>
+
 #include "country/country_program.h"
 #include "country/frmCtyDat.h"
 #include "country/tables.h"
@@ -203,6 +205,21 @@ TEST_F(Import, TheBarPassesEveryRowOfEveryStep) {
                                               "Rydder op 1/3", "Rydder op 2/3", "Rydder op 3/3", "Skriver L 1/1", "Skriver L 0/1",
                                               "Skriver L 1/1", "Skriver R 1/3", "Skriver R 0/3", "Skriver R 1/3", "Skriver R 2/3",
                                               "Skriver R 3/3"}));
+    frmCtyDat.Unload();
+}
+
+TEST_F(Import, TheBarPassesEveryRowOfALongTableToo) {
+    // More rows than the bar is painted times.
+    constexpr int kRows = 350;
+    files.files["DATA\\CTY.DAT"] = Entry(kRows);
+    std::vector<int> seen;
+    frmCtyDat->ProgressBar1.mirror = [&](Aspect, int) {
+        if (frmCtyDat->sbStatusBar.Panel(1).starts_with("Sorterer")) seen.push_back(frmCtyDat->ProgressBar1.Value());
+    };
+    ImporterCty();
+    std::vector<int> every(kRows + 1);
+    std::iota(every.begin(), every.end(), 0);
+    EXPECT_EQ(seen, every);
     frmCtyDat.Unload();
 }
 
