@@ -231,7 +231,7 @@ TEST_F(Keyboard, EveryMenuOfTheBarOpensByItsLetterAndClosesByEsc) {
     const auto& main = dynamic_cast<QMainWindow&>(*WindowOf(*frmMain).Top());
     for (const auto& [letter, caption] : std::map<char, const char*>{
              {'f', "&Filer"}, {'v', "&Vis"}, {'b', "&Bånd/mode"}, {'i', "&Indstillinger"}, {'k', "Fun&ktioner"}, {'h', "&Hjælp"}}) {
-        Press({.character = letter, .alt = true});
+        Press({.name = {}, .character = letter, .alt = true});
         const QWidget* open = QApplication::activePopupWidget();
         ASSERT_NE(open, nullptr) << caption;
         EXPECT_EQ(dynamic_cast<const QMenu&>(*open).title(), QString::fromUtf8(caption));
