@@ -52,8 +52,6 @@ void UseInField(TextControl& field, const KeyStroke& key, KeyCode code) {
 /// The row that a key leads to in a list of so many rows, or -1.
 int RowBehind(const KeyStroke& key, int row, int rows) {
     if (rows == 0) return -1;
-    // What is not there has no neighbours above.
-    if (row < 0 && key.name == "Up") return -1;
     int to = row;
     if (key.name == "Up")
         to = row - 1;
@@ -100,6 +98,8 @@ void UseKey(Control& control, const KeyStroke& key, KeyCode code) {
     if (key.ctrl || key.alt || !control.Enabled() || dynamic_cast<const TextView*>(&control) != nullptr) return;
     if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
         if (key.name == "Up" || key.name == "Down") {
+            // No row is chosen: none is above.
+            if (key.name == "Up" && combo->ListIndex() < 0) return;
             const int row = RowBehind(key, combo->ListIndex(), combo->ListCount());
             if (row >= 0 && row != combo->ListIndex()) combo->UserPicked(row);
             return;
