@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "disk/disk_files.h"
+#include "entry/frmMain.h"
 #include "frame/start.h"
 #include "platform/program.h"
 #include "qt/application.h"
@@ -48,11 +49,10 @@ int main(int argc, char** argv) {
     front.fitToScreen = true;
     front.ended = [] { QCoreApplication::quit(); };
     // The start procedure may open boxes, so it runs inside the event loop like every other event.
-    const bool placesKnown = settings.Read("Settings", "MainLeft").has_value();
-    QTimer::singleShot(0, &front, [&front, placesKnown] {
+    QTimer::singleShot(0, &front, [&front] {
         vatro::BeginProgram();
         vatro::Deliver([] { vatro::StartProgram(); });
-        if (!placesKnown && vatro::ProgramRuns()) vatro::SpreadWindows(front);
+        if (vatro::ProgramRuns() && !vatro::FrmMain::HarPlads()) vatro::SpreadWindows(front);
     });
     const int result = QApplication::exec();
     if (const auto loss = settings.Loss()) std::unique_ptr<QMessageBox>(vatro::MakeBox(*loss, nullptr))->exec();

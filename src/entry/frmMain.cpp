@@ -28,6 +28,8 @@ namespace vatro {
 
 namespace {
 
+constexpr std::string_view kVenstre = "MainLeft";
+
 const Font kFast{"Fixedsys", 9};
 
 std::vector<Toolbar::ToolButton> Knapper() {
@@ -112,8 +114,12 @@ void FrmMain::BindFelter() {
     Toolbar1.ButtonClick = SkiftBåndMode;
 }
 
+bool FrmMain::HarPlads() {
+    return platform().settings.Read(kSettings, kVenstre).has_value();
+}
+
 void FrmMain::Form_Load() {
-    MoveTo(HentTwips("MainLeft", 1000), HentTwips("MainTop", 1000));
+    MoveTo(HentTwips(kVenstre, 1000), HentTwips("MainTop", 1000));
     gsBand = HentTekst(kSettings, "Band", "80m");
     gsMode = HentTekst(kSettings, "Mode", "SSB");
     gsQsoMode = HentTekst(kSettings, "QsoMode", "SSB");
@@ -175,7 +181,7 @@ void FrmMain::Form_Unload() {
     for (std::size_t i = LoadedForms().size(); i-- > 1;)
         if (i < LoadedForms().size()) LoadedForms()[i]->Unload();
     if (State() != WindowState::Minimised) {
-        GemTal(kSettings, "MainLeft", Left());
+        GemTal(kSettings, kVenstre, Left());
         GemTal(kSettings, "MainTop", Top());
     }
     GemTekst(kSettings, "gsKlasse", gsKlasse);

@@ -31,6 +31,9 @@ public:
     Timer Timer1;
     StatusBar sbStatusBar;
 
+    /// Whether the settings know a place of the window: before the first regular end they do not.
+    static bool HarPlads();
+
     void Form_Load() override;
     void Form_Unload() override;
     void Form_Resize() override;
