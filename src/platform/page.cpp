@@ -44,17 +44,19 @@ void PageSurface::NewPage() {
 void PageSurface::EndDoc() {
     Begin();
     device_.EndJob();
-    const Font kept = font;
-    Abandon();
-    font = kept;
+    Rewind();
 }
 
 void PageSurface::Abandon() {
+    Rewind();
+    font = {};
+}
+
+void PageSurface::Rewind() {
     begun_ = false;
     page_ = 1;
     currentX = 0;
     currentY = 0;
-    font = {};
 }
 
 }  // namespace vatro

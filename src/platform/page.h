@@ -62,6 +62,7 @@ public:
 
 private:
     void Begin();
+    void Rewind();
 
     PageDevice& device_;
     int page_ = 1;
