@@ -64,6 +64,10 @@ TEST_F(PlayTest, NothingIsLeftOfTheFileBefore) {
     EXPECT_EQ(Run({a, File("b.scn", "show gsMyCall\n> gsMyCall \"\"\n")}), 0) << out << err;
 }
 
+TEST_F(PlayTest, APictureWithoutAWindowLeavesTheDiskAlone) {
+    EXPECT_EQ(Run({File("a.scn", "remove a:\nshot a:/x.png\nls a:\n> missing a:\n")}), 0) << out << err;
+}
+
 TEST_F(PlayTest, WhatCannotBePlayedIsToldWithFileAndLine) {
     const std::string a = File("a.scn", "# story\nnonsense\n");
     EXPECT_EQ(Run({a}), 2);
