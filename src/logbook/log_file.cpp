@@ -117,8 +117,7 @@ void SkrivLog() {
     filer.Open(1, kopi, FileMode::Output);
     for (const std::string& linje : frmMain->List1.Items()) filer.PrintLine(1, linje);
     filer.Close(1);
-    filer.Delete(AktuelLogSti());
-    filer.Rename(kopi, AktuelLogSti());
+    filer.Replace(kopi, AktuelLogSti());
 }
 
 void VisStilling() {

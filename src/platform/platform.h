@@ -95,6 +95,12 @@ public:
     virtual void Delete(std::string_view path) = 0;
     /// Fails with 58 if `to` exists. The directory is on the disk on return.
     virtual void Rename(std::string_view from, std::string_view to) = 0;
+    /// Gives the file `copy` the name of `name`, which it replaces. As a deletion and a renaming, with the failures of both: the
+    /// file of that name must exist. A disk that can do it in one step may override this.
+    virtual void Replace(std::string_view copy, std::string_view name) {
+        Delete(name);
+        Rename(copy, name);
+    }
     /// Replaces `to`. The copy is on the disk on return.
     virtual void Copy(std::string_view from, std::string_view to) = 0;
     /// The current directory, without a final separator.
