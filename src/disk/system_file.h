@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -71,6 +72,25 @@ int RemoveFile(const std::filesystem::path& path);
 
 /// Gives a file another name on the same volume, one that no file has. 0, or the error number.
 int RenameFile(const std::filesystem::path& from, const std::filesystem::path& to);
+
+/// As RenameFile, but takes the place of a file that has the name, in one step: at every moment the one or the other has it.
+int RenameOver(const std::filesystem::path& from, const std::filesystem::path& to);
+
+/// Gives a file a second name on the same volume. 0, or the error number; many file systems of sticks cannot do it.
+int LinkFile(const std::filesystem::path& from, const std::filesystem::path& to);
+
+/// Gives `to` the owner and the rights of `from`, as far as the user may. A failure is not reported.
+void CopyRights(const std::filesystem::path& from, const std::filesystem::path& to) noexcept;
+
+/// What tells a file or directory on the disk from every other one as long as it exists.
+struct FileIdentity {
+    std::uint64_t volume = 0;
+    std::uint64_t file = 0;
+    friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
+};
+
+/// Nothing if the path leads nowhere.
+std::optional<FileIdentity> IdentityOf(const std::filesystem::path& path);
 
 /// Names that were created or changed in the directory are on the disk on return.
 void SyncDirectory(const std::filesystem::path& directory);

@@ -148,6 +148,29 @@ int RenameFile(const std::filesystem::path& from, const std::filesystem::path& t
     return rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
 }
 
+int RenameOver(const std::filesystem::path& from, const std::filesystem::path& to) {
+    return RenameFile(from, to);
+}
+
+int LinkFile(const std::filesystem::path& from, const std::filesystem::path& to) {
+    // A symbolic link would lead to whatever has its target's name later.
+    return linkat(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), AT_SYMLINK_FOLLOW) == 0 ? 0 : errno;
+}
+
+void CopyRights(const std::filesystem::path& from, const std::filesystem::path& to) noexcept {
+    struct stat status {};
+    if (stat(from.c_str(), &status) != 0) return;
+    // Only root may give a file away; its group a member may choose. The rights come last: a new owner takes some of them away.
+    if (chown(to.c_str(), status.st_uid, status.st_gid) != 0 && chown(to.c_str(), static_cast<uid_t>(-1), status.st_gid) != 0) errno = 0;
+    if (chmod(to.c_str(), status.st_mode & 07777) != 0) errno = 0;
+}
+
+std::optional<FileIdentity> IdentityOf(const std::filesystem::path& path) {
+    struct stat status {};
+    if (stat(path.empty() ? "." : path.c_str(), &status) != 0) return std::nullopt;
+    return FileIdentity{static_cast<std::uint64_t>(status.st_dev), static_cast<std::uint64_t>(status.st_ino)};
+}
+
 void SyncDirectory(const std::filesystem::path& directory) {
     const std::filesystem::path& name = directory.empty() ? std::filesystem::path(".") : directory;
     const int handle = Uninterrupted([&] { return open(name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });

@@ -176,6 +176,36 @@ int RenameFile(const std::filesystem::path& from, const std::filesystem::path& t
     return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != 0 ? 0 : LastError();
 }
 
+int RenameOver(const std::filesystem::path& from, const std::filesystem::path& to) {
+    // It keeps the owner and the rights of what it replaces; without anything to replace it fails.
+    constexpr DWORD kKeepContent = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
+    if (GetFileAttributesW(to.c_str()) != INVALID_FILE_ATTRIBUTES &&
+        ReplaceFileW(to.c_str(), from.c_str(), nullptr, kKeepContent, nullptr, nullptr) != 0)
+        return 0;
+    return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0 ? 0 : LastError();
+}
+
+int LinkFile(const std::filesystem::path& from, const std::filesystem::path& to) {
+    return CreateHardLinkW(to.c_str(), from.c_str(), nullptr) != 0 ? 0 : LastError();
+}
+
+void CopyRights(const std::filesystem::path&, const std::filesystem::path&) noexcept {
+    // RenameOver has done it.
+}
+
+std::optional<FileIdentity> IdentityOf(const std::filesystem::path& path) {
+    const std::filesystem::path& named = path.empty() ? std::filesystem::path(".") : path;
+    HANDLE handle = CreateFileW(named.c_str(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) return std::nullopt;
+    BY_HANDLE_FILE_INFORMATION information;
+    const bool told = GetFileInformationByHandle(handle, &information) != 0;
+    CloseHandle(handle);
+    if (!told) return std::nullopt;
+    return FileIdentity{information.dwVolumeSerialNumber,
+                        (static_cast<std::uint64_t>(information.nFileIndexHigh) << 32U) | information.nFileIndexLow};
+}
+
 void SyncDirectory(const std::filesystem::path&) {
     // The system writes a new name with the file that is synced, and a changed one through.
 }
