@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "extras/copy_owner.h"
+
+#include <unordered_set>
+
+#include "extras/log_text.h"
+#include "extras/whole_file.h"
+#include "logbook/log_file.h"
+#include "text/errors.h"
+
+namespace vatro {
+
+namespace fs = std::filesystem;
+
+std::size_t SharedContacts(const std::vector<std::string_view>& lines, const std::vector<std::string_view>& others) {
+    const std::unordered_set<std::string_view> known(others.begin(), others.end());
+    std::size_t shared = 0;
+    for (const std::string_view line : lines)
+        if (IsContact(line) && known.contains(line)) ++shared;
+    return shared;
+}
+
+CopyOwner OwnerOf(const std::vector<std::string_view>& lines, const fs::path& directory) {
+    CopyOwner owner;
+    std::size_t most = 0;
+    for (const auto& [band, mode] : kTiLogge) {
+        const fs::path log = directory / LogNavn(band, mode);
+        try {
+            std::error_code error;
+            if (!fs::exists(log, error)) continue;
+            std::string content = ReadWhole(log);
+            const std::size_t shared = SharedContacts(lines, ReadLogText(content).lines);
+            if (shared <= most) continue;
+            most = shared;
+            owner = {log, std::move(content)};
+        } catch (const RunTimeError&) {
+            continue;
+        }
+    }
+    return owner;
+}
+
+}  // namespace vatro

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+//
+// Texts put together from pieces.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace vatro {
+
+/// The pieces one behind the other.
+inline std::string Joined(std::initializer_list<std::string_view> parts) {
+    std::string text;
+    for (const std::string_view part : parts) text.append(part);
+    return text;
+}
+
+}  // namespace vatro

@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: MIT
+#include "extras/log_text.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <unordered_map>
+
+#include "logbook/qso_line.h"
+#include "text/errors.h"
+#include "text/numbers.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr std::size_t kLineWidth = 79;
+
+/// A line where it stands, with the way it ends.
+struct Piece {
+    std::size_t begin;
+    std::string_view text;
+    bool ended;
+};
+
+std::vector<Piece> Split(std::string_view content) {
+    std::vector<Piece> pieces;
+    pieces.reserve(content.size() / kLineWidth + 1);
+    std::size_t begin = 0;
+    while (begin < content.size()) {
+        const std::size_t lineFeed = std::min(content.find('\n', begin), content.size());
+        // A CR ends a line too; as a rule it stands just before the LF.
+        const std::size_t end = begin + std::min(content.substr(begin, lineFeed - begin).find('\r'), lineFeed - begin);
+        pieces.push_back({begin, content.substr(begin, end - begin), end < content.size()});
+        begin = end + (content.substr(end, 2) == "\r\n" ? 2 : 1);
+    }
+    return pieces;
+}
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+bool LooksLikeALine(std::string_view line) {
+    if (ErNote(line)) return true;
+    return line.size() > 5 && IsDigit(line[0]) && IsDigit(line[1]) && IsDigit(line[3]) && IsDigit(line[4]);
+}
+
+bool HasControlCharacter(std::string_view line) {
+    return std::any_of(line.begin(), line.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20 && c != '\t'; });
+}
+
+bool IsDamaged(const Piece& piece) {
+    if (HasControlCharacter(piece.text)) return true;
+    return !piece.ended && (piece.text.size() < kLineWidth || !LooksLikeALine(piece.text));
+}
+
+/// Time and number sent.
+std::string Key(std::string_view line) {
+    std::string key(kTid.Af(line));
+    key.append("/").append(kNrSendt.Af(line));
+    return key;
+}
+
+constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
+
+/// For each line of `old` the line of `now` that is the same, each of them once; kNone where there is none.
+std::vector<std::size_t> Match(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
+    std::vector<std::size_t> matched(old.size(), kNone);
+    std::vector<bool> taken(now.size(), false);
+    std::unordered_map<std::string_view, std::vector<std::size_t>> whole;
+    for (std::size_t i = now.size(); i > 0; --i) whole[now[i - 1]].push_back(i - 1);
+    for (std::size_t i = 0; i < old.size(); ++i) {
+        const auto found = whole.find(old[i]);
+        if (found == whole.end() || found->second.empty()) continue;
+        matched[i] = found->second.back();
+        taken[matched[i]] = true;
+        found->second.pop_back();
+    }
+    std::unordered_map<std::string, std::vector<std::size_t>> keyed;
+    for (std::size_t i = now.size(); i > 0; --i)
+        if (!taken[i - 1] && IsContact(now[i - 1])) keyed[Key(now[i - 1])].push_back(i - 1);
+    if (keyed.empty()) return matched;
+    for (std::size_t i = 0; i < old.size(); ++i) {
+        if (matched[i] != kNone || !IsContact(old[i])) continue;
+        const auto found = keyed.find(Key(old[i]));
+        if (found == keyed.end() || found->second.empty()) continue;
+        matched[i] = found->second.back();
+        found->second.pop_back();
+    }
+    return matched;
+}
+
+/// The first `old.size()` lines of `now` differ from `old` in one at most.
+bool BeginsAs(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
+    if (now.size() < old.size()) return false;
+    const auto end = now.begin() + static_cast<std::ptrdiff_t>(old.size());
+    const auto [changed, other] = std::mismatch(old.begin(), old.end(), now.begin());
+    return changed == old.end() || std::equal(changed + 1, old.end(), other + 1, end);
+}
+
+std::string Moment(std::string_view line) {
+    std::string moment(kDato.TrimmetAf(line));
+    if (!moment.empty()) moment += ' ';
+    return moment.append(kTid.TrimmetAf(line));
+}
+
+}  // namespace
+
+LogText ReadLogText(std::string_view content) {
+    LogText text;
+    text.damagedFrom = content.size();
+    std::vector<Piece> pieces = Split(content);
+    while (!pieces.empty() && IsDamaged(pieces.back())) {
+        text.damagedFrom = pieces.back().begin;
+        pieces.pop_back();
+    }
+    const bool zeros = content.substr(0, text.damagedFrom).find('\0') != std::string_view::npos;
+    text.lines.reserve(pieces.size());
+    for (const Piece& piece : pieces) {
+        if (!zeros || piece.text.find('\0') == std::string_view::npos) {
+            text.lines.push_back(piece.text);
+            continue;
+        }
+        std::string rest(piece.text);
+        std::erase(rest, '\0');
+        if (rest.size() >= kLineWidth) text.lines.push_back(text.cleaned.emplace_back(std::move(rest)));
+    }
+    return text;
+}
+
+bool IsContact(std::string_view line) {
+    return !line.empty() && !ErNote(line);
+}
+
+std::vector<std::string_view> MissingContacts(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
+    std::vector<std::string_view> missing;
+    if (GoesOn(old, now)) {
+        // One line at most is another one.
+        const auto [changed, other] = std::mismatch(old.begin(), old.end(), now.begin());
+        if (changed != old.end() && IsContact(*changed) && Key(*changed) != Key(*other)) missing.push_back(*changed);
+        return missing;
+    }
+    const std::vector<std::size_t> matched = Match(old, now);
+    for (std::size_t i = 0; i < old.size(); ++i)
+        if (matched[i] == kNone && IsContact(old[i])) missing.push_back(old[i]);
+    return missing;
+}
+
+bool IsCorrection(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
+    return now.size() == old.size() && BeginsAs(old, now);
+}
+
+bool GoesOn(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
+    return BeginsAs(old, now);
+}
+
+std::vector<std::string_view> Merged(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
+    const std::vector<std::size_t> matched = Match(old, now);
+    // What goes in front of all lines of `now`, and behind each of them.
+    std::vector<std::vector<std::string_view>> behind(now.size() + 1);
+    std::size_t place = 0;
+    for (std::size_t i = 0; i < old.size(); ++i) {
+        if (matched[i] != kNone)
+            place = matched[i] + 1;
+        else
+            behind[place].push_back(old[i]);
+    }
+    std::vector<std::string_view> merged = behind.front();
+    merged.reserve(old.size() + now.size());
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        merged.push_back(now[i]);
+        merged.insert(merged.end(), behind[i + 1].begin(), behind[i + 1].end());
+    }
+    return merged;
+}
+
+std::string LogContent(const std::vector<std::string_view>& lines) {
+    std::string content;
+    for (const std::string_view line : lines) content.append(line).append("\r\n");
+    return content;
+}
+
+LogSummary Summarise(const std::vector<std::string_view>& lines) {
+    LogSummary summary;
+    for (const std::string_view line : lines) {
+        if (!IsContact(line)) continue;
+        ++summary.contacts;
+        summary.last = Moment(line);
+        if (summary.contacts == 1) summary.first = summary.last;
+        const double number = NumericValue(kNrSendt.Af(line));
+        if (number > summary.highestNumber && number < 32768) summary.highestNumber = static_cast<int>(number);
+    }
+    return summary;
+}
+
+std::size_t UnreadableLine(const std::vector<std::string_view>& lines) {
+    double points = 0;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (!IsContact(lines[i])) continue;
+        try {
+            points = ToInt32(points + NumericValue(kPoint.Af(lines[i])));
+            ToInt16(NumericValue(kNrSendt.Af(lines[i])));
+        } catch (const RunTimeError&) {
+            return i + 1;
+        }
+    }
+    return 0;
+}
+
+std::size_t ContentHash(std::string_view content, std::size_t before) {
+    // FNV-1a.
+    std::uint64_t hash = before == 0 ? 14695981039346656037U : before;
+    for (const char c : content) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
+    return static_cast<std::size_t>(hash);
+}
+
+}  // namespace vatro

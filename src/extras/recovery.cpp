@@ -1,0 +1,432 @@
+// SPDX-License-Identifier: MIT
+#include "extras/recovery.h"
+
+#include <algorithm>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+#include "disk/names.h"
+#include "disk/system_file.h"
+#include "extras/copy_owner.h"
+#include "extras/joined.h"
+#include "extras/whole_file.h"
+#include "logbook/log_file.h"
+#include "logbook/qso_line.h"
+#include "text/codepage.h"
+#include "text/errors.h"
+
+namespace vatro {
+
+using namespace literals;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kCopy = "FDkopi.txt";
+constexpr std::size_t kMostStations = 200;
+/// A log that is missing altogether was most likely put away after its contest; only a young one is missed.
+constexpr long long kYoungDays = 3;
+
+struct Log {
+    fs::path path;
+    std::string name;
+    std::string_view mode;
+    bool exists = false;
+    std::string content;
+    LogText text;
+};
+
+std::string Count(std::size_t count, std::string_view one, std::string_view many) {
+    return Joined({std::to_string(count), " ", count == 1 ? one : many});
+}
+
+std::string Contacts(std::size_t count) {
+    return Count(count, "kontakt", "kontakter");
+}
+
+class Search {
+public:
+    Search(const RecoveryPlaces& places, const History& history) : places_(places), history_(history) {}
+
+    std::vector<Finding> Run() {
+        std::error_code error;
+        if (!fs::is_directory(places_.logs, error)) {
+            Tell(NativeText(places_.logs), "Logbiblioteket findes ikke. Loggene ser tomme ud, og den første kontakt stopper programmet."_t,
+                 "Afslut, sæt disken eller USB-nøglen til, og start igen."_t);
+            LookAtTables();
+            return std::move(findings_);
+        }
+        ReadLogs();
+        LookAtCopy();
+        for (const Log& log : logs_) LookAtLog(log);
+        LookAtTables();
+        return std::move(findings_);
+    }
+
+private:
+    void ReadLogs() {
+        logs_.reserve(kTiLogge.size());
+        for (const auto& [band, mode] : kTiLogge) {
+            Log log;
+            log.name = LogNavn(band, mode);
+            log.mode = mode;
+            log.path = FindPath(places_.logs / log.name).path;
+            Read(log);
+            logs_.push_back(std::move(log));
+            // The views of the text lead into the content, which a short string takes along when it moves.
+            logs_.back().text = ReadLogText(logs_.back().content);
+        }
+    }
+
+    void Read(Log& log) {
+        std::error_code error;
+        log.exists = fs::exists(log.path, error);
+        if (!log.exists) return;
+        try {
+            log.content = ReadWhole(log.path);
+        } catch (const RunTimeError& failure) {
+            Tell(log.name, Joined({"Filen kan ikke læses (fejl "_t, std::to_string(failure.Number()), "). Loggen vil se tom ud."_t}),
+                 "Se, om disken er sat rigtigt til, eller om filen tilhører en anden bruger."_t);
+        }
+    }
+
+    Finding& Add(Finding::Action action, std::string_view file) {
+        Finding& finding = findings_.emplace_back();
+        finding.action = action;
+        finding.file = file;
+        return finding;
+    }
+
+    void Tell(std::string_view file, std::string_view what, std::string_view todo) {
+        Finding& finding = Add(Finding::Action::None, file);
+        finding.what = what;
+        finding.proposal = todo;
+    }
+
+    // The copy -------------------------------------------------------------------------------------------------------------------
+
+    void LookAtCopy() {
+        const fs::path path = FindPath(places_.logs / kCopy).path;
+        std::error_code error;
+        if (IsNoFile(path) || fs::file_size(path, error) == 0 || error) return;
+        std::string content;
+        try {
+            content = ReadWhole(path);
+        } catch (const RunTimeError&) {
+            return;
+        }
+        const LogText copy = ReadLogText(content);
+        if (copy.lines.empty()) return;
+        const Log* owner = OwnerByLog(copy);
+        if (owner != nullptr) return CompareCopy(path, copy, *owner);
+        CopyWithoutOwner(path, copy);
+    }
+
+    const Log* OwnerByLog(const LogText& copy) const {
+        const Log* owner = nullptr;
+        std::size_t most = 0;
+        for (const Log& log : logs_) {
+            const std::size_t shared = SharedContacts(copy.lines, log.text.lines);
+            if (shared <= most) continue;
+            most = shared;
+            owner = &log;
+        }
+        return owner;
+    }
+
+    void CompareCopy(const fs::path& path, const LogText& copy, const Log& log) {
+        const std::vector<std::string_view> missing = MissingContacts(copy.lines, log.text.lines);
+        const bool oneCorrection = IsCorrection(log.text.lines, copy.lines);
+        if (missing.empty() || oneCorrection) {
+            // The same lines, or the beginning of them: nothing to be told.
+            if (GoesOn(copy.lines, log.text.lines) && IsPrefix(copy.lines, log.text.lines)) return;
+            Finding& finding = Add(Finding::Action::KeepCopy, log.name);
+            finding.what = Joined({"En rettelse blev afbrudt, før den var gemt. Loggen er, som den var før rettelsen."_t});
+            finding.proposal = "Loggen bliver, som den er. Den afbrudte rettelse lægges i historikken; ret kontakten igen."_t;
+            Fill(finding, copy, path, log.path);
+            return;
+        }
+        Finding& finding = Add(Finding::Action::MergeCopy, log.name);
+        finding.what = Joined({"FDkopi.txt fra en afbrudt rettelse har "_t, Contacts(missing.size()), ", som loggen ikke har."_t});
+        finding.proposal = "Kontakterne sættes ind i loggen på deres plads. Loggen, som den er nu, lægges i historikken."_t;
+        Fill(finding, copy, path, log.path);
+    }
+
+    static bool IsPrefix(const std::vector<std::string_view>& lines, const std::vector<std::string_view>& of) {
+        return lines.size() <= of.size() && std::equal(lines.begin(), lines.end(), of.begin());
+    }
+
+    void CopyWithoutOwner(const fs::path& path, const LogText& copy) {
+        const std::string_view mode = ModeOf(copy);
+        std::vector<const Log*> fitting;
+        for (const Log& log : logs_)
+            if (log.mode == mode) fitting.push_back(&log);
+        const Log* likely = IsOld(copy) ? nullptr : Likely(copy, fitting);
+        if (likely == nullptr) {
+            Finding& finding = Add(Finding::Action::KeepCopy, kCopy);
+            finding.what = "Kopien fra en afbrudt rettelse ligger her, men ingen log passer til den."_t;
+            finding.proposal = "Den lægges i historikken. Vælg loggen, hvis du ved, hvilken den hører til."_t;
+            Fill(finding, copy, path, {});
+            for (const Log* log : fitting) finding.candidates.push_back(log->name);
+            finding.candidates.insert(finding.candidates.begin(), std::string());
+            return;
+        }
+        const bool missing = !likely->exists || likely->text.lines.empty();
+        Finding& finding = Add(missing ? Finding::Action::CopyBecomesLog : Finding::Action::MergeCopy, likely->name);
+        finding.what = missing ? "Loggen mangler. FDkopi.txt fra en afbrudt rettelse har den."_t
+                               : "FDkopi.txt fra en afbrudt rettelse har kontakter, som ingen log har."_t;
+        finding.proposal = missing ? "Kopien bliver loggen."_t
+                                   : "Kopiens kontakter sættes ind foran loggens. Loggen, som den er nu, lægges i historikken."_t;
+        Fill(finding, copy, path, likely->path);
+        finding.candidates.push_back(likely->name);
+        for (const Log* log : fitting)
+            if (log != likely) finding.candidates.push_back(log->name);
+    }
+
+    /// The log whose earlier version shares contacts with the copy; otherwise the log that the program begins with, or the only one
+    /// of its mode that is missing.
+    const Log* Likely(const LogText& copy, const std::vector<const Log*>& fitting) const {
+        for (const Log* log : fitting) {
+            const auto newest = history_.Newest(log->name);
+            if (newest && SharesContacts(copy, newest->path)) return log;
+        }
+        std::vector<const Log*> missing;
+        for (const Log* log : fitting) {
+            if (log->name == Joined({"FD", places_.firstLog, ".txt"})) return log;
+            if (!log->exists) missing.push_back(log);
+        }
+        return missing.size() == 1 ? missing.front() : nullptr;
+    }
+
+    static bool SharesContacts(const LogText& copy, const fs::path& version) {
+        try {
+            const std::string content = ReadWhole(version);
+            return SharedContacts(copy.lines, ReadLogText(content).lines) > 0;
+        } catch (const RunTimeError&) {
+            return false;
+        }
+    }
+
+    /// Whether its last contact is of another contest than the one that is on.
+    bool IsOld(const LogText& copy) const {
+        for (auto line = copy.lines.rbegin(); line != copy.lines.rend(); ++line) {
+            if (!IsContact(*line)) continue;
+            const auto date = ParseDate(kDato.Af(*line));
+            return date && !IsYoung(*date);
+        }
+        return false;
+    }
+
+    static std::string_view ModeOf(const LogText& copy) {
+        for (const std::string_view line : copy.lines)
+            // A report of an SSB log has two figures and a blank.
+            if (IsContact(line)) return kRstSendt.Af(line).ends_with(' ') ? "SSB" : "CW";
+        return "SSB";
+    }
+
+    static void Fill(Finding& finding, const LogText& source, const fs::path& path, const fs::path& log) {
+        finding.found = Summarise(source.lines);
+        finding.source = path;
+        finding.log = log;
+    }
+
+    // The logs -------------------------------------------------------------------------------------------------------------------
+
+    void LookAtLog(const Log& log) {
+        if (log.text.damagedFrom < log.content.size()) {
+            Finding& finding = Add(Finding::Action::CutEnd, log.name);
+            finding.what = Joined({"Sidst i loggen står "_t, std::to_string(log.content.size() - log.text.damagedFrom),
+                                   " tegn, som ikke er en hel linje, efter en strømafbrydelse eller en fejl på disken."_t});
+            finding.proposal = "De fjernes fra loggen. Hele filen lægges i historikken."_t;
+            Fill(finding, log.text, log.path, log.path);
+        }
+        CompareWithHistory(log);
+        if (const std::size_t line = UnreadableLine(log.text.lines); line > 0)
+            Tell(log.name,
+                 Joined({"Linje "_t, std::to_string(line), " har et tal, der er for stort. Programmet læser kun loggen til den linje."_t}),
+                 "Ret tallet i filen med et tekstprogram, før I logger på båndet."_t);
+    }
+
+    void CompareWithHistory(const Log& log) {
+        if (Mentioned(log.name)) return;
+        const auto newest = history_.Newest(log.name);
+        if (!newest) return;
+        if (!log.exists && !IsYoung(newest->when)) return;
+        std::string content;
+        try {
+            content = ReadWhole(newest->path);
+        } catch (const RunTimeError&) {
+            return;
+        }
+        const LogText version = ReadLogText(content);
+        if (GoesOn(version.lines, log.text.lines)) return;
+        const std::vector<std::string_view> missing = MissingContacts(version.lines, log.text.lines);
+        if (missing.empty()) return;
+        const bool unseen = newest->keep == History::Keep::ToMerge;
+        Finding& finding = Add(!log.exists ? Finding::Action::Restore
+                               : unseen    ? Finding::Action::MergeVersion
+                                           : Finding::Action::PutBeside,
+                               log.name);
+        const std::string count = Contacts(missing.size());
+        if (!log.exists) {
+            finding.what = "Loggen mangler. Historikken har den, som den var før den sidste rettelse."_t;
+            finding.proposal = "Loggen hentes fra historikken."_t;
+        } else if (unseen) {
+            finding.what = Joined({"Historikken har "_t, count, ", som programmet ikke havde læst, da loggen blev skrevet forfra."_t});
+            finding.proposal = "De sættes ind i loggen på deres plads. Loggen, som den er nu, lægges i historikken."_t;
+        } else {
+            finding.what = Joined({"Loggen har ikke "_t, count, ", som den seneste udgave i historikken har."_t});
+            finding.proposal = "Loggen bliver, som den er. Udgaven med flere kontakter lægges ved siden af."_t;
+        }
+        Fill(finding, version, newest->path, log.path);
+    }
+
+    bool Mentioned(std::string_view name) const {
+        return std::any_of(findings_.begin(), findings_.end(), [&](const Finding& finding) {
+            return finding.file == name && finding.action != Finding::Action::CutEnd && finding.action != Finding::Action::None &&
+                   finding.action != Finding::Action::KeepCopy;
+        });
+    }
+
+    bool IsYoung(const DateTime& when) const {
+        constexpr long long kDay = 86'400'000;
+        return Milliseconds(places_.now) - Milliseconds(when) < kYoungDays * kDay;
+    }
+
+    // What the program needs beside its logs ------------------------------------------------------------------------------------
+
+    void LookAtTables() {
+        for (const std::string_view table : {"lande.txt", "refpfx.txt"}) {
+            if (CountLines(table) > 0) continue;
+            Tell(table, "Tabellen mangler eller er tom. Alle lande er ukendte, og alle kontakter giver 0 point."_t,
+                 "Læg filen tilbage, eller vælg Funktioner, Importer CTY.DAT..."_t);
+        }
+        if (CountLines("edr.txt") > kMostStations)
+            Tell("edr.txt", "Filen har over 200 stationer. Programmet bruger de første 200."_t, "Gør filen kortere."_t);
+        const fs::path operators = FindPath(places_.tables / "operator.txt").path;
+        SystemFile file;
+        std::error_code error;
+        if (fs::exists(operators, error) && !IsNoFile(operators) && file.Open(operators, SystemFile::Access::Write, false) != 0)
+            Tell("operator.txt", "Listen over operatører kan ikke skrives. Programmet stopper, når operatørfeltet forlades."_t,
+                 "Giv brugeren ret til at skrive i filen."_t);
+    }
+
+    /// Up to one more than there may be stations.
+    std::size_t CountLines(std::string_view name) const {
+        try {
+            const std::string content = ReadWhole(FindPath(places_.tables / name).path);
+            std::size_t lines = 0;
+            for (std::size_t at = 0; at < content.size() && lines <= kMostStations; ++lines) {
+                const std::size_t end = content.find('\n', at);
+                at = end == std::string::npos ? content.size() : end + 1;
+            }
+            return lines;
+        } catch (const RunTimeError&) {
+            return 0;
+        }
+    }
+
+    const RecoveryPlaces& places_;
+    const History& history_;
+    std::vector<Log> logs_;
+    std::vector<Finding> findings_;
+};
+
+// Repairs -----------------------------------------------------------------------------------------------------------------------
+
+/// The highest number is told where the last line, which decides the next number, has a lower one.
+std::string NumberToSet(const std::vector<std::string_view>& lines) {
+    int last = 0;
+    for (const std::string_view line : lines)
+        if (IsContact(line)) last = Summarise({line}).highestNumber;
+    const int highest = Summarise(lines).highestNumber;
+    if (last >= highest) return {};
+    return Joined({"Det højeste løbenummer i loggen er "_t, std::to_string(highest), ", men den sidste linje har "_t, std::to_string(last),
+                   ". Sæt det næste med Indstillinger, Nyt QSO nummer..."_t});
+}
+
+/// Puts the content in the place of the log, whose present one goes into the history.
+void Rewrite(const fs::path& log, std::string_view content, History& history) {
+    std::error_code error;
+    if (fs::exists(log, error)) history.AddCopy(log, History::Keep::Always);
+    WriteWhole(log, content);
+}
+
+std::string Merge(const Finding& finding, const fs::path& log, History& history) {
+    const std::string source = ReadWhole(finding.source);
+    std::error_code error;
+    const std::string present = fs::exists(log, error) ? ReadWhole(log) : std::string();
+    const LogText old = ReadLogText(source);
+    const LogText now = ReadLogText(present);
+    const std::vector<std::string_view> merged = Merged(old.lines, now.lines);
+    Rewrite(log, LogContent(merged), history);
+    return NumberToSet(merged);
+}
+
+/// A name that nothing has yet.
+fs::path FreeName(const fs::path& log, std::string_view addition) {
+    std::error_code error;
+    for (int i = 1;; ++i) {
+        fs::path name = log.parent_path() / log.stem();
+        name += PathOf(Joined({" ", addition, i == 1 ? std::string() : " " + std::to_string(i), ".txt"}));
+        if (!fs::exists(name, error)) return name;
+    }
+}
+
+}  // namespace
+
+std::vector<Finding> LookForDamage(const RecoveryPlaces& places, const History& history) {
+    return Search(places, history).Run();
+}
+
+std::string Repair(const Finding& finding, History& history, std::string_view candidate) {
+    fs::path log = finding.log;
+    Finding::Action action = finding.action;
+    if (!finding.candidates.empty()) {
+        if (candidate.empty()) candidate = finding.candidates.front();
+        if (!candidate.empty()) {
+            log = finding.source.parent_path() / PathOf(candidate);
+            std::error_code error;
+            const bool missing = !fs::exists(log, error) || fs::file_size(log, error) == 0;
+            action = missing ? Finding::Action::CopyBecomesLog : Finding::Action::MergeCopy;
+        }
+    }
+    switch (action) {
+        case Finding::Action::None:
+            return {};
+        case Finding::Action::CopyBecomesLog:
+            if (const int error = RenameOver(finding.source, log); error != 0) throw RunTimeError(FailureOf(error));
+            SyncDirectory(log.parent_path());
+            return {};
+        case Finding::Action::MergeCopy: {
+            std::string outcome = Merge(finding, log, history);
+            history.Move(finding.source, History::Keep::Always);
+            return outcome;
+        }
+        case Finding::Action::KeepCopy:
+            history.Move(finding.source, History::Keep::Always);
+            return {};
+        case Finding::Action::CutEnd: {
+            const std::string content = ReadWhole(log);
+            Rewrite(log, std::string_view(content).substr(0, ReadLogText(content).damagedFrom), history);
+            return {};
+        }
+        case Finding::Action::MergeVersion:
+            return Merge(finding, log, history);
+        case Finding::Action::Restore:
+            WriteWhole(log, ReadWhole(finding.source));
+            return {};
+        case Finding::Action::PutBeside: {
+            const fs::path beside = FreeName(log, "fra historikken");
+            WriteWhole(beside, ReadWhole(finding.source));
+            // The log as it is becomes the newest version, so that this is asked once.
+            history.AddCopy(log, History::Keep::ByAge);
+            return Joined({"Den længere udgave ligger som "_t, NativeText(beside.filename()), "."});
+        }
+    }
+    return {};
+}
+
+}  // namespace vatro

@@ -1,0 +1,407 @@
+// SPDX-License-Identifier: MIT
+#include "extras/safe_files.h"
+
+#include <system_error>
+#include <utility>
+
+#include "extras/copy_owner.h"
+#include "extras/joined.h"
+#include "extras/whole_file.h"
+#include "text/codepage.h"
+#include "text/errors.h"
+
+namespace vatro {
+
+using namespace literals;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kCopyName = "FDkopi.txt";
+constexpr std::string_view kMarkerName = "setlog.txt";
+constexpr std::string_view kLineEnd = "\r\n";
+
+[[noreturn]] void Fail(Failure failure) {
+    throw RunTimeError(failure);
+}
+
+bool HasName(const fs::path& file, std::string_view name) {
+    return EqualNoCase(NativeText(file.filename()), name);
+}
+
+/// A table that its own load leaves open when it is too long. The load was the last to want it.
+bool IsTable(const fs::path& file) {
+    return HasName(file, "lande.txt") || HasName(file, "refpfx.txt") || HasName(file, "edr.txt");
+}
+
+std::size_t SizeOf(const fs::path& file) {
+    std::error_code error;
+    const auto size = fs::file_size(file, error);
+    return error ? 0 : static_cast<std::size_t>(size);
+}
+
+std::string TextOf(const fs::path& path) {
+    fs::path shown = path;
+    return NativeText(shown.make_preferred());
+}
+
+}  // namespace
+
+bool IsLogName(const fs::path& file) {
+    const std::string name = UpperText(NativeText(file.filename()));
+    return name.starts_with("FD") && (name.ends_with("SSB.TXT") || name.ends_with("CW.TXT"));
+}
+
+SafeFiles::SafeFiles(Files& disk, Surroundings surroundings) : disk_(disk), surroundings_(std::move(surroundings)) {}
+
+History SafeFiles::HistoryOf(const fs::path& directory) const {
+    return {directory, HistoryElsewhere(surroundings_.state, directory), surroundings_.now};
+}
+
+SafeFiles::Slot* SafeFiles::SlotOf(int number) {
+    if (number != 1 && number != 2) return nullptr;
+    auto& slot = slots_[static_cast<std::size_t>(number - 1)];
+    return slot ? &*slot : nullptr;
+}
+
+/// Where the path leads on the disk; nothing if that fails, which the disk then tells by itself.
+std::optional<fs::path> SafeFiles::PathTo(std::string_view path) const {
+    if (path.empty() || path.find('\0') != std::string_view::npos) return std::nullopt;
+    try {
+        fs::path spelled = surroundings_.toPath(path);
+        std::error_code error;
+        if (fs::exists(spelled, error)) return spelled;
+        return FindPath(spelled).path;
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
+}
+
+bool SafeFiles::Lock(DirectoryLock& lock, const fs::path& directory) const {
+    DirectoryLock::Result result = lock.Acquire(directory);
+    if (result == DirectoryLock::Result::Silent && surroundings_.askSilent()) result = lock.Acquire(directory, true);
+    return result == DirectoryLock::Result::Won || result == DirectoryLock::Result::Unavailable;
+}
+
+bool SafeFiles::TakeDirectory(std::string_view directory) {
+    const auto path = PathTo(directory);
+    if (!path) return true;
+    lock_ = std::make_unique<DirectoryLock>(surroundings_.lock);
+    if (!Lock(*lock_, *path)) {
+        lock_.reset();
+        return false;
+    }
+    place_ = Place{*path, IdentityOf(*path)};
+    surroundings_.directoryWon(*path);
+    return true;
+}
+
+void SafeFiles::Tell(Matter matter, const fs::path& about, std::string text) {
+    if (told_.emplace(matter, about).second) notices_.push_back(std::move(text));
+}
+
+std::vector<std::string> SafeFiles::TakeNotices() {
+    if (lock_ && lock_->Lost())
+        Tell(Matter::Lock, place_->directory,
+             std::string("En anden udgave af Vatro har overtaget logbiblioteket, mens denne ikke kunne nå det.\r\n\r\n"
+                         "Afslut en af de to, før I logger videre. Ellers bliver de samme numre givet to gange."_t));
+    return std::exchange(notices_, {});
+}
+
+void SafeFiles::CloseLeftovers() noexcept {
+    for (const int number : {1, 2}) {
+        if (SlotOf(number) == nullptr) continue;
+        try {
+            Close(number);
+        } catch (const RunTimeError&) {
+            // Whoever left it open has told of its own failure.
+            continue;
+        }
+    }
+}
+
+// What the place must be --------------------------------------------------------------------------------------------------------
+
+/// A file of the log directory is written only where the directory was when it was won.
+void SafeFiles::CheckPlace(const fs::path& file) const {
+    if (!place_ || file.parent_path() != place_->directory) return;
+    if (IdentityOf(place_->directory) != place_->identity || !place_->identity) Fail(Failure::PathNotFound);
+}
+
+void SafeFiles::ChooseDirectory(int number, std::string_view path, const fs::path& marker) {
+    const fs::path directory = marker.parent_path();
+    const auto identity = IdentityOf(directory);
+    const bool same = place_ && identity && place_->identity == identity;
+    std::unique_ptr<DirectoryLock> lock;
+    if (!same) {
+        lock = std::make_unique<DirectoryLock>(surroundings_.lock);
+        if (!Lock(*lock, directory)) {
+            surroundings_.tellTaken();
+            Fail(Failure::PermissionDenied);
+        }
+    }
+    disk_.Open(number, path, FileMode::Output);
+    place_ = Place{directory, identity};
+    if (same) return;
+    lock_ = std::move(lock);
+    surroundings_.directoryWon(directory);
+}
+
+// Opening -----------------------------------------------------------------------------------------------------------------------
+
+void SafeFiles::Open(int number, std::string_view path, FileMode mode) {
+    if (Slot* open = SlotOf(number); open != nullptr && open->mode == FileMode::Input && IsTable(open->path)) Close(number);
+    const auto file = PathTo(path);
+    if (!file || SlotOf(number) != nullptr) return disk_.Open(number, path, mode);
+    if (IsNoFile(*file)) Fail(Failure::PathFileAccess);
+    switch (mode) {
+        case FileMode::Input:
+            if (IsLogName(*file)) return OpenLogToRead(number, path, *file);
+            disk_.Open(number, path, mode);
+            break;
+        case FileMode::Append:
+            return OpenToAppend(number, path, *file);
+        case FileMode::Output:
+            OpenToWrite(number, path, *file);
+            break;
+    }
+    Slot slot;
+    slot.path = *file;
+    slot.mode = mode;
+    slots_[static_cast<std::size_t>(number - 1)] = std::move(slot);
+}
+
+void SafeFiles::OpenLogToRead(int number, std::string_view path, const fs::path& file) {
+    // The number is taken, and the failures are those of the disk.
+    disk_.Open(number, path, FileMode::Input);
+    auto& place = slots_[static_cast<std::size_t>(number - 1)];
+    place.emplace();
+    Slot& slot = *place;
+    slot.path = file;
+    try {
+        ReadResult read = ReadWhatIsThere(file);
+        slot.whole = read.whole;
+        slot.content = std::move(read.content);
+    } catch (const RunTimeError&) {
+        place.reset();
+        disk_.Close(number);
+        throw;
+    }
+    slot.text = ReadLogText(*slot.content);
+    if (!slot.whole) {
+        Tell(Matter::Reading, file,
+             Joined({"Disken kunne kun læse begyndelsen af "_t, NativeText(file.filename()), ": ", std::to_string(slot.text.lines.size()),
+                     " linjer.\r\n\r\nIntet er slettet, men løbenummer, point og dubletter kan være forkerte. Vælg båndet igen for at læse "
+                     "loggen en gang til. Hjælper det ikke, så afslut, og tag en kopi af filen."_t}));
+        return;
+    }
+    if (slot.text.damagedFrom == slot.content->size()) {
+        damaged_.erase(file);
+        return;
+    }
+    damaged_[file] = slot.text.damagedFrom;
+    Tell(Matter::Damage, file,
+         Joined({"Sidst i "_t, NativeText(file.filename()), " står "_t, std::to_string(slot.content->size() - slot.text.damagedFrom),
+                 " tegn, som ikke er en hel linje, efter en strømafbrydelse eller en fejl på disken. De vises ikke.\r\n\r\n"_t,
+                 KeepDamaged(file, *slot.content)}));
+}
+
+/// The whole file as it is, before its end is cut off by the next contact. Tells where it lies.
+std::string SafeFiles::KeepDamaged(const fs::path& log, std::string_view content) {
+    try {
+        History history = HistoryOf(log.parent_path());
+        const auto newest = history.Newest(NativeText(log.filename()));
+        const bool kept = newest && ReadWhole(newest->path) == content;
+        return Joined({"Hele filen ligger som\r\n", TextOf(kept ? newest->path : history.AddCopy(log, History::Keep::Always).path)});
+    } catch (const RunTimeError&) {
+        // What cannot be kept elsewhere stays where it is.
+        damaged_.erase(log);
+        return std::string("De bliver stående i filen."_t);
+    }
+}
+
+void SafeFiles::OpenToAppend(int number, std::string_view path, const fs::path& file) {
+    CheckPlace(file);
+    CutDamagedEnd(file);
+    Slot slot;
+    slot.path = file;
+    slot.mode = FileMode::Append;
+    slot.sizeBefore = SizeOf(file);
+    disk_.Open(number, path, FileMode::Append);
+    slots_[static_cast<std::size_t>(number - 1)] = std::move(slot);
+}
+
+void SafeFiles::OpenToWrite(int number, std::string_view path, const fs::path& file) {
+    if (HasName(file, kMarkerName)) return ChooseDirectory(number, path, file);
+    CheckPlace(file);
+    if (HasName(file, kCopyName) && SizeOf(file) > 0) SetAside(file);
+    disk_.Open(number, path, FileMode::Output);
+}
+
+/// A copy that an interrupted rewrite has left may be all there is of a log.
+void SafeFiles::SetAside(const fs::path& copy) {
+    const std::string content = ReadWhole(copy);
+    const LogText text = ReadLogText(content);
+    const CopyOwner owner = OwnerOf(text.lines, copy.parent_path());
+    const bool needed = !owner.log || !MissingContacts(text.lines, ReadLogText(owner.content).lines).empty();
+    const History::Version version =
+        HistoryOf(copy.parent_path()).Move(copy, needed && !text.lines.empty() ? History::Keep::Always : History::Keep::ByAge);
+    const std::string log = owner.log ? NativeText(owner.log->filename()) : "det vides ikke";
+    History::AddNote(version, ToUtf8(Joined({"Kopien FDkopi.txt fra en afbrudt rettelse. Den hører til: "_t, log, "\r\n"})));
+    HistoryOf(copy.parent_path()).Prune(kCopyName);
+}
+
+/// The history has had it since the log was read.
+void SafeFiles::CutDamagedEnd(const fs::path& log) {
+    const auto damaged = damaged_.find(log);
+    if (damaged == damaged_.end()) return;
+    SystemFile file;
+    if (file.Open(log, SystemFile::Access::Write, false) == 0) {
+        file.Truncate(static_cast<std::int64_t>(damaged->second));
+        file.Sync();
+    }
+    damaged_.erase(damaged);
+}
+
+// Reading and writing -----------------------------------------------------------------------------------------------------------
+
+std::string SafeFiles::LineInput(int number) {
+    Slot* slot = SlotOf(number);
+    if (slot == nullptr || !slot->content) return disk_.LineInput(number);
+    if (EndOfFile(number)) Fail(Failure::InputPastEnd);
+    return std::string(slot->text.lines[slot->next++]);
+}
+
+bool SafeFiles::EndOfFile(int number) {
+    Slot* slot = SlotOf(number);
+    if (slot == nullptr || !slot->content) return disk_.EndOfFile(number);
+    if (slot->next < slot->text.lines.size()) return false;
+    if (!slot->whole) Fail(Failure::DiskNotReady);
+    Learn(slot->path, std::string_view(*slot->content).substr(0, slot->text.damagedFrom));
+    return true;
+}
+
+void SafeFiles::PrintLine(int number, std::string_view text) {
+    disk_.PrintLine(number, text);
+    if (Slot* slot = SlotOf(number); slot != nullptr && slot->mode == FileMode::Append) slot->appended.append(text).append(kLineEnd);
+}
+
+void SafeFiles::Print(int number, std::string_view text) {
+    disk_.Print(number, text);
+    if (Slot* slot = SlotOf(number); slot != nullptr && slot->mode == FileMode::Append) slot->appended.append(text);
+}
+
+void SafeFiles::Close(int number) {
+    Slot* open = SlotOf(number);
+    if (open == nullptr) return disk_.Close(number);
+    const Slot slot = *std::exchange(slots_[static_cast<std::size_t>(number - 1)], std::nullopt);
+    disk_.Close(number);
+    if (slot.mode == FileMode::Append && IsLogName(slot.path)) LearnAppended(slot);
+}
+
+void SafeFiles::Learn(const fs::path& log, std::string_view content) {
+    const bool endsALine = content.empty() || content.back() == '\n' || content.back() == '\r';
+    known_[log] = {content.size(), ContentHash(content), endsALine};
+}
+
+void SafeFiles::LearnAppended(const Slot& slot) {
+    if (slot.sizeBefore == 0) return Learn(slot.path, slot.appended);
+    const auto known = known_.find(slot.path);
+    if (known == known_.end()) return;
+    if (known->second.size != slot.sizeBefore) {
+        // Somebody else has written to it: what it holds is no longer known.
+        known_.erase(known);
+        return;
+    }
+    Known& log = known->second;
+    if (!log.endsALine) {
+        log.hash = ContentHash(kLineEnd, log.hash);
+        log.size += kLineEnd.size();
+    }
+    log.hash = ContentHash(slot.appended, log.hash);
+    log.size += slot.appended.size();
+    log.endsALine = true;
+}
+
+void SafeFiles::Delete(std::string_view path) {
+    disk_.Delete(path);
+}
+
+void SafeFiles::Rename(std::string_view from, std::string_view to) {
+    disk_.Rename(from, to);
+}
+
+// Replacing ---------------------------------------------------------------------------------------------------------------------
+
+void SafeFiles::Replace(std::string_view copy, std::string_view name) {
+    const auto copyPath = PathTo(copy);
+    const auto log = PathTo(name);
+    if (!copyPath || !log) return disk_.Replace(copy, name);
+    CheckPlace(*log);
+    std::error_code error;
+    if (!fs::exists(*copyPath, error)) Fail(Failure::FileNotFound);
+
+    const std::string now = ReadWhole(*copyPath);
+    std::size_t unseen = 0;
+    std::string where;
+    if (fs::exists(*log, error)) {
+        const std::string old = ReadWhole(*log);
+        const LogText oldText = ReadLogText(old);
+        const LogText nowText = ReadLogText(now);
+        const auto known = known_.find(*log);
+        const std::string_view sound = std::string_view(old).substr(0, oldText.damagedFrom);
+        const bool asRead = known == known_.end() || (known->second.size == sound.size() && known->second.hash == ContentHash(sound));
+        const bool correction = IsCorrection(oldText.lines, nowText.lines) && (asRead || old == now);
+        const std::size_t missing = MissingContacts(oldText.lines, nowText.lines).size();
+        const History::Keep keep = !correction ? History::Keep::ToMerge : missing > 0 ? History::Keep::Always : History::Keep::ByAge;
+        if (!correction) unseen = std::max<std::size_t>(missing, 1);
+        History history = HistoryOf(log->parent_path());
+        try {
+            where = TextOf(history.Add(*log, keep).path);
+        } catch (const RunTimeError&) {
+            // Nothing is lost by a correction that the program has made itself; anything else must not happen unkept.
+            if (!correction) throw;
+            Tell(Matter::Room, log->parent_path(),
+                 std::string("Der er ikke plads til tidligere udgaver af loggen. Rettelsen er gemt, den gamle udgave er ikke.\r\n\r\n"
+                             "Gør plads på disken."_t));
+        }
+        CopyRights(*log, *copyPath);
+    }
+    if (const int failed = RenameOver(*copyPath, *log); failed != 0) Fail(FailureOf(failed));
+    SyncDirectory(log->parent_path());
+    Learn(*log, now);
+    damaged_.erase(*log);
+    if (!where.empty()) HistoryOf(log->parent_path()).Prune(NativeText(log->filename()));
+    if (unseen > 0)
+        Tell(Matter::Unseen, where,
+             Joined({NativeText(log->filename()),
+                     " på disken var en anden, end programmet havde læst, da rettelsen blev gemt.\r\n\r\n"
+                     "Loggen har nu de linjer, som vinduet viser. Intet er slettet: filen, som den var, ligger hel som\r\n"_t,
+                     where, "\r\n\r\nAfslut Vatro, når I har et roligt øjeblik, og start igen: så tilbyder programmet at samle de to."_t}));
+}
+
+void SafeFiles::Copy(std::string_view from, std::string_view to) {
+    const auto source = PathTo(from);
+    const auto target = PathTo(to);
+    if ((source && IsNoFile(*source)) || (target && IsNoFile(*target))) Fail(Failure::PathFileAccess);
+    if (source && target && SizeOf(*target) > 0 && IdentityOf(*source) != IdentityOf(*target)) KeepOlderCopy(*source, *target);
+    disk_.Copy(from, to);
+}
+
+/// On the computer: the target may be a stick that fails in the next moment. It is kept only if there is room for it.
+void SafeFiles::KeepOlderCopy(const fs::path& source, const fs::path& target) {
+    try {
+        std::error_code error;
+        fs::create_directories(surroundings_.state, error);
+        const fs::space_info space = fs::space(surroundings_.state, error);
+        if (error || space.available < SizeOf(target) || ReadWhole(target) == ReadWhole(source)) return;
+        History history = HistoryOf(target.parent_path());
+        history.AddCopy(target, History::Keep::ByAge);
+        history.Prune(NativeText(target.filename()));
+    } catch (const RunTimeError&) {
+        return;
+    }
+}
+
+}  // namespace vatro

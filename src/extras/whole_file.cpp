@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "extras/whole_file.h"
+
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "disk/system_file.h"
+#include "text/errors.h"
+
+namespace vatro {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kTries = 3;
+constexpr std::size_t kPiece = 1U << 18U;
+
+/// All of the file, or what was read before a failure.
+ReadResult ReadOnce(const fs::path& path) {
+    SystemFile file;
+    if (const int error = file.Open(path, SystemFile::Access::Read, false); error != 0) throw RunTimeError(FailureOf(error));
+    ReadResult result;
+    std::error_code unknown;
+    const auto length = fs::file_size(path, unknown);
+    if (!unknown) result.content.reserve(length);
+    try {
+        std::vector<char> buffer(kPiece);
+        while (const std::size_t count = file.Read(buffer)) result.content.append(buffer.data(), count);
+        result.whole = true;
+    } catch (const RunTimeError&) {
+        result.whole = false;
+    }
+    return result;
+}
+
+}  // namespace
+
+ReadResult ReadWhatIsThere(const fs::path& file) {
+    if (IsNoFile(file)) throw RunTimeError(Failure::PathFileAccess);
+    ReadResult result = ReadOnce(file);
+    for (int i = 1; i < kTries && !result.whole; ++i) result = ReadOnce(file);
+    return result;
+}
+
+std::string ReadWhole(const fs::path& file) {
+    ReadResult result = ReadWhatIsThere(file);
+    if (!result.whole) throw RunTimeError(Failure::DiskNotReady);
+    return std::move(result.content);
+}
+
+void WriteWhole(const fs::path& file, std::string_view content) {
+    fs::path beside = file;
+    beside += ".ny";
+    SystemFile out;
+    if (const int error = out.Open(beside, SystemFile::Access::Write, true); error != 0) throw RunTimeError(FailureOf(error));
+    try {
+        out.Truncate(0);
+        out.Write(content);
+        out.Sync();
+        out.Close();
+        CopyRights(file, beside);
+        if (const int error = RenameOver(beside, file); error != 0) throw RunTimeError(FailureOf(error));
+    } catch (const RunTimeError&) {
+        out.Close();
+        RemoveFile(beside);
+        throw;
+    }
+    SyncDirectory(file.parent_path());
+}
+
+bool IsNoFile(const fs::path& path) {
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    return fs::exists(status) && !fs::is_regular_file(status);
+}
+
+}  // namespace vatro

@@ -1,0 +1,327 @@
+// SPDX-License-Identifier: MIT
+#include "extras/safe_files.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "disk/temporary_world.h"
+#include "extras/log_lines.h"
+
+namespace vatro {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class SafeFilesTest : public TemporaryWorld {
+protected:
+    void SetUp() override { fs::create_directory(root_ / "log"); }
+
+    SafeFiles::Surroundings Surroundings() {
+        SafeFiles::Surroundings surroundings;
+        surroundings.state = root_ / "state";
+        surroundings.now = [this] { return now_; };
+        surroundings.tellTaken = [this] { ++taken_; };
+        surroundings.directoryWon = [this](const fs::path& directory) { won_.push_back(directory.filename().string()); };
+        return surroundings;
+    }
+    /// What a correction does: the copy, then its name.
+    void Rewrite(SafeFiles& files, const std::vector<std::string>& lines) const {
+        files.Open(1, At("log/FDkopi.txt"), FileMode::Output);
+        for (const std::string& line : lines) files.PrintLine(1, line);
+        files.Close(1);
+        files.Replace(At("log/FDkopi.txt"), At("log/FD80mSSB.txt"));
+    }
+    std::vector<std::string> Load() { return Lines(files_, At("log/FD80mSSB.txt")); }
+    /// The names of the versions of the log without their times.
+    std::vector<std::string> History() const {
+        std::vector<std::string> names;
+        std::error_code none;
+        if (!fs::exists(root_ / "log/historik", none)) return names;
+        for (std::string name : Names("log/historik")) {
+            if (name.ends_with("MIG.txt")) continue;
+            names.push_back(name.erase(name.find(' '), 20));
+        }
+        return names;
+    }
+    std::string Version(const std::string& name) const {
+        for (const std::string& entry : Names("log/historik")) {
+            std::string shortened = entry;
+            if (entry.find(' ') != std::string::npos && shortened.erase(entry.find(' '), 20) == name)
+                return Content("log/historik/" + entry);
+        }
+        return "(missing)";
+    }
+
+    DateTime now_{2026, 9, 5, 14, 5, 30, 0};
+    int taken_ = 0;
+    std::vector<std::string> won_;
+    DiskFiles disk_;
+    SafeFiles files_{disk_, Surroundings()};
+};
+
+const std::string kOne = ContactLine(1, 1);
+const std::string kTwo = ContactLine(2, 2);
+const std::string kThree = ContactLine(3, 3);
+const std::string kCorrected = ContactLine(2, 2, "DL2BB");
+
+TEST_F(SafeFilesTest, ReplacesTheLogAndKeepsTheOldOne) {
+    Put("log/FD80mSSB.txt", LogOf(3));
+    Load();
+    Rewrite(files_, {kOne, kCorrected, kThree});
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), kOne + "\r\n" + kCorrected + "\r\n" + kThree + "\r\n");
+    EXPECT_EQ(Content("log/FDkopi.txt"), "(missing)");
+    EXPECT_THAT(History(), ElementsAre("FD80mSSB-0001.txt"));
+    EXPECT_EQ(Version("FD80mSSB-0001.txt"), LogOf(3));
+    EXPECT_THAT(files_.TakeNotices(), IsEmpty());
+}
+
+TEST_F(SafeFilesTest, AVersionDoesNotGrowWithTheLog) {
+    Put("log/FD80mSSB.txt", LogOf(1));
+    Load();
+    Rewrite(files_, {kOne});
+    WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kTwo);
+    EXPECT_EQ(Version("FD80mSSB-0001.txt"), LogOf(1));
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(2));
+}
+
+TEST_F(SafeFilesTest, MarksAVersionWithAContactThatItsSuccessorLacks) {
+    Put("log/FD80mSSB.txt", LogOf(2));
+    Load();
+    Rewrite(files_, {kOne, ContactLine(2, 59)});
+    EXPECT_THAT(History(), ElementsAre("FD80mSSB-0001 behold.txt"));
+    EXPECT_THAT(files_.TakeNotices(), IsEmpty());
+}
+
+TEST_F(SafeFilesTest, KeepsWhatTheProgramHadNotSeenAndTellsOnce) {
+    // The list is shorter than the file, as after a read that failed.
+    Put("log/FD80mSSB.txt", LogOf(3));
+    Rewrite(files_, {kOne});
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(1));
+    EXPECT_EQ(Version("FD80mSSB-0001 samles.txt"), LogOf(3));
+    const std::vector<std::string> notices = files_.TakeNotices();
+    ASSERT_THAT(notices, SizeIs(1));
+    EXPECT_THAT(notices[0], HasSubstr("FD80mSSB.txt"));
+    EXPECT_THAT(notices[0], HasSubstr("FD80mSSB-0001 2026-09-05 14.05.30 samles.txt"));
+    EXPECT_THAT(files_.TakeNotices(), IsEmpty());
+}
+
+TEST_F(SafeFilesTest, SeesThatSomebodyElseHasAppended) {
+    Put("log/FD80mSSB.txt", LogOf(1));
+    Load();
+    Put("log/FD80mSSB.txt", LogOf(2));
+    Rewrite(files_, {kOne});
+    EXPECT_EQ(Version("FD80mSSB-0001 samles.txt"), LogOf(2));
+    EXPECT_THAT(files_.TakeNotices(), SizeIs(1));
+}
+
+TEST_F(SafeFilesTest, SeesThatSomebodyElseHasChangedALine) {
+    Put("log/FD80mSSB.txt", LogOf(2));
+    Load();
+    Put("log/FD80mSSB.txt", kOne + "\r\n" + kCorrected + "\r\n");
+    Rewrite(files_, {kOne, kTwo});
+    EXPECT_EQ(Version("FD80mSSB-0001 samles.txt"), kOne + "\r\n" + kCorrected + "\r\n");
+    EXPECT_THAT(files_.TakeNotices(), SizeIs(1));
+}
+
+TEST_F(SafeFilesTest, KnowsWhatItHasAppendedItself) {
+    // Without a line end, as a text editor leaves it.
+    Put("log/FD80mSSB.txt", kOne);
+    Load();
+    WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kTwo);
+    WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, "NOTE: pause");
+    Rewrite(files_, {kOne, kCorrected, "NOTE: pause"});
+    EXPECT_THAT(History(), ElementsAre("FD80mSSB-0001.txt"));
+    EXPECT_THAT(files_.TakeNotices(), IsEmpty());
+}
+
+TEST_F(SafeFilesTest, KnowsALogThatItHasBegunItself) {
+    WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kOne);
+    WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kTwo);
+    Rewrite(files_, {kOne, kCorrected});
+    EXPECT_THAT(History(), ElementsAre("FD80mSSB-0001.txt"));
+}
+
+TEST_F(SafeFilesTest, PutsAnAbandonedCopyAsideWithANoteOfItsLog) {
+    Put("log/FD80mSSB.txt", LogOf(2));
+    Put("log/FDkopi.txt", LogOf(3));
+    Load();
+    Rewrite(files_, {kOne, kCorrected});
+    EXPECT_EQ(Version("FDkopi-0001 behold.txt"), LogOf(3));
+    EXPECT_THAT(Version("FDkopi-0001 behold note.txt"), HasSubstr("FD80mSSB.txt"));
+    EXPECT_EQ(Version("FD80mSSB-0001.txt"), LogOf(2));
+}
+
+TEST_F(SafeFilesTest, KeepsTheNewestTwentyAndOneAnHourBeforeThat) {
+    Put("log/FD80mSSB.txt", LogOf(1));
+    Load();
+    for (int i = 0; i < 60; ++i) {
+        now_.hour = 10 + i / 20;
+        now_.minute = i % 20;
+        Rewrite(files_, {kOne});
+    }
+    std::vector<std::string> expected{"FD80mSSB-0020.txt", "FD80mSSB-0040.txt"};
+    for (int i = 41; i <= 60; ++i) expected.push_back("FD80mSSB-00" + std::to_string(i) + ".txt");
+    EXPECT_EQ(History(), expected);
+}
+
+TEST_F(SafeFilesTest, NeverRemovesAMarkedVersion) {
+    Put("log/FD80mSSB.txt", LogOf(2));
+    Load();
+    Rewrite(files_, {kOne, ContactLine(2, 59)});
+    for (int i = 0; i < 40; ++i) Rewrite(files_, {kOne, ContactLine(2, 59)});
+    EXPECT_THAT(History(), testing::Contains("FD80mSSB-0001 behold.txt"));
+}
+
+TEST_F(SafeFilesTest, ShowsNoDamagedEndAndTellsOfIt) {
+    const std::string torn = LogOf(2) + kThree.substr(0, 30);
+    Put("log/FD80mSSB.txt", torn);
+    EXPECT_THAT(Load(), ElementsAre(kOne, kTwo));
+    EXPECT_THAT(Load(), ElementsAre(kOne, kTwo));
+    EXPECT_THAT(files_.TakeNotices(), ElementsAre(HasSubstr("30 tegn")));
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), torn);
+}
+
+TEST_F(SafeFilesTest, PutsTheNextContactInThePlaceOfADamagedEnd) {
+    const std::string torn = LogOf(2) + std::string(100, '\0');
+    Put("log/FD80mSSB.txt", torn);
+    Load();
+    WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kThree);
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(3));
+    std::vector<std::string> kept;
+    for (const auto& entry : fs::recursive_directory_iterator(root_ / "state"))
+        if (entry.is_regular_file() && entry.path().filename().string().starts_with("FD80mSSB"))
+            kept.push_back(Content(fs::relative(entry.path(), root_).string()));
+    EXPECT_THAT(kept, ElementsAre(torn));
+    Rewrite(files_, {kOne, kCorrected, kThree});
+    EXPECT_THAT(files_.TakeNotices(), SizeIs(1)) << "the damaged end alone";
+}
+
+TEST_F(SafeFilesTest, WritesNothingInADirectoryThatHasBecomeAnotherOne) {
+    Put("log/FD80mSSB.txt", LogOf(1));
+    ASSERT_TRUE(files_.TakeDirectory(At("log")));
+    WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kTwo);
+    // The stick is pulled, the mount point is left.
+    fs::rename(root_ / "log", root_ / "stick");
+    EXPECT_EQ(NumberOf([&] { files_.Open(1, At("log/FD80mSSB.txt"), FileMode::Append); }), 76);
+    fs::create_directory(root_ / "log");
+    EXPECT_EQ(NumberOf([&] { files_.Open(1, At("log/FD80mSSB.txt"), FileMode::Append); }), 76);
+    EXPECT_EQ(NumberOf([&] { files_.Open(1, At("log/FDkopi.txt"), FileMode::Output); }), 76);
+    EXPECT_THAT(Names("log"), IsEmpty());
+}
+
+TEST_F(SafeFilesTest, WritesNothingInADirectoryThatHasComeLate) {
+    fs::remove(root_ / "log");
+    ASSERT_TRUE(files_.TakeDirectory(At("log")));
+    fs::create_directory(root_ / "log");
+    Put("log/FD80mSSB.txt", LogOf(3));
+    EXPECT_EQ(NumberOf([&] { files_.Open(1, At("log/FD80mSSB.txt"), FileMode::Append); }), 76);
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(3));
+}
+
+TEST_F(SafeFilesTest, RefusesADirectoryThatAnotherCopyHas) {
+    fs::create_directory(root_ / "other");
+    DiskFiles elsewhere;
+    SafeFiles another(elsewhere, Surroundings());
+    ASSERT_TRUE(another.TakeDirectory(At("other")));
+    ASSERT_TRUE(files_.TakeDirectory(At("log")));
+    EXPECT_FALSE(SafeFiles(disk_, Surroundings()).TakeDirectory(At("log")));
+    EXPECT_EQ(NumberOf([&] { files_.Open(1, At("other/setlog.txt"), FileMode::Output); }), 70);
+    EXPECT_EQ(taken_, 1);
+    // The old one is kept.
+    WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kOne);
+    EXPECT_FALSE(another.TakeDirectory(At("log")));
+}
+
+TEST_F(SafeFilesTest, MovesToAChosenDirectory) {
+    fs::create_directory(root_ / "other");
+    ASSERT_TRUE(files_.TakeDirectory(At("log")));
+    files_.Open(1, At("other/setlog.txt"), FileMode::Output);
+    files_.Close(1);
+    EXPECT_THAT(won_, ElementsAre("log", "other"));
+    WriteFile(files_, At("other/FD80mSSB.txt"), FileMode::Append, kOne);
+    DiskFiles elsewhere;
+    SafeFiles another(elsewhere, Surroundings());
+    EXPECT_FALSE(another.TakeDirectory(At("other")));
+    EXPECT_TRUE(another.TakeDirectory(At("log")));
+}
+
+TEST_F(SafeFilesTest, ChoosesTheSameDirectoryAgain) {
+    ASSERT_TRUE(files_.TakeDirectory(At("log")));
+    files_.Open(1, At("log/setlog.txt"), FileMode::Output);
+    files_.Close(1);
+    EXPECT_THAT(won_, ElementsAre("log"));
+    EXPECT_EQ(taken_, 0);
+}
+
+TEST_F(SafeFilesTest, ClosesWhatAHandlerHasLeftOpen) {
+    Put("log/FD80mSSB.txt", LogOf(1));
+    Put("a.txt", "x\r\n");
+    files_.Open(1, At("log/FD80mSSB.txt"), FileMode::Input);
+    files_.Open(2, At("a.txt"), FileMode::Input);
+    files_.CloseLeftovers();
+    EXPECT_THAT(Load(), ElementsAre(kOne));
+    files_.Open(2, At("a.txt"), FileMode::Input);
+}
+
+TEST_F(SafeFilesTest, ClosesATableThatItsLoadHasLeftOpen) {
+    Put("edr.txt", "OZ1ABC Test\r\n");
+    Put("log/FD80mSSB.txt", LogOf(1));
+    files_.Open(1, At("edr.txt"), FileMode::Input);
+    EXPECT_THAT(Load(), ElementsAre(kOne));
+}
+
+TEST_F(SafeFilesTest, KeepsTheRulesOfNumbersOtherwise) {
+    Put("log/FD80mSSB.txt", LogOf(1));
+    files_.Open(1, At("log/FD80mSSB.txt"), FileMode::Input);
+    EXPECT_EQ(NumberOf([&] { files_.Open(1, At("log/FD40mSSB.txt"), FileMode::Append); }), 55);
+    EXPECT_EQ(NumberOf([&] { files_.Open(2, At("log/FD80mSSB.txt"), FileMode::Append); }), 55);
+    EXPECT_EQ(files_.LineInput(1), kOne);
+    EXPECT_EQ(NumberOf([&] { files_.LineInput(1); }), 62);
+    EXPECT_EQ(NumberOf([&] { files_.PrintLine(1, "x"); }), 54);
+    files_.Close(1);
+    EXPECT_EQ(NumberOf([&] { files_.LineInput(1); }), 52);
+    EXPECT_EQ(NumberOf([&] { files_.Open(1, At("log/FD40mSSB.txt"), FileMode::Input); }), 53);
+    EXPECT_EQ(NumberOf([&] { files_.Open(3, At("log/FD80mSSB.txt"), FileMode::Input); }), 52);
+    EXPECT_EQ(NumberOf([&] { files_.Open(1, "", FileMode::Input); }), 52);
+}
+
+TEST_F(SafeFilesTest, ADirectoryInPlaceOfAFileIsAFailure) {
+    fs::create_directory(root_ / "log/FD80mSSB.txt");
+    for (const FileMode mode : {FileMode::Input, FileMode::Append, FileMode::Output})
+        EXPECT_EQ(NumberOf([&] { files_.Open(1, At("log/FD80mSSB.txt"), mode); }), 75);
+}
+
+TEST_F(SafeFilesTest, KeepsAnOlderBackupOnTheComputer) {
+    fs::create_directory(root_ / "backup");
+    Put("log/FD80mSSB.txt", LogOf(1));
+    Put("backup/FD80mSSB.txt", LogOf(3));
+    files_.Copy(At("log/FD80mSSB.txt"), At("backup/FD80mSSB.txt"));
+    EXPECT_EQ(Content("backup/FD80mSSB.txt"), LogOf(1));
+    EXPECT_THAT(Names("backup"), ElementsAre("FD80mSSB.txt"));
+    std::vector<std::string> kept;
+    for (const auto& entry : fs::recursive_directory_iterator(root_ / "state"))
+        if (entry.is_regular_file() && entry.path().filename().string().starts_with("FD80mSSB"))
+            kept.push_back(Content(fs::relative(entry.path(), root_).string()));
+    EXPECT_THAT(kept, ElementsAre(LogOf(3)));
+}
+
+TEST_F(SafeFilesTest, FailsALogThatIsNotThereToBeReplacedByNothing) {
+    Put("log/FD80mSSB.txt", LogOf(1));
+    EXPECT_EQ(NumberOf([&] { files_.Replace(At("log/FDkopi.txt"), At("log/FD80mSSB.txt")); }), 53);
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(1));
+}
+
+TEST_F(SafeFilesTest, MakesTheLogAgainThatSomebodyHasRemoved) {
+    Put("log/FD80mSSB.txt", LogOf(1));
+    Load();
+    fs::remove(root_ / "log/FD80mSSB.txt");
+    Rewrite(files_, {kOne});
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(1));
+}
+
+}  // namespace
+}  // namespace vatro
