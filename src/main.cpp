@@ -16,6 +16,7 @@
 #include "qt/dialogs.h"
 #include "qt/front.h"
 #include "qt/printer.h"
+#include "qt/safety.h"
 #include "qt/services.h"
 #include "qt/settings_store.h"
 #include "qt/sound.h"
@@ -27,10 +28,11 @@ int main(int argc, char** argv) {
 
     vatro::QtFront front;
     vatro::QtSettings settings;
-    vatro::DiskFiles files;
+    vatro::DiskFiles disk;
     vatro::QtClock clock;
     vatro::QtHelp help;
-    vatro::QtInstance instance;
+    vatro::QtInstance perUser;
+    vatro::Safety safety(disk, clock, settings, perUser);
     vatro::QtSound sound;
     vatro::QtPrinter pages;
     vatro::PageSurface printer(pages);
@@ -38,10 +40,10 @@ int main(int argc, char** argv) {
     vatro::InstallPlatform({front,
                             dialogs,
                             settings,
-                            files,
+                            safety.ProgramFiles(),
                             clock,
                             help,
-                            instance,
+                            safety.ProgramInstance(),
                             sound,
                             printer,
                             {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
@@ -55,6 +57,7 @@ int main(int argc, char** argv) {
         if (vatro::ProgramRuns() && !vatro::FrmMain::HarPlads()) vatro::SpreadWindows(front);
     });
     const int result = QApplication::exec();
+    safety.TellRest();
     if (const auto loss = settings.Loss()) std::unique_ptr<QMessageBox>(vatro::MakeBox(*loss, nullptr))->exec();
     return result;
 }

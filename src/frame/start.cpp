@@ -58,6 +58,13 @@ void NulstilAlt() {
     gbVisLand = false;
 }
 
+void VisKørerAllerede() {
+    MessageBox afvist;
+    afvist.text = "Der må kun køre een udgave ellers går der kuk i loggen!"_t;
+    afvist.title = "Vatro kører allerede."_t;
+    MsgBox(afvist);
+}
+
 void StartProgram() {
     NulstilAlt();
     platform().printer.Abandon();
@@ -67,10 +74,7 @@ void StartProgram() {
 
     // Before any table is loaded: two copies would write the same log.
     if (platform().instance.AnotherCopyRuns()) {
-        MessageBox afvist;
-        afvist.text = "Der må kun køre een udgave ellers går der kuk i loggen!"_t;
-        afvist.title = "Vatro kører allerede."_t;
-        MsgBox(afvist);
+        VisKørerAllerede();
         EndProgram();
     }
 

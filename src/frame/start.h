@@ -16,6 +16,9 @@ void NulstilAlt();
 /// after BeginProgram.
 void StartProgram();
 
+/// The box that refuses a second copy.
+void VisKørerAllerede();
+
 /// Major, minor and revision, joined by ".".
 std::string VersionTekst();
 

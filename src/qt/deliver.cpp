@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/deliver.h"
 
+#include <utility>
 #include <vector>
 
 #include "platform/program.h"
@@ -12,11 +13,22 @@ namespace {
 /// The loops that run, the innermost at the end.
 std::vector<WaitLoop*> waiting;
 
+/// How many events are under way, one inside the other.
+int depth = 0;
+std::function<void()> afterHandlers;
+
 }  // namespace
 
 void Deliver(const std::function<void()>& event) {
+    ++depth;
     Dispatch(event);
+    --depth;
     WaitLoop::Look();
+    if (depth == 0 && afterHandlers) afterHandlers();
+}
+
+void SetAfterHandlers(std::function<void()> what) {
+    afterHandlers = std::move(what);
 }
 
 bool WaitLoop::Over() const {

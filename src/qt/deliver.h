@@ -12,6 +12,9 @@ namespace vatro {
 /// Runs one event to its end. The form and the control that it belongs to may be gone afterwards.
 void Deliver(const std::function<void()>& event);
 
+/// What is to be done whenever the outermost event has come to its end: then no handler, box, dialogue or modal form is open.
+void SetAfterHandlers(std::function<void()> what);
+
 /// Waits inside an event, with all events delivered, for an open modal form or box.
 class WaitLoop {
 public:

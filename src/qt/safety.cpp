@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "qt/safety.h"
+
+#include <QMessageBox>
+#include <memory>
+#include <utility>
+
+#include "frame/start.h"
+#include "platform/program.h"
+#include "qt/deliver.h"
+#include "qt/dialogs.h"
+#include "qt/recovery_window.h"
+#include "text/codepage.h"
+
+namespace vatro {
+
+using namespace literals;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool GoOnInASilentDirectory() {
+    MessageBox question;
+    question.text =
+        "Vatro på en anden maskine har ikke givet logbiblioteket fri, men har ikke rørt det i et minut.\r\n\r\n"
+        "Kører den ikke mere, så svar Ja. Kører den, så svar Nej: ellers bliver de samme numre givet to gange.\r\n\r\n"
+        "Fortsætter du?"_t;
+    question.title = "Logbiblioteket er måske i brug"_t;
+    question.buttons = Buttons::YesNo;
+    question.icon = Icon::Question;
+    question.defaultNo = true;
+    return MsgBox(question) == Answer::Yes;
+}
+
+}  // namespace
+
+Safety::Safety(Files& disk, Clock& clock, Settings& settings, Instance& perUser)
+    : settings_(settings), clock_(clock), perUser_(perUser), files_(disk, Surroundings()) {
+    SetAfterHandlers([this] { HandlersAreOver(); });
+}
+
+Safety::~Safety() {
+    SetAfterHandlers({});
+}
+
+SafeFiles::Surroundings Safety::Surroundings() {
+    SafeFiles::Surroundings surroundings;
+    surroundings.now = [this] { return clock_.Now(); };
+    surroundings.tellTaken = [] { VisKørerAllerede(); };
+    surroundings.askSilent = GoOnInASilentDirectory;
+    surroundings.directoryWon = [this](const fs::path& directory) { LookThrough(directory); };
+    return surroundings;
+}
+
+bool Safety::BothLocks::AnotherCopyRuns() {
+    if (safety_.perUser_.AnotherCopyRuns()) return true;
+    return !safety_.files_.TakeDirectory(safety_.settings_.Read("Settings", "gsLogLib").value_or(std::string()));
+}
+
+void Safety::LookThrough(const fs::path& directory) {
+    const auto text = [this](std::string_view key, std::string_view fallback) {
+        return settings_.Read("Settings", key).value_or(std::string(fallback));
+    };
+    RecoveryPlaces places;
+    places.logs = directory;
+    const std::string tables = text("gsFDLib", "");
+    places.tables = NativePath(tables.empty() ? files_.CurrentDirectory() : tables);
+    places.firstLog = text("Band", "80m") + text("Mode", "SSB");
+    places.now = clock_.Now();
+    History history = files_.HistoryOf(directory);
+    const std::vector<fs::path> left = Recover(places, history);
+    for (const fs::path& log : left) files_.ToldOfDamage(log);
+}
+
+void Safety::HandlersAreOver() {
+    files_.CloseLeftovers();
+    if (telling_ || !ProgramRuns()) return;
+    TellRest();
+}
+
+void Safety::TellRest() {
+    telling_ = true;
+    for (const std::string& notice : files_.TakeNotices()) {
+        MessageBox box;
+        box.text = notice;
+        box.title = "Vatro - loggen"_t;
+        box.icon = Icon::Exclamation;
+        const std::unique_ptr<QMessageBox> made(MakeBox(box, DialogOwner()));
+        RunDialog(*made);
+    }
+    telling_ = false;
+}
+
+}  // namespace vatro
