@@ -5,6 +5,7 @@
 
 #include "disk/disk_files.h"
 #include "entry/frmMain.h"
+#include "extras/safe_files.h"
 #include "frame/start.h"
 #include "platform/platform.h"
 #include "platform/program.h"
@@ -41,16 +42,27 @@ void Workplace::Furnish(const std::vector<std::string>& log, Settings& settings)
     settings.Write("Settings", "VisInfo2002", "False");
 }
 
+/// The files are those of the desktop program, which keeps what it replaces.
 struct Program::Services {
-    DiskFiles files;
+    explicit Services(const Workplace& workplace) : files(disk, Around(workplace)) {}
+    static SafeFiles::Surroundings Around(const Workplace& workplace) {
+        SafeFiles::Surroundings surroundings;
+        surroundings.state = workplace.Path("state");
+        surroundings.now = [] { return platform().clock.Now(); };
+        return surroundings;
+    }
+
+    DiskFiles disk;
+    SafeFiles files;
     MemoryPlatform memory;
     Unattended unattended;
 };
 
-Program::Program(const std::vector<std::string>& log) : services_(std::make_unique<Services>()) {
+Program::Program(const std::vector<std::string>& log) : services_(std::make_unique<Services>(workplace_)) {
     Services& with = *services_;
     workplace_.Furnish(log, with.memory.settings);
     with.memory.Install(with.unattended, with.files);
+    with.files.TakeDirectory(NativeText(workplace_.Path("log")));
     BeginProgram();
     Dispatch(StartProgram);
     if (frmMain->List1.ListCount() != static_cast<int>(log.size())) throw std::runtime_error("the log was not read");
