@@ -10,6 +10,9 @@ namespace vatro {
 
 namespace {
 
+/// A line that no log has, as of a file of another kind, is shown cut: laying out a million characters takes seconds.
+constexpr std::size_t kMostShown = 4000;
+
 /// Every row is as wide as the longest one, so that none is out of reach of the scroll bar, and blanks at the end ask for none.
 class RowDelegate : public QStyledItemDelegate {
 public:
@@ -36,7 +39,9 @@ int ItemModel::rowCount(const QModelIndex& parent) const {
 QVariant ItemModel::data(const QModelIndex& index, int role) const {
     // While the control is being refilled it may hold fewer rows than are shown.
     if (role != Qt::DisplayRole || list_ == nullptr || index.row() >= list_->ListCount()) return {};
-    return ToQt(list_->Items()[static_cast<std::size_t>(index.row())]);
+    const std::string_view text = list_->Items()[static_cast<std::size_t>(index.row())];
+    if (text.size() <= kMostShown) return ToQt(text);
+    return ToQt(text.substr(0, kMostShown)) + QStringLiteral(" ...");
 }
 
 void ItemModel::Reset() {
@@ -49,7 +54,7 @@ void ItemModel::Reset() {
 
 void ItemModel::Measure(int row) {
     const std::string& text = list_->Items()[static_cast<std::size_t>(row)];
-    widest_ = qMax(widest_, static_cast<int>(text.find_last_not_of(' ') + 1));
+    widest_ = qMax(widest_, static_cast<int>(qMin(text.find_last_not_of(' ') + 1, kMostShown)));
 }
 
 void ItemModel::Added(int row) {
