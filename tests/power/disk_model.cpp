@@ -14,6 +14,14 @@ namespace {
 /// How the system shows a file that has no name, or has lost it.
 constexpr std::string_view kNameless = " (deleted)";
 
+/// Of a file that had the blocks before.
+std::string Remains(std::size_t size) {
+    constexpr std::string_view kOld("\x7f\x45LF\x02\x01 of another file, \xfe\xff\x03", 30);
+    std::string remains;
+    while (remains.size() < size) remains += kOld;
+    return remains.substr(0, size);
+}
+
 }  // namespace
 
 DiskState ReadDisk(const fs::path& directory) {
@@ -76,6 +84,9 @@ void DiskModel::Do(const DiskCall& call) {
             shownNames_[call.to.string()] = shownNames_.at(path);
             shownNames_.erase(path);
             break;
+        case DiskCall::Kind::Link:
+            shownNames_[call.to.string()] = shownNames_.at(path);
+            break;
         case DiskCall::Kind::Told:
             break;
     }
@@ -90,6 +101,10 @@ std::string DiskModel::File::Found(Taken taken) const {
             return goesOn ? shown.substr(0, synced.size() + (shown.size() - synced.size()) / 2) : shown.substr(0, shown.size() / 2);
         case Taken::Length:
             return goesOn ? synced : std::string();
+        case Taken::Zeros:
+            return goesOn ? synced + std::string(shown.size() - synced.size(), '\0') : std::string(shown.size(), '\0');
+        case Taken::Remains:
+            return goesOn ? synced + Remains(shown.size() - synced.size()) : Remains(shown.size());
         case Taken::Nothing:
             break;
     }
@@ -106,7 +121,8 @@ DiskState DiskModel::Found(const Names& names, Taken taken) const {
 std::set<DiskState> DiskModel::AfterPowerCut() const {
     std::set<DiskState> states;
     for (const Names& names : {shownNames_, syncedNames_})
-        for (const Taken taken : {Taken::All, Taken::Half, Taken::Length, Taken::Nothing}) states.insert(Found(names, taken));
+        for (const Taken taken : {Taken::All, Taken::Half, Taken::Length, Taken::Zeros, Taken::Remains, Taken::Nothing})
+            states.insert(Found(names, taken));
     return states;
 }
 

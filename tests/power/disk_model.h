@@ -3,8 +3,8 @@
 // What may be found on a disk after the power has gone.
 //
 // Calls change what the system shows; only what was synced is sure to be found again. Of the rest the disk may have taken
-// all, nothing, or a part: a file may have its new length and not its bytes, a directory its new names and not the files'
-// contents, or the other way round.
+// all, nothing, or a part: a file may have its new length and zeros, or what was on the disk before, in place of its bytes; a
+// directory may have its new names and not the files' contents, or the other way round.
 #pragma once
 
 #include <filesystem>
@@ -35,7 +35,7 @@ public:
 
 private:
     /// How much of what was not synced the disk has taken.
-    enum class Taken { All, Half, Length, Nothing };
+    enum class Taken { All, Half, Length, Zeros, Remains, Nothing };
     struct File {
         std::string shown;
         std::string synced;

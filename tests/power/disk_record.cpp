@@ -100,9 +100,14 @@ private:
             case SYS_renameat:
             case SYS_renameat2:
                 return Rename(PathAt(arguments_[0], arguments_[1]), PathAt(arguments_[2], arguments_[3]), begin);
-            case SYS_linkat:
+            case SYS_linkat: {
+                const fs::path from = PathAt(arguments_[0], arguments_[1]);
                 // A file without a name gets one.
-                return Rename(Target(Text(arguments_[1])), PathAt(arguments_[2], arguments_[3]), begin);
+                if (from.string().starts_with("/proc/")) return Rename(Target(from), PathAt(arguments_[2], arguments_[3]), begin);
+                if (DiskCall* link = begin(DiskCall::Kind::Link, from))
+                    link->to = PathAt(arguments_[2], arguments_[3]).lexically_relative(directory_);
+                return;
+            }
             case SYS_writev:
             case SYS_pwrite64:
             case SYS_fallocate:

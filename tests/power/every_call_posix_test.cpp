@@ -64,13 +64,13 @@ bool Holds(const DiskState& state, const std::string& path, const std::string& c
     return file != state.end() && file->second == content;
 }
 
-/// Grows by whole lines only once they are told of; until then the new end may be there in part. `before` stays.
+/// Grows by whole lines once they are told of; until then the new end may be there in part, or damaged. `before` stays.
 Allowed Appended(const std::string& path, const std::string& before, const std::string& after) {
     return [=](const DiskState& found, bool told) {
         if (told) return Holds(found, path, after);
         const auto file = found.find(path);
         if (file == found.end()) return before.empty();
-        return file->second.starts_with(before) && after.starts_with(file->second);
+        return file->second.starts_with(before) && file->second.size() <= after.size();
     };
 }
 
@@ -83,7 +83,7 @@ Allowed Rewritten(const std::string& before, const std::string& after) {
     };
 }
 
-/// Written anew in its place, from data that are elsewhere: the old content, or the beginning of the new.
+/// Written anew in its place, from data that are elsewhere: the old content, or as much as the new at most, damaged or not.
 Allowed WrittenInPlace(const std::string& path, const DiskState& before, const DiskState& after) {
     const auto old = before.find(path);
     const bool missing = old == before.end();
@@ -91,7 +91,7 @@ Allowed WrittenInPlace(const std::string& path, const DiskState& before, const D
         if (told) return Holds(found, path, is);
         const auto file = found.find(path);
         if (file == found.end()) return missing;
-        return (!missing && file->second == was) || is.starts_with(file->second);
+        return (!missing && file->second == was) || file->second.size() <= is.size();
     };
 }
 
