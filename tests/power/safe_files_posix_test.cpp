@@ -170,6 +170,23 @@ TEST_F(SafeDisk, APowerCutLeavesADamagedEndThatTheProgramDoesNotSee) {
     EXPECT_GE(damaged, 3U) << "half a line, zeros, remains of another file";
 }
 
+TEST_F(SafeDisk, AContactCostsTheCallsOfABareAppend) {
+    const TemporaryDirectory directory;
+    Put(directory.Path(), Before());
+    const std::vector<DiskCall> calls = RecordCalls(directory.Path(), [&](const Teller&) {
+        Desk desk(directory.Path());
+        desk.Files().TakeDirectory(NativeText(directory.Path() / "log"));
+        desk.Load();
+        desk.Append(kAppended);
+    });
+    std::vector<DiskCall::Kind> kinds;
+    for (const DiskCall& call : calls)
+        if (call.path == "log/FD80mSSB.txt") kinds.push_back(call.kind);
+    EXPECT_EQ(kinds, (std::vector{DiskCall::Kind::Write, DiskCall::Kind::Sync}));
+    // The lock is there before.
+    EXPECT_TRUE(std::none_of(calls.begin(), calls.end(), [](const DiskCall& call) { return call.kind == DiskCall::Kind::SyncDirectory; }));
+}
+
 /// The story with one call going wrong, and a second try of what failed. What it has confirmed goes to a file beside.
 void LiveWithFault(const fs::path& root, const fs::path& journal) {
     Desk desk(root);
