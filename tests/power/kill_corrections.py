@@ -54,7 +54,7 @@ def line_of(number):
 class Screen:
     def __init__(self, home):
         read, write = os.pipe()
-        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
+        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp", "-noreset"],
                                        pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as number:
@@ -221,7 +221,7 @@ class Driver:
             kill = [] if kill_before is None else ["-e", f"inject={kill_before[0]}:signal=SIGKILL:when={kill_before[1]}"]
             tracer = subprocess.Popen(["strace", "-f", "-qq", "-o", trace, "-e", "trace=" + CALLS, *kill,
                                        *sum((["-P", p] for p in paths), []), "-p", str(program.pid)], stderr=subprocess.PIPE)
-            time.sleep(0.15)
+            self.wait_for_tracer(program)
         screen.xdotool("key", "Return")
         if kill_before == "random":
             time.sleep(self.random.uniform(0, 0.08))
@@ -244,10 +244,21 @@ class Driver:
             self.calls = calls_in(trace)
             where = f"after its correction, which has {len(self.calls)} calls"
         elif kill_before != "random":
-            seen = calls_in(trace)
-            where = f"before call {len(seen)}, {seen[-1][2][:150]}"
+            # Another tracer may not have been ready in time; the life then was not ended.
+            seen = calls_in(trace) if os.path.exists(trace) else []
+            where = f"before call {len(seen)}, {seen[-1][2][:150]}" if seen else "before any call"
         print(f"life {life}: {'recovered, ' if recovered else ''}{'ended' if ended or kill_before is None else 'not ended'} {where}", flush=True)
         return ended
+
+    def wait_for_tracer(self, program):
+        for _ in range(200):
+            with open(f"/proc/{program.pid}/status") as status:
+                if "TracerPid:\t0" not in status.read():
+                    # Its threads one after the other.
+                    time.sleep(0.1)
+                    return
+            time.sleep(0.02)
+        self.fail("strace does not attach")
 
     def remember(self, before, received, confirmed):
         self.received = received
