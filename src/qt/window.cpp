@@ -140,6 +140,16 @@ void FormWindow::Follow() {
     FollowFocus();
 }
 
+void FormWindow::FollowEnabled() {
+    if (top_->isEnabled() != form_.Enabled()) {
+        // This ends in the event that comes here again.
+        top_->setEnabled(form_.Enabled());
+        return;
+    }
+    for (const Control* control : form_.Controls())
+        if (control->mirror) control->mirror(Aspect::Enabled, -1);
+}
+
 WindowPlace FormWindow::Told() const {
     return {form_.Left(), form_.Top(), form_.Width(), form_.Height()};
 }
@@ -312,6 +322,9 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::Move:
         case QEvent::Resize:
             TellPlace();
+            return false;
+        case QEvent::EnabledChange:
+            FollowEnabled();
             return false;
         case QEvent::WindowStateChange:
             TellState();

@@ -77,6 +77,9 @@ private:
     void Build(QWidget* owner);
     void AddAppearance();
     WindowPlace Told() const;
+    /// Qt enables and disables whatever belongs to a window together with it: windows above it, and the menus, even those that
+    /// are disabled themselves. Their own state is put back.
+    void FollowEnabled();
     void FollowPlace();
     void FollowVisible();
     void Arrive();
