@@ -78,10 +78,11 @@ void QtFront::Activated(Form& /*form*/) {
 void QtFront::FollowActivation() {
     activationPending_ = false;
     Form* form = ActiveForm();
-    const FormWindow* window = form != nullptr ? WindowOf(*form) : nullptr;
+    FormWindow* window = form != nullptr ? WindowOf(*form) : nullptr;
     // A box in front keeps the keys; its form gets them back when it closes.
     if (window == nullptr || QApplication::activeModalWidget() != (form->Modal() ? window->Top() : nullptr)) return;
     if (!window->Top()->isVisible()) return;
+    window->FollowFocus();
     if (QApplication::activeWindow() == window->Top()) {
         // A window asked for meanwhile is wanted no more, and may never come.
         awaited_ = nullptr;
@@ -102,11 +103,12 @@ void QtFront::FollowAll() {
 }
 
 void QtFront::WindowActivated(Form& form) {
-    const FormWindow* window = WindowOf(form);
+    FormWindow* window = WindowOf(form);
     if (window == nullptr) return;
     const bool fresh = fresh_.erase(window->Top()) > 0;
     if (ActiveForm() == &form) {
         if (awaited_ == window->Top()) awaited_ = nullptr;
+        window->FollowFocus();
         return;
     }
     // Out of date, or only because the window has been shown: the keys go where the program wants them.

@@ -240,7 +240,8 @@ void FormWindow::SetSize(const QSize& size) {
 
 void FormWindow::FollowFocus() {
     const Control* active = form_.ActiveControl();
-    if (active == nullptr) return;
+    // Setting the focus can make Qt activate the window. One that is not to have the keys gets its focus when it is.
+    if (active == nullptr || &form_ != ActiveForm()) return;
     QWidget* widget = WidgetOf(*active);
     if (widget == nullptr) return;
     QWidget* const focused = top_->focusWidget();

@@ -55,6 +55,7 @@ public:
 
     /// Takes over what the form says of its frame.
     void Follow();
+    /// Gives Qt's focus to the form's active control, if the form is the active one.
     void FollowFocus();
     /// The user puts the window there; in twips, which are finer than what the screen can show.
     void MoveByUser(int left, int top, int width, int height);
