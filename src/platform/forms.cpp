@@ -54,7 +54,8 @@ void Form::SetCaption(std::string_view caption) {
 
 void Form::Place(int left, int top, int width, int height) {
     const bool resized = width != width_ || height != height_;
-    if (!resized && left == left_ && top == top_) return;
+    if (placed_ && !resized && left == left_ && top == top_) return;
+    placed_ = true;
     left_ = left;
     top_ = top;
     width_ = width;

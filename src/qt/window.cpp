@@ -81,6 +81,8 @@ void FormWindow::Build(QWidget* owner) {
         make(content);
     else
         AddProblem(name + QStringLiteral(" has no layout"));
+    // The user makes a side window as small as he likes, and finds it so at the next start.
+    if (form_.Kind() == FormKind::Tool && content->layout() != nullptr) content->layout()->setSizeConstraint(QLayout::SetNoConstraint);
     if (form_.Kind() == FormKind::Main) {
         auto* window = new QMainWindow(owner, Flags(form_.Kind()));
         const QSize size = content->size();
@@ -119,10 +121,9 @@ QWidget* FormWindow::WidgetOf(const Control& control) const {
 }
 
 void FormWindow::TakeDesignSize() {
-    if (form_.Width() != 0 || form_.Height() != 0) return;
+    if (form_.Kind() != FormKind::Main) return;
     const QSize size = top_->size();
     form_.SetDesignSize(size.width() * kTwipsPerPixel, size.height() * kTwipsPerPixel);
-    place_ = Told();
 }
 
 void FormWindow::Follow() {
@@ -157,9 +158,9 @@ WindowPlace FormWindow::Told() const {
 void FormWindow::FollowPlace() {
     const WindowPlace told = Told();
     // A window on its way to the screen is not disturbed: it would lose the place of its frame.
-    if (told == place_ || arriving_) return;
+    if (!form_.Placed() || told == place_ || arriving_) return;
     // Where the user has put the window, or the window manager is about to, is not for a new size to undo.
-    const bool moved = !placed_ || told.left != place_.left || told.top != place_.top;
+    const bool moved = !place_ || told.left != place_->left || told.top != place_->top;
     place_ = told;
     if (placing_) return;
     placing_ = true;
@@ -212,11 +213,6 @@ void FormWindow::FitToScreen() {
 }
 
 void FormWindow::FirstPlace() {
-    if (form_.Kind() == FormKind::Main) {
-        // Also where the form says the corner of the screen, which is no change of place.
-        top_->move(ToPixels(form_.Left()), ToPixels(form_.Top()));
-        return;
-    }
     const QRect screen = top_->screen()->availableGeometry();
     // As large as its layout asks for, which nobody has told it before it is shown.
     if (form_.Kind() == FormKind::Dialog || form_.Kind() == FormKind::FixedDialog || form_.Kind() == FormKind::FixedTool) {
@@ -262,7 +258,8 @@ void FormWindow::MoveByUser(int left, int top, int width, int height) {
 }
 
 void FormWindow::TellPlace() {
-    TellPlace(Told());
+    // Where the front has put a window that the form does not place is nothing to the form.
+    if (form_.Placed()) TellPlace(Told());
 }
 
 void FormWindow::TellPlace(const WindowPlace& finer) {

@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/forms.h"
@@ -59,7 +60,7 @@ public:
     void FollowFocus();
     /// The user puts the window there; in twips, which are finer than what the screen can show.
     void MoveByUser(int left, int top, int width, int height);
-    /// The size of the layout becomes that of a form that has none yet.
+    /// The size of the layout becomes that of a main form.
     void TakeDesignSize();
 
     // Of the binder.
@@ -84,7 +85,7 @@ private:
     void FollowPlace();
     void FollowVisible();
     void Arrive();
-    /// In the middle of the owner or of the screen.
+    /// In the middle of the owner or of the screen, for a form that does not say where it stands.
     void FirstPlace();
     /// A fixed window gets the size for good, not the user.
     void SetSize(const class QSize& size);
@@ -105,12 +106,12 @@ private:
     std::vector<QPointer<QWidget>> namedByCaption_;
     QStringList problems_;
     class ColumnHead* captionHead_ = nullptr;
-    /// As it was last taken over from the form.
-    WindowPlace place_;
+    /// As it was last taken over from the form, if ever.
+    std::optional<WindowPlace> place_;
     bool placing_ = false;
     bool telling_ = false;
     bool arriving_ = false;
-    /// The form has said where it stands.
+    /// The window stands where the form says, or where the front has put it first.
     bool placed_ = false;
 };
 
