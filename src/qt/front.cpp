@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QTimer>
 #include <QWidget>
+#include <algorithm>
 
 #include "platform/program.h"
 #include "qt/deliver.h"
@@ -100,6 +101,16 @@ void QtFront::Shown(const FormWindow& window) {
 void QtFront::FollowAll() {
     for (const auto& [form, window] : windows_)
         if (form->Visible() && !window->Top()->isVisible()) window->Follow();
+}
+
+void QtFront::FollowOwners() {
+    for (const auto& [form, window] : windows_) window->FollowOwner();
+}
+
+bool QtFront::MainMinimised() const {
+    return std::any_of(windows_.begin(), windows_.end(), [](const auto& entry) {
+        return entry.first->Kind() == FormKind::Main && entry.second->Top()->isVisible() && entry.second->Top()->isMinimized();
+    });
 }
 
 void QtFront::WindowActivated(Form& form) {

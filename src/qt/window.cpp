@@ -187,13 +187,37 @@ void FormWindow::FollowVisible() {
     placing_ = true;
     if (!placed_) FirstPlace();
     if (form_.Kind() == FormKind::Main && front_.fitToScreen) FitToScreen();
+    PutOnScreen();
+    if (form_.Kind() == FormKind::Main) front_.FollowAll();
+}
+
+void FormWindow::PutOnScreen() {
+    placing_ = true;
+    if (form_.Kind() == FormKind::Tool && top_->windowHandle() != nullptr) {
+        const QWidget* owner = top_->parentWidget();
+        owned_ = !front_.MainMinimised();
+        top_->windowHandle()->setTransientParent(owned_ && owner != nullptr ? owner->windowHandle() : nullptr);
+    }
+    // A window minimised together with its owner and hidden then would be shown minimised, and its owner with it.
+    if (form_.State() != WindowState::Minimised) top_->setWindowState(top_->windowState() & ~Qt::WindowMinimized);
     arriving_ = true;
     top_->show();
     placing_ = false;
     top_->windowHandle()->installEventFilter(this);
     if (top_->windowHandle()->isExposed()) Arrive();
     front_.Shown(*this);
-    if (form_.Kind() == FormKind::Main) front_.FollowAll();
+}
+
+void FormWindow::FollowOwner() {
+    if (form_.Kind() != FormKind::Tool || !form_.Visible() || !top_->isVisible()) return;
+    const bool alone = front_.MainMinimised();
+    if (alone ? !top_->isMinimized() || form_.State() == WindowState::Minimised : owned_) return;
+    // Only a window that comes anew to the screen gets another owner.
+    placing_ = true;
+    const QPoint at = top_->pos();
+    top_->hide();
+    top_->move(at);
+    PutOnScreen();
 }
 
 void FormWindow::Arrive() {
@@ -282,7 +306,11 @@ void FormWindow::TellState() {
     const WindowState state = top_->isMinimized()   ? WindowState::Minimised
                               : top_->isMaximized() ? WindowState::Maximised
                                                     : WindowState::Normal;
-    Deliver([&] { form_.UserState(state); });
+    // A side window has gone with the main window, not by itself.
+    const bool along = form_.Kind() == FormKind::Tool && state == WindowState::Minimised && (!top_->isVisible() || front_.MainMinimised());
+    const QPointer<FormWindow> self(this);
+    if (!along) Deliver([&] { form_.UserState(state); });
+    if (self != nullptr) front_.FollowOwners();
 }
 
 bool FormWindow::TakeKey(const QKeyEvent& event) {

@@ -60,6 +60,9 @@ public:
     void FollowFocus();
     /// The user puts the window there; in twips, which are finer than what the screen can show.
     void MoveByUser(int left, int top, int width, int height);
+    /// Window managers minimise the windows above a main window with it, though the program may want them on the screen. One that
+    /// it wants stands by itself as long as the main window is minimised, and above it again afterwards.
+    void FollowOwner();
     /// The size of the layout becomes that of a main form.
     void TakeDesignSize();
 
@@ -95,6 +98,8 @@ private:
     void TellPlace(const WindowPlace& finer);
     void TellPlace();
     void TellState();
+    /// Shows the window, which Qt may think minimised since it was hidden, or anew beside or above its owner.
+    void PutOnScreen();
     bool TakeKey(const class QKeyEvent& event);
 
     Form& form_;
@@ -113,6 +118,8 @@ private:
     bool arriving_ = false;
     /// The window stands where the form says, or where the front has put it first.
     bool placed_ = false;
+    /// The window system keeps the window above its owner.
+    bool owned_ = true;
 };
 
 }  // namespace vatro
