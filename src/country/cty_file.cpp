@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "country/cty_file.h"
 
-#include <cmath>
-#include <limits>
 #include <string>
 
 #include "text/errors.h"
@@ -54,9 +52,7 @@ CtyHoved LæsCtyHoved(std::string_view linje) {
 }
 
 float LæsCtyTal(std::string_view tekst) {
-    const double tal = NumericValue(tekst);
-    if (std::fabs(tal) > std::numeric_limits<float>::max()) throw RunTimeError(Failure::Overflow);
-    return static_cast<float>(tal);
+    return ToFloat32(NumericValue(tekst));
 }
 
 std::string_view CtyPoster::NæsteTekst() {

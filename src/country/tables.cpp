@@ -89,7 +89,7 @@ void IndlæsLande() {
         land.Pfx = Trim(Columns(linje, 1, kPfxLængde));
         land.Navn = Trim(Columns(linje, 11, 25));
         land.Kontinent = Trim(Columns(linje, 36, 2));
-        land.TidsZone = static_cast<float>(ToNumber(Trim(Columns(linje, 39, 5))));
+        land.TidsZone = ToFloat32(ToNumber(Trim(Columns(linje, 39, 5))));
         land.Wkd = false;
     });
 }

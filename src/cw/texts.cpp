@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cw/texts.h"
 
+#include <algorithm>
 #include <optional>
+#include <vector>
 
 #include "cw/frmCWTX.h"
 #include "cw/settings.h"
@@ -45,24 +47,53 @@ std::optional<std::string_view> Værdi(char kode) {
     }
 }
 
-/// The text with its codes replaced, also those inside a value. A code that stands inside its own value would never come to an
-/// end: `åbne` are those whose value this is.
-std::string Udvidet(std::string_view tekst, const std::string& åbne = {}) {
-    std::string udvidet;
-    for (std::size_t i = 0; i < tekst.size(); ++i) {
-        if (tekst[i] != '#') {
-            udvidet += tekst[i];
-            continue;
+/// A piece of text that is being read: the text itself, or the value of a code in it.
+struct Stykke {
+    /// The code that this is the value of, or 0.
+    char kode = 0;
+    std::string_view tekst;
+    std::size_t læst = 0;
+};
+
+/// Replaces the first code of the text until there is none. Values belong to the text: a code may stand inside a value, or begin
+/// at its end. A value that comes up again before its own end would come up for ever, so its code counts as unknown there.
+class Udvidelse {
+public:
+    explicit Udvidelse(std::string_view tekst) : stykker_{{0, tekst}} {}
+
+    std::string Udfør() {
+        std::string udvidet;
+        while (const auto tegn = Næste()) {
+            Læs();
+            if (*tegn != '#')
+                udvidet += *tegn;
+            else
+                Indsæt();
         }
-        if (i + 1 == tekst.size()) break;
-        const char kode = tekst[i + 1];
-        const auto værdi = Værdi(kode);
-        if (!værdi || åbne.find(kode) != std::string::npos) continue;
-        udvidet += Udvidet(*værdi, åbne + kode);
-        ++i;
+        return udvidet;
     }
-    return udvidet;
-}
+
+private:
+    /// The character to be read next, if any. Values that have been read to their end are left only here.
+    std::optional<char> Næste() {
+        while (!stykker_.empty() && stykker_.back().læst == stykker_.back().tekst.size()) stykker_.pop_back();
+        if (stykker_.empty()) return std::nullopt;
+        return stykker_.back().tekst[stykker_.back().læst];
+    }
+    void Læs() { ++stykker_.back().læst; }
+
+    /// Behind a "#": continues with the value of the code, if it is one.
+    void Indsæt() {
+        const auto kode = Næste();
+        const auto værdi = kode ? Værdi(*kode) : std::nullopt;
+        const auto samme = [&](const Stykke& stykke) { return stykke.kode == *kode; };
+        if (!værdi || std::any_of(stykker_.begin(), stykker_.end(), samme)) return;
+        Læs();
+        stykker_.push_back({*kode, *værdi});
+    }
+
+    std::vector<Stykke> stykker_;
+};
 
 void HentVærdier(const FrmMain& main) {
     if (!main.Text1[kCallFelt].Text().empty()) {
@@ -83,7 +114,8 @@ void DanCWTekst() {
     if (gsCWNummerFormat == kNummerMedT)
         for (std::size_t i = 0; i < gsCWNummer.size() && gsCWNummer[i] == '0'; ++i) gsCWNummer[i] = 'T';
     if (gsCWRSTFormat == kRSTMedN && gsCWRST == "599") gsCWRST = "5NN";
-    gsCWTekst = Udvidet(UpperText(gsCWRaa)) + ' ';
+    const std::string raa = UpperText(gsCWRaa);
+    gsCWTekst = Udvidelse(raa).Udfør() + ' ';
 }
 
 void SendCW(std::string_view tekst) {

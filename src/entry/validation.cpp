@@ -93,7 +93,7 @@ void ValiderQSO() {
 }
 
 void BedømQSO(Qso& qso, std::string& edr) {
-    LandWkd(qso.call, qso.multiplier, Handling::Op);
+    if (!qso.call.empty()) LandWkd(qso.call, qso.multiplier, Handling::Op);
     EDRstnWkd(edr, Handling::Op);
     BeregnPoint(qso.call);
     if (gbDupe) {

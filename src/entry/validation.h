@@ -16,8 +16,8 @@ namespace vatro {
 void ValiderQSO();
 
 /// What an accepted contact is worth, by its call as logged: marks its country as worked, and the society's station of the call
-/// `edr`, which is cut to six characters, and sets giQSOPoint and the contact's multiplier and points. A duplicate has no points
-/// and "-DUPE-"; its country stays marked and counted all the same.
+/// `edr`, which is cut to six characters, and sets giQSOPoint and the contact's multiplier and points. An empty call has no country. A
+/// duplicate has no points and "-DUPE-"; its country stays marked and counted all the same.
 void BedømQSO(Qso& qso, std::string& edr);
 /// The line of the contact goes to file and list, giQSOPoint to the counters and the status bar.
 void BogførQSO(const std::string& linje);

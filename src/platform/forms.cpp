@@ -54,7 +54,8 @@ void Form::SetCaption(std::string_view caption) {
 
 void Form::Place(int left, int top, int width, int height) {
     const bool resized = width != width_ || height != height_;
-    if (!resized && left == left_ && top == top_) return;
+    if (placed_ && !resized && left == left_ && top == top_) return;
+    placed_ = true;
     left_ = left;
     top_ = top;
     width_ = width;
@@ -148,11 +149,12 @@ void Form::MoveFocus(Control& control, FocusWay way) {
     const bool owed = entered_;
     active_ = &control;
     entered_ = false;
+    // The focus has moved already where LostFocus shows a box.
+    platform().front.Changed(*this);
     if (left != nullptr && owed && left->LostFocus) left->LostFocus();
     // The handler may have moved the focus elsewhere, or brought it here itself.
     if (active_ != &control || entered_) return;
     entered_ = true;
-    platform().front.Changed(*this);
     control.Entered(way);
     if (control.GotFocus) control.GotFocus();
 }

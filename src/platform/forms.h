@@ -38,6 +38,7 @@ public:
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string_view caption);
 
+    /// Nothing but noughts until somebody has placed the form; a main form has the size of its layout from the beginning.
     int Left() const { return left_; }
     int Top() const { return top_; }
     int Width() const { return width_; }
@@ -45,6 +46,8 @@ public:
     /// Sets the place; a front may not let a window become as small as asked. Form_Resize runs if the size has become
     /// another one.
     void Place(int left, int top, int width, int height);
+    /// Whether the program or the user has ever placed the form. Where it has not, the front puts the window where it likes.
+    bool Placed() const { return placed_; }
     void MoveTo(int left, int top) { Place(left, top, width_, height_); }
     void SetWidth(int width) { Place(left_, top_, width, height_); }
     void SetHeight(int height) { Place(left_, top_, width_, height); }
@@ -97,7 +100,7 @@ public:
     KeyCode UserKey(KeyCode key);
     /// A click on the form's own surface.
     void UserClicked() { Form_Click(); }
-    /// The size that the layout of the front gives the form, told while it is created; no Form_Resize.
+    /// The size that the layout of the front gives a main form, told while it is created; no Form_Resize.
     void SetDesignSize(int width, int height);
     /// The user has moved or sized the window.
     void UserPlaced(int left, int top, int width, int height);
@@ -136,6 +139,7 @@ private:
     int top_ = 0;
     int width_ = 0;
     int height_ = 0;
+    bool placed_ = false;
     WindowState state_ = WindowState::Normal;
     bool enabled_ = true;
     bool hourglass_ = false;

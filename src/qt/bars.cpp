@@ -80,13 +80,13 @@ QString ObjectName(const Control& control) {
 }
 
 void AddBars(const Form& form, QMainWindow& window) {
+    // Qt's menu of a main window hides toolbars, which the form knows nothing of.
+    window.setContextMenuPolicy(Qt::NoContextMenu);
     for (const Control* control : form.Controls()) {
         if (dynamic_cast<const Toolbar*>(control) != nullptr) {
             auto* bar = new QToolBar(&window);
             bar->setObjectName(ObjectName(*control));
             bar->setMovable(false);
-            // Its menu would let the user lose it.
-            bar->setContextMenuPolicy(Qt::PreventContextMenu);
             window.addToolBar(bar);
         } else if (dynamic_cast<const StatusBar*>(control) != nullptr) {
             window.statusBar()->setObjectName(ObjectName(*control));

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QTimer>
 #include <QWidget>
+#include <algorithm>
 
 #include "platform/program.h"
 #include "qt/deliver.h"
@@ -78,10 +79,11 @@ void QtFront::Activated(Form& /*form*/) {
 void QtFront::FollowActivation() {
     activationPending_ = false;
     Form* form = ActiveForm();
-    const FormWindow* window = form != nullptr ? WindowOf(*form) : nullptr;
+    FormWindow* window = form != nullptr ? WindowOf(*form) : nullptr;
     // A box in front keeps the keys; its form gets them back when it closes.
     if (window == nullptr || QApplication::activeModalWidget() != (form->Modal() ? window->Top() : nullptr)) return;
     if (!window->Top()->isVisible()) return;
+    window->FollowFocus();
     if (QApplication::activeWindow() == window->Top()) {
         // A window asked for meanwhile is wanted no more, and may never come.
         awaited_ = nullptr;
@@ -101,12 +103,23 @@ void QtFront::FollowAll() {
         if (form->Visible() && !window->Top()->isVisible()) window->Follow();
 }
 
+void QtFront::FollowOwners() {
+    for (const auto& [form, window] : windows_) window->FollowOwner();
+}
+
+bool QtFront::MainMinimised() const {
+    return std::any_of(windows_.begin(), windows_.end(), [](const auto& entry) {
+        return entry.first->Kind() == FormKind::Main && entry.second->Top()->isVisible() && entry.second->Top()->isMinimized();
+    });
+}
+
 void QtFront::WindowActivated(Form& form) {
-    const FormWindow* window = WindowOf(form);
+    FormWindow* window = WindowOf(form);
     if (window == nullptr) return;
     const bool fresh = fresh_.erase(window->Top()) > 0;
     if (ActiveForm() == &form) {
         if (awaited_ == window->Top()) awaited_ = nullptr;
+        window->FollowFocus();
         return;
     }
     // Out of date, or only because the window has been shown: the keys go where the program wants them.

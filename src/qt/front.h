@@ -56,6 +56,10 @@ public:
     void Shown(const FormWindow& window);
     /// The main window is on the screen: those above it may follow.
     void FollowAll();
+    /// A window has been minimised or restored: the windows above the main window follow.
+    void FollowOwners();
+    /// Whether the main window is minimised.
+    bool MainMinimised() const;
     void WindowActivated(Form& form);
     /// Keys or clicks have arrived at the window of this form.
     void WindowUsed(Form& form);

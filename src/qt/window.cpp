@@ -81,6 +81,8 @@ void FormWindow::Build(QWidget* owner) {
         make(content);
     else
         AddProblem(name + QStringLiteral(" has no layout"));
+    // The user makes a side window as small as he likes, and finds it so at the next start.
+    if (form_.Kind() == FormKind::Tool && content->layout() != nullptr) content->layout()->setSizeConstraint(QLayout::SetNoConstraint);
     if (form_.Kind() == FormKind::Main) {
         auto* window = new QMainWindow(owner, Flags(form_.Kind()));
         const QSize size = content->size();
@@ -119,10 +121,9 @@ QWidget* FormWindow::WidgetOf(const Control& control) const {
 }
 
 void FormWindow::TakeDesignSize() {
-    if (form_.Width() != 0 || form_.Height() != 0) return;
+    if (form_.Kind() != FormKind::Main) return;
     const QSize size = top_->size();
     form_.SetDesignSize(size.width() * kTwipsPerPixel, size.height() * kTwipsPerPixel);
-    place_ = Told();
 }
 
 void FormWindow::Follow() {
@@ -140,6 +141,16 @@ void FormWindow::Follow() {
     FollowFocus();
 }
 
+void FormWindow::FollowEnabled() {
+    if (top_->isEnabled() != form_.Enabled()) {
+        // This ends in the event that comes here again.
+        top_->setEnabled(form_.Enabled());
+        return;
+    }
+    for (const Control* control : form_.Controls())
+        if (control->mirror) control->mirror(Aspect::Enabled, -1);
+}
+
 WindowPlace FormWindow::Told() const {
     return {form_.Left(), form_.Top(), form_.Width(), form_.Height()};
 }
@@ -147,9 +158,9 @@ WindowPlace FormWindow::Told() const {
 void FormWindow::FollowPlace() {
     const WindowPlace told = Told();
     // A window on its way to the screen is not disturbed: it would lose the place of its frame.
-    if (told == place_ || arriving_) return;
+    if (!form_.Placed() || told == place_ || arriving_) return;
     // Where the user has put the window, or the window manager is about to, is not for a new size to undo.
-    const bool moved = !placed_ || told.left != place_.left || told.top != place_.top;
+    const bool moved = !place_ || told.left != place_->left || told.top != place_->top;
     place_ = told;
     if (placing_) return;
     placing_ = true;
@@ -176,13 +187,37 @@ void FormWindow::FollowVisible() {
     placing_ = true;
     if (!placed_) FirstPlace();
     if (form_.Kind() == FormKind::Main && front_.fitToScreen) FitToScreen();
+    PutOnScreen();
+    if (form_.Kind() == FormKind::Main) front_.FollowAll();
+}
+
+void FormWindow::PutOnScreen() {
+    placing_ = true;
+    if (form_.Kind() == FormKind::Tool && top_->windowHandle() != nullptr) {
+        const QWidget* owner = top_->parentWidget();
+        owned_ = !front_.MainMinimised();
+        top_->windowHandle()->setTransientParent(owned_ && owner != nullptr ? owner->windowHandle() : nullptr);
+    }
+    // A window minimised together with its owner and hidden then would be shown minimised, and its owner with it.
+    if (form_.State() != WindowState::Minimised) top_->setWindowState(top_->windowState() & ~Qt::WindowMinimized);
     arriving_ = true;
     top_->show();
     placing_ = false;
     top_->windowHandle()->installEventFilter(this);
     if (top_->windowHandle()->isExposed()) Arrive();
     front_.Shown(*this);
-    if (form_.Kind() == FormKind::Main) front_.FollowAll();
+}
+
+void FormWindow::FollowOwner() {
+    if (form_.Kind() != FormKind::Tool || !form_.Visible() || !top_->isVisible()) return;
+    const bool alone = front_.MainMinimised();
+    if (alone ? !top_->isMinimized() || form_.State() == WindowState::Minimised : owned_) return;
+    // Only a window that comes anew to the screen gets another owner.
+    placing_ = true;
+    const QPoint at = top_->pos();
+    top_->hide();
+    top_->move(at);
+    PutOnScreen();
 }
 
 void FormWindow::Arrive() {
@@ -202,11 +237,6 @@ void FormWindow::FitToScreen() {
 }
 
 void FormWindow::FirstPlace() {
-    if (form_.Kind() == FormKind::Main) {
-        // Also where the form says the corner of the screen, which is no change of place.
-        top_->move(ToPixels(form_.Left()), ToPixels(form_.Top()));
-        return;
-    }
     const QRect screen = top_->screen()->availableGeometry();
     // As large as its layout asks for, which nobody has told it before it is shown.
     if (form_.Kind() == FormKind::Dialog || form_.Kind() == FormKind::FixedDialog || form_.Kind() == FormKind::FixedTool) {
@@ -230,7 +260,8 @@ void FormWindow::SetSize(const QSize& size) {
 
 void FormWindow::FollowFocus() {
     const Control* active = form_.ActiveControl();
-    if (active == nullptr) return;
+    // Setting the focus can make Qt activate the window. One that is not to have the keys gets its focus when it is.
+    if (active == nullptr || &form_ != ActiveForm()) return;
     QWidget* widget = WidgetOf(*active);
     if (widget == nullptr) return;
     QWidget* const focused = top_->focusWidget();
@@ -251,7 +282,8 @@ void FormWindow::MoveByUser(int left, int top, int width, int height) {
 }
 
 void FormWindow::TellPlace() {
-    TellPlace(Told());
+    // Where the front has put a window that the form does not place is nothing to the form.
+    if (form_.Placed()) TellPlace(Told());
 }
 
 void FormWindow::TellPlace(const WindowPlace& finer) {
@@ -274,7 +306,11 @@ void FormWindow::TellState() {
     const WindowState state = top_->isMinimized()   ? WindowState::Minimised
                               : top_->isMaximized() ? WindowState::Maximised
                                                     : WindowState::Normal;
-    Deliver([&] { form_.UserState(state); });
+    // A side window has gone with the main window, not by itself.
+    const bool along = form_.Kind() == FormKind::Tool && state == WindowState::Minimised && (!top_->isVisible() || front_.MainMinimised());
+    const QPointer<FormWindow> self(this);
+    if (!along) Deliver([&] { form_.UserState(state); });
+    if (self != nullptr) front_.FollowOwners();
 }
 
 bool FormWindow::TakeKey(const QKeyEvent& event) {
@@ -312,6 +348,9 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::Move:
         case QEvent::Resize:
             TellPlace();
+            return false;
+        case QEvent::EnabledChange:
+            FollowEnabled();
             return false;
         case QEvent::WindowStateChange:
             TellState();

@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/forms.h"
@@ -55,10 +56,14 @@ public:
 
     /// Takes over what the form says of its frame.
     void Follow();
+    /// Gives Qt's focus to the form's active control, if the form is the active one.
     void FollowFocus();
     /// The user puts the window there; in twips, which are finer than what the screen can show.
     void MoveByUser(int left, int top, int width, int height);
-    /// The size of the layout becomes that of a form that has none yet.
+    /// Window managers minimise the windows above a main window with it, though the program may want them on the screen. One that
+    /// it wants stands by itself as long as the main window is minimised, and above it again afterwards.
+    void FollowOwner();
+    /// The size of the layout becomes that of a main form.
     void TakeDesignSize();
 
     // Of the binder.
@@ -77,10 +82,13 @@ private:
     void Build(QWidget* owner);
     void AddAppearance();
     WindowPlace Told() const;
+    /// Qt enables and disables whatever belongs to a window together with it: windows above it, and the menus, even those that
+    /// are disabled themselves. Their own state is put back.
+    void FollowEnabled();
     void FollowPlace();
     void FollowVisible();
     void Arrive();
-    /// In the middle of the owner or of the screen.
+    /// In the middle of the owner or of the screen, for a form that does not say where it stands.
     void FirstPlace();
     /// A fixed window gets the size for good, not the user.
     void SetSize(const class QSize& size);
@@ -90,6 +98,8 @@ private:
     void TellPlace(const WindowPlace& finer);
     void TellPlace();
     void TellState();
+    /// Shows the window, which Qt may think minimised since it was hidden, or anew beside or above its owner.
+    void PutOnScreen();
     bool TakeKey(const class QKeyEvent& event);
 
     Form& form_;
@@ -101,13 +111,15 @@ private:
     std::vector<QPointer<QWidget>> namedByCaption_;
     QStringList problems_;
     class ColumnHead* captionHead_ = nullptr;
-    /// As it was last taken over from the form.
-    WindowPlace place_;
+    /// As it was last taken over from the form, if ever.
+    std::optional<WindowPlace> place_;
     bool placing_ = false;
     bool telling_ = false;
     bool arriving_ = false;
-    /// The form has said where it stands.
+    /// The window stands where the form says, or where the front has put it first.
     bool placed_ = false;
+    /// The window system keeps the window above its owner.
+    bool owned_ = true;
 };
 
 }  // namespace vatro

@@ -411,9 +411,9 @@ std::string WindowDriver::Mismatch(const Form& form) {
     if (top.isVisible() != form.Visible()) return "one is hidden, the other shown";
     if (!top.isVisible() || top.isMinimized()) return {};
     if (top.isEnabled() != form.Enabled()) return "one is disabled, the other enabled";
-    if (top.pos() != QPoint(ToPixels(form.Left()), ToPixels(form.Top()))) return "the place is another one";
+    if (form.Placed() && top.pos() != QPoint(ToPixels(form.Left()), ToPixels(form.Top()))) return "the place is another one";
     const QSize size(qMax(1, ToPixels(form.Width())), qMax(1, ToPixels(form.Height())));
-    if (top.size() != size) return "the size is another one";
+    if (form.Placed() && top.size() != size) return "the size is another one";
     const Control* active = form.ActiveControl();
     const QWidget* focused = top.focusWidget();
     if (&form == ActiveForm() && active != nullptr && active->Enabled() && focused != front_.WidgetOf(*active))

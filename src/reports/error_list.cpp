@@ -29,7 +29,7 @@ namespace vatro {
 
 namespace {
 
-/// Calls seen in a log, cut to ten characters: a longer one is never found again.
+/// Calls seen in a log are texts of ten characters, cut or filled up with blanks: a longer call is never found again.
 constexpr std::size_t kHusketCall = 10;
 
 void SkrivFejl(std::string_view besked) {
@@ -110,7 +110,7 @@ private:
         if (gsCall.size() < 3) Fejl("Et kaldesignal skal være på mindst 3 tegn."_t);
         if (!HarTalOgBogstaver(gsCall)) Fejl("Der skal være både tal og bogstaver i et kaldesignal."_t);
         if (gsCall.starts_with('0')) Fejl("Første tegn i call'et er et nul."_t);
-        const bool husket = !sete_.insert(gsCall.substr(0, kHusketCall)).second;
+        const bool husket = !sete_.insert(LeftAligned(gsCall, kHusketCall)).second;
         dublet_ = husket && gsCall.size() <= kHusketCall;
         if (dublet_) Fejl(gsCall + " er en dublet!");
     }

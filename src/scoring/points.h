@@ -17,11 +17,11 @@ namespace vatro {
 /// after BeregnPoint.
 extern std::int32_t giQSOPoint;
 
-/// Whether the first two characters of the call are those of a Danish prefix, without regard to case.
+/// Whether the first two characters of the call are those of a Danish prefix, without regard to case. False for an empty call.
 bool ErDansk(std::string_view call);
 
 /// Sets giQSOPoint for a call; changes no mark and no other counter. An unknown prefix is worth nothing only while
-/// gbVisLand is on: meant so.
+/// gbVisLand is on: meant so. A call that is empty, or nothing but a suffix ("/3", "/QRP"), counts 3 without being looked up.
 void BeregnPoint(std::string call);
 
 }  // namespace vatro

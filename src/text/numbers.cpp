@@ -174,6 +174,11 @@ std::int32_t ToInt32(double value) {
     return Rounded<std::int32_t>(value);
 }
 
+float ToFloat32(double value) {
+    if (!(std::fabs(value) <= std::numeric_limits<float>::max())) throw RunTimeError(Failure::Overflow);
+    return static_cast<float>(value);
+}
+
 std::string PlainNumber(long long value) {
     std::array<char, 24> digits;
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;

@@ -26,6 +26,9 @@ double ToNumber(std::string_view text);
 std::int16_t ToInt16(double value);
 std::int32_t ToInt32(double value);
 
+/// As a 32-bit float. Fails with 6 (overflow) outside the type's range.
+float ToFloat32(double value);
+
 /// The value of an integer, in plain decimal digits.
 std::string PlainNumber(long long value);
 

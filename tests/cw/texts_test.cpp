@@ -109,6 +109,26 @@ TEST_F(CWTexts, ACodeInsideItsOwnValueIsDropped) {
     EXPECT_EQ(Expanded("#C"), "XYC ");
 }
 
+TEST_F(CWTexts, ACodeMayBeginAtTheEndOfAValue) {
+    gsCWCall = "A#";
+    EXPECT_EQ(Expanded("#CT K"), "A599 K ");
+    // Each call takes the C behind it for its code, until there is none left.
+    EXPECT_EQ(Expanded("#CCCC"), "AAAA ");
+    EXPECT_EQ(Expanded("#C"), "A ");
+    EXPECT_EQ(Expanded("#C K"), "A K ");
+    // "#CT", then "#T" of two values and the text.
+    gsCWCall = "#R";
+    gsMyCall = "OZ#";
+    EXPECT_EQ(Expanded("#CT"), "OZ599 ");
+}
+
+TEST_F(CWTexts, ACodeThatComesUpInItsOwnValueIsDroppedAcrossTheEndOfAnother) {
+    // "#C" becomes "#RC", "A#C", "A#RC" and so on: it would have no end.
+    gsCWCall = "#RC";
+    gsMyCall = "A#";
+    EXPECT_EQ(Expanded("#C K"), "AC K ");
+}
+
 TEST_F(CWTexts, ALowerCaseLetterInAValueIsNoCode) {
     gsCWCall = "A#r";
     EXPECT_EQ(Expanded("#C"), "Ar ");

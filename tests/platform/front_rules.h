@@ -184,6 +184,23 @@ TEST_P(FrontRules, HandlerMayPutTheFocusBack) {
     EXPECT_EQ(happenings.lines, (Lines{"LostFocus Text1(0)", "GotFocus Text1(0)"}));
 }
 
+TEST_P(FrontRules, FocusHasMovedWhileLostFocusAsksAQuestion) {
+    On("LostFocus Text1(0)", [] { MsgBox("Hi"); });
+    const Lines asked{"box \"vatro\" \"Hi\" OK -", "focus frmRules.Text1(1)", "focus frmRules.Text1(1)"};
+    EXPECT_EQ(Play("focus frmRules.Text1(1)\nshow focus\nanswer OK\nshow focus"), asked);
+    EXPECT_EQ(Play("key Tab\nshow focus\nanswer OK\nshow focus"), asked);
+    EXPECT_EQ(Play("key Alt+C\nshow focus\nanswer OK\nshow focus"), asked);
+}
+
+TEST_P(FrontRules, FocusIsPutBackAfterAQuestionOfLostFocus) {
+    On("LostFocus Text1(0)", [] {
+        MsgBox("Hi");
+        frmRules->Text1[0].SetFocus();
+    });
+    const Lines asked{"box \"vatro\" \"Hi\" OK -", "focus frmRules.Check1", "focus frmRules.Text1(0)"};
+    EXPECT_EQ(Play("focus frmRules.Check1\nshow focus\nanswer OK\nshow focus"), asked);
+}
+
 TEST_P(FrontRules, TabWalksTheTabOrderRoundBothWays) {
     EXPECT_EQ(Play("key Shift+Tab\nshow focus\nkey Tab\nkey Tab\nkey Tab\nshow focus"),
               (Lines{"focus frmRules.Combo1", "focus frmRules.Check1"}));
@@ -279,6 +296,42 @@ TEST_P(FrontRules, ShortcutOfADisabledItemOrMenuDoesNothing) {
     On("GotFocus Check1", [] { frmRules->mnuRules.SetEnabled(false); });
     EXPECT_EQ(HappenedIn("key Tab\nkey Ctrl+N\nkey Tab\nkey Shift+F5"),
               (Lines{"LostFocus Text1(0)", "GotFocus Text1(1)", "LostFocus Text1(1)", "GotFocus Check1"}));
+}
+
+TEST_P(FrontRules, DisabledMenuStaysSoWhenItsFormIsEnabledAgain) {
+    On("KeyPress Text1(0) 97", [] {
+        frmRules->mnuRules.SetEnabled(false);
+        frmRules->SetEnabled(false);
+        frmRules->SetEnabled(true);
+    });
+    EXPECT_EQ(Play("type a\nshow menu mnuRules\nkey Ctrl+N\ntype b\nshow frmRules.Text1(0)"),
+              (Lines{"mnuRules \"&Rules\" disabled", "frmRules.Text1(0) \"ab\""}));
+    EXPECT_EQ(happenings.lines, (Lines{"KeyPress Text1(0) 97", "Change Text1(0) a", "KeyPress Text1(0) 98", "Change Text1(0) ab"}));
+}
+
+TEST_P(FrontRules, FormAboveADisabledOneCanBeUsed) {
+    On("KeyPress Text1(0) 97", [] {
+        frmRulesOver->Show();
+        frmRules->SetEnabled(false);
+    });
+    EXPECT_EQ(Play("type a\nshow frmRulesOver\ntype b\nshow frmRulesOver.Text1\nkey Enter\nshow frmRulesOver"),
+              (Lines{"frmRulesOver \"Over\" shown", "frmRulesOver.Text1 \"b\"", "frmRulesOver \"Over\" hidden"}));
+}
+
+TEST_P(FrontRules, FormShownFromAMenuHasTheKeys) {
+    On("Click mnuRulesOne", [] { frmRulesOver->Show(); });
+    EXPECT_EQ(Play("menu mnuRulesOne\nshow focus\ntype b\nshow frmRulesOver.Text1"),
+              (Lines{"focus frmRulesOver.Text1", "frmRulesOver.Text1 \"b\""}));
+}
+
+TEST_P(FrontRules, FormShownFromAMenuOfADisabledFormHasTheKeys) {
+    On("Click mnuRulesOne", [] {
+        frmRules->SetEnabled(false);
+        frmRulesOver->Show();
+        frmRules->SetEnabled(true);
+    });
+    EXPECT_EQ(Play("menu mnuRulesOne\nshow focus\ntype b\nshow frmRulesOver.Text1"),
+              (Lines{"focus frmRulesOver.Text1", "frmRulesOver.Text1 \"b\""}));
 }
 
 TEST_P(FrontRules, ShortcutDoesNotWorkWhileAnotherFormIsActive) {
@@ -404,6 +457,12 @@ TEST_P(FrontRules, TimerTicksWhileAFormOrBoxIsOpen) {
     On("Timer", [] { MsgBox("Tick"); });
     EXPECT_EQ(Play("type a\nadvance 10\nadvance 10\nanswer OK\nanswer OK"),
               (Lines{"box \"vatro\" \"Tick\" OK -", "box \"vatro\" \"Tick\" OK -"}));
+}
+
+TEST_P(FrontRules, FormThatWasNeverPlacedHasNoPlace) {
+    On("KeyPress Text1(0) 97", [] { frmRulesOver->Show(); });
+    EXPECT_EQ(Play("type a\nshow frmRulesOver place\nplace frmRulesOver 1500 1800 6000 3000\nshow frmRulesOver place"),
+              (Lines{"frmRulesOver 0 0 0 0", "frmRulesOver 1500 1800 6000 3000"}));
 }
 
 TEST_P(FrontRules, HiddenFormKeepsItsFieldsAndAnUnloadedOneDoesNot) {

@@ -4,12 +4,17 @@
 #include <gtest/gtest-spi.h>
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include "entry/frmB4.h"
+#include "entry/frmQSOnr.h"
 #include "qt/column_head.h"
 #include "qt/fields.h"
 #include "qt/item_list.h"
@@ -160,6 +165,29 @@ TEST_F(MainWindow, ShowsTheTextOfTheStatusBarInFullOrInItsTooltip) {
     Dispatch([] { frmMain->sbStatusBar.SetPanel(1, "short"); });
     driver.Settle();
     EXPECT_EQ(panel->text(), QStringLiteral("short"));
+}
+
+TEST_F(MainWindow, OutOfUseLeavesTheOtherWindowsAsTheyAre) {
+    Dispatch([] { frmQSOnr->SetEnabled(false); });
+    for (const bool enabled : {false, true}) {
+        Dispatch([&] { frmMain->SetEnabled(enabled); });
+        EXPECT_EQ(Top().isEnabled(), enabled);
+        EXPECT_TRUE(WindowOf(*frmB4).Top()->isEnabled());
+        EXPECT_TRUE(WidgetOf<QWidget>(frmB4->List1).isEnabled());
+        EXPECT_FALSE(WindowOf(*frmQSOnr).Top()->isEnabled());
+    }
+}
+
+TEST_F(MainWindow, HasNoMenuThatTakesItsBarsAway) {
+    for (QWidget* bar : {static_cast<QWidget*>(Top().findChild<QMenuBar*>()), static_cast<QWidget*>(Top().findChild<QToolBar*>()),
+                         static_cast<QWidget*>(Top().findChild<QStatusBar*>())}) {
+        const QPoint end(bar->width() - 2, bar->height() / 2);
+        QContextMenuEvent click(QContextMenuEvent::Mouse, end, bar->mapToGlobal(end));
+        QApplication::sendEvent(bar, &click);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << bar->metaObject()->className();
+        if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+    }
 }
 
 TEST_F(MainWindow, KeepsTheSideWindowsAboveItself) {

@@ -101,6 +101,13 @@ TEST_F(Points, OfAnUnknownPrefixAreNoneWhileCountriesAreShown) {
     EXPECT_EQ(Of("OU1ABC"), 1);
 }
 
+TEST_F(Points, OfASuffixWithoutACallAreThreeAndNothingIsLookedUp) {
+    // A blank line of the list would match a call of six blanks.
+    Stations({""});
+    for (const char* call : {"", "/3", "9/", "/QRP", "/QRP/3"}) EXPECT_EQ(Of(call), 3) << call;
+    EXPECT_EQ(Of("/P"), 10);
+}
+
 TEST_F(Points, ChangeNoMarks) {
     Of("DL1ABC");
     Of("OZ1ABC");
@@ -118,7 +125,7 @@ TEST_F(Points, DoNotDependOnWhatWasWorkedBefore) {
 TEST(Danish, AreSevenPrefixes) {
     for (const char* call : {"5P1ABC", "5Q1ABC", "OU1ABC", "OV1ABC", "OW1ABC", "OZ1ABC", "XP1ABC", "oz1abc", "OZ"})
         EXPECT_TRUE(ErDansk(call)) << call;
-    for (const char* call : {"5R1ABC", "5O1ABC", "OX3ABC", "OY1ABC", "OT1ABC", "XO1ABC", "P5A", "Z5A", "DL1ABC", "1OZABC"})
+    for (const char* call : {"5R1ABC", "5O1ABC", "OX3ABC", "OY1ABC", "OT1ABC", "XO1ABC", "P5A", "Z5A", "DL1ABC", "1OZABC", ""})
         EXPECT_FALSE(ErDansk(call)) << call;
 }
 

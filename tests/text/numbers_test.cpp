@@ -134,6 +134,10 @@ TEST(ToInt, OverflowsOutsideTheTypesRange) {
     EXPECT_EQ(ToInt32(2147483647.0), 2147483647);
     EXPECT_EQ(FailureOfCall([] { ToInt32(2147483648.0); }), 6);
     EXPECT_EQ(FailureOfCall([] { ToInt32(NumericValue("1e999")); }), 6);
+    // The largest 32-bit float is a little more than 3.4e38.
+    EXPECT_EQ(ToFloat32(-1.5), -1.5F);
+    EXPECT_EQ(ToFloat32(3.4e38), 3.4e38F);
+    for (const double large : {3.5e38, -3.5e38, NumericValue("1e999")}) EXPECT_EQ(FailureOfCall([=] { ToFloat32(large); }), 6);
     EXPECT_EQ(FailureOfCall([] { ToInt16(std::nan("")); }), 6);
 }
 

@@ -1,0 +1,98 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+#   with_window_manager.sh MANAGER minimising.sh VATRO DATA
+#
+# Minimises and restores the program twice, as the window's frame and the task bar do. Minimised, the main window, the next number
+# and the worked-before list leave the screen, and the contest call stays; restored, all of them are where they were, and the main
+# window has the keys. At the end they are stored where they were at the start.
+set -euo pipefail
+vatro=$1 data=$2
+
+mkdir -p "$HOME/log" "$HOME/tables" "$XDG_CONFIG_HOME/vatro"
+cp "$data"/*.txt "$HOME/tables/"
+settings=$XDG_CONFIG_HOME/vatro/vatro.ini
+cat >"$settings" <<SETTINGS
+[Settings]
+gsLogLib=$HOME/log
+MyCall=OZ1AB
+LastOP=OZ1AB
+VisInfo2002=False
+MainLeft=300
+MainTop=300
+B4Left=12000
+B4Top=1500
+B4Width=6000
+B4Height=3000
+QSOLeft=300
+QSOTop=9000
+QSOHeight=900
+CallLeft=9000
+CallTop=9000
+CallHeight=750
+SETTINGS
+
+program=
+finish() { kill $program 2>/dev/null || true; }
+trap finish EXIT
+fail() {
+    echo "$1; on the screen:"
+    for window in "${all[@]}"; do printf '  %-8s %s\n' "$(seen "$window")" "$window"; done
+    cat "$HOME/vatro.err"
+    exit 1
+}
+
+main='^Vatro OZ1AB$' number='^Næste QSO nr$' call='^Contest Call$' before='^Call check'
+all=("$main" "$number" "$call" "$before")
+window_of() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
+seen() { if [ -n "$(window_of "$1")" ]; then echo shown; else echo hidden; fi; }
+# The screen as it must become: "shown" or "hidden" for each window of all, and as it must stay then.
+becomes() {
+    local wanted="$*" now=
+    for _ in $(seq 100); do
+        now=$(for window in "${all[@]}"; do seen "$window"; done | xargs)
+        [ "$now" != "$wanted" ] || break
+        sleep 0.1
+    done
+    sleep 0.5
+    now=$(for window in "${all[@]}"; do seen "$window"; done | xargs)
+    [ "$now" = "$wanted" ] || fail "wanted: $wanted"
+}
+places() { for window in "${all[@]}"; do xdotool getwindowgeometry --shell "$(window_of "$window")" | grep -v 'WINDOW\|SCREEN' | xargs; done; }
+
+cd "$HOME/tables"
+QT_QPA_PLATFORM=xcb "$vatro" 2>"$HOME/vatro.err" &
+program=$!
+becomes shown shown shown shown
+first=$(places)
+main_id=$(window_of "$main")
+
+for round in 1 2; do
+    xdotool windowminimize "$main_id"
+    becomes hidden hidden shown hidden
+    xdotool windowactivate "$main_id"
+    becomes shown shown shown shown
+    [ "$(places)" = "$first" ] || fail "round $round: the windows have moved: $first -> $(places)"
+    for _ in $(seq 50); do
+        [ "$(xdotool getactivewindow 2>/dev/null)" != "$main_id" ] || break
+        sleep 0.1
+    done
+    [ "$(xdotool getactivewindow)" = "$main_id" ] || fail "round $round: the main window has not got the keys"
+    xdotool type DL1ABC
+    xdotool key Escape
+done
+
+# At the end nothing has moved in the settings either.
+stored() { grep -E '^(Main|B4|QSO|Call)(Left|Top|Height)=' "$settings" | sort; }
+before_=$(stored)
+xdotool key --clearmodifiers alt+F4
+for _ in $(seq 100); do
+    kill -0 "$program" 2>/dev/null || break
+    sleep 0.1
+done
+kill -0 "$program" 2>/dev/null && fail "the program does not end"
+program=
+[ "$(stored)" = "$before_" ] || fail "the stored places have changed:
+$before_
+->
+$(stored)"

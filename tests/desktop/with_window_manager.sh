@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+#   with_window_manager.sh openbox|xfwm4 COMMAND [ARGUMENT...]
+#
+# Runs the command on a screen of its own, with this window manager alone on it. HOME and the runtime directory are temporary
+# ones; what the window manager says is in $HOME/wm.log. Where a program is missing, the exit code is 77 on a machine of a
+# developer and 1 where CI is "true".
+set -euo pipefail
+manager=$1
+shift
+
+for program in Xvfb xdotool xprop dbus-run-session "$manager"; do
+    command -v "$program" >/dev/null && continue
+    echo "skipped: $program is not installed"
+    [ "${CI:-}" != true ] || exit 1
+    exit 77
+done
+
+world=$(mktemp -d)
+screen= running=
+finish() {
+    for process in $running $screen; do
+        kill "$process" 2>/dev/null && wait "$process" 2>/dev/null || true
+    done
+    rm -rf "$world"
+}
+trap finish EXIT
+export HOME=$world/home XDG_RUNTIME_DIR=$world/run
+export XDG_CONFIG_HOME=$HOME/.config XDG_DATA_HOME=$HOME/.local/share
+unset WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS XDG_CURRENT_DESKTOP SESSION_MANAGER
+mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_RUNTIME_DIR"
+chmod 700 "$XDG_RUNTIME_DIR"
+
+# It finds a free number for its display by itself, and tells it when it is ready.
+mkfifo "$world/display"
+Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$world/display" 2>"$world/screen.log" &
+screen=$!
+read -r number <"$world/display" || { cat "$world/screen.log"; exit 1; }
+export DISPLAY=:$number
+
+case $manager in
+    xfwm4) dbus-run-session -- xfwm4 --compositor=off >"$HOME/wm.log" 2>&1 & ;;
+    *) "$manager" >"$HOME/wm.log" 2>&1 & ;;
+esac
+running=$!
+for _ in $(seq 100); do
+    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
+    kill -0 "$running" 2>/dev/null || break
+    sleep 0.1
+done
+xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id' || { echo "$manager does not start:"; cat "$HOME/wm.log"; exit 1; }
+
+result=0
+"$@" || result=$?
+exit $result
