@@ -7,6 +7,7 @@ namespace vatro {
 
 Desktop::Desktop(QtFront& front) : typing_(front) {
     front.fitToScreen = true;
+    front.filterPaste = true;
     front.keepKeys = true;
 }
 

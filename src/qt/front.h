@@ -47,6 +47,8 @@ public:
     std::function<void(const std::function<bool()>& over)> waitModal;
     /// A main window does not reach beyond the screen when it is first shown.
     bool fitToScreen = false;
+    /// Pasted text goes through the fields' filters as keys do.
+    bool filterPaste = false;
     /// No key is lost that is typed while one window gives way to another.
     bool keepKeys = false;
     /// The program has ended.
