@@ -108,10 +108,18 @@ Form* TypingGuard::FormOf(const QWidget* window) const {
 
 bool TypingGuard::TakeKey(const QWindow& window, QKeyEvent& event) {
     if (QApplication::activePopupWidget() != nullptr || IsModifier(event.key())) return false;
-    const PressedKey key = Pressed(event);
+    PressedKey key = Pressed(event);
     const bool press = event.type() == QEvent::KeyPress;
+    // Only a real key has a number.
+    if (const quint32 number = event.nativeScanCode(); number != 0) {
+        const Moment at(event.timestamp());
+        if (press)
+            key.repeated = key.repeated || held_.Repeats(number, at);
+        else
+            held_.Released(number, at);
+    }
     QWidget* const top = WidgetOf(window);
-    if (top != nullptr && !top->isVisible()) return HandOn(event);
+    if (top != nullptr && !top->isVisible()) return HandOn(event, key.repeated);
     if (auto* box = qobject_cast<QMessageBox*>(top)) return press && TakeOnBox(*box, key);
     Form* const form = FormOf(top);
     if (form == nullptr) return false;
@@ -120,12 +128,12 @@ bool TypingGuard::TakeKey(const QWindow& window, QKeyEvent& event) {
     return press && TakeOnForm(*form, key);
 }
 
-bool TypingGuard::HandOn(const QKeyEvent& event) const {
+bool TypingGuard::HandOn(const QKeyEvent& event, bool repeated) const {
     QWidget* next = QApplication::activeModalWidget();
     const Form* form = ActiveForm();
     if (const FormWindow* window = next == nullptr && form != nullptr ? front_.WindowOf(*form) : nullptr) next = window->Top();
     if (next == nullptr || !next->isVisible() || next->windowHandle() == nullptr) return false;
-    QKeyEvent same(event.type(), event.key(), event.modifiers(), event.text(), event.isAutoRepeat(), static_cast<quint16>(event.count()));
+    QKeyEvent same(event.type(), event.key(), event.modifiers(), event.text(), repeated, static_cast<quint16>(event.count()));
     QApplication::sendEvent(next->windowHandle(), &same);
     return true;
 }

@@ -14,6 +14,7 @@
 
 #include "extras/box_keys.h"
 #include "extras/entry_keys.h"
+#include "extras/held_keys.h"
 #include "extras/morse_keys.h"
 
 class QAbstractItemModel;
@@ -43,7 +44,7 @@ public:
 private:
     bool TakeKey(const QWindow& window, QKeyEvent& event);
     /// A key that was on its way to a window when that was hidden: for the one that has the keys now.
-    bool HandOn(const QKeyEvent& event) const;
+    bool HandOn(const QKeyEvent& event, bool repeated) const;
     bool TakeOnBox(QMessageBox& box, const PressedKey& key);
     /// Keys while a text is sent, at the window that sends or, as long as the focus is on its way there, at the main form's.
     bool TakeWhileSending(QKeyEvent& event, const PressedKey& key);
@@ -58,6 +59,7 @@ private:
 
     QtFront& front_;
     QElapsedTimer clock_;
+    HeldKeys held_;
     BoxKeys box_;
     EntryKeys entry_;
     MorseKeys morse_;
