@@ -41,7 +41,8 @@ Tone=800
 Tekst2=E
 SETTINGS
     mkfifo "$world/display"
-    Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>"$world/display" 2>"$world/vatro.err" &
+    # Left by its last client a server begins anew, in the face of one that is just coming.
+    Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp -noreset 3>"$world/display" 2>"$world/vatro.err" &
     screen=$!
     read -r number <"$world/display" || fail "there is no screen"
     export DISPLAY=:$number

@@ -28,7 +28,7 @@ ON4UN 0005
     wait_for "$question" 5 || fail "$delay ms: no question"
     wait_for_focus "$question"
     sleep 0.5
-    [ -n "$(shown "$question")" ] || fail "$delay ms: a letter has answered the question"
+    wait_for "$question" 1 || fail "$delay ms: a letter has answered the question"
     keys 20 "" Return
     wait_until_gone "$question" 5 || fail "$delay ms: Enter does not answer the question"
     wait_for_focus "$main"
@@ -49,7 +49,7 @@ done
 keys 30 dl1we Return Return
 wait_for "$nought" 5 || fail "no question about the number"
 sleep 0.5
-[ -n "$(shown "$nought")" ] || fail "a second Enter has answered the question"
+wait_for "$nought" 1 || fail "a second Enter has answered the question"
 keys 20 "" Escape
 wait_until_gone "$nought" 5 || fail "Esc does not answer the question"
 wait_for_focus "$main"
