@@ -177,7 +177,8 @@ void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {
     const QKeySequence sequence(event.keyCombination());
     for (QAction* action : window->Top()->findChildren<QAction*>()) {
         if (!action->shortcuts().contains(sequence)) continue;
-        if (press) action->trigger();
+        // Held down, F5 would send its text anew over and over.
+        if (press && !key.repeated) action->trigger();
         Deliver(GiveKeysBackToSending);
         return;
     }

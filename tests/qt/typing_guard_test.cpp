@@ -278,6 +278,13 @@ TEST_F(SafeTyping, FunctionKeysSendWhileATextPlays) {
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
 }
 
+TEST_F(SafeTyping, AFunctionKeyHeldDownSendsOnce) {
+    Send();
+    sound.calls.clear();
+    Repeat(*frmCWTX, Qt::Key_F5, {});
+    EXPECT_EQ(sound.calls, std::vector<std::string>{});
+}
+
 TEST_F(SafeTyping, KeysOnTheirWayToTheMainWindowAreSharedOutAlike) {
     Send();
     QWindow* main = WindowOf(*frmMain).Top()->windowHandle();
