@@ -7,6 +7,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QTimer>
 #include <QWindow>
 
 #include "cw/frmCWTX.h"
@@ -14,6 +15,7 @@
 #include "entry/qso_fields.h"
 #include "qt/box_flash.h"
 #include "qt/deliver.h"
+#include "qt/field_mark.h"
 #include "qt/front.h"
 #include "qt/input.h"
 #include "qt/item_list.h"
@@ -88,6 +90,10 @@ bool TypingGuard::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::Show:
             if (qobject_cast<QMessageBox*>(watched) != nullptr) box_.CameUp(now());
             return false;
+        case QEvent::WindowActivate:
+            // Which form has the keys is settled when all windows have been told.
+            if (frmCWTX.Loaded() && watched->isWidgetType()) QTimer::singleShot(0, this, &TypingGuard::MarkField);
+            return false;
         case QEvent::Hide: {
             const auto* widget = qobject_cast<QWidget*>(watched);
             if (widget != nullptr && frmCWTX.Loaded() && FormOf(widget) == frmCWTX.Peek() && !event->spontaneous()) SendingOver();
@@ -107,7 +113,6 @@ Form* TypingGuard::FormOf(const QWidget* window) const {
 }
 
 bool TypingGuard::TakeKey(const QWindow& window, QKeyEvent& event) {
-    if (QApplication::activePopupWidget() != nullptr || IsModifier(event.key())) return false;
     PressedKey key = Pressed(event);
     const bool press = event.type() == QEvent::KeyPress;
     // Only a real key has a number.
@@ -118,6 +123,7 @@ bool TypingGuard::TakeKey(const QWindow& window, QKeyEvent& event) {
         else
             held_.Released(number, at);
     }
+    if (QApplication::activePopupWidget() != nullptr || IsModifier(event.key())) return false;
     QWidget* const top = WidgetOf(window);
     if (top != nullptr && !top->isVisible()) return HandOn(event, key.repeated);
     if (auto* box = qobject_cast<QMessageBox*>(top)) return press && TakeOnBox(*box, key);
@@ -180,6 +186,7 @@ void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {
         // Held down, F5 would send its text anew over and over.
         if (press && !key.repeated) action->trigger();
         Deliver(GiveKeysBackToSending);
+        MarkField();
         return;
     }
     if (key.kind == KeyKind::AccessLetter) {
@@ -187,6 +194,7 @@ void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {
             if (press) main.UserAccessKey(key.letter);
             GiveKeysBackToSending();
         });
+        MarkField();
         return;
     }
     const Control* active = main.ActiveControl();
@@ -195,6 +203,7 @@ void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {
     QKeyEvent same(event.type(), event.key(), event.modifiers(), event.text(), event.isAutoRepeat(), static_cast<quint16>(event.count()));
     QApplication::sendEvent(widget, &same);
     Deliver(GiveKeysBackToSending);
+    MarkField();
 }
 
 bool TypingGuard::TakeInputMethod(const QWidget& widget, QInputMethodEvent& event) {
@@ -206,10 +215,23 @@ bool TypingGuard::TakeInputMethod(const QWidget& widget, QInputMethodEvent& even
     same.setCommitString(event.commitString());
     QApplication::sendEvent(field, &same);
     Deliver(GiveKeysBackToSending);
+    MarkField();
     return true;
 }
 
+void TypingGuard::MarkField() {
+    const Control* active = Sending() ? frmMain->ActiveControl() : nullptr;
+    QWidget* field = active != nullptr ? front_.WidgetOf(*active) : nullptr;
+    if (field == nullptr) {
+        if (mark_ != nullptr) mark_->hide();
+        return;
+    }
+    if (mark_ == nullptr) mark_ = new FieldMark;
+    mark_->Surround(*field);
+}
+
 void TypingGuard::SendingOver() {
+    if (mark_ != nullptr) mark_->hide();
     if (frmCWTX->EndedByItself())
         morse_.EndedByItself(now());
     else

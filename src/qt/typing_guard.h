@@ -26,6 +26,7 @@ class QWindow;
 
 namespace vatro {
 
+class FieldMark;
 class Form;
 class QtFront;
 
@@ -52,6 +53,8 @@ private:
     /// What an input method brings in while a text is sent.
     bool TakeInputMethod(const QWidget& widget, QInputMethodEvent& event);
     void HandToMain(QKeyEvent& event, const PressedKey& key);
+    /// Shows which field of the main form gets the keys while another window has the focus.
+    void MarkField();
     /// The window that sends has been hidden.
     void SendingOver();
     void WatchLog();
@@ -63,6 +66,8 @@ private:
     BoxKeys box_;
     EntryKeys entry_;
     MorseKeys morse_;
+    /// Made at first use; goes with the main window.
+    QPointer<FieldMark> mark_;
     /// The rows of the log on the main form, once they are watched.
     QPointer<const QAbstractItemModel> log_;
 };

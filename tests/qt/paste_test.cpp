@@ -22,7 +22,7 @@ class DesktopPaste : public WindowProgram {
 protected:
     DesktopPaste() {
         StartVatro();
-        driver.Focus(Number());
+        Dispatch([] { Number().SetFocus(); });
         driver.Settle();
         QApplication::clipboard()->setText(QStringLiteral("1E9"));
     }

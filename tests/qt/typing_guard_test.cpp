@@ -17,6 +17,7 @@
 #include "qt/box_flash.h"
 #include "qt/desktop.h"
 #include "qt/dialogs.h"
+#include "qt/field_mark.h"
 #include "qt/window_program.h"
 
 namespace vatro {
@@ -222,6 +223,19 @@ TEST_F(SafeTyping, TheNextCallIsTypedWhileTheTextPlays) {
     EXPECT_EQ(frmCWTX->Text1.Text(), "PARIS ");
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
     EXPECT_EQ(QApplication::activeWindow(), WindowOf(*frmCWTX).Top());
+}
+
+TEST_F(SafeTyping, TheFieldThatGetsTheKeysIsMarkedWhileTheTextPlays) {
+    const auto marked = [this](int index) {
+        const auto* mark = WindowOf(*frmMain).Top()->findChild<FieldMark*>();
+        return mark != nullptr && mark->isVisible() && mark->geometry().contains(WidgetOf<QWidget>(frmMain->Text1[index]).geometry());
+    };
+    Send();
+    EXPECT_TRUE(marked(kCallFelt));
+    Type("dl9xyz ");
+    EXPECT_TRUE(marked(kNrModtagetFelt));
+    Key({.name = "Esc"});
+    EXPECT_FALSE(marked(kNrModtagetFelt));
 }
 
 TEST_F(SafeTyping, EscStopsTheTextAndLeavesTheFields) {
