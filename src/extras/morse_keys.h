@@ -20,7 +20,7 @@ public:
     /// Whether the key is one of the window that sends: Esc, Enter, Alt+S, Alt+T. Every other one is for the entry fields.
     static bool Own(const PressedKey& key);
 
-    /// A text is over without anybody having stopped it.
+    /// A text is over without anybody having stopped it, and the window that sends had the keys.
     void EndedByItself(Moment now) { ended_ = now; }
     /// A text begins, or is stopped by the operator: nothing is left to stop.
     void Forget() { ended_.reset(); }

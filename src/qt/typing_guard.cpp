@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <QWindow>
+#include <utility>
 
 #include "cw/frmCWTX.h"
 #include "entry/frmMain.h"
@@ -220,7 +221,8 @@ bool TypingGuard::TakeInputMethod(const QWidget& widget, QInputMethodEvent& even
 }
 
 void TypingGuard::MarkField() {
-    const Control* active = Sending() ? frmMain->ActiveControl() : nullptr;
+    sending_ = Sending();
+    const Control* active = sending_ ? frmMain->ActiveControl() : nullptr;
     QWidget* field = active != nullptr ? front_.WidgetOf(*active) : nullptr;
     if (field == nullptr) {
         if (mark_ != nullptr) mark_->hide();
@@ -232,7 +234,8 @@ void TypingGuard::MarkField() {
 
 void TypingGuard::SendingOver() {
     if (mark_ != nullptr) mark_->hide();
-    if (frmCWTX->EndedByItself())
+    // Where the main form had the keys, they were for its fields all the time.
+    if (std::exchange(sending_, false) && frmCWTX->EndedByItself())
         morse_.EndedByItself(now());
     else
         morse_.Forget();

@@ -66,6 +66,8 @@ private:
     BoxKeys box_;
     EntryKeys entry_;
     MorseKeys morse_;
+    /// The window that sends had the keys when it was last looked.
+    bool sending_ = false;
     /// Made at first use; goes with the main window.
     QPointer<FieldMark> mark_;
     /// The rows of the log on the main form, once they are watched.

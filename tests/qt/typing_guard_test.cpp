@@ -349,6 +349,17 @@ TEST_F(SafeTyping, AKeyBehindTheEndGivesEnterToTheFields) {
     EXPECT_EQ(Contacts(), 1U);
 }
 
+TEST_F(SafeTyping, EnterMeansTheFieldsIfTheMainWindowHadTheKeys) {
+    Send();
+    Type("dl9xyz 12");
+    driver.Focus(frmMain->Text1[kCallFelt]);
+    driver.Settle();
+    ASSERT_EQ(ActiveForm(), frmMain.Peek());
+    PlayToTheEnd();
+    Key({.name = "Enter"});
+    EXPECT_EQ(Contacts(), 1U);
+}
+
 // --- Without the switch
 
 class PlainTyping : public WindowProgram {};
