@@ -17,6 +17,7 @@ screen= manager= program=
 finish() { kill $program $manager $screen 2>/dev/null || true; }
 fail() {
     echo "$1"
+    echo "windows: $(xdotool search --onlyvisible --name . getwindowname %@ 2>&1 | paste -s -d '|')"
     [ ! -s "$world/vatro.err" ] || cat "$world/vatro.err"
     exit 1
 }
@@ -48,6 +49,11 @@ SETTINGS
     export DISPLAY=:$number
     openbox >/dev/null 2>&1 &
     manager=$!
+    # A window that comes while the manager takes over may stay unseen.
+    for _ in $(seq 100); do
+        xdotool get_num_desktops >/dev/null 2>&1 && break
+        sleep 0.1
+    done
     cd "$world/tables"
     env XDG_CONFIG_HOME="$world/config" XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$world/run}" QT_QPA_PLATFORM=xcb "$1" 2>"$world/vatro.err" &
     program=$!
