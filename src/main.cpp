@@ -13,6 +13,7 @@
 #include "qt/application.h"
 #include "qt/clock.h"
 #include "qt/deliver.h"
+#include "qt/desktop.h"
 #include "qt/dialogs.h"
 #include "qt/front.h"
 #include "qt/printer.h"
@@ -48,7 +49,7 @@ int main(int argc, char** argv) {
                             printer,
                             {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
-    front.fitToScreen = true;
+    const vatro::Desktop desktop(front);
     front.ended = [] { QCoreApplication::quit(); };
     // The start procedure may open boxes, so it runs inside the event loop like every other event.
     QTimer::singleShot(0, &front, [&front] {

@@ -59,7 +59,10 @@ FrmCW::FrmCW()
     std::vector<Control*> orden;
     for (TextBox& felt : Text1) {
         orden.push_back(&felt);
-        felt.KeyPress = [this](KeyCode& key) { Text1_KeyPress(key); };
+        felt.KeyFilter = [](KeyCode& key) {
+            key = StorTast(key);
+            FiltrerTast(key, kTekstTegn);
+        };
     }
     orden.insert(orden.end(), {&txtWPM, &txtTone, &HScroll1, &optRST[0], &optRST[1], &optLobenr[0], &optLobenr[1]});
     orden.insert(orden.end(), {&cmdReset, &cmdOK, &cmdAnnuller});
@@ -76,11 +79,6 @@ void FrmCW::Form_Load() {
     optLobenr[gsCWNummerFormat == kNummerMedNuller ? 0 : 1].SetValue(true);
     optRST[gsCWRSTFormat == kRSTMedTal ? 0 : 1].SetValue(true);
     for (std::size_t i = 0; i < kAntalCWTekster; ++i) Text1[i].SetText(CWTekster[i]);
-}
-
-void FrmCW::Text1_KeyPress(KeyCode& KeyAscii) {
-    KeyAscii = StorTast(KeyAscii);
-    FiltrerTast(KeyAscii, kTekstTegn);
 }
 
 void FrmCW::cmdReset_Click() {

@@ -38,7 +38,6 @@ public:
     void Form_Load() override;
 
 private:
-    void Text1_KeyPress(KeyCode& KeyAscii);
     void cmdReset_Click();
     /// A speed or pitch beyond 16 bits fails with 6; what DanLydBuffer fails with is not caught either.
     void cmdOK_Click();

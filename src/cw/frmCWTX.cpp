@@ -102,6 +102,7 @@ void FrmCWTX::DanLydBuffer() {
 }
 
 void FrmCWTX::StartCW() {
+    ended_ = false;
     glCWSlat = 0;
     gsElement.clear();
     bool aktiv = false;
@@ -142,6 +143,7 @@ void FrmCWTX::DirectXEvent_DXCallback(SoundEvent eventid) {
         FyldDel2(aktiv, *CWBuffer);
     if (aktiv) return;
     StopCW();
+    ended_ = true;
     Hide();
 }
 

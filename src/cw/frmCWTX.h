@@ -40,6 +40,8 @@ public:
     /// Gives the card back, letting other events run in between; closing the window once more meanwhile is refused.
     void Form_QueryUnload(bool& Cancel) override;
 
+    /// Whether the last text has been sent to its end, and not been stopped.
+    bool EndedByItself() const { return ended_; }
     /// Whether buffer and pieces are there.
     bool Klar() const { return klar_; }
     /// Makes buffer and pieces for the present speed, tone and volume, in place of those that are there; a sound that plays breaks
@@ -63,6 +65,7 @@ private:
     bool klar_ = false;
     bool spiller_ = false;
     bool lukker_ = false;
+    bool ended_ = false;
 };
 
 inline FormSlot<FrmCWTX> frmCWTX{"frmCWTX"};

@@ -21,11 +21,11 @@ FrmCall::FrmCall()
     Command2.isDefault = true;
     Command1.isCancel = true;
     SetTabOrder({&cboCall, &Text1, &Command2, &Command1});
-    cboCall.KeyPress = [](KeyCode& key) {
+    cboCall.KeyFilter = [](KeyCode& key) {
         key = StorTast(key);
         FiltrerTast(key, kCallTegn);
     };
-    Text1.KeyPress = [](KeyCode& key) { FiltrerTast(key, kCifferTegn); };
+    Text1.KeyFilter = [](KeyCode& key) { FiltrerTast(key, kCifferTegn); };
     Command2.Click = [this] {
         gsTelefon = Text1.Text();
         gsMyCall = cboCall.Text();

@@ -89,6 +89,7 @@ void FrmMain::BindFelter() {
         TextBox& felt = Text1[i];
         felt.SetToolTip(kTips[i]);
         felt.KeyPress = [this, i](KeyCode& key) { FeltTast(Text1, i, key, ValiderQSO); };
+        felt.KeyFilter = [i](KeyCode& key) { FeltFilter(i, key); };
         felt.Change = [this, i] { Text1_Change(i); };
         felt.GotFocus = [this, i] { Text1_GotFocus(i); };
         felt.LostFocus = [this, i] { Text1_LostFocus(i); };
@@ -105,6 +106,7 @@ void FrmMain::BindFelter() {
     };
     List1.DblClick = RetLinje;
     Combo1.KeyPress = [this](KeyCode& key) { OperatørTast(Combo1, key); };
+    Combo1.KeyFilter = [this](KeyCode& key) { OperatørFilter(Combo1, key); };
     Combo1.Click = [this] { OperatørValgt(Combo1); };
     Combo1.LostFocus = [this] {
         OperatørTjek(Combo1, true);

@@ -54,13 +54,16 @@ void OperatørValgt(const ComboBox& cbo) {
 }
 
 void OperatørTast(ComboBox& cbo, KeyCode& KeyAscii) {
+    if (KeyAscii == kEnter && cbo.Text().size() <= kNavnLængde) OperatørTjek(cbo, true);
+}
+
+void OperatørFilter(const ComboBox& cbo, KeyCode& KeyAscii) {
     if (cbo.Text().size() > kNavnLængde) {
         KeyAscii = kNoKey;
         return;
     }
     KeyAscii = StorTast(KeyAscii);
     if (KeyAscii != kEnter) FiltrerTast(KeyAscii, kCallTegn);
-    if (KeyAscii == kEnter) OperatørTjek(cbo, true);
 }
 
 void NulstilOperatør() {

@@ -30,9 +30,12 @@ void OperatørTjek(ComboBox& cbo, bool sæt);
 /// An item was chosen: it becomes gsOperatør.
 void OperatørValgt(const ComboBox& cbo);
 
-/// A key in the box: upper case and only the characters of a call. Once the text is longer than six characters every key is
-/// swallowed, so a seventh can be typed: meant so. Enter takes the text over as OperatørTjek does.
+/// Enter in the box takes the text over as OperatørTjek does, unless it is longer than six characters.
 void OperatørTast(ComboBox& cbo, KeyCode& KeyAscii);
+
+/// What a key becomes in the box: upper case and only the characters of a call. Once the text is longer than six characters every
+/// key is swallowed, so a seventh can be typed: meant so.
+void OperatørFilter(const ComboBox& cbo, KeyCode& KeyAscii);
 
 /// Nobody at the key, as before the start.
 void NulstilOperatør();

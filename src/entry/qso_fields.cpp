@@ -35,11 +35,16 @@ void FeltTast(QsoTekster& felter, int Index, KeyCode& KeyAscii, const std::funct
     if (tast == kEnter) return enter();
     if (tast == kEsc) return Esc(felter, Index);
     if (tast == kSpace) {
-        // No field can hold a blank from the keyboard.
         if (ErCallEllerNr(Index)) felter[Index == kCallFelt ? kNrModtagetFelt : kCallFelt].SetFocus();
         return;
     }
-    KeyAscii = Index == kCallFelt ? StorTast(tast) : tast;
+    KeyAscii = tast;
+}
+
+void FeltFilter(int Index, KeyCode& KeyAscii) {
+    if (Index == kCallFelt) KeyAscii = StorTast(KeyAscii);
+    // No field can hold a blank from the keyboard.
+    if (KeyAscii == kSpace) KeyAscii = kNoKey;
     if (Index == kUtcFelt) FiltrerTast(KeyAscii, kTidTegn);
     if (Index == kCallFelt) FiltrerTast(KeyAscii, kCallTegn);
     if (Index == kNrModtagetFelt) FiltrerTast(KeyAscii, kCifferTegn);

@@ -18,8 +18,11 @@ using QsoTekster = TextBox[kAntalFelter];
 void SætFeltlængder(QsoTekster& felter);
 
 /// A key in one of the fields. Enter runs `enter`; Esc empties call and received number together, or the field alone; Space jumps
-/// between call and received number; time, call and received number take only their own characters. A key that has done
-/// something becomes nothing.
+/// between call and received number. A key that has done something becomes nothing.
 void FeltTast(QsoTekster& felter, int Index, KeyCode& KeyAscii, const std::function<void()>& enter);
+
+/// What a key becomes in one of the fields: time, call and received number take only their own characters, the call in upper
+/// case; no field takes a blank.
+void FeltFilter(int Index, KeyCode& KeyAscii);
 
 }  // namespace vatro

@@ -60,6 +60,7 @@ FrmRetQSO::FrmRetQSO()
     SætFeltlængder(Text1);
     for (int i = kUtcFelt; i <= kNrModtagetFelt; ++i) {
         Text1[i].KeyPress = [this, i](KeyCode& key) { FeltTast(Text1, i, key, [this] { Command1_Click(); }); };
+        Text1[i].KeyFilter = [i](KeyCode& key) { FeltFilter(i, key); };
     }
     Text1[kCallFelt].GotFocus = [this] {
         sbStatusBar.SetPanel(1, "Hop ud af feltet for at få beregnet point automatisk inden du trykker på 'Log'"_t);
@@ -68,6 +69,7 @@ FrmRetQSO::FrmRetQSO()
     Text3.SetLocked(true);
     for (const std::string_view point : {"0", "1", "3", "5", "6", "10"}) Combo2.AddItem(std::string(point));
     Combo1.KeyPress = [this](KeyCode& key) { OperatørTast(Combo1, key); };
+    Combo1.KeyFilter = [this](KeyCode& key) { OperatørFilter(Combo1, key); };
     Combo1.LostFocus = [this] { OperatørTjek(Combo1, false); };
     Command1.Click = [this] { Command1_Click(); };
     Command2.Click = [this] { Unload(); };

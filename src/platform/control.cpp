@@ -51,6 +51,7 @@ KeyCode Control::PressKey(KeyCode key) {
     if (!enabled_) return kNoKey;
     form_.Form_KeyPress(key);
     if (key != kNoKey && KeyPress) KeyPress(key);
+    if (key != kNoKey) Filter(key);
     return key;
 }
 

@@ -111,7 +111,7 @@ public:
 
     // From the front.
 
-    /// Runs the form's KeyPress, then its own, and gives what they have made of the key; kNoKey if the control is disabled.
+    /// Runs the form's KeyPress, then its own and its filter, and gives what they have made of the key; kNoKey if the control is disabled.
     KeyCode PressKey(KeyCode key);
     /// The access letter was pressed: a button is pressed, a check box flipped, a frame leads to its target. The focus
     /// stays where it is unless the control only leads to it.
@@ -132,6 +132,8 @@ protected:
 
 private:
     friend class Form;
+    /// Behind KeyPress.
+    virtual void Filter(KeyCode& /*key*/) const {}
     /// The control has got the focus; runs before GotFocus.
     virtual void Entered(FocusWay /*way*/) {}
 

@@ -36,6 +36,9 @@ public:
     void SelectAll() { Select(0, static_cast<int>(text_.size())); }
 
     std::function<void()> Change;
+    /// Decides on every key that KeyPress leaves: lets it pass, changes it, or makes it nothing. It does nothing else, so that it may be
+    /// asked about a character that nobody has pressed.
+    std::function<void(KeyCode& KeyAscii)> KeyFilter;
 
     // From the front.
 
@@ -57,6 +60,9 @@ protected:
     void TakeText(std::string_view text);
 
 private:
+    void Filter(KeyCode& key) const override {
+        if (KeyFilter) KeyFilter(key);
+    }
     void Replace(std::size_t start, std::size_t length, std::string_view by);
 
     std::string text_;

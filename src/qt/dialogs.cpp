@@ -60,6 +60,20 @@ QStringList NameFilters(const std::string& filter) {
     return filters;
 }
 
+const QtFront* FrontOnQt() {
+    return dynamic_cast<const QtFront*>(&platform().front);
+}
+
+/// Hands the keys over before it goes.
+class Box : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+    void done(int result) override {
+        if (const QtFront* front = FrontOnQt()) front->HandKeysOver(*this);
+        QMessageBox::done(result);
+    }
+};
+
 /// Without an icon the text of a box needs no distance from one.
 void CloseUp(QMessageBox& box) {
     if (auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
@@ -82,7 +96,7 @@ void GiveKeysBack() {
 }  // namespace
 
 QWidget* DialogOwner() {
-    const auto* front = dynamic_cast<const QtFront*>(&platform().front);
+    const QtFront* front = FrontOnQt();
     // A side window may go while the box is open; the main window and a modal one stay.
     const Form* form = ModalForm();
     for (const Form* loaded : LoadedForms())
@@ -101,7 +115,7 @@ bool RunDialog(QDialog& dialog) {
 }
 
 QMessageBox* MakeBox(const MessageBox& box, QWidget* owner) {
-    auto* made = new QMessageBox(owner);
+    auto* made = new Box(owner);
     made->setWindowTitle(box.title.empty() ? QStringLiteral("vatro") : ToQt(box.title));
     made->setTextFormat(Qt::PlainText);
     made->setText(ToQt(box.text));
@@ -132,7 +146,13 @@ Answer AnswerOf(const QMessageBox& box) {
 }
 
 Answer QtDialogs::Show(const MessageBox& box) {
-    const std::unique_ptr<QMessageBox> made(MakeBox(box, DialogOwner()));
+    const auto remove = [](QMessageBox* gone) {
+        if (const QtFront* front = FrontOnQt())
+            front->Remove(*gone);
+        else
+            delete gone;
+    };
+    const std::unique_ptr<QMessageBox, decltype(remove)> made(MakeBox(box, DialogOwner()), remove);
     RunDialog(*made);
     LeaveIfEnding();
     return AnswerOf(*made);

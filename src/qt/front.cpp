@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QWidget>
 #include <algorithm>
+#include <QWindow>
+#include <chrono>
 
 #include "platform/program.h"
 #include "qt/deliver.h"
@@ -92,6 +94,23 @@ void QtFront::FollowActivation() {
     awaited_ = window->Top();
     window->Top()->raise();
     window->Top()->activateWindow();
+}
+
+void QtFront::HandKeysOver(const QWidget& leaving) const {
+    const Form* form = ActiveForm();
+    const FormWindow* next = form != nullptr ? WindowOf(*form) : nullptr;
+    if (!keepKeys || next == nullptr || !next->Top()->isVisible() || QApplication::activeWindow() != &leaving) return;
+    QWindow* from = leaving.windowHandle();
+    QWindow* to = next->Top()->windowHandle();
+    if (from != nullptr && to != nullptr && to != from && to->isAncestorOf(from)) to->requestActivate();
+}
+
+void QtFront::Remove(QWidget& window) const {
+    using namespace std::chrono_literals;
+    if (keepKeys)
+        QTimer::singleShot(1s, &window, &QObject::deleteLater);
+    else
+        window.deleteLater();
 }
 
 void QtFront::Shown(const FormWindow& window) {

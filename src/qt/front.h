@@ -47,11 +47,20 @@ public:
     std::function<void(const std::function<bool()>& over)> waitModal;
     /// A main window does not reach beyond the screen when it is first shown.
     bool fitToScreen = false;
+    /// Pasted text goes through the fields' filters as keys do.
+    bool filterPaste = false;
+    /// No key is lost that is typed while one window gives way to another.
+    bool keepKeys = false;
     /// The program has ended.
     std::function<void()> ended;
 
     // From the windows.
 
+    /// The window is about to be hidden. If keys are kept, that of the active form, above which it stands, gets them first: left
+    /// to the window system they would go nowhere until it has chosen the next window.
+    void HandKeysOver(const QWidget& leaving) const;
+    /// Removes a hidden window; if keys are kept, not before those that were on their way to it have come.
+    void Remove(QWidget& window) const;
     /// The window has been put on the screen by the program.
     void Shown(const FormWindow& window);
     /// The main window is on the screen: those above it may follow.

@@ -3,13 +3,18 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
 #include <algorithm>
 #include <functional>
 
+#include "extras/field_characters.h"
 #include "qt/deliver.h"
 #include "qt/front.h"
 #include "qt/text.h"
@@ -49,6 +54,12 @@ std::optional<ScrollBar::Move> MoveOf(int key) {
         default:
             return std::nullopt;
     }
+}
+
+/// Whether only what keys can bring gets into a field.
+bool FiltersPaste() {
+    const auto* front = dynamic_cast<const QtFront*>(&platform().front);
+    return front != nullptr && front->filterPaste;
 }
 
 /// Qt gives the focus back to where it was; nobody has moved it in the form.
@@ -111,6 +122,7 @@ Input::Input(Control& control, QWidget& widget, QLineEdit* editor)
 
 bool Input::eventFilter(QObject* watched, QEvent* event) {
     if (control_ == nullptr) return false;
+    if (watched == editor_ && TakeForeignText(*event)) return true;
     switch (event->type()) {
         case QEvent::ShortcutOverride:
             return watched == widget_ && KeepsKey(control_->Parent(), static_cast<QKeyEvent&>(*event));
@@ -153,8 +165,7 @@ bool Input::TakeKeyEvent(QKeyEvent& event) {
         return used;
     }
     if (editor_ != nullptr && event.matches(QKeySequence::Paste)) {
-        const std::string text = PastedText(QGuiApplication::clipboard()->text());
-        Deliver([&] { Text()->Insert(text); });
+        Paste(QGuiApplication::clipboard()->text());
         return true;
     }
     const std::optional<KeyCode> key = CodeOf(event);
@@ -185,7 +196,8 @@ bool Input::TakeKey(KeyCode key) {
         Form& form = control_->Parent();
         if (!form.Reachable()) return;
         if ((key == kEnter || key == kEsc) && form.UserDefaultKey(key)) return;
-        const KeyCode taken = control_->PressKey(key);
+        KeyCode taken = control_->PressKey(key);
+        if (self != nullptr && control_ != nullptr && Text() != nullptr && FiltersPaste()) taken = CharacterInto(*Text(), taken);
         if (taken == kNoKey || self == nullptr || control_ == nullptr) return;
         if (editor_ != nullptr) {
             Edit(taken);
@@ -210,6 +222,57 @@ void Input::Edit(KeyCode key) {
         const char byte = static_cast<char>(key);
         editor_->insert(ToQt({&byte, 1}));
     }
+}
+
+void Input::Paste(const QString& text) {
+    const std::string line = PastedText(text);
+    Deliver([&] {
+        if (control_ == nullptr) return;
+        if (FiltersPaste())
+            PasteInto(*Text(), line);
+        else
+            Text()->Insert(line);
+    });
+}
+
+bool Input::TakeForeignText(QEvent& event) {
+    if (Text() == nullptr || !FiltersPaste()) return false;
+    const QClipboard& clipboard = *QGuiApplication::clipboard();
+    if (event.type() == QEvent::MouseButtonRelease) {
+        // Its press has put the caret there.
+        if (static_cast<QMouseEvent&>(event).button() != Qt::MiddleButton || !clipboard.supportsSelection()) return false;
+        editor_->deselect();
+        Paste(clipboard.text(QClipboard::Selection));
+        return true;
+    }
+    if (event.type() == QEvent::Drop) {
+        auto& drop = static_cast<QDropEvent&>(event);
+        // A text that is moved within its field is not new to it.
+        if (drop.source() == editor_ || !drop.mimeData()->hasText()) return false;
+        editor_->setCursorPosition(editor_->cursorPositionAt(drop.position().toPoint()));
+        Deliver([&] { Text()->UserSelected(editor_->cursorPosition(), 0); });
+        Paste(drop.mimeData()->text());
+        drop.acceptProposedAction();
+        return true;
+    }
+    if (event.type() == QEvent::ContextMenu) {
+        OpenContextMenu(static_cast<QContextMenuEvent&>(event).globalPos());
+        return true;
+    }
+    return false;
+}
+
+void Input::OpenContextMenu(const QPoint& at) {
+    QMenu* menu = editor_->createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    // Qt names the entry in newer editions only; its text has the key behind it.
+    const QString paste = QLineEdit::tr("&Paste");
+    for (QAction* action : menu->actions()) {
+        if (action->objectName() != QStringLiteral("edit-paste") && action->text().section(u'\t', 0, 0) != paste) continue;
+        QObject::disconnect(action, &QAction::triggered, nullptr, nullptr);
+        QObject::connect(action, &QAction::triggered, this, [this] { Paste(QGuiApplication::clipboard()->text()); });
+    }
+    menu->popup(at);
 }
 
 bool Input::TakeInputMethod(QInputMethodEvent& event) {

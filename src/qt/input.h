@@ -45,6 +45,11 @@ private:
     /// Runs the key through form and control; true if the widget's own handling of it is still wanted.
     bool TakeKey(KeyCode key);
     void Edit(KeyCode key);
+    /// Puts the text over the selection, as the user has brought it in from outside.
+    void Paste(const QString& text);
+    /// The ways to paste that Qt would go by itself: middle button, drop, context menu. True if the event is done with.
+    bool TakeForeignText(QEvent& event);
+    void OpenContextMenu(const QPoint& at);
     TextControl* Text() const { return dynamic_cast<TextControl*>(control_); }
 
     Control* control_;

@@ -69,8 +69,9 @@ FormWindow::~FormWindow() {
     // Windows above this one are about to get another owner, or to go themselves.
     for (QWidget* child : top_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
         if (child->isWindow() && child->property("vatroForm").toBool()) child->setParent(nullptr, child->windowFlags());
+    front_.HandKeysOver(*top_);
     top_->hide();
-    top_->deleteLater();
+    front_.Remove(*top_);
 }
 
 void FormWindow::Build(QWidget* owner) {
@@ -178,6 +179,7 @@ void FormWindow::FollowPlace() {
 void FormWindow::FollowVisible() {
     if (form_.Visible() == top_->isVisible()) return;
     if (!form_.Visible()) {
+        front_.HandKeysOver(*top_);
         top_->hide();
         return;
     }

@@ -15,10 +15,7 @@ protected:
 
     ComboBox& Box() { return frmMain->Combo1; }
     /// What the box makes of the key.
-    KeyCode Press(KeyCode key) {
-        OperatørTast(Box(), key);
-        return key;
-    }
+    KeyCode Press(KeyCode key) { return Box().PressKey(key); }
 };
 
 TEST_F(Operators, OfALongLineCountOnlySixCharacters) {

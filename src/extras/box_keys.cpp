@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "extras/box_keys.h"
+
+namespace vatro {
+
+void BoxKeys::CameUp(Moment now) {
+    cameUp_ = now;
+    typed_.reset();
+}
+
+BoxKeys::Verdict BoxKeys::Press(const PressedKey& key, Moment now) {
+    if (key.kind == KeyKind::Other) return Verdict::Take;
+    if (key.kind == KeyKind::Character) {
+        typed_ = now;
+        return Verdict::DropAndFlash;
+    }
+    // A box that flashed for a held key would flash until it is let go.
+    if (key.repeated) return Verdict::Drop;
+    if (cameUp_ && now - *cameUp_ < kUnseen) return Verdict::DropAndFlash;
+    if (key.kind == KeyKind::Space && typed_ && now - *typed_ < kTyping) {
+        typed_ = now;
+        return Verdict::DropAndFlash;
+    }
+    return Verdict::Take;
+}
+
+}  // namespace vatro

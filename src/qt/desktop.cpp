@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#include "qt/desktop.h"
+
+#include "qt/front.h"
+
+namespace vatro {
+
+Desktop::Desktop(QtFront& front) : typing_(front) {
+    front.fitToScreen = true;
+    front.filterPaste = true;
+    front.keepKeys = true;
+}
+
+}  // namespace vatro

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "qt/field_mark.h"
+
+#include <QPainter>
+
+namespace vatro {
+
+namespace {
+
+constexpr int kBroad = 3;
+
+}  // namespace
+
+FieldMark::FieldMark() {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void FieldMark::Surround(QWidget& widget) {
+    if (parentWidget() != widget.parentWidget()) setParent(widget.parentWidget());
+    setGeometry(widget.geometry().adjusted(-kBroad, -kBroad, kBroad, kBroad));
+    show();
+    raise();
+}
+
+void FieldMark::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setPen(QPen(palette().color(QPalette::WindowText), kBroad, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    constexpr double kMiddle = kBroad / 2.0;
+    painter.drawRect(QRectF(rect()).adjusted(kMiddle, kMiddle, -kMiddle, -kMiddle));
+}
+
+}  // namespace vatro

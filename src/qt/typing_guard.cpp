@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: MIT
+#include "qt/typing_guard.h"
+
+#include <QAbstractItemModel>
+#include <QAction>
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QTimer>
+#include <QWindow>
+#include <utility>
+
+#include "cw/frmCWTX.h"
+#include "entry/frmMain.h"
+#include "entry/qso_fields.h"
+#include "qt/box_flash.h"
+#include "qt/deliver.h"
+#include "qt/field_mark.h"
+#include "qt/front.h"
+#include "qt/input.h"
+#include "qt/item_list.h"
+#include "qt/window.h"
+
+namespace vatro {
+
+namespace {
+
+PressedKey Pressed(const QKeyEvent& event) {
+    PressedKey key{.repeated = event.isAutoRepeat()};
+    key.letter = AccessLetterOf(event);
+    const std::optional<KeyCode> code = CodeOf(event);
+    if (key.letter != 0)
+        key.kind = KeyKind::AccessLetter;
+    else if (code == kEnter)
+        key.kind = KeyKind::Enter;
+    else if (code == kEsc)
+        key.kind = KeyKind::Esc;
+    else if (code == kSpace)
+        key.kind = KeyKind::Space;
+    else if (code && code != kBackspace)
+        key.kind = KeyKind::Character;
+    return key;
+}
+
+/// Shift and its like are part of the key that they are pressed with.
+bool IsModifier(int key) {
+    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
+}
+
+QWidget* WidgetOf(const QWindow& window) {
+    for (QWidget* top : QApplication::topLevelWidgets())
+        if (top->windowHandle() == &window) return top;
+    return nullptr;
+}
+
+/// The form of this slot if it is on the screen.
+const Form* Shown(const FormSlotBase& slot) {
+    const Form* form = slot.Peek();
+    return form != nullptr && form->Visible() ? form : nullptr;
+}
+
+/// The window that sends has the keys.
+bool Sending() {
+    return Shown(frmCWTX) != nullptr && ActiveForm() == frmCWTX.Peek() && frmMain.Loaded();
+}
+
+/// What the keys have done on the main form has made that the active one.
+void GiveKeysBackToSending() {
+    Form* form = frmCWTX.Peek();
+    if (Shown(frmCWTX) != nullptr && ModalForm() == nullptr && ActiveForm() != form) form->SetFocus();
+}
+
+}  // namespace
+
+TypingGuard::TypingGuard(QtFront& front) : now([this] { return Moment(clock_.elapsed()); }), front_(front) {
+    clock_.start();
+    qApp->installEventFilter(this);
+}
+
+bool TypingGuard::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+            if (const auto* window = qobject_cast<QWindow*>(watched)) return TakeKey(*window, static_cast<QKeyEvent&>(*event));
+            return false;
+        case QEvent::InputMethod:
+            if (const auto* widget = qobject_cast<QWidget*>(watched))
+                return TakeInputMethod(*widget, static_cast<QInputMethodEvent&>(*event));
+            return false;
+        case QEvent::Show:
+            if (qobject_cast<QMessageBox*>(watched) != nullptr) box_.CameUp(now());
+            return false;
+        case QEvent::WindowActivate:
+            // Which form has the keys is settled when all windows have been told.
+            if (frmCWTX.Loaded() && watched->isWidgetType()) QTimer::singleShot(0, this, &TypingGuard::MarkField);
+            return false;
+        case QEvent::Hide: {
+            const auto* widget = qobject_cast<QWidget*>(watched);
+            if (widget != nullptr && frmCWTX.Loaded() && FormOf(widget) == frmCWTX.Peek() && !event->spontaneous()) SendingOver();
+            return false;
+        }
+        default:
+            return false;
+    }
+}
+
+Form* TypingGuard::FormOf(const QWidget* window) const {
+    for (Form* form : LoadedForms()) {
+        const FormWindow* its = front_.WindowOf(*form);
+        if (its != nullptr && its->Top() == window) return form;
+    }
+    return nullptr;
+}
+
+bool TypingGuard::TakeKey(const QWindow& window, QKeyEvent& event) {
+    PressedKey key = Pressed(event);
+    const bool press = event.type() == QEvent::KeyPress;
+    // Only a real key has a number.
+    if (const quint32 number = event.nativeScanCode(); number != 0) {
+        const Moment at(event.timestamp());
+        if (press)
+            key.repeated = key.repeated || held_.Repeats(number, at);
+        else
+            held_.Released(number, at);
+    }
+    if (QApplication::activePopupWidget() != nullptr || IsModifier(event.key())) return false;
+    QWidget* const top = WidgetOf(window);
+    if (top != nullptr && !top->isVisible()) return HandOn(event, key.repeated);
+    if (auto* box = qobject_cast<QMessageBox*>(top)) return press && TakeOnBox(*box, key);
+    Form* const form = FormOf(top);
+    if (form == nullptr) return false;
+    WatchLog();
+    if (Sending() && (form == frmCWTX.Peek() || form == frmMain.Peek())) return TakeWhileSending(event, key);
+    return press && TakeOnForm(*form, key);
+}
+
+bool TypingGuard::HandOn(const QKeyEvent& event, bool repeated) const {
+    QWidget* next = QApplication::activeModalWidget();
+    const Form* form = ActiveForm();
+    if (const FormWindow* window = next == nullptr && form != nullptr ? front_.WindowOf(*form) : nullptr) next = window->Top();
+    if (next == nullptr || !next->isVisible() || next->windowHandle() == nullptr) return false;
+    QKeyEvent same(event.type(), event.key(), event.modifiers(), event.text(), repeated, static_cast<quint16>(event.count()));
+    QApplication::sendEvent(next->windowHandle(), &same);
+    return true;
+}
+
+bool TypingGuard::TakeOnBox(QMessageBox& box, const PressedKey& key) {
+    const BoxKeys::Verdict verdict = box_.Press(key, now());
+    if (verdict == BoxKeys::Verdict::DropAndFlash) BoxFlash::Flash(box);
+    return verdict != BoxKeys::Verdict::Take;
+}
+
+bool TypingGuard::TakeWhileSending(QKeyEvent& event, const PressedKey& key) {
+    if (!MorseKeys::Own(key)) {
+        HandToMain(event, key);
+        return true;
+    }
+    if (EntryKeys::Held(key)) return true;
+    const Form& sender = *frmCWTX.Peek();
+    const Control* active = sender.ActiveControl();
+    QWidget* widget = active != nullptr ? front_.WidgetOf(*active) : nullptr;
+    if (widget == nullptr) return false;
+    QKeyEvent own(event.type(), event.key(), event.modifiers(), event.text());
+    QApplication::sendEvent(widget, &own);
+    return true;
+}
+
+bool TypingGuard::TakeOnForm(const Form& form, const PressedKey& key) {
+    if (EntryKeys::Held(key)) return true;
+    if (&form != frmMain.Peek()) return false;
+    if (morse_.StillMeansText(key, now())) return true;
+    // In the list Enter corrects, in the box it takes the operator.
+    const Control* active = form.ActiveControl();
+    if (dynamic_cast<const ListBox*>(active) != nullptr || dynamic_cast<const ComboBox*>(active) != nullptr) return false;
+    return entry_.Swallows(key, frmMain->Text1[kCallFelt].Text().empty(), now());
+}
+
+void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {
+    Form& main = *frmMain.Peek();
+    const FormWindow* window = front_.WindowOf(main);
+    if (window == nullptr || !main.Reachable()) return;
+    const bool press = event.type() == QEvent::KeyPress;
+    const QKeySequence sequence(event.keyCombination());
+    for (QAction* action : window->Top()->findChildren<QAction*>()) {
+        if (!action->shortcuts().contains(sequence)) continue;
+        // Held down, F5 would send its text anew over and over.
+        if (press && !key.repeated) action->trigger();
+        Deliver(GiveKeysBackToSending);
+        MarkField();
+        return;
+    }
+    if (key.kind == KeyKind::AccessLetter) {
+        Deliver([&] {
+            if (press) main.UserAccessKey(key.letter);
+            GiveKeysBackToSending();
+        });
+        MarkField();
+        return;
+    }
+    const Control* active = main.ActiveControl();
+    QWidget* widget = active != nullptr ? front_.WidgetOf(*active) : nullptr;
+    if (widget == nullptr) return;
+    QKeyEvent same(event.type(), event.key(), event.modifiers(), event.text(), event.isAutoRepeat(), static_cast<quint16>(event.count()));
+    QApplication::sendEvent(widget, &same);
+    Deliver(GiveKeysBackToSending);
+    MarkField();
+}
+
+bool TypingGuard::TakeInputMethod(const QWidget& widget, QInputMethodEvent& event) {
+    if (event.commitString().isEmpty() || !Sending() || FormOf(widget.window()) != frmCWTX.Peek()) return false;
+    const Control* active = frmMain->ActiveControl();
+    QWidget* field = active != nullptr && frmMain->Reachable() ? front_.WidgetOf(*active) : nullptr;
+    if (field == nullptr) return true;
+    QInputMethodEvent same;
+    same.setCommitString(event.commitString());
+    QApplication::sendEvent(field, &same);
+    Deliver(GiveKeysBackToSending);
+    MarkField();
+    return true;
+}
+
+void TypingGuard::MarkField() {
+    sending_ = Sending();
+    const Control* active = sending_ ? frmMain->ActiveControl() : nullptr;
+    QWidget* field = active != nullptr ? front_.WidgetOf(*active) : nullptr;
+    if (field == nullptr) {
+        if (mark_ != nullptr) mark_->hide();
+        return;
+    }
+    if (mark_ == nullptr) mark_ = new FieldMark;
+    mark_->Surround(*field);
+}
+
+void TypingGuard::SendingOver() {
+    if (mark_ != nullptr) mark_->hide();
+    // Where the main form had the keys, they were for its fields all the time.
+    if (std::exchange(sending_, false) && frmCWTX->EndedByItself())
+        morse_.EndedByItself(now());
+    else
+        morse_.Forget();
+}
+
+void TypingGuard::WatchLog() {
+    if (!frmMain.Loaded()) return;
+    const auto* list = dynamic_cast<const ItemList*>(front_.WidgetOf(frmMain->List1));
+    if (list == nullptr || list->model() == log_) return;
+    log_ = list->model();
+    // A log that is read comes as a whole; a row by itself has just been logged.
+    connect(log_, &QAbstractItemModel::rowsInserted, this, [this] { entry_.Logged(now()); });
+}
+
+}  // namespace vatro

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "extras/box_keys.h"
+
+#include <gtest/gtest.h>
+
+namespace vatro {
+namespace {
+
+using namespace std::chrono_literals;
+using enum BoxKeys::Verdict;
+
+constexpr PressedKey kLetter{.kind = KeyKind::Character};
+constexpr PressedKey kEnterKey{.kind = KeyKind::Enter};
+constexpr PressedKey kEscKey{.kind = KeyKind::Esc};
+constexpr PressedKey kSpaceKey{.kind = KeyKind::Space};
+constexpr PressedKey kAltJ{.kind = KeyKind::AccessLetter, .letter = 'J'};
+
+constexpr PressedKey Held(PressedKey key) {
+    key.repeated = true;
+    return key;
+}
+
+/// A box that came up at 10 s.
+class BoxInFront : public ::testing::Test {
+protected:
+    BoxInFront() { box.CameUp(10s); }
+    BoxKeys box;
+};
+
+TEST_F(BoxInFront, TakesEnterEscSpaceAndAltWithALetter) {
+    for (const PressedKey& key : {kEnterKey, kEscKey, kSpaceKey, kAltJ}) EXPECT_EQ(box.Press(key, 11s), Take);
+}
+
+TEST_F(BoxInFront, FlashesForALetterOrFigureAndTakesNone) {
+    for (const Moment now : {10s + 0ms, 10s + 150ms, 15s + 0ms}) EXPECT_EQ(box.Press(kLetter, now), DropAndFlash);
+    EXPECT_EQ(box.Press(Held(kLetter), 16s), DropAndFlash);
+}
+
+TEST_F(BoxInFront, TakesArrowsTabAndCopyAtAnyTime) {
+    EXPECT_EQ(box.Press({.kind = KeyKind::Other}, 10s), Take);
+    EXPECT_EQ(box.Press({.kind = KeyKind::Other, .repeated = true}, 10s), Take);
+}
+
+TEST_F(BoxInFront, TakesNoAnswerBeforeAnybodyCanHaveSeenIt) {
+    for (const PressedKey& key : {kEnterKey, kEscKey, kSpaceKey, kAltJ}) {
+        EXPECT_EQ(box.Press(key, 10s), DropAndFlash);
+        EXPECT_EQ(box.Press(key, 10s + 199ms), DropAndFlash);
+        EXPECT_EQ(box.Press(key, 10s + 200ms), Take);
+    }
+}
+
+TEST_F(BoxInFront, IsNotAnsweredByAKeyHeldDown) {
+    for (const PressedKey& key : {kEnterKey, kEscKey, kSpaceKey, kAltJ}) {
+        EXPECT_EQ(box.Press(Held(key), 10s + 50ms), Drop);
+        EXPECT_EQ(box.Press(Held(key), 20s), Drop);
+    }
+    EXPECT_EQ(box.Press(kEnterKey, 20s), Take);
+}
+
+TEST_F(BoxInFront, TakesNoBlankInTheMiddleOfTyping) {
+    box.Press(kLetter, 12s);
+    EXPECT_EQ(box.Press(kSpaceKey, 12s + 180ms), DropAndFlash);
+    // The blank is typing too.
+    EXPECT_EQ(box.Press(kSpaceKey, 12s + 429ms), DropAndFlash);
+    EXPECT_EQ(box.Press(kSpaceKey, 12s + 679ms), Take);
+}
+
+TEST_F(BoxInFront, TakesEnterRightBehindALetter) {
+    box.Press(kLetter, 12s);
+    EXPECT_EQ(box.Press(kEnterKey, 12s + 1ms), Take);
+}
+
+TEST_F(BoxInFront, KnowsNothingOfWhatWasTypedUnderTheOneBefore) {
+    box.Press(kLetter, 12s);
+    box.CameUp(12s);
+    EXPECT_EQ(box.Press(kSpaceKey, 12s + 220ms), Take);
+}
+
+}  // namespace
+}  // namespace vatro

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "extras/field_characters.h"
+
+#include "cw/frmCW.h"
+#include "entry/frmCall.h"
+#include "logbook/frmNote.h"
+#include "logbook/frmNytQSOnr.h"
+#include "logbook/frmRetQSO.h"
+#include "running_program.h"
+
+namespace vatro {
+namespace {
+
+using namespace literals;
+
+class Pasting : public RunningProgram {
+protected:
+    Pasting() { Start(); }
+    /// What stands in the field, emptied before, behind the paste; in UTF-8.
+    static std::string Pasted(TextControl& field, std::string_view text) {
+        field.SetText({});
+        PasteInto(field, text);
+        return ToUtf8(field.Text());
+    }
+};
+
+TEST_F(Pasting, ANumberReceivedTakesFiguresOnly) {
+    EXPECT_EQ(Pasted(frmMain->Text1[5], "1E9"), "19");
+    EXPECT_EQ(Pasted(frmMain->Text1[5], " 12,3 "), "123");
+    EXPECT_EQ(Pasted(frmRetQSO->Text1[5], "-1e9"), "19");
+}
+
+TEST_F(Pasting, ACallIsPutInCapitals) {
+    EXPECT_EQ(Pasted(frmMain->Text1[1], " oz1abc/p\t"), "OZ1ABC/P");
+    EXPECT_EQ(Pasted(frmMain->Text1[1], "ø-z1"_t), "ØZ1");
+    EXPECT_EQ(Pasted(frmRetQSO->Text1[1], "dl1we"), "DL1WE");
+    EXPECT_EQ(Pasted(frmCall->cboCall, "oz1ab/p"), "OZ1AB/P");
+}
+
+TEST_F(Pasting, ABlankPastedIsNoJump) {
+    Dispatch([] { frmMain->Text1[1].SetFocus(); });
+    EXPECT_EQ(Pasted(frmMain->Text1[1], "OZ1 ABC"), "OZ1ABC");
+    EXPECT_TRUE(frmMain->Text1[1].HasFocus());
+}
+
+TEST_F(Pasting, ATimeTakesFiguresColonAndPoint) {
+    EXPECT_EQ(Pasted(frmMain->Text1[0], "kl. 12:30"), ".12:3");
+}
+
+TEST_F(Pasting, AReportTakesWhatItsKeysTake) {
+    EXPECT_EQ(Pasted(frmMain->Text1[4], "5 9"), "59");
+    EXPECT_EQ(Pasted(frmMain->Text1[4], "5n"), "5n");
+}
+
+TEST_F(Pasting, FieldsWithArrowsTakeFiguresOnly) {
+    EXPECT_EQ(Pasted(frmNytQSOnr->Text1, "9E4"), "94");
+    EXPECT_EQ(Pasted(frmCW->txtWPM, "2e3 WPM"), "23");
+    EXPECT_EQ(Pasted(frmCW->txtTone, "-800"), "800");
+}
+
+TEST_F(Pasting, AFieldWithArrowsTakesNoLetterByKeyEither) {
+    EXPECT_EQ(CharacterInto(frmNytQSOnr->Text1, 'E'), kNoKey);
+    EXPECT_EQ(CharacterInto(frmNytQSOnr->Text1, '9'), '9');
+    EXPECT_EQ(CharacterInto(frmNytQSOnr->Text1, kBackspace), kBackspace);
+}
+
+TEST_F(Pasting, AMorseTextKeepsItsBlanks) {
+    EXPECT_EQ(Pasted(frmCW->Text1[0], "cq test <de> #r"), "CQ TEST DE #R");
+}
+
+TEST_F(Pasting, ANoteTakesEverything) {
+    EXPECT_EQ(Pasted(frmNote->Text1, "Pause 14-15, æble; #1!"_t), "Pause 14-15, æble; #1!");
+}
+
+TEST_F(Pasting, AnOperatorTakesASeventhCharacterAndNoMoreAsByKey) {
+    EXPECT_EQ(Pasted(frmMain->Combo1, "oz1abcdef"), "OZ1ABCD");
+}
+
+TEST_F(Pasting, TheRoomOfAFieldIsForWhatItTakes) {
+    EXPECT_EQ(Pasted(frmMain->Text1[5], "1 2 3 4 5"), "1234");
+}
+
+TEST_F(Pasting, TheFirstLineCounts) {
+    EXPECT_EQ(Pasted(frmMain->Text1[1], "OZ1AB\r\nOZ2CD"), "OZ1AB");
+}
+
+TEST_F(Pasting, TheSelectionGoesIfTheFieldTakesAnything) {
+    TextBox& call = frmMain->Text1[1];
+    call.SetText("OZ1AB");
+    call.Select(2, 3);
+    PasteInto(call, "?!");
+    EXPECT_EQ(call.Text(), "OZ1AB");
+    PasteInto(call, "?7?");
+    EXPECT_EQ(call.Text(), "OZ7");
+}
+
+}  // namespace
+}  // namespace vatro

@@ -1,0 +1,115 @@
+# SPDX-License-Identifier: MIT
+#
+# Sourced by the scripts beside it: the program on a screen of its own, with a window manager, typed at by xdotool.
+
+# Ends the test if one of the programs that it takes is missing: as skipped by hand, as failed where CI is "true".
+need() {
+    local program
+    for program in "$@"; do
+        command -v "$program" >/dev/null && continue
+        echo "$program is not installed"
+        [ "${CI:-}" != true ] || exit 1
+        exit 77
+    done
+}
+
+screen= manager= program=
+finish() { kill $program $manager $screen 2>/dev/null || true; }
+fail() {
+    echo "$1"
+    echo "windows: $(xdotool search --onlyvisible --name . getwindowname %@ 2>&1 | paste -s -d '|')"
+    [ ! -s "$world/vatro.err" ] || cat "$world/vatro.err"
+    exit 1
+}
+
+# start VATRO DATA MODE: the program in this mode with the tables of the directory DATA, its world below $world.
+start() {
+    mkdir -p "$world/log" "$world/tables" "$world/config/vatro" "$world/run"
+    chmod 700 "$world/run"
+    cp "$2"/*.txt "$world/tables/"
+    cat >"$world/config/vatro/vatro.ini" <<SETTINGS
+[Settings]
+gsLogLib=$world/log
+MyCall=OZ1AB
+LastOP=OZ1AB
+Mode=$3
+QsoMode=$3
+VisInfo2002=False
+
+[CW]
+WPM=20
+Tone=800
+Tekst2=E
+SETTINGS
+    mkfifo "$world/display"
+    # Left by its last client a server begins anew, in the face of one that is just coming.
+    Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp -noreset 3>"$world/display" 2>"$world/vatro.err" &
+    screen=$!
+    read -r number <"$world/display" || fail "there is no screen"
+    export DISPLAY=:$number
+    openbox >/dev/null 2>&1 &
+    manager=$!
+    # A window that comes while the manager takes over may stay unseen.
+    for _ in $(seq 100); do
+        xdotool get_num_desktops >/dev/null 2>&1 && break
+        sleep 0.1
+    done
+    cd "$world/tables"
+    env XDG_CONFIG_HOME="$world/config" XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$world/run}" QT_QPA_PLATFORM=xcb "$1" 2>"$world/vatro.err" &
+    program=$!
+    wait_for "$main" 30 || fail "the main window does not come"
+    wait_for_focus "$main" || fail "the main window does not get the keys"
+}
+
+main='^Vatro OZ1AB$'
+shown() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
+# Waits so many seconds for a window of this caption.
+wait_for() {
+    local end=$((SECONDS + $2))
+    while [ -z "$(shown "$1")" ]; do
+        kill -0 "$program" 2>/dev/null || fail "the program has ended"
+        [ $SECONDS -lt $end ] || return 1
+    done
+}
+wait_until_gone() {
+    local end=$((SECONDS + $2))
+    while [ -n "$(shown "$1")" ]; do
+        [ $SECONDS -lt $end ] || return 1
+    done
+}
+wait_for_focus() {
+    local end=$((SECONDS + 10))
+    until [ "$(xdotool getwindowname "$(xdotool getwindowfocus 2>/dev/null)" 2>/dev/null | grep -c "$1")" = 1 ]; do
+        [ $SECONDS -lt $end ] || return 1
+        sleep 0.05
+    done
+}
+# keys DELAY TEXT [KEY...]: types the text, a blank as Space, and presses the keys, with so many milliseconds between.
+keys() {
+    local delay=$1 text=$2 pressed=() i
+    shift 2
+    for ((i = 0; i < ${#text}; i++)); do
+        case ${text:i:1} in
+            ' ') pressed+=(space) ;;
+            /) pressed+=(slash) ;;
+            *) pressed+=("${text:i:1}") ;;
+        esac
+    done
+    xdotool key --delay "$delay" "${pressed[@]}" "$@"
+}
+# The calls and numbers of a log, one contact a line.
+calls() {
+    [ ! -e "$world/log/$1" ] || cut -c7-21,36-39 "$world/log/$1" | sed -E 's/ *(....)$/ \1/'
+}
+# Waits until the log has these contacts.
+expect() {
+    local log=$1 want=$2 end=$((SECONDS + 10))
+    until [ "$(calls "$log")" = "$want" ]; do
+        kill -0 "$program" 2>/dev/null || fail "the program has ended"
+        [ $SECONDS -lt $end ] || fail "$log: wanted
+$want
+but there is
+$(calls "$log")"
+        sleep 0.05
+    done
+}
