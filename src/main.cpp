@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "disk/disk_files.h"
+#include "disk/disk_settings.h"
 #include "entry/frmMain.h"
 #include "frame/start.h"
 #include "platform/program.h"
@@ -18,7 +19,6 @@
 #include "qt/printer.h"
 #include "qt/safety.h"
 #include "qt/services.h"
-#include "qt/settings_store.h"
 #include "qt/sound.h"
 #include "qt/spread.h"
 
@@ -27,7 +27,7 @@ int main(int argc, char** argv) {
     vatro::PrepareApplication();
 
     vatro::QtFront front;
-    vatro::QtSettings settings;
+    vatro::DiskSettings settings(vatro::SettingsPath());
     vatro::DiskFiles disk;
     vatro::QtClock clock;
     vatro::QtHelp help;
