@@ -122,7 +122,7 @@ void FrmRetQSO::CheckDupQSO() {
     }
 }
 
-void FrmRetQSO::Form_Unload() {
+void FrmRetQSO::StoreState() {
     GemOperatører(Combo1);
 }
 
