@@ -15,6 +15,7 @@
 #include "qt/clock.h"
 #include "qt/deliver.h"
 #include "qt/dialogs.h"
+#include "qt/ends.h"
 #include "qt/front.h"
 #include "qt/printer.h"
 #include "qt/safety.h"
@@ -49,6 +50,7 @@ int main(int argc, char** argv) {
                             {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
     front.fitToScreen = true;
+    const vatro::Ends ends(settings);
     front.ended = [] { QCoreApplication::quit(); };
     // The start procedure may open boxes, so it runs inside the event loop like every other event.
     QTimer::singleShot(0, &front, [&front] {
@@ -57,6 +59,8 @@ int main(int argc, char** argv) {
         if (vatro::ProgramRuns() && !vatro::FrmMain::HarPlads()) vatro::SpreadWindows(front);
     });
     const int result = QApplication::exec();
+    // Nobody is at the screen to read anything if the end has come from outside.
+    if (ends.Asked()) return result;
     safety.TellRest();
     if (const auto loss = settings.Loss()) std::unique_ptr<QMessageBox>(vatro::MakeBox(*loss, nullptr))->exec();
     return result;
