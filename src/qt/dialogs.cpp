@@ -172,7 +172,15 @@ std::string QtDialogs::ChooseFile(const FileDialog& dialog, bool save) {
 
 void QtDialogs::SetUpPrinter() {
     if (printer_ == nullptr) throw RunTimeError(Failure::Cancelled);
-    QPrintDialog chooser(&printer_->Device(), DialogOwner());
+    QPrinter* const printer = printer_->Printer();
+    if (printer == nullptr) {
+        MessageBox silent;
+        silent.text = "Printserveren svarer ikke.\n\nUdskrifter kan gemmes som PDF-filer, indtil den svarer igen."_t;
+        silent.icon = Icon::Exclamation;
+        Show(silent);
+        throw RunTimeError(Failure::Cancelled);
+    }
+    QPrintDialog chooser(printer, DialogOwner());
     QObject::connect(&chooser, &QDialog::finished, &chooser, [] { WaitLoop::Look(); });
     RunDialog(chooser);
     LeaveIfEnding();

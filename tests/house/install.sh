@@ -22,6 +22,7 @@ prefix="$work/a prefix"
 bin/vatro
 bin/vatro-cty
 libexec/vatro/vatro
+libexec/vatro/vatro-printers
 share/applications/dk.vatro.Vatro.desktop
 share/doc/vatro/changelog.gz
 share/doc/vatro/copyright
