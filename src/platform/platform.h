@@ -44,6 +44,9 @@ struct FileDialog {
     /// A file dialogue to write asks before it overwrites an existing file.
     bool overwritePrompt = false;
     bool fileMustExist = false;
+    /// The file only marks the directory that is wanted. A front may let the user choose a directory instead, and gives back the
+    /// path of a file of this name in it; there is nothing to ask about then, whatever the file holds.
+    bool markerFile = false;
 };
 
 /// The dialogues of the system. Time, timers and sound go on while one is open.
