@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
 #include <fstream>
 #include <optional>
 #include <stdexcept>
@@ -26,6 +27,7 @@
 #include <vector>
 
 #include "disk/disk_files.h"
+#include "disk/disk_settings.h"
 #include "entry/frmB4.h"
 #include "entry/frmMain.h"
 #include "frame/start.h"
@@ -37,7 +39,6 @@
 #include "qt/deliver.h"
 #include "qt/front.h"
 #include "qt/printer.h"
-#include "qt/settings_store.h"
 #include "qt/sound.h"
 #include "sample.h"
 #include "unattended.h"
@@ -80,7 +81,7 @@ QWidget& Surface(QWidget* widget) {
 /// The program in its window.
 class Windows {
 public:
-    explicit Windows(const QString& settings) : settings_(settings) {}
+    explicit Windows(const std::filesystem::path& settings) : settings_(settings) {}
     ~Windows() {
         if (ProgramRuns()) EndProgram();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -100,7 +101,7 @@ public:
     QWidget* WidgetOf(const Control& control) const { return front_.WidgetOf(control); }
 
 private:
-    QtSettings settings_;
+    DiskSettings settings_;
     QtFront front_;
     Unattended unattended_;
     DiskFiles files_;
@@ -120,10 +121,10 @@ void PaintEmpty(QMainWindow& window) {
 class Station {
 public:
     Station() {
-        QtSettings settings(SettingsFile());
+        DiskSettings settings(SettingsFile());
         workplace_.Furnish(SampleLog(), settings);
     }
-    QString SettingsFile() const { return QString::fromStdString(workplace_.Path("vatro.conf").string()); }
+    std::filesystem::path SettingsFile() const { return workplace_.Path("vatro.conf"); }
 
 private:
     Workplace workplace_;
@@ -160,7 +161,7 @@ void EmptyWindow(benchmark::State& state) {
 void StartToPainted(benchmark::State& state) {
     const Station station;
     state.SetLabel("vs process to an empty painted window");
-    for (auto _ : state) RunSelf(state, {"--paint", "program", station.SettingsFile().toStdString()});
+    for (auto _ : state) RunSelf(state, {"--paint", "program", station.SettingsFile().string()});
 }
 
 void PressKey(QWidget& field, Qt::Key key, const QString& text) {
@@ -245,7 +246,7 @@ long Memory() {
     if (settings.empty())
         PaintEmpty(window.emplace());
     else
-        windows.emplace(QString::fromStdString(settings)).Start();
+        windows.emplace(std::filesystem::path(settings)).Start();
     const std::string memory = std::to_string(Memory()) + "\n";
     const bool told = write(STDOUT_FILENO, memory.data(), memory.size()) > 0;
     _exit(told ? 0 : 1);

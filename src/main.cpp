@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "disk/disk_files.h"
+#include "disk/disk_settings.h"
 #include "entry/frmMain.h"
 #include "frame/start.h"
 #include "platform/program.h"
@@ -15,11 +16,11 @@
 #include "qt/deliver.h"
 #include "qt/desktop.h"
 #include "qt/dialogs.h"
+#include "qt/ends.h"
 #include "qt/front.h"
 #include "qt/printer.h"
 #include "qt/safety.h"
 #include "qt/services.h"
-#include "qt/settings_store.h"
 #include "qt/sound.h"
 #include "qt/spread.h"
 
@@ -28,7 +29,7 @@ int main(int argc, char** argv) {
     vatro::PrepareApplication();
 
     vatro::QtFront front;
-    vatro::QtSettings settings;
+    vatro::DiskSettings settings(vatro::SettingsPath());
     vatro::DiskFiles disk;
     vatro::QtClock clock;
     vatro::QtHelp help;
@@ -50,6 +51,7 @@ int main(int argc, char** argv) {
                             {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
     const vatro::Desktop desktop(front);
+    const vatro::Ends ends(settings);
     front.ended = [] { QCoreApplication::quit(); };
     // The start procedure may open boxes, so it runs inside the event loop like every other event.
     QTimer::singleShot(0, &front, [&front] {
@@ -58,6 +60,8 @@ int main(int argc, char** argv) {
         if (vatro::ProgramRuns() && !vatro::FrmMain::HarPlads()) vatro::SpreadWindows(front);
     });
     const int result = QApplication::exec();
+    // Nobody is at the screen to read anything if the end has come from outside.
+    if (ends.Asked()) return result;
     safety.TellRest();
     if (const auto loss = settings.Loss()) std::unique_ptr<QMessageBox>(vatro::MakeBox(*loss, nullptr))->exec();
     return result;

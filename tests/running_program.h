@@ -40,12 +40,20 @@ public:
     }
     void Write(std::string_view section, std::string_view key, std::string_view text) override {
         written.emplace_back(key);
+        if (open_ == 0) ++writtenAlone;
         texts[UpperText(std::string(section) + "/" + std::string(key))] = text;
     }
+    void BeginBatch() override { ++open_; }
+    void EndBatch() override { --open_; }
     /// By "SECTION/KEY" in upper case.
     std::map<std::string, std::string> texts;
     /// The keys in the order in which they were written.
     std::vector<std::string> written;
+    /// How many were written outside every batch.
+    int writtenAlone = 0;
+
+private:
+    int open_ = 0;
 };
 
 /// Files in memory, whole lines ended by CR LF.

@@ -21,7 +21,7 @@ void FrmB4::Form_Load() {
     HentPlads(*this, kPlads);
 }
 
-void FrmB4::Form_Unload() {
+void FrmB4::StoreState() {
     GemPlads(*this, kPlads);
 }
 

@@ -14,7 +14,7 @@ public:
     ListBox List1;
 
     void Form_Load() override;
-    void Form_Unload() override;
+    void StoreState() override;
 };
 
 inline FormSlot<FrmB4> frmB4{"frmB4"};

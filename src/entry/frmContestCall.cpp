@@ -28,7 +28,7 @@ void FrmContestCall::Form_Load() {
     Form_Resize();
 }
 
-void FrmContestCall::Form_Unload() {
+void FrmContestCall::StoreState() {
     GemPlads(*this, kPlads);
 }
 

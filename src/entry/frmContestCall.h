@@ -16,7 +16,7 @@ public:
     void visContestCall();
 
     void Form_Load() override;
-    void Form_Unload() override;
+    void StoreState() override;
     void Form_Resize() override;
 };
 

@@ -157,6 +157,7 @@ void FrmMain::Form_Load() {
     IndlæsLogfil();
     LæsOperatører(Combo1, gsOperatør.Padded());
     ResetQSO();
+    up_ = true;
     if (gbVisInfo) VisStartInfo();
     // Again, so that the time spent loading does not shift the clock.
     if (gbAutoTid == 1) TimerStart();
@@ -177,11 +178,18 @@ void FrmMain::Form_Resize() {
 }
 
 void FrmMain::Form_Unload() {
+    // More than thirty values: the disk takes them in one piece.
+    const SettingsBatch together(platform().settings);
     SetHourglass(true);
     GemOperatører(Combo1);
     // The keyer lets other events run while it goes, which may close windows too.
     for (std::size_t i = LoadedForms().size(); i-- > 1;)
         if (i < LoadedForms().size()) LoadedForms()[i]->Unload();
+    StoreState();
+    SetHourglass(false);
+}
+
+void FrmMain::StoreState() {
     if (State() != WindowState::Minimised) {
         GemTal(kSettings, kVenstre, Left());
         GemTal(kSettings, "MainTop", Top());
@@ -200,7 +208,6 @@ void FrmMain::Form_Unload() {
     GemTekst(kSettings, "gsTelefon", gsTelefon);
     GemTekst(kSettings, "LastOP", gsOperatør.Padded());
     GemFlag(kSettings, "VisInfo2002", gbVisInfo);
-    SetHourglass(false);
 }
 
 void FrmMain::Text1_Change(int Index) {

@@ -33,9 +33,12 @@ public:
 
     /// Whether the settings know a place of the window: before the first regular end they do not.
     static bool HarPlads();
+    /// Whether the start has come so far that all settings are read: before that there is nothing to store.
+    bool Up() const { return up_; }
 
     void Form_Load() override;
     void Form_Unload() override;
+    void StoreState() override;
     void Form_Resize() override;
 
 private:
@@ -48,6 +51,8 @@ private:
     void SætKlasse(std::string_view klasse);
     void VisKlasse();
     void SkiftVindue(MenuItem& punkt, FormSlotBase& vindue);
+
+    bool up_ = false;
 };
 
 inline FormSlot<FrmMain> frmMain{"frmMain"};

@@ -40,7 +40,7 @@ void FrmQSOnr::Form_Load() {
     Form_Resize();
 }
 
-void FrmQSOnr::Form_Unload() {
+void FrmQSOnr::StoreState() {
     GemPlads(*this, kPlads);
 }
 

@@ -19,7 +19,7 @@ public:
     void visDupe();
 
     void Form_Load() override;
-    void Form_Unload() override;
+    void StoreState() override;
     void Form_Resize() override;
 };
 

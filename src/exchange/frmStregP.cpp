@@ -57,7 +57,7 @@ void FrmStregP::Form_Load() {
     FjernDubletter();
 }
 
-void FrmStregP::Form_Unload() {
+void FrmStregP::StoreState() {
     GemPlads(*this, kPlads);
 }
 

@@ -27,7 +27,7 @@ public:
 
     /// Fills the list in the steps below, before the eyes of the user.
     void Form_Load() override;
-    void Form_Unload() override;
+    void StoreState() override;
 
     /// The contacts of all ten logs, from the files.
     void IndlæsLogs();

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "frame/start.h"
 
+#include <exception>
+#include <functional>
+#include <vector>
+
 #include "country/tables.h"
 #include "cw/settings.h"
 #include "cw/synthesis.h"
@@ -37,6 +41,15 @@ void LæsIndstillinger() {
     gbVisInfo = HentFlag(kSettings, "VisInfo2002", true);
 }
 
+/// As far as it can be done.
+void Try(const std::function<void()>& step) noexcept {
+    try {
+        step();
+    } catch (const std::exception&) {
+        // Nobody is left who could be told.
+    }
+}
+
 }  // namespace
 
 std::string VersionTekst() {
@@ -63,6 +76,18 @@ void VisKørerAllerede() {
     afvist.text = "Der må kun køre een udgave ellers går der kuk i loggen!"_t;
     afvist.title = "Vatro kører allerede."_t;
     MsgBox(afvist);
+}
+
+void StoreRunningProgram() noexcept {
+    auto* main = static_cast<FrmMain*>(frmMain.Peek());
+    if (main == nullptr || !main->Up()) return;
+    const SettingsBatch together(platform().settings);
+    // Not while another handler has its file open.
+    Try([main] { GemOperatører(main->Combo1); });
+    const std::vector<Form*>& forms = LoadedForms();
+    for (auto form = forms.rbegin(); form != forms.rend(); ++form)
+        if (*form != main) Try([form] { (*form)->StoreState(); });
+    Try([main] { main->StoreState(); });
 }
 
 void StartProgram() {

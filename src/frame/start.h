@@ -19,6 +19,11 @@ void StartProgram();
 /// The box that refuses a second copy.
 void VisKørerAllerede();
 
+/// Stores what a regular end stores: the operators, the settings, the places of the windows. For an end that runs no handler, at
+/// any moment at which the logic waits for the front; asks nothing of the front and never fails. Before the main form is up nothing
+/// is stored, as at every early end. While a handler has file 1 open, the operators are left out.
+void StoreRunningProgram() noexcept;
+
 /// Major, minor and revision, joined by ".".
 std::string VersionTekst();
 

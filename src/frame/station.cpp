@@ -42,6 +42,7 @@ std::string VælgMærkefil(std::string_view navn, std::string_view titel) {
     dialog.filter = std::string(navn) + " (*.txt)|*.txt";
     dialog.defaultExtension = "txt";
     dialog.overwritePrompt = true;
+    dialog.markerFile = true;
     return platform().dialogs.SaveFile(dialog);
 }
 

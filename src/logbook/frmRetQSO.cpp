@@ -124,7 +124,7 @@ void FrmRetQSO::CheckDupQSO() {
     }
 }
 
-void FrmRetQSO::Form_Unload() {
+void FrmRetQSO::StoreState() {
     GemOperatører(Combo1);
 }
 

@@ -36,7 +36,7 @@ public:
     /// line before, so a note that begins with the call counts as a contact: meant so.
     void CheckDupQSO();
 
-    void Form_Unload() override;
+    void StoreState() override;
 
 private:
     void Text1_LostFocus();

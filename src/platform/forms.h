@@ -115,7 +115,10 @@ public:
     virtual void Form_Load() {}
     /// `Cancel` made true keeps the form.
     virtual void Form_QueryUnload(bool& Cancel) { static_cast<void>(Cancel); }
-    virtual void Form_Unload() {}
+    virtual void Form_Unload() { StoreState(); }
+    /// Writes down what of the form outlives it: its place, its choices. Part of Form_Unload, and also run, without the rest, where
+    /// the program is about to end without its handlers. Asks nothing of the front.
+    virtual void StoreState() {}
     virtual void Form_Resize() {}
     virtual void Form_Click() {}
     /// A key before the control that has the focus gets it; made kNoKey it ends here.

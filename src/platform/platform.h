@@ -44,6 +44,9 @@ struct FileDialog {
     /// A file dialogue to write asks before it overwrites an existing file.
     bool overwritePrompt = false;
     bool fileMustExist = false;
+    /// The file only marks the directory that is wanted. A front may let the user choose a directory instead, and gives back the
+    /// path of a file of this name in it; there is nothing to ask about then, whatever the file holds.
+    bool markerFile = false;
 };
 
 /// The dialogues of the system. Time, timers and sound go on while one is open.
@@ -67,8 +70,23 @@ public:
     virtual ~Settings() = default;
     /// Nothing if the key is missing. Writes nothing.
     virtual std::optional<std::string> Read(std::string_view section, std::string_view key) = 0;
-    /// The value is on disk on return. A disk that does not take it is not told.
+    /// The value is on disk on return, or at the end of the batch that this stands in. Write failures are not reported.
     virtual void Write(std::string_view section, std::string_view key, std::string_view text) = 0;
+    /// A batch of writes goes to the disk at its end, in one piece. Batches may lie in each other; the outermost one counts.
+    virtual void BeginBatch() {}
+    virtual void EndBatch() {}
+};
+
+/// A batch of writes, as long as this lives.
+class SettingsBatch {
+public:
+    explicit SettingsBatch(Settings& settings) : settings_(settings) { settings_.BeginBatch(); }
+    ~SettingsBatch() { settings_.EndBatch(); }
+    SettingsBatch(const SettingsBatch&) = delete;
+    SettingsBatch& operator=(const SettingsBatch&) = delete;
+
+private:
+    Settings& settings_;
 };
 
 enum class FileMode { Input, Output, Append };

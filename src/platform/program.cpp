@@ -40,6 +40,10 @@ bool ProgramEnding() {
     return ending;
 }
 
+bool InsideEvent() {
+    return depth > 0;
+}
+
 void Dispatch(const std::function<void()>& event) {
     if (!ProgramRuns()) return;
     ++depth;

@@ -16,6 +16,8 @@ void Dispatch(const std::function<void()>& event);
 bool ProgramRuns();
 /// Begins a run: the start procedure may be dispatched. No form is loaded before it.
 void BeginProgram();
+/// Whether an event is being run, or waits at an open box or form.
+bool InsideEvent();
 /// Ends the program at once: unwinds to the outermost event, runs no further handler, unloads nothing. Does not return
 /// when called inside an event.
 void EndProgram();

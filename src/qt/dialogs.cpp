@@ -159,11 +159,22 @@ Answer QtDialogs::Show(const MessageBox& box) {
 }
 
 std::string QtDialogs::SaveFile(const FileDialog& dialog) {
-    return ChooseFile(dialog, true);
+    return dialog.markerFile ? ChooseDirectory(dialog) : ChooseFile(dialog, true);
 }
 
 std::string QtDialogs::OpenFile(const FileDialog& dialog) {
     return ChooseFile(dialog, false);
+}
+
+/// Runs the dialogue; the first path chosen. Fails with Failure::Cancelled.
+QString QtDialogs::Choose(QFileDialog& chooser) {
+    chooser.setLabelText(QFileDialog::LookIn, QStringLiteral("Søg i:"));
+    chooser.setLabelText(QFileDialog::Reject, QStringLiteral("Annuller"));
+    QObject::connect(&chooser, &QDialog::finished, &chooser, [] { WaitLoop::Look(); });
+    RunDialog(chooser);
+    LeaveIfEnding();
+    if (chooser.result() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) throw RunTimeError(Failure::Cancelled);
+    return chooser.selectedFiles().constFirst();
 }
 
 std::string QtDialogs::ChooseFile(const FileDialog& dialog, bool save) {
@@ -176,23 +187,53 @@ std::string QtDialogs::ChooseFile(const FileDialog& dialog, bool save) {
     const QFileInfo named(ToQt(dialog.fileName));
     chooser.setDirectory(named.isAbsolute() ? named.absolutePath() : folder_.isEmpty() ? OwnFiles() : folder_);
     if (!dialog.fileName.empty()) chooser.selectFile(named.fileName());
-    chooser.setLabelText(QFileDialog::LookIn, QStringLiteral("Søg i:"));
     chooser.setLabelText(QFileDialog::FileName, QStringLiteral("&Filnavn:"));
     chooser.setLabelText(QFileDialog::FileType, QStringLiteral("Filtype:"));
     chooser.setLabelText(QFileDialog::Accept, save ? QStringLiteral("&Gem") : QStringLiteral("&Åbn"));
-    chooser.setLabelText(QFileDialog::Reject, QStringLiteral("Annuller"));
-    QObject::connect(&chooser, &QDialog::finished, &chooser, [] { WaitLoop::Look(); });
-    RunDialog(chooser);
-    LeaveIfEnding();
-    if (chooser.result() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) throw RunTimeError(Failure::Cancelled);
-    const QString chosen = chooser.selectedFiles().constFirst();
+    const QString chosen = Choose(chooser);
     folder_ = QFileInfo(chosen).absolutePath();
     return FromQt(QDir::toNativeSeparators(chosen));
 }
 
+std::string QtDialogs::ChooseDirectory(const FileDialog& dialog) {
+    for (;;) {
+        QFileDialog chooser(DialogOwner(), ToQt(dialog.title));
+        chooser.setAcceptMode(QFileDialog::AcceptOpen);
+        chooser.setFileMode(QFileDialog::Directory);
+        chooser.setOption(QFileDialog::ShowDirsOnly);
+        chooser.setDirectory(folder_.isEmpty() ? OwnFiles() : folder_);
+        chooser.setLabelText(QFileDialog::FileName, QStringLiteral("&Bibliotek:"));
+        chooser.setLabelText(QFileDialog::FileType, QStringLiteral("Filtype:"));
+        chooser.setLabelText(QFileDialog::Accept, QStringLiteral("&Vælg"));
+        const QString chosen = Choose(chooser);
+        if (HasCodePageText(chosen)) {
+            folder_ = chosen;
+            return FromQt(QDir::toNativeSeparators(QDir(chosen).filePath(ToQt(dialog.fileName))));
+        }
+        // The path would come back with "?" in it, and with luck lead elsewhere.
+        folder_ = QFileInfo(chosen).absolutePath();
+        const std::unique_ptr<QMessageBox> refused(MakeBox(MessageBox{}, DialogOwner()));
+        refused->setIcon(QMessageBox::Warning);
+        refused->setText(
+            QStringLiteral("Vatro kan ikke bruge biblioteket\n\n%1\n\nNavnet har tegn, som Vatro ikke kender. Vælg et bibliotek, hvis "
+                           "sti kun har danske og andre vesteuropæiske bogstaver, tal og almindelige tegn.")
+                .arg(QDir::toNativeSeparators(chosen)));
+        RunDialog(*refused);
+        LeaveIfEnding();
+    }
+}
+
 void QtDialogs::SetUpPrinter() {
     if (printer_ == nullptr) throw RunTimeError(Failure::Cancelled);
-    QPrintDialog chooser(&printer_->Device(), DialogOwner());
+    QPrinter* const printer = printer_->Printer();
+    if (printer == nullptr) {
+        MessageBox silent;
+        silent.text = "Printserveren svarer ikke.\n\nUdskrifter kan gemmes som PDF-filer, indtil den svarer igen."_t;
+        silent.icon = Icon::Exclamation;
+        Show(silent);
+        throw RunTimeError(Failure::Cancelled);
+    }
+    QPrintDialog chooser(printer, DialogOwner());
     QObject::connect(&chooser, &QDialog::finished, &chooser, [] { WaitLoop::Look(); });
     RunDialog(chooser);
     LeaveIfEnding();

@@ -10,6 +10,7 @@
 #include "platform/platform.h"
 
 class QDialog;
+class QFileDialog;
 class QMessageBox;
 class QWidget;
 
@@ -28,10 +29,13 @@ public:
     void ShowFailure(const RunTimeError& failure) override;
 
 private:
+    QString Choose(QFileDialog& chooser);
     std::string ChooseFile(const FileDialog& dialog, bool save);
+    /// The path of the marker file in the directory that the user chooses. A directory whose name is not in the code page is refused.
+    std::string ChooseDirectory(const FileDialog& dialog);
 
     QtPrinter* printer_;
-    /// Of the file chosen last.
+    /// Of the file chosen last, or the directory.
     QString folder_;
 };
 

@@ -3,20 +3,112 @@
 
 #include <QFontMetricsF>
 #include <QPrinterInfo>
+#include <utility>
 
 #include "platform/platform.h"
 #include "qt/text.h"
+#include "text/codepage.h"
 
 namespace vatro {
+
+using namespace literals;
 
 namespace {
 
 constexpr double kPointsPerInch = 72;
 
+QString DocumentName() {
+    return QStringLiteral("Vatro");
+}
+
+void Tell(std::string_view text) {
+    MessageBox box;
+    box.text = text;
+    box.icon = Icon::Exclamation;
+    platform().dialogs.Show(box);
+}
+
+}  // namespace
+
+QtPrinter::QtPrinter(std::function<bool()> answers) : answers_(std::move(answers)) {}
+
+QtPrinter::~QtPrinter() = default;
+
+QPrinter* QtPrinter::Printer() const {
+    if (!answers_()) return nullptr;
+    if (!printer_) {
+        printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer_->setDocName(DocumentName());
+        printer_->setPageSize(QPageSize(QPageSize::A4));
+    }
+    return printer_.get();
+}
+
+void QtPrinter::PrintToFile(const QString& pdf) {
+    fixedFile_ = pdf;
+}
+
+QtPrinter::Target QtPrinter::FindTarget() const {
+    if (!fixedFile_.isEmpty()) return Target::File;
+    // A file chosen in the printer's dialogue needs no server.
+    if (printer_ && !printer_->outputFileName().isEmpty()) return Target::Printer;
+    if (Printer() == nullptr) return Target::FileForWantOfAnAnswer;
+    return QPrinterInfo::availablePrinterNames().isEmpty() ? Target::File : Target::Printer;
+}
+
+QPagedPaintDevice& QtPrinter::Device() const {
+    if (target_ == Target::Unknown) {
+        target_ = FindTarget();
+        if (target_ != Target::Printer) {
+            // The same margins as of a printer that says nothing of its own.
+            pdf_ = std::make_unique<QPdfWriter>(&file_);
+            pdf_->setTitle(DocumentName());
+            pdf_->setPageSize(QPageSize(QPageSize::A4));
+        }
+    }
+    if (target_ == Target::Printer) return *printer_;
+    return *pdf_;
+}
+
+double QtPrinter::Width() const {
+    return Device().pageLayout().paintRectPoints().width();
+}
+
+double QtPrinter::Height() const {
+    return Device().pageLayout().paintRectPoints().height();
+}
+
+QFont QtPrinter::FontOnPaper(const Font& font) const {
+    QFont paper(ToQt(font.name));
+    if (font.size > 0) paper.setPointSizeF(font.size);
+    paper.setBold(font.bold);
+    paper.setUnderline(font.underline);
+    // Rows of figures keep their columns where the named font is missing.
+    paper.setStyleHint(font.name.starts_with("Courier") ? QFont::Monospace : QFont::SansSerif);
+    return {paper, &Device()};
+}
+
+double QtPrinter::TextWidth(std::string_view text, const Font& font) const {
+    const QFontMetricsF metrics(FontOnPaper(font), &Device());
+    return metrics.horizontalAdvance(ToQt(text)) * kPointsPerInch / Device().logicalDpiX();
+}
+
+double QtPrinter::TextHeight(const Font& font) const {
+    const QFontMetricsF metrics(FontOnPaper(font), &Device());
+    return metrics.lineSpacing() * kPointsPerInch / Device().logicalDpiY();
+}
+
+void QtPrinter::BeginJob() {
+    pending_ = 0;
+    dropped_ = false;
+}
+
 /// Empty on Cancel.
-QString AskForPdf() {
+QString QtPrinter::AskForFile() const {
+    if (!fixedFile_.isEmpty()) return fixedFile_;
     FileDialog dialog;
-    dialog.title = "Gem udskriften som PDF";
+    dialog.title =
+        target_ == Target::FileForWantOfAnAnswer ? "Printserveren svarer ikke: gem udskriften som PDF" : "Gem udskriften som PDF";
     dialog.fileName = "vatro.pdf";
     dialog.filter = "PDF (*.pdf)|*.pdf";
     dialog.defaultExtension = "pdf";
@@ -28,95 +120,54 @@ QString AskForPdf() {
     }
 }
 
-void TellFailure(const QString& file) {
-    MessageBox box;
-    box.text = file.isEmpty() ? std::string("Printeren kan ikke bruges.") : "Udskriften kan ikke skrives til " + FromQt(file);
-    box.icon = Icon::Exclamation;
-    platform().dialogs.Show(box);
-}
-
-}  // namespace
-
-QtPrinter::QtPrinter() : printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
-    printer_->setDocName(QStringLiteral("Vatro"));
-    printer_->setPageSize(QPageSize(QPageSize::A4));
-}
-
-QtPrinter::~QtPrinter() = default;
-
-double QtPrinter::Width() const {
-    return printer_->pageRect(QPrinter::Point).width();
-}
-
-double QtPrinter::Height() const {
-    return printer_->pageRect(QPrinter::Point).height();
-}
-
-QFont QtPrinter::FontOnPaper(const Font& font) const {
-    QFont paper(ToQt(font.name));
-    if (font.size > 0) paper.setPointSizeF(font.size);
-    paper.setBold(font.bold);
-    paper.setUnderline(font.underline);
-    // Rows of figures keep their columns where the named font is missing.
-    paper.setStyleHint(font.name.starts_with("Courier") ? QFont::Monospace : QFont::SansSerif);
-    return {paper, printer_.get()};
-}
-
-double QtPrinter::TextWidth(std::string_view text, const Font& font) const {
-    const QFontMetricsF metrics(FontOnPaper(font), printer_.get());
-    return metrics.horizontalAdvance(ToQt(text)) * kPointsPerInch / printer_->logicalDpiX();
-}
-
-double QtPrinter::TextHeight(const Font& font) const {
-    const QFontMetricsF metrics(FontOnPaper(font), printer_.get());
-    return metrics.lineSpacing() * kPointsPerInch / printer_->logicalDpiY();
-}
-
-void QtPrinter::BeginJob() {
-    pending_ = 0;
-    dropped_ = false;
+void QtPrinter::TellFailure() const {
+    if (target_ == Target::Printer)
+        Tell("Printeren kan ikke bruges.");
+    else
+        Tell("Udskriften kan ikke skrives til " + FromQt(file_.fileName()));
 }
 
 /// Whether there is something to paint on: the job begins with its first text.
 bool QtPrinter::Start() {
     if (painter_.isActive()) return true;
     if (dropped_) return false;
-    if (printer_->outputFileName().isEmpty() && QPrinterInfo::availablePrinterNames().isEmpty()) {
-        const QString file = AskForPdf();
-        dropped_ = file.isEmpty();
+    QPagedPaintDevice& device = Device();
+    if (target_ != Target::Printer) {
+        file_.setFileName(AskForFile());
+        dropped_ = file_.fileName().isEmpty();
         if (dropped_) return false;
-        printer_->setOutputFormat(QPrinter::PdfFormat);
-        printer_->setOutputFileName(file);
-        asked_ = true;
+        dropped_ = !file_.open(QIODevice::WriteOnly);
     }
-    dropped_ = !painter_.begin(printer_.get());
-    if (dropped_) TellFailure(printer_->outputFileName());
-    for (; !dropped_ && pending_ > 0; --pending_) printer_->newPage();
+    dropped_ = dropped_ || !painter_.begin(&device);
+    if (dropped_) TellFailure();
+    for (; !dropped_ && pending_ > 0; --pending_) device.newPage();
     return !dropped_;
 }
 
 void QtPrinter::Place(double x, double y, const Font& font, std::string_view text) {
     if (!Start()) return;
     const QFont paper = FontOnPaper(font);
-    const QFontMetricsF metrics(paper, printer_.get());
+    const QFontMetricsF metrics(paper, &Device());
     painter_.setFont(paper);
-    painter_.drawText(
-        QPointF(x * printer_->logicalDpiX() / kPointsPerInch, y * printer_->logicalDpiY() / kPointsPerInch + metrics.ascent()), ToQt(text));
+    painter_.drawText(QPointF(x * Device().logicalDpiX() / kPointsPerInch, y * Device().logicalDpiY() / kPointsPerInch + metrics.ascent()),
+                      ToQt(text));
 }
 
 void QtPrinter::NextPage() {
     if (painter_.isActive())
-        printer_->newPage();
+        Device().newPage();
     else
         ++pending_;
 }
 
 void QtPrinter::EndJob() {
     if (painter_.isActive()) painter_.end();
-    if (!asked_) return;
-    // The next job asks for a file of its own.
-    printer_->setOutputFileName({});
-    asked_ = false;
+    if (file_.isOpen()) {
+        file_.close();
+        if (file_.error() != QFile::NoError) TellFailure();
+    }
+    // The next job asks anew.
+    target_ = Target::Unknown;
 }
 
 }  // namespace vatro

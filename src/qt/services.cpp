@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QStandardPaths>
 
 #include "qt/handbook.h"
@@ -20,6 +21,11 @@ QString LockPath() {
 }
 
 }  // namespace
+
+std::filesystem::path SettingsPath() {
+    const QSettings place(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("vatro"), QStringLiteral("vatro"));
+    return place.fileName().toStdU16String();
+}
 
 QtInstance::QtInstance() : QtInstance(LockPath()) {}
 

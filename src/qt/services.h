@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Smaller services of the desktop: one running copy for each user, and the help viewer.
+// Smaller services of the desktop: where the settings lie, one running copy for each user, and the help viewer.
 #pragma once
 
 #include <QLockFile>
+#include <filesystem>
 #include <memory>
 
 #include "platform/platform.h"
@@ -11,6 +12,9 @@
 namespace vatro {
 
 class HelpWindow;
+
+/// The settings file of this user, in the place that the desktop has for such files.
+std::filesystem::path SettingsPath();
 
 /// A lock in the user's runtime directory. The lock of a copy that was killed is known as such and taken over.
 class QtInstance : public Instance {

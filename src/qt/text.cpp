@@ -21,6 +21,10 @@ std::string FromQt(const QString& text) {
     return result;
 }
 
+bool HasCodePageText(const QString& text) {
+    return ToQt(FromQt(text)) == text;
+}
+
 std::string PastedText(const QString& text) {
     const std::string all = FromQt(text);
     return all.substr(0, all.find_first_of("\r\n"));

@@ -12,6 +12,8 @@ namespace vatro {
 QString ToQt(std::string_view text);
 /// A character outside the code page becomes "?".
 std::string FromQt(const QString& text);
+/// Whether FromQt gives the text as it is.
+bool HasCodePageText(const QString& text);
 /// What the program takes of a text that the user brings in from outside: its first line.
 std::string PastedText(const QString& text);
 /// A caption without the "&" of its access key.

@@ -34,7 +34,7 @@ void FrmEDR::Form_Load() {
     Form_Resize();
 }
 
-void FrmEDR::Form_Unload() {
+void FrmEDR::StoreState() {
     GemPlads(*this, kPlads);
 }
 

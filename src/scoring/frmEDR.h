@@ -14,7 +14,7 @@ public:
     Button cmdLuk;
 
     void Form_Load() override;
-    void Form_Unload() override;
+    void StoreState() override;
     void Form_Resize() override;
 };
 

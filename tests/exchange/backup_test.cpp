@@ -171,6 +171,7 @@ TEST_F(BackupDirectory, IsThatOfTheMarkerFileWhichIsEmptied) {
     const FileDialog& asked = dialogs.asked.back();
     EXPECT_EQ(ToUtf8(asked.title), "Vælg eller opret Backupbibliotek");
     EXPECT_EQ(asked.fileName, "setBackup.txt");
+    EXPECT_TRUE(asked.markerFile);
     EXPECT_EQ(asked.filter, "setBackup.txt (*.txt)|*.txt");
     EXPECT_EQ(asked.defaultExtension, "txt");
     EXPECT_TRUE(asked.overwritePrompt);

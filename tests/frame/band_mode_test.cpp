@@ -129,6 +129,7 @@ TEST_F(BandMode, TheLogDirectoryIsThatOfTheMarkerFile) {
     EXPECT_EQ(dialogs.asked.back().filter, "setlog.txt (*.txt)|*.txt");
     EXPECT_EQ(dialogs.asked.back().defaultExtension, "txt");
     EXPECT_TRUE(dialogs.asked.back().overwritePrompt);
+    EXPECT_TRUE(dialogs.asked.back().markerFile);
 }
 
 TEST_F(BandMode, TheRootOfADriveIsALogDirectoryOfTwoCharacters) {

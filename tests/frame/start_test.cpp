@@ -85,6 +85,68 @@ TEST_F(ProgramStart, ARegularEndStoresTheSideWindowsBeforeTheMainForm) {
     EXPECT_LT(at("MainLeft"), at("gsKlasse"));
 }
 
+TEST_F(ProgramStart, ARegularEndStoresInOneBatch) {
+    Start();
+    settings.written.clear();
+    settings.writtenAlone = 0;
+    Dispatch([] { frmMain->Unload(); });
+    EXPECT_GT(settings.written.size(), 25U);
+    EXPECT_EQ(settings.writtenAlone, 0);
+}
+
+TEST_F(ProgramStart, AnEndWithoutHandlersStoresWhatARegularOneStores) {
+    Start();
+    Dispatch([] { frmMain->mnuFunktionerStregP.Click(); });
+    gsBand = "20m";
+    frmB4->MoveTo(3000, 4500);
+    frmMain->Combo1.AddItem("OZ7QQ");
+    const auto before = settings.texts;
+    settings.written.clear();
+    settings.writtenAlone = 0;
+    StoreRunningProgram();
+    const Lines written = settings.written;
+    const auto stored = std::exchange(settings.texts, before);
+    const Lines operators = std::exchange(files.files["DATA\\OPERATOR.TXT"], {});
+    EXPECT_EQ(settings.writtenAlone, 0);
+    EXPECT_EQ(stored.at("SETTINGS/BAND"), "20m");
+    EXPECT_EQ(stored.at("SETTINGS/B4LEFT"), "3000");
+    EXPECT_TRUE(stored.contains("SETTINGS/STREGPLEFT"));
+
+    settings.written.clear();
+    Dispatch([] { frmMain->Unload(); });
+    EXPECT_EQ(written, settings.written);
+    EXPECT_EQ(stored, settings.texts);
+    EXPECT_EQ(operators, files.files["DATA\\OPERATOR.TXT"]);
+}
+
+TEST_F(ProgramStart, AnEndWithoutHandlersStoresTheSettingsWhereTheOperatorsCannotBe) {
+    Start();
+    gsBand = "20m";
+    // A handler has it open, and waits.
+    files.Open(1, "data\\lande.txt", FileMode::Input);
+    StoreRunningProgram();
+    EXPECT_EQ(settings.texts.at("SETTINGS/BAND"), "20m");
+    EXPECT_EQ(LinesOf("data\\operator.txt"), Lines{"OZ1DEF"});
+    EXPECT_TRUE(files.IsOpen());
+}
+
+TEST_F(ProgramStart, NothingIsStoredBeforeTheMainFormIsUp) {
+    StoreRunningProgram();
+    EXPECT_EQ(settings.written, Lines{});
+    settings.texts.erase("SETTINGS/GSLOGLIB");
+    struct Asked : public FakeDialogs {
+        std::string SaveFile(const FileDialog& dialog) override {
+            StoreRunningProgram();
+            return FakeDialogs::SaveFile(dialog);
+        }
+    } asked;
+    asked.Expect("Logbibliotek er ikke angivet. Vatro standses.");
+    InstallPlatform({front, asked, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+    Start();
+    EXPECT_EQ(settings.written, Lines{"FDLib"});
+    InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+}
+
 TEST_F(ProgramStart, AFailureThatNothingCatchesEndsTheProgramWithItsNumber) {
     settings.texts["SETTINGS/AUTOTID"] = "ja";
     Start();

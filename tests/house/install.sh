@@ -22,6 +22,7 @@ prefix="$work/a prefix"
 bin/vatro
 bin/vatro-cty
 libexec/vatro/vatro
+libexec/vatro/vatro-printers
 share/applications/dk.vatro.Vatro.desktop
 share/doc/vatro/changelog.gz
 share/doc/vatro/copyright
@@ -79,6 +80,34 @@ rm "$tables/edr.txt"
 start "$work/elsewhere/vatro" >/dev/null
 [ "$(cat "$tables/operator.txt")" = OZ7FD ] || complain "a list of the user's was overwritten"
 cmp "$root/data/edr.txt" "$tables/edr.txt" || complain "a missing list was not put there"
+
+for name in lande.txt refpfx.txt edr.txt cty.dat operator.txt; do : >"$tables/$name"; done
+start "$prefix/bin/vatro" >/dev/null
+for name in lande.txt refpfx.txt edr.txt cty.dat; do
+    cmp "$root/data/$name" "$tables/$name" || complain "an empty table was not replaced"
+done
+[ ! -s "$tables/operator.txt" ] || complain "an empty list of operators was replaced"
+
+# A table goes to the disk before it gets its name, and the directory after that.
+if command -v strace >/dev/null && strace true 2>/dev/null; then
+    rm "$tables/lande.txt"
+    start strace -f -qq -e trace=/sync,/rename -o "$work/calls" "$prefix/bin/vatro" >/dev/null
+    calls=$(grep -oE '\b(f(data)?sync|rename)[a-z0-9]*\(' "$work/calls" | tr -d '(' | sed -E 's/fdatasync/fsync/; s/rename.*/rename/' | tr '\n' ' ')
+    [ "$calls" = "fsync rename fsync " ] || complain "a table was put there by other calls: $calls"
+    start strace -f -qq -e trace=/sync,/rename -o "$work/calls" "$prefix/bin/vatro" >/dev/null
+    ! grep -qE 'sync|rename' "$work/calls" || complain "a start that puts nothing there waits for the disk"
+fi
+
+# Where a table cannot be put there the program starts all the same.
+rm "$tables/lande.txt"
+mkdir "$work/full"
+printf '#!/bin/sh\nexit 1\n' >"$work/full/sync"
+chmod +x "$work/full/sync"
+told=$(PATH="$work/full:$PATH" start "$prefix/bin/vatro" 2>"$work/said")
+[ "$told" = "$tables" ] || complain "the program was not started: $told"
+grep -q lande.txt "$work/said" || complain "nothing was said about the table"
+[ -z "$(find "$tables" -name 'lande.txt' -o -name '.*.new')" ] || complain "half a table was left"
+
 told=$(XDG_DATA_HOME=$work/home/data HOME=$work/home "$prefix/bin/vatro")
 [ "$told" = "$work/home/data/vatro" ] || complain "XDG_DATA_HOME is not heeded: $told"
 exit $fault

@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "qt/printer.h"
 
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QElapsedTimer>
 #include <QFile>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
@@ -60,6 +66,73 @@ TEST_F(Printer, TellsOnceThatAFileCannotBeWritten) {
     dialogs.chosen = File("paper.pdf");
     PrintPage();
     EXPECT_TRUE(IsPdf(File("paper.pdf")));
+}
+
+TEST_F(Printer, TellsThatAFullDiskHasNotTakenTheJob) {
+    dialogs.chosen = "/dev/full";
+    if (!QFile::exists(ToQt(*dialogs.chosen))) GTEST_SKIP() << "this system has no full disk";
+    dialogs.Expect("Udskriften kan ikke skrives til /dev/full");
+    PrintPage();
+}
+
+TEST_F(Printer, OffersAPdfWhenThePrintServerDoesNotAnswer) {
+    int asked = 0;
+    QtPrinter silent([&asked] {
+        ++asked;
+        return false;
+    });
+    PageSurface surface(silent);
+    EXPECT_EQ(asked, 0);
+    dialogs.chosen = File("silent.pdf");
+    surface.PrintCentred("80m CW");
+    surface.NewPage();
+    surface.Print("80m CW");
+    surface.EndDoc();
+    EXPECT_EQ(asked, 1) << "once for a job";
+    EXPECT_EQ(silent.Printer(), nullptr);
+    EXPECT_TRUE(IsPdf(File("silent.pdf")));
+    EXPECT_EQ(dialogs.asked.at(0).title, "Printserveren svarer ikke: gem udskriften som PDF");
+}
+
+TEST_F(Printer, MeasuresTheSameOnEveryPaper) {
+    QtPrinter silent([] { return false; });
+    const Font font{"Courier New", 10};
+    EXPECT_GT(silent.TextWidth("0123456789", font), 0);
+    EXPECT_DOUBLE_EQ(silent.TextWidth("0123456789", font), pages_.TextWidth("0123456789", font));
+    EXPECT_DOUBLE_EQ(silent.TextHeight(font), pages_.TextHeight(font));
+    const QPrinter* device = pages_.Printer();
+    ASSERT_NE(device, nullptr);
+    EXPECT_DOUBLE_EQ(silent.Width(), device->pageRect(QPrinter::Point).width());
+    EXPECT_DOUBLE_EQ(silent.Height(), device->pageRect(QPrinter::Point).height());
+}
+
+TEST(PrintServer, AnswersWhereThereIsNone) {
+    const QByteArray before = qgetenv("CUPS_SERVER");
+    qputenv("CUPS_SERVER", "/nowhere");
+    EXPECT_TRUE(PrintServerAnswers());
+    before.isNull() ? qunsetenv("CUPS_SERVER") : qputenv("CUPS_SERVER", before);
+}
+
+TEST(PrintServer, ThatAcceptsAndSaysNothingIsGivenUpAfterTwoSeconds) {
+    const int silent = ::socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t length = sizeof address;
+    ASSERT_EQ(::bind(silent, reinterpret_cast<sockaddr*>(&address), length), 0);
+    // The system accepts what nobody takes up.
+    ASSERT_EQ(::listen(silent, 8), 0);
+    ASSERT_EQ(::getsockname(silent, reinterpret_cast<sockaddr*>(&address), &length), 0);
+
+    const QByteArray before = qgetenv("CUPS_SERVER");
+    qputenv("CUPS_SERVER", "127.0.0.1:" + QByteArray::number(ntohs(address.sin_port)));
+    QElapsedTimer taken;
+    taken.start();
+    EXPECT_FALSE(PrintServerAnswers());
+    EXPECT_GE(taken.elapsed(), 1900);
+    EXPECT_LT(taken.elapsed(), 4000);
+    before.isNull() ? qunsetenv("CUPS_SERVER") : qputenv("CUPS_SERVER", before);
+    ::close(silent);
 }
 
 }  // namespace

@@ -7,20 +7,23 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLockFile>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSettings>
 #include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <csignal>
 
+#include "disk/disk_settings.h"
 #include "qt/clock.h"
 #include "qt/dialogs.h"
 #include "qt/fields.h"
 #include "qt/services.h"
-#include "qt/settings_store.h"
+#include "qt/text.h"
 #include "qt/window_program.h"
 
 namespace vatro {
@@ -30,56 +33,37 @@ using namespace std::string_view_literals;
 
 // --- Settings
 
-class SettingsFile : public ::testing::Test {
-protected:
-    QTemporaryDir directory;
-    QString file = directory.filePath(QStringLiteral("vatro.ini"));
-};
-
-TEST_F(SettingsFile, IsOnDiskWhenWriteReturns) {
-    QtSettings store(file);
-    store.Write("Settings", "MyCall", "OZ1AB/P");
-    QFile written(file);
-    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(written.readAll().contains("MyCall=OZ1AB/P"));
-}
-
-TEST_F(SettingsFile, KeepsBlanksAndSignsAndDanishLetters) {
-    for (const std::string_view text : {"OZ1A  "sv, ""sv, "a,b;c=\"d\""sv, "C:\\LOG\\x"sv, "@at %p"sv, "æøåÆØÅ"_t}) {
-        QtSettings(file).Write("CW", "Tekst1", text);
-        EXPECT_EQ(QtSettings(file).Read("CW", "Tekst1"), std::string(text));
+/// Files of settings that Qt has written are read, and Qt reads those that are written now.
+TEST(SettingsFile, IsReadAndWrittenAsQtDoes) {
+    std::string all;
+    for (int code = 1; code < 256; ++code) all.push_back(static_cast<char>(code));
+    const std::vector<std::string> values{all,
+                                          std::string(),
+                                          "OZ1A  ",
+                                          "  x",
+                                          "a,b;c=\"d\"",
+                                          "C:\\LOG\\x",
+                                          "@at %p",
+                                          "@@",
+                                          "\x01"
+                                          "f",
+                                          "=1",
+                                          "[x]",
+                                          "; x",
+                                          "#R"};
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("vatro.ini"));
+    const std::filesystem::path path = file.toStdU16String();
+    for (const std::string& value : values) {
+        QSettings(file, QSettings::IniFormat).setValue(QStringLiteral("CW/Tekst1"), ToQt(value));
+        EXPECT_EQ(DiskSettings(path).Read("CW", "Tekst1"), value);
+        DiskSettings(path).Write("CW", "Tekst2", value);
+        EXPECT_EQ(FromQt(QSettings(file, QSettings::IniFormat).value(QStringLiteral("CW/Tekst2")).toString()), value);
+        ASSERT_TRUE(QFile::remove(file));
     }
 }
 
-TEST_F(SettingsFile, ComparesKeysWithoutRegardToCase) {
-    QtSettings store(file);
-    store.Write("Settings", "gsFDLib", "one");
-    store.Write("settings", "gsFDlib", "two");
-    EXPECT_EQ(store.Read("SETTINGS", "GSFDLIB"), "two");
-    EXPECT_EQ(store.Read("Settings", "FDLib"), std::nullopt);
-}
-
-TEST_F(SettingsFile, ReadingWritesNothing) {
-    QtSettings store(file);
-    EXPECT_EQ(store.Read("Settings", "Band"), std::nullopt);
-    EXPECT_FALSE(QFile::exists(file));
-}
-
 // --- One running copy
-
-TEST_F(SettingsFile, TellsOfALossAndOfNothingElse) {
-    QtSettings store(file);
-    EXPECT_EQ(store.Read("Settings", "MyCall"), std::nullopt);
-    store.Write("Settings", "MyCall", "OZ1AB");
-    EXPECT_FALSE(store.Loss());
-
-    // A file stands where its directory should.
-    const QString nowhere = file + QStringLiteral("/vatro.ini");
-    QtSettings lost(nowhere);
-    lost.Write("Settings", "MyCall", "OZ1AB");
-    ASSERT_TRUE(lost.Loss());
-    EXPECT_NE(lost.Loss()->text.find(nowhere.toStdString()), std::string::npos) << lost.Loss()->text;
-}
 
 TEST(OneCopy, IsRefusedWhileAnotherHoldsTheLock) {
     const QTemporaryDir directory;
@@ -196,43 +180,110 @@ private:
     QByteArray was_;
 };
 
-/// Asks for a file to write and answers with `typed`, or Esc for nothing. Gives the folder that the dialogue began in.
-QString FolderOffered(QtDialogs& asked, const QString& typed) {
-    QString offered;
-    QTimer::singleShot(0, [&] {
-        auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (chooser == nullptr) {
-            ADD_FAILURE() << "no dialogue";
+/// Asks for the marker file of a directory. The dialogues that come are answered with these directories, one after the other, and
+/// with Esc at the end; what it gives is told, or "cancelled".
+class DirectoryAsked {
+public:
+    explicit DirectoryAsked(QStringList answers) : answers_(std::move(answers)) {}
+
+    std::string Ask(QtDialogs& dialogs) {
+        scope_ = std::make_unique<QObject>();
+        QTimer::singleShot(0, scope_.get(), [this] { AnswerNext(); });
+        FileDialog dialog;
+        dialog.title = "V\xE6lg";
+        dialog.fileName = "setlog.txt";
+        dialog.filter = "setlog.txt (*.txt)|*.txt";
+        dialog.overwritePrompt = true;
+        dialog.markerFile = true;
+        std::string chosen = "cancelled";
+        try {
+            chosen = dialogs.SaveFile(dialog);
+        } catch (const RunTimeError& failure) {
+            EXPECT_EQ(failure.Which(), Failure::Cancelled);
+        }
+        scope_.reset();
+        return chosen;
+    }
+
+    /// The directory in which each dialogue began.
+    QStringList begun;
+    /// The boxes that came instead of a dialogue; they are closed.
+    QStringList told;
+
+private:
+    void AnswerNext() {
+        QTimer::singleShot(0, scope_.get(), [this] { AnswerNext(); });
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            told.append(box->text());
+            box->reject();
             return;
         }
-        offered = chooser->directory().absolutePath();
-        if (typed.isEmpty()) return chooser->reject();
-        chooser->selectFile(typed);
+        auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (chooser == nullptr) return;
+        begun.append(chooser->directory().absolutePath());
+        if (answers_.isEmpty()) {
+            chooser->reject();
+            return;
+        }
+        chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(answers_.takeFirst());
         QMetaObject::invokeMethod(chooser, "accept");
-    });
-    FileDialog dialog;
-    dialog.fileName = "setlog.txt";
-    try {
-        EXPECT_EQ(asked.SaveFile(dialog), typed.toStdString());
-    } catch (const RunTimeError& failure) {
-        EXPECT_EQ(failure.Which(), Failure::Cancelled);
-        EXPECT_TRUE(typed.isEmpty());
     }
-    return offered;
-}
 
-TEST_F(WindowProgram, FilesAreSoughtAmongTheUsersOwnAndThenWhereTheLastOneWas) {
+    QStringList answers_;
+    /// Of the time while it is asked.
+    std::unique_ptr<QObject> scope_;
+};
+
+TEST_F(WindowProgram, ADirectoryIsSoughtAmongTheUsersOwnAndThenWhereTheLastOneWas) {
     const QTemporaryDir home;
     const Variable variable("HOME", home.path());
     const Variable none("XDG_CONFIG_HOME", home.path());
     BeginProgram();
     QtDialogs asked;
-    EXPECT_EQ(FolderOffered(asked, {}), home.path()) << "without a folder of documents";
+    DirectoryAsked first({});
+    EXPECT_EQ(first.Ask(asked), "cancelled");
+    EXPECT_EQ(first.begun, QStringList{home.path()}) << "without a folder of documents";
     ASSERT_TRUE(QDir(home.path()).mkpath(QStringLiteral("Documents")));
     ASSERT_TRUE(QDir(home.path()).mkpath(QStringLiteral("contest")));
-    EXPECT_EQ(FolderOffered(asked, {}), home.filePath(QStringLiteral("Documents")));
-    EXPECT_EQ(FolderOffered(asked, home.filePath(QStringLiteral("contest/setlog.txt"))), home.filePath(QStringLiteral("Documents")));
-    EXPECT_EQ(FolderOffered(asked, {}), home.filePath(QStringLiteral("contest")));
+    DirectoryAsked second({home.filePath(QStringLiteral("contest"))});
+    EXPECT_EQ(second.Ask(asked), home.filePath(QStringLiteral("contest/setlog.txt")).toStdString());
+    EXPECT_EQ(second.begun, QStringList{home.filePath(QStringLiteral("Documents"))});
+    DirectoryAsked third({});
+    EXPECT_EQ(third.Ask(asked), "cancelled");
+    EXPECT_EQ(third.begun, QStringList{home.filePath(QStringLiteral("contest"))});
+    EndProgram();
+}
+
+TEST_F(WindowProgram, AMarkerFileIsNeverAFileThatTheUserHasChosen) {
+    const QTemporaryDir home;
+    const Variable variable("HOME", home.path());
+    const QString log = home.filePath(QStringLiteral("FD80mSSB.txt"));
+    QFile file(log);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    QFile marker(home.filePath(QStringLiteral("setlog.txt")));
+    ASSERT_TRUE(marker.open(QIODevice::WriteOnly));
+    BeginProgram();
+    QtDialogs asked;
+    DirectoryAsked choosing({log, home.path()});
+    EXPECT_EQ(choosing.Ask(asked), home.filePath(QStringLiteral("setlog.txt")).toStdString());
+    // The log is not taken, and nothing is asked about the marker file that is there.
+    EXPECT_EQ(choosing.begun.size(), 2);
+    EXPECT_EQ(choosing.told, QStringList());
+    EndProgram();
+}
+
+TEST_F(WindowProgram, ADirectoryThatTheCodePageCannotNameIsRefusedAndAskedForAgain) {
+    const QTemporaryDir home;
+    const Variable variable("HOME", home.path());
+    for (const QString& name : {QStringLiteral("Логи"), QStringLiteral("Blåbær")}) ASSERT_TRUE(QDir(home.path()).mkpath(name));
+    BeginProgram();
+    QtDialogs asked;
+    DirectoryAsked choosing({home.filePath(QStringLiteral("Логи")), home.filePath(QStringLiteral("Blåbær"))});
+    EXPECT_EQ(choosing.Ask(asked), home.path().toStdString() + std::string("/Blåbær/setlog.txt"_t));
+    ASSERT_EQ(choosing.told.size(), 1);
+    EXPECT_TRUE(choosing.told[0].contains(home.filePath(QStringLiteral("Логи")))) << choosing.told[0].toStdString();
+    EXPECT_EQ(choosing.begun, (QStringList{home.path(), home.path()}));
+    EXPECT_TRUE(QDir(home.filePath(QStringLiteral("Логи"))).isEmpty());
     EndProgram();
 }
 

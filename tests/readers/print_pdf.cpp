@@ -32,8 +32,7 @@ void PrintAll(const std::string& directory, const QString& pdf) {
     SceneSound sound(clock);
     NobodyThere nobody;
     QtPrinter pages;
-    pages.Device().setOutputFormat(QPrinter::PdfFormat);
-    pages.Device().setOutputFileName(pdf);
+    pages.PrintToFile(pdf);
     PageSurface printer(pages);
     WindowDriver driver;
     InstallPlatform({driver.ProgramFront(),

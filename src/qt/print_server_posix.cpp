@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include <QCoreApplication>
+#include <QProcess>
+
+#include "qt/print_server.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr int kPatience = 2000;
+constexpr int kAfterKill = 100;
+
+}  // namespace
+
+bool PrintServerAnswers() {
+    QProcess asking;
+    asking.setStandardInputFile(QProcess::nullDevice());
+    asking.setStandardOutputFile(QProcess::nullDevice());
+    asking.setStandardErrorFile(QProcess::nullDevice());
+    asking.start(QCoreApplication::applicationDirPath() + QStringLiteral("/vatro-printers"), {});
+    if (asking.waitForFinished(kPatience)) return asking.exitStatus() == QProcess::NormalExit && asking.exitCode() == 0;
+    // Without the small program nobody can ask first: better a server that may keep the job waiting than no paper at all.
+    if (asking.error() == QProcess::FailedToStart) return true;
+    asking.kill();
+    asking.waitForFinished(kAfterKill);
+    return false;
+}
+
+}  // namespace vatro

@@ -1,0 +1,182 @@
+# SPDX-License-Identifier: MIT
+"""The program on a screen of its own, with a home, settings and logs of its own, worked by keys."""
+import collections
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+TOOLS = ("Xvfb", "openbox", "xdotool", "weston")
+SKIPPED = 77
+PATIENCE = 20
+
+
+def skip_without_tools():
+    missing = [tool for tool in TOOLS if shutil.which(tool) is None]
+    if missing:
+        print("skipped: not installed:", *missing)
+        sys.exit(SKIPPED)
+
+
+def until(holds, what):
+    """What `holds` gives as soon as that is something."""
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        if result := holds():
+            return result
+        time.sleep(0.05)
+    raise AssertionError("waited in vain for " + what)
+
+
+Compositor = collections.namedtuple("Compositor", "name process")
+
+
+class Desktop:
+    """A screen with a window manager, and a home directory."""
+
+    def __init__(self, data):
+        self.home = pathlib.Path(tempfile.mkdtemp(prefix="vatro-desktop-"))
+        self.log = self.home / "log"
+        self.data = self.home / "data"
+        self.log.mkdir()
+        (self.home / "Documents").mkdir()
+        shutil.copytree(data, self.data)
+        (self.home / "runtime").mkdir(mode=0o700)
+        told, tell = os.pipe()
+        self.screen = subprocess.Popen(["Xvfb", "-displayfd", str(tell), "-screen", "0", "1400x900x24", "-nolisten", "tcp"],
+                                       pass_fds=[tell], stderr=subprocess.DEVNULL)
+        os.close(tell)
+        with os.fdopen(told) as number:
+            display = ":" + number.readline().strip()
+        self.surroundings = dict(os.environ, DISPLAY=display, HOME=str(self.home), XDG_CONFIG_HOME=str(self.home / ".config"),
+                                 XDG_RUNTIME_DIR=str(self.home / "runtime"), QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8",
+                                 CUPS_SERVER="/nowhere")
+        self.manager = self.program = self.compositor = None
+        # A window that comes before the window manager is not always taken over by it.
+        until(self.managed, "the window manager")
+
+    def managed(self):
+        if self.manager is None or self.manager.poll() is not None:
+            self.manager = subprocess.Popen(["openbox"], env=self.surroundings, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        return subprocess.run(["xdotool", "get_desktop"], env=self.surroundings, capture_output=True, check=False).returncode == 0
+
+    def start_compositor(self):
+        """A Wayland compositor that shows nothing."""
+        name = "vatro-test"
+        self.compositor = subprocess.Popen(["weston", "--backend=headless-backend.so", "--socket=" + name], env=self.surroundings,
+                                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        until((self.home / "runtime" / name).exists, "the compositor")
+        return Compositor(name, self.compositor)
+
+    def close(self):
+        for process in (self.program, self.compositor, self.manager, self.screen):
+            if process is None:
+                continue
+            if process.poll() is None:
+                # The screen takes its lock along.
+                process.terminate() if process is self.screen else process.kill()
+            process.wait()
+        shutil.rmtree(self.home)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, fault, *_):
+        if fault is not None and "VATRO_PICTURES" in os.environ:
+            self.picture(os.path.join(os.environ["VATRO_PICTURES"], f"fault-{os.getpid()}-{time.time():.0f}.png"))
+        self.close()
+
+    def lose_screen(self):
+        self.screen.kill()
+        self.screen.wait()
+
+    # Settings
+
+    @property
+    def settings_file(self):
+        return self.home / ".config/vatro/vatro.ini"
+
+    def set(self, **settings):
+        """The settings of a station that has been used before, and these."""
+        told = dict({"gsLogLib": self.log, "gsFDLib": self.data, "MyCall": "OZ7FD/P", "LastOP": "OZ1AB ", "VisInfo2002": "False",
+                     "MainLeft": 1500, "MainTop": 1500}, **settings)
+        self.settings_file.parent.mkdir(parents=True, exist_ok=True)
+        self.settings_file.write_text("[Settings]\n" + "".join(f'{key}="{value}"\n' for key, value in told.items()))
+
+    def setting(self, key):
+        for line in self.settings_file.read_text().splitlines():
+            name, _, value = line.partition("=")
+            if name.lower() == key.lower():
+                return value.strip('"')
+        return None
+
+    # The program
+
+    def start(self, program, main="Vatro OZ7FD/P", **more):
+        self.program = subprocess.Popen([program], cwd=self.data, env=dict(self.surroundings, **more), stderr=subprocess.PIPE)
+        if main is not None:
+            self.keys_go_to(main)
+
+    def windows(self, title):
+        """The visible ones of exactly this title, as the program has them."""
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^" + title + "$"], env=self.surroundings,
+                               capture_output=True, text=True, check=False).stdout.split()
+        names = {window: subprocess.run(["xdotool", "getwindowname", window], env=self.surroundings, capture_output=True, text=True,
+                                        check=False).stdout.strip() for window in found}
+        return [window for window, name in names.items() if name == title]
+
+    def window(self, title):
+        return until(lambda: self.windows(title), "the window " + title)[0]
+
+    def keys_go_to(self, title):
+        window = self.window(title)
+
+
+        def active():
+            subprocess.run(["xdotool", "windowactivate", window], env=self.surroundings, capture_output=True, check=False)
+            time.sleep(0.1)
+            return subprocess.run(["xdotool", "getactivewindow"], env=self.surroundings, capture_output=True, text=True,
+                                  check=False).stdout.strip() == window
+
+        until(active, "the keys of " + title)
+        time.sleep(0.2)
+
+    def xdotool(self, *words):
+        subprocess.run(["xdotool", *words], env=self.surroundings, check=True, stderr=subprocess.DEVNULL)
+
+    def press(self, *keys):
+        self.xdotool("key", "--delay", "60", *keys)
+
+    def ended(self, within=PATIENCE):
+        """The exit code, and what the program has said; negative if a signal has ended it."""
+        try:
+            _, said = self.program.communicate(timeout=within)
+        except subprocess.TimeoutExpired as late:
+            raise AssertionError("the program does not end") from late
+        return self.program.returncode, said.decode(errors="replace")
+
+    def signal(self, number):
+        self.program.send_signal(number)
+
+    def picture(self, file):
+        subprocess.run(["import", "-window", "root", file], env=self.surroundings, check=False)
+
+
+SIGNALS = {"TERM": signal.SIGTERM, "INT": signal.SIGINT, "HUP": signal.SIGHUP}
+
+
+def run(cases):
+    """Runs each and prints what came of it; the exit code of the whole."""
+    faults = 0
+    for case in cases:
+        try:
+            case()
+            print("ok    ", case.__name__.replace("_", " "), flush=True)
+        except (AssertionError, subprocess.CalledProcessError) as fault:
+            faults += 1
+            print("FAILED", case.__name__.replace("_", " ") + ":", fault, flush=True)
+    return 1 if faults else 0
