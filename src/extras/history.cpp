@@ -10,6 +10,7 @@
 
 #include "disk/names.h"
 #include "disk/system_file.h"
+#include "extras/joined.h"
 #include "extras/whole_file.h"
 #include "text/codepage.h"
 #include "text/errors.h"
@@ -29,7 +30,8 @@ constexpr std::string_view kReadMeText =
     "Her ligger tidligere udgaver af loggene. Vatro lægger en udgave her, hver gang en rettelse skriver en log forfra.\r\n"
     "Navnet siger, hvilken log det er, og hvornår udgaven blev afløst. \"behold\": udgaven har en kontakt, som den næste\r\n"
     "ikke har. \"samles\": Vatro havde ikke læst den hele, da den blev afløst, og tilbyder ved næste start at samle dem.\r\n"
-    "Udgaver uden de ord ryddes op efter alder. Filerne må gerne kopieres og læses.\r\n"_t;
+    "Udgaver uden de ord ryddes op efter alder. Filerne må gerne kopieres og læses.\r\n"
+    "På en disk, der ikke kan give en fil to navne, som en USB-nøgle, ligger udgaverne i stedet på computeren i\r\n"_t;
 
 constexpr std::array<std::pair<History::Keep, std::string_view>, 3> kMarks{
     {{History::Keep::ByAge, ""}, {History::Keep::Always, " behold"}, {History::Keep::ToMerge, " samles"}}};
@@ -90,13 +92,14 @@ void Require(int error) {
     if (error != 0) throw RunTimeError(FailureOf(error));
 }
 
-void MakeFolder(const fs::path& folder) {
+/// `elsewhere` is told to whoever looks into the folder and misses something.
+void MakeFolder(const fs::path& folder, const fs::path& elsewhere) {
     std::error_code error;
     if (fs::is_directory(folder, error)) return;
     if (!fs::create_directories(folder, error)) throw RunTimeError(FailureOf(error.value()));
     SyncDirectory(folder.parent_path());
     try {
-        WriteWhole(folder / PathOf(kReadMe), ToUtf8(kReadMeText));
+        WriteWhole(folder / PathOf(kReadMe), ToUtf8(Joined({kReadMeText, NativeText(elsewhere), "\r\n"})));
     } catch (const RunTimeError&) {
         // It only explains.
         return;
@@ -142,7 +145,7 @@ History::Version History::Next(const fs::path& file, Keep keep) const {
 
 bool History::TakeBeside(const fs::path& file, Version& version, Way way) const {
     try {
-        MakeFolder(beside_);
+        MakeFolder(beside_, elsewhere_);
     } catch (const RunTimeError&) {
         return false;
     }
@@ -161,7 +164,7 @@ History::Version History::Take(const fs::path& file, Keep keep, Way way) {
     Version version = Next(file, keep);
     // A copy beside the file would have to be written to the same stick or share; the computer is the safer place for it.
     if (way != Way::Copy && TakeBeside(file, version, way)) return version;
-    MakeFolder(elsewhere_);
+    MakeFolder(elsewhere_, elsewhere_);
     version.path = elsewhere_ / PathOf(VersionName(NativeText(file.stem()), version));
     WriteWhole(version.path, ReadWhole(file));
     if (way == Way::Move) {

@@ -41,6 +41,12 @@ std::size_t SizeOf(const fs::path& file) {
     return error ? 0 : static_cast<std::size_t>(size);
 }
 
+/// One spelling of a directory, whether a separator ends it or not.
+fs::path Normal(const fs::path& directory) {
+    fs::path normal = directory.lexically_normal();
+    return normal.has_filename() || !normal.has_relative_path() ? normal : normal.parent_path();
+}
+
 std::string TextOf(const fs::path& path) {
     fs::path shown = path;
     return NativeText(shown.make_preferred());
@@ -92,7 +98,7 @@ bool SafeFiles::TakeDirectory(std::string_view directory) {
         lock_.reset();
         return false;
     }
-    place_ = Place{*path, IdentityOf(*path)};
+    place_ = Place{Normal(*path), IdentityOf(*path)};
     surroundings_.directoryWon(*path);
     return true;
 }
@@ -125,12 +131,12 @@ void SafeFiles::CloseLeftovers() noexcept {
 
 /// A file of the log directory is written only where the directory was when it was won.
 void SafeFiles::CheckPlace(const fs::path& file) const {
-    if (!place_ || file.parent_path() != place_->directory) return;
+    if (!place_ || Normal(file.parent_path()) != place_->directory) return;
     if (IdentityOf(place_->directory) != place_->identity || !place_->identity) Fail(Failure::PathNotFound);
 }
 
 void SafeFiles::ChooseDirectory(int number, std::string_view path, const fs::path& marker) {
-    const fs::path directory = marker.parent_path();
+    const fs::path directory = Normal(marker.parent_path());
     const auto identity = IdentityOf(directory);
     const bool same = place_ && identity && place_->identity == identity;
     std::unique_ptr<DirectoryLock> lock;

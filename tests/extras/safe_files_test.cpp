@@ -213,6 +213,14 @@ TEST_F(SafeFilesTest, WritesNothingInADirectoryThatHasBecomeAnotherOne) {
     EXPECT_THAT(Names("log"), IsEmpty());
 }
 
+TEST_F(SafeFilesTest, KnowsItsDirectoryHoweverItIsSpelled) {
+    ASSERT_TRUE(files_.TakeDirectory(At("log/")));
+    fs::rename(root_ / "log", root_ / "stick");
+    fs::create_directory(root_ / "log");
+    EXPECT_EQ(NumberOf([&] { files_.Open(1, At("log//FD80mSSB.txt"), FileMode::Append); }), 76);
+    EXPECT_THAT(Names("log"), IsEmpty());
+}
+
 TEST_F(SafeFilesTest, WritesNothingInADirectoryThatHasComeLate) {
     fs::remove(root_ / "log");
     ASSERT_TRUE(files_.TakeDirectory(At("log")));
