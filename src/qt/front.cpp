@@ -6,8 +6,8 @@
 #include <QKeyEvent>
 #include <QTimer>
 #include <QWidget>
-#include <algorithm>
 #include <QWindow>
+#include <algorithm>
 #include <chrono>
 
 #include "platform/program.h"

@@ -58,7 +58,17 @@ becomes() {
     now=$(for window in "${all[@]}"; do seen "$window"; done | xargs)
     [ "$now" = "$wanted" ] || fail "wanted: $wanted"
 }
-places() { for window in "${all[@]}"; do xdotool getwindowgeometry --shell "$(window_of "$window")" | grep -v 'WINDOW\|SCREEN' | xargs; done; }
+# The search finds nothing when a window of anybody goes at that moment.
+place_of() {
+    local found=
+    for _ in $(seq 50); do
+        found=$(xdotool getwindowgeometry --shell "$(window_of "$1")" 2>/dev/null | grep -v 'WINDOW\|SCREEN' | xargs) || true
+        [ -z "$found" ] || break
+        sleep 0.1
+    done
+    echo "$found"
+}
+places() { for window in "${all[@]}"; do place_of "$window"; done; }
 
 cd "$HOME/tables"
 QT_QPA_PLATFORM=xcb "$vatro" 2>"$HOME/vatro.err" &

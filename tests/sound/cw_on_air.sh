@@ -40,7 +40,7 @@ fail() {
 
 # It finds a free number for its display by itself, and tells it when it is ready.
 mkfifo "$HOME/display"
-Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>"$HOME/display" 2>"$HOME/vatro.err" &
+Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp -noreset 3>"$HOME/display" 2>"$HOME/vatro.err" &
 screen=$!
 read -r number <"$HOME/display" || fail "there is no screen"
 export DISPLAY=:$number
