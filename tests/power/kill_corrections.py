@@ -301,7 +301,7 @@ def main():
     for program in ("Xvfb", "openbox", "xdotool", "strace"):
         if shutil.which(program) is None:
             print(f"{program} is not installed")
-            sys.exit(1 if os.environ.get("CI") else 77)
+            sys.exit(1 if os.environ.get("CI") == "true" else 77)
     world = tempfile.mkdtemp(prefix="vatro-kill-")
     driver = Driver(arguments, world)
     try:
