@@ -16,7 +16,7 @@ constexpr std::string_view kNameless = " (deleted)";
 
 /// Of a file that had the blocks before.
 std::string Remains(std::size_t size) {
-    constexpr std::string_view kOld("\x7f\x45LF\x02\x01 of another file, \xfe\xff\x03", 30);
+    constexpr std::string_view kOld = "\x7f\x45LF\x02\x01 of another file, \xfe\xff\x03";
     std::string remains;
     while (remains.size() < size) remains += kOld;
     return remains.substr(0, size);
