@@ -23,8 +23,6 @@ class LockFile {
 public:
     LockFile() = default;
     ~LockFile() { Release(); }
-    LockFile(LockFile&& other) noexcept;
-    LockFile& operator=(LockFile&& other) noexcept;
     LockFile(const LockFile&) = delete;
     LockFile& operator=(const LockFile&) = delete;
 

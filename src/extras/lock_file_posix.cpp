@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <utility>
 
 #include "extras/lock_file.h"
 
@@ -49,16 +48,6 @@ int Lock(int handle, bool writable) {
 }
 
 }  // namespace
-
-LockFile::LockFile(LockFile&& other) noexcept : handle_(std::exchange(other.handle_, kNone)) {}
-
-LockFile& LockFile::operator=(LockFile&& other) noexcept {
-    if (this != &other) {
-        Release();
-        handle_ = std::exchange(other.handle_, kNone);
-    }
-    return *this;
-}
 
 LockResult LockFile::Acquire(const std::filesystem::path& file) {
     Release();

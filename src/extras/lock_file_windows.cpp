@@ -1,21 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <windows.h>
 
-#include <utility>
-
 #include "extras/lock_file.h"
 
 namespace vatro {
-
-LockFile::LockFile(LockFile&& other) noexcept : handle_(std::exchange(other.handle_, kNone)) {}
-
-LockFile& LockFile::operator=(LockFile&& other) noexcept {
-    if (this != &other) {
-        Release();
-        handle_ = std::exchange(other.handle_, kNone);
-    }
-    return *this;
-}
 
 LockResult LockFile::Acquire(const std::filesystem::path& file) {
     Release();
