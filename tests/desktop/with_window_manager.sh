@@ -34,7 +34,7 @@ chmod 700 "$XDG_RUNTIME_DIR"
 
 # It finds a free number for its display by itself, and tells it when it is ready.
 mkfifo "$world/display"
-Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$world/display" 2>"$world/screen.log" &
+Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp -noreset 3>"$world/display" 2>"$world/screen.log" &
 screen=$!
 read -r number <"$world/display" || { cat "$world/screen.log"; exit 1; }
 export DISPLAY=:$number

@@ -66,6 +66,11 @@ class Screen:
                 break
             time.sleep(0.05)
         self.manager = subprocess.Popen(["openbox"], env=self.env, stderr=subprocess.DEVNULL)
+        # A window that comes while it starts may never be shown.
+        for _ in range(200):
+            if self.xdotool("get_num_desktops"):
+                break
+            time.sleep(0.05)
 
     def close(self):
         for process in (self.manager, self.server):

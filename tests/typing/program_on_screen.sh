@@ -14,7 +14,12 @@ need() {
 }
 
 screen= manager= program=
-finish() { kill $program $manager $screen 2>/dev/null || true; }
+# The program stores its settings when it is ended: its world goes after it.
+finish() {
+    for process in $program $manager $screen; do
+        kill "$process" 2>/dev/null && wait "$process" 2>/dev/null || true
+    done
+}
 fail() {
     echo "$1"
     echo "windows: $(xdotool search --onlyvisible --name . getwindowname %@ 2>&1 | paste -s -d '|')"
