@@ -33,7 +33,7 @@ CallHeight=750
 SETTINGS
 
 program=
-finish() { kill $program 2>/dev/null || true; }
+finish() { [ -z "$program" ] || { kill "$program" 2>/dev/null && wait "$program" 2>/dev/null || true; }; }
 trap finish EXIT
 fail() {
     echo "$1; on the screen:"

@@ -30,7 +30,12 @@ Tone=800
 SETTINGS
 
 screen= program= recorder=
-finish() { kill $program $recorder $screen 2>/dev/null || true; }
+# The program stores its settings when it is ended, and its home is removed behind this.
+finish() {
+    for process in $program $recorder $screen; do
+        kill "$process" 2>/dev/null && wait "$process" 2>/dev/null || true
+    done
+}
 trap finish EXIT
 fail() {
     echo "$1"
