@@ -162,8 +162,10 @@ bool Input::TakeKeyEvent(QKeyEvent& event) {
     if (const char letter = AccessLetterOf(event); letter != 0) {
         bool used = false;
         Deliver([&] { used = form.Reachable() && form.UserAccessKey(letter); });
-        return used;
+        // A field would take the letter of a key that leads nowhere, past the filter of its keys.
+        return used || editor_ != nullptr;
     }
+    if (editor_ != nullptr && event.modifiers().testFlag(Qt::MetaModifier) && !event.text().isEmpty()) return true;
     if (editor_ != nullptr && event.matches(QKeySequence::Paste)) {
         Paste(QGuiApplication::clipboard()->text());
         return true;

@@ -38,7 +38,8 @@ int ItemModel::rowCount(const QModelIndex& parent) const {
 
 QVariant ItemModel::data(const QModelIndex& index, int role) const {
     // While the control is being refilled it may hold fewer rows than are shown.
-    if (role != Qt::DisplayRole || list_ == nullptr || index.row() >= list_->ListCount()) return {};
+    // A view without a current row asks for it all the same, as when the user copies.
+    if (role != Qt::DisplayRole || list_ == nullptr || index.row() < 0 || index.row() >= list_->ListCount()) return {};
     const std::string_view text = list_->Items()[static_cast<std::size_t>(index.row())];
     if (text.size() <= kMostShown) return ToQt(text);
     return ToQt(text.substr(0, kMostShown)) + QStringLiteral(" ...");

@@ -69,6 +69,24 @@ TEST_F(WaysIn, EnterOfTheKeypadIsEnter) {
     EXPECT_EQ(happenings.lines, (Lines{"Click Command1"}));
 }
 
+TEST_F(WaysIn, KeysThatLeadNowhereTypeNothing) {
+    for (const Qt::KeyboardModifier held : {Qt::AltModifier, Qt::MetaModifier}) {
+        QTest::sendKeyEvent(QTest::Click, &Field(0), Qt::Key_J, QStringLiteral("j"), held);
+        EXPECT_EQ(Field(0).text(), QString());
+    }
+    EXPECT_EQ(happenings.lines, Lines{});
+}
+
+TEST_F(WaysIn, CopyingFromAListWithoutACurrentRowCopiesNothing) {
+    ItemList list;
+    ListBox& control = frmRules->List1;
+    control.Clear();
+    ItemModel model(control, nullptr);
+    list.setModel(&model);
+    EXPECT_FALSE(model.data(QModelIndex(), Qt::DisplayRole).isValid());
+    QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+}
+
 TEST_F(WaysIn, SelectionByTheUserIsTheControls) {
     QTest::keyClicks(&Field(0), QStringLiteral("abcd"));
     QTest::keyClick(Window(), Qt::Key_Left, Qt::ShiftModifier);
