@@ -134,6 +134,14 @@ void History::AddNote(const Version& version, std::string_view text) {
     }
 }
 
+void History::MarkMerged(const fs::path& version) {
+    std::string name = NativeText(version.filename());
+    const std::size_t mark = name.rfind(MarkOf(Keep::ToMerge));
+    if (mark == std::string::npos) return;
+    name.replace(mark, MarkOf(Keep::ToMerge).size(), MarkOf(Keep::Always));
+    RenameFile(version, version.parent_path() / PathOf(name));
+}
+
 History::Version History::Next(const fs::path& file, Keep keep) const {
     Version version;
     const std::optional<Version> newest = Newest(NativeText(file.filename()));

@@ -48,6 +48,9 @@ public:
     /// Writes `text` in a file beside the version, under its name with "note" behind it. A failure is not reported.
     static void AddNote(const Version& version, std::string_view text);
 
+    /// A version that was kept to be merged has been; it is kept all the same. A failure is not reported: it is proposed again.
+    static void MarkMerged(const std::filesystem::path& version);
+
     /// All versions of a file, given by its name such as "FD80mSSB.txt", the newest first.
     std::vector<Version> Versions(std::string_view name) const;
     std::optional<Version> Newest(std::string_view name) const;

@@ -4,8 +4,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
-#include <optional>
+#include <tuple>
 #include <unordered_map>
+#include <utility>
 
 #include "logbook/qso_line.h"
 #include "text/errors.h"
@@ -52,8 +53,7 @@ bool HasControlCharacter(std::string_view line) {
 }
 
 bool IsDamaged(const Piece& piece) {
-    if (HasControlCharacter(piece.text)) return true;
-    return !piece.ended && (piece.text.size() < kLineWidth || !LooksLikeALine(piece.text));
+    return HasControlCharacter(piece.text) || !LooksLikeALine(piece.text) || (!piece.ended && piece.text.size() < kLineWidth);
 }
 
 /// Time and number sent.
@@ -64,6 +64,46 @@ std::string Key(std::string_view line) {
 }
 
 constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
+
+/// In how many columns two lines differ.
+std::size_t Difference(std::string_view a, std::string_view b) {
+    const std::size_t common = std::min(a.size(), b.size());
+    std::size_t difference = std::max(a.size(), b.size()) - common;
+    for (std::size_t i = 0; i < common; ++i)
+        if (a[i] != b[i]) ++difference;
+    return difference;
+}
+
+/// Matches the contacts that are left under their time and number. Where several have the same, those that differ least belong
+/// together: a correction changes little of a line.
+void MatchCorrected(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now, std::vector<std::size_t>& matched,
+                    const std::vector<bool>& taken) {
+    struct Group {
+        std::vector<std::size_t> old;
+        std::vector<std::size_t> now;
+    };
+    std::unordered_map<std::string, Group> groups;
+    for (std::size_t i = 0; i < now.size(); ++i)
+        if (!taken[i] && IsContact(now[i])) groups[Key(now[i])].now.push_back(i);
+    if (groups.empty()) return;
+    for (std::size_t i = 0; i < old.size(); ++i) {
+        if (matched[i] != kNone || !IsContact(old[i])) continue;
+        if (const auto found = groups.find(Key(old[i])); found != groups.end()) found->second.old.push_back(i);
+    }
+    for (auto& [key, group] : groups) {
+        while (!group.old.empty() && !group.now.empty()) {
+            auto bestOld = group.old.begin();
+            auto bestNow = group.now.begin();
+            for (auto a = group.old.begin(); a != group.old.end(); ++a)
+                for (auto b = group.now.begin(); b != group.now.end(); ++b)
+                    if (Difference(old[*a], now[*b]) < Difference(old[*bestOld], now[*bestNow]))
+                        std::tie(bestOld, bestNow) = std::pair(a, b);
+            matched[*bestOld] = *bestNow;
+            group.old.erase(bestOld);
+            group.now.erase(bestNow);
+        }
+    }
+}
 
 /// For each line of `old` the line of `now` that is the same, each of them once; kNone where there is none.
 std::vector<std::size_t> Match(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
@@ -78,17 +118,7 @@ std::vector<std::size_t> Match(const std::vector<std::string_view>& old, const s
         taken[matched[i]] = true;
         found->second.pop_back();
     }
-    std::unordered_map<std::string, std::vector<std::size_t>> keyed;
-    for (std::size_t i = now.size(); i > 0; --i)
-        if (!taken[i - 1] && IsContact(now[i - 1])) keyed[Key(now[i - 1])].push_back(i - 1);
-    if (keyed.empty()) return matched;
-    for (std::size_t i = 0; i < old.size(); ++i) {
-        if (matched[i] != kNone || !IsContact(old[i])) continue;
-        const auto found = keyed.find(Key(old[i]));
-        if (found == keyed.end() || found->second.empty()) continue;
-        matched[i] = found->second.back();
-        found->second.pop_back();
-    }
+    MatchCorrected(old, now, matched, taken);
     return matched;
 }
 
@@ -123,6 +153,7 @@ LogText ReadLogText(std::string_view content) {
             text.lines.push_back(piece.text);
             continue;
         }
+        ++text.damagedInside;
         std::string rest(piece.text);
         std::erase(rest, '\0');
         if (rest.size() >= kLineWidth) text.lines.push_back(text.cleaned.emplace_back(std::move(rest)));

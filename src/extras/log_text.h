@@ -24,11 +24,14 @@ struct LogText {
     std::size_t damagedFrom = 0;
     /// Lines from which zeros were removed; `lines` refers to them.
     std::deque<std::string> cleaned;
+    /// How many lines with zeros in them were met before the damaged end, shown cleaned or left out.
+    std::size_t damagedInside = 0;
 };
 
-/// Splits the content of a log file. Not among the lines, as `damagedFrom` tells: a last line without a line end that is shorter
-/// than 79 columns or does not look like a line of a log, and lines with control characters at the end of the content. Further
-/// up, zeros are removed from a line, and what is shorter than 79 columns then is left out.
+/// Splits the content of a log file. Not among the lines, as `damagedFrom` tells, is what stands at the end and is no line of a
+/// log: it begins with no time and is no note, has control characters in it, or has neither a line end nor 79 columns. An empty
+/// line at the end is such a one: the program would take its number for 0 and begin again with 0001. Further up, zeros are
+/// removed from a line, and what is shorter than 79 columns then is left out.
 LogText ReadLogText(std::string_view content);
 
 /// Whether the line is a contact: neither a note nor empty.

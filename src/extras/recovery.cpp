@@ -235,6 +235,20 @@ private:
     // The logs -------------------------------------------------------------------------------------------------------------------
 
     void LookAtLog(const Log& log) {
+        constexpr std::size_t kTwoLines = 160;
+        if (log.text.lines.empty() && log.content.size() > kTwoLines) {
+            Tell(log.name, "Filen er ingen log, som programmet kan læse. Den er måske gemt i et andet tegnsæt."_t,
+                 "Gem den i tegnsættet Windows-1252, eller hent den fra en backup, før I logger på båndet."_t);
+            return;
+        }
+        if (log.text.damagedInside > 0)
+            Tell(log.name,
+                 Joined({"Midt i loggen er "_t, Count(log.text.damagedInside, "linje", "linjer"),
+                         " ødelagt. Det, der ikke kan læses, vises ikke."_t}),
+                 "Hent de manglende kontakter fra en backup eller fra historik."_t);
+        if (SystemFile file; log.exists && !IsNoFile(log.path) && file.Open(log.path, SystemFile::Access::Write, false) != 0)
+            Tell(log.name, "Loggen kan læses, men ikke skrives. Den første kontakt stopper programmet."_t,
+                 "Giv brugeren ret til at skrive i filen."_t);
         if (log.text.damagedFrom < log.content.size() && !Mentioned(log.name)) {
             Finding& finding = Add(Finding::Action::CutEnd, log.name);
             finding.what = Joined({"Sidst i loggen står "_t, std::to_string(log.content.size() - log.text.damagedFrom),
@@ -251,20 +265,27 @@ private:
 
     void CompareWithHistory(const Log& log) {
         if (Mentioned(log.name)) return;
-        const auto newest = history_.Newest(log.name);
-        if (!newest) return;
-        if (!log.exists && !IsYoung(newest->when)) return;
+        const std::vector<History::Version> versions = history_.Versions(log.name);
+        // What was to be merged stays to be merged until it has been, however many corrections have been made since.
+        for (const History::Version& version : versions)
+            if (version.keep == History::Keep::ToMerge && CompareWith(log, version)) return;
+        if (!versions.empty() && versions.front().keep != History::Keep::ToMerge) CompareWith(log, versions.front());
+    }
+
+    /// Whether something is to be told of it.
+    bool CompareWith(const Log& log, const History::Version& version) {
+        if (!log.exists && !IsYoung(version.when)) return false;
         std::string content;
         try {
-            content = ReadWhole(newest->path);
+            content = ReadWhole(version.path);
         } catch (const RunTimeError&) {
-            return;
+            return false;
         }
-        const LogText version = ReadLogText(content);
-        if (GoesOn(version.lines, log.text.lines)) return;
-        const std::vector<std::string_view> missing = MissingContacts(version.lines, log.text.lines);
-        if (missing.empty()) return;
-        const bool unseen = newest->keep == History::Keep::ToMerge;
+        const LogText text = ReadLogText(content);
+        if (GoesOn(text.lines, log.text.lines)) return false;
+        const std::vector<std::string_view> missing = MissingContacts(text.lines, log.text.lines);
+        if (missing.empty()) return false;
+        const bool unseen = version.keep == History::Keep::ToMerge;
         Finding& finding = Add(!log.exists ? Finding::Action::Restore
                                : unseen    ? Finding::Action::MergeVersion
                                            : Finding::Action::PutBeside,
@@ -280,7 +301,8 @@ private:
             finding.what = Joined({"Loggen har ikke "_t, count, ", som den seneste udgave i historikken har."_t});
             finding.proposal = "Loggen bliver, som den er. Udgaven med flere kontakter lægges ved siden af."_t;
         }
-        Fill(finding, version, newest->path, log.path);
+        Fill(finding, text, version.path, log.path);
+        return true;
     }
 
     bool Mentioned(std::string_view name) const {

@@ -92,8 +92,11 @@ std::string Repair(const Finding& finding, History& history, std::string_view ca
             if (end < content.size()) Rewrite(log, std::string_view(content).substr(0, end), history);
             return {};
         }
-        case Finding::Action::MergeVersion:
-            return Merge(finding, log, history);
+        case Finding::Action::MergeVersion: {
+            std::string outcome = Merge(finding, log, history);
+            History::MarkMerged(finding.source);
+            return outcome;
+        }
         case Finding::Action::Restore:
             WriteWhole(log, ReadWhole(finding.source));
             return {};

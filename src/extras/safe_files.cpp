@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "extras/safe_files.h"
 
+#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -21,6 +22,8 @@ namespace {
 constexpr std::string_view kCopyName = "FDkopi.txt";
 constexpr std::string_view kMarkerName = "setlog.txt";
 constexpr std::string_view kLineEnd = "\r\n";
+/// A size that no file has.
+constexpr std::size_t kUnlike = static_cast<std::size_t>(-1);
 
 [[noreturn]] void Fail(Failure failure) {
     throw RunTimeError(failure);
@@ -107,6 +110,11 @@ void SafeFiles::Tell(Matter matter, const fs::path& about, std::string text) {
     if (told_.emplace(matter, about).second) notices_.push_back(std::move(text));
 }
 
+/// Each time, as long as the operator has not read it.
+void SafeFiles::TellAgain(std::string text) {
+    if (std::find(notices_.begin(), notices_.end(), text) == notices_.end()) notices_.push_back(std::move(text));
+}
+
 std::vector<std::string> SafeFiles::TakeNotices() {
     if (lock_ && lock_->Lost())
         Tell(Matter::Lock, place_->directory,
@@ -180,7 +188,16 @@ void SafeFiles::Open(int number, std::string_view path, FileMode mode) {
 
 void SafeFiles::OpenLogToRead(int number, std::string_view path, const fs::path& file) {
     // The number is taken, and the failures are those of the disk.
-    disk_.Open(number, path, FileMode::Input);
+    try {
+        disk_.Open(number, path, FileMode::Input);
+    } catch (const RunTimeError& failure) {
+        if (SizeOf(file) > 0 && failure.Which() != Failure::FileAlreadyOpen)
+            TellAgain(Joined({NativeText(file.filename()), " kan ikke åbnes (fejl "_t, std::to_string(failure.Number()),
+                              "). Loggen ser tom ud, men er det ikke.\r\n\r\nLog ikke på båndet, før den kan læses: se, om disken er sat "
+                              "rigtigt til, og "
+                              "vælg båndet igen."_t}));
+        throw;
+    }
     auto& place = slots_[static_cast<std::size_t>(number - 1)];
     place.emplace();
     Slot& slot = *place;
@@ -196,17 +213,23 @@ void SafeFiles::OpenLogToRead(int number, std::string_view path, const fs::path&
     }
     slot.text = ReadLogText(*slot.content);
     if (!slot.whole) {
-        Tell(Matter::Reading, file,
-             Joined({"Disken kunne kun læse begyndelsen af "_t, NativeText(file.filename()), ": ", std::to_string(slot.text.lines.size()),
-                     " linjer.\r\n\r\nIntet er slettet, men løbenummer, point og dubletter kan være forkerte. Vælg båndet igen for at læse "
-                     "loggen en gang til. Hjælper det ikke, så afslut, og tag en kopi af filen."_t}));
+        TellAgain(
+            Joined({"Disken kunne kun læse begyndelsen af "_t, NativeText(file.filename()), ": ", std::to_string(slot.text.lines.size()),
+                    " linjer.\r\n\r\nIntet er slettet, men løbenummer, point og dubletter kan være forkerte. Vælg båndet igen for at læse "
+                    "loggen en gang til. Hjælper det ikke, så afslut, og tag en kopi af filen."_t}));
         return;
     }
+    if (slot.text.damagedInside > 0)
+        Tell(
+            Matter::Inside, file,
+            Joined(
+                {"Midt i "_t, NativeText(file.filename()), " er "_t, std::to_string(slot.text.damagedInside),
+                 " linjer ødelagt. Det, der ikke kan læses af dem, vises ikke.\r\n\r\nHent de manglende kontakter fra en backup eller fra historik."_t}));
     if (slot.text.damagedFrom == slot.content->size()) {
         damaged_.erase(file);
         return;
     }
-    damaged_[file] = slot.text.damagedFrom;
+    damaged_[file] = {slot.text.damagedFrom, slot.content->substr(slot.text.damagedFrom)};
     Tell(Matter::Damage, file,
          Joined({"Sidst i "_t, NativeText(file.filename()), " står "_t, std::to_string(slot.content->size() - slot.text.damagedFrom),
                  " tegn, som ikke er en hel linje, efter en strømafbrydelse eller en fejl på disken. De vises ikke.\r\n\r\n"_t,
@@ -258,16 +281,21 @@ void SafeFiles::SetAside(const fs::path& copy) {
     HistoryOf(copy.parent_path()).Prune(kCopyName);
 }
 
-/// The history has had it since the log was read.
+/// The history has had it since the log was read. What has changed since then is somebody's, and stays.
 void SafeFiles::CutDamagedEnd(const fs::path& log) {
-    const auto damaged = damaged_.find(log);
-    if (damaged == damaged_.end()) return;
+    const auto found = damaged_.find(log);
+    if (found == damaged_.end()) return;
+    const DamagedEnd damaged = std::move(found->second);
+    damaged_.erase(found);
+    // A file with nothing sound in it is none of ours, but for the first contact of a log.
+    constexpr std::size_t kTwoLines = 160;
+    if (damaged.from == 0 && damaged.bytes.size() > kTwoLines) return;
+    const std::string content = ReadWhole(log);
+    if (content.size() != damaged.from + damaged.bytes.size() || !content.ends_with(damaged.bytes)) return;
     SystemFile file;
-    if (file.Open(log, SystemFile::Access::Write, false) == 0) {
-        file.Truncate(static_cast<std::int64_t>(damaged->second));
-        file.Sync();
-    }
-    damaged_.erase(damaged);
+    if (file.Open(log, SystemFile::Access::Write, false) != 0) return;
+    file.Truncate(static_cast<std::int64_t>(damaged.from));
+    file.Sync();
 }
 
 // Reading and writing -----------------------------------------------------------------------------------------------------------
@@ -316,8 +344,8 @@ void SafeFiles::LearnAppended(const Slot& slot) {
     const auto known = known_.find(slot.path);
     if (known == known_.end()) return;
     if (known->second.size != slot.sizeBefore) {
-        // Somebody else has written to it: what it holds is no longer known.
-        known_.erase(known);
+        // Somebody else has written to it: it is no longer what the program has read, whatever it is.
+        known->second.size = kUnlike;
         return;
     }
     Known& log = known->second;

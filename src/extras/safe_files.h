@@ -106,7 +106,7 @@ private:
     };
 
     /// What the operator is told of, once for each file or directory.
-    enum class Matter { Reading, Damage, Unseen, Room, Lock };
+    enum class Matter { Damage, Inside, Unseen, Room, Lock };
 
     Slot* SlotOf(int number);
     std::optional<std::filesystem::path> PathTo(std::string_view path) const;
@@ -122,6 +122,7 @@ private:
     void LearnAppended(const Slot& slot);
     std::string KeepDamaged(const std::filesystem::path& log, std::string_view content);
     void KeepOlderCopy(const std::filesystem::path& source, const std::filesystem::path& target);
+    void TellAgain(std::string text);
     void Tell(Matter matter, const std::filesystem::path& about, std::string text);
 
     Files& disk_;
@@ -130,8 +131,12 @@ private:
     std::optional<Place> place_;
     std::unique_ptr<DirectoryLock> lock_;
     std::map<std::filesystem::path, Known> known_;
-    /// Where the damaged end of a log begins that was not shown.
-    std::map<std::filesystem::path, std::size_t> damaged_;
+    /// The damaged end of a log that was not shown: where it begins, and what it is.
+    struct DamagedEnd {
+        std::size_t from = 0;
+        std::string bytes;
+    };
+    std::map<std::filesystem::path, DamagedEnd> damaged_;
     std::set<std::pair<Matter, std::filesystem::path>> told_;
     std::vector<std::string> notices_;
 };

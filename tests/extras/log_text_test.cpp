@@ -56,6 +56,13 @@ TEST(LogText, LeavesOutRemainsOfAnotherFileAtTheEnd) {
     EXPECT_THAT(LinesOf(kOne + "\r\n" + garbage), ElementsAre(kOne));
 }
 
+TEST(LogText, LeavesOutAnEmptyOrOddLineAtTheEnd) {
+    for (const std::string end : {"\r\n", "   \r\n", "\r\n\r\n", "rest af noget\r\n"}) {
+        EXPECT_THAT(LinesOf(kOne + "\r\n" + end), ElementsAre(kOne)) << end;
+        EXPECT_THAT(LinesOf(kOne + "\r\n" + end + kTwo + "\r\n").back(), kTwo) << end;
+    }
+}
+
 TEST(LogText, KeepsShortLinesOfEarlierYears) {
     const std::string early = kOne.substr(0, 60);
     EXPECT_THAT(LinesOf(early + "\r\n" + early + "\r\n"), ElementsAre(early, early));
@@ -64,6 +71,7 @@ TEST(LogText, KeepsShortLinesOfEarlierYears) {
 TEST(LogText, FindsTheContactBehindZerosFurtherUp) {
     EXPECT_THAT(LinesOf(kOne + "\r\n" + std::string(40, '\0') + kTwo + "\r\n" + std::string(79, '\0') + "\r\n" + kThree + "\r\n"),
                 ElementsAre(kOne, kTwo, kThree));
+    EXPECT_EQ(ReadLogText(kOne + "\r\n" + std::string(79, '\0') + "\r\n" + kThree + "\r\n").damagedInside, 1U);
 }
 
 TEST(MissingContacts, AreNeitherThereNorUnderTheSameTimeAndNumber) {
@@ -74,6 +82,12 @@ TEST(MissingContacts, AreNeitherThereNorUnderTheSameTimeAndNumber) {
     EXPECT_THAT(MissingContacts({kOne, kTwo, kThree}, {kOne, kTwo}), ElementsAre(kThree));
     EXPECT_THAT(MissingContacts({kOne, kTwo, kThree}, {kOne, kTwo, elsewhen}), ElementsAre(kThree));
     EXPECT_THAT(MissingContacts({kOne, kTwo}, {}), ElementsAre(kOne, kTwo));
+}
+
+TEST(MissingContacts, TakeTheLeastChangedOfSeveralUnderOneTimeAndNumberForTheCorrectedOne) {
+    const std::string other = ContactLine(2, 2, "OZ9PAPIR");
+    EXPECT_THAT(MissingContacts({kOne, other, kTwo}, {kOne, ContactLine(2, 2, "DL1AAX")}), ElementsAre(other));
+    EXPECT_THAT(Merged({kOne, other, kTwo}, {kOne, ContactLine(2, 2, "DL1AAX")}), ElementsAre(kOne, other, ContactLine(2, 2, "DL1AAX")));
 }
 
 TEST(MissingContacts, CountTheSameLineTwice) {

@@ -194,6 +194,26 @@ TEST_F(RecoveryTest, PutsBackWhatTheProgramHadNotSeen) {
     EXPECT_THAT(Actions(), IsEmpty());
 }
 
+TEST_F(RecoveryTest, StillProposesTheMergeAfterMoreCorrections) {
+    PutVersion(LogOf(6), History::Keep::ToMerge);
+    PutVersion(LogOf(2), History::Keep::ByAge);
+    Put("log/FD80mSSB.txt", kOne + kCorrected);
+    EXPECT_THAT(Actions(), ElementsAre(Action::MergeVersion));
+    RepairOne();
+    EXPECT_EQ(ReadLogText(Content("log/FD80mSSB.txt")).lines.size(), 6U);
+    EXPECT_THAT(Actions(), IsEmpty());
+    // A log that is made shorter afterwards is another matter: the merge is not proposed again.
+    Put("log/FD80mSSB.txt", LogOf(5));
+    EXPECT_THAT(Actions(), testing::Not(testing::Contains(Action::MergeVersion)));
+}
+
+TEST_F(RecoveryTest, DoesNotEmptyAFileInAnotherCharacterSet) {
+    std::string wide;
+    for (const char c : LogOf(5)) wide += {c, '\0'};
+    Put("log/FD80mSSB.txt", wide);
+    EXPECT_THAT(Actions(), ElementsAre(Action::None));
+}
+
 TEST_F(RecoveryTest, LeavesALogThatIsShorterOnPurposeAndAsksOnce) {
     PutVersion(LogOf(6), History::Keep::ByAge);
     Put("log/FD80mSSB.txt", LogOf(4));

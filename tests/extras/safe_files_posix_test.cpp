@@ -80,6 +80,22 @@ TEST_F(SafeFilesPosix, APipeDeviceOrSocketIsAFailedOpeningAtOnce) {
     close(made);
 }
 
+TEST_F(SafeFilesPosix, ALogThatCannotBeOpenedIsToldEachTime) {
+    if (geteuid() != 0) GTEST_SKIP() << "skipped: only root can be another user";
+    Put("log/FD80mSSB.txt", LogOf(2));
+    fs::permissions(root_ / "log/FD80mSSB.txt", fs::perms::none);
+    fs::permissions(root_, fs::perms::all);
+    fs::permissions(root_ / "log", fs::perms::all);
+    EXPECT_EQ(AsSomebody([&] {
+                  for (int time = 0; time < 2; ++time) {
+                      if (NumberOf([&] { files_.Open(1, At("log/FD80mSSB.txt"), FileMode::Input); }) != 70) return 1;
+                      if (files_.TakeNotices().size() != 1) return 2;
+                  }
+                  return 0;
+              }),
+              0);
+}
+
 TEST_F(SafeFilesPosix, OwnerAndRightsSurviveARewrite) {
     Put("log/FD80mSSB.txt", LogOf(1));
     ASSERT_EQ(chmod((root_ / "log/FD80mSSB.txt").c_str(), 0664), 0);

@@ -200,6 +200,39 @@ TEST_F(SafeFilesTest, PutsTheNextContactInThePlaceOfADamagedEnd) {
     EXPECT_THAT(files_.TakeNotices(), SizeIs(1)) << "the damaged end alone";
 }
 
+TEST_F(SafeFilesTest, CutsNothingThatSomebodyHasChangedSinceItWasRead) {
+    Put("log/FD80mSSB.txt", LogOf(2) + kThree.substr(0, 30));
+    Load();
+    // Completed in an editor while the program runs.
+    Put("log/FD80mSSB.txt", LogOf(4));
+    WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, ContactLine(5, 5));
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(5));
+}
+
+TEST_F(SafeFilesTest, CutsNothingOffAFileThatIsNoLog) {
+    const std::string other(4000, 'x');
+    Put("log/FD80mSSB.txt", other);
+    Load();
+    WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kOne);
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), other + "\r\n" + kOne + "\r\n");
+}
+
+TEST_F(SafeFilesTest, TellsOfLinesThatAreDamagedInside) {
+    Put("log/FD80mSSB.txt", kOne + "\r\n" + std::string(200, '\0') + "\r\n" + kThree + "\r\n");
+    EXPECT_THAT(Load(), ElementsAre(kOne, kThree));
+    EXPECT_THAT(files_.TakeNotices(), ElementsAre(HasSubstr("1 linjer")));
+}
+
+TEST_F(SafeFilesTest, SeesAForeignCorrectionAlsoBehindAContactOfItsOwn) {
+    Put("log/FD80mSSB.txt", LogOf(2));
+    Load();
+    Put("log/FD80mSSB.txt", kOne + "\n" + kCorrected + "\n");
+    WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kThree);
+    Rewrite(files_, {kOne, kTwo, kThree});
+    EXPECT_THAT(History(), ElementsAre("FD80mSSB-0001 samles.txt"));
+    EXPECT_THAT(files_.TakeNotices(), SizeIs(1));
+}
+
 TEST_F(SafeFilesTest, WritesNothingInADirectoryThatHasBecomeAnotherOne) {
     Put("log/FD80mSSB.txt", LogOf(1));
     ASSERT_TRUE(files_.TakeDirectory(At("log")));
