@@ -59,6 +59,8 @@ class Desktop:
         self.manager = self.program = self.compositor = None
         # A window that comes before the window manager is not always taken over by it.
         until(self.managed, "the window manager")
+        # It says so before it looks at its first window.
+        time.sleep(1)
 
     def managed(self):
         if self.manager is None or self.manager.poll() is not None:

@@ -50,6 +50,8 @@ for _ in $(seq 100); do
     sleep 0.1
 done
 xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id' || { echo "$manager does not start:"; cat "$HOME/wm.log"; exit 1; }
+# It says so before it looks at its first window.
+sleep 1
 
 result=0
 "$@" || result=$?

@@ -71,6 +71,8 @@ class Screen:
             if self.xdotool("get_num_desktops"):
                 break
             time.sleep(0.05)
+        # It says so before it looks at its first window.
+        time.sleep(1)
 
     def close(self):
         for process in (self.manager, self.server):

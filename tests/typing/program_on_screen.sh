@@ -59,6 +59,8 @@ SETTINGS
         xdotool get_num_desktops >/dev/null 2>&1 && break
         sleep 0.1
     done
+    # It says so before it looks at its first window.
+    sleep 1
     cd "$world/tables"
     env XDG_CONFIG_HOME="$world/config" XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$world/run}" QT_QPA_PLATFORM=xcb "$1" 2>"$world/vatro.err" &
     program=$!
