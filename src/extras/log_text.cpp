@@ -161,6 +161,10 @@ LogText ReadLogText(std::string_view content) {
     return text;
 }
 
+bool IsNoLog(const LogText& text, std::string_view content) {
+    return text.lines.empty() && content.size() > 2 * kLineWidth;
+}
+
 bool IsContact(std::string_view line) {
     return !line.empty() && !ErNote(line);
 }

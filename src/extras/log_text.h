@@ -34,6 +34,10 @@ struct LogText {
 /// removed from a line, and what is shorter than 79 columns then is left out.
 LogText ReadLogText(std::string_view content);
 
+/// Whether the content is none of a log at all, such as one in another character set: more than the beginning of a first contact,
+/// and not one line to be shown.
+bool IsNoLog(const LogText& text, std::string_view content);
+
 /// Whether the line is a contact: neither a note nor empty.
 bool IsContact(std::string_view line);
 

@@ -235,8 +235,7 @@ private:
     // The logs -------------------------------------------------------------------------------------------------------------------
 
     void LookAtLog(const Log& log) {
-        constexpr std::size_t kTwoLines = 160;
-        if (log.text.lines.empty() && log.content.size() > kTwoLines) {
+        if (IsNoLog(log.text, log.content)) {
             Tell(log.name, "Filen er ingen log, som programmet kan læse. Den er måske gemt i et andet tegnsæt."_t,
                  "Gem den i tegnsættet Windows-1252, eller hent den fra en backup, før I logger på båndet."_t);
             return;

@@ -287,10 +287,8 @@ void SafeFiles::CutDamagedEnd(const fs::path& log) {
     if (found == damaged_.end()) return;
     const DamagedEnd damaged = std::move(found->second);
     damaged_.erase(found);
-    // A file with nothing sound in it is none of ours, but for the first contact of a log.
-    constexpr std::size_t kTwoLines = 160;
-    if (damaged.from == 0 && damaged.bytes.size() > kTwoLines) return;
     const std::string content = ReadWhole(log);
+    if (IsNoLog(ReadLogText(content), content)) return;
     if (content.size() != damaged.from + damaged.bytes.size() || !content.ends_with(damaged.bytes)) return;
     SystemFile file;
     if (file.Open(log, SystemFile::Access::Write, false) != 0) return;

@@ -14,6 +14,7 @@
 
 #include "disk/temporary_world.h"
 #include "extras/log_lines.h"
+#include "extras/recovery.h"
 #include "extras/safe_files.h"
 
 namespace vatro {
@@ -142,6 +143,22 @@ TEST_F(SafeFilesPosix, ADirectoryThatMayOnlyBeReadDoesNotRefuse) {
     EXPECT_TRUE(files_.TakeDirectory(At("log")));
     EXPECT_EQ(Lines(files_, At("log/FD80mSSB.txt")).size(), 2U);
     EXPECT_EQ(NumberOf([&] { files_.Open(1, At("log/FD80mSSB.txt"), FileMode::Append); }), 70);
+}
+
+TEST_F(SafeFilesPosix, ALogThatCannotBeWrittenIsToldBeforeItIsRead) {
+    if (geteuid() != 0) GTEST_SKIP() << "skipped: file systems can only be mounted by root";
+    ASSERT_TRUE(Mount());
+    Put("log/FD80mSSB.txt", LogOf(2));
+    const auto toldOfLog = [&] {
+        const History history(root_ / "log", root_ / "state", [] { return DateTime{2026, 9, 5, 14, 5, 30, 0}; });
+        int told = 0;
+        for (const Finding& finding : LookForDamage({root_ / "log", root_, "80mSSB", {2026, 9, 5, 14, 5, 30, 0}}, history))
+            if (finding.file == "FD80mSSB.txt" && finding.action == Finding::Action::None) ++told;
+        return told;
+    };
+    EXPECT_EQ(toldOfLog(), 0);
+    ASSERT_EQ(mount("tmpfs", (root_ / "log").c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, ""), 0);
+    EXPECT_EQ(toldOfLog(), 1);
 }
 
 TEST_F(SafeFilesPosix, NothingIsWrittenUnderAStickThatWasPulled) {
