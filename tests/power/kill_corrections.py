@@ -186,10 +186,10 @@ class Driver:
         self.judge(life)
         screen.activate(main)
         for _ in range(2):
-            self.contact(alive)
+            self.contact()
         return self.correct(program, main, life, kill_before, recovered)
 
-    def contact(self, alive):
+    def contact(self):
         number, self.next = self.next, self.next + 1
         size = lambda: os.path.getsize(self.log) if os.path.exists(self.log) else 0
         before = size()
@@ -251,7 +251,7 @@ class Driver:
             self.calls = calls_in(trace)
             where = f"after its correction, which has {len(self.calls)} calls"
         elif kill_before != "random":
-            # Another tracer may not have been ready in time; the life then was not ended.
+            # strace may have come too late to see a call; the life was not ended then.
             seen = calls_in(trace) if os.path.exists(trace) else []
             where = f"before call {len(seen)}, {seen[-1][2][:150]}" if seen else "before any call"
         print(f"life {life}: {'recovered, ' if recovered else ''}{'ended' if ended or kill_before is None else 'not ended'} {where}", flush=True)
