@@ -13,7 +13,7 @@
 #include <functional>
 
 #include "entry/frmMain.h"
-#include "logbook/log_file.h"
+#include "frame/log_file.h"
 #include "program.h"
 #include "sample.h"
 

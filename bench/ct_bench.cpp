@@ -6,10 +6,10 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "disk/names.h"
 #include "entry/frmMain.h"
 #include "exchange/ct_import.h"
-#include "logbook/qso_line.h"
+#include "log/contact_line.h"
+#include "names.h"
 #include "program.h"
 #include "sample.h"
 

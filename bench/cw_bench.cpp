@@ -9,10 +9,9 @@
 #include <chrono>
 #include <cstring>
 
-#include "cw/frmCWTX.h"
-#include "cw/settings.h"
-#include "cw/synthesis.h"
-#include "platform/program.h"
+#include "keyer/frmCWTX.h"
+#include "keyer/keyer_settings.h"
+#include "morse/synthesis.h"
 #include "program.h"
 #include "sample.h"
 

@@ -8,14 +8,13 @@
 #include <vector>
 
 #include "country/cty_file.h"
-#include "country/frmCtyDat.h"
 #include "country/import.h"
 #include "country/tables.h"
-#include "disk/disk_files.h"
+#include "disk_files.h"
 #include "frame/station.h"
-#include "platform/program.h"
 #include "program.h"
 #include "sample.h"
+#include "tables/frmCtyDat.h"
 #include "unattended.h"
 
 namespace vatro::bench {

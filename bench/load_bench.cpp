@@ -8,7 +8,7 @@
 
 #include "entry/frmMain.h"
 #include "frame/band_mode.h"
-#include "logbook/log_file.h"
+#include "frame/log_file.h"
 #include "program.h"
 #include "sample.h"
 

@@ -10,19 +10,18 @@
 #include <vector>
 
 #include "country/lookup.h"
-#include "country/unknown.h"
-#include "disk/disk_files.h"
+#include "disk_files.h"
 #include "entry/frmMain.h"
 #include "frame/band_mode.h"
+#include "frame/log_file.h"
 #include "frame/station.h"
-#include "logbook/log_file.h"
-#include "logbook/qso_line.h"
-#include "platform/page.h"
-#include "platform/program.h"
+#include "log/contact_line.h"
+#include "page.h"
+#include "papers/logs.h"
 #include "program.h"
-#include "reports/logs.h"
 #include "sample.h"
-#include "scoring/points.h"
+#include "score/points.h"
+#include "tables/unknown.h"
 
 namespace vatro::bench {
 

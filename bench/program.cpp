@@ -3,12 +3,12 @@
 
 #include <stdexcept>
 
-#include "disk/disk_files.h"
+#include "disk_files.h"
 #include "entry/frmMain.h"
-#include "extras/safe_files.h"
 #include "frame/start.h"
-#include "platform/platform.h"
-#include "platform/program.h"
+#include "platform.h"
+#include "program.h"
+#include "safe_files.h"
 #include "sample.h"
 #include "unattended.h"
 

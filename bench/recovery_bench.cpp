@@ -8,9 +8,9 @@
 
 #include <array>
 
-#include "extras/recovery.h"
-#include "logbook/log_file.h"
+#include "frame/log_file.h"
 #include "program.h"
+#include "recovery.h"
 #include "sample.h"
 
 namespace vatro::bench {

@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "entry/frmMain.h"
-#include "logbook/log_file.h"
+#include "frame/log_file.h"
 #include "program.h"
 #include "sample.h"
 

@@ -7,8 +7,8 @@
 #include <set>
 #include <stdexcept>
 
-#include "logbook/qso_line.h"
-#include "text/columns.h"
+#include "columns.h"
+#include "log/contact_line.h"
 
 namespace vatro::bench {
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "country/tables.h"
-#include "logbook/qso_line.h"
+#include "log/contact_line.h"
 
 namespace vatro::bench {
 

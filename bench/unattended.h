@@ -3,7 +3,7 @@
 // Nobody sits at a benchmark.
 #pragma once
 
-#include "replay/memory_platform.h"
+#include "memory_platform.h"
 
 namespace vatro::bench {
 

@@ -26,21 +26,20 @@
 #include <string>
 #include <vector>
 
-#include "disk/disk_files.h"
-#include "disk/disk_settings.h"
+#include "application.h"
+#include "clock.h"
+#include "deliver.h"
+#include "disk_files.h"
+#include "disk_settings.h"
 #include "entry/frmB4.h"
 #include "entry/frmMain.h"
 #include "frame/start.h"
-#include "logbook/qso_line.h"
-#include "platform/program.h"
+#include "front.h"
+#include "log/contact_line.h"
+#include "printer.h"
 #include "program.h"
-#include "qt/application.h"
-#include "qt/clock.h"
-#include "qt/deliver.h"
-#include "qt/front.h"
-#include "qt/printer.h"
-#include "qt/sound.h"
 #include "sample.h"
+#include "sound_card.h"
 #include "unattended.h"
 
 namespace vatro::bench {

@@ -10,9 +10,9 @@
 
 #include "entry/frmMain.h"
 #include "exchange/ct_import.h"
+#include "frame/log_file.h"
 #include "frame/start.h"
-#include "logbook/log_file.h"
-#include "logbook/qso_line.h"
+#include "log/contact_line.h"
 #include "world.h"
 
 namespace {

@@ -9,9 +9,9 @@
 #include <string_view>
 #include <vector>
 
-#include "country/frmCtyDat.h"
 #include "country/import.h"
 #include "country/tables.h"
+#include "tables/frmCtyDat.h"
 #include "world.h"
 
 namespace {

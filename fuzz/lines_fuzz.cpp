@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "disk/disk_files.h"
+#include "disk_files.h"
 
 namespace {
 

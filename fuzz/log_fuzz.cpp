@@ -12,13 +12,13 @@
 #include <string_view>
 #include <vector>
 
-#include "country/call_analysis.h"
+#include "call/call_analysis.h"
 #include "entry/frmMain.h"
 #include "exchange/frmStregP.h"
+#include "frame/log_file.h"
 #include "frame/start.h"
-#include "logbook/log_file.h"
-#include "logbook/qso_line.h"
-#include "reports/error_list.h"
+#include "log/contact_line.h"
+#include "papers/error_list.h"
 #include "world.h"
 
 namespace {

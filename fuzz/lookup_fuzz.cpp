@@ -8,11 +8,11 @@
 #include <string>
 #include <string_view>
 
-#include "country/call_analysis.h"
+#include "call/call_analysis.h"
+#include "columns.h"
 #include "country/lookup.h"
 #include "country/tables.h"
-#include "text/columns.h"
-#include "text/errors.h"
+#include "errors.h"
 
 namespace {
 

@@ -9,10 +9,10 @@
 #include <string_view>
 #include <vector>
 
-#include "cw/settings.h"
-#include "cw/synthesis.h"
-#include "cw/texts.h"
 #include "frame/station.h"
+#include "keyer/keyer_settings.h"
+#include "keyer/texts.h"
+#include "morse/synthesis.h"
 #include "world.h"
 
 namespace {

@@ -10,10 +10,10 @@
 
 #include "entry/frmMain.h"
 #include "frame/start.h"
-#include "reports/adif.h"
-#include "reports/html_page.h"
-#include "reports/log_sheets.h"
-#include "reports/printing.h"
+#include "papers/adif.h"
+#include "papers/html_page.h"
+#include "papers/log_sheets.h"
+#include "papers/printing.h"
 #include "world.h"
 
 namespace {

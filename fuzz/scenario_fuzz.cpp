@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "replay/scenario.h"
+#include "scenario.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vatro;

@@ -12,8 +12,8 @@
 #include "entry/frmMain.h"
 #include "entry/qso_fields.h"
 #include "frame/start.h"
-#include "scoring/edr.h"
-#include "scoring/points.h"
+#include "score/points.h"
+#include "score/stations.h"
 #include "world.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-#include "text/codepage.h"
-#include "text/datetime.h"
-#include "text/errors.h"
-#include "text/numbers.h"
+#include "codepage.h"
+#include "datetime.h"
+#include "errors.h"
+#include "numbers.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vatro;

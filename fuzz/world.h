@@ -10,11 +10,11 @@
 #include <utility>
 #include <vector>
 
-#include "logbook/log_file.h"
-#include "platform/platform.h"
-#include "platform/program.h"
-#include "replay/memory_platform.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "frame/log_file.h"
+#include "memory_platform.h"
+#include "platform.h"
+#include "program.h"
 
 namespace vatro {
 

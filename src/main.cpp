@@ -6,23 +6,23 @@
 #include <QTimer>
 #include <memory>
 
-#include "disk/disk_files.h"
-#include "disk/disk_settings.h"
+#include "application.h"
+#include "clock.h"
+#include "deliver.h"
+#include "desktop.h"
+#include "dialogs.h"
+#include "disk_files.h"
+#include "disk_settings.h"
+#include "ends.h"
 #include "entry/frmMain.h"
 #include "frame/start.h"
-#include "platform/program.h"
-#include "qt/application.h"
-#include "qt/clock.h"
-#include "qt/deliver.h"
-#include "qt/desktop.h"
-#include "qt/dialogs.h"
-#include "qt/ends.h"
-#include "qt/front.h"
-#include "qt/printer.h"
-#include "qt/safety.h"
-#include "qt/services.h"
-#include "qt/sound.h"
-#include "qt/spread.h"
+#include "front.h"
+#include "printer.h"
+#include "program.h"
+#include "safety.h"
+#include "services.h"
+#include "sound_card.h"
+#include "spread.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);

@@ -8,7 +8,7 @@
 #include <iterator>
 #include <stdexcept>
 
-#include "disk/names.h"
+#include "names.h"
 #include "temporary_directory.h"
 
 namespace vatro {

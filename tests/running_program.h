@@ -21,14 +21,14 @@
 #include <utility>
 #include <vector>
 
+#include "codepage.h"
 #include "entry/frmMain.h"
+#include "forms.h"
 #include "frame/start.h"
-#include "platform/forms.h"
-#include "platform/page.h"
-#include "platform/platform.h"
-#include "platform/program.h"
-#include "platform/sound.h"
-#include "text/codepage.h"
+#include "page.h"
+#include "platform.h"
+#include "program.h"
+#include "sound.h"
 
 namespace vatro {
 

@@ -12,10 +12,10 @@
 #include <system_error>
 #include <vector>
 
+#include "codepage.h"
+#include "command_line.h"
 #include "country/cty_fit.h"
-#include "disk/command_line.h"
-#include "disk/names.h"
-#include "text/codepage.h"
+#include "names.h"
 
 namespace {
 

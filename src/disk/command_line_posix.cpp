@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "disk/command_line.h"
+#include "command_line.h"
 
 namespace vatro {
 

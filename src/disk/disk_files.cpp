@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "disk/disk_files.h"
+#include "disk_files.h"
 
 #include <system_error>
 #include <utility>

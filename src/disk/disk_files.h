@@ -17,10 +17,10 @@
 #include <string>
 #include <string_view>
 
-#include "disk/line_reader.h"
-#include "disk/names.h"
-#include "disk/system_file.h"
-#include "platform/platform.h"
+#include "line_reader.h"
+#include "names.h"
+#include "platform.h"
+#include "system_file.h"
 
 namespace vatro {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "disk/disk_settings.h"
+#include "disk_settings.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-#include "disk/names.h"
-#include "disk/system_file.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "names.h"
+#include "system_file.h"
 
 namespace vatro {
 

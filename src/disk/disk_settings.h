@@ -10,8 +10,8 @@
 #include <filesystem>
 #include <vector>
 
-#include "disk/ini_text.h"
-#include "platform/platform.h"
+#include "ini_text.h"
+#include "platform.h"
 
 namespace vatro {
 

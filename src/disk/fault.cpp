@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "disk/fault.h"
+#include "fault.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "text/codepage.h"
+#include "codepage.h"
 
 namespace vatro {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "disk/ini_text.h"
+#include "ini_text.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-#include "text/codepage.h"
+#include "codepage.h"
 
 namespace vatro {
 

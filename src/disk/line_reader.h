@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "disk/system_file.h"
+#include "system_file.h"
 
 namespace vatro {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "disk/names.h"
+#include "names.h"
 
 #include <system_error>
 
-#include "text/codepage.h"
+#include "codepage.h"
 
 namespace vatro {
 

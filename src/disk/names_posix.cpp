@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "disk/names.h"
+#include "names.h"
 
 #include <algorithm>
 #include <system_error>
 
-#include "disk/volumes_posix.h"
-#include "text/codepage.h"
-#include "text/errors.h"
+#include "codepage.h"
+#include "errors.h"
+#include "volumes_posix.h"
 
 namespace vatro {
 

@@ -14,7 +14,7 @@
 #include <span>
 #include <string_view>
 
-#include "text/errors.h"
+#include "errors.h"
 
 namespace vatro {
 

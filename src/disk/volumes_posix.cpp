@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "disk/volumes_posix.h"
+#include "volumes_posix.h"
 
 #include <pwd.h>
 #include <sys/stat.h>

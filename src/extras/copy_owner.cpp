@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "extras/copy_owner.h"
+#include "copy_owner.h"
 
 #include <unordered_set>
 
-#include "extras/log_text.h"
-#include "extras/whole_file.h"
-#include "logbook/log_file.h"
-#include "text/errors.h"
+#include "errors.h"
+#include "frame/log_file.h"
+#include "log_text.h"
+#include "whole_file.h"
 
 namespace vatro {
 

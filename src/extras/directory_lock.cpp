@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "extras/directory_lock.h"
+#include "directory_lock.h"
 
 #include <condition_variable>
 #include <fstream>

@@ -14,7 +14,7 @@
 #include <string>
 #include <thread>
 
-#include "extras/lock_file.h"
+#include "lock_file.h"
 
 namespace vatro {
 

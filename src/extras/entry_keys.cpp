@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "extras/entry_keys.h"
+#include "entry_keys.h"
 
 namespace vatro {
 

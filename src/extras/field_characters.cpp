@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "extras/field_characters.h"
+#include "field_characters.h"
 
 #include <algorithm>
 #include <string>
 
-#include "platform/forms.h"
+#include "forms.h"
 
 namespace vatro {
 

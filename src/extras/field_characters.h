@@ -8,7 +8,7 @@
 
 #include <string_view>
 
-#include "platform/text_controls.h"
+#include "text_controls.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "extras/history.h"
+#include "history.h"
 
 #include <algorithm>
 #include <array>
@@ -8,13 +8,13 @@
 #include <set>
 #include <system_error>
 
-#include "disk/names.h"
-#include "disk/system_file.h"
-#include "extras/joined.h"
-#include "extras/whole_file.h"
-#include "text/codepage.h"
-#include "text/errors.h"
-#include "text/numbers.h"
+#include "codepage.h"
+#include "errors.h"
+#include "joined.h"
+#include "names.h"
+#include "numbers.h"
+#include "system_file.h"
+#include "whole_file.h"
 
 namespace vatro {
 

@@ -20,7 +20,7 @@
 #include <string_view>
 #include <vector>
 
-#include "text/datetime.h"
+#include "datetime.h"
 
 namespace vatro {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <cstdlib>
 
-#include "extras/history.h"
+#include "history.h"
 
 namespace vatro {
 

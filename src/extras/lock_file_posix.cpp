@@ -5,7 +5,7 @@
 
 #include <cerrno>
 
-#include "extras/lock_file.h"
+#include "lock_file.h"
 
 #ifndef F_OFD_SETLK
 #include <sys/file.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <windows.h>
 
-#include "extras/lock_file.h"
+#include "lock_file.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "extras/log_text.h"
+#include "log_text.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -8,9 +8,9 @@
 #include <unordered_map>
 #include <utility>
 
-#include "logbook/qso_line.h"
-#include "text/errors.h"
-#include "text/numbers.h"
+#include "errors.h"
+#include "log/contact_line.h"
+#include "numbers.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "extras/morse_keys.h"
+#include "morse_keys.h"
 
 #include <utility>
 

@@ -8,7 +8,7 @@
 
 #include <optional>
 
-#include "extras/pressed_key.h"
+#include "pressed_key.h"
 
 namespace vatro {
 

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "extras/recovery.h"
+#include "recovery.h"
 
 #include <algorithm>
 #include <optional>
 #include <system_error>
 #include <utility>
 
-#include "disk/names.h"
-#include "disk/system_file.h"
-#include "extras/copy_owner.h"
-#include "extras/joined.h"
-#include "extras/whole_file.h"
-#include "logbook/log_file.h"
-#include "logbook/qso_line.h"
-#include "text/codepage.h"
-#include "text/errors.h"
+#include "codepage.h"
+#include "copy_owner.h"
+#include "errors.h"
+#include "frame/log_file.h"
+#include "joined.h"
+#include "log/contact_line.h"
+#include "names.h"
+#include "system_file.h"
+#include "whole_file.h"
 
 namespace vatro {
 

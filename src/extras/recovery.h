@@ -12,8 +12,8 @@
 #include <string_view>
 #include <vector>
 
-#include "extras/history.h"
-#include "extras/log_text.h"
+#include "history.h"
+#include "log_text.h"
 
 namespace vatro {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <system_error>
 
-#include "disk/names.h"
-#include "disk/system_file.h"
-#include "extras/joined.h"
-#include "extras/recovery.h"
-#include "extras/whole_file.h"
-#include "text/codepage.h"
-#include "text/errors.h"
+#include "codepage.h"
+#include "errors.h"
+#include "joined.h"
+#include "names.h"
+#include "recovery.h"
+#include "system_file.h"
+#include "whole_file.h"
 
 namespace vatro {
 

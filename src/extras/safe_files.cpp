@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "extras/safe_files.h"
+#include "safe_files.h"
 
 #include <algorithm>
 #include <system_error>
 #include <utility>
 
-#include "extras/copy_owner.h"
-#include "extras/joined.h"
-#include "extras/whole_file.h"
-#include "text/codepage.h"
-#include "text/errors.h"
+#include "codepage.h"
+#include "copy_owner.h"
+#include "errors.h"
+#include "joined.h"
+#include "whole_file.h"
 
 namespace vatro {
 

@@ -24,12 +24,12 @@
 #include <utility>
 #include <vector>
 
-#include "disk/names.h"
-#include "disk/system_file.h"
-#include "extras/directory_lock.h"
-#include "extras/history.h"
-#include "extras/log_text.h"
-#include "platform/platform.h"
+#include "directory_lock.h"
+#include "history.h"
+#include "log_text.h"
+#include "names.h"
+#include "platform.h"
+#include "system_file.h"
 
 namespace vatro {
 

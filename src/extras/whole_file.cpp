@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "extras/whole_file.h"
+#include "whole_file.h"
 
 #include <system_error>
 #include <utility>
 #include <vector>
 
-#include "disk/system_file.h"
-#include "text/errors.h"
+#include "errors.h"
+#include "system_file.h"
 
 namespace vatro {
 

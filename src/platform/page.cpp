@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/page.h"
+#include "page.h"
 
 namespace vatro {
 

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "platform/control.h"
+#include "control.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/platform.h"
+#include "platform.h"
 
 #include <cassert>
 #include <optional>

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "text/datetime.h"
-#include "text/errors.h"
+#include "datetime.h"
+#include "errors.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/sound_course.h"
+#include "sound_course.h"
 
 namespace vatro {
 

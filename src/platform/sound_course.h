@@ -11,7 +11,7 @@
 #include <span>
 #include <vector>
 
-#include "platform/sound.h"
+#include "sound.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/accessibility.h"
+#include "accessibility.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -7,8 +7,8 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
-#include "qt/column_head.h"
-#include "qt/picture_view.h"
+#include "column_head.h"
+#include "picture_view.h"
 
 namespace vatro {
 

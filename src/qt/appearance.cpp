@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/appearance.h"
+#include "appearance.h"
 
 #include <QAction>
 #include <QApplication>
@@ -10,10 +10,10 @@
 #include <QPushButton>
 #include <QScreen>
 
-#include "platform/platform.h"
-#include "qt/bind_common.h"
-#include "qt/fields.h"
-#include "text/numbers.h"
+#include "bind_common.h"
+#include "fields.h"
+#include "numbers.h"
+#include "platform.h"
 
 namespace vatro {
 

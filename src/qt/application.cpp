@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/application.h"
+#include "application.h"
 
 #include <QApplication>
 #include <QFont>
@@ -7,7 +7,7 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
-#include "qt/accessibility.h"
+#include "accessibility.h"
 
 // Outside every namespace, as Qt asks.
 static void UseIcon() {

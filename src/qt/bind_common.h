@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-#include "platform/controls.h"
+#include "controls.h"
 
 class QPushButton;
 

@@ -6,13 +6,13 @@
 #include <QPlainTextEdit>
 #include <algorithm>
 
-#include "platform/forms.h"
-#include "qt/bind_common.h"
-#include "qt/binder.h"
-#include "qt/deliver.h"
-#include "qt/input.h"
-#include "qt/text.h"
-#include "qt/window.h"
+#include "bind_common.h"
+#include "binder.h"
+#include "deliver.h"
+#include "forms.h"
+#include "input.h"
+#include "qt_text.h"
+#include "window.h"
 
 namespace vatro {
 

@@ -13,16 +13,16 @@
 #include <QWidget>
 #include <algorithm>
 
-#include "platform/forms.h"
-#include "qt/bind_common.h"
-#include "qt/binder.h"
-#include "qt/column_head.h"
-#include "qt/deliver.h"
-#include "qt/fields.h"
-#include "qt/item_list.h"
-#include "qt/picture_view.h"
-#include "qt/text.h"
-#include "qt/window.h"
+#include "bind_common.h"
+#include "binder.h"
+#include "column_head.h"
+#include "deliver.h"
+#include "fields.h"
+#include "forms.h"
+#include "item_list.h"
+#include "picture_view.h"
+#include "qt_text.h"
+#include "window.h"
 
 namespace vatro {
 

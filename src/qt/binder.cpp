@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/binder.h"
+#include "binder.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -17,14 +17,14 @@
 #include <QToolBar>
 #include <set>
 
-#include "platform/forms.h"
-#include "qt/bars.h"
-#include "qt/column_head.h"
-#include "qt/fields.h"
-#include "qt/item_list.h"
-#include "qt/picture_view.h"
-#include "qt/text.h"
-#include "qt/window.h"
+#include "bar_widgets.h"
+#include "column_head.h"
+#include "fields.h"
+#include "forms.h"
+#include "item_list.h"
+#include "picture_view.h"
+#include "qt_text.h"
+#include "window.h"
 
 namespace vatro {
 

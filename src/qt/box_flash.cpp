@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/box_flash.h"
+#include "box_flash.h"
 
 #include <QAccessible>
 #include <QLayout>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "qt/clock.h"
+#include "clock.h"
 
 #include <QDateTime>
 
-#include "platform/controls.h"
-#include "qt/deliver.h"
-#include "qt/front.h"
+#include "controls.h"
+#include "deliver.h"
+#include "front.h"
 
 namespace vatro {
 

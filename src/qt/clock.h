@@ -7,7 +7,7 @@
 #include <map>
 #include <memory>
 
-#include "platform/platform.h"
+#include "platform.h"
 
 namespace vatro {
 

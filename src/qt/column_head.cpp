@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/column_head.h"
+#include "column_head.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -7,7 +7,7 @@
 #include <QScrollBar>
 #include <QStyle>
 
-#include "qt/item_list.h"
+#include "item_list.h"
 
 namespace vatro {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "qt/deliver.h"
+#include "deliver.h"
 
 #include <utility>
 #include <vector>
 
-#include "platform/program.h"
+#include "program.h"
 
 namespace vatro {
 

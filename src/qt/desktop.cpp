@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "qt/desktop.h"
+#include "desktop.h"
 
-#include "qt/front.h"
+#include "front.h"
 
 namespace vatro {
 

@@ -5,7 +5,7 @@
 // The program makes one such object beside its front. The worlds of scenarios have none, so that they see the rules alone.
 #pragma once
 
-#include "qt/typing_guard.h"
+#include "typing_guard.h"
 
 namespace vatro {
 

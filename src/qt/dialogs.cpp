@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/dialogs.h"
+#include "dialogs.h"
 
 #include <QFileDialog>
 #include <QGridLayout>
@@ -10,14 +10,14 @@
 #include <QStandardPaths>
 #include <memory>
 
-#include "platform/forms.h"
-#include "platform/program.h"
-#include "qt/deliver.h"
-#include "qt/front.h"
-#include "qt/printer.h"
-#include "qt/text.h"
-#include "qt/window.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "deliver.h"
+#include "forms.h"
+#include "front.h"
+#include "printer.h"
+#include "program.h"
+#include "qt_text.h"
+#include "window.h"
 
 namespace vatro {
 

@@ -7,7 +7,7 @@
 #include <QString>
 #include <vector>
 
-#include "platform/platform.h"
+#include "platform.h"
 
 class QDialog;
 class QFileDialog;

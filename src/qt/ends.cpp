@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/ends.h"
+#include "ends.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -10,13 +10,13 @@
 #include <cstdlib>
 #include <utility>
 
-#include "disk/disk_settings.h"
+#include "deliver.h"
+#include "disk_settings.h"
+#include "forms.h"
 #include "frame/start.h"
-#include "platform/forms.h"
-#include "platform/platform.h"
-#include "platform/program.h"
-#include "qt/deliver.h"
-#include "qt/front.h"
+#include "front.h"
+#include "platform.h"
+#include "program.h"
 
 namespace vatro {
 

@@ -7,7 +7,7 @@
 #include <cerrno>
 #include <csignal>
 
-#include "qt/ends.h"
+#include "ends.h"
 
 namespace vatro {
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <utility>
 
-#include "qt/ends.h"
+#include "ends.h"
 
 namespace vatro {
 

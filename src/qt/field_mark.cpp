@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/field_mark.h"
+#include "field_mark.h"
 
 #include <QPainter>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/fields.h"
+#include "fields.h"
 
 #include <QApplication>
 #include <QKeyEvent>

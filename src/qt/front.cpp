@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/front.h"
+#include "front.h"
 
 #include <QApplication>
 #include <QFontMetricsF>
@@ -10,11 +10,11 @@
 #include <algorithm>
 #include <chrono>
 
-#include "platform/program.h"
-#include "qt/deliver.h"
-#include "qt/fields.h"
-#include "qt/text.h"
-#include "qt/window.h"
+#include "deliver.h"
+#include "fields.h"
+#include "program.h"
+#include "qt_text.h"
+#include "window.h"
 
 namespace vatro {
 

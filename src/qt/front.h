@@ -9,8 +9,8 @@
 #include <memory>
 #include <set>
 
-#include "platform/forms.h"
-#include "platform/platform.h"
+#include "forms.h"
+#include "platform.h"
 
 class QWidget;
 

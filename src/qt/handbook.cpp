@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/handbook.h"
+#include "handbook.h"
 
 #include <QFile>
 #include <QTextBlock>

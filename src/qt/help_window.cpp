@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/help_window.h"
+#include "help_window.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -14,7 +14,7 @@
 #include <QToolBar>
 #include <QTreeWidget>
 
-#include "qt/handbook.h"
+#include "handbook.h"
 
 namespace vatro {
 

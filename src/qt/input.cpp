@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/input.h"
+#include "input.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -14,11 +14,11 @@
 #include <algorithm>
 #include <functional>
 
-#include "extras/field_characters.h"
-#include "qt/deliver.h"
-#include "qt/front.h"
-#include "qt/text.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "deliver.h"
+#include "field_characters.h"
+#include "front.h"
+#include "qt_text.h"
 
 namespace vatro {
 

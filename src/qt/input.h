@@ -12,7 +12,7 @@
 #include <QPointer>
 #include <optional>
 
-#include "platform/forms.h"
+#include "forms.h"
 
 class QKeyEvent;
 class QInputMethodEvent;

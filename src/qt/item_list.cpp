@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "qt/item_list.h"
+#include "item_list.h"
 
 #include <QResizeEvent>
 #include <QStyledItemDelegate>
 
-#include "qt/text.h"
+#include "qt_text.h"
 
 namespace vatro {
 

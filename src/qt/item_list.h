@@ -6,7 +6,7 @@
 #include <QAbstractListModel>
 #include <QListView>
 
-#include "platform/controls.h"
+#include "controls.h"
 
 namespace vatro {
 

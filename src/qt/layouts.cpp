@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/layouts.h"
+#include "layouts.h"
 
 #include <map>
 #include <string>

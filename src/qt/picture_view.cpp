@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "qt/picture_view.h"
+#include "picture_view.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 
-#include "qt/handbook.h"
+#include "handbook.h"
 
 namespace vatro {
 

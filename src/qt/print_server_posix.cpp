@@ -2,7 +2,7 @@
 #include <QCoreApplication>
 #include <QProcess>
 
-#include "qt/print_server.h"
+#include "print_server.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/print_server.h"
+#include "print_server.h"
 
 namespace vatro {
 

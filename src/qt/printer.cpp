@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "qt/printer.h"
+#include "printer.h"
 
 #include <QFontMetricsF>
 #include <QPrinterInfo>
 #include <utility>
 
-#include "platform/platform.h"
-#include "qt/text.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "platform.h"
+#include "qt_text.h"
 
 namespace vatro {
 

@@ -13,8 +13,8 @@
 #include <functional>
 #include <memory>
 
-#include "platform/page.h"
-#include "qt/print_server.h"
+#include "page.h"
+#include "print_server.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/recovery_window.h"
+#include "recovery_window.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -14,14 +14,14 @@
 #include <QVBoxLayout>
 #include <memory>
 
-#include "disk/names.h"
-#include "extras/joined.h"
-#include "platform/program.h"
-#include "qt/deliver.h"
-#include "qt/dialogs.h"
-#include "qt/text.h"
-#include "text/codepage.h"
-#include "text/errors.h"
+#include "codepage.h"
+#include "deliver.h"
+#include "dialogs.h"
+#include "errors.h"
+#include "joined.h"
+#include "names.h"
+#include "program.h"
+#include "qt_text.h"
 
 namespace vatro {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "extras/recovery.h"
+#include "recovery.h"
 
 class QComboBox;
 class QVBoxLayout;

@@ -7,9 +7,9 @@
 #include <array>
 #include <cstdio>
 
-#include "qt/application.h"
-#include "qt/window_driver.h"
-#include "replay/play.h"
+#include "application.h"
+#include "play.h"
+#include "window_driver.h"
 
 namespace {
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "qt/safety.h"
+#include "safety.h"
 
 #include <QMessageBox>
 #include <memory>
 #include <utility>
 
+#include "codepage.h"
+#include "deliver.h"
+#include "dialogs.h"
 #include "frame/start.h"
-#include "platform/program.h"
-#include "qt/deliver.h"
-#include "qt/dialogs.h"
-#include "qt/recovery_window.h"
-#include "text/codepage.h"
+#include "program.h"
+#include "recovery_window.h"
 
 namespace vatro {
 

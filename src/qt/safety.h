@@ -4,8 +4,8 @@
 // window that repairs, and the boxes that tell. src/main.cpp alone makes one.
 #pragma once
 
-#include "extras/safe_files.h"
-#include "platform/platform.h"
+#include "platform.h"
+#include "safe_files.h"
 
 namespace vatro {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "qt/services.h"
+#include "services.h"
 
 #include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QStandardPaths>
 
-#include "qt/handbook.h"
-#include "qt/help_window.h"
+#include "handbook.h"
+#include "help_window.h"
 
 namespace vatro {
 

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <memory>
 
-#include "platform/platform.h"
+#include "platform.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/sound_player.h"
+#include "sound_player.h"
 
 #include <QAudioDevice>
 #include <QAudioFormat>
@@ -8,7 +8,7 @@
 #include <QMediaDevices>
 #include <algorithm>
 
-#include "text/errors.h"
+#include "errors.h"
 
 namespace vatro {
 

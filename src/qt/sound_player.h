@@ -17,7 +17,7 @@
 #include <span>
 #include <vector>
 
-#include "platform/sound_course.h"
+#include "sound_course.h"
 
 class QAudioSink;
 class QIODevice;

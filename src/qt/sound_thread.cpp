@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "qt/sound_thread.h"
+#include "sound_thread.h"
 
 #include <QCoreApplication>
 #include <QSemaphore>
 #include <map>
 
-#include "qt/sound_player.h"
+#include "sound_player.h"
 
 namespace vatro {
 

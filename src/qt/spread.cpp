@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "qt/spread.h"
+#include "spread.h"
 
 #include <QScreen>
 #include <QWidget>
 #include <algorithm>
 
-#include "platform/program.h"
-#include "qt/front.h"
-#include "qt/window.h"
+#include "front.h"
+#include "program.h"
+#include "window.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/typing_guard.h"
+#include "typing_guard.h"
 
 #include <QAbstractItemModel>
 #include <QAction>
@@ -11,16 +11,16 @@
 #include <QWindow>
 #include <utility>
 
-#include "cw/frmCWTX.h"
+#include "box_flash.h"
+#include "deliver.h"
 #include "entry/frmMain.h"
 #include "entry/qso_fields.h"
-#include "qt/box_flash.h"
-#include "qt/deliver.h"
-#include "qt/field_mark.h"
-#include "qt/front.h"
-#include "qt/input.h"
-#include "qt/item_list.h"
-#include "qt/window.h"
+#include "field_mark.h"
+#include "front.h"
+#include "input.h"
+#include "item_list.h"
+#include "keyer/frmCWTX.h"
+#include "window.h"
 
 namespace vatro {
 

@@ -12,10 +12,10 @@
 #include <QPointer>
 #include <functional>
 
-#include "extras/box_keys.h"
-#include "extras/entry_keys.h"
-#include "extras/held_keys.h"
-#include "extras/morse_keys.h"
+#include "box_keys.h"
+#include "entry_keys.h"
+#include "held_keys.h"
+#include "morse_keys.h"
 
 class QAbstractItemModel;
 class QInputMethodEvent;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/window.h"
+#include "window.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -10,16 +10,16 @@
 #include <QWindow>
 #include <cmath>
 
-#include "qt/appearance.h"
-#include "qt/bars.h"
-#include "qt/binder.h"
-#include "qt/column_head.h"
-#include "qt/deliver.h"
-#include "qt/fields.h"
-#include "qt/front.h"
-#include "qt/input.h"
-#include "qt/layouts.h"
-#include "qt/text.h"
+#include "appearance.h"
+#include "bar_widgets.h"
+#include "binder.h"
+#include "column_head.h"
+#include "deliver.h"
+#include "fields.h"
+#include "front.h"
+#include "input.h"
+#include "layouts.h"
+#include "qt_text.h"
 
 namespace vatro {
 

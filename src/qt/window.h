@@ -15,7 +15,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/forms.h"
+#include "forms.h"
 
 class QWidget;
 

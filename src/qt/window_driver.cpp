@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/window_driver.h"
+#include "window_driver.h"
 
 #include <QAction>
 #include <QApplication>
@@ -24,15 +24,15 @@
 #include <array>
 #include <utility>
 
-#include "platform/program.h"
-#include "qt/bars.h"
-#include "qt/deliver.h"
-#include "qt/dialogs.h"
-#include "qt/fields.h"
-#include "qt/item_list.h"
-#include "qt/text.h"
-#include "qt/window.h"
-#include "text/codepage.h"
+#include "bar_widgets.h"
+#include "codepage.h"
+#include "deliver.h"
+#include "dialogs.h"
+#include "fields.h"
+#include "item_list.h"
+#include "program.h"
+#include "qt_text.h"
+#include "window.h"
 
 namespace vatro {
 

@@ -7,8 +7,8 @@
 #include <QPointer>
 #include <vector>
 
-#include "qt/front.h"
-#include "replay/driver.h"
+#include "driver.h"
+#include "front.h"
 
 class QMessageBox;
 class QWidget;

@@ -13,13 +13,13 @@
 #include <QToolBar>
 #include <algorithm>
 
-#include "platform/forms.h"
-#include "qt/bars.h"
-#include "qt/column_head.h"
-#include "qt/fields.h"
-#include "qt/item_list.h"
-#include "qt/text.h"
-#include "qt/window_driver.h"
+#include "bar_widgets.h"
+#include "column_head.h"
+#include "fields.h"
+#include "forms.h"
+#include "item_list.h"
+#include "qt_text.h"
+#include "window_driver.h"
 
 namespace vatro {
 

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/forms.h"
-#include "platform/platform.h"
+#include "forms.h"
+#include "platform.h"
 
 namespace vatro {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "replay/looking.h"
+#include "looking.h"
 
 #include <set>
 
-#include "replay/names.h"
-#include "replay/scene_font.h"
-#include "replay/variables.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "control_names.h"
+#include "scene_font.h"
+#include "variables.h"
 
 namespace vatro {
 

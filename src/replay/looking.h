@@ -10,9 +10,9 @@
 #include <string_view>
 #include <vector>
 
-#include "replay/driver.h"
-#include "replay/scenario.h"
-#include "replay/world.h"
+#include "driver.h"
+#include "scenario.h"
+#include "world.h"
 
 namespace vatro {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "replay/memory_front.h"
+#include "memory_front.h"
 
-#include "platform/program.h"
-#include "replay/memory_keys.h"
-#include "replay/scene_font.h"
-#include "replay/words.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "memory_keys.h"
+#include "program.h"
+#include "scene_font.h"
+#include "words.h"
 
 namespace vatro {
 

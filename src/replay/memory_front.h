@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "replay/driver.h"
+#include "driver.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "replay/memory_keys.h"
+#include "memory_keys.h"
 
 #include <algorithm>
 #include <optional>

@@ -4,8 +4,8 @@
 // rows of a list, the press of a button. To be called inside the event of the key.
 #pragma once
 
-#include "platform/controls.h"
-#include "replay/driver.h"
+#include "controls.h"
+#include "driver.h"
 
 namespace vatro {
 

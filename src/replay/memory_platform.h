@@ -7,14 +7,14 @@
 #include <string>
 #include <string_view>
 
-#include "platform/page.h"
-#include "platform/platform.h"
-#include "replay/memory_front.h"
-#include "replay/scene_clock.h"
-#include "replay/scene_pages.h"
-#include "replay/scene_sound.h"
-#include "replay/settings_store.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "memory_front.h"
+#include "page.h"
+#include "platform.h"
+#include "scene_clock.h"
+#include "scene_pages.h"
+#include "scene_sound.h"
+#include "settings_store.h"
 
 namespace vatro {
 

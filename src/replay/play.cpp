@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "replay/play.h"
+#include "play.h"
 
 #include <filesystem>
 #include <fstream>
@@ -9,11 +9,11 @@
 #include <string>
 #include <vector>
 
-#include "disk/names.h"
 #include "frame/start.h"
-#include "replay/player.h"
-#include "replay/scenario.h"
-#include "replay/world.h"
+#include "names.h"
+#include "player.h"
+#include "scenario.h"
+#include "world.h"
 
 namespace vatro {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "replay/driver.h"
+#include "driver.h"
 
 namespace vatro {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "replay/player.h"
+#include "player.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "platform/program.h"
-#include "replay/looking.h"
-#include "replay/player_verbs.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "looking.h"
+#include "player_verbs.h"
+#include "program.h"
 
 namespace vatro {
 

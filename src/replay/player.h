@@ -19,16 +19,16 @@
 #include <string_view>
 #include <vector>
 
-#include "disk/disk_files.h"
-#include "disk/fault.h"
-#include "platform/platform.h"
-#include "replay/driver.h"
-#include "replay/scenario.h"
-#include "replay/scene_clock.h"
-#include "replay/scene_pages.h"
-#include "replay/scene_sound.h"
-#include "replay/settings_store.h"
-#include "replay/world.h"
+#include "disk_files.h"
+#include "driver.h"
+#include "fault.h"
+#include "platform.h"
+#include "scenario.h"
+#include "scene_clock.h"
+#include "scene_pages.h"
+#include "scene_sound.h"
+#include "settings_store.h"
+#include "world.h"
 
 namespace vatro {
 

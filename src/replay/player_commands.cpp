@@ -3,12 +3,12 @@
 #include <array>
 #include <utility>
 
-#include "platform/program.h"
-#include "replay/looking.h"
-#include "replay/player_verbs.h"
-#include "replay/wav.h"
-#include "replay/words.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "looking.h"
+#include "player_verbs.h"
+#include "program.h"
+#include "wav.h"
+#include "words.h"
 
 namespace vatro {
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "replay/names.h"
-#include "replay/player.h"
+#include "control_names.h"
+#include "player.h"
 
 namespace vatro {
 

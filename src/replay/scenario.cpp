@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "replay/scenario.h"
+#include "scenario.h"
 
 #include <algorithm>
 
-#include "replay/diff.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "diff.h"
 
 namespace vatro {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "replay/scene_clock.h"
+#include "scene_clock.h"
 
 #include <algorithm>
 
-#include "platform/controls.h"
-#include "platform/program.h"
+#include "controls.h"
+#include "program.h"
 
 namespace vatro {
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/platform.h"
+#include "platform.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "replay/scene_font.h"
+#include "scene_font.h"
 
 #include <array>
 #include <charconv>

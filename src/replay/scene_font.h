@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/control.h"
+#include "control.h"
 
 namespace vatro {
 

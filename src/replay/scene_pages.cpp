@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "replay/scene_pages.h"
+#include "scene_pages.h"
 
 #include <array>
 #include <charconv>
 #include <utility>
 
-#include "replay/names.h"
-#include "replay/scene_font.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "control_names.h"
+#include "scene_font.h"
 
 namespace vatro {
 

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/page.h"
-#include "replay/scenario.h"
+#include "page.h"
+#include "scenario.h"
 
 namespace vatro {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "replay/scene_sound.h"
+#include "scene_sound.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "platform/program.h"
-#include "platform/sound_course.h"
-#include "text/errors.h"
+#include "errors.h"
+#include "program.h"
+#include "sound_course.h"
 
 namespace vatro {
 

@@ -10,8 +10,8 @@
 #include <optional>
 #include <vector>
 
-#include "platform/sound.h"
-#include "replay/scene_clock.h"
+#include "scene_clock.h"
+#include "sound.h"
 
 namespace vatro {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "replay/settings_store.h"
+#include "settings_store.h"
 
 #include <fstream>
 
-#include "text/codepage.h"
+#include "codepage.h"
 
 namespace vatro {
 

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/platform.h"
+#include "platform.h"
 
 namespace vatro {
 

@@ -1,26 +1,26 @@
 // SPDX-License-Identifier: MIT
-#include "replay/variables.h"
+#include "variables.h"
 
 #include <array>
 #include <cstdint>
 #include <variant>
 
+#include "codepage.h"
 #include "country/lookup.h"
 #include "country/tables.h"
-#include "cw/settings.h"
-#include "cw/synthesis.h"
-#include "cw/texts.h"
 #include "entry/clock.h"
 #include "entry/operators.h"
 #include "exchange/backup.h"
 #include "frame/band_mode.h"
+#include "frame/log_file.h"
 #include "frame/station.h"
-#include "logbook/dupe.h"
-#include "logbook/log_file.h"
-#include "replay/scenario.h"
-#include "scoring/edr.h"
-#include "scoring/points.h"
-#include "text/codepage.h"
+#include "keyer/keyer_settings.h"
+#include "keyer/texts.h"
+#include "log/duplicates.h"
+#include "morse/synthesis.h"
+#include "scenario.h"
+#include "score/points.h"
+#include "score/stations.h"
 
 namespace vatro {
 

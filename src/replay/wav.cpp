@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "replay/wav.h"
+#include "wav.h"
 
 namespace vatro {
 

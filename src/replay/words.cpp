@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "replay/words.h"
+#include "words.h"
 
 #include <algorithm>
 #include <array>
@@ -8,7 +8,7 @@
 #include <cmath>
 #include <limits>
 
-#include "text/codepage.h"
+#include "codepage.h"
 
 namespace vatro {
 

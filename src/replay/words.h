@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "replay/driver.h"
-#include "text/datetime.h"
+#include "datetime.h"
+#include "driver.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "replay/world.h"
+#include "world.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -8,8 +8,8 @@
 #include <random>
 #include <system_error>
 
-#include "disk/names.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "names.h"
 
 namespace fs = std::filesystem;
 

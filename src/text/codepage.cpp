@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/codepage.h"
+#include "codepage.h"
 
 #include <algorithm>
 

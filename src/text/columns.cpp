@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/columns.h"
+#include "columns.h"
 
 namespace vatro {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "text/datetime.h"
+#include "datetime.h"
 
 #include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstddef>
 
-#include "text/codepage.h"
+#include "codepage.h"
 
 namespace vatro {
 

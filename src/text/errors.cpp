@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "text/errors.h"
+#include "errors.h"
 
-#include "text/codepage.h"
+#include "codepage.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/numbers.h"
+#include "numbers.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 #include <optional>
 #include <system_error>
 
-#include "text/errors.h"
+#include "errors.h"
 
 namespace vatro {
 

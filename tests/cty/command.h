@@ -7,14 +7,14 @@
 #include <vector>
 
 #include "child_process.h"
-#include "country/frmCtyDat.h"
 #include "country/import.h"
 #include "country/lookup.h"
 #include "country/tables.h"
 #include "disk/temporary_world.h"
 #include "frame/station.h"
-#include "platform/program.h"
+#include "program.h"
 #include "running_program.h"
+#include "tables/frmCtyDat.h"
 
 namespace vatro {
 

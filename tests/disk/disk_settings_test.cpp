@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "disk/disk_settings.h"
+#include "disk_settings.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <iterator>
 
-#include "disk/names.h"
+#include "codepage.h"
+#include "names.h"
 #include "temporary_directory.h"
-#include "text/codepage.h"
 
 namespace vatro {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "disk/fault.h"
+#include "fault.h"
 
 #include <gmock/gmock.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "disk/ini_text.h"
+#include "ini_text.h"
 
 #include <gtest/gtest.h>
 
-#include "text/codepage.h"
+#include "codepage.h"
 
 namespace vatro {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "disk/line_reader.h"
+#include "line_reader.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Names on a system that tells their case apart and mounts its volumes in directories.
-#include "disk/names.h"
+#include "names.h"
 
 #include <gmock/gmock.h>
 
@@ -10,7 +10,7 @@
 #endif
 
 #include "disk/temporary_world.h"
-#include "disk/volumes_posix.h"
+#include "volumes_posix.h"
 
 namespace vatro {
 namespace {

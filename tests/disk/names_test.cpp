@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "disk/names.h"
+#include "names.h"
 
 #include <gmock/gmock.h>
 

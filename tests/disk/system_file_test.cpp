@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "disk/system_file.h"
+#include "system_file.h"
 
 #include <gmock/gmock.h>
 

@@ -13,10 +13,10 @@
 #include <string_view>
 #include <vector>
 
-#include "disk/disk_files.h"
+#include "codepage.h"
+#include "disk_files.h"
+#include "errors.h"
 #include "temporary_directory.h"
-#include "text/codepage.h"
-#include "text/errors.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "extras/box_keys.h"
+#include "box_keys.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "extras/field_characters.h"
+#include "field_characters.h"
 
-#include "cw/frmCW.h"
+#include "correction/frmNote.h"
+#include "correction/frmRetQSO.h"
 #include "entry/frmCall.h"
-#include "logbook/frmNote.h"
-#include "logbook/frmNytQSOnr.h"
-#include "logbook/frmRetQSO.h"
+#include "entry/frmNytQSOnr.h"
+#include "keyer/frmCW.h"
 #include "running_program.h"
 
 namespace vatro {

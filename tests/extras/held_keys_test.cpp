@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "extras/held_keys.h"
+#include "held_keys.h"
 
 #include <gtest/gtest.h>
 

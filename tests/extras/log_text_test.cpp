@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "extras/log_text.h"
+#include "log_text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "extras/recovery.h"
+#include "recovery.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

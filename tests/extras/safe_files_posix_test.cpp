@@ -14,8 +14,8 @@
 
 #include "disk/temporary_world.h"
 #include "extras/log_lines.h"
-#include "extras/recovery.h"
-#include "extras/safe_files.h"
+#include "recovery.h"
+#include "safe_files.h"
 
 namespace vatro {
 namespace {

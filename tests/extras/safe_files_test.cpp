@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "extras/safe_files.h"
+#include "safe_files.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

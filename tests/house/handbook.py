@@ -164,7 +164,7 @@ def main():
         if name not in pages:
             sys.exit(f"help/{name} is missing")
     check_links(pages, folder)
-    check_menus(pages, menu_items(root / "src/entry/main_menu.h"))
+    check_menus(pages, menu_items(root / "src/desk/entry/main_menu.h"))
     print("\n".join(faults))
     sys.exit(bool(faults))
 

@@ -8,15 +8,15 @@
 #include <map>
 #include <string>
 
+#include "codepage.h"
 #include "frame/start.h"
+#include "memory_front.h"
+#include "player.h"
 #include "power/disk_model.h"
 #include "power/disk_record.h"
-#include "replay/memory_front.h"
-#include "replay/player.h"
-#include "replay/scenario.h"
-#include "replay/world.h"
+#include "scenario.h"
 #include "temporary_directory.h"
-#include "text/codepage.h"
+#include "world.h"
 
 namespace vatro {
 namespace {

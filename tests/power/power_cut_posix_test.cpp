@@ -18,15 +18,15 @@
 #include <vector>
 
 #include "entry/frmMain.h"
+#include "frame/log_file.h"
 #include "frame/start.h"
-#include "logbook/log_file.h"
-#include "platform/program.h"
+#include "memory_front.h"
+#include "player.h"
 #include "power/teller.h"
-#include "replay/memory_front.h"
-#include "replay/player.h"
-#include "replay/scenario.h"
-#include "replay/world.h"
+#include "program.h"
+#include "scenario.h"
 #include "temporary_directory.h"
+#include "world.h"
 
 namespace vatro {
 namespace {

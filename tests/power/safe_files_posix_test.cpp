@@ -10,14 +10,14 @@
 #include <set>
 #include <sstream>
 
-#include "disk/disk_files.h"
+#include "codepage.h"
+#include "disk_files.h"
 #include "extras/log_lines.h"
-#include "extras/recovery.h"
-#include "extras/safe_files.h"
 #include "power/disk_model.h"
 #include "power/disk_record.h"
+#include "recovery.h"
+#include "safe_files.h"
 #include "temporary_directory.h"
-#include "text/codepage.h"
 
 namespace vatro {
 namespace {

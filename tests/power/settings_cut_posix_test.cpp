@@ -3,7 +3,7 @@
 // The power goes at every call with which a setting, or a batch of them, is stored.
 #include <gtest/gtest.h>
 
-#include "disk/disk_settings.h"
+#include "disk_settings.h"
 #include "power/disk_model.h"
 #include "power/disk_record.h"
 #include "temporary_directory.h"

@@ -11,10 +11,10 @@
 #include <QScrollBar>
 #include <map>
 
-#include "cw/frmCW.h"
-#include "qt/item_list.h"
+#include "item_list.h"
+#include "keyer/frmCW.h"
 #include "qt/window_program.h"
-#include "scoring/frmEDR.h"
+#include "stations/frmEDR.h"
 
 namespace vatro {
 namespace {

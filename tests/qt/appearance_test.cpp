@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/appearance.h"
+#include "appearance.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <QScreen>
 #include <QTest>
 
-#include "qt/fields.h"
+#include "fields.h"
 #include "qt/window_program.h"
 
 namespace vatro {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/application.h"
+#include "application.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "qt/ends.h"
+#include "ends.h"
 
 #include <QEvent>
 #include <QTest>
 #include <csignal>
 
-#include "disk/disk_settings.h"
+#include "disk_settings.h"
 #include "frame/band_mode.h"
 #include "qt/window_program.h"
 #include "temporary_directory.h"

@@ -13,15 +13,15 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "column_head.h"
 #include "entry/frmB4.h"
 #include "entry/frmQSOnr.h"
-#include "qt/column_head.h"
-#include "qt/fields.h"
-#include "qt/item_list.h"
-#include "qt/layouts.h"
+#include "fields.h"
+#include "item_list.h"
+#include "layouts.h"
+#include "memory_front.h"
 #include "qt/window_program.h"
-#include "replay/memory_front.h"
-#include "scoring/frmEDR.h"
+#include "stations/frmEDR.h"
 
 namespace vatro {
 

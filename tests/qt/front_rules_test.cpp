@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "platform/choice_rules.h"
+#include "forms/choice_rules.h"
 
 #include "qt/rules_layouts.h"
-#include "qt/window_driver.h"
+#include "window_driver.h"
 
 namespace vatro {
 

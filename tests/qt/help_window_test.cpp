@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The help viewer, and the picture of the handbook on the window of its own.
-#include "qt/help_window.h"
+#include "help_window.h"
 
 #include <gtest/gtest.h>
 
@@ -17,10 +17,10 @@
 #include <QTreeWidget>
 
 #include "exchange/FormQuickInfo.h"
-#include "qt/handbook.h"
-#include "qt/picture_view.h"
-#include "qt/services.h"
+#include "handbook.h"
+#include "picture_view.h"
 #include "qt/window_program.h"
+#include "services.h"
 
 namespace vatro {
 

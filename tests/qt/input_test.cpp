@@ -7,7 +7,7 @@
 #include <QTest>
 #include <QWindow>
 
-#include "qt/item_list.h"
+#include "item_list.h"
 #include "qt/window_program.h"
 
 namespace vatro {

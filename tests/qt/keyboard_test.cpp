@@ -8,10 +8,10 @@
 #include <map>
 #include <set>
 
-#include "cw/frmCW.h"
-#include "logbook/frmRetQSO.h"
-#include "qt/text.h"
+#include "correction/frmRetQSO.h"
+#include "keyer/frmCW.h"
 #include "qt/window_program.h"
+#include "qt_text.h"
 
 namespace vatro {
 namespace {

@@ -6,7 +6,7 @@
 #include <QLocale>
 #include <cstdio>
 
-#include "qt/application.h"
+#include "application.h"
 
 namespace {
 

@@ -11,8 +11,8 @@
 #include <QTest>
 #include <QWindow>
 
-#include "logbook/frmNytQSOnr.h"
-#include "qt/desktop.h"
+#include "desktop.h"
+#include "entry/frmNytQSOnr.h"
 #include "qt/window_program.h"
 
 namespace vatro {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/printer.h"
+#include "printer.h"
 
 #include <arpa/inet.h>
 #include <netinet/in.h>
@@ -11,8 +11,8 @@
 #include <QPrinterInfo>
 #include <QTemporaryDir>
 
-#include "platform/page.h"
-#include "qt/text.h"
+#include "page.h"
+#include "qt_text.h"
 #include "running_program.h"
 
 namespace vatro {

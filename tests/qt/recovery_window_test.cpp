@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/recovery_window.h"
+#include "recovery_window.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,13 +9,13 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "disk/disk_files.h"
+#include "deliver.h"
 #include "disk/temporary_world.h"
+#include "disk_files.h"
 #include "extras/log_lines.h"
-#include "platform/program.h"
-#include "qt/deliver.h"
-#include "qt/safety.h"
+#include "program.h"
 #include "qt/window_program.h"
+#include "safety.h"
 
 namespace vatro {
 namespace {

@@ -8,17 +8,17 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include "country/frmCtyDat.h"
-#include "cw/frmCW.h"
+#include "column_head.h"
+#include "correction/frmNote.h"
 #include "entry/frmB4.h"
 #include "entry/frmUTC.h"
 #include "exchange/FormQuickInfo.h"
-#include "logbook/frmNote.h"
-#include "qt/column_head.h"
-#include "qt/fields.h"
-#include "qt/item_list.h"
-#include "qt/picture_view.h"
+#include "fields.h"
+#include "item_list.h"
+#include "keyer/frmCW.h"
+#include "picture_view.h"
 #include "qt/window_program.h"
+#include "tables/frmCtyDat.h"
 
 namespace vatro {
 namespace {

@@ -11,10 +11,10 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include "qt/column_head.h"
-#include "qt/item_list.h"
-#include "qt/layouts.h"
-#include "qt/picture_view.h"
+#include "column_head.h"
+#include "item_list.h"
+#include "layouts.h"
+#include "picture_view.h"
 
 namespace vatro {
 

@@ -18,13 +18,13 @@
 #include <QTimer>
 #include <csignal>
 
-#include "disk/disk_settings.h"
-#include "qt/clock.h"
-#include "qt/dialogs.h"
-#include "qt/fields.h"
-#include "qt/services.h"
-#include "qt/text.h"
+#include "clock.h"
+#include "dialogs.h"
+#include "disk_settings.h"
+#include "fields.h"
 #include "qt/window_program.h"
+#include "qt_text.h"
+#include "services.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/spread.h"
+#include "spread.h"
 
 #include <QWidget>
 

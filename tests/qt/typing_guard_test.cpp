@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The desktop's guards of typing, on real windows with real keys, and a clock that the tests move.
-#include "qt/typing_guard.h"
+#include "typing_guard.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -10,14 +10,14 @@
 #include <QTest>
 #include <QWindow>
 
-#include "cw/frmCWTX.h"
-#include "cw/settings.h"
+#include "box_flash.h"
+#include "desktop.h"
+#include "dialogs.h"
+#include "entry/frmNytQSOnr.h"
 #include "entry/qso_fields.h"
-#include "logbook/frmNytQSOnr.h"
-#include "qt/box_flash.h"
-#include "qt/desktop.h"
-#include "qt/dialogs.h"
-#include "qt/field_mark.h"
+#include "field_mark.h"
+#include "keyer/frmCWTX.h"
+#include "keyer/keyer_settings.h"
 #include "qt/window_program.h"
 
 namespace vatro {

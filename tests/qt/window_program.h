@@ -5,11 +5,11 @@
 
 #include <QApplication>
 
-#include "platform/rules_forms.h"
+#include "forms/rules_forms.h"
 #include "qt/rules_layouts.h"
-#include "qt/window.h"
-#include "qt/window_driver.h"
 #include "running_program.h"
+#include "window.h"
+#include "window_driver.h"
 
 namespace vatro {
 

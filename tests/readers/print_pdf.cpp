@@ -7,16 +7,16 @@
 #include <QApplication>
 #include <cstdio>
 
-#include "disk/disk_files.h"
+#include "application.h"
+#include "deliver.h"
+#include "disk_files.h"
 #include "entry/frmMain.h"
 #include "frame/start.h"
-#include "platform/program.h"
-#include "qt/application.h"
-#include "qt/deliver.h"
-#include "qt/printer.h"
-#include "qt/window_driver.h"
-#include "replay/memory_platform.h"
-#include "replay/world.h"
+#include "memory_platform.h"
+#include "printer.h"
+#include "program.h"
+#include "window_driver.h"
+#include "world.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "replay/diff.h"
+#include "diff.h"
 
 #include <gtest/gtest.h>
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "replay/looking.h"
+#include "looking.h"
 
 #include <gtest/gtest.h>
 
+#include "codepage.h"
 #include "entry/clock.h"
 #include "entry/operators.h"
+#include "forms.h"
 #include "frame/band_mode.h"
-#include "logbook/dupe.h"
-#include "logbook/log_file.h"
-#include "platform/forms.h"
-#include "replay/variables.h"
-#include "text/codepage.h"
+#include "frame/log_file.h"
+#include "log/duplicates.h"
+#include "variables.h"
 
 namespace vatro {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "replay/play.h"
+#include "play.h"
 
 #include <gtest/gtest.h>
 
@@ -7,8 +7,8 @@
 #include <fstream>
 #include <iterator>
 
-#include "replay/memory_front.h"
-#include "replay/world.h"
+#include "memory_front.h"
+#include "world.h"
 
 namespace vatro {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "replay/player.h"
+#include "player.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/program.h"
-#include "platform/rules_forms.h"
-#include "replay/memory_front.h"
+#include "forms/rules_forms.h"
+#include "memory_front.h"
+#include "program.h"
 
 namespace vatro {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "replay/scenario.h"
+#include "scenario.h"
 
 #include <gtest/gtest.h>
 
-#include "text/codepage.h"
+#include "codepage.h"
 
 namespace vatro {
 

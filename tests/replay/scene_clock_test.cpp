@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "replay/scene_clock.h"
+#include "scene_clock.h"
 
 #include <gtest/gtest.h>
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "replay/scene_sound.h"
+#include "scene_sound.h"
 
 #include <gtest/gtest.h>
 
 #include <numeric>
 #include <utility>
 
-#include "platform/forms.h"
-#include "platform/program.h"
+#include "errors.h"
+#include "forms.h"
+#include "program.h"
 #include "running_program.h"
-#include "text/errors.h"
 
 namespace vatro {
 

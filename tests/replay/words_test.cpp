@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "replay/words.h"
+#include "words.h"
 
 #include <gtest/gtest.h>
 

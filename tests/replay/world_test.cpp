@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "replay/world.h"
+#include "world.h"
 
 #include <gtest/gtest.h>
 
-#include "replay/settings_store.h"
-#include "text/codepage.h"
+#include "codepage.h"
+#include "settings_store.h"
 
 namespace vatro {
 

@@ -10,12 +10,12 @@
 #include <algorithm>
 #include <regex>
 
-#include "platform/forms.h"
-#include "platform/program.h"
-#include "qt/sound.h"
+#include "errors.h"
+#include "forms.h"
+#include "program.h"
 #include "running_program.h"
 #include "sound/recorder.h"
-#include "text/errors.h"
+#include "sound_card.h"
 
 namespace vatro {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "text/columns.h"
+#include "columns.h"
 
 #include <gtest/gtest.h>
 
-#include "text/codepage.h"
+#include "codepage.h"
 
 namespace vatro {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/datetime.h"
+#include "datetime.h"
 
 #include <gtest/gtest.h>
 

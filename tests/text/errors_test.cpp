@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/errors.h"
+#include "errors.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <set>
 #include <string>
 
-#include "text/codepage.h"
+#include "codepage.h"
 
 namespace vatro {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/numbers.h"
+#include "numbers.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <cmath>
 #include <string>
 
-#include "text/errors.h"
+#include "errors.h"
 
 namespace vatro {
 namespace {

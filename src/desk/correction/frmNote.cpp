@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "correction/frmNote.h"
+
+#include "entry/frmMain.h"
+#include "frame/log_file.h"
+#include "log/contact_line.h"
+
+namespace vatro {
+
+namespace {
+
+std::string NoteLinje() {
+    return std::string(kNoteMærke) + frmNote->Text1.Text();
+}
+
+}  // namespace
+
+FrmNote::FrmNote()
+    : Form("frmNote", FormKind::FixedDialog, "Note"),
+      Text1(*this, "Text1"),
+      Command1(*this, "Command1", "&OK"),
+      Command2(*this, "Command2", "&Annuller") {
+    constexpr int kLængde = 80;
+    Text1.SetMaxLength(kLængde);
+    Command1.isDefault = true;
+    Command2.isCancel = true;
+    SetTabOrder({&Text1, &Command1, &Command2});
+    Command1.Click = [this] { Hide(); };
+    Command2.Click = [this] {
+        Text1.SetText({});
+        Hide();
+    };
+}
+
+void IndsætNote() {
+    frmNote->Text1.SelectAll();
+    frmNote->ShowModal();
+    if (frmNote->Text1.Text().empty()) return;
+    LogLinje(NoteLinje());
+}
+
+void RetNote() {
+    ListBox& log = frmMain->List1;
+    frmNote->Text1.SetText(Columns(log.List(log.ListIndex()), kNoteMærke.size() + 1));
+    frmNote->ShowModal();
+    if (!frmNote->Text1.Text().empty()) {
+        log.SetList(log.ListIndex(), NoteLinje());
+        SkrivLog();
+    }
+    frmMain->Text1[1].SetFocus();
+}
+
+}  // namespace vatro

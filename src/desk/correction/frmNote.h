@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+//
+// Notes: lines of free text in the log, in their place among the contacts. A note can be reworded, never removed.
+#pragma once
+
+#include "forms.h"
+
+namespace vatro {
+
+/// Asks for the text. OK hides the window and leaves the text in it; Annuller empties it, by which the callers know that
+/// nothing is wanted.
+class FrmNote : public Form {
+public:
+    FrmNote();
+    /// At most 80 characters.
+    TextBox Text1;
+    Button Command1;
+    Button Command2;
+};
+
+inline FormSlot<FrmNote> frmNote{"frmNote"};
+
+/// Asks for a note and appends it to the log. The text of the last one stands in the window, selected.
+void IndsætNote();
+/// Asks for another wording of the note that is selected in the log.
+void RetNote();
+
+}  // namespace vatro

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+//
+// The contest call and the telephone number for the summary.
+#pragma once
+
+#include "forms.h"
+
+namespace vatro {
+
+/// Offers the society's stations as portable calls, read once per run; a missing edr.txt is a failure. OK stores the call at
+/// once; the telephone number is stored at the end of the program.
+class FrmCall : public Form {
+public:
+    FrmCall();
+    ComboBox cboCall;
+    Label Label1;
+    TextBox Text1;
+    Button Command1;
+    Button Command2;
+
+    void Form_Load() override;
+
+private:
+    void VisVærdier();
+};
+
+inline FormSlot<FrmCall> frmCall{"frmCall"};
+
+/// Asks for the contest call and shows the one that holds in the caption and the window of the call.
+void RetContestCall();
+
+}  // namespace vatro

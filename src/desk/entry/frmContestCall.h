@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+//
+// The station's own call, in letters that fill the window.
+#pragma once
+
+#include "forms.h"
+
+namespace vatro {
+
+class FrmContestCall : public Form {
+public:
+    FrmContestCall();
+    Label Label1;
+
+    /// Shows gsMyCall.
+    void visContestCall();
+
+    void Form_Load() override;
+    void StoreState() override;
+    void Form_Resize() override;
+};
+
+inline FormSlot<FrmContestCall> frmContestCall{"frmContestCall"};
+
+}  // namespace vatro

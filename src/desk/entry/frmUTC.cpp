@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "entry/frmUTC.h"
+
+#include "entry/frmMain.h"
+#include "frame/settings.h"
+#include "frame/station.h"
+#include "numbers.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr int kFørste = -11;
+constexpr int kSidste = 12;
+
+}  // namespace
+
+FrmUTC::FrmUTC()
+    : Form("frmUTC", FormKind::FixedDialog, "UTC offset"),
+      Combo1(*this, "Combo1", ComboStyle::DropDownList),
+      Command1(*this, "Command1", "&Annuller"),
+      Command2(*this, "Command2", "&OK") {
+    Command1.isCancel = true;
+    SetTabOrder({&Combo1, &Command2, &Command1});
+    Command2.Click = [this] {
+        gsUTC = Combo1.Text();
+        GemTekst(kSettings, "UTC", gsUTC);
+        Hide();
+    };
+    Command1.Click = [this] { Hide(); };
+}
+
+void FrmUTC::Form_Load() {
+    for (int timer = kFørste; timer <= kSidste; ++timer) Combo1.AddItem(PlainNumber(timer));
+    Combo1.SetListIndex(ToInt16(NumericValue(gsUTC) - kFørste));
+}
+
+void RetUTC() {
+    frmUTC->ShowModal();
+    frmMain->Text1[0].SetText(NuUTCTid());
+}
+
+}  // namespace vatro

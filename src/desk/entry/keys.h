@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+//
+// Key filters of the fields: the characters of a fixed set pass, others are made nothing. Only the keyboard goes through
+// them; pasted text does not.
+#pragma once
+
+#include <string_view>
+
+#include "codepage.h"
+#include "controls.h"
+
+namespace vatro {
+
+using namespace literals;
+
+// The 4 stands twice and out of order in these; the set is what counts.
+inline constexpr std::string_view kCallTegn = "ABCDEFGHIJKLMNOPQRSTUVWXYZÆØÅ12434567890/"_t;
+inline constexpr std::string_view kTidTegn = "12434567890:."_t;
+inline constexpr std::string_view kCifferTegn = "12434567890"_t;
+
+/// The key in upper case.
+inline KeyCode StorTast(KeyCode key) {
+    return key < 0 || key > 255 ? key : static_cast<unsigned char>(Upper(static_cast<char>(static_cast<unsigned char>(key))));
+}
+
+/// Makes the key nothing unless it is backspace or in the set, without regard to case.
+inline void FiltrerTast(KeyCode& key, std::string_view tegn) {
+    if (key == kBackspace) return;
+    const KeyCode stor = StorTast(key);
+    if (stor < 1 || stor > 255 || tegn.find(static_cast<char>(static_cast<unsigned char>(stor))) == std::string_view::npos) key = kNoKey;
+}
+
+}  // namespace vatro

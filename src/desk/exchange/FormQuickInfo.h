@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+//
+// The functions of the program on one picture. A click or Esc hides it.
+#pragma once
+
+#include "forms.h"
+
+namespace vatro {
+
+class FormQuickInfo : public Form {
+public:
+    FormQuickInfo();
+    Picture Image1;
+
+    void Form_Click() override { Hide(); }
+    void Form_KeyPress(KeyCode& KeyAscii) override;
+};
+
+inline FormSlot<FormQuickInfo> formQuickInfo{"FormQuickInfo"};
+
+}  // namespace vatro

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+//
+// Radio and antenna of each band, for the summary.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "forms.h"
+
+namespace vatro {
+
+/// Bands of the equipment, in the order of the form and of the settings.
+inline constexpr std::array<std::string_view, 5> kUdstyrBånd{"80", "40", "20", "15", "10"};
+
+/// By the band's place in kUdstyrBånd. Read at the start; changed by FormRigAnt.
+extern std::array<std::string, kUdstyrBånd.size()> gsRig;
+extern std::array<std::string, kUdstyrBånd.size()> gsAnt;
+
+/// Reads the ten keys of section "Equipment".
+void HentUdstyr();
+/// Writes them: all radios, then all antennas.
+void GemUdstyr();
+
+/// Asks for the ten texts of at most 15 characters.
+class FormRigAnt : public Form {
+public:
+    FormRigAnt();
+    Frame Frame1;
+    TextBox TextRig[5];
+    Frame Frame2;
+    TextBox TextAnt[5];
+    Button CommandOK;
+    Button CommandLuk;
+    /// The bands beside the fields, radios first.
+    Label Label1[10];
+
+    void Form_Load() override;
+
+private:
+    void CommandOK_Click();
+};
+
+inline FormSlot<FormRigAnt> formRigAnt{"FormRigAnt"};
+
+}  // namespace vatro

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+//
+// The start information: what the operators are told about rules and papers, at each start until they have enough of it.
+#pragma once
+
+#include "forms.h"
+
+namespace vatro {
+
+class FrmVisTekst : public Form {
+public:
+    FrmVisTekst();
+    TextView Text1;
+    /// Whether the text comes at the next start; taken over into gbVisInfo by cmdLuk alone.
+    CheckBox chkVisTekst;
+    Button cmdLuk;
+
+    void Form_Load() override;
+};
+
+inline FormSlot<FrmVisTekst> frmVisTekst{"frmVisTekst"};
+
+/// Shows the start information modally.
+void VisStartInfo();
+
+}  // namespace vatro

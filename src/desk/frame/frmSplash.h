@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+//
+// The window that is shown while the tables load.
+#pragma once
+
+#include "forms.h"
+
+namespace vatro {
+
+class FrmSplash : public Form {
+public:
+    FrmSplash();
+    /// What is being loaded.
+    Label Label1{*this, "Label1"};
+    Label lblVersion{*this, "lblVersion"};
+    Label lblWarning{*this, "lblWarning"};
+
+    /// Shows the stage of the loading at once.
+    void Vis(std::string_view trin);
+};
+
+inline FormSlot<FrmSplash> frmSplash{"frmSplash"};
+
+}  // namespace vatro

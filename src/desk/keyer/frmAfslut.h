@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+//
+// Shown for the moment that it takes to give back the sound card.
+#pragma once
+
+#include "codepage.h"
+#include "forms.h"
+
+namespace vatro {
+
+class FrmAfslut : public Form {
+public:
+    FrmAfslut() : Form("frmAfslut", FormKind::Splash, "Vatro") {}
+    Label Label1{*this, "Label1", "Vent et øjeblik..."_t};
+    Label lblAfslut{*this, "lblAfslut", "Vatro afsluttes!"};
+};
+
+inline FormSlot<FrmAfslut> frmAfslut{"frmAfslut"};
+
+}  // namespace vatro

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+//
+// The small window in which every report shows its progress. It stays open after a run until the user closes it.
+#pragma once
+
+#include "forms.h"
+
+namespace vatro {
+
+class FrmInfo : public Form {
+public:
+    FrmInfo();
+    ListBox List1;
+    Button cmdLuk;
+};
+
+inline FormSlot<FrmInfo> frmInfo{"frmInfo"};
+
+}  // namespace vatro

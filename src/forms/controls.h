@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+//
+// All controls that a form can own: the small ones here, those with text, rows, bars or choices in headers of their own.
+#pragma once
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "bars.h"
+#include "buttons.h"
+#include "control.h"
+#include "lists.h"
+#include "text_controls.h"
+
+namespace vatro {
+
+/// A line of text that the user does not edit.
+class Label : public Control {
+public:
+    explicit Label(Form& form, std::string_view name, std::string_view caption = {}, Font font = {});
+    /// The name of a field: the access letter in the caption leads to the field.
+    Label(Form& form, std::string_view name, int index, std::string_view caption, Control* accessTarget = nullptr);
+
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string_view caption);
+    const Font& LabelFont() const { return font_; }
+    void SetFontSize(double points);
+    Colour ForeColour() const { return foreColour_; }
+    void SetForeColour(Colour colour);
+    Colour BackColour() const { return backColour_; }
+    void SetBackColour(Colour colour);
+    bool Opaque() const { return opaque_; }
+    void SetOpaque(bool opaque);
+    /// Runs when the caption has become another one.
+    std::function<void()> Change;
+    /// Width of the caption in the font, in points.
+    double TextWidth() const;
+    /// The field that it names, or nothing.
+    const Control* AccessTarget() const { return accessTarget_; }
+    char AccessLetter() const override;
+    void UseAccessLetter() override;
+
+private:
+    std::string caption_;
+    Font font_;
+    Control* accessTarget_ = nullptr;
+    Colour foreColour_ = kBlack;
+    Colour backColour_ = 0xFFFFFF;
+    bool opaque_ = false;
+};
+
+/// A picture of the handbook, stretched to the size of its place. Keys pass it by.
+class Picture : public Control {
+public:
+    Picture(Form& form, std::string_view name, std::string_view file) : Control(form, name), file_(file) {}
+    /// The name of its file.
+    const std::string& File() const { return file_; }
+
+    // From the front.
+
+    /// Runs Click if the picture is enabled.
+    void UserClicked();
+
+private:
+    std::string file_;
+};
+
+/// A bar whose slide stands at a number.
+class ScrollBar : public Control {
+public:
+    struct Range {
+        int min = 0;
+        int max = 0;
+        int smallChange = 1;
+        int largeChange = 1;
+    };
+    ScrollBar(Form& form, std::string_view name, Range range) : Control(form, name), range_(range), value_(range.min) {}
+    bool TakesFocus() const override { return true; }
+    const Range& Limits() const { return range_; }
+    int Value() const { return value_; }
+    /// Fails with 5 outside the range. Runs Change if the value has become another one.
+    void SetValue(int value);
+    std::function<void()> Change;
+
+    // From the front.
+
+    /// Is cut to the range.
+    void UserScrolled(int value);
+    /// What a key does to the slide: small and large changes, and the ends of the bar.
+    enum class Move { StepBack, StepOn, PageBack, PageOn, ToStart, ToEnd };
+    void UserMoved(Move move);
+
+private:
+    Range range_;
+    int value_;
+};
+
+/// A pair of arrows that counts the number in a text field up and down.
+class UpDown : public Control {
+public:
+    struct Range {
+        int min = 0;
+        int max = 0;
+        int step = 1;
+    };
+    UpDown(Form& form, std::string_view name, TextBox& buddy, Range range) : Control(form, name), buddy_(buddy), range_(range) {}
+    const Range& Limits() const { return range_; }
+    const TextBox& Buddy() const { return buddy_; }
+    void SetMin(int min) { range_.min = min; }
+
+    // From the front.
+
+    /// One step from the number in the field, within the range.
+    void Spin(bool up);
+
+private:
+    TextBox& buddy_;
+    Range range_;
+};
+
+/// Ticks on the clock service: every Interval milliseconds while it is enabled and its interval is above 0.
+class Timer : public Control {
+public:
+    Timer(Form& form, std::string_view name, int interval) : Control(form, name), interval_(interval) {}
+    ~Timer() override;
+    /// Milliseconds.
+    int Interval() const { return interval_; }
+    /// The next tick falls due one interval from now.
+    void SetInterval(int milliseconds);
+    /// Whether it ticks.
+    bool Running() const { return running_ && interval_ > 0; }
+    void SetRunning(bool running);
+
+    std::function<void()> OnTimer;
+
+    // From the front.
+    void Tick();
+
+private:
+    int interval_;
+    bool running_ = false;
+};
+
+/// A bar that fills from 0 to Max.
+class ProgressBar : public Control {
+public:
+    using Control::Control;
+    int Max() const { return max_; }
+    /// A value above the new maximum becomes it. A maximum below 0 is 0.
+    void SetMax(int max);
+    int Value() const { return value_; }
+    /// Is cut to the bar.
+    void SetValue(int value) { Put(value_, std::clamp(value, 0, max_), Aspect::Value); }
+
+private:
+    int max_ = 100;
+    int value_ = 0;
+};
+
+}  // namespace vatro

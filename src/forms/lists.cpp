@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "lists.h"
+
+#include <algorithm>
+
+#include "errors.h"
+
+namespace vatro {
+
+ListBox::ListBox(Form& form, std::string_view name, Font font, int columns)
+    : Control(form, name), font_(std::move(font)), columns_(columns) {
+    Revise();
+}
+
+ListBox::ListBox(Form& form, std::string_view name, Font font, ListOrder order) : ListBox(form, name, std::move(font)) {
+    order_ = order;
+}
+
+void ListBox::Revise() {
+    static unsigned last = 0;
+    revision_ = ++last;
+}
+
+const std::string& ListBox::List(int row) const {
+    if (row < 0 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
+    return items_[static_cast<std::size_t>(row)];
+}
+
+void ListBox::SetList(int row, std::string_view text) {
+    if (row < 0 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
+    items_[static_cast<std::size_t>(row)] = text;
+    Revise();
+    Tell(Aspect::ItemChanged, row);
+}
+
+void ListBox::AddItem(std::string text) {
+    // std::string compares characters as unsigned.
+    const auto place = order_ == ListOrder::Sorted ? std::upper_bound(items_.begin(), items_.end(), text) : items_.end();
+    const int row = static_cast<int>(place - items_.begin());
+    items_.insert(place, std::move(text));
+    if (listIndex_ >= row) ++listIndex_;
+    Revise();
+    if (!filling_) Tell(Aspect::ItemAdded, row);
+}
+
+void ListBox::RemoveItem(int row) {
+    if (row < 0 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
+    items_.erase(items_.begin() + row);
+    if (listIndex_ == row)
+        listIndex_ = -1;
+    else if (listIndex_ > row)
+        --listIndex_;
+    Revise();
+    if (!filling_) Tell(Aspect::ItemRemoved, row);
+}
+
+void ListBox::Clear() {
+    if (items_.empty() && listIndex_ < 0) return;
+    items_.clear();
+    Revise();
+    listIndex_ = -1;
+    if (!filling_) Tell(Aspect::Items);
+}
+
+void ListBox::SetListIndex(int row) {
+    if (row < -1 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
+    const bool another = row != listIndex_;
+    listIndex_ = row;
+    if (!filling_) Tell(Aspect::ListIndex);
+    if (another && Click) Click();
+}
+
+void ListBox::UserSelected(int row) {
+    if (row >= 0 && row < ListCount() && row != listIndex_) SetListIndex(row);
+}
+
+void ListBox::UserDoubleClicked(int row) {
+    UserSelected(row);
+    if (Enabled() && DblClick) DblClick();
+}
+
+ListBox::Filling::Filling(ListBox& list) : list_(list), outer_(list.filling_) {
+    list.filling_ = true;
+}
+
+ListBox::Filling::~Filling() {
+    list_.filling_ = outer_;
+    if (outer_) return;
+    list_.Tell(Aspect::Items);
+    list_.Tell(Aspect::ListIndex);
+}
+
+const std::string& ComboBox::List(int row) const {
+    if (row < 0 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
+    return items_[static_cast<std::size_t>(row)];
+}
+
+void ComboBox::AddItem(std::string text) {
+    items_.push_back(std::move(text));
+    Tell(Aspect::Items);
+}
+
+void ComboBox::Clear() {
+    items_.clear();
+    listIndex_ = -1;
+    Tell(Aspect::Items);
+    SetText({});
+}
+
+void ComboBox::SetListIndex(int row) {
+    if (row < -1 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
+    listIndex_ = row;
+    if (row >= 0) TakeText(items_[static_cast<std::size_t>(row)]);
+    Tell(Aspect::ListIndex);
+    if (Click) Click();
+}
+
+}  // namespace vatro

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "bar_widgets.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "deliver.h"
+#include "fields.h"
+#include "forms.h"
+#include "front.h"
+#include "qt_text.h"
+#include "window.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr const char* kToolIndex = "vatroIndex";
+
+void PushTick(const MenuItem& item, QAction& action) {
+    // An entry has room for a tick only while it has one.
+    action.setCheckable(item.Ticked());
+    action.setChecked(item.Ticked());
+}
+
+QAction* AddEntry(MenuItem& item, QMenu& menu, QObject& scope);
+
+QAction* AddMenu(MenuItem& item, QMenu& menu, QObject& scope) {
+    for (MenuItem* entry : item.Entries()) AddEntry(*entry, menu, scope);
+    return menu.menuAction();
+}
+
+QAction* AddEntry(MenuItem& item, QMenu& menu, QObject& scope) {
+    const QString caption = ToQt(item.Caption());
+    QAction* action = nullptr;
+    if (item.Separator())
+        action = menu.addSeparator();
+    else if (!item.Entries().empty())
+        action = AddMenu(item, *menu.addMenu(caption), scope);
+    else
+        action = menu.addAction(caption);
+    action->setObjectName(ObjectName(item));
+    if (!item.Shortcut().empty()) action->setShortcut(QKeySequence(ToQt(item.Shortcut())));
+    action->setEnabled(item.Enabled());
+    action->setVisible(item.Visible());
+    PushTick(item, *action);
+    item.mirror = [&item, action](Aspect aspect, int /*row*/) {
+        if (aspect == Aspect::Text) action->setText(ToQt(item.Caption()));
+        if (aspect == Aspect::Enabled) action->setEnabled(item.Enabled());
+        if (aspect == Aspect::Visible) action->setVisible(item.Visible());
+        if (aspect == Aspect::Value) PushTick(item, *action);
+    };
+    QObject::connect(action, &QAction::triggered, &scope, [&item, action] {
+        // Qt has flipped the tick by itself.
+        PushTick(item, *action);
+        Deliver([&] {
+            if (item.Parent().Reachable()) item.Choose();
+        });
+    });
+    return action;
+}
+
+void PushPressed(const Toolbar& control, const QToolBar& widget) {
+    for (const Toolbar::ToolButton& button : control.ToolButtons())
+        if (QAction* action = ActionOf(button.index, widget)) action->setChecked(button.pressed);
+}
+
+}  // namespace
+
+QString ObjectName(const Control& control) {
+    const QString name = ToQt(control.Name());
+    return control.Index() < 0 ? name : name + u'_' + QString::number(control.Index());
+}
+
+void AddBars(const Form& form, QMainWindow& window) {
+    // Qt's menu of a main window hides toolbars, which the form knows nothing of.
+    window.setContextMenuPolicy(Qt::NoContextMenu);
+    for (const Control* control : form.Controls()) {
+        if (dynamic_cast<const Toolbar*>(control) != nullptr) {
+            auto* bar = new QToolBar(&window);
+            bar->setObjectName(ObjectName(*control));
+            bar->setMovable(false);
+            window.addToolBar(bar);
+        } else if (dynamic_cast<const StatusBar*>(control) != nullptr) {
+            window.statusBar()->setObjectName(ObjectName(*control));
+        }
+    }
+}
+
+void BindMenu(Form& form, QMainWindow& window, QObject& scope) {
+    for (Control* control : form.Controls()) {
+        auto* item = dynamic_cast<MenuItem*>(control);
+        if (item == nullptr || item->Menu() != nullptr) continue;
+        QMenu* menu = window.menuBar()->addMenu(ToQt(item->Caption()));
+        QAction* action = AddMenu(*item, *menu, scope);
+        // A menu left without a choice gives the keys back at once; Qt would keep them in the menu bar.
+        QObject::connect(menu, &QMenu::aboutToHide, &scope, [&form] {
+            QTimer::singleShot(0, qApp, [name = form.Name()] {
+                const FormSlotBase* slot = FindFormSlot(name);
+                if (slot != nullptr && slot->Loaded() && QApplication::activePopupWidget() == nullptr) FollowFocusSoon(*slot->Peek());
+            });
+        });
+        action->setObjectName(ObjectName(*item));
+        action->setEnabled(item->Enabled());
+        action->setVisible(item->Visible());
+        item->mirror = [item, action](Aspect aspect, int /*row*/) {
+            if (aspect == Aspect::Text) action->setText(ToQt(item->Caption()));
+            if (aspect == Aspect::Enabled) action->setEnabled(item->Enabled());
+            if (aspect == Aspect::Visible) action->setVisible(item->Visible());
+        };
+    }
+}
+
+void Bind(Toolbar& control, QToolBar& widget, FormWindow& window) {
+    const QString tip = ToQt(control.ToolTip());
+    widget.setWindowTitle(tip);
+    for (const Toolbar::ToolButton& button : control.ToolButtons()) {
+        if (button.group == 0) {
+            widget.addSeparator();
+            continue;
+        }
+        QAction* action = widget.addAction(ToQt(button.caption));
+        action->setProperty(kToolIndex, button.index);
+        action->setCheckable(true);
+        action->setVisible(button.visible);
+        action->setToolTip(button.toolTip.empty() ? tip : ToQt(button.toolTip));
+        QObject::connect(action, &QAction::triggered, &window.Scope(), [&control, &widget, index = button.index] {
+            // Qt has flipped the button by itself; the control says which are pressed.
+            PushPressed(control, widget);
+            Deliver([&] {
+                if (control.Parent().Reachable()) control.UserPressed(index);
+            });
+        });
+        if (auto* face = qobject_cast<QToolButton*>(widget.widgetForAction(action))) {
+            face->setFocusPolicy(Qt::NoFocus);
+            face->setAccessibleName(ToQt(button.caption));
+            // The pressed button stands out by its letters too, and no button changes its width by that.
+            QFont bold = face->font();
+            bold.setBold(true);
+            face->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(ToQt(button.caption)) + 2 * face->fontMetrics().averageCharWidth());
+            QObject::connect(action, &QAction::toggled, face, [face](bool on) {
+                QFont font = face->font();
+                font.setBold(on);
+                face->setFont(font);
+            });
+        }
+    }
+    PushPressed(control, widget);
+    widget.setEnabled(control.Enabled());
+    control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
+        if (aspect == Aspect::Pressed) PushPressed(control, widget);
+        if (aspect == Aspect::Enabled) widget.setEnabled(control.Enabled());
+        if (aspect == Aspect::Visible) widget.setVisible(control.Visible());
+    };
+}
+
+void Bind(StatusBar& control, QStatusBar& widget, FormWindow& /*window*/) {
+    const auto push = [&control, &widget](std::size_t number) {
+        PanelsOf(widget).at(static_cast<qsizetype>(number) - 1)->SetPanelText(ToQt(control.Panel(number)), ToQt(control.ToolTip()));
+    };
+    for (std::size_t number = 1; number <= control.Panels().size(); ++number) {
+        auto* panel = new StatusPanel(&widget);
+        panel->setObjectName(ObjectName(control) + u'_' + QString::number(number));
+        // The first panel takes the room that the others leave.
+        if (number == 1) {
+            panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+            QFont bold = panel->font();
+            bold.setBold(true);
+            panel->setFont(bold);
+        }
+        widget.addWidget(panel, number == 1 ? 1 : 0);
+        push(number);
+    }
+    control.mirror = [&control, push](Aspect aspect, int row) {
+        if (aspect == Aspect::Panels) push(static_cast<std::size_t>(row));
+        if (aspect == Aspect::ToolTip)
+            for (std::size_t number = 1; number <= control.Panels().size(); ++number) push(number);
+    };
+}
+
+QAction* ActionOf(const MenuItem& item, const QMainWindow& window) {
+    return window.menuBar()->findChild<QAction*>(ObjectName(item));
+}
+
+QAction* ActionOf(int index, const QToolBar& bar) {
+    for (QAction* action : bar.actions())
+        if (action->property(kToolIndex).isValid() && action->property(kToolIndex).toInt() == index) return action;
+    return nullptr;
+}
+
+QList<StatusPanel*> PanelsOf(const QStatusBar& bar) {
+    return bar.findChildren<StatusPanel*>(Qt::FindDirectChildrenOnly);
+}
+
+}  // namespace vatro

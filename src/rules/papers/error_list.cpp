@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: MIT
+#include "papers/error_list.h"
+
+#include <memory_resource>
+#include <unordered_set>
+
+#include "call/call_analysis.h"
+#include "checks/field_checks.h"
+#include "columns.h"
+#include "country/lookup.h"
+#include "datetime.h"
+#include "entry/frmMain.h"
+#include "entry/validation.h"
+#include "frame/log_file.h"
+#include "frame/station.h"
+#include "log/contact_line.h"
+#include "log/duplicates.h"
+#include "numbers.h"
+#include "papers/layout.h"
+#include "papers/weekend.h"
+#include "platform.h"
+#include "printing/frmInfo.h"
+#include "printing/progress.h"
+#include "score/points.h"
+#include "score/stations.h"
+#include "tables/unknown.h"
+
+namespace vatro {
+
+namespace {
+
+/// Calls seen in a log are texts of ten characters, cut or filled up with blanks: a longer call is never found again.
+constexpr std::size_t kHusketCall = 10;
+
+void SkrivFejl(std::string_view besked) {
+    Skriv(std::string(kIndryk).append("- ").append(besked));
+}
+
+/// Whether a figure of a report lies between 1 and this one. A figure that is missing counts as good.
+bool GodtCiffer(std::string_view rst, std::size_t nr, char højeste) {
+    return rst.size() < nr || (rst[nr - 1] >= '1' && rst[nr - 1] <= højeste);
+}
+
+struct RapportBeskeder {
+    std::string_view treCifre;
+    std::string_view toCifre;
+    std::string_view første;
+    std::string_view andet;
+    std::string_view sidste;
+};
+constexpr RapportBeskeder kSendt{
+    "Sendt RST skal være på 3 cifre."_t, "Sendt RST skal være på 2 cifre."_t, "Første ciffer i sendt sendt RST skal være mellem 1 og 5."_t,
+    "Andet ciffer i sendt RST skal være mellem 1 og 9."_t, "Sidste ciffer i sendt RST skal være mellem 1 og 9."_t};
+constexpr RapportBeskeder kModtaget{"Modtaget RST skal være på 3 cifre."_t, "Modtaget RST skal være på 2 cifre."_t,
+                                    "Første ciffer i modtaget RST skal være mellem 1 og 5."_t,
+                                    "Andet ciffer i modtaget RST skal være mellem 1 og 9."_t,
+                                    "Sidste ciffer i modtaget RST skal være mellem 1 og 9."_t};
+
+std::string_view PointBesked(std::int32_t point) {
+    switch (point) {
+        case 10:
+            return "EDR station giver 10 point.";
+        case 1:
+            return "OZ station giver 1 point.";
+        case 6:
+            return "DX station giver 6 point.";
+        case 5:
+            return "EU/P station giver 5 point.";
+        default:
+            return "EU station giver 3 point.";
+    }
+}
+
+/// The rules, in their order, each without regard to the others.
+class Kontrol {
+public:
+    explicit Kontrol(std::string_view logMode) : cw_(logMode == "CW"), ssb_(logMode == "SSB") {}
+
+    /// Checks a contact line. Gives whether it has an error. Fails with 5 if it has no call, behind the errors found so far.
+    bool Tjek(std::string_view linje) {
+        linje_ = linje;
+        vist_ = false;
+        TjekTidspunkt();
+        TjekCall();
+        TjekRapport(kRstSendt.TrimmetAf(linje_), kSendt);
+        if (!IsNumeric(kNrSendt.TrimmetAf(linje_))) Fejl("Sendt QSOnr skal være numerisk."_t);
+        TjekRapport(kRstModtaget.TrimmetAf(linje_), kModtaget);
+        TjekRapportSomNummer(kRstModtaget.TrimmetAf(linje_));
+        TjekPoint();
+        TjekMultiplier();
+        TjekResten();
+        return vist_;
+    }
+
+private:
+    void Fejl(std::string_view besked) {
+        DanFejlQSO(linje_, vist_);
+        SkrivFejl(besked);
+    }
+
+    void TjekTidspunkt() {
+        std::string tid(kTid.TrimmetAf(linje_));
+        ValiderTid(tid);
+        if (!tid.empty()) Fejl(tid);
+    }
+
+    void TjekCall() {
+        gsCall = kCall.TrimmetAf(linje_);
+        StripCall(gsCall);
+        if (gsCall.size() < 3) Fejl("Et kaldesignal skal være på mindst 3 tegn."_t);
+        if (!HarTalOgBogstaver(gsCall)) Fejl("Der skal være både tal og bogstaver i et kaldesignal."_t);
+        if (gsCall.starts_with('0')) Fejl("Første tegn i call'et er et nul."_t);
+        const bool husket = !sete_.insert(LeftAligned(gsCall, kHusketCall)).second;
+        dublet_ = husket && gsCall.size() <= kHusketCall;
+        if (dublet_) Fejl(gsCall + " er en dublet!");
+    }
+
+    void TjekRapport(std::string_view rst, const RapportBeskeder& beskeder) {
+        if (cw_ && rst.size() != 3) Fejl(beskeder.treCifre);
+        if (!cw_ && rst.size() != 2) Fejl(beskeder.toCifre);
+        if (!GodtCiffer(rst, 1, '5')) Fejl(beskeder.første);
+        if (!GodtCiffer(rst, 2, '9')) Fejl(beskeder.andet);
+        if (cw_ && !GodtCiffer(rst, 3, '9')) Fejl(beskeder.sidste);
+    }
+
+    /// The messages tell of the received number, but the report is tested once more: meant so.
+    void TjekRapportSomNummer(std::string_view rst) {
+        if (NumericValue(rst) == 0) Fejl("Modtaget QSOnr er nul.");
+        if (!IsNumeric(rst)) Fejl("Modtaget QSOnr skal være numerisk."_t);
+    }
+
+    void TjekPoint() {
+        const std::string_view call = kCall.TrimmetAf(linje_);
+        giQSOPoint = 3;
+        if (ErDansk(call))
+            giQSOPoint = 1;
+        else if (call.ends_with("/P"))
+            giQSOPoint = 5;
+        LandWkd(call, nytLand_, Handling::Op);
+        const double point = NumericValue(kPoint.TrimmetAf(linje_));
+        if (dublet_) {
+            if (point != 0) Fejl("Dublet station giver 0 point.");
+            return;
+        }
+        EDRstnWkd(gsCall, Handling::Op);
+        if (point != giQSOPoint) Fejl(PointBesked(giQSOPoint));
+    }
+
+    void TjekMultiplier() {
+        const std::string_view mult = kMultiplier.TrimmetAf(linje_);
+        const std::string_view nyt = Trim(nytLand_);
+        if (mult == nyt || mult == kDupeMærke) return;
+        if (nyt.empty())
+            Fejl(std::string("QSO er ikke første qso for land: "_t)
+                     .append(mult)
+                     .append(". Flyt markeringen til den første QSO for landet."_t));
+        else
+            Fejl(std::string("QSO er første multiplier for land: "_t).append(nyt).append(", men er ikke markeret."));
+    }
+
+    void TjekResten() {
+        if (kOperatørLæst.TrimmetAf(linje_).empty()) Fejl("Operatør skal udfyldes."_t);
+        const std::string_view mode = kQsoMode.TrimmetAf(linje_);
+        if (ssb_ && mode != "SSB") Fejl("Mode skal være SSB i SSB-log."_t);
+        if (cw_ && mode != "PSK31" && mode != "CW" && mode != "RTTY" && mode != "HELL")
+            Fejl("Mode skal være CW, PSK31, RTTY eller HELL i CW-log."_t);
+        if (!GyldigDato(kDato.TrimmetAf(linje_))) Fejl("Dato skal være i formatet dd-mm-åå."_t);
+    }
+
+    bool cw_;
+    bool ssb_;
+    /// The calls so far, one behind the other in memory: a log has thousands, and all of them go at once.
+    std::pmr::monotonic_buffer_resource lager_;
+    std::pmr::unordered_set<std::string> sete_{&lager_};
+    std::string_view linje_;
+    /// The line has been shown above its first error.
+    bool vist_ = false;
+    /// It holds a call that an earlier line has.
+    bool dublet_ = false;
+    /// The multiplier that the contact is by the tables, or nothing.
+    std::string nytLand_;
+};
+
+}  // namespace
+
+void DanFejlliste() {
+    frmMain->SetHourglass(true);
+    frmMain->SetEnabled(false);
+    VisForløb("Dan fejlliste");
+    ÅbnPapir("Fejllist.txt");
+    Skriv(Indrykket("Vatro fejlliste for " + gsMyCall + ". Dannet d. " + FormatDate(platform().clock.Now(), "dd.mm.yyyy")));
+    SkrivBlank();
+    for (const BåndMode& log : kPapirOrden) DanFejlList(log);
+    platform().files.Close(kPapirFil);
+
+    IndlæsLogfil();
+    frmMain->SetEnabled(true);
+    ResetQSO();
+    frmInfo->Show();
+    frmMain->SetHourglass(false);
+}
+
+void DanFejlList(const BåndMode& log) {
+    Find1Weekend();
+    TilføjForløb(BåndOgMode(log.bånd, log.mode));
+    DanFejlListHoved(log);
+    try {
+        ÅbnLog(log);
+        DanFejlListKrop(log);
+        SkrivBlank();
+        platform().files.Close(kLogFil);
+    } catch (const RunTimeError&) {
+        SkrivBlank();
+        SkrivFejl("Log ikke fundet.");
+        SkrivBlank();
+        platform().files.Close(kLogFil);
+    }
+}
+
+void DanFejlListHoved(const BåndMode& log) {
+    Skriv(Indrykket("================================   " + BåndOgMode(log.bånd, LeftAligned(log.mode, 3)) +
+                    "   =================================="));
+}
+
+void DanFejlListKrop(const BåndMode& log) {
+    Files& filer = platform().files;
+    ResetLande();
+    ResetEDR();
+    Kontrol kontrol(log.mode);
+    bool FileHasErrors = false;
+    do {
+        const std::string linje = filer.LineInput(kLogFil);
+        if (ErNotelinje(linje)) {
+            SkrivBlank();
+            Skriv(Indrykket(linje));
+        } else if (kontrol.Tjek(linje)) {
+            FileHasErrors = true;
+        }
+    } while (!filer.EndOfFile(kLogFil));
+    if (FileHasErrors) return;
+    SkrivBlank();
+    SkrivFejl("Der er ikke fundet fejl i denne log.");
+}
+
+void DanFejlQSO(std::string_view linje, bool& QSOShown) {
+    if (QSOShown) return;
+    SkrivBlank();
+    Skriv(Indrykket(kKolonner));
+    Skriv(Kontaktrække(linje));
+    SkrivBlank();
+    QSOShown = true;
+}
+
+void ValiderTid(std::string& tekst) {
+    constexpr std::size_t kLængde = 5;
+    if (tekst.size() == kLængde) {
+        tekst[2] = ':';
+        if (ParseTime(tekst)) {
+            tekst.clear();
+            return;
+        }
+    }
+    const DateTime nu = platform().clock.Now();
+    tekst = std::string("Fejl i tidspunkt. Tidspunkt skal angives som: '").append(FormatTime(nu.hour, nu.minute)).append("'.");
+}
+
+bool GyldigDato(std::string_view tekst) {
+    return ParseDate(tekst).has_value();
+}
+
+}  // namespace vatro

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "entry/validation.h"
+
+#include "country/lookup.h"
+#include "frame/band_mode.h"
+#include "frame/log_file.h"
+#include "log/duplicates.h"
+#include "running_program.h"
+#include "score/points.h"
+
+namespace vatro {
+namespace {
+
+using namespace literals;
+using Lines = std::vector<std::string>;
+
+class Validation : public RunningProgram {
+protected:
+    void Enter(std::string_view call, std::string_view number) {
+        frmMain->Text1[1].SetText(call);
+        frmMain->Text1[5].SetText(number);
+        ValiderQSO();
+    }
+};
+
+TEST_F(Validation, TheDefaultReportFollowsTheQsoMode) {
+    for (const char* mode : {"CW", "RTTY", "HELL", "PSK31"}) {
+        gsQsoMode = mode;
+        EXPECT_EQ(StandardRST(), "599");
+    }
+    gsQsoMode = "SSB";
+    EXPECT_EQ(StandardRST(), "59");
+    gsQsoMode = "FM";
+    EXPECT_EQ(StandardRST(), "");
+}
+
+TEST_F(Validation, AnAcceptedContactGoesToFileListAndCounters) {
+    Start();
+    Enter("DL9XYZ", "345");
+    const std::string line = "13:00 DL9XYZ          59 -0001 59 -0345  3 DL         OZ1DEF     SSB   05-09-26";
+    EXPECT_EQ(LinesOf("log\\FD80mSSB.txt"), Lines{line});
+    EXPECT_EQ(frmMain->List1.Items(), Lines{line});
+    EXPECT_EQ(frmMain->List1.ListIndex(), 0);
+    EXPECT_EQ(glPoint, 3);
+    EXPECT_EQ(giMult, 1);
+    EXPECT_EQ(giQSOnr, 2);
+    EXPECT_EQ(frmMain->sbStatusBar.Panel(2), "3");
+    EXPECT_EQ(frmMain->sbStatusBar.Panel(4), "1");
+    EXPECT_EQ(frmMain->sbStatusBar.Panel(6), "3");
+}
+
+TEST_F(Validation, ASentNumberThatIsNoNumberIsRefused) {
+    Start();
+    frmMain->Text1[3].SetText("12A");
+    dialogs.Expect("Sendt rapport skal være numerisk");
+    Enter("DL9XYZ", "345");
+    EXPECT_TRUE(frmMain->Text1[3].HasFocus());
+    EXPECT_EQ(frmMain->List1.ListCount(), 0);
+}
+
+TEST_F(Validation, TheSentReportIsJudgedBeforeTheNumbers) {
+    Start();
+    frmMain->Text1[2].SetText("5");
+    frmMain->Text1[3].SetText("x");
+    dialogs.Expect("Modtaget RST skal være på 2 cifre.");
+    Enter("DL9XYZ", "");
+    EXPECT_TRUE(frmMain->Text1[2].HasFocus());
+}
+
+TEST_F(Validation, TheStationOfTheSocietyLeavesItsCallInSixColumns) {
+    Start();
+    Enter("OZ1AB/P", "1");
+    EXPECT_EQ(gsCall, "OZ1AB ");
+}
+
+TEST_F(Validation, ADuplicateGetsNoPointsButItsCountryStaysMarked) {
+    files.files["LOG\\FD80MSSB.TXT"] = {"10:10 DL9XYZ          59 -0007 59 -0003  3            OZ1DEF     SSB   05-09-26"};
+    Start();
+    EXPECT_EQ(giMult, 0);
+    Enter("DL9XYZ/P", "1");
+    EXPECT_EQ(LinesOf("log\\FD80mSSB.txt").back(), "13:00 DL9XYZ/P        59 -0008 59 -0001  0 -DUPE-     OZ1DEF     SSB   05-09-26");
+    EXPECT_TRUE(gbDupe);
+    EXPECT_EQ(giQSOPoint, 0);
+    EXPECT_EQ(giMult, 1);
+    EXPECT_EQ(glPoint, 3);
+}
+
+TEST_F(Validation, TheUnknownCallIsNotedBeforeTheLogIsWritten) {
+    Start();
+    files.steps.clear();
+    Enter("XZ9XYZ", "1");
+    Lines opened;
+    for (const std::string& step : files.steps)
+        if (step.starts_with("open ")) opened.push_back(step.substr(5));
+    EXPECT_EQ(opened, (Lines{"LOG\\UKENDT.TXT", "LOG\\FD80MSSB.TXT"}));
+}
+
+TEST_F(Validation, ResetKeepsTimeAndOperatorWithTheClockOff) {
+    settings.texts["SETTINGS/AUTOTID"] = "0";
+    Start();
+    frmMain->Text1[0].SetText("10:15");
+    ResetQSO();
+    EXPECT_EQ(frmMain->Text1[0].Text(), "10:15");
+    EXPECT_TRUE(frmMain->Text1[0].HasFocus());
+    EXPECT_EQ(frmMain->Text1[0].SelLength(), 5);
+    EXPECT_FALSE(frmMain->Timer1.Running());
+    EXPECT_EQ(frmMain->Combo1.Text(), "OZ1DEF");
+}
+
+TEST_F(Validation, ResetMovesTheNumberOnAndClearsTheEntry) {
+    Start();
+    frmMain->Text1[1].SetText("DL");
+    frmMain->Text1[2].SetText("11");
+    frmMain->Text1[5].SetText("7");
+    frmMain->Check1.SetValue(true);
+    giQSOnr = 998;
+    ResetQSO();
+    EXPECT_EQ(giQSOnr, 999);
+    EXPECT_EQ(frmMain->Text1[1].Text(), "");
+    EXPECT_EQ(frmMain->Text1[2].Text(), "59");
+    EXPECT_EQ(frmMain->Text1[2].MaxLength(), 2);
+    EXPECT_EQ(frmMain->Text1[3].Text(), "0999");
+    EXPECT_EQ(frmMain->Text1[4].Text(), "59");
+    EXPECT_EQ(frmMain->Text1[5].Text(), "");
+    EXPECT_FALSE(frmMain->Check1.Value());
+}
+
+TEST_F(Validation, TheSerialNumberOverflowsAsAFailure) {
+    Start();
+    giQSOnr = 32767;
+    EXPECT_THROW(ResetQSO(), RunTimeError);
+}
+
+}  // namespace
+}  // namespace vatro

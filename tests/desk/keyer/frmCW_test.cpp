@@ -1,0 +1,311 @@
+// SPDX-License-Identifier: MIT
+#include "keyer/frmCW.h"
+
+#include "desk/keyer/sending_program.h"
+#include "exchange/equipment.h"
+
+namespace vatro {
+namespace {
+
+using namespace literals;
+using Texts = std::vector<std::string>;
+
+class CWWindow : public SendingProgram {
+protected:
+    void Open() {
+        if (!ProgramRuns()) Start();
+        Dispatch([] { frmCW->Show(); });
+    }
+    static void PressOK() {
+        Dispatch([] { frmCW->cmdOK.Press(); });
+    }
+    static Texts Fields() {
+        Texts fields;
+        for (const TextBox& field : frmCW->Text1) fields.push_back(field.Text());
+        return fields;
+    }
+    /// What a field makes of the key.
+    static KeyCode Press(KeyCode key) { return frmCW->Text1[3].PressKey(key); }
+};
+
+TEST_F(CWWindow, ShowsWhatIsStored) {
+    settings.texts.insert(
+        {{"CW/WPM", "32"}, {"CW/TONE", "650"}, {"CW/VOLUME", "5000"}, {"CW/N", "--1"}, {"CW/T", "599"}, {"CW/TEKST8", "TU"}});
+    Open();
+    EXPECT_EQ(frmCW->Caption(), "CW indstillinger");
+    EXPECT_EQ(frmCW->txtWPM.Text(), "32");
+    EXPECT_EQ(frmCW->txtTone.Text(), "650");
+    EXPECT_EQ(frmCW->HScroll1.Value(), 5000);
+    EXPECT_FALSE(frmCW->optLobenr[0].Value());
+    EXPECT_TRUE(frmCW->optLobenr[1].Value());
+    EXPECT_TRUE(frmCW->optRST[0].Value());
+    EXPECT_FALSE(frmCW->optRST[1].Value());
+    EXPECT_EQ(Fields(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "", "", "", "TU"}));
+}
+
+TEST_F(CWWindow, ShowsAVolumeBeyondTheBarAtItsEnd) {
+    settings.texts["CW/VOLUME"] = "20000";
+    Open();
+    EXPECT_EQ(frmCW->HScroll1.Value(), 10000);
+    PressOK();
+    EXPECT_EQ(glCWVolume, 10000);
+    glCWVolume = -5;
+    Open();
+    EXPECT_EQ(frmCW->HScroll1.Value(), 0);
+}
+
+TEST_F(CWWindow, TheBarHasItsSteps) {
+    Open();
+    const ScrollBar::Range& limits = frmCW->HScroll1.Limits();
+    EXPECT_EQ(limits.min, 0);
+    EXPECT_EQ(limits.max, 10000);
+    EXPECT_EQ(limits.smallChange, 1);
+    EXPECT_EQ(limits.largeChange, 1023);
+}
+
+TEST_F(CWWindow, TheArrowsStayInTheirRange) {
+    Open();
+    const auto up = [](UpDown& arrows, bool which) { Dispatch([&] { arrows.Spin(which); }); };
+    up(frmCW->UpDown2, true);
+    EXPECT_EQ(frmCW->txtWPM.Text(), "22");
+    frmCW->txtWPM.SetText("59");
+    up(frmCW->UpDown2, true);
+    EXPECT_EQ(frmCW->txtWPM.Text(), "60");
+    frmCW->txtWPM.SetText("7");
+    up(frmCW->UpDown2, false);
+    EXPECT_EQ(frmCW->txtWPM.Text(), "6");
+    up(frmCW->UpDown1, false);
+    EXPECT_EQ(frmCW->txtTone.Text(), "775");
+    frmCW->txtTone.SetText("310");
+    up(frmCW->UpDown1, false);
+    EXPECT_EQ(frmCW->txtTone.Text(), "300");
+    frmCW->txtTone.SetText("1790");
+    up(frmCW->UpDown1, true);
+    EXPECT_EQ(frmCW->txtTone.Text(), "1800");
+}
+
+TEST_F(CWWindow, ATextTakesOnlySomeCharactersAndInCapitals) {
+    Open();
+    std::string taken;
+    for (KeyCode key = 32; key < 256; ++key) {
+        const KeyCode made = Press(key);
+        if (made == kNoKey) continue;
+        EXPECT_EQ(made, static_cast<unsigned char>(Upper(static_cast<char>(key))));
+        if (made == key) taken += static_cast<char>(key);
+    }
+    EXPECT_EQ(taken, " #(),-./0123456789:=?ABCDEFGHIJKLMNOPQRSTUVWXYZÅÆØ"_t);
+    EXPECT_EQ(Press('q'), 'Q');
+    EXPECT_EQ(Press(0xF8), 0xD8);    // ø
+    EXPECT_EQ(Press(0xE9), kNoKey);  // é
+    EXPECT_EQ(Press('+'), kNoKey);
+    EXPECT_EQ(Press('<'), kNoKey);
+    EXPECT_EQ(Press(kBackspace), kBackspace);
+    EXPECT_EQ(frmCW->Text1[0].MaxLength(), 0);
+    EXPECT_FALSE(frmCW->txtWPM.KeyPress);
+}
+
+TEST_F(CWWindow, TheDefaultTextsComeIntoTheFieldsAlone) {
+    Open();
+    for (TextBox& field : frmCW->Text1) field.SetText("X");
+    dialogs.Expect("Er du sikker på at du vil ændre teksterne?", Answer::Yes);
+    Dispatch([] { frmCW->cmdReset.Press(); });
+    EXPECT_EQ(dialogs.boxes.back().title, "Default tekster");
+    EXPECT_EQ(dialogs.boxes.back().buttons, Buttons::YesNo);
+    EXPECT_EQ(dialogs.boxes.back().icon, Icon::Question);
+    EXPECT_TRUE(dialogs.boxes.back().defaultNo);
+    EXPECT_EQ(Fields(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "TU #R", "#C?", "", ""}));
+    EXPECT_EQ(CWTekster[4], "");
+    PressOK();
+    EXPECT_EQ(CWTekster[4], "TU #R");
+}
+
+TEST_F(CWWindow, ANoKeepsTheFields) {
+    Open();
+    frmCW->Text1[0].SetText("X");
+    dialogs.Expect("Er du sikker på at du vil ændre teksterne?", Answer::No);
+    Dispatch([] { frmCW->cmdReset.Press(); });
+    EXPECT_EQ(frmCW->Text1[0].Text(), "X");
+}
+
+TEST_F(CWWindow, OKTakesEverythingOverAndStoresItWithTheEquipment) {
+    gsRig[0] = "";
+    Open();
+    gsRig[2] = "Homebrew";
+    frmCW->Text1[0].SetText("TEST #R");
+    frmCW->Text1[6].SetText("AGN?");
+    frmCW->txtWPM.SetText("26");
+    frmCW->txtTone.SetText("700");
+    frmCW->HScroll1.SetValue(8000);
+    frmCW->optRST[1].SetValue(true);
+    frmCW->optLobenr[1].SetValue(true);
+    settings.written.clear();
+    PressOK();
+    EXPECT_EQ(giCWWPM, 26);
+    EXPECT_EQ(giCWTone, 700);
+    EXPECT_EQ(glCWVolume, 8000);
+    EXPECT_EQ(gsCWRSTFormat, "5nn");
+    EXPECT_EQ(gsCWNummerFormat, "--1");
+    EXPECT_EQ(CWTekster[0], "TEST #R");
+    EXPECT_EQ(CWTekster[6], "AGN?");
+    EXPECT_EQ(frmMain->mnuCWTXT[0].Caption(), "TEST #R");
+    EXPECT_EQ(frmMain->mnuCWTXT[6].Caption(), "AGN?");
+    // The keyer first, then the equipment.
+    ASSERT_EQ(settings.written.size(), 24U);
+    EXPECT_EQ(settings.written[0], "WPM");
+    EXPECT_EQ(settings.written[13], "Tekst8");
+    EXPECT_EQ(settings.written[14], "Rig80");
+    EXPECT_EQ(settings.written[23], "Ant10");
+    EXPECT_EQ(settings.texts["CW/WPM"], "26");
+    EXPECT_EQ(settings.texts["CW/T"], "5nn");
+    EXPECT_EQ(settings.texts["EQUIPMENT/RIG20"], "Homebrew");
+    EXPECT_FALSE(frmCW.Loaded());
+    EXPECT_EQ(sound.buffer, nullptr);
+}
+
+TEST_F(CWWindow, OKGivesTheLongFormsBack) {
+    settings.texts.insert({{"CW/N", "--1"}, {"CW/T", "5nn"}});
+    Open();
+    frmCW->optRST[0].SetValue(true);
+    frmCW->optLobenr[0].SetValue(true);
+    PressOK();
+    EXPECT_EQ(gsCWRSTFormat, "599");
+    EXPECT_EQ(gsCWNummerFormat, "001");
+}
+
+TEST_F(CWWindow, AnnullerKeepsNothing) {
+    Open();
+    frmCW->Text1[0].SetText("X");
+    frmCW->txtWPM.SetText("40");
+    frmCW->optRST[1].SetValue(true);
+    settings.written.clear();
+    Dispatch([] { frmCW->UserDefaultKey(kEsc); });
+    EXPECT_FALSE(frmCW.Loaded());
+    EXPECT_EQ(giCWWPM, 20);
+    EXPECT_EQ(gsCWRSTFormat, "599");
+    EXPECT_EQ(CWTekster[0], "CQ TEST DE #R #R TEST K");
+    EXPECT_EQ(settings.written, Texts{});
+    Open();
+    EXPECT_EQ(frmCW->Text1[0].Text(), "CQ TEST DE #R #R TEST K");
+}
+
+TEST_F(CWWindow, EnterIsOK) {
+    Open();
+    frmCW->Text1[0].SetText("X");
+    Dispatch([] { frmCW->UserDefaultKey(kEnter); });
+    EXPECT_EQ(CWTekster[0], "X");
+}
+
+TEST_F(CWWindow, TheNumberInFrontOfATextCounts) {
+    Open();
+    frmCW->txtWPM.SetText(" 25 wpm");
+    frmCW->txtTone.SetText("612.5");
+    PressOK();
+    EXPECT_EQ(giCWWPM, 25);
+    EXPECT_EQ(giCWTone, 612);
+    // Not the same as the stored 612: all three are taken over again, to the even neighbour.
+    Open();
+    frmCW->txtTone.SetText("613.5");
+    PressOK();
+    EXPECT_EQ(giCWTone, 614);
+}
+
+TEST_F(CWWindow, NewSoundMakesNewPieces) {
+    Start();
+    SendText("E");
+    PlayOut();
+    Open();
+    frmCW->txtWPM.SetText("40");
+    PressOK();
+    EXPECT_EQ(Priklen, 1323);
+    EXPECT_EQ(CWPrik.size(), 1324U);
+    Open();
+    frmCW->txtTone.SetText("400");
+    PressOK();
+    // sin(2 pi 400 / 44100) is 0.05696.
+    EXPECT_EQ(CWStreg[1], -570);
+    Open();
+    frmCW->HScroll1.SetValue(1000);
+    PressOK();
+    EXPECT_EQ(CWStreg[1], -57);
+    EXPECT_TRUE(frmCWTX->Klar());
+}
+
+TEST_F(CWWindow, AVolumeThatWasTooLoudCanBeTurnedDown) {
+    settings.texts["CW/VOLUME"] = "40000";
+    Start();
+    dialogs.Expect("Lydkort findes ikke.");
+    SendText("E");
+    Open();
+    PressOK();
+    EXPECT_EQ(glCWVolume, 10000);
+    SendText("E");
+    EXPECT_TRUE(frmCWTX->Visible());
+    EXPECT_EQ(sound.calls.back(), "play");
+}
+
+TEST_F(CWWindow, NewTextsLeaveTheBufferAlone) {
+    Start();
+    SendText("PARIS");
+    sound.calls.clear();
+    const FakeSound::Buffer* const buffer = sound.buffer;
+    Open();
+    frmCW->Text1[1].SetText("QRZ?");
+    frmCW->optRST[1].SetValue(true);
+    PressOK();
+    EXPECT_EQ(sound.buffer, buffer);
+    EXPECT_TRUE(Playing() || sound.calls.empty());
+    Pass(0);
+    EXPECT_EQ(sound.calls, (Texts{"write 0 44100"}));
+}
+
+TEST_F(CWWindow, SpeedNoughtStopsAProgramThatHasSent) {
+    Start();
+    SendText("E");
+    PlayOut();
+    settings.written.clear();
+    Open();
+    frmCW->txtWPM.SetText("");
+    PressOK();
+    EXPECT_EQ(dialogs.failures, std::vector<int>{11});
+    EXPECT_FALSE(ProgramRuns());
+    // Nothing of it is stored.
+    EXPECT_EQ(settings.written, Texts{});
+}
+
+TEST_F(CWWindow, SpeedNoughtIsStoredByAProgramThatHasNotSent) {
+    Open();
+    frmCW->txtWPM.SetText("0");
+    PressOK();
+    EXPECT_EQ(settings.texts["CW/WPM"], "0");
+    dialogs.Expect("Lydkort findes ikke.");
+    SendText("E");
+    EXPECT_TRUE(ProgramRuns());
+}
+
+TEST_F(CWWindow, ASpeedOrPitchBeyondSixteenBitsStopsTheProgram) {
+    Open();
+    frmCW->txtTone.SetText("32768");
+    PressOK();
+    EXPECT_EQ(dialogs.failures, std::vector<int>{6});
+    EXPECT_FALSE(ProgramRuns());
+}
+
+TEST_F(CWWindow, ItsAccessKeysLeadToItsFields) {
+    Open();
+    const auto after = [](char letter) {
+        Dispatch([&] { frmCW->UserAccessKey(letter); });
+        return frmCW->ActiveControl();
+    };
+    EXPECT_EQ(after('8'), &frmCW->Text1[3]);
+    EXPECT_EQ(after('W'), &frmCW->txtWPM);
+    EXPECT_EQ(after('T'), &frmCW->txtTone);
+    EXPECT_EQ(after('C'), &frmCW->txtWPM);
+    EXPECT_EQ(after('R'), &frmCW->optRST[0]);
+    EXPECT_EQ(after('N'), &frmCW->optRST[1]);
+    EXPECT_TRUE(frmCW->optRST[1].Value());
+    EXPECT_EQ(after('-'), &frmCW->optLobenr[1]);
+    EXPECT_EQ(after('0'), &frmCW->optLobenr[0]);
+}
+
+}  // namespace
+}  // namespace vatro

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "keyer/keyer_settings.h"
+
+#include "running_program.h"
+
+namespace vatro {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class CWSettings : public RunningProgram {
+protected:
+    std::vector<std::string> Tekster() { return {CWTekster.begin(), CWTekster.end()}; }
+};
+
+TEST_F(CWSettings, AnEmptyStoreGivesTheDefaults) {
+    Start();
+    EXPECT_EQ(giCWWPM, 20);
+    EXPECT_EQ(giCWTone, 800);
+    EXPECT_EQ(glCWVolume, 10000);
+    EXPECT_EQ(giCWFarnsworth, 0);
+    EXPECT_EQ(gsCWNummerFormat, "001");
+    EXPECT_EQ(gsCWRSTFormat, "599");
+    EXPECT_EQ(Tekster(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "", "", "", ""}));
+}
+
+TEST_F(CWSettings, AreReadAtTheStartAndNothingIsWritten) {
+    settings.texts.insert({{"CW/WPM", "32"},
+                           {"CW/TONE", "650"},
+                           {"CW/VOLUME", "40000"},
+                           {"CW/FARNSWORTH", "3"},
+                           {"CW/N", "--1"},
+                           {"CW/T", "5nn"},
+                           {"CW/TEKST1", ""},
+                           {"CW/TEKST8", "TU #R"}});
+    HentCWIndstillinger();
+    EXPECT_EQ(giCWWPM, 32);
+    EXPECT_EQ(giCWTone, 650);
+    EXPECT_EQ(glCWVolume, 40000);
+    EXPECT_EQ(giCWFarnsworth, 3);
+    EXPECT_EQ(gsCWNummerFormat, "--1");
+    EXPECT_EQ(gsCWRSTFormat, "5nn");
+    EXPECT_EQ(CWTekster[0], "");
+    EXPECT_EQ(CWTekster[1], "CL?");
+    EXPECT_EQ(CWTekster[7], "TU #R");
+    EXPECT_EQ(settings.written, Texts{});
+}
+
+TEST_F(CWSettings, ExtraSilenceIsCutAtTwentyAndHasNoLowerEnd) {
+    const auto read = [this](const char* stored) {
+        settings.texts["CW/FARNSWORTH"] = stored;
+        HentCWIndstillinger();
+        return giCWFarnsworth;
+    };
+    EXPECT_EQ(read("20"), 20);
+    EXPECT_EQ(read("21"), 20);
+    EXPECT_EQ(read("-5"), -5);
+}
+
+TEST_F(CWSettings, AreWrittenWithAllTheirKeys) {
+    HentCWIndstillinger();
+    giCWWPM = 26;
+    glCWVolume = 70000;
+    giCWFarnsworth = -2;
+    CWTekster[4] = "QRZ?";
+    GemCWIndstillinger();
+    EXPECT_EQ(settings.written, (Texts{"WPM", "Tone", "Volume", "Farnsworth", "N", "T", "Tekst1", "Tekst2", "Tekst3", "Tekst4", "Tekst5",
+                                       "Tekst6", "Tekst7", "Tekst8"}));
+    EXPECT_EQ(settings.texts["CW/WPM"], "26");
+    EXPECT_EQ(settings.texts["CW/TONE"], "800");
+    EXPECT_EQ(settings.texts["CW/VOLUME"], "70000");
+    EXPECT_EQ(settings.texts["CW/FARNSWORTH"], "-2");
+    EXPECT_EQ(settings.texts["CW/N"], "001");
+    EXPECT_EQ(settings.texts["CW/T"], "599");
+    EXPECT_EQ(settings.texts["CW/TEKST4"], "#C UR #T #N BK");
+    EXPECT_EQ(settings.texts["CW/TEKST5"], "QRZ?");
+    EXPECT_EQ(settings.texts["CW/TEKST8"], "");
+}
+
+TEST_F(CWSettings, ATextThatIsNoNumberStopsTheStart) {
+    settings.texts["CW/WPM"] = "hurtigt";
+    Start();
+    EXPECT_EQ(dialogs.failures, std::vector<int>{13});
+    EXPECT_FALSE(ProgramRuns());
+}
+
+TEST_F(CWSettings, ATooLargeToneStopsTheStart) {
+    settings.texts["CW/TONE"] = "32768";
+    Start();
+    EXPECT_EQ(dialogs.failures, std::vector<int>{6});
+}
+
+TEST_F(CWSettings, TheMenuShowsTheTextsAsTheyAre) {
+    settings.texts["CW/TEKST5"] = "#C DE #R";
+    Start();
+    EXPECT_EQ(frmMain->mnuCWTXT[0].Caption(), "CQ TEST DE #R #R TEST K");
+    EXPECT_EQ(frmMain->mnuCWTXT[4].Caption(), "#C DE #R");
+    EXPECT_EQ(frmMain->mnuCWTXT[7].Caption(), "");
+}
+
+}  // namespace
+}  // namespace vatro

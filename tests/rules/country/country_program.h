@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+//
+// The program with empty country tables of its own, in the data directory "data".
+#pragma once
+
+#include "country/tables.h"
+#include "frame/station.h"
+#include "program.h"
+#include "running_program.h"
+
+namespace vatro {
+
+class CountryProgram : public RunningProgram {
+protected:
+    void SetUp() override {
+        BeginProgram();
+        NulstilTabeller();
+        gsFDLib = "data";
+    }
+    void TearDown() override { NulstilTabeller(); }
+
+    static const LandRec& Country(int row) { return Lande[static_cast<std::size_t>(row)]; }
+};
+
+}  // namespace vatro

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "papers/mult_check.h"
+
+#include <gmock/gmock.h>
+
+#include "columns.h"
+#include "paper_program.h"
+
+namespace vatro {
+namespace {
+
+using ::testing::ElementsAre;
+
+const Lines kHead{"       Fieldday log for OZ1AB/P 2026, (Vatro version 1.2.3)", "       Multiplier Checksheet", " "};
+const std::string kModes = "       CW     SSB    CW     SSB    CW     SSB    CW     SSB    CW     SSB    ";
+const Lines kTop = kHead + Lines{" ", "       10m    10m    15m    15m    20m    20m    40m    40m    80m    80m    ", kModes, " "};
+const Lines kLaterTop = kHead + Lines{" ", "       10m           15m           20m           40m           80m           ", kModes};
+
+Lines Multipliers(const std::vector<const char*>& mults) {
+    Lines log;
+    for (const char* mult : mults) log.push_back(Contact({.mult = mult}));
+    return log;
+}
+
+/// M000, M001 and so on.
+Lines Numbered(int n) {
+    Lines log;
+    for (int i = 0; i < n; ++i) {
+        std::string mult = std::to_string(1000 + i);
+        mult.front() = 'M';
+        log.push_back(Contact({.mult = mult.c_str()}));
+    }
+    return log;
+}
+
+class MultCheck : public PaperProgram {
+protected:
+    Lines Sheet() {
+        Choose(frmMain->mnuFilerDanMult);
+        return Paper("Mult.txt");
+    }
+};
+
+TEST_F(MultCheck, WithoutALogHasItsHeadingsAlone) {
+    EXPECT_EQ(Sheet(), kTop);
+    EXPECT_THAT(Progress(), ElementsAre("Dan log", "Multiplier checksheet"));
+    EXPECT_TRUE(IsFree(1));
+    EXPECT_TRUE(IsFree(2));
+}
+
+TEST_F(MultCheck, ShowsTheWorkedTable) {
+    Log("10mCW", Multipliers({"F", "DL"}));
+    Log("10mSSB", Multipliers({"DL"}));
+    Log("15mCW", Multipliers({"DL", "G"}));
+    Log("20mCW", Multipliers({"OH", "G"}));
+    Log("20mSSB", Multipliers({"F", "G"}));
+    Log("40mCW", Multipliers({"DL", "F"}));
+    Log("40mSSB", Multipliers({"F", "DL"}));
+    Log("80mCW", Multipliers({"F", "DL"}));
+    Log("80mSSB", Multipliers({"DL"}));
+    const Lines rows{"       DL     DL     DL            G      F      DL     DL     DL     DL     ",
+                     "       F             G             OH     G      F      F      F             "};
+    EXPECT_EQ(Sheet(), kTop + rows);
+}
+
+TEST_F(MultCheck, TakesContactsWithAMultiplierOnly) {
+    Log("80mSSB", {Contact({.mult = "DL"}), Contact({}), Contact({.points = 0, .mult = "-DUPE-"}), NoteWith("", "G")});
+    const Lines rows{std::string(70, ' ') + "DL     "};
+    EXPECT_EQ(Sheet(), kTop + rows);
+}
+
+TEST_F(MultCheck, SortsByCharacter) {
+    Log("10mCW", Multipliers({"a", "9A", "PA", "A", "3A", "PA0", "PA"}));
+    const Lines sheet = Sheet();
+    ASSERT_EQ(sheet.size(), kTop.size() + 7);
+    std::string column;
+    for (std::size_t i = kTop.size(); i < sheet.size(); ++i) column += sheet[i].substr(7, 4);
+    EXPECT_EQ(column, "3A  9A  A   PA  PA  PA0 a   ");
+}
+
+TEST_F(MultCheck, CutsAMultiplierAtSevenCharacters) {
+    Log("10mCW", Multipliers({"ABCDEFGZZ", "ABCDEFGAA"}));
+    Log("10mSSB", Multipliers({"X"}));
+    const Lines rows{"       ABCDEFGX      " + std::string(56, ' '), "       ABCDEFG" + std::string(63, ' ')};
+    EXPECT_EQ(Sheet(), kTop + rows);
+}
+
+TEST_F(MultCheck, LetsAShortLineMoveTheColumnsToItsRight) {
+    Log("10mCW", {Contact({.mult = "DL"}), ""});
+    Log("10mSSB", Multipliers({"G", "F"}));
+    // The empty cell sorts first and adds no width.
+    const Lines rows{"       F      " + std::string(56, ' '), "       DL     G      " + std::string(56, ' ')};
+    EXPECT_EQ(Sheet(), kTop + rows);
+}
+
+TEST_F(MultCheck, WritesARowOfEmptyCellsAlone) {
+    for (const BåndMode& log : kTiLogge) Log(std::string(log.bånd) + std::string(log.mode), {"x"});
+    EXPECT_EQ(Sheet(), kTop + Lines{"       "});
+}
+
+TEST_F(MultCheck, BeginsTheSecondPageBehindFiftyOneRowsWithNothingBelow) {
+    Log("80mSSB", Numbered(51));
+    const Lines sheet = Sheet();
+    ASSERT_EQ(sheet.size(), kTop.size() + 51 + kLaterTop.size());
+    EXPECT_EQ(sheet[kTop.size() + 50], std::string(70, ' ') + "M050   ");
+    EXPECT_EQ(Lines(sheet.end() - static_cast<std::ptrdiff_t>(kLaterTop.size()), sheet.end()), kLaterTop);
+}
+
+TEST_F(MultCheck, OfFiftyRowsHasOnePage) {
+    Log("80mSSB", Numbered(50));
+    EXPECT_EQ(Sheet().size(), kTop.size() + 50);
+}
+
+TEST_F(MultCheck, HoldsOneHundredRows) {
+    Log("10mCW", Numbered(100));
+    const Lines sheet = Sheet();
+    ASSERT_EQ(sheet.size(), kTop.size() + 51 + kLaterTop.size() + 49);
+    EXPECT_EQ(sheet[kTop.size() + 51 + 1], "       Multiplier Checksheet");
+    EXPECT_EQ(sheet.back(), "       M099   " + std::string(63, ' '));
+    EXPECT_EQ(Trim(sheet[kTop.size() + 51 + kLaterTop.size()]), "M051");
+}
+
+TEST_F(MultCheck, WithAHundredAndOneStopsTheProgram) {
+    Log("15mCW", Numbered(101));
+    Log("80mSSB", Multipliers({"DL"}));
+    MultTable table;
+    MultCount count{};
+    SamlMult({"15m", "CW"}, table, count, 2);
+    EXPECT_EQ(count[2], 101U);
+    EXPECT_EQ(table[2][100], "M099   ");
+    // The file is left open, so that later logs cannot be opened.
+    EXPECT_FALSE(IsFree(1));
+    SamlMult({"80m", "SSB"}, table, count, 9);
+    EXPECT_EQ(count[9], 0U);
+    files.Close(1);
+
+    Choose(frmMain->mnuFilerDanMult);
+    EXPECT_EQ(dialogs.failures, std::vector<int>{9});
+    EXPECT_FALSE(ProgramRuns());
+    EXPECT_EQ(Paper("Mult.txt"), kHead);
+}
+
+TEST_F(MultCheck, StopsTheProgramIfItCannotBeCreated) {
+    files.FailFrom("open", 1, Failure::PathFileAccess);
+    Choose(frmMain->mnuFilerDanMult);
+    EXPECT_EQ(dialogs.failures, std::vector<int>{75});
+}
+
+}  // namespace
+}  // namespace vatro

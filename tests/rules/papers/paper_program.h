@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+//
+// A started program with logs in its directory, whose papers are made from the menu.
+#pragma once
+
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/band_mode.h"
+#include "printing/frmInfo.h"
+#include "running_program.h"
+
+namespace vatro {
+
+using Lines = std::vector<std::string>;
+
+/// What a test line differs in.
+struct Told {
+    const char* call = "DL1AA";
+    int points = 3;
+    const char* mult = "";
+    const char* op = "OZ1AB";
+    const char* mode = "CW";
+    const char* time = "13:05";
+    const char* date = "05-09-26";
+    const char* sent = "599";
+    const char* received = "579";
+};
+
+/// A contact line of 79 columns: 599-0012 579-0034, as far as nothing else is told.
+inline std::string Contact(const Told& told) {
+    char line[120];
+    std::snprintf(line, sizeof line, "%5s %-15s %-3s-0012 %-3s-0034 %2d %-10s %-6s     %-5s %s", told.time, told.call, told.sent,
+                  told.received, told.points, told.mult, told.op, told.mode, told.date);
+    return line;
+}
+
+/// A note that holds these texts at its points and multiplier columns.
+inline std::string NoteWith(const char* points, const char* mult) {
+    char line[120];
+    std::snprintf(line, sizeof line, "NOTE: %-34s%-2s %s", "ny antenne", points, mult);
+    return line;
+}
+
+inline Lines Times(std::size_t n, const std::string& line) {
+    return Lines(n, line);
+}
+
+inline Lines operator+(Lines a, const Lines& b) {
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
+
+class PaperProgram : public RunningProgram {
+protected:
+    PaperProgram() {
+        files.files["DATA\\LANDE.TXT"] = {"DL        Fed. Rep. of Germany     EU -1 ", "G         England                  EU 0  ",
+                                          "OZ        Denmark                  EU -1 ", "VK        Australia                OC -10"};
+        files.files["DATA\\REFPFX.TXT"] = {"DL        DL        14 28", "G         G         14 27", "OZ        OZ        14 18",
+                                           "VK        VK        30 59"};
+        settings.texts["SETTINGS/MYCALL"] = "OZ1AB/P";
+        Start();
+    }
+
+    /// The log of "80mCW"; texts in UTF-8.
+    void Log(std::string_view bandMode, const Lines& lines) {
+        Lines& file = files.files[UpperText("log\\FD" + std::string(bandMode) + ".txt")];
+        file.clear();
+        for (const std::string& line : lines) file.push_back(FromUtf8(line));
+    }
+    static void Choose(MenuItem& item) {
+        Dispatch([&item] { item.Choose(); });
+    }
+    Lines Paper(const std::string& name) { return LinesOf("log\\" + name); }
+    bool HasPaper(const std::string& name) { return files.files.contains(UpperText("log\\" + name)); }
+    /// The paper as it stands on the disk, in UTF-8.
+    std::string Bytes(const std::string& name) {
+        std::string bytes;
+        for (const std::string& line : Paper(name)) bytes += line + "\r\n";
+        return bytes;
+    }
+    /// The title of the progress window, then its list; in UTF-8.
+    static Lines Progress() {
+        if (!frmInfo.Loaded()) return {};
+        Lines shown{ToUtf8(frmInfo->Caption())};
+        for (const std::string& item : frmInfo->List1.Items()) shown.push_back(ToUtf8(item));
+        return shown;
+    }
+    bool IsFree(int number) {
+        try {
+            files.Open(number, "data\\edr.txt", FileMode::Input);
+        } catch (const RunTimeError&) {
+            return false;
+        }
+        files.Close(number);
+        return true;
+    }
+};
+
+}  // namespace vatro

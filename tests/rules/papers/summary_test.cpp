@@ -1,0 +1,272 @@
+// SPDX-License-Identifier: MIT
+#include "papers/summary.h"
+
+#include <gmock/gmock.h>
+
+#include "exchange/equipment.h"
+#include "frame/station.h"
+#include "paper_program.h"
+#include "score/stations.h"
+
+namespace vatro {
+namespace {
+
+using ::testing::ElementsAre;
+
+class Summary : public PaperProgram {
+protected:
+    Lines Sheet() {
+        Choose(frmMain->mnuEfterSummary);
+        return Paper("Summary.txt");
+    }
+    static BandSum Counted(const BåndMode& log, std::string operators = {}) {
+        BandSum sum;
+        SumLog(log, sum, operators);
+        return sum;
+    }
+    static std::string Sorted(std::string operators) {
+        SortOper(operators);
+        return operators;
+    }
+};
+
+constexpr BåndMode k80mCW{"80m", "CW"};
+
+const Lines kNothing{
+    "Sammentællingsblad for EDR's HF Fieldday for lokalafdelinger",
+    " ",
+    "Kaldesignal: OZ1AB/P        Kategori: A   Antal logsider: ",
+    " ",
+    "Navn: ",
+    " ",
+    "Operatørernes kaldesignaler: ",
+    " ",
+    "Bånd        QSOs - Dubs  Mults x Points = Band score  Mult total x Points total = Bandscore total  Stn/Ant",
+    "3,5 MHz CW       0           0 x      0 =        0                                                 /",
+    "3,5 MHz SSB      0           0 x      0 =        0             0 x            0 =               0",
+    "  7 MHz CW       0           0 x      0 =        0                                                 /",
+    "  7 MHz SSB      0           0 x      0 =        0             0 x            0 =               0",
+    " 14 MHz CW       0           0 x      0 =        0                                                 /",
+    " 14 MHz SSB      0           0 x      0 =        0             0 x            0 =               0",
+    " 21 MHz CW       0           0 x      0 =        0                                                 /",
+    " 21 MHz SSB      0           0 x      0 =        0             0 x            0 =               0",
+    " 28 MHz CW       0           0 x      0 =        0                                                 /",
+    " 28 MHz SSB      0           0 x      0 =        0             0 x            0 =               0",
+    " ",
+    "Total:           0                                             0 x            0 =               0",
+    " ",
+    "Ansvarshavende/Formand",
+    " ",
+    " ",
+    "Telefon (hvis der er spørgsmål): ",
+};
+
+TEST_F(Summary, WithoutALogHasAllItsLines) {
+    EXPECT_EQ(Sheet(), kNothing);
+    EXPECT_THAT(Progress(), ElementsAre("Dan log", "Summary"));
+    EXPECT_TRUE(IsFree(1));
+    EXPECT_TRUE(IsFree(2));
+}
+
+TEST_F(Summary, ShowsTheRowsOfTheWorkedExample) {
+    // 120 contacts, 31 multipliers, 240 points; 80, 22, 160.
+    Log("80mCW", Times(31, Contact({.points = 2, .mult = "DL"})) + Times(89, Contact({.points = 2})));
+    Log("80mSSB", Times(22, Contact({.points = 2, .mult = "DL"})) + Times(58, Contact({.points = 2})));
+    // And what is missing of the 640, 215 and 1610.
+    Log("20mCW", Times(162, Contact({.points = 3, .mult = "DL"})) + Times(200, Contact({.points = 3})) + Lines{Contact({.points = 10})} +
+                     Times(77, Contact({.points = 1})));
+    Log("10mCW", {NoteWith("37", "")});
+    gsRig[0] = "IC-751";
+    gsAnt[0] = "Dipol";
+    const Lines sheet = Sheet();
+    EXPECT_EQ(sheet[8], "Bånd        QSOs - Dubs  Mults x Points = Band score  Mult total x Points total = Bandscore total  Stn/Ant");
+    EXPECT_EQ(sheet[9], "3,5 MHz CW     120          31 x    240 =     7440                                                 IC-751/Dipol");
+    EXPECT_EQ(sheet[10], "3,5 MHz SSB     80          22 x    160 =     3520            53 x          400 =           21200");
+    EXPECT_EQ(sheet[20], "Total:         640                                           215 x         1610 =          346150");
+}
+
+TEST_F(Summary, TakesEachRowFromItsLog) {
+    // Points tell the logs apart.
+    int points = 0;
+    for (const char* log : {"80mCW", "80mSSB", "40mCW", "40mSSB", "20mCW", "20mSSB", "15mCW", "15mSSB", "10mCW", "10mSSB"})
+        Log(log, {Contact({.points = ++points, .mult = "DL"})});
+    const Lines sheet = Sheet();
+    EXPECT_EQ(sheet[9], "3,5 MHz CW       1           1 x      1 =        1                                                 /");
+    EXPECT_EQ(sheet[10], "3,5 MHz SSB      1           1 x      2 =        2             2 x            3 =               6");
+    EXPECT_EQ(sheet[11], "  7 MHz CW       1           1 x      3 =        3                                                 /");
+    EXPECT_EQ(sheet[12], "  7 MHz SSB      1           1 x      4 =        4             2 x            7 =              14");
+    EXPECT_EQ(sheet[13], " 14 MHz CW       1           1 x      5 =        5                                                 /");
+    EXPECT_EQ(sheet[14], " 14 MHz SSB      1           1 x      6 =        6             2 x           11 =              22");
+    EXPECT_EQ(sheet[15], " 21 MHz CW       1           1 x      7 =        7                                                 /");
+    EXPECT_EQ(sheet[16], " 21 MHz SSB      1           1 x      8 =        8             2 x           15 =              30");
+    EXPECT_EQ(sheet[17], " 28 MHz CW       1           1 x      9 =        9                                                 /");
+    EXPECT_EQ(sheet[18], " 28 MHz SSB      1           1 x     10 =       10             2 x           19 =              38");
+    EXPECT_EQ(sheet[20], "Total:          10                                            10 x           55 =             550");
+}
+
+TEST_F(Summary, CountsEachKindOfLineAtItsEdges) {
+    struct Case {
+        const char* what;
+        std::string line;
+        int qsos, mults, points;
+        const char* operators;
+    };
+    const std::vector<Case> cases{
+        {"no multiplier", Contact({.points = 3}), 1, 0, 3, ",OZ1AB"},
+        {"multiplier", Contact({.points = 6, .mult = "VK"}), 1, 1, 6, ",OZ1AB"},
+        {"duplicate", Contact({.points = 0, .mult = "-DUPE-"}), 0, 0, 0, ",OZ1AB"},
+        {"duplicate with points", Contact({.points = 4, .mult = "-DUPE-"}), 0, 0, 4, ",OZ1AB"},
+        {"short note", "NOTE: x", 0, 0, 0, ","},
+        {"note with points and a multiplier", NoteWith("17", "DL"), 0, 0, 17, ","},
+        {"note that reaches column 55", "NOTE: " + std::string(48, '.') + "abcdefgh", 0, 0, 0, ",abcdef"},
+        {"mark in lower case", "note: x", 1, 1, 0, ","},
+        {"imported contact", Contact({.points = 3, .mult = "DL", .op = "CT-IMP"}), 1, 1, 3, ""},
+        {"empty line", "", 1, 1, 0, ","},
+        {"line that ends at column 42", Contact({.points = 5}).substr(0, 42), 1, 1, 5, ","},
+        {"line that ends at column 44, a blank", Contact({.points = 5}).substr(0, 44), 1, 0, 5, ","},
+        {"duplicate mark in lower case", Contact({.points = 0, .mult = "-dupe-"}), 1, 1, 0, ",OZ1AB"},
+        {"blanks before the operator", Contact({.op = " OZ1A"}), 1, 0, 3, ", OZ1A"},
+    };
+    for (const Case& told : cases) {
+        Log("80mCW", {told.line});
+        BandSum sum;
+        std::string operators;
+        SumLog(k80mCW, sum, operators);
+        EXPECT_EQ(sum.QSOs, told.qsos) << told.what;
+        EXPECT_EQ(sum.Mults, told.mults) << told.what;
+        EXPECT_EQ(sum.Points, told.points) << told.what;
+        EXPECT_EQ(operators, told.operators) << told.what;
+    }
+}
+
+TEST_F(Summary, AddsToWhatItIsGiven) {
+    Log("80mCW", {Contact({.points = 6, .mult = "VK"})});
+    BandSum sum{{.Points = 10, .Mults = 20}, 30};
+    std::string operators = ",OZ9Z";
+    SumLog(k80mCW, sum, operators);
+    EXPECT_EQ(sum.QSOs, 31);
+    EXPECT_EQ(sum.Mults, 21);
+    EXPECT_EQ(sum.Points, 16);
+    EXPECT_EQ(operators, ",OZ9Z,OZ1AB");
+}
+
+TEST_F(Summary, DoesNotAddAnOperatorWhoseCallIsPartOfAnother) {
+    Log("80mCW", {Contact({.op = "OZ1AB"}), Contact({.op = "OZ1A"}), Contact({.op = "oz1a"})});
+    EXPECT_EQ(Sheet()[6], "Operatørernes kaldesignaler: OZ1AB, oz1a");
+    Log("80mCW", {Contact({.op = "OZ1A"}), Contact({.op = "OZ1AB"})});
+    EXPECT_EQ(Sheet()[6], "Operatørernes kaldesignaler: OZ1A, OZ1AB");
+}
+
+TEST_F(Summary, ListsTheOperatorsOfAllLogsSortedByCharacter) {
+    Log("10mCW", {Contact({.op = "OZ9Z"}), Contact({.op = "ab1c"})});
+    Log("80mSSB", {Contact({.op = "5P1A"}), Contact({.op = "OZ1AB", .mode = "SSB"}), Contact({.op = "OZ9Z"})});
+    EXPECT_EQ(Sheet()[6], "Operatørernes kaldesignaler: 5P1A, OZ1AB, OZ9Z, ab1c");
+}
+
+TEST_F(Summary, BeginsTheListWithTheNobodyOfAnEmptyFirstLine) {
+    Log("80mCW", {"", Contact({.op = "OZ1AB"})});
+    EXPECT_EQ(Sheet()[6], "Operatørernes kaldesignaler: , OZ1AB");
+}
+
+TEST_F(Summary, ListsTheOperatorsOfDuplicatesAlone) {
+    Log("80mCW", Times(3, Contact({.points = 0, .mult = "-DUPE-"})));
+    const Lines sheet = Sheet();
+    EXPECT_EQ(sheet[6], "Operatørernes kaldesignaler: OZ1AB");
+    EXPECT_EQ(sheet[9], "3,5 MHz CW       0           0 x      0 =        0                                                 /");
+}
+
+TEST_F(Summary, SortsNoneOneAndManyOperators) {
+    EXPECT_EQ(Sorted(""), "");
+    EXPECT_EQ(Sorted("OZ1AB"), "OZ1AB");
+    EXPECT_EQ(Sorted("b,a,A,9,aa,\xE6"), "9, A, a, aa, b, \xE6");
+    EXPECT_EQ(Sorted(",x"), ", x");
+    EXPECT_EQ(Sorted("x,"), ", x");
+}
+
+TEST_F(Summary, NamesTheStationOfTheSocietysList) {
+    files.files["DATA\\EDR.TXT"] = {"OZ1A   Afdeling Syd", "OZ1AB  Afdeling Nord, formand", "OZ1AB  Afdeling Vest"};
+    IndlæsEDR();
+    EXPECT_EQ(Sheet()[4], "Navn: Afdeling Nord, formand" + std::string(73 - 22, ' '));
+    gsMyCall = "OZ1AB";
+    EXPECT_EQ(Sheet()[4], "Navn: ");
+    gsMyCall = "oz1ab/P";
+    EXPECT_EQ(Sheet()[4], "Navn: ");
+}
+
+TEST_F(Summary, FillsToTheNextPrintZone) {
+    const auto line = [this](const char* call, const char* klasse) {
+        gsMyCall = call;
+        gsKlasse = klasse;
+        return Sheet()[2];
+    };
+    EXPECT_EQ(line("", "B"), "Kaldesignal:  Kategori: B   Antal logsider: ");
+    // 14 characters fill a zone: the next one begins 14 further on.
+    EXPECT_EQ(line("X", "B"), "Kaldesignal: X              Kategori: B   Antal logsider: ");
+    EXPECT_EQ(line("OZ1ABCDEFGHIJK", "B"), "Kaldesignal: OZ1ABCDEFGHIJK Kategori: B   Antal logsider: ");
+}
+
+TEST_F(Summary, TellsTheTelephoneUnlessItIsTheDefault) {
+    gsTelefon = "87654321";
+    EXPECT_EQ(Sheet()[25], "Telefon (hvis der er spørgsmål): 87654321");
+    gsTelefon = "12345678";
+    EXPECT_EQ(Sheet()[25], "Telefon (hvis der er spørgsmål): ");
+    gsTelefon = "";
+    EXPECT_EQ(Sheet()[25], "Telefon (hvis der er spørgsmål): ");
+}
+
+TEST_F(Summary, PutsTheEquipmentOnTheCwRowOfItsBand) {
+    for (std::size_t i = 0; i < 5; ++i) {
+        gsRig[i] = "R" + std::string(kUdstyrBånd[i]);
+        gsAnt[i] = "A" + std::string(kUdstyrBånd[i]);
+    }
+    const Lines sheet = Sheet();
+    EXPECT_EQ(sheet[9].substr(99), "R80/A80");
+    EXPECT_EQ(sheet[11].substr(99), "R40/A40");
+    EXPECT_EQ(sheet[13].substr(99), "R20/A20");
+    EXPECT_EQ(sheet[15].substr(99), "R15/A15");
+    EXPECT_EQ(sheet[17].substr(99), "R10/A10");
+    EXPECT_EQ(sheet[10].size(), 97U);
+}
+
+TEST_F(Summary, PassesOverALogThatCannotBeOpened) {
+    Log("80mCW", {Contact({})});
+    files.Open(1, "data\\edr.txt", FileMode::Input);
+    EXPECT_EQ(Counted(k80mCW).QSOs, 0);
+    files.Close(1);
+    EXPECT_EQ(Counted(k80mCW).QSOs, 1);
+}
+
+TEST_F(Summary, KeepsWhatWasCountedBeforeAFailureAndLeavesTheFileOpen) {
+    Log("80mCW", Times(5, Contact({})));
+    files.FailFrom("read", 3, Failure::DiskNotReady);
+    EXPECT_EQ(Counted(k80mCW).QSOs, 2);
+    files.FailFrom("read", 1000, Failure::DiskNotReady);
+    EXPECT_FALSE(IsFree(1));
+}
+
+TEST_F(Summary, StopsTheProgramIfItCannotBeCreated) {
+    files.FailFrom("open", 11, Failure::PathNotFound);
+    Choose(frmMain->mnuEfterSummary);
+    EXPECT_EQ(dialogs.failures, std::vector<int>{76});
+    EXPECT_FALSE(ProgramRuns());
+}
+
+TEST_F(Summary, StopsTheProgramWhenAScoreOverflows) {
+    // 4,700 multipliers times 465,300 points.
+    Log("80mCW", Times(4700, Contact({.points = 99, .mult = "DL"})));
+    Choose(frmMain->mnuEfterSummary);
+    EXPECT_EQ(dialogs.failures, std::vector<int>{6});
+    EXPECT_FALSE(HasPaper("Summary.txt"));
+}
+
+TEST_F(Summary, StopsTheProgramWhenOnlyTheTotalOverflows) {
+    // 4,000 times 396,000 in each of two bands fits, 8,000 times 792,000 does not.
+    const Lines log = Times(4000, Contact({.points = 99, .mult = "DL"}));
+    Log("80mCW", log);
+    Log("10mSSB", log);
+    Choose(frmMain->mnuEfterSummary);
+    EXPECT_EQ(dialogs.failures, std::vector<int>{6});
+}
+
+}  // namespace
+}  // namespace vatro
