@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/error_list.h"
+#include "frame/state.h"
 
 #include <gmock/gmock.h>
 
@@ -322,9 +323,9 @@ TEST_F(ErrorList, LoadsTheCurrentLogAgainAndResetsTheEntry) {
         frmMain->Text1[1].SetText("DL9XX");
     });
     List();
-    EXPECT_EQ(glPoint, 3);
-    EXPECT_EQ(giMult, 1);
-    EXPECT_EQ(giQSOnr, 13);
+    EXPECT_EQ(desk().log.glPoint, 3);
+    EXPECT_EQ(desk().giMult, 1);
+    EXPECT_EQ(desk().log.giQSOnr, 13);
     EXPECT_EQ(frmMain->Text1[1].Text(), "");
     EXPECT_EQ(frmMain->Text1[3].Text(), "0013");
     std::string status;
