@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "frame/start.h"
+
 #include "frame/state.h"
+#include "frame/version.h"
 
 #include "entry/frmB4.h"
 #include "entry/frmContestCall.h"

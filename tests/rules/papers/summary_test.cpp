@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "papers/summary.h"
+
 #include "frame/state.h"
+#include "tables/load_tables.h"
 
 #include <gmock/gmock.h>
 
