@@ -33,15 +33,6 @@ using Colour = int;
 inline constexpr Colour kBlack = 0;
 inline constexpr Colour kRed = 255;
 
-struct Font {
-    std::string name;
-    /// In points.
-    double size = 0;
-    bool bold = false;
-    bool underline = false;
-    friend bool operator==(const Font&, const Font&) = default;
-};
-
 /// How the focus comes to a control: with the mouse, or by key or program.
 enum class FocusWay { Key, Mouse };
 

@@ -11,7 +11,9 @@
 #include "bars.h"
 #include "buttons.h"
 #include "control.h"
+#include "font.h"
 #include "lists.h"
+#include "platform.h"
 #include "text_controls.h"
 
 namespace vatro {
@@ -121,22 +123,20 @@ private:
 };
 
 /// Ticks on the clock service: every Interval milliseconds while it is enabled and its interval is above 0.
-class Timer : public Control {
+class Timer : public Control, public Ticker {
 public:
     Timer(Form& form, std::string_view name, int interval) : Control(form, name), interval_(interval) {}
     ~Timer() override;
-    /// Milliseconds.
-    int Interval() const { return interval_; }
+    int Interval() const override { return interval_; }
     /// The next tick falls due one interval from now.
     void SetInterval(int milliseconds);
-    /// Whether it ticks.
-    bool Running() const { return running_ && interval_ > 0; }
+    bool Running() const override { return running_ && interval_ > 0; }
     void SetRunning(bool running);
 
     std::function<void()> OnTimer;
 
-    // From the front.
-    void Tick();
+    // From the clock.
+    void Tick() override;
 
 private:
     int interval_;

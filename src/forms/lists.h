@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "control.h"
+#include "font.h"
 #include "text_controls.h"
 
 namespace vatro {

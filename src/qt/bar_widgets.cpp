@@ -14,7 +14,7 @@
 #include "deliver.h"
 #include "fields.h"
 #include "forms.h"
-#include "front.h"
+#include "qt_front.h"
 #include "qt_text.h"
 #include "window.h"
 

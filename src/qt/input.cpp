@@ -17,7 +17,7 @@
 #include "codepage.h"
 #include "deliver.h"
 #include "field_characters.h"
-#include "front.h"
+#include "qt_front.h"
 #include "qt_text.h"
 
 namespace vatro {
@@ -58,7 +58,7 @@ std::optional<ScrollBar::Move> MoveOf(int key) {
 
 /// Whether only what keys can bring gets into a field.
 bool FiltersPaste() {
-    const auto* front = dynamic_cast<const QtFront*>(&platform().front);
+    const auto* front = dynamic_cast<const QtFront*>(&InstalledFront());
     return front != nullptr && front->filterPaste;
 }
 

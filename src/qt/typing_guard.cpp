@@ -16,10 +16,10 @@
 #include "entry/frmMain.h"
 #include "entry/qso_fields.h"
 #include "field_mark.h"
-#include "front.h"
 #include "input.h"
 #include "item_list.h"
 #include "keyer/frmCWTX.h"
+#include "qt_front.h"
 #include "window.h"
 
 namespace vatro {

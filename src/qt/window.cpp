@@ -16,9 +16,9 @@
 #include "column_head.h"
 #include "deliver.h"
 #include "fields.h"
-#include "front.h"
 #include "input.h"
 #include "layouts.h"
+#include "qt_front.h"
 #include "qt_text.h"
 
 namespace vatro {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "driver.h"
-#include "front.h"
+#include "qt_front.h"
 
 class QMessageBox;
 class QWidget;

@@ -233,8 +233,4 @@ double MemoryFront::TextWidth(std::string_view text, const Font& font) {
     return SceneTextWidth(text, font);
 }
 
-double MemoryFront::TextHeight(const Font& font) {
-    return SceneTextHeight(font);
-}
-
 }  // namespace vatro

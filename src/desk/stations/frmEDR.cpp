@@ -3,6 +3,7 @@
 
 #include "codepage.h"
 #include "frame/settings.h"
+#include "front.h"
 #include "platform.h"
 #include "score/stations.h"
 
@@ -40,7 +41,7 @@ void FrmEDR::StoreState() {
 
 void FrmEDR::Form_Resize() {
     if (kKnapHøjde * 3 >= Height()) SetHeight(kKnapHøjde * 3);
-    const int mindst = static_cast<int>(kKolonner * platform().front.TextWidth(kBredtCall, kVinduesskrift) * kTwipsPrPunkt);
+    const int mindst = static_cast<int>(kKolonner * InstalledFront().TextWidth(kBredtCall, kVinduesskrift) * kTwipsPrPunkt);
     if (mindst >= Width()) SetWidth(mindst);
 }
 

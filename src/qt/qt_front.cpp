@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "front.h"
+#include "qt_front.h"
 
 #include <QApplication>
 #include <QFontMetricsF>
@@ -29,7 +29,7 @@ bool TicksHeld() {
 }
 
 void FollowFocusSoon(Form& form) {
-    const auto* front = dynamic_cast<QtFront*>(&platform().front);
+    const auto* front = dynamic_cast<QtFront*>(&InstalledFront());
     FormWindow* window = front != nullptr ? front->WindowOf(form) : nullptr;
     if (window != nullptr) QTimer::singleShot(0, &window->Scope(), [window] { window->FollowFocus(); });
 }
@@ -183,11 +183,6 @@ void QtFront::DoEvents() {
 double QtFront::TextWidth(std::string_view text, const Font& font) {
     const QFontMetricsF metrics(MeasureFont(ToQt(font.name), font.bold));
     return metrics.horizontalAdvance(ToQt(text)) / kMeasurePixels * font.size;
-}
-
-double QtFront::TextHeight(const Font& font) {
-    const QFontMetricsF metrics(MeasureFont(ToQt(font.name), font.bold));
-    return metrics.height() / kMeasurePixels * font.size;
 }
 
 void QtFront::Ended() {

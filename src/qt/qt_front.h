@@ -10,7 +10,7 @@
 #include <set>
 
 #include "forms.h"
-#include "platform.h"
+#include "front.h"
 
 class QWidget;
 
@@ -33,7 +33,6 @@ public:
     void Refresh(Form& form) override;
     void DoEvents() override;
     double TextWidth(std::string_view text, const Font& font) override;
-    double TextHeight(const Font& font) override;
     void Ended() override;
 
     /// The window of a loaded form, or nothing.
