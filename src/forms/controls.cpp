@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "forms.h"
+#include "form.h"
 #include "front.h"
 #include "numbers.h"
 #include "platform.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "program.h"
 
-#include "forms.h"
+#include "form.h"
 #include "front.h"
 #include "platform.h"
 

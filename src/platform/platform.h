@@ -16,6 +16,7 @@ namespace vatro {
 
 class PageSurface;
 class Sound;
+class Ticker;
 
 enum class Buttons { Ok, YesNo };
 enum class Icon { None, Information, Question, Exclamation, Critical };
@@ -123,18 +124,6 @@ public:
     virtual std::string CurrentDirectory() = 0;
     /// Backslash on Windows, slash elsewhere.
     virtual char Separator() const = 0;
-};
-
-/// Something that ticks at an interval: a timer of a form.
-class Ticker {
-public:
-    virtual ~Ticker() = default;
-    /// Milliseconds between two ticks.
-    virtual int Interval() const = 0;
-    /// Whether it ticks at all.
-    virtual bool Running() const = 0;
-    /// One interval has passed. Called by the clock inside an event of its own.
-    virtual void Tick() = 0;
 };
 
 /// The only source of time.

@@ -11,6 +11,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "by_kind.h"
 #include "deliver.h"
 #include "fields.h"
 #include "forms.h"
@@ -83,20 +84,21 @@ void AddBars(const Form& form, QMainWindow& window) {
     // Qt's menu of a main window hides toolbars, which the form knows nothing of.
     window.setContextMenuPolicy(Qt::NoContextMenu);
     for (const Control* control : form.Controls()) {
-        if (dynamic_cast<const Toolbar*>(control) != nullptr) {
-            auto* bar = new QToolBar(&window);
-            bar->setObjectName(ObjectName(*control));
-            bar->setMovable(false);
-            window.addToolBar(bar);
-        } else if (dynamic_cast<const StatusBar*>(control) != nullptr) {
-            window.statusBar()->setObjectName(ObjectName(*control));
-        }
+        ByKind(
+            *control,
+            [&window](const Toolbar& toolbar) {
+                auto* bar = new QToolBar(&window);
+                bar->setObjectName(ObjectName(toolbar));
+                bar->setMovable(false);
+                window.addToolBar(bar);
+            },
+            [&window](const StatusBar& bar) { window.statusBar()->setObjectName(ObjectName(bar)); }, [](const Control&) {});
     }
 }
 
 void BindMenu(Form& form, QMainWindow& window, QObject& scope) {
     for (Control* control : form.Controls()) {
-        auto* item = dynamic_cast<MenuItem*>(control);
+        auto* item = As<MenuItem>(control);
         if (item == nullptr || item->Menu() != nullptr) continue;
         QMenu* menu = window.menuBar()->addMenu(ToQt(item->Caption()));
         QAction* action = AddMenu(*item, *menu, scope);

@@ -18,6 +18,7 @@
 #include <set>
 
 #include "bar_widgets.h"
+#include "by_kind.h"
 #include "column_head.h"
 #include "fields.h"
 #include "forms.h"
@@ -30,39 +31,39 @@ namespace vatro {
 
 namespace {
 
-/// Binds if control and widget are of these classes.
-template <class C, class W>
-bool BindPair(Control& control, QWidget& widget, FormWindow& window) {
-    auto* c = dynamic_cast<C*>(&control);
-    auto* w = dynamic_cast<W*>(&widget);
-    if (c == nullptr || w == nullptr) return false;
-    Bind(*c, *w, window);
-    return true;
+/// Binds the control if the widget is of one of these classes; a class stands before the one that it is derived from.
+template <class... W, class C>
+bool BindAs(C& control, QWidget& widget, FormWindow& window) {
+    const auto bind = [&](auto* own) {
+        if (own == nullptr) return false;
+        Bind(control, *own, window);
+        return true;
+    };
+    return (bind(qobject_cast<W*>(&widget)) || ...);
 }
 
-/// The pairs there are; a class stands before the one that it is derived from.
-constexpr bool (*kPairs[])(Control&, QWidget&, FormWindow&) = {
-    BindPair<TextBox, QLineEdit>,
-    BindPair<TextView, QPlainTextEdit>,
-    BindPair<Picture, PictureView>,
-    BindPair<ComboBox, QComboBox>,
-    BindPair<ListBox, ItemList>,
-    BindPair<Button, QPushButton>,
-    BindPair<CheckBox, QCheckBox>,
-    BindPair<OptionButton, QRadioButton>,
-    BindPair<ScrollBar, QScrollBar>,
-    BindPair<Label, FittedText>,
-    BindPair<Label, QLabel>,
-    BindPair<Label, ColumnHead>,
-    BindPair<Frame, QFrame>,
-    BindPair<Toolbar, QToolBar>,
-    BindPair<StatusBar, QStatusBar>,
-    BindPair<UpDown, SpinArrows>,
-    BindPair<ProgressBar, QProgressBar>,
-};
+/// The pairs of control and widget that there are.
+bool BindPair(Control& control, QWidget& widget, FormWindow& window) {
+    return ByKind(
+        control, [&](TextBox& c) { return BindAs<QLineEdit>(c, widget, window); },
+        [&](TextView& c) { return BindAs<QPlainTextEdit>(c, widget, window); },
+        [&](Picture& c) { return BindAs<PictureView>(c, widget, window); },
+        [&](ComboBox& c) { return BindAs<QComboBox>(c, widget, window); }, [&](ListBox& c) { return BindAs<ItemList>(c, widget, window); },
+        [&](Button& c) { return BindAs<QPushButton>(c, widget, window); },
+        [&](CheckBox& c) { return BindAs<QCheckBox>(c, widget, window); },
+        [&](OptionButton& c) { return BindAs<QRadioButton>(c, widget, window); },
+        [&](ScrollBar& c) { return BindAs<QScrollBar>(c, widget, window); },
+        [&](Label& c) { return BindAs<FittedText, QLabel, ColumnHead>(c, widget, window); },
+        [&](Frame& c) { return BindAs<QFrame>(c, widget, window); }, [&](Toolbar& c) { return BindAs<QToolBar>(c, widget, window); },
+        [&](StatusBar& c) { return BindAs<QStatusBar>(c, widget, window); },
+        [&](UpDown& c) { return BindAs<SpinArrows>(c, widget, window); },
+        [&](ProgressBar& c) { return BindAs<QProgressBar>(c, widget, window); },
+        // The one shows nothing, the other is an action of the menu bar.
+        [](Timer&) { return false; }, [](MenuItem&) { return false; });
+}
 
 bool HasWidget(const Control& control) {
-    return dynamic_cast<const Timer*>(&control) == nullptr && dynamic_cast<const MenuItem*>(&control) == nullptr;
+    return As<Timer>(&control) == nullptr && As<MenuItem>(&control) == nullptr;
 }
 
 /// The widgets of the window itself, without those of windows above it.
@@ -80,11 +81,9 @@ QString Spoken(const std::string& caption) {
 
 /// What the control is called where it is not seen.
 QString SpokenName(const Control& control) {
-    if (const auto* button = dynamic_cast<const Button*>(&control)) return Spoken(button->Caption());
-    if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return Spoken(box->Caption());
-    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return Spoken(option->Caption());
+    if (const auto* captioned = As<CaptionedControl>(&control)) return Spoken(captioned->Caption());
     for (const Control* other : control.Parent().Controls()) {
-        const auto* label = dynamic_cast<const Label*>(other);
+        const auto* label = As<Label>(other);
         if (label != nullptr && label->AccessTarget() == &control) return Spoken(label->Caption());
     }
     const QString tip = ToQt(control.ToolTip());
@@ -111,13 +110,12 @@ void BindOne(Control& control, FormWindow& window) {
     }
     QWidget& widget = *widgets.front();
     window.Enter(control, widget);
-    for (const auto& bind : kPairs) {
-        if (!bind(control, widget, window)) continue;
-        if (control.TakesFocus()) NameWidget(control, widget, window);
+    if (!BindPair(control, widget, window)) {
+        window.AddProblem(
+            QStringLiteral("%1 cannot be tied to a %2").arg(ObjectName(control), QLatin1String(widget.metaObject()->className())));
         return;
     }
-    window.AddProblem(
-        QStringLiteral("%1 cannot be tied to a %2").arg(ObjectName(control), QLatin1String(widget.metaObject()->className())));
+    if (control.TakesFocus()) NameWidget(control, widget, window);
 }
 
 bool Bindable(const QWidget& widget) {
@@ -141,7 +139,7 @@ void FindOrphans(const Form& form, FormWindow& window) {
     std::set<QString> known{QStringLiteral("FormCaption")};
     for (const Control* control : form.Controls()) {
         known.insert(ObjectName(*control));
-        if (dynamic_cast<const Frame*>(control) != nullptr) known.insert(ObjectName(*control) + QStringLiteral("Caption"));
+        if (As<Frame>(control) != nullptr) known.insert(ObjectName(*control) + QStringLiteral("Caption"));
     }
     for (const QWidget* widget : WidgetsOf(window)) {
         if (!Bindable(*widget) || known.count(widget->objectName()) > 0) continue;

@@ -5,6 +5,7 @@
 
 #include "deliver.h"
 #include "qt_front.h"
+#include "ticker.h"
 
 namespace vatro {
 

@@ -174,16 +174,21 @@ bool Input::TakeKeyEvent(QKeyEvent& event) {
     if (key) return !TakeKey(*key);
     if (plain && TakeMove(event.key())) return true;
     // Qt walks from button to button with the arrows; the form knows only Tab.
-    const bool own = dynamic_cast<ListBox*>(control_) != nullptr || dynamic_cast<TextView*>(control_) != nullptr;
+    const bool own = As<ListBox>(control_) != nullptr || As<TextView>(control_) != nullptr;
     return IsArrow(event.key()) && editor_ == nullptr && !own;
 }
 
 bool Input::TakeMove(int key) {
     std::function<void()> taken;
-    if (auto* option = dynamic_cast<OptionButton*>(control_); option != nullptr && IsArrow(key))
-        taken = [option, back = key == Qt::Key_Left || key == Qt::Key_Up] { option->UserArrow(back); };
-    if (auto* bar = dynamic_cast<ScrollBar*>(control_))
-        if (const auto move = MoveOf(key)) taken = [bar, move] { bar->UserMoved(*move); };
+    ByKind(
+        *control_,
+        [&](OptionButton& option) {
+            if (IsArrow(key)) taken = [&option, back = key == Qt::Key_Left || key == Qt::Key_Up] { option.UserArrow(back); };
+        },
+        [&](ScrollBar& bar) {
+            if (const auto move = MoveOf(key)) taken = [&bar, move] { bar.UserMoved(*move); };
+        },
+        [](Control&) {});
     if (!taken) return false;
     Deliver([&] {
         if (control_->Parent().Reachable() && control_->Enabled()) taken();
@@ -201,16 +206,17 @@ bool Input::TakeKey(KeyCode key) {
         KeyCode taken = control_->PressKey(key);
         if (self != nullptr && control_ != nullptr && Text() != nullptr && FiltersPaste()) taken = CharacterInto(*Text(), taken);
         if (taken == kNoKey || self == nullptr || control_ == nullptr) return;
-        if (editor_ != nullptr) {
-            Edit(taken);
-        } else if (auto* button = dynamic_cast<Button*>(control_)) {
-            if (taken == kEnter) button->Press();
-            wanted = taken == kSpace;
-        } else if (auto* option = dynamic_cast<OptionButton*>(control_)) {
-            if (taken == kSpace) option->UserChosen(FocusWay::Key);
-        } else {
-            wanted = taken == kSpace && dynamic_cast<CheckBox*>(control_) != nullptr;
-        }
+        if (editor_ != nullptr) return Edit(taken);
+        ByKind(
+            *control_,
+            [&](Button& button) {
+                if (taken == kEnter) button.Press();
+                wanted = taken == kSpace;
+            },
+            [&](OptionButton& option) {
+                if (taken == kSpace) option.UserChosen(FocusWay::Key);
+            },
+            [&](CheckBox&) { wanted = taken == kSpace; }, [](Control&) {});
     });
     return wanted;
 }

@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <optional>
 
+#include "by_kind.h"
 #include "forms.h"
 
 class QKeyEvent;
@@ -50,7 +51,7 @@ private:
     /// The ways to paste that Qt would go by itself: middle button, drop, context menu. True if the event is done with.
     bool TakeForeignText(QEvent& event);
     void OpenContextMenu(const QPoint& at);
-    TextControl* Text() const { return dynamic_cast<TextControl*>(control_); }
+    TextControl* Text() const { return As<TextControl>(control_); }
 
     Control* control_;
     QPointer<QWidget> widget_;

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "program.h"
+#include "ticker.h"
 
 namespace vatro {
 

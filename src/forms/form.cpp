@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "forms.h"
+#include "form.h"
 
 #include <algorithm>
 
@@ -115,8 +115,7 @@ void Form::Unload() {
     Form_Unload();
     // The handlers may have unloaded it themselves.
     if (slot->Peek() != this) return;
-    for (Control* control : controls_)
-        if (auto* timer = dynamic_cast<Timer*>(control)) timer->SetRunning(false);
+    for (Control* control : controls_) control->FormUnloaded();
     visible_ = false;
     modal_ = false;
     Deactivate(*this);
@@ -191,16 +190,8 @@ void Form::UserTab(bool back) {
 }
 
 bool Form::UserDefaultKey(KeyCode key) {
-    if (key == kEnter && dynamic_cast<Button*>(active_) != nullptr) return false;
-    for (Control* control : controls_) {
-        auto* button = dynamic_cast<Button*>(control);
-        if (button == nullptr || !button->Enabled() || !button->Visible()) continue;
-        if ((key == kEnter && button->isDefault) || (key == kEsc && button->isCancel)) {
-            button->Press();
-            return true;
-        }
-    }
-    return false;
+    if (key == kEnter && active_ != nullptr && active_->KeepsEnter()) return false;
+    return std::ranges::any_of(controls_, [key](Control* control) { return control->UseDefaultKey(key); });
 }
 
 bool Form::UserAccessKey(char letter) {
