@@ -17,7 +17,6 @@
 #include "codepage.h"
 #include "deliver.h"
 #include "field_characters.h"
-#include "qt_front.h"
 #include "qt_text.h"
 
 namespace vatro {
@@ -54,12 +53,6 @@ std::optional<ScrollBar::Move> MoveOf(int key) {
         default:
             return std::nullopt;
     }
-}
-
-/// Whether only what keys can bring gets into a field.
-bool FiltersPaste() {
-    const auto* front = dynamic_cast<const QtFront*>(&InstalledFront());
-    return front != nullptr && front->filterPaste;
 }
 
 /// Qt gives the focus back to where it was; nobody has moved it in the form.
@@ -114,8 +107,8 @@ void PushSelection(const TextControl& control, QLineEdit& editor) {
         editor.setCursorPosition(control.SelStart());
 }
 
-Input::Input(Control& control, QWidget& widget, QLineEdit* editor)
-    : QObject(&widget), control_(&control), widget_(&widget), editor_(editor) {
+Input::Input(Control& control, QWidget& widget, QLineEdit* editor, const InputSurroundings& surroundings)
+    : QObject(&widget), control_(&control), surroundings_(surroundings), widget_(&widget), editor_(editor) {
     widget.installEventFilter(this);
     if (editor != nullptr && editor != &widget) editor->installEventFilter(this);
 }
@@ -204,7 +197,8 @@ bool Input::TakeKey(KeyCode key) {
         if (!form.Reachable()) return;
         if ((key == kEnter || key == kEsc) && form.UserDefaultKey(key)) return;
         KeyCode taken = control_->PressKey(key);
-        if (self != nullptr && control_ != nullptr && Text() != nullptr && FiltersPaste()) taken = CharacterInto(*Text(), taken);
+        if (self != nullptr && control_ != nullptr && Text() != nullptr && surroundings_.filtersPaste())
+            taken = CharacterInto(*Text(), taken);
         if (taken == kNoKey || self == nullptr || control_ == nullptr) return;
         if (editor_ != nullptr) return Edit(taken);
         ByKind(
@@ -236,7 +230,7 @@ void Input::Paste(const QString& text) {
     const std::string line = PastedText(text);
     Deliver([&] {
         if (control_ == nullptr) return;
-        if (FiltersPaste())
+        if (surroundings_.filtersPaste())
             PasteInto(*Text(), line);
         else
             Text()->Insert(line);
@@ -244,7 +238,7 @@ void Input::Paste(const QString& text) {
 }
 
 bool Input::TakeForeignText(QEvent& event) {
-    if (Text() == nullptr || !FiltersPaste()) return false;
+    if (Text() == nullptr || !surroundings_.filtersPaste()) return false;
     const QClipboard& clipboard = *QGuiApplication::clipboard();
     if (event.type() == QEvent::MouseButtonRelease) {
         // Its press has put the caret there.
@@ -306,7 +300,7 @@ void Input::TakeFocus(QFocusEvent& event) {
     const QPointer<Input> self(this);
     if (form.ActiveControl() != control) {
         if (form.ActiveControl() != nullptr && OnlyReturns(event.reason())) {
-            FollowFocusSoon(form);
+            surroundings_.followFocusSoon();
             return;
         }
         Deliver([&] {
@@ -315,7 +309,7 @@ void Input::TakeFocus(QFocusEvent& event) {
         });
         if (self == nullptr || control_ == nullptr) return;
         if (form.ActiveControl() != control) {
-            FollowFocusSoon(form);
+            surroundings_.followFocusSoon();
             return;
         }
     }

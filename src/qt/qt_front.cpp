@@ -28,12 +28,6 @@ bool TicksHeld() {
     return held > 0;
 }
 
-void FollowFocusSoon(Form& form) {
-    const auto* front = dynamic_cast<QtFront*>(&InstalledFront());
-    FormWindow* window = front != nullptr ? front->WindowOf(form) : nullptr;
-    if (window != nullptr) QTimer::singleShot(0, &window->Scope(), [window] { window->FollowFocus(); });
-}
-
 QtFront::QtFront() : waitModal([](const std::function<bool()>& over) { WaitLoop(over).Run(); }) {}
 
 QtFront::~QtFront() = default;

@@ -84,9 +84,6 @@ private:
     std::set<const QWidget*> fresh_;
 };
 
-/// Gives the focus to the widget of the form's active control when the present event of Qt is over.
-void FollowFocusSoon(Form& form);
-
 /// Whether events wait, by which a tick of the clock must not come between the steps of a handler.
 bool TicksHeld();
 
