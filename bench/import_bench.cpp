@@ -81,15 +81,15 @@ void SplitFile(benchmark::State& state) {
     Files& files = platform().files;
     for (auto _ : state) {
         std::vector<std::string> items;
-        files.Open(1, Sti(gsFDLib, "cty.dat"), FileMode::Input);
+        files.Open(1, PathIn(gsFDLib, "cty.dat"), FileMode::Input);
         while (!files.EndOfFile(1)) {
             const std::string headerLine = files.LineInput(1);
-            const CtyHoved header = LæsCtyHoved(headerLine);
+            const CtyHeader header = ReadCtyHeader(headerLine);
             std::string line;
             do {
                 line = files.LineInput(1);
-                CtyPoster rest(line, header);
-                while (rest.Flere()) items.emplace_back(rest.Næste().tekst);
+                CtyEntryReader rest(line, header);
+                while (rest.HasMore()) items.emplace_back(rest.Next().text);
             } while (!line.ends_with(';'));
         }
         files.Close(1);
@@ -105,7 +105,7 @@ void Import(benchmark::State& state) {
         ImporterCty();
         if (giRefPfx != kTableRows) return state.SkipWithError("the file was not imported");
     }
-    NulstilTabeller();
+    ResetTables();
 }
 
 BENCHMARK(SplitFile)->Name("country file into items")->Unit(benchmark::kMicrosecond);

@@ -20,7 +20,7 @@ inline std::ptrdiff_t CountIn(std::string_view text, char sought) {
 /// The call columns of every line.
 inline std::ptrdiff_t ScanLog(const std::vector<std::string>& lines, char sought) {
     std::ptrdiff_t found = 0;
-    for (const std::string& line : lines) found += CountIn(kCall.Af(line), sought);
+    for (const std::string& line : lines) found += CountIn(kCall.Of(line), sought);
     return found;
 }
 

@@ -186,7 +186,7 @@ void Keys(benchmark::State& state, QWidget& field, QWidget& list) {
 int Found() {
     const std::vector<std::string> log = SampleLog();
     return static_cast<int>(
-        std::ranges::count_if(log, [](const std::string& line) { return kCall.Af(line).find("1L") != std::string::npos; }));
+        std::ranges::count_if(log, [](const std::string& line) { return kCall.Of(line).find("1L") != std::string::npos; }));
 }
 
 void BareKey(benchmark::State& state) {

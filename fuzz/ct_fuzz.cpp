@@ -26,7 +26,7 @@ bool InItsColumns(std::string_view line) {
     if (line.size() > kLength) return true;
     for (const std::size_t blank : {6U, 22U, 31U, 40U, 43U, 54U, 61U, 65U, 71U})
         if (line[blank - 1] != ' ') return false;
-    return line[25] == '-' && line[34] == '-' && Trim(kOperatør.Af(line)) == "CT-IMP";
+    return line[25] == '-' && line[34] == '-' && Trim(kOperator.Of(line)) == "CT-IMP";
 }
 
 bool Expected(Failure failure) {
@@ -52,7 +52,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!InItsColumns(line)) __builtin_trap();
         file += line + "\r\n";
     }
-    const auto written = texts.find(UpperText(AktuelLogSti()));
+    const auto written = texts.find(UpperText(CurrentLogPath()));
     if (file != (written == texts.end() ? std::string() : written->second)) __builtin_trap();
 
     const std::int32_t points = glPoint;

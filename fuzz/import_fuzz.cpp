@@ -56,7 +56,7 @@ bool Expected(Failure failure) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static auto* const world = new World;
-    NulstilTabeller();
+    ResetTables();
     world->files.rest = {reinterpret_cast<const char*>(data), size};
     world->files.wrote = false;
     try {
@@ -65,8 +65,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!Expected(failure.Which()) || world->files.wrote || giRefPfx != 0) __builtin_trap();
         return 0;
     }
-    if (giLande > kLandeRækker || giRefPfx > kRefPfxRækker) __builtin_trap();
+    if (giLande > kCountryRows || giRefPfx > kPrefixRows) __builtin_trap();
     for (int i = 1; i <= giRefPfx; ++i)
-        if (FindHeleCall(RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed(), 1) > i) __builtin_trap();
+        if (FindWholeCall(RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed(), 1) > i) __builtin_trap();
     return 0;
 }

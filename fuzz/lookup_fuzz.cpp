@@ -39,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view call = TakeLine(rest);
     if (call.empty()) return 0;
 
-    NulstilTabeller();
+    ResetTables();
     giLande = 1;
     Lande[1].Pfx = "QQ";
     while (!rest.empty() && giRefPfx < 100) {
@@ -47,13 +47,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         RefPfx[static_cast<std::size_t>(giRefPfx)].Pfx = Trim(TakeLine(rest));
         RefPfx[static_cast<std::size_t>(giRefPfx)].Land = "QQ";
     }
-    IndekserRefPfx();
+    IndexPrefixes();
 
     std::string pfxcall;
     findPfxCall(call, pfxcall);
     for (int start = 0; start <= giRefPfx; ++start) {
-        if (FindHeleCall(call, start) != Scan(start, [&](std::string_view pfx) { return pfx == call; })) __builtin_trap();
-        if (FindPræfix(pfxcall, start) != Scan(start, [&](std::string_view pfx) { return pfxcall.starts_with(pfx); })) __builtin_trap();
+        if (FindWholeCall(call, start) != Scan(start, [&](std::string_view pfx) { return pfx == call; })) __builtin_trap();
+        if (FindPrefix(pfxcall, start) != Scan(start, [&](std::string_view pfx) { return pfxcall.starts_with(pfx); })) __builtin_trap();
     }
 
     std::string base(call);
@@ -67,11 +67,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     gbVisLand = true;
     giMult = 0;
     std::string found;
-    LandWkd(call, found, Handling::Op);
+    LandWkd(call, found, MarkAction::Mark);
     if ((giMult == 1) != Lande[1].Wkd || (giMult == 1) == found.empty()) __builtin_trap();
     std::string status;
     LandStatusTekst(call, status);
-    LandWkd(call, found, Handling::Ned);
+    LandWkd(call, found, MarkAction::Unmark);
     if (giMult != 0 || Lande[1].Wkd) __builtin_trap();
     return 0;
 }

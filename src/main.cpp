@@ -56,7 +56,7 @@ int main(int argc, char** argv) {
     QTimer::singleShot(0, &front, [&front] {
         vatro::BeginProgram();
         vatro::Deliver([] { vatro::StartProgram(); });
-        if (vatro::ProgramRuns() && !vatro::FrmMain::HarPlads()) vatro::SpreadWindows(front);
+        if (vatro::ProgramRuns() && !vatro::FrmMain::HasPlace()) vatro::SpreadWindows(front);
     });
     const int result = QApplication::exec();
     // Nobody is at the screen to read anything if the end has come from outside.

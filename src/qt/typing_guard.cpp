@@ -174,7 +174,7 @@ bool TypingGuard::TakeOnForm(const Form& form, const PressedKey& key) {
     // In the list Enter corrects, in the box it takes the operator.
     const Control* active = form.ActiveControl();
     if (As<ListBox>(active) != nullptr || As<ComboBox>(active) != nullptr) return false;
-    return entry_.Swallows(key, frmMain->Text1[kCallFelt].Text().empty(), now());
+    return entry_.Swallows(key, frmMain->Text1[kCallField].Text().empty(), now());
 }
 
 void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {

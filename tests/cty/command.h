@@ -29,7 +29,7 @@ protected:
 
     ~CtyCommand() override {
         if (ProgramRuns()) EndProgram();
-        NulstilTabeller();
+        ResetTables();
     }
 
     /// The arguments, with the directory as the current one.
@@ -47,7 +47,7 @@ protected:
         Put("cty.dat", Content(name));
         InstallPlatform(front_, {dialogs_, settings_, files_, clock_, help_, instance_, sound_, printer_, {1, 0, 0}});
         BeginProgram();
-        NulstilTabeller();
+        ResetTables();
         gsFDLib = NativeText(root_);
         const int number = NumberOf(ImporterCty);
         // As the end of the program does.
@@ -58,7 +58,7 @@ protected:
     /// The primary prefix of the country that the program finds for the call, "" for none.
     static std::string CountryOf(const std::string& call) {
         std::string country;
-        LandWkd(call, country, Handling::Test);
+        LandWkd(call, country, MarkAction::Test);
         return std::string(Trim(country));
     }
 

@@ -105,7 +105,7 @@ protected:
     static std::string Letters(int n) { return {static_cast<char>('A' + n / 26), static_cast<char>('A' + n % 26)}; }
     /// As the program has them at its next start.
     static void ReadTables() {
-        NulstilTabeller();
+        ResetTables();
         IndlæsLande();
         IndlæsRefPfx();
     }

@@ -31,7 +31,7 @@ public:
     Label Label1[9];
 
     /// Shows the fields of a contact line.
-    void Udfyld(std::string_view linje);
+    void Fill(std::string_view line);
     /// Sets gbDupe for gsCall, against the lines above the one being corrected. The guard against notes looks at the call of the
     /// line before, so a note that begins with the call counts as a contact: meant so.
     void CheckDupQSO();
@@ -41,16 +41,16 @@ public:
 private:
     void Text1_LostFocus();
     void Command1_Click();
-    void Beregn();
-    void VisBeregnet(std::string_view multiplier);
-    void VisDupe();
-    bool TjekDato();
-    void Log(const std::string& tid);
+    void Calculate();
+    void ShowCalculated(std::string_view multiplier);
+    void ShowDuplicate();
+    bool CheckDate();
+    void Log(const std::string& time);
 };
 
 inline FormSlot<FrmRetQSO> frmRetQSO{"frmRetQSO"};
 
 /// Corrects the line that is selected in the log; a note goes to its own form. An empty log: nothing.
-void RetLinje();
+void CorrectLine();
 
 }  // namespace vatro

@@ -17,6 +17,6 @@ void TimerStop();
 /// One tick: a minute until the next, and the time field shows universal time.
 void TimerTick();
 /// The menu entry: switches the automatic time.
-void SkiftAutoTid();
+void ToggleAutoTime();
 
 }  // namespace vatro

@@ -7,7 +7,7 @@ namespace vatro {
 
 namespace {
 
-constexpr Vinduesplads kPlads{"B4", 2000, 2000, 6000, 6000};
+constexpr WindowPlace kPlace{"B4", 2000, 2000, 6000, 6000};
 
 }  // namespace
 
@@ -18,11 +18,11 @@ FrmB4::FrmB4()
 }
 
 void FrmB4::Form_Load() {
-    HentPlads(*this, kPlads);
+    RestorePlace(*this, kPlace);
 }
 
 void FrmB4::StoreState() {
-    GemPlads(*this, kPlads);
+    StorePlace(*this, kPlace);
 }
 
 }  // namespace vatro

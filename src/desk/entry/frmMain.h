@@ -32,7 +32,7 @@ public:
     StatusBar sbStatusBar;
 
     /// Whether the settings know a place of the window: before the first regular end they do not.
-    static bool HarPlads();
+    static bool HasPlace();
     /// Whether the start has come so far that all settings are read: before that there is nothing to store.
     bool Up() const { return up_; }
 
@@ -45,12 +45,12 @@ private:
     void Text1_Change(int Index);
     void Text1_GotFocus(int Index);
     void Text1_LostFocus(int Index);
-    void BindFelter();
+    void BindFields();
     void BindMenu();
-    void BindPapirer();
-    void SætKlasse(std::string_view klasse);
-    void VisKlasse();
-    void SkiftVindue(MenuItem& punkt, FormSlotBase& vindue);
+    void BindPapers();
+    void SetContestClass(std::string_view contestClass);
+    void ShowContestClass();
+    void ToggleWindow(MenuItem& entry, FormSlotBase& window);
 
     bool up_ = false;
 };

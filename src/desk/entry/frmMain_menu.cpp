@@ -41,11 +41,11 @@
 
 namespace vatro {
 
-std::vector<MenuItem*> MainMenu::BåndPunkter() {
-    std::vector<MenuItem*> punkter;
-    for (MenuItem& punkt : mnuIndstillingerBånd)
-        if (!punkt.Separator()) punkter.push_back(&punkt);
-    return punkter;
+std::vector<MenuItem*> MainMenu::BandEntries() {
+    std::vector<MenuItem*> entries;
+    for (MenuItem& entry : mnuIndstillingerBånd)
+        if (!entry.Separator()) entries.push_back(&entry);
+    return entries;
 }
 
 void FrmMain::BindMenu() {
@@ -54,14 +54,14 @@ void FrmMain::BindMenu() {
         IndlæsLogfil();
         ResetQSO();
     };
-    mnuFilerBackupUdfor.Click = BackupUdfør;
+    mnuFilerBackupUdfor.Click = BackUpLogs;
     mnuFilerBackupSetBibliotek.Click = SetBackupLib;
-    mnuFilerDiskettekopi.Click = Diskettekopi;
+    mnuFilerDiskettekopi.Click = CopyToDiskette;
     mnuFileExit.Click = [this] { Unload(); };
 
-    mnuVisQSOnr.Click = [this] { SkiftVindue(mnuVisQSOnr, frmQSOnr); };
-    mnuVisB4.Click = [this] { SkiftVindue(mnuVisB4, frmB4); };
-    mnuViewContestCall.Click = [this] { SkiftVindue(mnuViewContestCall, frmContestCall); };
+    mnuVisQSOnr.Click = [this] { ToggleWindow(mnuVisQSOnr, frmQSOnr); };
+    mnuVisB4.Click = [this] { ToggleWindow(mnuVisB4, frmB4); };
+    mnuViewContestCall.Click = [this] { ToggleWindow(mnuViewContestCall, frmContestCall); };
     mnuVisLand.Click = [this] {
         mnuVisLand.SetTicked(!mnuVisLand.Ticked());
         gbVisLand = mnuVisLand.Ticked();
@@ -69,41 +69,42 @@ void FrmMain::BindMenu() {
     mnuFunktionerKørteEDRstns.Click = [] { VisEDRstns(true); };
     mnuFunktionerIkkeKørteEDRstns.Click = [] { VisEDRstns(false); };
 
-    for (MenuItem* punkt : BåndPunkter()) punkt->Click = [punkt] { SkiftBåndMode(punkt->Index()); };
+    for (MenuItem* entry : BandEntries()) entry->Click = [entry] { ChangeBandMode(entry->Index()); };
 
-    mnuFunktionerNytQSOnr.Click = NytQSOnr;
-    mnuFunktionerCall.Click = RetContestCall;
+    mnuFunktionerNytQSOnr.Click = ChangeNextNumber;
+    mnuFunktionerCall.Click = ChangeContestCall;
     menuIndstillingerUdstyr.Click = [] { formRigAnt->ShowModal(); };
-    mnuFunktionerRetUTC.Click = RetUTC;
-    mnuIndstillingerKlasseA.Click = [this] { SætKlasse("A"); };
-    mnuIndstillingerKlasseB.Click = [this] { SætKlasse("B"); };
-    mnuIndstillingerKlokken.Click = SkiftAutoTid;
-    mnuFunktionerNote.Click = IndsætNote;
-    mnuFunktionerVisLand.Click = VisLandNu;
+    mnuFunktionerRetUTC.Click = ChangeUtcOffset;
+    mnuIndstillingerKlasseA.Click = [this] { SetContestClass("A"); };
+    mnuIndstillingerKlasseB.Click = [this] { SetContestClass("B"); };
+    mnuIndstillingerKlokken.Click = ToggleAutoTime;
+    mnuFunktionerNote.Click = InsertNote;
+    mnuFunktionerVisLand.Click = ShowCountryNow;
     mnuFunktionerStregP.Click = [] { frmStregP->Show(); };
-    mnuFunktionerImporterCTY.Click = ImporterCtyMenu;
+    mnuFunktionerImporterCTY.Click = ImportCtyFromMenu;
     mnuFunktionerImporterCtAll.Click = ImporterCtMenu;
 
-    for (MenuItem& punkt : mnuCWTXT) punkt.Click = [&punkt] { SendCW(CWTekster[static_cast<std::size_t>(punkt.Index())]); };
+    for (MenuItem& entry : mnuCWTXT) entry.Click = [&entry] { SendCW(CWTekster[static_cast<std::size_t>(entry.Index())]); };
     mnuCWInstillinger.Click = [] { frmCW->ShowModal(); };
 
-    mnuHjælpIndhold.Click = VisHjælpIndhold;
+    mnuHjælpIndhold.Click = ShowHelpContents;
     mnuHjælpQuickInfo.Click = [] { formQuickInfo->ShowModal(); };
     mnuHelpStartInfo.Click = VisStartInfo;
     mnuHelpAbout.Click = [] { frmAbout->ShowModal(); };
-    BindPapirer();
+    BindPapers();
 }
 
-void FrmMain::BindPapirer() {
-    // In the order of kTiLogge.
-    const std::array<MenuItem*, kTiLogge.size()> ark{&mnuEfter10mCW,  &mnuEfter10mSSB, &mnuEfter15mCW,  &mnuEfter15mSSB, &mnuEfter20mCW,
-                                                     &mnuEfter20mSSB, &mnuEfter40mCW,  &mnuEfter40mSSB, &mnuEfter80mCW,  &mnuEfter80mSSB};
-    const std::array<MenuItem*, kTiLogge.size()> print{&mnuUdskriv10mCW, &mnuUdskriv10mSSB, &mnuUdskriv15mCW, &mnuUdskriv15mSSB,
+void FrmMain::BindPapers() {
+    // In the order of kTenLogs.
+    const std::array<MenuItem*, kTenLogs.size()> sheets{&mnuEfter10mCW, &mnuEfter10mSSB, &mnuEfter15mCW, &mnuEfter15mSSB,
+                                                        &mnuEfter20mCW, &mnuEfter20mSSB, &mnuEfter40mCW, &mnuEfter40mSSB,
+                                                        &mnuEfter80mCW, &mnuEfter80mSSB};
+    const std::array<MenuItem*, kTenLogs.size()> print{&mnuUdskriv10mCW, &mnuUdskriv10mSSB, &mnuUdskriv15mCW, &mnuUdskriv15mSSB,
                                                        &mnuUdskriv20mCW, &mnuUdskriv20mSSB, &mnuUdskriv40mCW, &mnuUdskriv40mSSB,
                                                        &mnuUdskriv80mCW, &mnuUdskriv80mSSB};
-    for (std::size_t i = 0; i < kTiLogge.size(); ++i) {
-        ark[i]->Click = [log = kTiLogge[i]] { Danlog(log); };
-        print[i]->Click = [log = kTiLogge[i]] { Udskriv([&log](PageSurface& surface) { PrintLog(surface, log); }); };
+    for (std::size_t i = 0; i < kTenLogs.size(); ++i) {
+        sheets[i]->Click = [log = kTenLogs[i]] { Danlog(log); };
+        print[i]->Click = [log = kTenLogs[i]] { Udskriv([&log](PageSurface& surface) { PrintLog(surface, log); }); };
     }
     mnuFilerDanMult.Click = DanMultCheck;
     mnuEfterSummary.Click = DanSummary;
@@ -119,24 +120,24 @@ void FrmMain::BindPapirer() {
     mnuUdskrivAlt.Click = [] { Udskriv(PrintAlt); };
 }
 
-void FrmMain::SætKlasse(std::string_view klasse) {
-    gsKlasse = klasse;
-    VisKlasse();
-    GemTekst(kSettings, "gsKlasse", gsKlasse);
+void FrmMain::SetContestClass(std::string_view contestClass) {
+    gsKlasse = contestClass;
+    ShowContestClass();
+    StoreText(kSettings, "gsKlasse", gsKlasse);
 }
 
-void FrmMain::VisKlasse() {
+void FrmMain::ShowContestClass() {
     if (gsKlasse != "A" && gsKlasse != "B") return;
     mnuIndstillingerKlasseA.SetTicked(gsKlasse == "A");
     mnuIndstillingerKlasseB.SetTicked(gsKlasse == "B");
 }
 
-void FrmMain::SkiftVindue(MenuItem& punkt, FormSlotBase& vindue) {
-    punkt.SetTicked(!punkt.Ticked());
+void FrmMain::ToggleWindow(MenuItem& entry, FormSlotBase& window) {
+    entry.SetTicked(!entry.Ticked());
     // A window that was closed by its frame is not loaded, and its tick has stayed.
-    vindue.Load();
-    if (!punkt.Ticked()) return vindue.Peek()->Hide();
-    vindue.Peek()->Show();
+    window.Load();
+    if (!entry.Ticked()) return window.Peek()->Hide();
+    window.Peek()->Show();
     SetFocus();
 }
 

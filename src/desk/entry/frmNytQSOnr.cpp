@@ -29,18 +29,18 @@ void FrmNytQSOnr::Form_Load() {
 }
 
 void FrmNytQSOnr::Command1_Click() {
-    const double nyt = NumericValue(Text1.Text());
-    if (nyt < giQSOnr) {
+    const double newNumber = NumericValue(Text1.Text());
+    if (newNumber < giQSOnr) {
         MsgBox(std::string("Nyt QSOnummer skal være større end "_t) + PlainNumber(giQSOnr));
         Text1.SetText(PlainNumber(giQSOnr));
         Text1.SetFocus();
         return;
     }
-    giQSOnr = ToInt16(nyt);
+    giQSOnr = ToInt16(newNumber);
     Hide();
 }
 
-void NytQSOnr() {
+void ChangeNextNumber() {
     frmNytQSOnr->ShowModal();
     frmMain->Text1[3].SetText(ZeroPadded(giQSOnr, 4));
     frmQSOnr->visQSOnr();

@@ -10,8 +10,8 @@ namespace vatro {
 
 namespace {
 
-constexpr int kFørste = -11;
-constexpr int kSidste = 12;
+constexpr int kFirst = -11;
+constexpr int kLast = 12;
 
 }  // namespace
 
@@ -24,20 +24,20 @@ FrmUTC::FrmUTC()
     SetTabOrder({&Combo1, &Command2, &Command1});
     Command2.Click = [this] {
         gsUTC = Combo1.Text();
-        GemTekst(kSettings, "UTC", gsUTC);
+        StoreText(kSettings, "UTC", gsUTC);
         Hide();
     };
     Command1.Click = [this] { Hide(); };
 }
 
 void FrmUTC::Form_Load() {
-    for (int timer = kFørste; timer <= kSidste; ++timer) Combo1.AddItem(PlainNumber(timer));
-    Combo1.SetListIndex(ToInt16(NumericValue(gsUTC) - kFørste));
+    for (int hours = kFirst; hours <= kLast; ++hours) Combo1.AddItem(PlainNumber(hours));
+    Combo1.SetListIndex(ToInt16(NumericValue(gsUTC) - kFirst));
 }
 
-void RetUTC() {
+void ChangeUtcOffset() {
     frmUTC->ShowModal();
-    frmMain->Text1[0].SetText(NuUTCTid());
+    frmMain->Text1[0].SetText(UtcTimeText());
 }
 
 }  // namespace vatro

@@ -123,7 +123,7 @@ struct MainMenu : Form {
     MenuItem mnuHelpAbout{*this, &mnuHjælp, "mnuHelpAbout", "O&m Vatro"};
 
     /// The entries of bands and modes, with their index: the separator is none of them.
-    std::vector<MenuItem*> BåndPunkter();
+    std::vector<MenuItem*> BandEntries();
 };
 
 }  // namespace vatro

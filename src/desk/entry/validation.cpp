@@ -23,51 +23,51 @@ namespace vatro {
 
 using namespace literals;
 
-const std::string_view kDupeAdvarsel = "* DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * ";
+const std::string_view kDupeWarning = "* DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * ";
 
 namespace {
 
 /// The contact is accepted: from here there is no way back and no question. The call counts as typed for country and points,
 /// as base call for the station.
-void LogQSO(const std::string& tid) {
+void LogContact(const std::string& time) {
     FrmMain& main = *frmMain;
-    Qso qso;
-    qso.call = main.Text1[1].Text();
-    BedømQSO(qso, gsCall);
-    qso.tid = tid;
-    qso.rstSendt = main.Text1[2].Text();
-    qso.nrSendt = main.Text1[3].Text();
-    qso.rstModtaget = main.Text1[4].Text();
-    qso.nrModtaget = main.Text1[5].Text();
+    Contact contact;
+    contact.call = main.Text1[1].Text();
+    RateContact(contact, gsCall);
+    contact.time = time;
+    contact.reportSent = main.Text1[2].Text();
+    contact.numberSent = main.Text1[3].Text();
+    contact.reportReceived = main.Text1[4].Text();
+    contact.numberReceived = main.Text1[5].Text();
     std::string status;
-    LandStatusTekst(qso.call, status);
-    if (ErUkendt(status)) giQSOPoint = 0;
-    qso.point = giQSOPoint;
-    qso.operatør = Trim(main.Combo1.Text());
-    qso.qsl = main.Check1.Value();
-    qso.qsoMode = gsQsoMode;
+    LandStatusTekst(contact.call, status);
+    if (IsUnknown(status)) giQSOPoint = 0;
+    contact.point = giQSOPoint;
+    contact.operatorCall = Trim(main.Combo1.Text());
+    contact.qsl = main.Check1.Value();
+    contact.qsoMode = gsQsoMode;
     // Always today's, even if the time was set back over midnight by hand.
-    qso.dato = FormatDate(NuUTC());
+    contact.date = FormatDate(UtcNow());
 
-    const std::string linje = QsoLine(qso, gsMode);
-    if (ErUkendt(status)) GemUkendt(linje);
-    BogførQSO(linje);
+    const std::string line = QsoLine(contact, gsMode);
+    if (IsUnknown(status)) GemUkendt(line);
+    RecordContact(line);
     ResetQSO();
 }
 
-void ResetRst(TextBox& felt) {
+void ResetReport(TextBox& field) {
     const std::string_view standard = StandardRST();
-    felt.SetText({});
-    felt.SetMaxLength(static_cast<int>(standard.size()));
-    felt.SetText(standard);
+    field.SetText({});
+    field.SetMaxLength(static_cast<int>(standard.size()));
+    field.SetText(standard);
 }
 
 }  // namespace
 
 void ValiderQSO() {
     FrmMain& main = *frmMain;
-    if (const int index = Kommando(main.Text1[1].Text()); index != 0) {
-        SkiftBåndMode(index);
+    if (const int index = ChoiceOfWord(main.Text1[1].Text()); index != 0) {
+        ChangeBandMode(index);
         return;
     }
     if (gsBand.empty()) {
@@ -78,43 +78,43 @@ void ValiderQSO() {
         MsgBox("Vælg modulationsart"_t);
         return;
     }
-    if (!TjekOperatør(main.Combo1.Text())) return main.Combo1.SetFocus();
-    std::string tid;
-    if (!TjekTid(main.Text1[0], tid)) return main.Text1[0].SetFocus();
+    if (!CheckOperator(main.Combo1.Text())) return main.Combo1.SetFocus();
+    std::string time;
+    if (!CheckTime(main.Text1[0], time)) return main.Text1[0].SetFocus();
     gsCall = main.Text1[1].Text();
     StripCall(gsCall);
-    if (!TjekKaldesignal(gsCall)) return main.Text1[1].SetFocus();
+    if (!CheckCall(gsCall)) return main.Text1[1].SetFocus();
     // A duplicate is no fault: it only changes what is logged.
     CheckDupe();
-    if (const int felt = TjekRapporter(main.Text1); felt >= 0) return main.Text1[felt].SetFocus();
+    if (const int field = CheckReports(main.Text1); field >= 0) return main.Text1[field].SetFocus();
     // The clock may have moved the field on while a question was open.
-    if (const auto klokken = ParseTime(main.Text1[0].Text())) tid = FormatTime(klokken->hour, klokken->minute);
-    LogQSO(tid);
+    if (const auto timeOfDay = ParseTime(main.Text1[0].Text())) time = FormatTime(timeOfDay->hour, timeOfDay->minute);
+    LogContact(time);
 }
 
-void BedømQSO(Qso& qso, std::string& edr) {
-    if (!qso.call.empty()) LandWkd(qso.call, qso.multiplier, Handling::Op);
-    EDRstnWkd(edr, Handling::Op);
-    BeregnPoint(qso.call);
+void RateContact(Contact& contact, std::string& baseCall) {
+    if (!contact.call.empty()) LandWkd(contact.call, contact.multiplier, MarkAction::Mark);
+    EDRstnWkd(baseCall, MarkAction::Mark);
+    BeregnPoint(contact.call);
     if (gbDupe) {
         giQSOPoint = 0;
-        qso.multiplier = kDupeMærke;
+        contact.multiplier = kDupeMark;
     }
-    qso.point = giQSOPoint;
+    contact.point = giQSOPoint;
 }
 
-void BogførQSO(const std::string& linje) {
-    LogLinje(linje);
+void RecordContact(const std::string& line) {
+    LogLine(line);
     glPoint = ToInt32(static_cast<double>(glPoint) + giQSOPoint);
-    VisStilling();
+    ShowScore();
 }
 
 void ResetQSO() {
     FrmMain& main = *frmMain;
-    if (gbAutoTid == 1) main.Text1[0].SetText(NuUTCTid());
+    if (gbAutoTid == 1) main.Text1[0].SetText(UtcTimeText());
     main.Text1[1].SetText({});
-    ResetRst(main.Text1[2]);
-    ResetRst(main.Text1[4]);
+    ResetReport(main.Text1[2]);
+    ResetReport(main.Text1[4]);
     giQSOnr = ToInt16(giQSOnr + 1);
     main.Text1[3].SetText(ZeroPadded(giQSOnr, 4));
     main.Text1[5].SetText({});

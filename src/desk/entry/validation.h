@@ -16,11 +16,11 @@ namespace vatro {
 void ValiderQSO();
 
 /// What an accepted contact is worth, by its call as logged: marks its country as worked, and the society's station of the call
-/// `edr`, which is cut to six characters, and sets giQSOPoint and the contact's multiplier and points. An empty call has no country. A
+/// `baseCall`, which is cut to six characters, and sets giQSOPoint and the contact's multiplier and points. An empty call has no country. A
 /// duplicate has no points and "-DUPE-"; its country stays marked and counted all the same.
-void BedømQSO(Qso& qso, std::string& edr);
+void RateContact(Contact& contact, std::string& baseCall);
 /// The line of the contact goes to file and list, giQSOPoint to the counters and the status bar.
-void BogførQSO(const std::string& linje);
+void RecordContact(const std::string& line);
 
 /// Makes the form ready for the next contact: the next serial number, default reports, an empty call. Also after every
 /// load of a log, so that each log goes on with its own numbers.
@@ -30,6 +30,6 @@ void ResetQSO();
 std::string_view StandardRST();
 
 /// The caption of the status bar for a duplicate.
-extern const std::string_view kDupeAdvarsel;
+extern const std::string_view kDupeWarning;
 
 }  // namespace vatro

@@ -18,14 +18,14 @@ extern std::string gsBackupLib;
 void SetBackupLib();
 
 /// "&Kopi af log": the eleven files to gsBackupLib, which must be set.
-void BackupUdfør();
+void BackUpLogs();
 /// "&Diskettekopi": the eleven files to drive a:.
-void Diskettekopi();
+void CopyToDiskette();
 
 /// Copies a file of the log directory over the one in gsBackupLib (on drive a:). `stop` becomes true, after a message, if
 /// the medium is missing, not ready or protected, so that no other copy can succeed. Any other failure shows its number and the
 /// next file may be tried; a file that does not exist is no failure.
-void TilBackup(const std::string& fil, bool& stop);
-void TilFloppy(const std::string& fil, bool& stop);
+void TilBackup(const std::string& file, bool& stop);
+void TilFloppy(const std::string& file, bool& stop);
 
 }  // namespace vatro

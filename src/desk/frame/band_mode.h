@@ -24,14 +24,14 @@ extern std::string gsQsoMode;
 /// The log directory, without a final separator.
 extern std::string gsLogLib;
 
-inline constexpr int kBåndXX = 6;
-inline constexpr int kFørsteMode = 8;
+inline constexpr int kHiddenBand = 6;
+inline constexpr int kFirstMode = 8;
 
 /// The number of a band's or QSO mode's name, spelled exactly as above; 0 if there is none. "XXm" has one.
-int BåndIndeks(std::string_view bånd);
-int ModeIndeks(std::string_view qsoMode);
+int BandIndex(std::string_view band);
+int ModeIndex(std::string_view qsoMode);
 /// The choice that a word typed in the call field asks for ("80M", "CW"), or 0.
-int Kommando(std::string_view ord);
+int ChoiceOfWord(std::string_view word);
 
 /// Takes the choice over into gsBand, or gsMode and gsQsoMode, and into the ticks of the menu; Morse can be sent only in
 /// QSO mode CW.
@@ -42,7 +42,7 @@ void SetToolbar();
 
 /// The whole change: takes the choice over, loads the log that now is the current one, clears the entry and asks whether
 /// the operator stays the same. Does not ask before and does not test whether the choice differs.
-void SkiftBåndMode(int index);
+void ChangeBandMode(int index);
 
 /// Asks for the log directory: the one in which the user picks or creates the marker file setlog.txt. Keeps the old one on
 /// Cancel or any failure; ends the program if there is none.
@@ -52,6 +52,6 @@ void SetLogLib();
 void TjekLogLib();
 
 /// As before the start: no band, no mode, no directory.
-void NulstilBåndMode();
+void ResetBandMode();
 
 }  // namespace vatro

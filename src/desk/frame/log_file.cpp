@@ -21,113 +21,113 @@ std::int32_t glPoint = 0;
 
 namespace {
 
-void VisLog() {
+void ShowLog() {
     frmMain->sbStatusBar.SetPanel(1, "Vatro " + gsBand + " " + gsMode);
-    VisStilling();
+    ShowScore();
 }
 
 /// Takes a contact line into marks and counters.
-void TælMed(std::string_view linje) {
-    const std::string_view multiplier = kMultiplier.Af(linje);
+void CountLine(std::string_view line) {
+    const std::string_view multiplier = kMultiplier.Of(line);
     if (!multiplier.empty() && multiplier.front() != ' ') {
-        std::string nyt;
-        LandWkd(multiplier, nyt, Handling::Op);
+        std::string newMultiplier;
+        LandWkd(multiplier, newMultiplier, MarkAction::Mark);
     }
-    glPoint = ToInt32(glPoint + NumericValue(kPoint.Af(linje)));
+    glPoint = ToInt32(glPoint + NumericValue(kPoint.Of(line)));
     // The first six columns of the call as they stand: a call with "/P" is not stripped here, on purpose.
-    std::string edr(kCall.Af(linje).substr(0, kEdrCall));
-    EDRstnWkd(edr, Handling::Op);
-    giQSOnr = ToInt16(NumericValue(kNrSendt.Af(linje)));
+    std::string sixCharacters(kCall.Of(line).substr(0, kEdrCall));
+    EDRstnWkd(sixCharacters, MarkAction::Mark);
+    giQSOnr = ToInt16(NumericValue(kNumberSent.Of(line)));
 }
 
 }  // namespace
 
-std::string LogNavn(std::string_view bånd, std::string_view mode) {
-    std::string navn = "FD";
-    navn.append(bånd).append(mode).append(".txt");
-    return navn;
+std::string LogName(std::string_view band, std::string_view mode) {
+    std::string name = "FD";
+    name.append(band).append(mode).append(".txt");
+    return name;
 }
 
-std::string LogSti(std::string_view bånd, std::string_view mode) {
-    return Sti(gsLogLib, LogNavn(bånd, mode));
+std::string LogPath(std::string_view band, std::string_view mode) {
+    return PathIn(gsLogLib, LogName(band, mode));
 }
 
-std::string AktuelLogSti() {
-    return LogSti(gsBand, gsMode);
+std::string CurrentLogPath() {
+    return LogPath(gsBand, gsMode);
 }
 
 void IndlæsLogfil() {
-    Files& filer = platform().files;
+    Files& files = platform().files;
     ListBox& log = frmMain->List1;
-    const ListBox::Filling fylder(log);
+    const ListBox::Filling filling(log);
     // Before the file is opened, so that the bar is right even if it cannot be read.
-    TømLog();
+    ClearLog();
     try {
-        filer.Open(1, AktuelLogSti(), FileMode::Input);
-        while (!filer.EndOfFile(1)) {
-            log.AddItem(filer.LineInput(1));
-            const std::string& linje = log.Items().back();
-            if (!ErNote(linje)) TælMed(linje);
+        files.Open(1, CurrentLogPath(), FileMode::Input);
+        while (!files.EndOfFile(1)) {
+            log.AddItem(files.LineInput(1));
+            const std::string& line = log.Items().back();
+            if (!IsNote(line)) CountLine(line);
         }
-        filer.Close(1);
+        files.Close(1);
     } catch (const RunTimeError&) {
-        filer.Close(1);
+        files.Close(1);
         return;
     }
     log.SetListIndex(log.ListCount() - 1);
-    VisLog();
+    ShowLog();
 }
 
-void TømLog() {
+void ClearLog() {
     frmMain->List1.Clear();
     ResetLande();
     ResetEDR();
     giQSOnr = 0;
     glPoint = 0;
     giMult = 0;
-    VisLog();
+    ShowLog();
 }
 
-void TilføjLinje(std::string_view fil, std::string_view linje) {
-    Files& filer = platform().files;
+void AppendLine(std::string_view file, std::string_view line) {
+    Files& files = platform().files;
     try {
-        filer.Open(1, Sti(gsLogLib, fil), FileMode::Append);
-        filer.PrintLine(1, linje);
-        filer.Close(1);
+        files.Open(1, PathIn(gsLogLib, file), FileMode::Append);
+        files.PrintLine(1, line);
+        files.Close(1);
     } catch (const RunTimeError&) {
         TjekLogLib();
         EndProgram();
     }
 }
 
-void AppendLog(std::string_view linje) {
-    TilføjLinje(LogNavn(gsBand, gsMode), linje);
+void AppendLog(std::string_view line) {
+    AppendLine(LogName(gsBand, gsMode), line);
 }
 
-void LogLinje(const std::string& linje) {
-    AppendLog(linje);
+void LogLine(const std::string& line) {
+    AppendLog(line);
     ListBox& log = frmMain->List1;
-    log.AddItem(linje);
+    log.AddItem(line);
     log.SetListIndex(log.ListCount() - 1);
 }
 
 void SkrivLog() {
-    Files& filer = platform().files;
-    const std::string kopi = Sti(gsLogLib, "FDkopi.txt");
-    filer.Open(1, kopi, FileMode::Output);
-    for (const std::string& linje : frmMain->List1.Items()) filer.PrintLine(1, linje);
-    filer.Close(1);
-    filer.Replace(kopi, AktuelLogSti());
+    Files& files = platform().files;
+    const std::string copy = PathIn(gsLogLib, "FDkopi.txt");
+    files.Open(1, copy, FileMode::Output);
+    for (const std::string& line : frmMain->List1.Items()) files.PrintLine(1, line);
+    files.Close(1);
+    files.Replace(copy, CurrentLogPath());
 }
 
-void VisStilling() {
-    StatusBar& bjælke = frmMain->sbStatusBar;
-    bjælke.SetPanel(2, PlainNumber(glPoint));
-    bjælke.SetPanel(4, PlainNumber(giMult));
-    bjælke.SetPanel(6, PlainNumber(ToInt32(static_cast<double>(giMult) * glPoint)));
+void ShowScore() {
+    StatusBar& bar = frmMain->sbStatusBar;
+    bar.SetPanel(2, PlainNumber(glPoint));
+    bar.SetPanel(4, PlainNumber(giMult));
+    bar.SetPanel(6, PlainNumber(ToInt32(static_cast<double>(giMult) * glPoint)));
 }
 
-void NulstilLog() {
+void ResetLog() {
     giQSOnr = 0;
     glPoint = 0;
     giMult = 0;

@@ -31,14 +31,14 @@ using namespace literals;
 
 namespace {
 
-void LæsIndstillinger() {
-    gsUTC = HentTekst(kSettings, "UTC", "-2");
-    gsMyCall = HentTekst(kSettings, "MyCall");
-    gsFDLib = HentTekst(kSettings, "gsFDLib");
-    gsKlasse = HentTekst(kSettings, "gsKlasse", "A");
-    gsTelefon = HentTekst(kSettings, "gsTelefon", "12345678");
-    gsOperatør = HentTekst(kSettings, "LastOP");
-    gbVisInfo = HentFlag(kSettings, "VisInfo2002", true);
+void ReadSettings() {
+    gsUTC = ReadText(kSettings, "UTC", "-2");
+    gsMyCall = ReadText(kSettings, "MyCall");
+    gsFDLib = ReadText(kSettings, "gsFDLib");
+    gsKlasse = ReadText(kSettings, "gsKlasse", "A");
+    gsTelefon = ReadText(kSettings, "gsTelefon", "12345678");
+    gsOperatør = ReadText(kSettings, "LastOP");
+    gbVisInfo = ReadFlag(kSettings, "VisInfo2002", true);
 }
 
 /// As far as it can be done.
@@ -52,18 +52,18 @@ void Try(const std::function<void()>& step) noexcept {
 
 }  // namespace
 
-std::string VersionTekst() {
+std::string VersionText() {
     const Version& version = platform().version;
     return PlainNumber(version.major) + "." + PlainNumber(version.minor) + "." + PlainNumber(version.revision);
 }
 
-void NulstilAlt() {
-    NulstilStation();
-    NulstilBåndMode();
-    NulstilLog();
-    NulstilTabeller();
-    NulstilEDR();
-    NulstilOperatør();
+void ResetAll() {
+    ResetStation();
+    ResetBandMode();
+    ResetLog();
+    ResetTables();
+    ClearStations();
+    ResetOperator();
     NulstilSyntese();
     NulstilCWTekster();
     gsBackupLib.clear();
@@ -71,11 +71,11 @@ void NulstilAlt() {
     gbVisLand = false;
 }
 
-void VisKørerAllerede() {
-    MessageBox afvist;
-    afvist.text = "Der må kun køre een udgave ellers går der kuk i loggen!"_t;
-    afvist.title = "Vatro kører allerede."_t;
-    MsgBox(afvist);
+void ShowAlreadyRunning() {
+    MessageBox refusal;
+    refusal.text = "Der må kun køre een udgave ellers går der kuk i loggen!"_t;
+    refusal.title = "Vatro kører allerede."_t;
+    MsgBox(refusal);
 }
 
 void StoreRunningProgram() noexcept {
@@ -91,15 +91,15 @@ void StoreRunningProgram() noexcept {
 }
 
 void StartProgram() {
-    NulstilAlt();
+    ResetAll();
     platform().printer.Abandon();
-    LæsIndstillinger();
+    ReadSettings();
     HentCWIndstillinger();
     HentUdstyr();
 
     // Before any table is loaded: two copies would write the same log.
     if (platform().instance.AnotherCopyRuns()) {
-        VisKørerAllerede();
+        ShowAlreadyRunning();
         EndProgram();
     }
 
@@ -109,14 +109,14 @@ void StartProgram() {
     if (gsFDLib.empty()) {
         gsFDLib = platform().files.CurrentDirectory();
         // Another key than the one read above, which gets the value at a regular end: both are meant.
-        GemTekst(kSettings, "FDLib", gsFDLib);
+        StoreText(kSettings, "FDLib", gsFDLib);
     }
 
-    frmSplash->Vis("Indlæser Lande"_t);
+    frmSplash->ShowStage("Indlæser Lande"_t);
     IndlæsLande();
-    frmSplash->Vis("Indlæser Præfixliste."_t);
+    frmSplash->ShowStage("Indlæser Præfixliste."_t);
     IndlæsRefPfx();
-    frmSplash->Vis("Indlæser EDR stationer."_t);
+    frmSplash->ShowStage("Indlæser EDR stationer."_t);
     IndlæsEDR();
 
     frmMain.Load();

@@ -25,21 +25,21 @@ extern std::string gsUTC;
 extern bool gbVisInfo;
 
 /// Universal time now: the local clock plus gsUTC hours. Fails with 13 if gsUTC is no number, with 6 beyond 16 bits.
-DateTime NuUTC();
+DateTime UtcNow();
 /// "Hh:Nn" of now, as the time field and the messages show it.
-std::string NuUTCTid();
+std::string UtcTimeText();
 
-/// `navn` in the directory `bibliotek`.
-std::string Sti(const std::string& bibliotek, std::string_view navn);
+/// `name` in the directory `directory`.
+std::string PathIn(const std::string& directory, std::string_view name);
 
 /// The directory in which a file lies, without a final separator. Fails with 5 if its path names none.
-std::string BibliotekAf(const std::string& sti);
+std::string DirectoryOf(const std::string& path);
 
 /// Asks for a directory by the file that the user picks or creates in it, as file dialogues offer no directory itself. Gives
 /// the file's path, which is not created yet; fails with 32755 on Cancel.
-std::string VælgMærkefil(std::string_view navn, std::string_view titel);
+std::string ChooseMarkerFile(std::string_view name, std::string_view title);
 
 /// All state of a run as it is before the start.
-void NulstilStation();
+void ResetStation();
 
 }  // namespace vatro

@@ -60,8 +60,8 @@ FrmCW::FrmCW()
     for (TextBox& felt : Text1) {
         orden.push_back(&felt);
         felt.KeyFilter = [](KeyCode& key) {
-            key = StorTast(key);
-            FiltrerTast(key, kTekstTegn);
+            key = UpperKey(key);
+            FilterKey(key, kTekstTegn);
         };
     }
     orden.insert(orden.end(), {&txtWPM, &txtTone, &HScroll1, &optRST[0], &optRST[1], &optLobenr[0], &optLobenr[1]});

@@ -29,7 +29,7 @@ std::string Nøgle(std::size_t tekst) {
 }
 
 std::int16_t HentKort(std::string_view nøgle, int standard) {
-    return static_cast<std::int16_t>(HentTal(kSektion, nøgle, standard));
+    return static_cast<std::int16_t>(ReadNumber(kSektion, nøgle, standard));
 }
 
 }  // namespace
@@ -37,21 +37,21 @@ std::int16_t HentKort(std::string_view nøgle, int standard) {
 void HentCWIndstillinger() {
     giCWWPM = HentKort("WPM", 20);
     giCWTone = HentKort("Tone", 800);
-    glCWVolume = ToInt32(ToNumber(HentTekst(kSektion, "Volume", "10000")));
-    giCWFarnsworth = static_cast<std::int16_t>(std::min(HentTal(kSektion, "Farnsworth", 0), kMestFarnsworth));
-    gsCWNummerFormat = HentTekst(kSektion, "N", kNummerMedNuller);
-    gsCWRSTFormat = HentTekst(kSektion, "T", kRSTMedTal);
-    for (std::size_t i = 0; i < kAntalCWTekster; ++i) CWTekster[i] = HentTekst(kSektion, Nøgle(i), kFørsteTekster[i]);
+    glCWVolume = ToInt32(ToNumber(ReadText(kSektion, "Volume", "10000")));
+    giCWFarnsworth = static_cast<std::int16_t>(std::min(ReadNumber(kSektion, "Farnsworth", 0), kMestFarnsworth));
+    gsCWNummerFormat = ReadText(kSektion, "N", kNummerMedNuller);
+    gsCWRSTFormat = ReadText(kSektion, "T", kRSTMedTal);
+    for (std::size_t i = 0; i < kAntalCWTekster; ++i) CWTekster[i] = ReadText(kSektion, Nøgle(i), kFørsteTekster[i]);
 }
 
 void GemCWIndstillinger() {
-    GemTal(kSektion, "WPM", giCWWPM);
-    GemTal(kSektion, "Tone", giCWTone);
-    GemTal(kSektion, "Volume", glCWVolume);
-    GemTal(kSektion, "Farnsworth", giCWFarnsworth);
-    GemTekst(kSektion, "N", gsCWNummerFormat);
-    GemTekst(kSektion, "T", gsCWRSTFormat);
-    for (std::size_t i = 0; i < kAntalCWTekster; ++i) GemTekst(kSektion, Nøgle(i), CWTekster[i]);
+    StoreNumber(kSektion, "WPM", giCWWPM);
+    StoreNumber(kSektion, "Tone", giCWTone);
+    StoreNumber(kSektion, "Volume", glCWVolume);
+    StoreNumber(kSektion, "Farnsworth", giCWFarnsworth);
+    StoreText(kSektion, "N", gsCWNummerFormat);
+    StoreText(kSektion, "T", gsCWRSTFormat);
+    for (std::size_t i = 0; i < kAntalCWTekster; ++i) StoreText(kSektion, Nøgle(i), CWTekster[i]);
 }
 
 }  // namespace vatro

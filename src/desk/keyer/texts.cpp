@@ -26,7 +26,7 @@ std::string gsCWNummer;
 namespace {
 
 /// One column more than the call has, which only a note can fill.
-constexpr Felt kCallOgEfter{kCall.fra, kCall.bredde + 1};
+constexpr Field kCallOgEfter{kCall.from, kCall.width + 1};
 /// Serial numbers below 1000 are sent with three characters.
 constexpr int kFireCifre = 1000;
 constexpr std::size_t kTreTegn = 3;
@@ -63,7 +63,7 @@ public:
 
     std::string Udfør() {
         std::string udvidet;
-        while (const auto tegn = Næste()) {
+        while (const auto tegn = Next()) {
             Læs();
             if (*tegn != '#')
                 udvidet += *tegn;
@@ -75,7 +75,7 @@ public:
 
 private:
     /// The character to be read next, if any. Values that have been read to their end are left only here.
-    std::optional<char> Næste() {
+    std::optional<char> Next() {
         while (!stykker_.empty() && stykker_.back().læst == stykker_.back().tekst.size()) stykker_.pop_back();
         if (stykker_.empty()) return std::nullopt;
         return stykker_.back().tekst[stykker_.back().læst];
@@ -84,7 +84,7 @@ private:
 
     /// Behind a "#": continues with the value of the code, if it is one.
     void Indsæt() {
-        const auto kode = Næste();
+        const auto kode = Next();
         const auto værdi = kode ? Værdi(*kode) : std::nullopt;
         const auto samme = [&](const Stykke& stykke) { return stykke.kode == *kode; };
         if (!værdi || std::any_of(stykker_.begin(), stykker_.end(), samme)) return;
@@ -96,15 +96,15 @@ private:
 };
 
 void HentVærdier(const FrmMain& main) {
-    if (!main.Text1[kCallFelt].Text().empty()) {
-        gsCWCall = main.Text1[kCallFelt].Text();
-        gsCWRST = main.Text1[kRstSendtFelt].Text();
-        gsCWNummer = main.Text1[kNrSendtFelt].Text();
+    if (!main.Text1[kCallField].Text().empty()) {
+        gsCWCall = main.Text1[kCallField].Text();
+        gsCWRST = main.Text1[kReportSentField].Text();
+        gsCWNummer = main.Text1[kNumberSentField].Text();
     } else if (main.List1.ListCount() > 0) {
         const std::string& sidste = main.List1.Items().back();
-        gsCWCall = kCallOgEfter.TrimmetAf(sidste);
-        gsCWRST = kRstSendt.TrimmetAf(sidste);
-        gsCWNummer = kNrSendt.TrimmetAf(sidste);
+        gsCWCall = kCallOgEfter.TrimmedOf(sidste);
+        gsCWRST = kReportSent.TrimmedOf(sidste);
+        gsCWNummer = kNumberSent.TrimmedOf(sidste);
     }
 }
 

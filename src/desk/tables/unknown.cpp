@@ -14,31 +14,31 @@
 namespace vatro {
 
 void ResetLande() {
-    for (int i = 1; i <= LandeIBrug(); ++i) Lande[static_cast<std::size_t>(i)].Wkd = false;
+    for (int i = 1; i <= CountriesInUse(); ++i) Lande[static_cast<std::size_t>(i)].Wkd = false;
 }
 
-void GemUkendt(std::string_view linje) {
-    std::string ukendt = gsBand;
-    ukendt += gsMode == "CW" ? " CW  " : " SSB ";
-    ukendt += linje;
-    TilføjLinje("ukendt.txt", ukendt);
+void GemUkendt(std::string_view line) {
+    std::string unknownLine = gsBand;
+    unknownLine += gsMode == "CW" ? " CW  " : " SSB ";
+    unknownLine += line;
+    AppendLine("ukendt.txt", unknownLine);
 }
 
-void VisLandNu() {
+void ShowCountryNow() {
     std::string call = frmMain->Text1[1].Text();
     if (call.empty()) {
         const ListBox& log = frmMain->List1;
         if (log.ListCount() == 0) return;
         // One column more than the call has, which is always blank.
-        call = Trim(Columns(log.List(log.ListCount() - 1), kCall.fra, kCall.bredde + 1));
+        call = Trim(Columns(log.List(log.ListCount() - 1), kCall.from, kCall.width + 1));
         if (call.empty()) return;
     }
-    const bool vist = gbVisLand;
+    const bool wasOn = gbVisLand;
     gbVisLand = true;
-    std::string tekst;
-    LandStatusTekst(call, tekst);
-    frmMain->sbStatusBar.SetPanel(1, tekst);
-    gbVisLand = vist;
+    std::string text;
+    LandStatusTekst(call, text);
+    frmMain->sbStatusBar.SetPanel(1, text);
+    gbVisLand = wasOn;
 }
 
 }  // namespace vatro

@@ -17,9 +17,9 @@ void ResetLande();
 
 /// Appends a contact line to ukendt.txt in the log directory. A failure to write ends the program after the message of
 /// the log directory that has gone, as it does for the log.
-void GemUkendt(std::string_view linje);
+void GemUkendt(std::string_view line);
 
 /// Shows the country of the call being entered, or of the last line of the log, even if the display is switched off.
-void VisLandNu();
+void ShowCountryNow();
 
 }  // namespace vatro

@@ -13,12 +13,12 @@ namespace vatro {
 /// Reduces the call in place to the base call. Calls are upper case; nothing is folded.
 void StripCall(std::string& call);
 
-/// Writes the text that decides the country to `pfxcall`.
-void findPfxCall(std::string_view call, std::string& pfxcall);
+/// Writes the text that decides the country to `prefixText`.
+void findPfxCall(std::string_view call, std::string& prefixText);
 
 /// If the call ends in a numbered suffix such as "/3", cuts it off and puts its figure into the call: DL1ABC/3 becomes
 /// DL3ABC. Every digit before a non-digit is replaced, so 2E0ABC/3 becomes 3E3ABC, and a tail such as "3/" counts as a
 /// suffix too: both are meant so.
-void FlytTalsuffiks(std::string& call);
+void MoveDigitSuffix(std::string& call);
 
 }  // namespace vatro

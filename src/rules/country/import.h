@@ -16,6 +16,6 @@ namespace vatro {
 void ImporterCty();
 
 /// The menu entry: asks, imports, and loads the log anew, so that the worked marks fit the tables; the latter after a No, too.
-void ImporterCtyMenu();
+void ImportCtyFromMenu();
 
 }  // namespace vatro

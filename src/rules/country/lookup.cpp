@@ -17,84 +17,84 @@ std::int16_t giMult = 0;
 
 namespace {
 
-constexpr std::string_view kEuropæiskeUndtagelser = "TA0,TA1,TB0,TB1,TC0,TC1,YM0,YM1,";
+constexpr std::string_view kEuropeanExceptions = "TA0,TA1,TB0,TB1,TC0,TC1,YM0,YM1,";
 
-int PfxStart(std::string_view tekst) {
-    if (tekst.empty()) throw RunTimeError(Failure::InvalidCall);
-    return gaPfxStart[static_cast<unsigned char>(tekst.front())];
+int PrefixStart(std::string_view text) {
+    if (text.empty()) throw RunTimeError(Failure::InvalidCall);
+    return gaPfxStart[static_cast<unsigned char>(text.front())];
 }
 
 /// The row of Lande to which a row of RefPfx points: the first whose prefix is not below the wanted one, or the last. There
 /// is no test of equality, so a table out of order can give a neighbour: accepted.
-LandRec& LandAf(const PfxRec& pfx) {
-    const auto sidste = static_cast<std::size_t>(LandeIBrug());
+LandRec& CountryOf(const PfxRec& prefix) {
+    const auto last = static_cast<std::size_t>(CountriesInUse());
     std::size_t j = 1;
-    while (j < sidste && pfx.Land.Padded() > Lande[j].Pfx.Padded()) ++j;
+    while (j < last && prefix.Land.Padded() > Lande[j].Pfx.Padded()) ++j;
     return Lande[j];
 }
 
-/// The country of a call, or nothing. `pfxcall` becomes the text that was looked up as a prefix, where it came so far.
-LandRec* FindLand(std::string_view call, std::string& pfxcall) {
-    pfxcall.clear();
-    int række = FindHeleCall(call, PfxStart(call));
-    if (række == 0) {
-        findPfxCall(call, pfxcall);
-        if (pfxcall.empty()) return nullptr;
-        række = FindPræfix(pfxcall, PfxStart(pfxcall));
+/// The country of a call, or nothing. `prefixText` becomes the text that was looked up as a prefix, where it came so far.
+LandRec* FindCountry(std::string_view call, std::string& prefixText) {
+    prefixText.clear();
+    int row = FindWholeCall(call, PrefixStart(call));
+    if (row == 0) {
+        findPfxCall(call, prefixText);
+        if (prefixText.empty()) return nullptr;
+        row = FindPrefix(prefixText, PrefixStart(prefixText));
     }
-    return række == 0 ? nullptr : &LandAf(RefPfx[static_cast<std::size_t>(række)]);
+    return row == 0 ? nullptr : &CountryOf(RefPfx[static_cast<std::size_t>(row)]);
 }
 
 }  // namespace
 
-void LandWkd(std::string_view call, std::string& resultat, Handling handling) {
-    resultat.clear();
-    std::string pfxcall;
-    LandRec* const land = FindLand(call, pfxcall);
-    if (land == nullptr) return;
+void LandWkd(std::string_view call, std::string& result, MarkAction action) {
+    result.clear();
+    std::string prefixText;
+    LandRec* const country = FindCountry(call, prefixText);
+    if (country == nullptr) return;
 
-    if (land->Kontinent.Padded() != "EU") {
-        const std::string område = std::string(call.substr(0, 3)) + ",";
-        if (kEuropæiskeUndtagelser.find(område) == std::string_view::npos) giQSOPoint = 6;
+    if (country->Kontinent.Padded() != "EU") {
+        const std::string area = std::string(call.substr(0, 3)) + ",";
+        if (kEuropeanExceptions.find(area) == std::string_view::npos) giQSOPoint = 6;
     }
 
-    switch (handling) {
-        case Handling::Ned:
-            if (!land->Wkd) return;
+    switch (action) {
+        case MarkAction::Unmark:
+            if (!country->Wkd) return;
             giMult = ToInt16(giMult - 1);
-            land->Wkd = false;
+            country->Wkd = false;
             break;
-        case Handling::Test:
-            if (land->Wkd) return;
+        case MarkAction::Test:
+            if (country->Wkd) return;
             break;
-        case Handling::Op:
-            if (land->Wkd) return;
+        case MarkAction::Mark:
+            if (country->Wkd) return;
             giMult = ToInt16(giMult + 1);
-            land->Wkd = true;
+            country->Wkd = true;
             break;
     }
-    resultat = land->Pfx.Padded();
+    result = country->Pfx.Padded();
 }
 
-void LandStatusTekst(std::string_view call, std::string& tekst) {
+void LandStatusTekst(std::string_view call, std::string& text) {
     if (!gbVisLand) return;
-    std::string pfxcall;
-    const LandRec* const land = FindLand(call, pfxcall);
-    tekst.clear();
-    if (land == nullptr) {
+    std::string prefixText;
+    const LandRec* const country = FindCountry(call, prefixText);
+    text.clear();
+    if (country == nullptr) {
         // A single character is no prefix yet.
-        if (pfxcall.size() < 2) return;
-        tekst = Trim(pfxcall);
-        tekst += ": er ukendt præfix. Call'et bliver gemt i filen 'ukendt.txt', hvis QSOen logges. Kør den!"_t;
+        if (prefixText.size() < 2) return;
+        text = Trim(prefixText);
+        text += ": er ukendt præfix. Call'et bliver gemt i filen 'ukendt.txt', hvis QSOen logges. Kør den!"_t;
         return;
     }
-    tekst.append(land->Pfx.Trimmed()).append(": ").append(land->Navn.Trimmed());
-    tekst.append(" (").append(land->Kontinent.Padded());
-    tekst.append(land->Wkd ? "), er kørt."_t : "), er nyt land."_t);
+    text.append(country->Pfx.Trimmed()).append(": ").append(country->Navn.Trimmed());
+    text.append(" (").append(country->Kontinent.Padded());
+    text.append(country->Wkd ? "), er kørt."_t : "), er nyt land."_t);
 }
 
-bool ErUkendt(std::string_view statusTekst) {
-    return statusTekst.find("ukendt") != std::string_view::npos;
+bool IsUnknown(std::string_view statusText) {
+    return statusText.find("ukendt") != std::string_view::npos;
 }
 
 }  // namespace vatro

@@ -11,7 +11,7 @@
 namespace vatro {
 
 /// What a search does with the mark of what it finds: marks it as worked, takes the mark away, or only asks.
-enum class Handling { Op, Ned, Test };
+enum class MarkAction { Mark, Unmark, Test };
 
 /// Whether the country is shown while a call is typed; the menu changes it. Also a condition of the rule of the unknown
 /// prefix: switched off, such a contact keeps its points and is not written to ukendt.txt. That is meant so.
@@ -19,18 +19,18 @@ extern bool gbVisLand;
 /// Countries marked as worked in the current log.
 extern std::int16_t giMult;
 
-/// Finds the country of a call. `resultat` becomes its ten-character prefix if the action took effect - with Op and Test:
+/// Finds the country of a call. `result` becomes its ten-character prefix if the action took effect - with Op and Test:
 /// the country was not marked, the contact is a new multiplier - and "" otherwise. Op and Ned keep giMult in step. For a
 /// country outside Europe giQSOPoint becomes 6 with every action, but for the calls of the European areas of a country
 /// that the tables hold as Asian. No country: nothing changes. Fails with 5 on an empty
-/// call, and as FindHeleCall does.
-void LandWkd(std::string_view call, std::string& resultat, Handling handling);
+/// call, and as FindWholeCall does.
+void LandWkd(std::string_view call, std::string& result, MarkAction action);
 
-/// Words the country of a call for the status bar. With gbVisLand off `tekst` stays as it was. Fails
+/// Words the country of a call for the status bar. With gbVisLand off `text` stays as it was. Fails
 /// as LandWkd does.
-void LandStatusTekst(std::string_view call, std::string& tekst);
+void LandStatusTekst(std::string_view call, std::string& text);
 
 /// Whether a status text is that of an unknown prefix.
-bool ErUkendt(std::string_view statusTekst);
+bool IsUnknown(std::string_view statusText);
 
 }  // namespace vatro

@@ -20,13 +20,13 @@
 
 namespace vatro {
 
-inline constexpr int kLandeRækker = 500;
-inline constexpr int kRefPfxRækker = 6000;
-inline constexpr std::size_t kPfxLængde = 10;
+inline constexpr int kCountryRows = 500;
+inline constexpr int kPrefixRows = 6000;
+inline constexpr std::size_t kPrefixLength = 10;
 
 struct LandRec {
     /// Primary prefix, the key by which prefixes point here.
-    FixedText<kPfxLængde> Pfx;
+    FixedText<kPrefixLength> Pfx;
     FixedText<25> Navn;
     /// "EU" decides the points; anything else counts as outside Europe.
     FixedText<2> Kontinent;
@@ -41,15 +41,15 @@ struct LandRec {
 
 struct PfxRec {
     /// Prefix or exact call.
-    FixedText<kPfxLængde> Pfx;
+    FixedText<kPrefixLength> Pfx;
     /// Pfx of the country's row.
-    FixedText<kPfxLængde> Land;
+    FixedText<kPrefixLength> Land;
     FixedText<2> ITUzone;
     FixedText<2> CQzone;
 };
 
-extern std::array<LandRec, kLandeRækker + 1> Lande;
-extern std::array<PfxRec, kRefPfxRækker + 1> RefPfx;
+extern std::array<LandRec, kCountryRows + 1> Lande;
+extern std::array<PfxRec, kPrefixRows + 1> RefPfx;
 /// Rows in use. After a load that failed at the end of a table it counts the row that did not fit.
 extern std::int16_t giLande;
 extern std::int16_t giRefPfx;
@@ -57,7 +57,7 @@ extern std::int16_t giRefPfx;
 extern std::array<std::int16_t, 257> gaPfxStart;
 
 /// Rows of a table that can be visited: the count, but no row beyond the table.
-int LandeIBrug();
+int CountriesInUse();
 
 /// Fills Lande and giLande from lande.txt. Any failure, also a table that overflows or a number that cannot be read, gives
 /// one message; what was read stays.
@@ -67,14 +67,14 @@ void IndlæsRefPfx();
 
 /// The first row from `start` on whose prefix is the whole of `call`, trimmed of blanks; 0 if no row in use is. Fails
 /// with 9 (index) if a full table holds none: the search runs one row beyond it.
-int FindHeleCall(std::string_view call, int start);
+int FindWholeCall(std::string_view call, int start);
 /// The first row from `start` on whose prefix begins the text `s`: in a sorted table the longest. 0 and failure as above.
-int FindPræfix(std::string_view s, int start);
+int FindPrefix(std::string_view s, int start);
 
 /// Rebuilds what the two searches use. To be called whenever rows of RefPfx or giRefPfx have changed.
-void IndekserRefPfx();
+void IndexPrefixes();
 
 /// Empty tables, as before the start.
-void NulstilTabeller();
+void ResetTables();
 
 }  // namespace vatro

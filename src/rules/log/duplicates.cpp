@@ -13,57 +13,57 @@ bool gbDupe = false;
 
 namespace {
 
-constexpr int kFlestFundne = 50;
+constexpr int kMostFound = 50;
 
 /// Looks for one text in many short ones without regard to case: both spellings of its first character are sought, which
 /// the rest of the text then has to follow.
-class Søgning {
+class Search {
 public:
-    explicit Søgning(std::string_view tekst) : tekst_(UpperText(tekst)) {
-        for (int kode = 0; kode < 256; ++kode) stor_[kode] = Upper(static_cast<char>(kode));
+    explicit Search(std::string_view text) : tekst_(UpperText(text)) {
+        for (int code = 0; code < 256; ++code) upper_[code] = Upper(static_cast<char>(code));
     }
 
-    bool FindesI(std::string_view i) const {
+    bool IsIn(std::string_view i) const {
         if (tekst_.empty()) return true;
         if (i.size() < tekst_.size()) return false;
-        const std::size_t sidste = i.size() - tekst_.size();
-        for (std::size_t her = 0; her <= sidste; ++her)
-            if (Stor(i[her]) == tekst_[0] && FølgerEfter(i.data() + her)) return true;
+        const std::size_t last = i.size() - tekst_.size();
+        for (std::size_t position = 0; position <= last; ++position)
+            if (UpperOf(i[position]) == tekst_[0] && FollowsAt(i.data() + position)) return true;
         return false;
     }
 
 private:
-    char Stor(char c) const { return stor_[static_cast<unsigned char>(c)]; }
-    bool FølgerEfter(const char* her) const {
+    char UpperOf(char c) const { return upper_[static_cast<unsigned char>(c)]; }
+    bool FollowsAt(const char* position) const {
         for (std::size_t n = 1; n < tekst_.size(); ++n)
-            if (Stor(her[n]) != tekst_[n]) return false;
+            if (UpperOf(position[n]) != tekst_[n]) return false;
         return true;
     }
 
     std::string tekst_;
-    char stor_[256]{};
+    char upper_[256]{};
 };
 
-std::string B4Linje(std::string_view linje) {
-    std::string fundet = LeftAligned(kCall.Af(linje), kCall.bredde);
-    fundet.append(LeftAligned(kNrSendt.Af(linje), kNrSendt.bredde)).append("/");
-    fundet.append(LeftAligned(kNrModtaget.Af(linje), kNrModtaget.bredde)).append(" ");
-    fundet.append(kTid.Af(linje));
-    return fundet;
+std::string EarlierContact(std::string_view line) {
+    std::string found = LeftAligned(kCall.Of(line), kCall.width);
+    found.append(LeftAligned(kNumberSent.Of(line), kNumberSent.width)).append("/");
+    found.append(LeftAligned(kNumberReceived.Of(line), kNumberReceived.width)).append(" ");
+    found.append(kTime.Of(line));
+    return found;
 }
 
-bool StårILoggen(std::string_view call) {
+bool IsInLog(std::string_view call) {
     std::string_view s;
-    std::string kort;
-    for (const std::string& linje : frmMain->List1.Items()) {
+    std::string stripped;
+    for (const std::string& line : frmMain->List1.Items()) {
         // The text of the line before, not of this one: see the header.
-        if (s.starts_with(kNoteMærke)) continue;
-        s = kCall.TrimmetAf(linje);
+        if (s.starts_with(kNoteMark)) continue;
+        s = kCall.TrimmedOf(line);
         // Without a slash a call is its base call.
         if (s.find('/') != std::string_view::npos) {
-            kort = s;
-            StripCall(kort);
-            s = kort;
+            stripped = s;
+            StripCall(stripped);
+            s = stripped;
         }
         if (s == call) return true;
     }
@@ -71,10 +71,10 @@ bool StårILoggen(std::string_view call) {
 }
 
 /// What the last search of the log has found.
-struct Svar {
+struct LastSearch {
     std::string call;
-    unsigned udgave = 0;
-    bool fundet = false;
+    unsigned revision = 0;
+    bool found = false;
 };
 
 }  // namespace
@@ -82,24 +82,24 @@ struct Svar {
 void CheckDupe() {
     // A call is sought when its field is left and again at Enter: the second time the answer is still good, unless the log
     // has become another one.
-    static Svar svar;
-    const unsigned udgave = frmMain->List1.Revision();
-    if (svar.udgave != udgave || svar.call != gsCall) svar = {gsCall, udgave, StårILoggen(gsCall)};
-    gbDupe = svar.fundet;
+    static LastSearch lastSearch;
+    const unsigned revision = frmMain->List1.Revision();
+    if (lastSearch.revision != revision || lastSearch.call != gsCall) lastSearch = {gsCall, revision, IsInLog(gsCall)};
+    gbDupe = lastSearch.found;
 }
 
-void WkdB4(const TextBox& txtCall, const ListBox& lstLog, ListBox& lstB4) {
-    const ListBox::Filling fylder(lstB4);
-    lstB4.Clear();
-    const Søgning søgning(txtCall.Text());
-    int fundne = 0;
+void WkdB4(const TextBox& callField, const ListBox& log, ListBox& matches) {
+    const ListBox::Filling filling(matches);
+    matches.Clear();
+    const Search search(callField.Text());
+    int count = 0;
     std::string_view c;
-    for (const std::string& linje : lstLog.Items()) {
-        if (ErNote(c)) continue;
-        c = kCall.Af(linje);
-        if (!søgning.FindesI(c)) continue;
-        lstB4.AddItem(B4Linje(linje));
-        if (++fundne == kFlestFundne) return;
+    for (const std::string& line : log.Items()) {
+        if (IsNote(c)) continue;
+        c = kCall.Of(line);
+        if (!search.IsIn(c)) continue;
+        matches.AddItem(EarlierContact(line));
+        if (++count == kMostFound) return;
     }
 }
 

@@ -22,12 +22,12 @@ extern bool gbDupe;
 /// behind a note whose text itself begins with "NOTE: " nothing is found. Meant so.
 void CheckDupe();
 
-/// Fills `lstB4` with the earlier contacts whose call contains the field's text, without regard to case; at most 50, the
+/// Fills `matches` with the earlier contacts whose call contains the field's text, without regard to case; at most 50, the
 /// oldest first. The guard against notes is as in CheckDupe.
 ///
 ///    1-15  call                21-24  serial number received
 ///   16-19  serial number sent  26-30  UTC
 ///   20     "/"
-void WkdB4(const TextBox& txtCall, const ListBox& lstLog, ListBox& lstB4);
+void WkdB4(const TextBox& callField, const ListBox& log, ListBox& matches);
 
 }  // namespace vatro

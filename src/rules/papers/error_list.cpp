@@ -82,10 +82,10 @@ public:
         vist_ = false;
         TjekTidspunkt();
         TjekCall();
-        TjekRapport(kRstSendt.TrimmetAf(linje_), kSendt);
-        if (!IsNumeric(kNrSendt.TrimmetAf(linje_))) Fejl("Sendt QSOnr skal være numerisk."_t);
-        TjekRapport(kRstModtaget.TrimmetAf(linje_), kModtaget);
-        TjekRapportSomNummer(kRstModtaget.TrimmetAf(linje_));
+        TjekRapport(kReportSent.TrimmedOf(linje_), kSendt);
+        if (!IsNumeric(kNumberSent.TrimmedOf(linje_))) Fejl("Sendt QSOnr skal være numerisk."_t);
+        TjekRapport(kReportReceived.TrimmedOf(linje_), kModtaget);
+        TjekRapportSomNummer(kReportReceived.TrimmedOf(linje_));
         TjekPoint();
         TjekMultiplier();
         TjekResten();
@@ -99,16 +99,16 @@ private:
     }
 
     void TjekTidspunkt() {
-        std::string tid(kTid.TrimmetAf(linje_));
+        std::string tid(kTime.TrimmedOf(linje_));
         ValiderTid(tid);
         if (!tid.empty()) Fejl(tid);
     }
 
     void TjekCall() {
-        gsCall = kCall.TrimmetAf(linje_);
+        gsCall = kCall.TrimmedOf(linje_);
         StripCall(gsCall);
         if (gsCall.size() < 3) Fejl("Et kaldesignal skal være på mindst 3 tegn."_t);
-        if (!HarTalOgBogstaver(gsCall)) Fejl("Der skal være både tal og bogstaver i et kaldesignal."_t);
+        if (!HasDigitsAndLetters(gsCall)) Fejl("Der skal være både tal og bogstaver i et kaldesignal."_t);
         if (gsCall.starts_with('0')) Fejl("Første tegn i call'et er et nul."_t);
         const bool husket = !sete_.insert(LeftAligned(gsCall, kHusketCall)).second;
         dublet_ = husket && gsCall.size() <= kHusketCall;
@@ -130,26 +130,26 @@ private:
     }
 
     void TjekPoint() {
-        const std::string_view call = kCall.TrimmetAf(linje_);
+        const std::string_view call = kCall.TrimmedOf(linje_);
         giQSOPoint = 3;
         if (ErDansk(call))
             giQSOPoint = 1;
         else if (call.ends_with("/P"))
             giQSOPoint = 5;
-        LandWkd(call, nytLand_, Handling::Op);
-        const double point = NumericValue(kPoint.TrimmetAf(linje_));
+        LandWkd(call, nytLand_, MarkAction::Mark);
+        const double point = NumericValue(kPoint.TrimmedOf(linje_));
         if (dublet_) {
             if (point != 0) Fejl("Dublet station giver 0 point.");
             return;
         }
-        EDRstnWkd(gsCall, Handling::Op);
+        EDRstnWkd(gsCall, MarkAction::Mark);
         if (point != giQSOPoint) Fejl(PointBesked(giQSOPoint));
     }
 
     void TjekMultiplier() {
-        const std::string_view mult = kMultiplier.TrimmetAf(linje_);
+        const std::string_view mult = kMultiplier.TrimmedOf(linje_);
         const std::string_view nyt = Trim(nytLand_);
-        if (mult == nyt || mult == kDupeMærke) return;
+        if (mult == nyt || mult == kDupeMark) return;
         if (nyt.empty())
             Fejl(std::string("QSO er ikke første qso for land: "_t)
                      .append(mult)
@@ -159,12 +159,12 @@ private:
     }
 
     void TjekResten() {
-        if (kOperatørLæst.TrimmetAf(linje_).empty()) Fejl("Operatør skal udfyldes."_t);
-        const std::string_view mode = kQsoMode.TrimmetAf(linje_);
+        if (kOperatorAsRead.TrimmedOf(linje_).empty()) Fejl("Operatør skal udfyldes."_t);
+        const std::string_view mode = kQsoMode.TrimmedOf(linje_);
         if (ssb_ && mode != "SSB") Fejl("Mode skal være SSB i SSB-log."_t);
         if (cw_ && mode != "PSK31" && mode != "CW" && mode != "RTTY" && mode != "HELL")
             Fejl("Mode skal være CW, PSK31, RTTY eller HELL i CW-log."_t);
-        if (!GyldigDato(kDato.TrimmetAf(linje_))) Fejl("Dato skal være i formatet dd-mm-åå."_t);
+        if (!GyldigDato(kDate.TrimmedOf(linje_))) Fejl("Dato skal være i formatet dd-mm-åå."_t);
     }
 
     bool cw_;
@@ -190,7 +190,7 @@ void DanFejlliste() {
     ÅbnPapir("Fejllist.txt");
     Skriv(Indrykket("Vatro fejlliste for " + gsMyCall + ". Dannet d. " + FormatDate(platform().clock.Now(), "dd.mm.yyyy")));
     SkrivBlank();
-    for (const BåndMode& log : kPapirOrden) DanFejlList(log);
+    for (const LogId& log : kPapirOrden) DanFejlList(log);
     platform().files.Close(kPapirFil);
 
     IndlæsLogfil();
@@ -200,9 +200,9 @@ void DanFejlliste() {
     frmMain->SetHourglass(false);
 }
 
-void DanFejlList(const BåndMode& log) {
+void DanFejlList(const LogId& log) {
     Find1Weekend();
-    TilføjForløb(BåndOgMode(log.bånd, log.mode));
+    TilføjForløb(BåndOgMode(log.band, log.mode));
     DanFejlListHoved(log);
     try {
         ÅbnLog(log);
@@ -217,12 +217,12 @@ void DanFejlList(const BåndMode& log) {
     }
 }
 
-void DanFejlListHoved(const BåndMode& log) {
-    Skriv(Indrykket("================================   " + BåndOgMode(log.bånd, LeftAligned(log.mode, 3)) +
+void DanFejlListHoved(const LogId& log) {
+    Skriv(Indrykket("================================   " + BåndOgMode(log.band, LeftAligned(log.mode, 3)) +
                     "   =================================="));
 }
 
-void DanFejlListKrop(const BåndMode& log) {
+void DanFejlListKrop(const LogId& log) {
     Files& filer = platform().files;
     ResetLande();
     ResetEDR();

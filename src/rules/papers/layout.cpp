@@ -25,8 +25,8 @@ std::string Indrykket(std::string_view tekst) {
 
 std::string Kontaktrække(std::string_view linje) {
     std::string række;
-    række.reserve(kIndryk.size() + kDato.bredde + 1 + kVistBredde);
-    return række.append(kIndryk).append(kDato.Af(linje)).append(1, ' ').append(Columns(linje, 1, kVistBredde));
+    række.reserve(kIndryk.size() + kDate.width + 1 + kVistBredde);
+    return række.append(kIndryk).append(kDate.Of(linje)).append(1, ' ').append(Columns(linje, 1, kVistBredde));
 }
 
 std::string Ialtrække(const IaltForm& form, std::string_view label, const LogSum& sum) {
@@ -45,7 +45,7 @@ std::string LogTitel() {
 }
 
 std::string VersionMærke() {
-    return ", (Vatro version " + VersionTekst() + ")";
+    return ", (Vatro version " + VersionText() + ")";
 }
 
 std::string BåndOgMode(std::string_view bånd, std::string_view mode) {

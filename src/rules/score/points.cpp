@@ -11,12 +11,12 @@ namespace vatro {
 std::int32_t giQSOPoint = 0;
 
 bool ErDansk(std::string_view call) {
-    constexpr std::string_view kDanske = "5P,5Q,OU,OV,OW,OZ,XP,";
-    return !call.empty() && kDanske.find(UpperText(call.substr(0, 2))) != std::string_view::npos;
+    constexpr std::string_view kDanishPrefixes = "5P,5Q,OU,OV,OW,OZ,XP,";
+    return !call.empty() && kDanishPrefixes.find(UpperText(call.substr(0, 2))) != std::string_view::npos;
 }
 
 void BeregnPoint(std::string call) {
-    FlytTalsuffiks(call);
+    MoveDigitSuffix(call);
     if (call.ends_with("/QRP")) call.resize(call.size() - 4);
     giQSOPoint = 3;
     // A suffix by itself, such as "/3", leaves nothing to look up.
@@ -29,12 +29,12 @@ void BeregnPoint(std::string call) {
         giQSOPoint = 1;
     else if (call.ends_with("/P"))
         giQSOPoint = 5;
-    std::string resultat;
-    LandWkd(call, resultat, Handling::Test);
-    EDRstnWkd(basis, Handling::Test);
-    std::string tekst;
-    LandStatusTekst(call, tekst);
-    if (ErUkendt(tekst)) giQSOPoint = 0;
+    std::string result;
+    LandWkd(call, result, MarkAction::Test);
+    EDRstnWkd(basis, MarkAction::Test);
+    std::string text;
+    LandStatusTekst(call, text);
+    if (IsUnknown(text)) giQSOPoint = 0;
 }
 
 }  // namespace vatro

@@ -12,66 +12,66 @@ namespace vatro {
 
 using namespace literals;
 
-std::array<EDRRec, kEdrRækker + 1> EDRstn;
+std::array<EDRRec, kEdrRows + 1> EDRstn;
 std::int16_t giEDR = 0;
 
 namespace {
 
 /// The calls of the rows, packed: every line of a log that is loaded is looked for among all stations.
-std::array<std::uint64_t, kEdrRækker + 1> nøgler{};
+std::array<std::uint64_t, kEdrRows + 1> keys{};
 
-std::uint64_t Nøgle(std::string_view seksTegn) {
-    std::uint64_t nøgle = 0;
-    for (const char c : seksTegn) nøgle = (nøgle << 8U) | static_cast<unsigned char>(c);
-    return nøgle;
+std::uint64_t PackedCall(std::string_view sixCharacters) {
+    std::uint64_t key = 0;
+    for (const char c : sixCharacters) key = (key << 8U) | static_cast<unsigned char>(c);
+    return key;
 }
 
-std::string_view EdrCall(const EDRRec& station) {
+std::string_view StationCall(const EDRRec& station) {
     return station.Linje.Padded().substr(0, kEdrCall);
 }
 
 }  // namespace
 
-int EDRIBrug() {
-    return std::min<int>(giEDR, kEdrRækker);
+int StationsInUse() {
+    return std::min<int>(giEDR, kEdrRows);
 }
 
 void IndlæsEDR() {
-    Files& filer = platform().files;
+    Files& files = platform().files;
     try {
-        filer.Open(1, Sti(gsFDLib, "edr.txt"), FileMode::Input);
+        files.Open(1, PathIn(gsFDLib, "edr.txt"), FileMode::Input);
         giEDR = 0;
-        while (!filer.EndOfFile(1)) {
-            const std::string linje = filer.LineInput(1);
+        while (!files.EndOfFile(1)) {
+            const std::string line = files.LineInput(1);
             ++giEDR;
-            if (giEDR > kEdrRækker) throw RunTimeError(Failure::IndexOutOfRange);
-            const auto række = static_cast<std::size_t>(giEDR);
-            EDRstn[række].Linje = linje;
-            EDRstn[række].Wkd = false;
-            nøgler[række] = Nøgle(EdrCall(EDRstn[række]));
+            if (giEDR > kEdrRows) throw RunTimeError(Failure::IndexOutOfRange);
+            const auto row = static_cast<std::size_t>(giEDR);
+            EDRstn[row].Linje = line;
+            EDRstn[row].Wkd = false;
+            keys[row] = PackedCall(StationCall(EDRstn[row]));
         }
-        filer.Close(1);
+        files.Close(1);
     } catch (const RunTimeError&) {
-        MsgBox("Kan ikke finde filen " + Sti(gsFDLib, "edr.txt"));
+        MsgBox("Kan ikke finde filen " + PathIn(gsFDLib, "edr.txt"));
     }
 }
 
-void EDRstnWkd(std::string& call, Handling handling) {
+void EDRstnWkd(std::string& call, MarkAction action) {
     call.resize(kEdrCall, ' ');
-    const std::uint64_t søgt = Nøgle(call);
-    const auto ende = nøgler.begin() + EDRIBrug() + 1;
-    for (auto nøgle = std::find(nøgler.begin() + 1, ende, søgt); nøgle != ende; nøgle = std::find(nøgle + 1, ende, søgt)) {
+    const std::uint64_t wanted = PackedCall(call);
+    const auto end = keys.begin() + StationsInUse() + 1;
+    for (auto key = std::find(keys.begin() + 1, end, wanted); key != end; key = std::find(key + 1, end, wanted)) {
         giQSOPoint = 10;
-        if (handling != Handling::Test) EDRstn[static_cast<std::size_t>(nøgle - nøgler.begin())].Wkd = handling == Handling::Op;
+        if (action != MarkAction::Test) EDRstn[static_cast<std::size_t>(key - keys.begin())].Wkd = action == MarkAction::Mark;
     }
 }
 
-void findEDRstn(std::string_view call, std::string& tekst) {
-    for (int i = 1; i <= EDRIBrug(); ++i) {
+void findEDRstn(std::string_view call, std::string& text) {
+    for (int i = 1; i <= StationsInUse(); ++i) {
         const EDRRec& station = EDRstn[static_cast<std::size_t>(i)];
-        if (Trim(EdrCall(station)) != Trim(call)) continue;
-        const std::string_view linje = station.Linje.Padded();
-        tekst = linje.substr(0, linje.find(','));
+        if (Trim(StationCall(station)) != Trim(call)) continue;
+        const std::string_view line = station.Linje.Padded();
+        text = line.substr(0, line.find(','));
         return;
     }
 }
@@ -80,9 +80,9 @@ void ResetEDR() {
     for (EDRRec& station : EDRstn) station.Wkd = false;
 }
 
-void NulstilEDR() {
+void ClearStations() {
     EDRstn.fill({});
-    nøgler.fill(0);
+    keys.fill(0);
     giEDR = 0;
 }
 

@@ -18,7 +18,7 @@
 
 namespace vatro {
 
-inline constexpr int kEdrRækker = 200;
+inline constexpr int kEdrRows = 200;
 inline constexpr std::size_t kEdrCall = 6;
 
 struct EDRRec {
@@ -27,11 +27,11 @@ struct EDRRec {
     bool Wkd = false;
 };
 
-extern std::array<EDRRec, kEdrRækker + 1> EDRstn;
+extern std::array<EDRRec, kEdrRows + 1> EDRstn;
 /// Rows in use. After a load that failed at the end of the table it counts the line that did not fit.
 extern std::int16_t giEDR;
 /// Rows that can be visited: the count, but no row beyond the table.
-int EDRIBrug();
+int StationsInUse();
 
 /// Loads the list. Any failure, also a line beyond the table, gives one message and leaves what was read; the file stays
 /// open under number 1 in the latter case, so that the first log load of the run finds nothing: meant so.
@@ -39,15 +39,15 @@ void IndlæsEDR();
 
 /// Recognises a station by the first six characters of the call, to which `call` is cut or blank-padded. A station found
 /// sets giQSOPoint to 10 with every action; Op marks it as worked, Ned takes the mark away.
-void EDRstnWkd(std::string& call, Handling handling);
+void EDRstnWkd(std::string& call, MarkAction action);
 
-/// Words the station of a base call for the operator; `tekst` stays as it was if it is none.
-void findEDRstn(std::string_view call, std::string& tekst);
+/// Words the station of a base call for the operator; `text` stays as it was if it is none.
+void findEDRstn(std::string_view call, std::string& text);
 
 /// Clears the worked marks.
 void ResetEDR();
 
 /// An empty list, as before the start.
-void NulstilEDR();
+void ClearStations();
 
 }  // namespace vatro

@@ -37,10 +37,10 @@ TEST_F(EntryClock, StopsWithoutForgettingThatItIsAutomatic) {
 
 TEST_F(EntryClock, IsSwitchedByItsMenuEntry) {
     Start();
-    SkiftAutoTid();
+    ToggleAutoTime();
     EXPECT_EQ(gbAutoTid, 0);
     EXPECT_FALSE(frmMain->Timer1.Running());
-    SkiftAutoTid();
+    ToggleAutoTime();
     EXPECT_EQ(gbAutoTid, 1);
     EXPECT_TRUE(frmMain->Timer1.Running());
 }

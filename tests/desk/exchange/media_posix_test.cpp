@@ -67,7 +67,7 @@ protected:
         const auto length = fs::file_size(root_ / "kopi" / name, missing);
         return missing ? -1 : static_cast<long>(length);
     }
-    static void Copy() { Dispatch(BackupUdfør); }
+    static void Copy() { Dispatch(BackUpLogs); }
 
     TemporaryDirectory directory_;
     fs::path root_ = directory_.Path();

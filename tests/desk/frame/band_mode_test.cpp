@@ -10,21 +10,21 @@ namespace {
 using namespace literals;
 using Lines = std::vector<std::string>;
 
-TEST(Kommando, KnowsTheFiveBandsAndTheFiveModes) {
-    EXPECT_EQ(Kommando("10M"), 1);
-    EXPECT_EQ(Kommando("15M"), 2);
-    EXPECT_EQ(Kommando("20M"), 3);
-    EXPECT_EQ(Kommando("40M"), 4);
-    EXPECT_EQ(Kommando("80M"), 5);
-    EXPECT_EQ(Kommando("SSB"), 8);
-    EXPECT_EQ(Kommando("CW"), 9);
-    EXPECT_EQ(Kommando("PSK31"), 10);
-    EXPECT_EQ(Kommando("RTTY"), 11);
-    EXPECT_EQ(Kommando("HELL"), 12);
+TEST(ChoiceOfWord, KnowsTheFiveBandsAndTheFiveModes) {
+    EXPECT_EQ(ChoiceOfWord("10M"), 1);
+    EXPECT_EQ(ChoiceOfWord("15M"), 2);
+    EXPECT_EQ(ChoiceOfWord("20M"), 3);
+    EXPECT_EQ(ChoiceOfWord("40M"), 4);
+    EXPECT_EQ(ChoiceOfWord("80M"), 5);
+    EXPECT_EQ(ChoiceOfWord("SSB"), 8);
+    EXPECT_EQ(ChoiceOfWord("CW"), 9);
+    EXPECT_EQ(ChoiceOfWord("PSK31"), 10);
+    EXPECT_EQ(ChoiceOfWord("RTTY"), 11);
+    EXPECT_EQ(ChoiceOfWord("HELL"), 12);
 }
 
-TEST(Kommando, IsTheExactWordAndNothingElse) {
-    for (const char* word : {"", "XXM", "80m", "80M ", "80", "160M", "FM", "CWX"}) EXPECT_EQ(Kommando(word), 0) << word;
+TEST(ChoiceOfWord, IsTheExactWordAndNothingElse) {
+    for (const char* word : {"", "XXM", "80m", "80M ", "80", "160M", "FM", "CWX"}) EXPECT_EQ(ChoiceOfWord(word), 0) << word;
 }
 
 class BandMode : public RunningProgram {
@@ -87,7 +87,7 @@ TEST_F(BandMode, AChangeLoadsTheLogBeforeItAsks) {
     files.files["LOG\\FD40MSSB.TXT"] = {"10:10 DL1AA           59 -0007 59 -0003  3 DL         OZ1DEF     SSB   05-09-26"};
     Start();
     dialogs.Expect("Fortsætter samme operatør?", Answer::Yes);
-    SkiftBåndMode(4);
+    ChangeBandMode(4);
     EXPECT_EQ(giQSOnr, 8);
     EXPECT_EQ(dialogs.boxes.back().title, "Bånd/modeskift"_t);
     EXPECT_EQ(dialogs.boxes.back().buttons, Buttons::YesNo);
@@ -98,7 +98,7 @@ TEST_F(BandMode, NoEmptiesTheOperatorBoxBeforeItTellsWhatToDo) {
     Start();
     dialogs.Expect("Fortsætter samme operatør?", Answer::No);
     dialogs.Expect("Angiv/vælg ny operatør\r\n\r\nTryk derefter Alt+C for at hoppe til Call-felt");
-    SkiftBåndMode(4);
+    ChangeBandMode(4);
     EXPECT_EQ(dialogs.boxes.back().title, "Operatør"_t);
     EXPECT_EQ(frmMain->Combo1.Text(), "");
     EXPECT_EQ(frmMain->Combo1.ListCount(), 1);
@@ -109,11 +109,11 @@ TEST_F(BandMode, AnEmptyBandOrModeStopsTheChange) {
     Start();
     gsBand.clear();
     dialogs.Expect("Vælg bånd");
-    SkiftBåndMode(9);
+    ChangeBandMode(9);
     EXPECT_EQ(gsMode, "CW");
     gsMode.clear();
     dialogs.Expect("Vælg mode");
-    SkiftBåndMode(1);
+    ChangeBandMode(1);
     EXPECT_EQ(gsBand, "10m");
 }
 
@@ -138,7 +138,7 @@ TEST_F(BandMode, TheRootOfADriveIsALogDirectoryOfTwoCharacters) {
     dialogs.Expect("Logbibliotek sat til: C:\\");
     SetLogLib();
     EXPECT_EQ(gsLogLib, "C:");
-    EXPECT_EQ(AktuelLogSti(), "C:\\FD80mSSB.txt");
+    EXPECT_EQ(CurrentLogPath(), "C:\\FD80mSSB.txt");
 }
 
 TEST_F(BandMode, CancelKeepsTheLogDirectory) {

@@ -27,8 +27,8 @@ protected:
 
 TEST_F(LogFile, IsNamedAfterBandAndMode) {
     Start();
-    EXPECT_EQ(LogSti("10m", "CW"), "log\\FD10mCW.txt");
-    EXPECT_EQ(AktuelLogSti(), "log\\FD80mSSB.txt");
+    EXPECT_EQ(LogPath("10m", "CW"), "log\\FD10mCW.txt");
+    EXPECT_EQ(CurrentLogPath(), "log\\FD80mSSB.txt");
 }
 
 TEST_F(LogFile, LoadCountsPointsCountriesAndTakesTheLastSerialNumber) {

@@ -53,7 +53,7 @@ TEST_F(ProgramStart, ShowsTheSideWindowsAndPutsTheCursorInTheCallField) {
 }
 
 TEST_F(ProgramStart, JoinsTheVersionNumbersByPoints) {
-    EXPECT_EQ(VersionTekst(), "1.2.3");
+    EXPECT_EQ(VersionText(), "1.2.3");
 }
 
 TEST_F(ProgramStart, ARegularEndStoresTheSettingsInTheirOrder) {

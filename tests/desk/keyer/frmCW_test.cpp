@@ -128,9 +128,9 @@ TEST_F(CWWindow, ANoKeepsTheFields) {
 }
 
 TEST_F(CWWindow, OKTakesEverythingOverAndStoresItWithTheEquipment) {
-    gsRig[0] = "";
+    rigs[0] = "";
     Open();
-    gsRig[2] = "Homebrew";
+    rigs[2] = "Homebrew";
     frmCW->Text1[0].SetText("TEST #R");
     frmCW->Text1[6].SetText("AGN?");
     frmCW->txtWPM.SetText("26");

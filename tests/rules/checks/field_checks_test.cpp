@@ -12,10 +12,10 @@ using namespace literals;
 class Checks : public RunningProgram {};
 
 TEST_F(Checks, AnOperatorOfBlanksIsNone) {
-    EXPECT_TRUE(TjekOperatør("OZ1AB "));
+    EXPECT_TRUE(CheckOperator("OZ1AB "));
     for (const char* blank : {"", "      "}) {
         dialogs.Expect("Operatørcall skal angives");
-        EXPECT_FALSE(TjekOperatør(blank));
+        EXPECT_FALSE(CheckOperator(blank));
     }
 }
 
@@ -25,7 +25,7 @@ TEST_F(Checks, ATimeHasFiveCharactersAndAColonInTheMiddle) {
     for (const char* typed : {"12.30", "12:30", "12 30", "12130"}) {
         std::string time;
         field.SetText(typed);
-        EXPECT_TRUE(TjekTid(field, time)) << typed;
+        EXPECT_TRUE(CheckTime(field, time)) << typed;
         EXPECT_EQ(field.Text(), "12:30");
         EXPECT_EQ(time, "12:30");
     }
@@ -38,30 +38,30 @@ TEST_F(Checks, ATimeThatIsNoneIsToldWithThePresentTime) {
         std::string time;
         field.SetText(typed);
         dialogs.Expect("Indtast tid i formatet: 13:00");
-        EXPECT_FALSE(TjekTid(field, time)) << typed;
+        EXPECT_FALSE(CheckTime(field, time)) << typed;
         EXPECT_EQ(field.Text(), left);
     }
 }
 
 TEST_F(Checks, ACallHasThreeCharactersWithFigureAndLetter) {
-    EXPECT_TRUE(TjekKaldesignal("A1A"));
-    EXPECT_TRUE(TjekKaldesignal("1Å2"_t));
+    EXPECT_TRUE(CheckCall("A1A"));
+    EXPECT_TRUE(CheckCall("1Å2"_t));
     dialogs.Expect("Et kaldesignal skal være på mindst 3 tegn");
-    EXPECT_FALSE(TjekKaldesignal("A1"));
+    EXPECT_FALSE(CheckCall("A1"));
     for (const auto call : {"123"_t, "ABC"_t, "1ÆØ"_t}) {
         dialogs.Expect("Der skal være både tal og bogstaver i et kaldesignal");
-        EXPECT_FALSE(TjekKaldesignal(call));
+        EXPECT_FALSE(CheckCall(call));
     }
 }
 
 TEST_F(Checks, ANoughtInFrontIsAskedForWithNoAsDefault) {
     dialogs.Expect("Skal det være et nul?", Answer::Yes);
-    EXPECT_TRUE(TjekKaldesignal("0Z1AB"));
+    EXPECT_TRUE(CheckCall("0Z1AB"));
     EXPECT_EQ(dialogs.boxes.back().title, "Første tegn i call'et er et nul."_t);
     EXPECT_TRUE(dialogs.boxes.back().defaultNo);
     dialogs.Expect("Skal det være et nul?", Answer::No);
-    EXPECT_FALSE(TjekKaldesignal("0Z1AB"));
-    EXPECT_TRUE(TjekKaldesignal("OZ0AB"));
+    EXPECT_FALSE(CheckCall("0Z1AB"));
+    EXPECT_TRUE(CheckCall("OZ0AB"));
 }
 
 struct Report {
@@ -76,7 +76,7 @@ TEST_P(Reports, AreJudgedFigureByFigure) {
     const auto& [mode, text, message] = GetParam();
     gsMode = mode;
     if (*message != 0) dialogs.Expect(message);
-    EXPECT_EQ(TjekRst(text), *message == 0);
+    EXPECT_EQ(CheckReport(text), *message == 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -98,10 +98,10 @@ TEST_F(Checks, ANumberOfNoughtIsAskedForAndBecomesFourOfThem) {
     for (const char* typed : {"", "0", "0000", "AB"}) {
         field.SetText(typed);
         dialogs.Expect("Skal modtaget rapportnummer være nul?", Answer::No);
-        EXPECT_FALSE(TjekModtagetNr(field));
+        EXPECT_FALSE(CheckReceivedNumber(field));
         EXPECT_EQ(field.Text(), typed);
         dialogs.Expect("Skal modtaget rapportnummer være nul?", Answer::Yes);
-        EXPECT_TRUE(TjekModtagetNr(field));
+        EXPECT_TRUE(CheckReceivedNumber(field));
         EXPECT_EQ(field.Text(), "0000");
     }
     EXPECT_EQ(dialogs.boxes.back().title, "Modtaget rapport");
@@ -113,11 +113,11 @@ TEST_F(Checks, ANumberIsNumericAsAWhole) {
     TextBox& field = frmMain->Text1[5];
     for (const char* number : {"345", "1e3", "1"}) {
         field.SetText(number);
-        EXPECT_TRUE(TjekModtagetNr(field)) << number;
+        EXPECT_TRUE(CheckReceivedNumber(field)) << number;
     }
     field.SetText("12A");
     dialogs.Expect("Modtaget rapport skal være numerisk");
-    EXPECT_FALSE(TjekModtagetNr(field));
+    EXPECT_FALSE(CheckReceivedNumber(field));
 }
 
 }  // namespace

@@ -14,10 +14,10 @@ class CountryProgram : public RunningProgram {
 protected:
     void SetUp() override {
         BeginProgram();
-        NulstilTabeller();
+        ResetTables();
         gsFDLib = "data";
     }
-    void TearDown() override { NulstilTabeller(); }
+    void TearDown() override { ResetTables(); }
 
     static const LandRec& Country(int row) { return Lande[static_cast<std::size_t>(row)]; }
 };

@@ -97,9 +97,9 @@ TEST_F(Import, IndexesTheFirstCharactersOfPrefixesThatAreNotOfFullLength) {
 
 TEST_F(Import, ThePrefixesAreFoundAtOnce) {
     Run({kHeader, "    QQ,QQ1;"});
-    EXPECT_EQ(FindPræfix("QQ1AB", 1), 1);
-    EXPECT_EQ(FindHeleCall("QQ", 1), 2);
-    EXPECT_EQ(FindHeleCall("DL", 1), 0);
+    EXPECT_EQ(FindPrefix("QQ1AB", 1), 1);
+    EXPECT_EQ(FindWholeCall("QQ", 1), 2);
+    EXPECT_EQ(FindWholeCall("DL", 1), 0);
 }
 
 TEST_F(Import, ACharacterOfTheFillerEndsAPrefix) {
@@ -121,7 +121,7 @@ TEST_F(Import, FewerRowsLeaveNoneOfTheOldOnesInUse) {
     Run({kHeader, "    QQ,QR,QS;"});
     Run({kHeader, "    QT;"});
     EXPECT_EQ(LinesOf("DATA\\REFPFX.TXT"), (std::vector<std::string>{"QT        QQ        14 27"}));
-    EXPECT_EQ(FindHeleCall("QS", 1), 0);
+    EXPECT_EQ(FindWholeCall("QS", 1), 0);
 }
 
 TEST_F(Import, FiveHundredCountriesFitAndOneMoreFails) {

@@ -20,7 +20,7 @@ using namespace literals;
 class Lookup : public ::testing::Test {
 protected:
     void SetUp() override {
-        NulstilTabeller();
+        ResetTables();
         gbVisLand = true;
         giMult = 0;
         giQSOPoint = 0;
@@ -41,9 +41,9 @@ protected:
                                  {"VP8ADE/H", "VP8/H"},
                                  {"VP8", "VP8"}})
             Prefix(pfx, land);
-        IndekserRefPfx();
+        IndexPrefixes();
     }
-    void TearDown() override { NulstilTabeller(); }
+    void TearDown() override { ResetTables(); }
 
     static void Country(std::string_view pfx, std::string_view name, std::string_view continent) {
         LandRec& row = Lande[static_cast<std::size_t>(++giLande)];
@@ -58,7 +58,7 @@ protected:
         auto& start = gaPfxStart[static_cast<unsigned char>(pfx.front())];
         if (start == 0) start = giRefPfx;
     }
-    static std::string Result(std::string_view call, Handling handling) {
+    static std::string Result(std::string_view call, MarkAction handling) {
         std::string result = "left from before";
         LandWkd(call, result, handling);
         return result;
@@ -71,82 +71,82 @@ protected:
 };
 
 TEST_F(Lookup, MarkingTellsTheCountryOnce) {
-    EXPECT_EQ(Result("DL1ABC", Handling::Op), "DL        ");
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Mark), "DL        ");
     EXPECT_EQ(giMult, 1);
-    EXPECT_EQ(Result("DL2ABC", Handling::Op), "");
+    EXPECT_EQ(Result("DL2ABC", MarkAction::Mark), "");
     EXPECT_EQ(giMult, 1);
 }
 
 TEST_F(Lookup, TakingTheMarkAwayTellsTheCountryOnce) {
-    Result("GM3ABC", Handling::Op);
-    EXPECT_EQ(Result("GM3ABC", Handling::Ned), "GM        ");
+    Result("GM3ABC", MarkAction::Mark);
+    EXPECT_EQ(Result("GM3ABC", MarkAction::Unmark), "GM        ");
     EXPECT_EQ(giMult, 0);
-    EXPECT_EQ(Result("GM3ABC", Handling::Ned), "");
+    EXPECT_EQ(Result("GM3ABC", MarkAction::Unmark), "");
     EXPECT_EQ(giMult, 0);
 }
 
 TEST_F(Lookup, AskingChangesNothing) {
-    EXPECT_EQ(Result("DL1ABC", Handling::Test), "DL        ");
-    EXPECT_EQ(Result("DL1ABC", Handling::Test), "DL        ");
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
     EXPECT_EQ(giMult, 0);
-    Result("DL1ABC", Handling::Op);
-    EXPECT_EQ(Result("DL1ABC", Handling::Test), "");
+    Result("DL1ABC", MarkAction::Mark);
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "");
 }
 
 TEST_F(Lookup, AnUnknownPrefixChangesNothing) {
     giQSOPoint = 77;
-    for (const Handling handling : {Handling::Op, Handling::Ned, Handling::Test}) EXPECT_EQ(Result("XZ9XYZ", handling), "");
+    for (const MarkAction handling : {MarkAction::Mark, MarkAction::Unmark, MarkAction::Test}) EXPECT_EQ(Result("XZ9XYZ", handling), "");
     EXPECT_EQ(giMult, 0);
     EXPECT_EQ(giQSOPoint, 77);
 }
 
 TEST_F(Lookup, AMultiplierColumnIsFoundWithItsBlanks) {
-    EXPECT_EQ(Result("GM        ", Handling::Op), "GM        ");
-    EXPECT_EQ(Result("-DUPE-    ", Handling::Op), "");
+    EXPECT_EQ(Result("GM        ", MarkAction::Mark), "GM        ");
+    EXPECT_EQ(Result("-DUPE-    ", MarkAction::Mark), "");
     // The text before the slash decides: the country of the shorter prefix, not the one named.
-    EXPECT_EQ(Result("VP8/H     ", Handling::Op), "VP8       ");
+    EXPECT_EQ(Result("VP8/H     ", MarkAction::Mark), "VP8       ");
     EXPECT_EQ(giMult, 2);
 }
 
 TEST_F(Lookup, OutsideEuropeSetsSixPointsWithEveryAction) {
-    for (const Handling handling : {Handling::Op, Handling::Op, Handling::Test, Handling::Ned, Handling::Ned}) {
+    for (const MarkAction handling : {MarkAction::Mark, MarkAction::Mark, MarkAction::Test, MarkAction::Unmark, MarkAction::Unmark}) {
         giQSOPoint = 3;
         Result("K1ABC", handling);
         EXPECT_EQ(giQSOPoint, 6);
     }
     giQSOPoint = 3;
-    Result("DL1ABC", Handling::Op);
+    Result("DL1ABC", MarkAction::Mark);
     EXPECT_EQ(giQSOPoint, 3);
 }
 
 TEST_F(Lookup, TheEuropeanAreasOfAnAsianCountryKeepTheirPoints) {
     giQSOPoint = 3;
-    Result("TA1ABC", Handling::Op);
+    Result("TA1ABC", MarkAction::Mark);
     EXPECT_EQ(giQSOPoint, 3);
-    Result("TA0ABC", Handling::Test);
+    Result("TA0ABC", MarkAction::Test);
     EXPECT_EQ(giQSOPoint, 3);
-    Result("TA2ABC", Handling::Test);
+    Result("TA2ABC", MarkAction::Test);
     EXPECT_EQ(giQSOPoint, 6);
 }
 
 TEST_F(Lookup, TheEuropeanAreaIsReadFromTheCallAsGiven) {
     // The country text is TA1ABC, but the call begins TA2.
     giQSOPoint = 3;
-    Result("TA2ABC/1", Handling::Test);
+    Result("TA2ABC/1", MarkAction::Test);
     EXPECT_EQ(giQSOPoint, 6);
 }
 
 TEST_F(Lookup, ACallOfOneFigureCountsAsEuropean) {
     Prefix("1", "K");
-    IndekserRefPfx();
+    IndexPrefixes();
     giQSOPoint = 3;
-    EXPECT_EQ(Result("1", Handling::Test), "K         ");
+    EXPECT_EQ(Result("1", MarkAction::Test), "K         ");
     EXPECT_EQ(giQSOPoint, 3);
 }
 
 TEST_F(Lookup, TheStatusTellsNewAndWorked) {
     EXPECT_EQ(Status("DL1ABC"), "DL: Fed. Rep. of Germany (EU), er nyt land.");
-    Result("DL1ABC", Handling::Op);
+    Result("DL1ABC", MarkAction::Mark);
     EXPECT_EQ(Status("DL1ABC"), "DL: Fed. Rep. of Germany (EU), er kørt."_t);
 }
 
@@ -154,8 +154,8 @@ TEST_F(Lookup, TheStatusOfAnUnknownPrefixNamesWhatWasLookedUp) {
     constexpr std::string_view told = ": er ukendt præfix. Call'et bliver gemt i filen 'ukendt.txt', hvis QSOen logges. Kør den!"_t;
     EXPECT_EQ(Status("XZ9XYZ"), "XZ9XYZ" + std::string(told));
     EXPECT_EQ(Status("K1ABC/AM"), "AM" + std::string(told));
-    EXPECT_TRUE(ErUkendt(Status("XZ9XYZ")));
-    EXPECT_FALSE(ErUkendt(Status("DL1ABC")));
+    EXPECT_TRUE(IsUnknown(Status("XZ9XYZ")));
+    EXPECT_FALSE(IsUnknown(Status("DL1ABC")));
 }
 
 TEST_F(Lookup, ASingleCharacterIsNotReported) {
@@ -171,40 +171,40 @@ TEST_F(Lookup, SwitchedOffTheStatusIsLeftAsItWas) {
 }
 
 TEST_F(Lookup, AWholeCallOfTheTableComesBeforeItsPrefix) {
-    EXPECT_EQ(Result("VP8ADE/H", Handling::Test), "VP8/H     ");
-    EXPECT_EQ(Result("VP8ADE/P", Handling::Test), "VP8       ");
+    EXPECT_EQ(Result("VP8ADE/H", MarkAction::Test), "VP8/H     ");
+    EXPECT_EQ(Result("VP8ADE/P", MarkAction::Test), "VP8       ");
 }
 
 TEST_F(Lookup, EmptyTablesKnowNoCall) {
-    NulstilTabeller();
-    EXPECT_EQ(Result("DL1ABC", Handling::Op), "");
-    EXPECT_TRUE(ErUkendt(Status("DL")));
+    ResetTables();
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Mark), "");
+    EXPECT_TRUE(IsUnknown(Status("DL")));
     EXPECT_EQ(Status("D"), "");
 }
 
 TEST_F(Lookup, ACountryNotInTheTableGivesItsNeighbour) {
     Prefix("F", "F");
     Prefix("ZL", "ZL");
-    IndekserRefPfx();
-    EXPECT_EQ(Result("F5ABC", Handling::Test), "G         ");
-    EXPECT_EQ(Result("ZL1ABC", Handling::Test), "VP8/H     ");
+    IndexPrefixes();
+    EXPECT_EQ(Result("F5ABC", MarkAction::Test), "G         ");
+    EXPECT_EQ(Result("ZL1ABC", MarkAction::Test), "VP8/H     ");
 }
 
 TEST_F(Lookup, ClearingTheMarksLeavesTheCountToTheCaller) {
-    Result("DL1ABC", Handling::Op);
-    Result("K1ABC", Handling::Op);
+    Result("DL1ABC", MarkAction::Mark);
+    Result("K1ABC", MarkAction::Mark);
     ResetLande();
     EXPECT_EQ(giMult, 2);
-    EXPECT_EQ(Result("DL1ABC", Handling::Test), "DL        ");
-    EXPECT_EQ(Result("K1ABC", Handling::Test), "K         ");
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
+    EXPECT_EQ(Result("K1ABC", MarkAction::Test), "K         ");
 }
 
 TEST_F(Lookup, InAFullTableOnlyAWholeRowIsFound) {
-    while (giRefPfx < kRefPfxRækker) Prefix("YY", "K");
-    IndekserRefPfx();
-    EXPECT_EQ(Result("YY", Handling::Test), "K         ");
+    while (giRefPfx < kPrefixRows) Prefix("YY", "K");
+    IndexPrefixes();
+    EXPECT_EQ(Result("YY", MarkAction::Test), "K         ");
     // Looking for the whole call comes first and has run beyond the table before the prefix is tried.
-    EXPECT_THROW(Result("YY1ABC", Handling::Test), RunTimeError);
+    EXPECT_THROW(Result("YY1ABC", MarkAction::Test), RunTimeError);
     EXPECT_THROW(Status("YY1ABC"), RunTimeError);
 }
 
@@ -215,13 +215,13 @@ TEST_F(Lookup, CountNeverLeavesTheMarks) {
     std::uniform_int_distribution<std::size_t> call(0, calls.size() - 1);
     std::uniform_int_distribution<int> action(0, 2);
     for (int round = 0; round < 5000; ++round) {
-        const auto handling = static_cast<Handling>(action(random));
+        const auto handling = static_cast<MarkAction>(action(random));
         const int before = giMult;
         const std::string result = Result(calls[call(random)], handling);
         int marked = 0;
         for (int row = 1; row <= giLande; ++row) marked += Lande[static_cast<std::size_t>(row)].Wkd ? 1 : 0;
         ASSERT_EQ(giMult, marked);
-        const int moved = handling == Handling::Op ? 1 : handling == Handling::Ned ? -1 : 0;
+        const int moved = handling == MarkAction::Mark ? 1 : handling == MarkAction::Unmark ? -1 : 0;
         ASSERT_EQ(giMult - before, result.empty() ? 0 : moved);
     }
 }
@@ -245,27 +245,27 @@ TEST(PrefixSearch, FindsTheRowThatAScanFinds) {
         return t;
     };
     for (int table = 0; table < 60; ++table) {
-        NulstilTabeller();
+        ResetTables();
         const int rows = std::uniform_int_distribution<int>(0, 80)(random);
         for (giRefPfx = 0; giRefPfx < rows;) RefPfx[static_cast<std::size_t>(++giRefPfx)].Pfx = text(5);
-        IndekserRefPfx();
+        IndexPrefixes();
         for (int round = 0; round < 200; ++round) {
             const std::string call = text(8);
             const int start = std::uniform_int_distribution<int>(0, rows)(random);
-            ASSERT_EQ(FindHeleCall(call, start), Scanned(call, start, true)) << call << " from " << start;
-            ASSERT_EQ(FindPræfix(call, start), Scanned(call, start, false)) << call << " from " << start;
+            ASSERT_EQ(FindWholeCall(call, start), Scanned(call, start, true)) << call << " from " << start;
+            ASSERT_EQ(FindPrefix(call, start), Scanned(call, start, false)) << call << " from " << start;
         }
     }
-    NulstilTabeller();
+    ResetTables();
 }
 
 TEST(PrefixSearch, RunsOneRowBeyondAFullTable) {
-    NulstilTabeller();
-    for (giRefPfx = 0; giRefPfx < kRefPfxRækker;) RefPfx[static_cast<std::size_t>(++giRefPfx)].Pfx = "DL";
-    IndekserRefPfx();
-    EXPECT_EQ(FindPræfix("DL1ABC", 1), 1);
-    EXPECT_EQ(FindPræfix("DL1ABC", 6000), 6000);
-    for (const auto search : {FindHeleCall, FindPræfix}) {
+    ResetTables();
+    for (giRefPfx = 0; giRefPfx < kPrefixRows;) RefPfx[static_cast<std::size_t>(++giRefPfx)].Pfx = "DL";
+    IndexPrefixes();
+    EXPECT_EQ(FindPrefix("DL1ABC", 1), 1);
+    EXPECT_EQ(FindPrefix("DL1ABC", 6000), 6000);
+    for (const auto search : {FindWholeCall, FindPrefix}) {
         try {
             search("XZ9XYZ", 1);
             ADD_FAILURE() << "the search came to an end";
@@ -273,16 +273,16 @@ TEST(PrefixSearch, RunsOneRowBeyondAFullTable) {
             EXPECT_EQ(failure.Number(), 9);
         }
     }
-    NulstilTabeller();
+    ResetTables();
 }
 
 TEST(PrefixSearch, OneRowLessThanFullFindsNothingAndIsNoFailure) {
-    NulstilTabeller();
-    for (giRefPfx = 0; giRefPfx < kRefPfxRækker - 1;) RefPfx[static_cast<std::size_t>(++giRefPfx)].Pfx = "DL";
-    IndekserRefPfx();
-    EXPECT_EQ(FindHeleCall("XZ9XYZ", 0), 0);
-    EXPECT_EQ(FindPræfix("XZ9XYZ", 0), 0);
-    NulstilTabeller();
+    ResetTables();
+    for (giRefPfx = 0; giRefPfx < kPrefixRows - 1;) RefPfx[static_cast<std::size_t>(++giRefPfx)].Pfx = "DL";
+    IndexPrefixes();
+    EXPECT_EQ(FindWholeCall("XZ9XYZ", 0), 0);
+    EXPECT_EQ(FindPrefix("XZ9XYZ", 0), 0);
+    ResetTables();
 }
 
 }  // namespace

@@ -83,7 +83,7 @@ TEST_F(Tables, FiveHundredCountriesFitAndOneMoreIsTold) {
     dialogs.Expect(kLandeMangler);
     LoadLande(lines);
     EXPECT_EQ(giLande, 501) << "the row that failed is counted";
-    EXPECT_EQ(LandeIBrug(), 500);
+    EXPECT_EQ(CountriesInUse(), 500);
     EXPECT_EQ(Country(500).Pfx.Trimmed(), "QQ");
     EXPECT_FALSE(files.IsOpen());
 }

@@ -104,8 +104,8 @@ TEST_F(Printing, CountsAsTheSheetDoes) {
 TEST_F(Printing, OfTheSummaryFillsTheSheet) {
     gsMyCall = "OZ1ABC/P";
     gsTelefon = "87654321";
-    gsRig[0] = "IC-751";
-    gsAnt[0] = "Dipol";
+    rigs[0] = "IC-751";
+    antennas[0] = "Dipol";
     Log("80mCW", Times(31, Contact({.points = 2, .mult = "DL", .op = "OZ9Z"})) + Times(89, Contact({.points = 2, .op = "OZ1AB"})));
     Log("80mSSB", Times(22, Contact({.points = 2, .mult = "DL"})) + Times(58, Contact({.points = 2})));
     Lines wanted{"job",

@@ -19,7 +19,7 @@ protected:
         Choose(frmMain->mnuEfterSummary);
         return Paper("Summary.txt");
     }
-    static BandSum Counted(const BåndMode& log, std::string operators = {}) {
+    static BandSum Counted(const LogId& log, std::string operators = {}) {
         BandSum sum;
         SumLog(log, sum, operators);
         return sum;
@@ -30,7 +30,7 @@ protected:
     }
 };
 
-constexpr BåndMode k80mCW{"80m", "CW"};
+constexpr LogId k80mCW{"80m", "CW"};
 
 const Lines kNothing{
     "Sammentællingsblad for EDR's HF Fieldday for lokalafdelinger",
@@ -76,8 +76,8 @@ TEST_F(Summary, ShowsTheRowsOfTheWorkedExample) {
     Log("20mCW", Times(162, Contact({.points = 3, .mult = "DL"})) + Times(200, Contact({.points = 3})) + Lines{Contact({.points = 10})} +
                      Times(77, Contact({.points = 1})));
     Log("10mCW", {NoteWith("37", "")});
-    gsRig[0] = "IC-751";
-    gsAnt[0] = "Dipol";
+    rigs[0] = "IC-751";
+    antennas[0] = "Dipol";
     const Lines sheet = Sheet();
     EXPECT_EQ(sheet[8], "Bånd        QSOs - Dubs  Mults x Points = Band score  Mult total x Points total = Bandscore total  Stn/Ant");
     EXPECT_EQ(sheet[9], "3,5 MHz CW     120          31 x    240 =     7440                                                 IC-751/Dipol");
@@ -216,8 +216,8 @@ TEST_F(Summary, TellsTheTelephoneUnlessItIsTheDefault) {
 
 TEST_F(Summary, PutsTheEquipmentOnTheCwRowOfItsBand) {
     for (std::size_t i = 0; i < 5; ++i) {
-        gsRig[i] = "R" + std::string(kUdstyrBånd[i]);
-        gsAnt[i] = "A" + std::string(kUdstyrBånd[i]);
+        rigs[i] = "R" + std::string(kEquipmentBands[i]);
+        antennas[i] = "A" + std::string(kEquipmentBands[i]);
     }
     const Lines sheet = Sheet();
     EXPECT_EQ(sheet[9].substr(99), "R80/A80");

@@ -17,7 +17,7 @@ protected:
         gsFDLib = "data";
         gbVisLand = true;
         giMult = 0;
-        NulstilTabeller();
+        ResetTables();
         files.files["DATA\\LANDE.TXT"] = {"DL        Fed. Rep. of Germany     EU -1 ", "K         United States            NA  5 ",
                                           "OZ        Denmark                  EU -1 ", "TA        Turkey                   AS -2 "};
         files.files["DATA\\REFPFX.TXT"] = {"DL        DL        14 28", "K         K         05 08", "OZ        OZ        14 18",
@@ -27,8 +27,8 @@ protected:
         Stations({"OZ1ABC Test, formand"});
     }
     void TearDown() override {
-        NulstilTabeller();
-        NulstilEDR();
+        ResetTables();
+        ClearStations();
     }
     void Stations(std::vector<std::string> lines) {
         files.files["DATA\\EDR.TXT"] = std::move(lines);
@@ -118,7 +118,7 @@ TEST_F(Points, ChangeNoMarks) {
 
 TEST_F(Points, DoNotDependOnWhatWasWorkedBefore) {
     std::string result;
-    LandWkd("DL1ABC", result, Handling::Op);
+    LandWkd("DL1ABC", result, MarkAction::Mark);
     EXPECT_EQ(Of("DL1ABC"), 3);
 }
 

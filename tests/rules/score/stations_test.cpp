@@ -11,17 +11,17 @@ namespace {
 class Stations : public RunningProgram {
 protected:
     void SetUp() override {
-        NulstilEDR();
+        ClearStations();
         gsFDLib = "data";
     }
-    void TearDown() override { NulstilEDR(); }
+    void TearDown() override { ClearStations(); }
     void Load(std::vector<std::string> lines) {
         files.files["DATA\\EDR.TXT"] = std::move(lines);
         IndlæsEDR();
     }
     static bool Worked(int row) { return EDRstn[static_cast<std::size_t>(row)].Wkd; }
     /// Points after the call was handled, 3 before.
-    static int Handle(std::string call, Handling handling) {
+    static int Handle(std::string call, MarkAction handling) {
         giQSOPoint = 3;
         EDRstnWkd(call, handling);
         return giQSOPoint;
@@ -35,46 +35,46 @@ protected:
 
 TEST_F(Stations, AreRecognisedByEveryAction) {
     Load({"OZ1ABC Test, formand"});
-    EXPECT_EQ(Handle("OZ1ABC", Handling::Test), 10);
+    EXPECT_EQ(Handle("OZ1ABC", MarkAction::Test), 10);
     EXPECT_FALSE(Worked(1));
-    EXPECT_EQ(Handle("OZ1ABC", Handling::Op), 10);
+    EXPECT_EQ(Handle("OZ1ABC", MarkAction::Mark), 10);
     EXPECT_TRUE(Worked(1));
-    EXPECT_EQ(Handle("OZ1ABC", Handling::Test), 10);
+    EXPECT_EQ(Handle("OZ1ABC", MarkAction::Test), 10);
     EXPECT_TRUE(Worked(1));
-    EXPECT_EQ(Handle("OZ1ABC", Handling::Ned), 10);
+    EXPECT_EQ(Handle("OZ1ABC", MarkAction::Unmark), 10);
     EXPECT_FALSE(Worked(1));
 }
 
 TEST_F(Stations, NotOnTheListLeaveThePointsAlone) {
     Load({"OZ1ABC Test, formand"});
-    EXPECT_EQ(Handle("OZ7XYZ", Handling::Op), 3);
+    EXPECT_EQ(Handle("OZ7XYZ", MarkAction::Mark), 3);
     EXPECT_FALSE(Worked(1));
 }
 
 TEST_F(Stations, OfAnEmptyListAreNobody) {
     Load({});
-    EXPECT_EQ(Handle("OZ1ABC", Handling::Op), 3);
-    EXPECT_EQ(Handle("", Handling::Op), 3);
+    EXPECT_EQ(Handle("OZ1ABC", MarkAction::Mark), 3);
+    EXPECT_EQ(Handle("", MarkAction::Mark), 3);
     EXPECT_EQ(Name("OZ1ABC"), "as it was");
 }
 
 TEST_F(Stations, AreComparedBySixCharactersToWhichTheCallIsCutOrFilled) {
     Load({"OZ1ABC Test", "OZ1AB", "OZ2AB  Test"});
     std::string call = "OZ1ABCDE";
-    EDRstnWkd(call, Handling::Op);
+    EDRstnWkd(call, MarkAction::Mark);
     EXPECT_EQ(call, "OZ1ABC");
     EXPECT_TRUE(Worked(1));
     EXPECT_FALSE(Worked(2));
     call = "OZ1AB";
-    EDRstnWkd(call, Handling::Op);
+    EDRstnWkd(call, MarkAction::Mark);
     EXPECT_EQ(call, "OZ1AB ");
     EXPECT_TRUE(Worked(2));
-    EXPECT_EQ(Handle("OZ2AB", Handling::Op), 10);
+    EXPECT_EQ(Handle("OZ2AB", MarkAction::Mark), 10);
 }
 
 TEST_F(Stations, ListedTwiceAreBothMarked) {
     Load({"OZ1ABC Test, formand", "OZ7XYZ Test", "OZ1ABC Aalborg, reserve"});
-    Handle("OZ1ABC", Handling::Op);
+    Handle("OZ1ABC", MarkAction::Mark);
     EXPECT_TRUE(Worked(1));
     EXPECT_FALSE(Worked(2));
     EXPECT_TRUE(Worked(3));
@@ -94,8 +94,8 @@ TEST_F(Stations, AreNamedUpToTheFirstComma) {
 
 TEST_F(Stations, ClearedAreNotWorked) {
     Load({"OZ1ABC", "OZ7XYZ"});
-    Handle("OZ1ABC", Handling::Op);
-    Handle("OZ7XYZ", Handling::Op);
+    Handle("OZ1ABC", MarkAction::Mark);
+    Handle("OZ7XYZ", MarkAction::Mark);
     ResetEDR();
     EXPECT_FALSE(Worked(1));
     EXPECT_FALSE(Worked(2));
@@ -112,14 +112,14 @@ TEST_F(Stations, TwoHundredFitAndOneMoreIsToldAndLeavesTheFileOpen) {
     for (int i = 0; i < 200; ++i) lines.push_back("OZ" + std::to_string(1000 + i) + " Test");
     Load(lines);
     EXPECT_FALSE(files.IsOpen());
-    EXPECT_EQ(Handle("OZ1199", Handling::Op), 10);
+    EXPECT_EQ(Handle("OZ1199", MarkAction::Mark), 10);
 
     lines.emplace_back("OZ1200 Test");
     dialogs.Expect("Kan ikke finde filen data\\edr.txt");
     Load(lines);
     EXPECT_TRUE(files.IsOpen());
-    EXPECT_EQ(Handle("OZ1199", Handling::Op), 10) << "the rows read so far count";
-    EXPECT_EQ(Handle("OZ1200", Handling::Op), 3);
+    EXPECT_EQ(Handle("OZ1199", MarkAction::Mark), 10) << "the rows read so far count";
+    EXPECT_EQ(Handle("OZ1200", MarkAction::Mark), 3);
 }
 
 }  // namespace
