@@ -99,7 +99,7 @@ public:
     Station() : program_({}), printer_(noPrinter_) {
         static const std::vector<std::string> sample = SampleLog();
         const Platform& had = platform();
-        InstallPlatform({had.front, had.dialogs, had.settings, files, had.clock, had.help, had.instance, had.sound, printer_, had.version});
+        InstallPlatform({had.dialogs, had.settings, files, had.clock, had.help, had.instance, had.sound, printer_, had.version});
         for (const LogId& log : kTenLogs) WriteLines(Path(log), FaultlessLog(sample, log.mode));
     }
     static std::string Path(const LogId& log) { return LogPath(log.band, log.mode); }

@@ -8,7 +8,7 @@
 
 #include "deliver.h"
 #include "errors.h"
-#include "front.h"
+#include "qt_front.h"
 #include "sound_course.h"
 #include "sound_player.h"
 

@@ -45,7 +45,7 @@ protected:
     /// The program's own import of this file of the directory. The number of the failure that stops it, 0 if none does.
     int Import(const std::string& name) {
         Put("cty.dat", Content(name));
-        InstallPlatform({front_, dialogs_, settings_, files_, clock_, help_, instance_, sound_, printer_, {1, 0, 0}});
+        InstallPlatform(front_, {dialogs_, settings_, files_, clock_, help_, instance_, sound_, printer_, {1, 0, 0}});
         BeginProgram();
         ResetDesk();
         desk().gsFDLib = NativeText(root_);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/frmCWTX.h"
 
+#include "front.h"
 #include "keyer/frmAfslut.h"
 #include "keyer/texts.h"
 #include "morse/synthesis.h"
@@ -71,7 +72,7 @@ void FrmCWTX::Form_QueryUnload(bool& Cancel) {
     SetHourglass(true);
     frmAfslut->Show();
     for (SoundEvent& event : CWEvent) {
-        platform().front.DoEvents();
+        InstalledFront().DoEvents();
         if (event == 0) continue;
         platform().sound.DestroyEvent(event);
         event = 0;

@@ -25,7 +25,7 @@ const std::string kLogNought = "       Ialt akkumuleret:                        
 /// The papers on pages of 595 by 842 points; a character is 0.6 times as wide and 1.2 times as high as its size.
 class Printing : public PaperProgram {
 protected:
-    Printing() { InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, surface, {1, 2, 3}}); }
+    Printing() { InstallPlatform(front, {dialogs, settings, files, clock, help, instance, sound, surface, {1, 2, 3}}); }
 
     /// What a menu entry prints, with place, font, size and style.
     Lines Placed(MenuItem& item) {
