@@ -14,6 +14,7 @@
 #include "morse/synthesis.h"
 #include "program.h"
 #include "sample.h"
+#include "started_program.h"
 
 namespace vatro::bench {
 

@@ -14,6 +14,7 @@
 #include "frame/station.h"
 #include "program.h"
 #include "sample.h"
+#include "started_program.h"
 #include "tables/frmCtyDat.h"
 #include "unattended.h"
 
