@@ -20,24 +20,23 @@ namespace vatro::bench {
 
 namespace {
 
-constexpr int kHalfBytes = kBufferBytes / 2;
+constexpr int kHalfBytes = kBufferSamples / 2 * static_cast<int>(sizeof(std::int16_t));
 constexpr double kHalfSecond = 0.5;
 
 /// Takes the bytes over and does no more.
 class BareBuffer : public SoundBuffer {
 public:
     void SetNotificationPositions(std::span<const PositionNotification> positions) override { static_cast<void>(positions); }
-    void Write(int startByte, int size, std::span<const std::int16_t> image) override {
-        const auto sample = static_cast<std::size_t>(startByte / kBytesPerSample);
-        std::memcpy(&samples_[sample], &image[sample], static_cast<std::size_t>(size));
+    void Write(int first, std::span<const std::int16_t> samples) override {
+        std::memcpy(&samples_[static_cast<std::size_t>(first)], samples.data(), samples.size_bytes());
         benchmark::ClobberMemory();
     }
-    void SetCurrentPosition(int offset) override { static_cast<void>(offset); }
+    void SetCurrentPosition(int sample) override { static_cast<void>(sample); }
     void PlayLooping() override {}
     void Stop() override {}
 
 private:
-    std::array<std::int16_t, kSamplesPerSecond> samples_{};
+    std::array<std::int16_t, kBufferSamples> samples_{};
 };
 
 void HalfSecond(benchmark::State& state) {

@@ -8,24 +8,6 @@
 
 namespace vatro {
 
-namespace {
-
-/// Position notification and accurate play position.
-constexpr int kBufferFlag = 0x10100;
-
-WaveFormat DanWaveFormat(int samplesPerSecond, int channels, int bits) {
-    WaveFormat format;
-    format.formatTag = 1;
-    format.channels = channels;
-    format.samplesPerSecond = samplesPerSecond;
-    format.bitsPerSample = bits;
-    format.blockAlign = bits * channels / 8;
-    format.bytesPerSecond = format.blockAlign * samplesPerSecond;
-    return format;
-}
-
-}  // namespace
-
 FrmCWTX::FrmCWTX()
     : Form("frmCWTX", FormKind::Dialog, "CW TX"),
       Frame1(*this, "Frame1", "Sender teksten:"),
@@ -89,11 +71,9 @@ void FrmCWTX::SlipLyd() {
 
 void FrmCWTX::DanLydBuffer() {
     SlipLyd();
-    const WaveFormat format = DanWaveFormat(kSamplesPerSecond, 1, 8 * kBytesPerSample);
     BeregnPriklen();
-    const int bytes = format.bytesPerSecond;
-    CWBuffer = lydkort_->CreateBuffer({.flags = kBufferFlag, .bytes = bytes}, format);
-    const PositionNotification halvdele[]{{(bytes - 1) / 2, CWEvent[0]}, {bytes - 1, CWEvent[1]}};
+    CWBuffer = lydkort_->CreateBuffer({.samplesPerSecond = kSamplesPerSecond, .samples = kBufferSamples});
+    const PositionNotification halvdele[]{{kBufferSamples / 2 - 1, CWEvent[0]}, {kBufferSamples - 1, CWEvent[1]}};
     CWBuffer->SetNotificationPositions(halvdele);
     TildelPladser();
     DanTone();

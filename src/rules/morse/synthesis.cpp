@@ -40,8 +40,8 @@ struct Del {
     int start;
     int slut;
 };
-constexpr Del kDel1{0, (kBufferBytes / 2 + 1) / 2};
-constexpr Del kDel2{kDel1.slut, kBufferBytes / kBytesPerSample};
+constexpr Del kDel1{0, kBufferSamples / 2};
+constexpr Del kDel2{kDel1.slut, kBufferSamples};
 
 std::size_t Plads(std::int32_t sample) {
     return static_cast<std::size_t>(sample);
@@ -113,7 +113,7 @@ void FyldDel(Del del, bool& aktiv, SoundBuffer& buffer) {
         glCWSlat = del.slut - i;
         indsæt(0, glCWSlat);
     }
-    buffer.Write(del.start * kBytesPerSample, (del.slut - del.start) * kBytesPerSample, CWBillede);
+    buffer.Write(del.start, {CWBillede.begin() + del.start, CWBillede.begin() + del.slut});
 }
 
 }  // namespace
@@ -125,7 +125,7 @@ void BeregnPriklen() {
 
 void TildelPladser() {
     if (Priklen < kRampe) throw RunTimeError(Failure::IndexOutOfRange);
-    CWBillede.assign(kBufferBytes + 1, 0);
+    CWBillede.assign(2 * kBufferSamples + 1, 0);
     CWStreg.assign(Plads(3 * Priklen + 1), 0);
 }
 

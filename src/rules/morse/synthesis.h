@@ -29,9 +29,8 @@
 namespace vatro {
 
 inline constexpr int kSamplesPerSecond = 44100;
-inline constexpr int kBytesPerSample = 2;
 /// The buffer holds one second.
-inline constexpr int kBufferBytes = kSamplesPerSecond * kBytesPerSample;
+inline constexpr int kBufferSamples = kSamplesPerSecond;
 
 /// Of each piece the first Priklen samples are sent; there is one more behind them.
 using Stykke = std::vector<std::int16_t>;
@@ -45,7 +44,7 @@ extern Stykke CWMidte;
 extern Stykke CWSlut;
 extern Stykke CWPrik;
 extern Stykke CWPause;
-/// A picture of the sound buffer: sample i stands at byte 2 * i of it. Twice as long as it, so that a piece that is longer
+/// A picture of the sound buffer, sample by sample. Twice as long as it, so that a piece that is longer
 /// than a half may run over its end.
 extern std::vector<std::int16_t> CWBillede;
 

@@ -28,19 +28,11 @@ TEST_F(Sending, TheBufferIsOneSecondWithAnEventAtTheEndOfEachHalf) {
     Start();
     SendText("E");
     ASSERT_NE(sound.buffer, nullptr);
-    EXPECT_EQ(sound.buffer->description.flags, 0x10100);
-    EXPECT_EQ(sound.buffer->description.bytes, 88200);
-    const WaveFormat& format = sound.buffer->format;
-    EXPECT_EQ(format.formatTag, 1);
-    EXPECT_EQ(format.channels, 1);
-    EXPECT_EQ(format.samplesPerSecond, 44100);
-    EXPECT_EQ(format.bytesPerSecond, 88200);
-    EXPECT_EQ(format.blockAlign, 2);
-    EXPECT_EQ(format.bitsPerSample, 16);
-    EXPECT_EQ(format.extraSize, 0);
+    EXPECT_EQ(sound.buffer->format.samplesPerSecond, 44100);
+    EXPECT_EQ(sound.buffer->format.samples, 44100);
     ASSERT_EQ(sound.buffer->positions.size(), 2U);
-    EXPECT_EQ(sound.buffer->positions[0].offset, 44099);
-    EXPECT_EQ(sound.buffer->positions[1].offset, 88199);
+    EXPECT_EQ(sound.buffer->positions[0].sample, 22049);
+    EXPECT_EQ(sound.buffer->positions[1].sample, 44099);
     EXPECT_EQ(sound.buffer->positions[0].event, frmCWTX->CWEvent[0]);
     EXPECT_EQ(sound.buffer->positions[1].event, frmCWTX->CWEvent[1]);
     EXPECT_NE(frmCWTX->CWEvent[0], frmCWTX->CWEvent[1]);
@@ -49,7 +41,7 @@ TEST_F(Sending, TheBufferIsOneSecondWithAnEventAtTheEndOfEachHalf) {
 TEST_F(Sending, BothHalvesAreFilledBeforeThePlayBegins) {
     Start();
     SendText("PARIS");
-    EXPECT_EQ(sound.calls, (Calls{"write 0 44100", "write 44100 44100", "position 0", "play"}));
+    EXPECT_EQ(sound.calls, (Calls{"write 0 22050", "write 22050 22050", "position 0", "play"}));
     EXPECT_TRUE(Shown());
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
     EXPECT_TRUE(frmMain->Enabled());
@@ -63,7 +55,7 @@ TEST_F(Sending, AnEventFillsTheHalfThatHasJustBeenPlayed) {
     Pass(0);
     Pass(1);
     Pass(0);
-    EXPECT_EQ(sound.calls, (Calls{"write 0 44100", "write 44100 44100", "write 0 44100"}));
+    EXPECT_EQ(sound.calls, (Calls{"write 0 22050", "write 22050 22050", "write 0 22050"}));
     EXPECT_TRUE(Shown());
 }
 
@@ -74,7 +66,7 @@ TEST_F(Sending, AShortTextStopsAtTheFirstEvent) {
     SendText("E");
     sound.calls.clear();
     Pass(0);
-    EXPECT_EQ(sound.calls, (Calls{"write 0 44100", "stop", "position 0"}));
+    EXPECT_EQ(sound.calls, (Calls{"write 0 22050", "stop", "position 0"}));
     EXPECT_FALSE(Shown());
     EXPECT_EQ(ActiveForm(), &*frmMain);
     EXPECT_TRUE(frmCWTX.Loaded());
@@ -202,7 +194,7 @@ TEST_F(Sending, ASecondTextComesInWhereTheFirstOneStood) {
     sound.calls.clear();
     SendText("TTTTTTTTTT");
     // Nothing stops and nothing rewinds: the fifth "E" is gone through to its gap, then come the dashes from the sixth on.
-    EXPECT_EQ(sound.calls, (Calls{"write 0 44100", "write 44100 44100", "position 0", "play"}));
+    EXPECT_EQ(sound.calls, (Calls{"write 0 22050", "write 22050 22050", "position 0", "play"}));
     const auto at = [this](int slot) { return sound.buffer->samples.begin() + static_cast<std::ptrdiff_t>(slot) * 2646; };
     EXPECT_TRUE(std::all_of(at(0), at(3), [](std::int16_t sample) { return sample == 0; }));
     EXPECT_EQ(std::vector<std::int16_t>(at(3), at(4)), std::vector<std::int16_t>(CWStart.begin(), CWStart.begin() + 2646));

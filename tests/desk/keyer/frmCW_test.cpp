@@ -255,7 +255,7 @@ TEST_F(CWWindow, NewTextsLeaveTheBufferAlone) {
     EXPECT_EQ(sound.buffer, buffer);
     EXPECT_TRUE(Playing() || sound.calls.empty());
     Pass(0);
-    EXPECT_EQ(sound.calls, (Texts{"write 0 44100"}));
+    EXPECT_EQ(sound.calls, (Texts{"write 0 22050"}));
 }
 
 TEST_F(CWWindow, SpeedNoughtStopsAProgramThatHasSent) {

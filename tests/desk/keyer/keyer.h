@@ -25,15 +25,15 @@ inline constexpr int kHalf = 22050;
 class KeptBuffer : public SoundBuffer {
 public:
     void SetNotificationPositions(std::span<const PositionNotification> positions) override { static_cast<void>(positions); }
-    void Write(int startByte, int size, std::span<const std::int16_t> image) override {
-        writes.emplace_back(startByte, size);
-        std::copy_n(image.begin() + startByte / 2, size / 2, samples.begin() + startByte / 2);
+    void Write(int first, std::span<const std::int16_t> written) override {
+        writes.emplace_back(first, static_cast<int>(written.size()));
+        std::ranges::copy(written, samples.begin() + first);
     }
-    void SetCurrentPosition(int offset) override { static_cast<void>(offset); }
+    void SetCurrentPosition(int sample) override { static_cast<void>(sample); }
     void PlayLooping() override {}
     void Stop() override {}
 
-    /// First byte and number of bytes.
+    /// First sample and number of samples.
     std::vector<std::pair<int, int>> writes;
     Samples samples = Samples(44100);
 };

@@ -251,7 +251,7 @@ TEST_F(Synthesis, AFillWritesItsOwnHalf) {
     bool aktiv = false;
     FyldDel1(aktiv, buffer);
     FyldDel2(aktiv, buffer);
-    EXPECT_EQ(buffer.writes, (std::vector<std::pair<int, int>>{{0, 44100}, {44100, 44100}}));
+    EXPECT_EQ(buffer.writes, (std::vector<std::pair<int, int>>{{0, 22050}, {22050, 22050}}));
 }
 
 TEST_F(Synthesis, ADotIsFollowedByTenDotsOfSilence) {
