@@ -27,7 +27,7 @@
 #include "frame/settings.h"
 #include "frame/station.h"
 #include "keyer/frmCW.h"
-#include "keyer/keyer_settings.h"
+#include "keyer/keyer_state.h"
 #include "keyer/texts.h"
 #include "papers/adif.h"
 #include "papers/error_list.h"
@@ -84,7 +84,7 @@ void FrmMain::BindMenu() {
     mnuFunktionerImporterCTY.Click = ImporterCtyMenu;
     mnuFunktionerImporterCtAll.Click = ImporterCtMenu;
 
-    for (MenuItem& punkt : mnuCWTXT) punkt.Click = [&punkt] { SendCW(CWTekster[static_cast<std::size_t>(punkt.Index())]); };
+    for (MenuItem& punkt : mnuCWTXT) punkt.Click = [&punkt] { SendCW(keyerState().CWTekster[static_cast<std::size_t>(punkt.Index())]); };
     mnuCWInstillinger.Click = [] { frmCW->ShowModal(); };
 
     mnuHjælpIndhold.Click = VisHjælpIndhold;

@@ -17,8 +17,7 @@
 #include "frame/settings.h"
 #include "frame/station.h"
 #include "keyer/keyer_settings.h"
-#include "keyer/texts.h"
-#include "morse/synthesis.h"
+#include "keyer/keyer_state.h"
 #include "numbers.h"
 #include "page.h"
 #include "platform.h"
@@ -64,8 +63,7 @@ void NulstilAlt() {
     NulstilTabeller();
     NulstilEDR();
     NulstilOperatør();
-    NulstilSyntese();
-    NulstilCWTekster();
+    ResetKeyerState();
     gsBackupLib.clear();
     gbAutoTid = 0;
     gbVisLand = false;

@@ -14,6 +14,7 @@
 #include <memory>
 
 #include "forms.h"
+#include "morse/keyer.h"
 #include "sound.h"
 
 namespace vatro {
@@ -43,7 +44,7 @@ public:
     /// Whether the last text has been sent to its end, and not been stopped.
     bool EndedByItself() const { return ended_; }
     /// Whether buffer and pieces are there.
-    bool Klar() const { return klar_; }
+    bool Ready() const { return ready_; }
     /// Makes buffer and pieces for the present speed, tone and volume, in place of those that are there; a sound that plays breaks
     /// off and is not resumed. Fails with 5, 6, 9 or 11 where they do not do.
     void DanLydBuffer();
@@ -56,15 +57,17 @@ public:
     void cmdStop_Click();
     /// A half has been played: fills it anew, or stops if the text is over. Nothing if nothing plays: an event can be on its way
     /// when the sound is stopped.
-    void DirectXEvent_DXCallback(SoundEvent eventid);
+    void DirectXEvent_DXCallback(SoundEvent event);
 
 private:
-    void SlipLyd();
+    void ReleaseSound();
+    /// Fills a half anew and writes it. Returns whether anything but the end mark has gone into it.
+    bool FillHalf(Half half);
 
-    std::unique_ptr<SoundDevice> lydkort_;
-    bool klar_ = false;
-    bool spiller_ = false;
-    bool lukker_ = false;
+    std::unique_ptr<SoundDevice> soundCard_;
+    bool ready_ = false;
+    bool playing_ = false;
+    bool closing_ = false;
     bool ended_ = false;
 };
 
