@@ -5,10 +5,13 @@
 // It is loaded by the first send and then only hidden, so that card and buffer are there for the next one. The buffer is one
 // second that plays round and round: at the end of each half that half is filled anew while the other one sounds.
 //
-// The first half into which nothing of the text has come stops the sound at once, when the half before it has only begun. Up to 24
-// words per minute all that goes unheard is silence; above, it can be the last tones. A new text during a send is no new start: it
-// comes in at the character where the old one stood, and only after an end or a stop does a text begin at its beginning. All
-// this is meant so.
+// Two things look like mistakes and are rules of the keyer, which operators know and scenarios in tests/scenarios/cw hold:
+//
+// - The refill that finds nothing left of the text stops the sound at once, while the half with the end mark has only begun to
+//   sound. Up to 24 words per minute only silence is lost; above, the last tones can be. The window never stays longer than the
+//   text, so the entry form gets its keys back as early as possible.
+// - A new text during a send does not start anew: it comes in at the character where the old one stood. Only after an end or a
+//   stop does a text start from its beginning.
 #pragma once
 
 #include <memory>
@@ -31,9 +34,9 @@ public:
     Button cmdTX;
     Button cmdStop;
 
-    /// Nothing before DanLydBuffer, and after it if the card or the settings do not do.
+    /// Nothing before DanLydBuffer, or when it has failed before the card had made a buffer.
     std::unique_ptr<SoundBuffer> CWBuffer;
-    /// The ends of the first and of the second half; 0 without one.
+    /// Run at the ends of the first and of the second half; 0 when there is no event.
     SoundEvent CWEvent[2]{};
 
     /// Makes card, events, buffer and pieces ready; a failure gives a message, and the window stays hidden for good.
@@ -46,7 +49,8 @@ public:
     /// Whether buffer and pieces are there.
     bool Ready() const { return ready_; }
     /// Makes buffer and pieces for the present speed, tone and volume, in place of those that are there; a sound that plays breaks
-    /// off and is not resumed. Fails with 5, 6, 9 or 11 where they do not do.
+    /// off and is not resumed. Fails with 11 at speed 0, 5 if the card makes no such buffer, 9 at a speed without room for a ramp and
+    /// 6 at a volume too loud for 16 bits; nothing can be sent then until it succeeds.
     void DanLydBuffer();
     /// Fills both halves from where the stepper stands and plays them from the beginning of the buffer.
     void StartCW();
@@ -65,8 +69,10 @@ private:
     bool FillHalf(Half half);
 
     std::unique_ptr<SoundDevice> soundCard_;
+    /// Whether buffer and pieces are there.
     bool ready_ = false;
     bool playing_ = false;
+    /// While Form_QueryUnload lets other events run.
     bool closing_ = false;
     bool ended_ = false;
 };
