@@ -172,7 +172,7 @@ TEST_F(CWWindow, OKGivesTheLongFormsBack) {
     EXPECT_EQ(keyerState().gsCWNummerFormat, "001");
 }
 
-TEST_F(CWWindow, AnnullerKeepsNothing) {
+TEST_F(CWWindow, CancelKeepsNothing) {
     Open();
     frmCW->Text1[0].SetText("X");
     frmCW->txtWPM.SetText("40");

@@ -11,7 +11,7 @@ using Texts = std::vector<std::string>;
 
 class CWSettings : public RunningProgram {
 protected:
-    Texts StoredTexts() { return {keyerState().CWTekster.begin(), keyerState().CWTekster.end()}; }
+    std::vector<std::string> AllTexts() { return {keyerState().CWTekster.begin(), keyerState().CWTekster.end()}; }
 };
 
 TEST_F(CWSettings, AnEmptyStoreGivesTheDefaults) {
@@ -22,7 +22,7 @@ TEST_F(CWSettings, AnEmptyStoreGivesTheDefaults) {
     EXPECT_EQ(keyerState().giCWFarnsworth, 0);
     EXPECT_EQ(keyerState().gsCWNummerFormat, "001");
     EXPECT_EQ(keyerState().gsCWRSTFormat, "599");
-    EXPECT_EQ(StoredTexts(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "", "", "", ""}));
+    EXPECT_EQ(AllTexts(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "", "", "", ""}));
 }
 
 TEST_F(CWSettings, AreReadAtTheStartAndNothingIsWritten) {
