@@ -22,6 +22,7 @@
 #include "program.h"
 #include "sample.h"
 #include "score/points.h"
+#include "started_program.h"
 #include "tables/unknown.h"
 
 namespace vatro::bench {
