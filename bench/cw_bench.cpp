@@ -80,15 +80,15 @@ void Fill(benchmark::State& state, const char* yardstick) {
     gsCWTekst = text;
     BareBuffer buffer;
     state.SetLabel(yardstick);
-    bool aktiv = true;
+    bool active = true;
     bool first = true;
     for (auto _ : state) {
         if (first)
-            FyldDel1(aktiv, buffer);
+            FyldDel1(active, buffer);
         else
-            FyldDel2(aktiv, buffer);
+            FyldDel2(active, buffer);
         first = !first;
-        if (!aktiv) gsElement.clear();
+        if (!active) gsElement.clear();
     }
 }
 
