@@ -173,7 +173,7 @@ TEST_F(CWWindow, OKGivesTheLongFormsBack) {
     EXPECT_EQ(gsCWNummerFormat, "001");
 }
 
-TEST_F(CWWindow, AnnullerKeepsNothing) {
+TEST_F(CWWindow, CancelKeepsNothing) {
     Open();
     frmCW->Text1[0].SetText("X");
     frmCW->txtWPM.SetText("40");

@@ -10,7 +10,7 @@ using Texts = std::vector<std::string>;
 
 class CWSettings : public RunningProgram {
 protected:
-    std::vector<std::string> Tekster() { return {CWTekster.begin(), CWTekster.end()}; }
+    std::vector<std::string> AllTexts() { return {CWTekster.begin(), CWTekster.end()}; }
 };
 
 TEST_F(CWSettings, AnEmptyStoreGivesTheDefaults) {
@@ -21,7 +21,7 @@ TEST_F(CWSettings, AnEmptyStoreGivesTheDefaults) {
     EXPECT_EQ(giCWFarnsworth, 0);
     EXPECT_EQ(gsCWNummerFormat, "001");
     EXPECT_EQ(gsCWRSTFormat, "599");
-    EXPECT_EQ(Tekster(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "", "", "", ""}));
+    EXPECT_EQ(AllTexts(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "", "", "", ""}));
 }
 
 TEST_F(CWSettings, AreReadAtTheStartAndNothingIsWritten) {
