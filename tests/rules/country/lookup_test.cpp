@@ -33,35 +33,35 @@ protected:
         Country("TA", "Turkey", "AS");
         Country("VP8", "Falkland Islands", "SA");
         Country("VP8/H", "South Shetland Islands", "SA");
-        for (auto [pfx, land] : {std::pair{"2E", "G"},
-                                 {"DL", "DL"},
-                                 {"GM", "GM"},
-                                 {"G", "G"},
-                                 {"K", "K"},
-                                 {"TA", "TA"},
-                                 {"VP8ADE/H", "VP8/H"},
-                                 {"VP8", "VP8"}})
-            Prefix(pfx, land);
+        for (auto [prefix, country] : {std::pair{"2E", "G"},
+                                       {"DL", "DL"},
+                                       {"GM", "GM"},
+                                       {"G", "G"},
+                                       {"K", "K"},
+                                       {"TA", "TA"},
+                                       {"VP8ADE/H", "VP8/H"},
+                                       {"VP8", "VP8"}})
+            Prefix(prefix, country);
         IndexPrefixes();
     }
     void TearDown() override { ResetTables(); }
 
-    static void Country(std::string_view pfx, std::string_view name, std::string_view continent) {
+    static void Country(std::string_view prefix, std::string_view name, std::string_view continent) {
         LandRec& row = desk().tables.Lande[static_cast<std::size_t>(++desk().tables.giLande)];
-        row.Pfx = pfx;
+        row.Pfx = prefix;
         row.Navn = name;
         row.Kontinent = continent;
     }
-    static void Prefix(std::string_view pfx, std::string_view country) {
+    static void Prefix(std::string_view prefix, std::string_view country) {
         PfxRec& row = desk().tables.RefPfx[static_cast<std::size_t>(++desk().tables.giRefPfx)];
-        row.Pfx = pfx;
+        row.Pfx = prefix;
         row.Land = country;
-        auto& start = desk().tables.gaPfxStart[static_cast<unsigned char>(pfx.front())];
+        auto& start = desk().tables.gaPfxStart[static_cast<unsigned char>(prefix.front())];
         if (start == 0) start = desk().tables.giRefPfx;
     }
-    static std::string Result(std::string_view call, MarkAction handling) {
+    static std::string Result(std::string_view call, MarkAction action) {
         std::string result = "left from before";
-        LandWkd(call, result, handling);
+        LandWkd(call, result, action);
         return result;
     }
     static std::string Status(std::string_view call) {
@@ -96,7 +96,7 @@ TEST_F(Lookup, AskingChangesNothing) {
 
 TEST_F(Lookup, AnUnknownPrefixChangesNothing) {
     desk().giQSOPoint = 77;
-    for (const MarkAction handling : {MarkAction::Mark, MarkAction::Unmark, MarkAction::Test}) EXPECT_EQ(Result("XZ9XYZ", handling), "");
+    for (const MarkAction action : {MarkAction::Mark, MarkAction::Unmark, MarkAction::Test}) EXPECT_EQ(Result("XZ9XYZ", action), "");
     EXPECT_EQ(desk().giMult, 0);
     EXPECT_EQ(desk().giQSOPoint, 77);
 }
@@ -110,9 +110,9 @@ TEST_F(Lookup, AMultiplierColumnIsFoundWithItsBlanks) {
 }
 
 TEST_F(Lookup, OutsideEuropeSetsSixPointsWithEveryAction) {
-    for (const MarkAction handling : {MarkAction::Mark, MarkAction::Mark, MarkAction::Test, MarkAction::Unmark, MarkAction::Unmark}) {
+    for (const MarkAction action : {MarkAction::Mark, MarkAction::Mark, MarkAction::Test, MarkAction::Unmark, MarkAction::Unmark}) {
         desk().giQSOPoint = 3;
-        Result("K1ABC", handling);
+        Result("K1ABC", action);
         EXPECT_EQ(desk().giQSOPoint, 6);
     }
     desk().giQSOPoint = 3;
@@ -214,15 +214,15 @@ TEST_F(Lookup, CountNeverLeavesTheMarks) {
     const std::vector<std::string> calls{"DL1ABC", "G3ABC",    "GM3ABC", "K1ABC",     "TA1ABC",
                                          "VP8LP",  "VP8ADE/H", "XZ9XYZ", "OZ/DL1ABC", "2E0ABC/3"};
     std::uniform_int_distribution<std::size_t> call(0, calls.size() - 1);
-    std::uniform_int_distribution<int> action(0, 2);
+    std::uniform_int_distribution<int> anyAction(0, 2);
     for (int round = 0; round < 5000; ++round) {
-        const auto handling = static_cast<MarkAction>(action(random));
+        const auto action = static_cast<MarkAction>(anyAction(random));
         const int before = desk().giMult;
-        const std::string result = Result(calls[call(random)], handling);
+        const std::string result = Result(calls[call(random)], action);
         int marked = 0;
         for (int row = 1; row <= desk().tables.giLande; ++row) marked += desk().tables.Lande[static_cast<std::size_t>(row)].Wkd ? 1 : 0;
         ASSERT_EQ(desk().giMult, marked);
-        const int moved = handling == MarkAction::Mark ? 1 : handling == MarkAction::Unmark ? -1 : 0;
+        const int moved = action == MarkAction::Mark ? 1 : action == MarkAction::Unmark ? -1 : 0;
         ASSERT_EQ(desk().giMult - before, result.empty() ? 0 : moved);
     }
 }
@@ -230,8 +230,8 @@ TEST_F(Lookup, CountNeverLeavesTheMarks) {
 /// The search as a scan, row by row.
 int Scanned(std::string_view s, int start, bool whole) {
     for (int i = std::max(start, 1); i <= desk().tables.giRefPfx; ++i) {
-        const std::string_view pfx = desk().tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed();
-        if (whole ? pfx == s : s.substr(0, pfx.size()) == pfx) return i;
+        const std::string_view prefix = desk().tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed();
+        if (whole ? prefix == s : s.substr(0, prefix.size()) == prefix) return i;
     }
     return 0;
 }

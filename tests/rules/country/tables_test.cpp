@@ -10,16 +10,16 @@ namespace {
 
 using namespace literals;
 
-constexpr const char* kLandeMangler = "data\\Lande.txt kunne ikke findes. Importer cty.dat";
-constexpr const char* kRefPfxMangler = "data\\RefPfx.txt kunne ikke findes. Importer cty.dat";
+constexpr const char* kCountriesMissing = "data\\Lande.txt kunne ikke findes. Importer cty.dat";
+constexpr const char* kPrefixesMissing = "data\\RefPfx.txt kunne ikke findes. Importer cty.dat";
 
 class Tables : public CountryProgram {
 protected:
-    void LoadLande(std::vector<std::string> lines) {
+    void LoadCountries(std::vector<std::string> lines) {
         files.files["DATA\\LANDE.TXT"] = std::move(lines);
         IndlæsLande();
     }
-    void LoadRefPfx(std::vector<std::string> lines) {
+    void LoadPrefixes(std::vector<std::string> lines) {
         files.files["DATA\\REFPFX.TXT"] = std::move(lines);
         IndlæsRefPfx();
     }
@@ -28,7 +28,7 @@ protected:
 };
 
 TEST_F(Tables, ReadTheColumnsOfACountry) {
-    LoadLande({"QQ        Fantasia                 EU -1 ", "QS        A Country With A LongnameOC  5.5 "});
+    LoadCountries({"QQ        Fantasia                 EU -1 ", "QS        A Country With A LongnameOC  5.5 "});
     ASSERT_EQ(desk().tables.giLande, 2);
     EXPECT_EQ(Country(1).Pfx.Padded(), "QQ        ");
     EXPECT_EQ(Country(1).Navn.Trimmed(), "Fantasia");
@@ -40,8 +40,8 @@ TEST_F(Tables, ReadTheColumnsOfACountry) {
 }
 
 TEST_F(Tables, ReadTheColumnsOfAPrefix) {
-    LoadRefPfx({"QQ1       QQ        14 27", "QQ2       QQ        15 27", "QQ8ABC    QQ        14 27", "QQ        QQ        14 27",
-                "QR        QQ        14 28"});
+    LoadPrefixes({"QQ1       QQ        14 27", "QQ2       QQ        15 27", "QQ8ABC    QQ        14 27", "QQ        QQ        14 27",
+                  "QR        QQ        14 28"});
     ASSERT_EQ(desk().tables.giRefPfx, 5);
     EXPECT_EQ(Prefix(2).Pfx.Padded(), "QQ2       ");
     EXPECT_EQ(Prefix(2).Land.Padded(), "QQ        ");
@@ -52,24 +52,24 @@ TEST_F(Tables, ReadTheColumnsOfAPrefix) {
 }
 
 TEST_F(Tables, RowZeroIsNeverFilled) {
-    LoadLande({"QQ        Fantasia                 EU -1 "});
-    LoadRefPfx({"QQ        QQ        14 27"});
+    LoadCountries({"QQ        Fantasia                 EU -1 "});
+    LoadPrefixes({"QQ        QQ        14 27"});
     EXPECT_EQ(Country(0).Pfx.Trimmed(), "");
     EXPECT_EQ(Prefix(0).Pfx.Trimmed(), "");
 }
 
 TEST_F(Tables, EmptyFilesLoadInSilence) {
-    LoadLande({});
-    LoadRefPfx({});
+    LoadCountries({});
+    LoadPrefixes({});
     EXPECT_EQ(desk().tables.giLande, 0);
     EXPECT_EQ(desk().tables.giRefPfx, 0);
 }
 
 TEST_F(Tables, MissingFilesAreTold) {
     files.files.clear();
-    dialogs.Expect(kLandeMangler);
+    dialogs.Expect(kCountriesMissing);
     IndlæsLande();
-    dialogs.Expect(kRefPfxMangler);
+    dialogs.Expect(kPrefixesMissing);
     IndlæsRefPfx();
     for (const MessageBox& box : dialogs.boxes) EXPECT_EQ(box.icon, Icon::Information);
     EXPECT_FALSE(files.IsOpen());
@@ -77,12 +77,12 @@ TEST_F(Tables, MissingFilesAreTold) {
 
 TEST_F(Tables, FiveHundredCountriesFitAndOneMoreIsTold) {
     std::vector<std::string> lines(500, "QQ        Fantasia                 EU -1 ");
-    LoadLande(lines);
+    LoadCountries(lines);
     EXPECT_EQ(desk().tables.giLande, 500);
 
     lines.emplace_back("QS        One Too Many             EU -1 ");
-    dialogs.Expect(kLandeMangler);
-    LoadLande(lines);
+    dialogs.Expect(kCountriesMissing);
+    LoadCountries(lines);
     EXPECT_EQ(desk().tables.giLande, 501) << "the row that failed is counted";
     EXPECT_EQ(CountriesInUse(), 500);
     EXPECT_EQ(Country(500).Pfx.Trimmed(), "QQ");
@@ -91,35 +91,35 @@ TEST_F(Tables, FiveHundredCountriesFitAndOneMoreIsTold) {
 
 TEST_F(Tables, SixThousandPrefixesFitAndOneMoreIsTold) {
     std::vector<std::string> lines(6000, "QQ        QQ        14 27");
-    LoadRefPfx(lines);
+    LoadPrefixes(lines);
     EXPECT_EQ(desk().tables.giRefPfx, 6000);
 
     lines.emplace_back("QS        QQ        14 27");
-    dialogs.Expect(kRefPfxMangler);
-    LoadRefPfx(lines);
+    dialogs.Expect(kPrefixesMissing);
+    LoadPrefixes(lines);
     EXPECT_EQ(desk().tables.giRefPfx, 6001);
     EXPECT_FALSE(files.IsOpen());
 }
 
 TEST_F(Tables, ANumberThatCannotBeReadEndsTheLoadWithItsRow) {
-    dialogs.Expect(kLandeMangler);
-    LoadLande({"DL        Fed. Rep. of Germany     EU -1 ", "F         France                   EU x ",
-               "G         England                  EU  0 "});
+    dialogs.Expect(kCountriesMissing);
+    LoadCountries({"DL        Fed. Rep. of Germany     EU -1 ", "F         France                   EU x ",
+                   "G         England                  EU  0 "});
     EXPECT_EQ(desk().tables.giLande, 2);
     EXPECT_EQ(Country(2).Navn.Trimmed(), "France");
     EXPECT_EQ(Country(3).Pfx.Trimmed(), "");
 }
 
 TEST_F(Tables, ALetterThatComesAgainMovesItsIndexToTheLaterRow) {
-    LoadRefPfx({"GM        GM        14 27", "DL        DL        14 28", "G4        G         14 27", "GW        GW        14 27"});
+    LoadPrefixes({"GM        GM        14 27", "DL        DL        14 28", "G4        G         14 27", "GW        GW        14 27"});
     EXPECT_EQ(Start('G'), 3);
     EXPECT_EQ(Start('D'), 2);
     EXPECT_EQ(Start('X'), 0);
 }
 
 TEST_F(Tables, TheIndexIsNotClearedByAnotherLoad) {
-    LoadRefPfx({"DL        DL        14 28", "G         G         14 27"});
-    LoadRefPfx({"G         G         14 27"});
+    LoadPrefixes({"DL        DL        14 28", "G         G         14 27"});
+    LoadPrefixes({"G         G         14 27"});
     EXPECT_EQ(Start('D'), 1);
     EXPECT_EQ(Start('G'), 1);
 }

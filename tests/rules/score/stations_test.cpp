@@ -22,9 +22,9 @@ protected:
     }
     static bool Worked(int row) { return desk().stations.EDRstn[static_cast<std::size_t>(row)].Wkd; }
     /// Points after the call was handled, 3 before.
-    static int Handle(std::string call, MarkAction handling) {
+    static int Handle(std::string call, MarkAction action) {
         desk().giQSOPoint = 3;
-        EDRstnWkd(call, handling);
+        EDRstnWkd(call, action);
         return desk().giQSOPoint;
     }
     static std::string Name(std::string_view call) {
