@@ -123,7 +123,7 @@ void BindMenu(FrmMain& main) {
     main.mnuFunktionerVisLand.Click = ShowCountryNow;
     main.mnuFunktionerStregP.Click = [] { frmStregP->Show(); };
     main.mnuFunktionerImporterCTY.Click = ImportCtyFromMenu;
-    main.mnuFunktionerImporterCtAll.Click = ImporterCtMenu;
+    main.mnuFunktionerImporterCtAll.Click = ImportCtFromMenu;
 
     for (MenuItem& entry : main.mnuCWTXT) entry.Click = [&entry] { SendCW(desk().cw.CWTekster[static_cast<std::size_t>(entry.Index())]); };
     main.mnuCWInstillinger.Click = [] { frmCW->ShowModal(); };

@@ -2,8 +2,8 @@
 #include "keyer/frmCWTX.h"
 
 #include "frame/state.h"
-#include "front.h"
 #include "frame/station.h"
+#include "front.h"
 #include "keyer/frmAfslut.h"
 #include "morse/text_codes.h"
 #include "platform.h"
@@ -55,7 +55,7 @@ void FrmCWTX::Form_QueryUnload(bool& Cancel) {
     SetHourglass(true);
     frmAfslut->Show();
     for (SoundEvent& event : CWEvent) {
-        front().DoEvents();
+        InstalledFront().DoEvents();
         if (event == 0) continue;
         platform().sound.DestroyEvent(event);
         event = 0;
