@@ -1,89 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "qt/sound.h"
 
-#include <QAudioDevice>
-#include <QAudioFormat>
-#include <QMediaDevices>
 #include <QTimer>
 
-#include "platform/sound_course.h"
 #include "qt/deliver.h"
 #include "qt/front.h"
-#include "qt/sound_player.h"
+#include "qt/sound_loop.h"
+#include "qt/sound_stream.h"
 #include "text/errors.h"
 
 namespace vatro {
 
 namespace {
 
-/// Until the sound system has answered, in milliseconds; a machine whose sound does not answer has none.
-constexpr int kPatience = 3000;
-constexpr int kPcm = 1;
+/// Until the sound system has answered; a machine whose sound does not answer has none.
+constexpr std::chrono::milliseconds kPatience{3000};
 
 }  // namespace
 
-/// The program's end of a buffer. Its player lives on the audio thread.
-class QtSound::Buffer : public SoundBuffer {
-public:
-    Buffer(std::shared_ptr<SoundThread> thread, const std::shared_ptr<SoundRing>& ring, int samplesPerSecond,
-           const std::function<void(const Signal&)>& signalled)
-        : thread_(std::move(thread)), ring_(ring) {
-        player_ = thread_->AddPlayer([ring, samplesPerSecond, signalled, present = std::shared_ptr<const unsigned>(run_)] {
-            return std::make_unique<SoundPlayer>(ring, samplesPerSecond, [signalled, present](SoundEvent event, unsigned run) {
-                signalled({event, run, present});
-            });
-        });
-    }
-    ~Buffer() override {
-        ++*run_;
-        thread_->RemovePlayer(player_);
-    }
-    Buffer(const Buffer&) = delete;
-    Buffer& operator=(const Buffer&) = delete;
-
-    void SetNotificationPositions(std::span<const PositionNotification> positions) override {
-        thread_->Ask(player_,
-                     [wanted = std::vector(positions.begin(), positions.end())](SoundPlayer& player) { player.SetPositions(wanted); });
-    }
-    void Write(int startByte, int size, std::span<const std::int16_t> image) override { ring_->Write(startByte, size, image); }
-    void SetCurrentPosition(int offset) override {
-        thread_->Ask(player_, [offset, run = ++*run_](SoundPlayer& player) { player.MoveTo(offset / kBytesPerSample, run); });
-    }
-    void PlayLooping() override {
-        QElapsedTimer asked;
-        asked.start();
-        thread_->Ask(player_, [asked](SoundPlayer& player) { player.Play(asked); });
-    }
-    void Stop() override {
-        thread_->Ask(player_, [run = ++*run_](SoundPlayer& player) { player.Stop(run); });
-    }
-
-private:
-    std::shared_ptr<SoundThread> thread_;
-    std::shared_ptr<SoundRing> ring_;
-    int player_ = 0;
-    /// Another number after each Stop and each move; used on the program's thread alone.
-    std::shared_ptr<unsigned> run_ = std::make_shared<unsigned>(0);
-};
-
-class QtSound::Device : public SoundDevice {
-public:
-    Device(std::shared_ptr<SoundThread> thread, std::function<void(const Signal&)> signalled)
-        : thread_(std::move(thread)), signalled_(std::move(signalled)) {}
-    std::unique_ptr<SoundBuffer> CreateBuffer(const SoundBufferDescription& description, const WaveFormat& format) override {
-        if (format.formatTag != kPcm || format.channels != 1 || format.bitsPerSample != 8 * kBytesPerSample ||
-            format.samplesPerSecond <= 0 || description.bytes < kBytesPerSample)
-            throw RunTimeError(Failure::InvalidCall);
-        auto ring = std::make_shared<SoundRing>(description.bytes / kBytesPerSample);
-        return std::make_unique<Buffer>(thread_, ring, format.samplesPerSecond, signalled_);
-    }
-
-private:
-    std::shared_ptr<SoundThread> thread_;
-    std::function<void(const Signal&)> signalled_;
-};
-
-QtSound::QtSound() : bell_(std::make_unique<QObject>()), thread_(std::make_shared<SoundThread>()) {}
+QtSound::QtSound() : bell_(std::make_unique<QObject>()), thread_(std::make_shared<SoundThread>(std::make_unique<QtSoundLoop>())) {}
 
 QtSound::~QtSound() {
     // A thread that hangs in the sound system may ring yet.
@@ -101,9 +36,10 @@ void QtSound::DestroyEvent(SoundEvent event) {
 
 std::unique_ptr<SoundDevice> QtSound::CreateDevice() {
     const auto there = std::make_shared<bool>(false);
-    const bool answered = thread_->Await([there] { *there = !QMediaDevices::defaultAudioOutput().isNull(); }, kPatience);
+    const bool answered = thread_->Await([there] { *there = QtSoundStream::DeviceThere(); }, kPatience);
     if (!answered || !*there) throw RunTimeError(Failure::DeviceUnavailable);
-    return std::make_unique<Device>(thread_, [this, bell = bell_.get()](const Signal& signal) {
+    const auto makeStream = [] { return std::make_unique<QtSoundStream>(); };
+    return std::make_unique<ThreadedSoundDevice>(thread_, makeStream, [this, bell = bell_.get()](const SoundSignal& signal) {
         QMetaObject::invokeMethod(
             bell,
             [this, signal] {
@@ -120,10 +56,10 @@ void QtSound::RunSignals() {
             QTimer::singleShot(1, bell_.get(), [this] { RunSignals(); });
             return;
         }
-        const Signal signal = signals_.front();
+        const SoundSignal signal = signals_.front();
         signals_.pop_front();
         const auto found = events_.find(signal.event);
-        if (found == events_.end() || signal.run != *signal.presentRun) continue;
+        if (found == events_.end() || signal.OutOfDate()) continue;
         // The callback may destroy its own event.
         const auto callback = found->second;
         Deliver([&] { callback(signal.event); });
