@@ -20,3 +20,18 @@ function(vatro_check_includes target folder)
   add_custom_target(${target}_includes DEPENDS ${stamp})
   add_dependencies(${target} ${target}_includes)
 endfunction()
+
+# vatro_storey(NAME ROOT FOLDER [USES TARGET...])
+#
+# The library vatro_NAME of all sources below FOLDER, which is its include root. It sees the include roots of what it uses and of what
+# those use. The sources of the other operating system and those of programs are left out.
+function(vatro_storey name)
+  cmake_parse_arguments(PARSE_ARGV 1 storey "" "ROOT" "USES")
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${storey_ROOT}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "${VATRO_OTHER_SYSTEM}\\.cpp$")
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  add_library(vatro_${name} STATIC ${sources})
+  target_include_directories(vatro_${name} PUBLIC ${storey_ROOT})
+  target_link_libraries(vatro_${name} PUBLIC ${storey_USES} PRIVATE vatro_options)
+  vatro_check_includes(vatro_${name} ${storey_ROOT})
+endfunction()

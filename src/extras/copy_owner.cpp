@@ -4,7 +4,7 @@
 #include <unordered_set>
 
 #include "errors.h"
-#include "frame/log_file.h"
+#include "log/ten_logs.h"
 #include "log_text.h"
 #include "whole_file.h"
 

@@ -9,7 +9,7 @@
 #include "codepage.h"
 #include "copy_owner.h"
 #include "errors.h"
-#include "frame/log_file.h"
+#include "log/ten_logs.h"
 #include "joined.h"
 #include "log/contact_line.h"
 #include "names.h"

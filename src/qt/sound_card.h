@@ -2,7 +2,7 @@
 //
 // The sound card of the desktop, by Qt Multimedia.
 //
-// The sound system is spoken to on a thread of its own (sound_thread.h), so that a busy program does not make the sound
+// The sound system is spoken to on a thread of its own (platform/sound_thread.h), so that a busy program does not make the sound
 // stutter and a slow sound system does not hold up the program. What the program calls returns at once; notifications come
 // back as events of the program's thread.
 #pragma once
@@ -13,7 +13,7 @@
 #include <memory>
 
 #include "sound.h"
-#include "sound_thread.h"
+#include "sound_buffers.h"
 
 namespace vatro {
 
@@ -28,21 +28,12 @@ public:
     std::unique_ptr<SoundDevice> CreateDevice() override;
 
 private:
-    class Buffer;
-    class Device;
-
-    /// An event that has been signalled. It is out of date when the buffer has been stopped or moved since.
-    struct Signal {
-        SoundEvent event;
-        unsigned run;
-        std::shared_ptr<const unsigned> presentRun;
-    };
     void RunSignals();
 
     SoundEvent lastEvent_ = 0;
     std::map<SoundEvent, std::function<void(SoundEvent)>> events_;
-    std::deque<Signal> signals_;
-    /// What the audio thread posts to; posts that have not run go with it.
+    std::deque<SoundSignal> signals_;
+    /// What the sound thread posts to; posts that have not run go with it.
     std::unique_ptr<QObject> bell_;
     std::shared_ptr<SoundThread> thread_;
 };

@@ -4,18 +4,12 @@
 #   with_window_manager.sh openbox|xfwm4 COMMAND [ARGUMENT...]
 #
 # Runs the command on a screen of its own, with this window manager alone on it. HOME and the runtime directory are temporary
-# ones; what the window manager says is in $HOME/wm.log. Where a program is missing, the exit code is 77 on a machine of a
-# developer and 1 where CI is "true".
+# ones; what the window manager says is in $HOME/wm.log. Skipped where a program is missing.
 set -euo pipefail
+. "$(dirname "$0")/../skip.sh"
 manager=$1
 shift
-
-for program in Xvfb xdotool xprop dbus-run-session "$manager"; do
-    command -v "$program" >/dev/null && continue
-    echo "skipped: $program is not installed"
-    [ "${CI:-}" != true ] || exit 1
-    exit 77
-done
+need Xvfb xdotool xprop dbus-run-session "$manager"
 
 world=$(mktemp -d)
 screen= running=

@@ -101,12 +101,16 @@ TEST_F(SafeFilesPosix, OwnerAndRightsSurviveARewrite) {
     Put("log/FD80mSSB.txt", LogOf(1));
     ASSERT_EQ(chmod((root_ / "log/FD80mSSB.txt").c_str(), 0664), 0);
     const bool root = geteuid() == 0;
-    if (root) ASSERT_EQ(chown((root_ / "log/FD80mSSB.txt").c_str(), kSomebody, kSomebody), 0);
+    if (root) {
+        ASSERT_EQ(chown((root_ / "log/FD80mSSB.txt").c_str(), kSomebody, kSomebody), 0);
+    }
     Rewrite(ContactLine(1, 1));
     struct stat status {};
     ASSERT_EQ(stat((root_ / "log/FD80mSSB.txt").c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777U, 0664U);
-    if (root) EXPECT_EQ(status.st_uid, kSomebody);
+    if (root) {
+        EXPECT_EQ(status.st_uid, kSomebody);
+    }
 }
 
 TEST_F(SafeFilesPosix, AnotherUserIsKeptAway) {

@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-#   core_without_qt.sh VATRO-REPLAY LIBVATRO_CORE [VATRO]
+#   core_without_qt.sh VATRO VATRO-REPLAY LIBRARY...
 #
-# The logic knows no toolkit: vatro-replay links no Qt, directly or through another library, and nothing in the core
-# asks for a symbol of Qt. The window program, where it is built, shows that each search would find Qt if it were there.
+# The logic knows no toolkit: vatro-replay links no Qt, directly or through another library, and none of the storeys' libraries asks
+# for a symbol of Qt. The window program, unless its name is empty because it is not built, shows that each search would find Qt.
 set -euo pipefail
 export LC_ALL=C
-replay=$1 core=$2 window=${3:-}
+window=$1 replay=$2
+shift 2
 
 libraries() { ldd "$1" | grep -oE '^[[:space:]]*lib[^ ]+' || true; }
 # Names of Qt among the undefined symbols; names of the program have vatro:: before them.
@@ -25,8 +26,11 @@ grep -q 'libc\.so' <<<"$found" || complain "the libraries of $replay could not b
 qt=$(grep -i 'qt' <<<"$found" || true)
 [ -z "$qt" ] || complain "$replay links Qt:" "$qt"
 
-[ -n "$(nm -C "$core" 2>/dev/null | grep ' T vatro::')" ] || complain "the symbols of $core could not be read"
-for file in "$core" "$replay"; do
+[ $# -gt 0 ] || complain "no library to look at"
+for file in "$@"; do
+    [ -n "$(nm -C "$file" 2>/dev/null | grep ' T vatro::')" ] || complain "the symbols of $file could not be read"
+done
+for file in "$@" "$replay"; do
     qt=$(qt_symbols "$file")
     [ -z "$qt" ] || complain "$file asks for symbols of Qt:" "$qt"
 done

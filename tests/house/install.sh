@@ -24,6 +24,7 @@ bin/vatro-cty
 libexec/vatro/vatro
 libexec/vatro/vatro-printers
 share/applications/dk.vatro.Vatro.desktop
+share/doc/vatro/LicenseRef-country-file.txt
 share/doc/vatro/changelog.gz
 share/doc/vatro/copyright
 share/icons/hicolor/scalable/apps/dk.vatro.Vatro.svg
@@ -38,8 +39,8 @@ share/vatro/refpfx.txt
 FILES
     (cd "$root/help" && printf 'share/doc/vatro/handbook/%s\n' *.html *.png)
 } | sort >"$work/expected"
-# With VATRO_DEBIAN there are two more.
-(cd "$prefix" && find . ! -type d -printf '%P\n') | grep -vE '^share/(doc-base/|doc/vatro/changelog\.Debian)' | sort >"$work/installed"
+# With VATRO_DEBIAN there are three more.
+(cd "$prefix" && find . ! -type d -printf '%P\n') | grep -vE '^share/(doc-base/|doc/vatro/(changelog\.Debian|vatro\.spdx))' | sort >"$work/installed"
 diff -u "$work/expected" "$work/installed" || complain "other files are installed than belong there"
 
 entry=$prefix/share/applications/dk.vatro.Vatro.desktop

@@ -3,16 +3,16 @@
 #
 #   package.sh ROOT
 #
-# The desktop entry, the metainfo and the manual pages are as their own checkers want them. Exit code 77 where one of the checkers
+# The desktop entry, the metainfo and the manual pages are as their own checkers want them. Skipped where one of the checkers
 # is missing and the others find nothing.
 set -euo pipefail
+. "$(dirname "$0")/../skip.sh"
 cd "$1/packaging"
 fault=0
-skipped=0
+missing=
 have() {
     command -v "$1" >/dev/null && return
-    echo "$1 is not installed"
-    skipped=77
+    missing+=" $1"
     return 1
 }
 if have desktop-file-validate; then
@@ -30,4 +30,4 @@ if have man; then
     done
 fi
 [ $fault = 0 ] || exit 1
-exit $skipped
+[ -z "$missing" ] || skip "not installed:$missing"

@@ -131,10 +131,16 @@ TEST_F(SafeDisk, APowerCutAtAnyCallLosesNoConfirmedLine) {
             const std::size_t corrected = static_cast<std::size_t>(std::count(lines.begin(), lines.end(), kCorrected));
             const std::size_t old = static_cast<std::size_t>(std::count(lines.begin(), lines.end(), ContactLine(7, 7)));
             ASSERT_EQ(corrected + old, 1U) << "before call " << cut;
-            if (told > 0) ASSERT_EQ(corrected, 1U) << "a confirmed correction, before call " << cut;
+            if (told > 0) {
+                ASSERT_EQ(corrected, 1U) << "a confirmed correction, before call " << cut;
+            }
             for (int i = 1; i <= kContacts; ++i)
-                if (i != 7) ASSERT_EQ(std::count(lines.begin(), lines.end(), ContactLine(i, i)), 1) << i << " before call " << cut;
-            if (told > 1) ASSERT_EQ(std::count(lines.begin(), lines.end(), kAppended), 1) << "before call " << cut;
+                if (i != 7) {
+                    ASSERT_EQ(std::count(lines.begin(), lines.end(), ContactLine(i, i)), 1) << i << " before call " << cut;
+                }
+            if (told > 1) {
+                ASSERT_EQ(std::count(lines.begin(), lines.end(), kAppended), 1) << "before call " << cut;
+            }
             ASSERT_LE(lines.size(), static_cast<std::size_t>(kContacts) + 1) << "before call " << cut;
         }
         if (cut == calls.size()) break;
@@ -238,13 +244,17 @@ TEST_F(SafeDisk, AFaultAtAnyCallLosesNoConfirmedLine) {
             for (int i = 1; i <= kContacts; ++i) ASSERT_TRUE(lines.contains(ContactLine(i, i))) << i << " is gone: " << where;
             std::ifstream told(journal);
             for (std::string line; std::getline(told, line);)
-                if (line.size() == 79 && !line.starts_with("NOTICE")) ASSERT_TRUE(lines.contains(line)) << line << " is gone: " << where;
+                if (line.size() == 79 && !line.starts_with("NOTICE")) {
+                    ASSERT_TRUE(lines.contains(line)) << line << " is gone: " << where;
+                }
             // The log alone has all contacts, unless the operator was told that the read had failed.
             Desk after(directory.Path());
             const std::vector<std::string> log = after.Load();
             std::ifstream again(journal);
             const std::string story{std::istreambuf_iterator<char>(again), {}};
-            if (log.size() < kContacts) ASSERT_NE(story.find("NOTICE"), std::string::npos) << where;
+            if (log.size() < kContacts) {
+                ASSERT_NE(story.find("NOTICE"), std::string::npos) << where;
+            }
         }
     }
     RecordProperty("faults", static_cast<int>(runs));

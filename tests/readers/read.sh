@@ -6,13 +6,11 @@
 #   read.sh pdf VATRO-REPLAY VATRO-PRINT-PDF
 #
 # Plays the contest of contest.scn and has its papers read by programs that others have written. Where such a program is
-# missing the test is skipped (77).
+# missing the test is skipped.
 set -euo pipefail
+. "$(dirname "$0")/../skip.sh"
 here=$(cd "$(dirname "$0")" && pwd)
 what=$1 replay=$2
-
-skip() { echo "skipped: $1"; exit 77; }
-need() { command -v "$1" >/dev/null || skip "$1 is not installed"; }
 
 case $what in
     adif)
@@ -21,8 +19,8 @@ case $what in
         for reader in adif-parser-ts tcadif; do
             [ -d "$modules/$reader" ] || skip "the npm package $reader is not in $modules; packaging/build-release puts it there"
         done ;;
-    html) need node; need chromium ;;
-    pdf) need pdftotext; need pdfinfo ;;
+    html) need node chromium ;;
+    pdf) need pdftotext pdfinfo ;;
 esac
 
 world=$(mktemp -d)

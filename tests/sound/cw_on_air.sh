@@ -4,14 +4,12 @@
 #   with_sound_card.sh cw_on_air.sh VATRO DATA WPM TEXT
 #
 # Starts the program on a screen of its own, in CW and at this speed, with the tables of the directory DATA. Presses F5, records
-# what the card plays, and has a decoder that knows nothing of the program read it: it must read TEXT. Exit code 77 if the
+# what the card plays, and has a decoder that knows nothing of the program read it: it must read TEXT. Skipped if the
 # programs it takes are missing.
 set -euo pipefail
+. "$(dirname "$0")/../skip.sh"
 vatro=$1 data=$2 wpm=$3 text=$4
-
-for program in Xvfb xdotool sox multimon-ng; do
-    command -v $program >/dev/null || { echo "skipped: $program is not installed"; exit 77; }
-done
+need Xvfb xdotool sox multimon-ng
 
 mkdir -p "$HOME/log" "$HOME/tables" "$XDG_CONFIG_HOME/vatro"
 cp "$data"/*.txt "$HOME/tables/"

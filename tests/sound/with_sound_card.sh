@@ -4,12 +4,10 @@
 #   with_sound_card.sh COMMAND [ARGUMENT...]
 #
 # Runs the command beside a sound system of its own, PulseAudio with one silent card whose output can be recorded from
-# "prove.monitor". HOME and the runtime directory are temporary ones. Exit code 77 if the programs it takes are missing.
+# "prove.monitor". HOME and the runtime directory are temporary ones. Skipped if the programs it takes are missing.
 set -euo pipefail
-
-for program in pulseaudio pactl parec; do
-    command -v $program >/dev/null || { echo "skipped: $program is not installed"; exit 77; }
-done
+. "$(dirname "$0")/../skip.sh"
+need pulseaudio pactl parec
 
 world=$(mktemp -d)
 server=

@@ -1,17 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
 # Sourced by the scripts beside it: the program on a screen of its own, with a window manager, typed at by xdotool.
-
-# Ends the test if one of the programs that it takes is missing: as skipped by hand, as failed where CI is "true".
-need() {
-    local program
-    for program in "$@"; do
-        command -v "$program" >/dev/null && continue
-        echo "$program is not installed"
-        [ "${CI:-}" != true ] || exit 1
-        exit 77
-    done
-}
+. "$(dirname "${BASH_SOURCE[0]}")/../skip.sh"
 
 screen= manager= program=
 # The program stores its settings when it is ended: its world goes after it.

@@ -3,8 +3,8 @@
 #
 #   typing.sh VATRO DATA
 #
-# Types at the program as a tired operator does, as fast as a macro, fast, and slowly: what is logged is what was meant. Exit code
-# 77 if the programs it takes are missing, or 1 where CI is "true".
+# Types at the program as a tired operator does, as fast as a macro, fast, and slowly: what is logged is what was meant. Skipped
+# if the programs it takes are missing.
 set -euo pipefail
 . "$(dirname "$0")/program_on_screen.sh"
 need Xvfb openbox xdotool

@@ -3,8 +3,8 @@
 #
 #   typing_while_sending.sh VATRO DATA
 #
-# Types the next call while Morse is sent, and stops the text: the fields keep what was typed. On a sound system of its own. Exit
-# code 77 if the programs it takes are missing, or 1 where CI is "true".
+# Types the next call while Morse is sent, and stops the text: the fields keep what was typed. On a sound system of its own.
+# Skipped if the programs it takes are missing.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 . "$here/program_on_screen.sh"

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "sound_thread.h"
+
+#include <future>
+#include <map>
+#include <utility>
+
+#include "sound_player.h"
+
+namespace vatro {
+
+namespace {
+
+/// Until the thread has ended.
+constexpr std::chrono::milliseconds kPatience{2000};
+
+}  // namespace
+
+struct SoundThread::Players {
+    std::map<int, std::unique_ptr<SoundPlayer>> byNumber;
+};
+
+SoundThread::SoundThread(std::unique_ptr<SoundLoop> loop) : loop_(std::move(loop)), players_(std::make_shared<Players>()) {}
+
+SoundThread::~SoundThread() {
+    End();
+}
+
+void SoundThread::Start() {
+    if (started_ || ended_) return;
+    started_ = true;
+    loop_->Start([players = players_] { players->byNumber.clear(); });
+}
+
+void SoundThread::Post(std::function<void()> task) {
+    if (started_ && !ended_) loop_->Post(std::move(task));
+}
+
+bool SoundThread::Await(std::function<void()> task, std::chrono::milliseconds patience) {
+    Start();
+    if (ended_) return false;
+    // Whichever side is done with it last lets it go.
+    const auto done = std::make_shared<std::promise<void>>();
+    const std::future<void> answer = done->get_future();
+    Post([done, task = std::move(task)] {
+        task();
+        done->set_value();
+    });
+    return answer.wait_for(patience) == std::future_status::ready;
+}
+
+int SoundThread::AddPlayer(std::function<std::unique_ptr<SoundPlayer>()> make) {
+    Start();
+    const int player = ++lastPlayer_;
+    Post([players = players_, player, make = std::move(make)] { players->byNumber[player] = make(); });
+    return player;
+}
+
+void SoundThread::Ask(int player, std::function<void(SoundPlayer&)> task) {
+    Post([players = players_, player, task = std::move(task)] {
+        const auto found = players->byNumber.find(player);
+        if (found != players->byNumber.end()) task(*found->second);
+    });
+}
+
+void SoundThread::RemovePlayer(int player) {
+    // It is out of reach before it goes: the sound system may let other tasks run meanwhile.
+    Post([players = players_, player] { players->byNumber.extract(player); });
+}
+
+bool SoundThread::End() {
+    if (ended_) return true;
+    ended_ = true;
+    return !started_ || loop_->End(kPatience);
+}
+
+}  // namespace vatro

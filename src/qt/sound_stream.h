@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+//
+// What a player gets of the desktop's sound system, by Qt Multimedia. Lives on the sound thread.
+#pragma once
+
+#include <QTimer>
+
+#include "sound_player.h"
+
+class QAudioSink;
+class QIODevice;
+
+namespace vatro {
+
+class QtSoundStream : public SoundStream {
+public:
+    /// Whether there is a device to play on; the sound system is asked, which may take its time.
+    static bool DeviceThere();
+
+    QtSoundStream();
+    ~QtSoundStream() override;
+    QtSoundStream(const QtSoundStream&) = delete;
+    QtSoundStream& operator=(const QtSoundStream&) = delete;
+
+    bool Open(int samplesPerSecond) override;
+    void Drop() override;
+    bool IsOpen() const override { return sink_ != nullptr; }
+    std::optional<std::size_t> Room() override;
+    std::optional<std::size_t> Write(std::span<const std::int16_t> samples) override;
+    long long HeardMicroseconds() const override;
+    void StartFeeding(std::function<void()> feed) override;
+    void StopFeeding() override;
+    void TellStarted(std::chrono::nanoseconds sinceAsked) override;
+    void TellGone() override;
+
+private:
+    /// Nothing while there is no device to play on.
+    std::unique_ptr<QAudioSink> sink_;
+    QIODevice* input_ = nullptr;
+    std::function<void()> feed_;
+    QTimer feeding_;
+};
+
+}  // namespace vatro
