@@ -29,7 +29,7 @@ FrmCall::FrmCall()
     Command2.Click = [this] {
         gsTelefon = Text1.Text();
         gsMyCall = cboCall.Text();
-        StoreText(kSettings, "MyCall", gsMyCall);
+        StoreSetting(setting::kMyCall, gsMyCall);
         Hide();
     };
     Command1.Click = [this] {

@@ -28,8 +28,6 @@ namespace vatro {
 
 namespace {
 
-constexpr std::string_view kLeftKey = "MainLeft";
-
 const Font kFixedFont{"Fixedsys", 9};
 
 std::vector<Toolbar::ToolButton> ToolButtons() {
@@ -117,18 +115,18 @@ void FrmMain::BindFields() {
 }
 
 bool FrmMain::HasPlace() {
-    return platform().settings.Read(kSettings, kLeftKey).has_value();
+    return IsStored(setting::kMainLeft);
 }
 
 void FrmMain::Form_Load() {
-    MoveTo(ReadTwips(kLeftKey, 1000), ReadTwips("MainTop", 1000));
-    gsBand = ReadText(kSettings, "Band", "80m");
-    gsMode = ReadText(kSettings, "Mode", "SSB");
-    gsQsoMode = ReadText(kSettings, "QsoMode", "SSB");
-    gbAutoTid = static_cast<std::int16_t>(ReadNumber(kSettings, "AutoTid", 1));
-    gbVisLand = ReadFlag(kSettings, "VisLand", true);
-    gsLogLib = ReadText(kSettings, "gsLogLib");
-    gsBackupLib = ReadText(kSettings, "gsBackupLib");
+    MoveTo(ReadSetting(setting::kMainLeft), ReadSetting(setting::kMainTop));
+    gsBand = ReadSetting(setting::kBand);
+    gsMode = ReadSetting(setting::kMode);
+    gsQsoMode = ReadSetting(setting::kQsoMode);
+    gbAutoTid = ReadSetting(setting::kAutoTime);
+    gbVisLand = ReadSetting(setting::kShowCountry);
+    gsLogLib = ReadSetting(setting::kLogDirectory);
+    gsBackupLib = ReadSetting(setting::kBackupDirectory);
     SetCaption("Vatro " + gsMyCall);
     if (gbAutoTid == 1)
         TimerStart();
@@ -191,23 +189,23 @@ void FrmMain::Form_Unload() {
 
 void FrmMain::StoreState() {
     if (State() != WindowState::Minimised) {
-        StoreNumber(kSettings, kLeftKey, Left());
-        StoreNumber(kSettings, "MainTop", Top());
+        StoreSetting(setting::kMainLeft, Left());
+        StoreSetting(setting::kMainTop, Top());
     }
-    StoreText(kSettings, "gsKlasse", gsKlasse);
-    StoreText(kSettings, "gsFDlib", gsFDLib);
-    StoreText(kSettings, "gsLoglib", gsLogLib);
-    StoreText(kSettings, "gsBackupLib", gsBackupLib);
-    StoreText(kSettings, "Band", gsBand);
-    StoreText(kSettings, "Mode", gsMode);
-    StoreText(kSettings, "QsoMode", gsQsoMode);
-    StoreNumber(kSettings, "AutoTid", gbAutoTid);
-    StoreFlag(kSettings, "VisLand", gbVisLand);
-    StoreText(kSettings, "MyCall", gsMyCall);
-    StoreText(kSettings, "UTC", gsUTC);
-    StoreText(kSettings, "gsTelefon", gsTelefon);
-    StoreText(kSettings, "LastOP", gsOperatør.Padded());
-    StoreFlag(kSettings, "VisInfo2002", gbVisInfo);
+    StoreSetting(setting::kContestClass, gsKlasse);
+    StoreSetting(setting::kTablesDirectory, gsFDLib);
+    StoreSetting(setting::kLogDirectory, gsLogLib);
+    StoreSetting(setting::kBackupDirectory, gsBackupLib);
+    StoreSetting(setting::kBand, gsBand);
+    StoreSetting(setting::kMode, gsMode);
+    StoreSetting(setting::kQsoMode, gsQsoMode);
+    StoreSetting(setting::kAutoTime, gbAutoTid);
+    StoreSetting(setting::kShowCountry, gbVisLand);
+    StoreSetting(setting::kMyCall, gsMyCall);
+    StoreSetting(setting::kUtc, gsUTC);
+    StoreSetting(setting::kTelephone, gsTelefon);
+    StoreSetting(setting::kLastOperator, gsOperatør.Padded());
+    StoreSetting(setting::kShowInfo, gbVisInfo);
 }
 
 void FrmMain::Text1_Change(int Index) {

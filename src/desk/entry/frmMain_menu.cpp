@@ -123,7 +123,7 @@ void FrmMain::BindPapers() {
 void FrmMain::SetContestClass(std::string_view contestClass) {
     gsKlasse = contestClass;
     ShowContestClass();
-    StoreText(kSettings, "gsKlasse", gsKlasse);
+    StoreSetting(setting::kContestClass, gsKlasse);
 }
 
 void FrmMain::ShowContestClass() {

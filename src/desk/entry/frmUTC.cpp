@@ -24,7 +24,7 @@ FrmUTC::FrmUTC()
     SetTabOrder({&Combo1, &Command2, &Command1});
     Command2.Click = [this] {
         gsUTC = Combo1.Text();
-        StoreText(kSettings, "UTC", gsUTC);
+        StoreSetting(setting::kUtc, gsUTC);
         Hide();
     };
     Command1.Click = [this] { Hide(); };

@@ -10,25 +10,22 @@ std::array<std::string, kEquipmentBands.size()> antennas;
 
 namespace {
 
-constexpr std::string_view kSection = "Equipment";
 constexpr int kLength = 15;
 
-std::string Nøgle(std::string_view kind, std::size_t band) {
-    return std::string(kind).append(kEquipmentBands[band]);
-}
+static_assert(setting::kRigs.size() == kEquipmentBands.size() && setting::kAntennas.size() == kEquipmentBands.size());
 
 }  // namespace
 
 void HentUdstyr() {
     for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
-        rigs[i] = ReadText(kSection, Nøgle("Rig", i));
-        antennas[i] = ReadText(kSection, Nøgle("Ant", i));
+        rigs[i] = ReadSetting(setting::kRigs[i]);
+        antennas[i] = ReadSetting(setting::kAntennas[i]);
     }
 }
 
 void GemUdstyr() {
-    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, Nøgle("Rig", i), rigs[i]);
-    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, Nøgle("Ant", i), antennas[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreSetting(setting::kRigs[i], rigs[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreSetting(setting::kAntennas[i], antennas[i]);
 }
 
 FormRigAnt::FormRigAnt()

@@ -32,13 +32,13 @@ using namespace literals;
 namespace {
 
 void ReadSettings() {
-    gsUTC = ReadText(kSettings, "UTC", "-2");
-    gsMyCall = ReadText(kSettings, "MyCall");
-    gsFDLib = ReadText(kSettings, "gsFDLib");
-    gsKlasse = ReadText(kSettings, "gsKlasse", "A");
-    gsTelefon = ReadText(kSettings, "gsTelefon", "12345678");
-    gsOperatør = ReadText(kSettings, "LastOP");
-    gbVisInfo = ReadFlag(kSettings, "VisInfo2002", true);
+    gsUTC = ReadSetting(setting::kUtc);
+    gsMyCall = ReadSetting(setting::kMyCall);
+    gsFDLib = ReadSetting(setting::kTablesDirectory);
+    gsKlasse = ReadSetting(setting::kContestClass);
+    gsTelefon = ReadSetting(setting::kTelephone);
+    gsOperatør = ReadSetting(setting::kLastOperator);
+    gbVisInfo = ReadSetting(setting::kShowInfo);
 }
 
 /// As far as it can be done.
@@ -109,7 +109,7 @@ void StartProgram() {
     if (gsFDLib.empty()) {
         gsFDLib = platform().files.CurrentDirectory();
         // Another key than the one read above, which gets the value at a regular end: both are meant.
-        StoreText(kSettings, "FDLib", gsFDLib);
+        StoreSetting(setting::kFirstTablesDirectory, gsFDLib);
     }
 
     frmSplash->ShowStage("Indlæser Lande"_t);
