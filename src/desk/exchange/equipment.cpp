@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/equipment.h"
+#include "frame/state.h"
 
 #include "frame/settings.h"
 
 namespace vatro {
-
-std::array<std::string, kEquipmentBands.size()> rigs;
-std::array<std::string, kEquipmentBands.size()> antennas;
 
 namespace {
 
@@ -18,14 +16,14 @@ static_assert(setting::kRigs.size() == kEquipmentBands.size() && setting::kAnten
 
 void HentUdstyr() {
     for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
-        rigs[i] = ReadSetting(setting::kRigs[i]);
-        antennas[i] = ReadSetting(setting::kAntennas[i]);
+        desk().rigs[i] = ReadSetting(setting::kRigs[i]);
+        desk().antennas[i] = ReadSetting(setting::kAntennas[i]);
     }
 }
 
 void GemUdstyr() {
-    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreSetting(setting::kRigs[i], rigs[i]);
-    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreSetting(setting::kAntennas[i], antennas[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreSetting(setting::kRigs[i], desk().rigs[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreSetting(setting::kAntennas[i], desk().antennas[i]);
 }
 
 FormRigAnt::FormRigAnt()
@@ -52,15 +50,15 @@ FormRigAnt::FormRigAnt()
 
 void FormRigAnt::Form_Load() {
     for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
-        TextRig[i].SetText(rigs[i]);
-        TextAnt[i].SetText(antennas[i]);
+        TextRig[i].SetText(desk().rigs[i]);
+        TextAnt[i].SetText(desk().antennas[i]);
     }
 }
 
 void FormRigAnt::CommandOK_Click() {
     for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
-        antennas[i] = TextAnt[i].Text();
-        rigs[i] = TextRig[i].Text();
+        desk().antennas[i] = TextAnt[i].Text();
+        desk().rigs[i] = TextRig[i].Text();
     }
     GemUdstyr();
     Unload();

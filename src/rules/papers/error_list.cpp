@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/error_list.h"
+#include "frame/state.h"
 
 #include <memory_resource>
 #include <unordered_set>
@@ -7,14 +8,12 @@
 #include "call/call_analysis.h"
 #include "checks/field_checks.h"
 #include "columns.h"
-#include "country/lookup.h"
 #include "datetime.h"
 #include "entry/frmMain.h"
-#include "entry/validation.h"
+#include "entry/next_contact.h"
 #include "frame/log_file.h"
 #include "frame/station.h"
 #include "log/contact_line.h"
-#include "log/duplicates.h"
 #include "numbers.h"
 #include "papers/layout.h"
 #include "papers/weekend.h"
@@ -23,7 +22,7 @@
 #include "printing/progress.h"
 #include "score/points.h"
 #include "score/stations.h"
-#include "tables/unknown.h"
+#include "tables/worked.h"
 
 namespace vatro {
 
@@ -105,14 +104,13 @@ private:
     }
 
     void TjekCall() {
-        gsCall = kCall.TrimmedOf(linje_);
-        StripCall(gsCall);
-        if (gsCall.size() < 3) Fejl("Et kaldesignal skal være på mindst 3 tegn."_t);
-        if (!HasDigitsAndLetters(gsCall)) Fejl("Der skal være både tal og bogstaver i et kaldesignal."_t);
-        if (gsCall.starts_with('0')) Fejl("Første tegn i call'et er et nul."_t);
-        const bool husket = !sete_.insert(LeftAligned(gsCall, kHusketCall)).second;
-        dublet_ = husket && gsCall.size() <= kHusketCall;
-        if (dublet_) Fejl(gsCall + " er en dublet!");
+        desk().gsCall = StripCall(kCall.TrimmedOf(linje_));
+        if (desk().gsCall.size() < 3) Fejl("Et kaldesignal skal være på mindst 3 tegn."_t);
+        if (!HasDigitsAndLetters(desk().gsCall)) Fejl("Der skal være både tal og bogstaver i et kaldesignal."_t);
+        if (desk().gsCall.starts_with('0')) Fejl("Første tegn i call'et er et nul."_t);
+        const bool husket = !sete_.insert(LeftAligned(desk().gsCall, kHusketCall)).second;
+        dublet_ = husket && desk().gsCall.size() <= kHusketCall;
+        if (dublet_) Fejl(desk().gsCall + " er en dublet!");
     }
 
     void TjekRapport(std::string_view rst, const RapportBeskeder& beskeder) {
@@ -131,19 +129,20 @@ private:
 
     void TjekPoint() {
         const std::string_view call = kCall.TrimmedOf(linje_);
-        giQSOPoint = 3;
+        desk().giQSOPoint = 3;
         if (ErDansk(call))
-            giQSOPoint = 1;
+            desk().giQSOPoint = 1;
         else if (call.ends_with("/P"))
-            giQSOPoint = 5;
-        LandWkd(call, nytLand_, MarkAction::Mark);
+            desk().giQSOPoint = 5;
+        nytLand_ = NoteCountry(call, MarkAction::Mark);
         const double point = NumericValue(kPoint.TrimmedOf(linje_));
         if (dublet_) {
             if (point != 0) Fejl("Dublet station giver 0 point.");
             return;
         }
-        EDRstnWkd(gsCall, MarkAction::Mark);
-        if (point != giQSOPoint) Fejl(PointBesked(giQSOPoint));
+        NoteStation(desk().gsCall, MarkAction::Mark);
+        desk().gsCall = StationCall(desk().gsCall);
+        if (point != desk().giQSOPoint) Fejl(PointBesked(desk().giQSOPoint));
     }
 
     void TjekMultiplier() {
@@ -188,7 +187,7 @@ void DanFejlliste() {
     frmMain->SetEnabled(false);
     VisForløb("Dan fejlliste");
     ÅbnPapir("Fejllist.txt");
-    Skriv(Indrykket("Vatro fejlliste for " + gsMyCall + ". Dannet d. " + FormatDate(platform().clock.Now(), "dd.mm.yyyy")));
+    Skriv(Indrykket("Vatro fejlliste for " + desk().gsMyCall + ". Dannet d. " + FormatDate(platform().clock.Now(), "dd.mm.yyyy")));
     SkrivBlank();
     for (const LogId& log : kPapirOrden) DanFejlList(log);
     platform().files.Close(kPapirFil);
@@ -224,8 +223,8 @@ void DanFejlListHoved(const LogId& log) {
 
 void DanFejlListKrop(const LogId& log) {
     Files& filer = platform().files;
-    ResetLande();
-    ResetEDR();
+    desk().countries.ResetLande();
+    desk().stations.ResetEDR();
     Kontrol kontrol(log.mode);
     bool FileHasErrors = false;
     do {

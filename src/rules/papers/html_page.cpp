@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/html_page.h"
+#include "frame/state.h"
 
 #include <string>
 
@@ -106,9 +107,9 @@ void DanHtmKrop() {
 void DanHtmSummary() {
     const Sammentælling alt = Sammentæl();
     Skriv("<a name=\"Summary\"></a><a href=\"#top\">Top</a>");
-    Skriv("<h3 align=\"center\">Summary for " + gsMyCall + "</a></h3>");
+    Skriv("<h3 align=\"center\">Summary for " + desk().gsMyCall + "</a></h3>");
     Skriv("<table width=90% border=1 align=\"center\" bgcolor=\"#F1F1F1\">");
-    Skriv("<tr align=\"center\"><td>Kaldesignal: <b>" + gsMyCall + "</B><td>Kategori: " + gsKlasse);
+    Skriv("<tr align=\"center\"><td>Kaldesignal: <b>" + desk().gsMyCall + "</B><td>Kategori: " + desk().gsKlasse);
     Skriv("<tr align=\"center\"><td colspan=2>" + alt.name);
     Skriv("<tr align=\"center\"><td colspan=2><b>Operatører:</B>"_t);
     Skriv("<tr align=\"center\"><td colspan=2>" + std::string(Columns(alt.Operators, kOperatørerFra)) + "</tr>");

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "papers/layout.h"
+#include "frame/state.h"
 
 #include "columns.h"
-#include "frame/start.h"
 #include "frame/station.h"
+#include "frame/version.h"
 #include "log/contact_line.h"
 #include "numbers.h"
 #include "platform.h"
@@ -41,7 +42,7 @@ std::string Årstal() {
 }
 
 std::string LogTitel() {
-    return "Fieldday log for " + gsMyCall + " " + Årstal();
+    return "Fieldday log for " + desk().gsMyCall + " " + Årstal();
 }
 
 std::string VersionMærke() {

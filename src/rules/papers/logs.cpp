@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/logs.h"
+#include "frame/state.h"
 
 #include "frame/band_mode.h"
 #include "frame/log_file.h"
@@ -15,7 +16,7 @@ void ÅbnLog(const LogId& log) {
 }
 
 void ÅbnPapir(std::string_view navn) {
-    platform().files.Open(kPapirFil, PathIn(gsLogLib, navn), FileMode::Output);
+    platform().files.Open(kPapirFil, PathIn(desk().gsLogLib, navn), FileMode::Output);
 }
 
 void Skriv(std::string_view linje) {

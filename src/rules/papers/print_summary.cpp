@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <string>
 
+#include "frame/state.h"
 #include "frame/station.h"
 #include "numbers.h"
 #include "page.h"
@@ -45,8 +46,8 @@ void PrintTelefon(PageSurface& surface) {
 void PrintBlad(PageSurface& surface, const Sammentælling& alt) {
     Række(surface, kSammentællingsblad);
     BlankRække(surface);
-    Række(surface,
-          "Kaldesignal: " + gsMyCall + Blanke(10) + "Kategori: " + gsKlasse + Blanke(14) + "Antal logsider: " + NumberText(surface.Page()));
+    Række(surface, "Kaldesignal: " + desk().gsMyCall + Blanke(10) + "Kategori: " + desk().gsKlasse + Blanke(14) +
+                       "Antal logsider: " + NumberText(surface.Page()));
     BlankRække(surface);
     Række(surface, "Navn: " + alt.name);
     BlankRække(surface);

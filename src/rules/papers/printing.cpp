@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/printing.h"
+#include "frame/state.h"
 
 #include <string>
 
@@ -150,7 +151,7 @@ void PrintUkendt(PageSurface& surface) {
     TilføjForløb("Ukendte præfixer"_t);
     bool åben = false;
     try {
-        platform().files.Open(kLogFil, PathIn(gsLogLib, "ukendt.txt"), FileMode::Input);
+        platform().files.Open(kLogFil, PathIn(desk().gsLogLib, "ukendt.txt"), FileMode::Input);
         åben = true;
         PrintHoved(surface, "ukendt", {});
         PrintUkendteLinjer(surface);

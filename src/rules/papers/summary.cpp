@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/summary.h"
+#include "frame/state.h"
 
 #include <algorithm>
 #include <vector>
@@ -33,10 +34,10 @@ void TilføjOperatør(std::string& Operators, std::string_view op) {
 }
 
 std::string StationsNavn() {
-    for (int i = 1; i <= StationsInUse(); ++i) {
-        const std::string_view linje = EDRstn[static_cast<std::size_t>(i)].Linje.Padded();
+    for (int i = 1; i <= desk().stations.StationsInUse(); ++i) {
+        const std::string_view linje = desk().stations.EDRstn[static_cast<std::size_t>(i)].Linje.Padded();
         const std::string call = std::string(UdenBlankeEfter(linje.substr(0, kEdrCall))) + "/P";
-        if (call == gsMyCall) return std::string(linje.substr(kEdrCall + 1));
+        if (call == desk().gsMyCall) return std::string(linje.substr(kEdrCall + 1));
     }
     return {};
 }
@@ -66,7 +67,7 @@ void SkrivTotal(const Sammentælling& alt) {
 void SkrivBlad(const Sammentælling& alt) {
     Skriv(kSammentællingsblad);
     SkrivBlank();
-    Skriv(TilNæsteZone(TilNæsteZone("Kaldesignal: " + gsMyCall) + "Kategori: " + gsKlasse) + "Antal logsider: ");
+    Skriv(TilNæsteZone(TilNæsteZone("Kaldesignal: " + desk().gsMyCall) + "Kategori: " + desk().gsKlasse) + "Antal logsider: ");
     SkrivBlank();
     Skriv("Navn: " + alt.name);
     SkrivBlank();
@@ -148,15 +149,15 @@ Sammentælling Sammentæl() {
 }
 
 const std::string& RigAf(std::size_t båndNr) {
-    return rigs[kEquipmentBands.size() - 1 - båndNr];
+    return desk().rigs[kEquipmentBands.size() - 1 - båndNr];
 }
 
 const std::string& AntAf(std::size_t båndNr) {
-    return antennas[kEquipmentBands.size() - 1 - båndNr];
+    return desk().antennas[kEquipmentBands.size() - 1 - båndNr];
 }
 
 std::string_view OplystTelefon() {
-    return gsTelefon == kTelefonStandard ? std::string_view{} : gsTelefon;
+    return desk().gsTelefon == kTelefonStandard ? std::string_view{} : desk().gsTelefon;
 }
 
 void DanSummary() {
