@@ -40,6 +40,7 @@
 #include "qt_front.h"
 #include "sample.h"
 #include "sound_card.h"
+#include "started_program.h"
 #include "unattended.h"
 
 namespace vatro::bench {

@@ -19,8 +19,8 @@
 namespace vatro {
 
 /// A header line of Fantasia with this primary prefix.
-inline std::string CtyHeader(const std::string& pfx) {
-    return "Fantasia:                 14:  27:  EU:   56.00:   -10.00:    -1.0:  " + pfx + ":";
+inline std::string CtyHeader(const std::string& prefix) {
+    return "Fantasia:                 14:  27:  EU:   56.00:   -10.00:    -1.0:  " + prefix + ":";
 }
 
 class CtyCommand : public TemporaryWorld {

@@ -18,8 +18,8 @@ std::string Figures(int number) {
 }
 
 /// The lines of a country, eight items to a line.
-void AddCountry(Texts& lines, const std::string& pfx, const Texts& items) {
-    lines.push_back(CtyHeader(pfx));
+void AddCountry(Texts& lines, const std::string& prefix, const Texts& items) {
+    lines.push_back(CtyHeader(prefix));
     for (std::size_t i = 0; i < items.size(); ++i) {
         if (i % 8 == 0) lines.emplace_back("    ");
         lines.back() += items[i] + (i + 1 == items.size() ? ";" : ",");
@@ -68,13 +68,13 @@ protected:
         Texts lines;
         for (char group : {'C', 'D'})
             for (char figure = '0'; figure <= '9'; ++figure) {
-                const std::string pfx{group, figure};
-                Texts list{pfx, "=X" + pfx + "AB"};
-                for (int i = 0; i < 100; ++i) list.push_back(pfx + "1" + Letters(i));
-                for (int i = 0; i < 100; ++i) list.push_back(pfx + "2" + Letters(i) + "(15)");
-                for (int i = 0; i < 100; ++i) list.push_back("=" + pfx + "3" + Letters(i) + "A");
-                for (int i = 0; i < items / 20 - 302; ++i) list.push_back("=Y" + pfx + Letters(i) + "A");
-                AddCountry(lines, pfx, list);
+                const std::string prefix{group, figure};
+                Texts list{prefix, "=X" + prefix + "AB"};
+                for (int i = 0; i < 100; ++i) list.push_back(prefix + "1" + Letters(i));
+                for (int i = 0; i < 100; ++i) list.push_back(prefix + "2" + Letters(i) + "(15)");
+                for (int i = 0; i < 100; ++i) list.push_back("=" + prefix + "3" + Letters(i) + "A");
+                for (int i = 0; i < items / 20 - 302; ++i) list.push_back("=Y" + prefix + Letters(i) + "A");
+                AddCountry(lines, prefix, list);
             }
         PutLines("big.dat", lines);
         before_ = Items(Content("big.dat"));

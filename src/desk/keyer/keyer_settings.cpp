@@ -4,45 +4,41 @@
 #include <algorithm>
 
 #include "frame/settings.h"
+#include "frame/state.h"
+#include "morse/text_codes.h"
 
 namespace vatro {
 
-std::int16_t giCWWPM = 0;
-std::int16_t giCWTone = 0;
-std::int32_t glCWVolume = 0;
-std::int16_t giCWFarnsworth = 0;
-std::string gsCWNummerFormat;
-std::string gsCWRSTFormat;
-std::array<std::string, kAntalCWTekster> CWTekster;
-
 namespace {
 
-constexpr std::int16_t kMestFarnsworth = 20;
+constexpr std::int16_t kMaxFarnsworth = 20;
 
-static_assert(setting::kKeyerTexts.size() == kAntalCWTekster);
-static_assert(setting::kNumberFormat.fallback == kNummerMedNuller);
-static_assert(setting::kReportFormat.fallback == kRSTMedTal);
+static_assert(setting::kKeyerTexts.size() == kCwTextCount);
+static_assert(setting::kNumberFormat.fallback == kNumberWithZeros);
+static_assert(setting::kReportFormat.fallback == kReportInFigures);
 
 }  // namespace
 
 void HentCWIndstillinger() {
-    giCWWPM = ReadSetting(setting::kSpeed);
-    giCWTone = ReadSetting(setting::kTone);
-    glCWVolume = ReadSetting(setting::kVolume);
-    giCWFarnsworth = std::min(ReadSetting(setting::kFarnsworth), kMestFarnsworth);
-    gsCWNummerFormat = ReadSetting(setting::kNumberFormat);
-    gsCWRSTFormat = ReadSetting(setting::kReportFormat);
-    for (std::size_t i = 0; i < kAntalCWTekster; ++i) CWTekster[i] = ReadSetting(setting::kKeyerTexts[i]);
+    KeyerState& cw = desk().cw;
+    cw.giCWWPM = ReadSetting(setting::kSpeed);
+    cw.giCWTone = ReadSetting(setting::kTone);
+    cw.glCWVolume = ReadSetting(setting::kVolume);
+    cw.giCWFarnsworth = std::min(ReadSetting(setting::kFarnsworth), kMaxFarnsworth);
+    cw.gsCWNummerFormat = ReadSetting(setting::kNumberFormat);
+    cw.gsCWRSTFormat = ReadSetting(setting::kReportFormat);
+    for (std::size_t i = 0; i < kCwTextCount; ++i) cw.CWTekster[i] = ReadSetting(setting::kKeyerTexts[i]);
 }
 
 void GemCWIndstillinger() {
-    StoreSetting(setting::kSpeed, giCWWPM);
-    StoreSetting(setting::kTone, giCWTone);
-    StoreSetting(setting::kVolume, glCWVolume);
-    StoreSetting(setting::kFarnsworth, giCWFarnsworth);
-    StoreSetting(setting::kNumberFormat, gsCWNummerFormat);
-    StoreSetting(setting::kReportFormat, gsCWRSTFormat);
-    for (std::size_t i = 0; i < kAntalCWTekster; ++i) StoreSetting(setting::kKeyerTexts[i], CWTekster[i]);
+    const KeyerState& cw = desk().cw;
+    StoreSetting(setting::kSpeed, cw.giCWWPM);
+    StoreSetting(setting::kTone, cw.giCWTone);
+    StoreSetting(setting::kVolume, cw.glCWVolume);
+    StoreSetting(setting::kFarnsworth, cw.giCWFarnsworth);
+    StoreSetting(setting::kNumberFormat, cw.gsCWNummerFormat);
+    StoreSetting(setting::kReportFormat, cw.gsCWRSTFormat);
+    for (std::size_t i = 0; i < kCwTextCount; ++i) StoreSetting(setting::kKeyerTexts[i], cw.CWTekster[i]);
 }
 
 }  // namespace vatro

@@ -162,11 +162,11 @@ TEST_F(Printing, OfTheMultiplierSheetPutsTheTableOnPages) {
     for (int i = 0; i < 52; ++i) log.push_back(Contact({.mult = i < 26 ? "DL" : "G"}));
     Log("10mCW", log);
     const std::string modes = "       CW     SSB    CW     SSB    CW     SSB    CW     SSB    CW     SSB    ";
-    const std::string dl = "       DL     " + std::string(63, ' ');
+    const std::string germanRow = "       DL     " + std::string(63, ' ');
     const std::string g = "       G      " + std::string(63, ' ');
     const Lines first = Head("page 1", "Multiplier Checksheet") +
                         Lines{" ", "       10m    10m    15m    15m    20m    20m    40m    40m    80m    80m    ", modes, " "} +
-                        Times(26, dl) + Times(25, g) + Lines{Foot(1)};
+                        Times(26, germanRow) + Times(25, g) + Lines{Foot(1)};
     const Lines second = Head("page 2", "Multiplier Checksheet") +
                          Lines{" ", "       10m           15m           20m           40m           80m           ", modes, g, Foot(2)};
     EXPECT_EQ(Printed(frmMain->mnuFilerUdskrivMult), Lines{"job"} + first + second);

@@ -197,9 +197,9 @@ TEST_F(Summary, NamesTheStationOfTheSocietysList) {
 }
 
 TEST_F(Summary, FillsToTheNextPrintZone) {
-    const auto line = [this](const char* call, const char* klasse) {
+    const auto line = [this](const char* call, const char* contestClass) {
         desk().gsMyCall = call;
-        desk().gsKlasse = klasse;
+        desk().gsKlasse = contestClass;
         return Sheet()[2];
     };
     EXPECT_EQ(line("", "B"), "Kaldesignal:  Kategori: B   Antal logsider: ");
