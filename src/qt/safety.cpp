@@ -8,6 +8,7 @@
 #include "codepage.h"
 #include "deliver.h"
 #include "dialogs.h"
+#include "frame/settings_table.h"
 #include "frame/start.h"
 #include "program.h"
 #include "recovery_window.h"
@@ -19,6 +20,11 @@ using namespace literals;
 namespace fs = std::filesystem;
 
 namespace {
+
+/// Before the program has read it.
+std::string Read(Settings& settings, const TextSetting& row) {
+    return settings.Read(row.section, row.readKey).value_or(std::string(row.fallback));
+}
 
 bool GoOnInASilentDirectory() {
     MessageBox question;
@@ -55,18 +61,15 @@ SafeFiles::Surroundings Safety::Surroundings() {
 
 bool Safety::BothLocks::AnotherCopyRuns() {
     if (safety_.perUser_.AnotherCopyRuns()) return true;
-    return !safety_.files_.TakeDirectory(safety_.settings_.Read("Settings", "gsLogLib").value_or(std::string()));
+    return !safety_.files_.TakeDirectory(Read(safety_.settings_, setting::kLogDirectory));
 }
 
 void Safety::LookThrough(const fs::path& directory) {
-    const auto text = [this](std::string_view key, std::string_view fallback) {
-        return settings_.Read("Settings", key).value_or(std::string(fallback));
-    };
     RecoveryPlaces places;
     places.logs = directory;
-    const std::string tables = text("gsFDLib", "");
+    const std::string tables = Read(settings_, setting::kTablesDirectory);
     places.tables = NativePath(tables.empty() ? files_.CurrentDirectory() : tables);
-    places.firstLog = text("Band", "80m") + text("Mode", "SSB");
+    places.firstLog = Read(settings_, setting::kBand) + Read(settings_, setting::kMode);
     places.now = clock_.Now();
     History history = files_.HistoryOf(directory);
     const std::vector<fs::path> left = Recover(places, history);

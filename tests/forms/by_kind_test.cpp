@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "by_kind.h"
 
+#include <gtest/gtest.h>
+
+#include <string>
+
 #include "forms.h"
 
 namespace vatro {

@@ -5,12 +5,6 @@
 
 namespace vatro {
 
-namespace {
-
-constexpr WindowPlace kPlace{"B4", 2000, 2000, 6000, 6000};
-
-}  // namespace
-
 // The caption is the column head of the list, blanks and all.
 FrmB4::FrmB4()
     : Form("frmB4", FormKind::Tool, "Call check                         QSOnr/modt.     UTC"), List1(*this, "List1", {"Fixedsys", 9}) {
@@ -24,11 +18,11 @@ void FrmB4::ShowContacts(std::vector<std::string> contacts) {
 }
 
 void FrmB4::Form_Load() {
-    RestorePlace(*this, kPlace);
+    RestorePlace(*this, setting::kB4Place);
 }
 
 void FrmB4::StoreState() {
-    StorePlace(*this, kPlace);
+    StorePlace(*this, setting::kB4Place);
 }
 
 }  // namespace vatro

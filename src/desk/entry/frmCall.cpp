@@ -30,7 +30,7 @@ FrmCall::FrmCall()
     Command2.Click = [this] {
         desk().gsTelefon = Text1.Text();
         desk().gsMyCall = cboCall.Text();
-        StoreText(kSettings, "MyCall", desk().gsMyCall);
+        StoreSetting(setting::kMyCall, desk().gsMyCall);
         Hide();
     };
     Command1.Click = [this] {

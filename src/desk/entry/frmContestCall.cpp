@@ -8,12 +8,6 @@
 
 namespace vatro {
 
-namespace {
-
-constexpr WindowPlace kPlace{"Call", 0, 0, 1000, 3000};
-
-}  // namespace
-
 FrmContestCall::FrmContestCall()
     : Form("frmContestCall", FormKind::Tool, "Contest Call"), Label1(*this, "Label1", "", {"Arial", 48, true}) {
     Label1.Change = [this] { FitWidth(*this, Label1); };
@@ -25,12 +19,12 @@ void FrmContestCall::visContestCall() {
 
 void FrmContestCall::Form_Load() {
     visContestCall();
-    RestorePlace(*this, kPlace);
+    RestorePlace(*this, setting::kCallPlace);
     Form_Resize();
 }
 
 void FrmContestCall::StoreState() {
-    StorePlace(*this, kPlace);
+    StorePlace(*this, setting::kCallPlace);
 }
 
 void FrmContestCall::Form_Resize() {

@@ -6,7 +6,6 @@
 #include "entry/operators.h"
 #include "entry/qso_fields.h"
 #include "frame/settings.h"
-#include "platform.h"
 
 namespace vatro {
 
@@ -72,7 +71,7 @@ void FrmMain::SetToolTips() {
 }
 
 bool FrmMain::HasPlace() {
-    return platform().settings.Read(kSettings, kMainLeftKey).has_value();
+    return IsStored(setting::kMainLeft);
 }
 
 }  // namespace vatro

@@ -13,12 +13,6 @@ namespace vatro {
 
 using namespace literals;
 
-namespace {
-
-constexpr WindowPlace kPlace{"QSO", 0, 0, 1000, 3000};
-
-}  // namespace
-
 FrmQSOnr::FrmQSOnr() : Form("frmQSOnr", FormKind::Tool, "Næste QSO nr"_t), label1(*this, "label1", "", {"Arial", 72, true}) {
     label1.Change = [this] { FitWidth(*this, label1); };
 }
@@ -36,12 +30,12 @@ void FrmQSOnr::visDupe() {
 }
 
 void FrmQSOnr::Form_Load() {
-    RestorePlace(*this, kPlace);
+    RestorePlace(*this, setting::kQsoPlace);
     Form_Resize();
 }
 
 void FrmQSOnr::StoreState() {
-    StorePlace(*this, kPlace);
+    StorePlace(*this, setting::kQsoPlace);
 }
 
 void FrmQSOnr::Form_Resize() {

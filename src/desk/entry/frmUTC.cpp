@@ -25,7 +25,7 @@ FrmUTC::FrmUTC()
     SetTabOrder({&Combo1, &Command2, &Command1});
     Command2.Click = [this] {
         desk().gsUTC = Combo1.Text();
-        StoreText(kSettings, "UTC", desk().gsUTC);
+        StoreSetting(setting::kUtc, desk().gsUTC);
         Hide();
     };
     Command1.Click = [this] { Hide(); };

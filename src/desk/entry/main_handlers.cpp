@@ -97,14 +97,14 @@ void EntryForm::BindFields() {
 }
 
 void EntryForm::Form_Load() {
-    MoveTo(ReadTwips(kMainLeftKey, 1000), ReadTwips("MainTop", 1000));
-    desk().gsBand = ReadText(kSettings, "Band", "80m");
-    desk().gsMode = ReadText(kSettings, "Mode", "SSB");
-    desk().gsQsoMode = ReadText(kSettings, "QsoMode", "SSB");
-    desk().gbAutoTid = static_cast<std::int16_t>(ReadNumber(kSettings, "AutoTid", 1));
-    desk().gbVisLand = ReadFlag(kSettings, "VisLand", true);
-    desk().gsLogLib = ReadText(kSettings, "gsLogLib");
-    desk().gsBackupLib = ReadText(kSettings, "gsBackupLib");
+    MoveTo(ReadSetting(setting::kMainLeft), ReadSetting(setting::kMainTop));
+    desk().gsBand = ReadSetting(setting::kBand);
+    desk().gsMode = ReadSetting(setting::kMode);
+    desk().gsQsoMode = ReadSetting(setting::kQsoMode);
+    desk().gbAutoTid = ReadSetting(setting::kAutoTime);
+    desk().gbVisLand = ReadSetting(setting::kShowCountry);
+    desk().gsLogLib = ReadSetting(setting::kLogDirectory);
+    desk().gsBackupLib = ReadSetting(setting::kBackupDirectory);
     SetCaption("Vatro " + desk().gsMyCall);
     if (desk().gbAutoTid == 1)
         TimerStart();
@@ -167,23 +167,23 @@ void EntryForm::Form_Unload() {
 
 void EntryForm::StoreState() {
     if (State() != WindowState::Minimised) {
-        StoreNumber(kSettings, kMainLeftKey, Left());
-        StoreNumber(kSettings, "MainTop", Top());
+        StoreSetting(setting::kMainLeft, Left());
+        StoreSetting(setting::kMainTop, Top());
     }
-    StoreText(kSettings, "gsKlasse", desk().gsKlasse);
-    StoreText(kSettings, "gsFDlib", desk().gsFDLib);
-    StoreText(kSettings, "gsLoglib", desk().gsLogLib);
-    StoreText(kSettings, "gsBackupLib", desk().gsBackupLib);
-    StoreText(kSettings, "Band", desk().gsBand);
-    StoreText(kSettings, "Mode", desk().gsMode);
-    StoreText(kSettings, "QsoMode", desk().gsQsoMode);
-    StoreNumber(kSettings, "AutoTid", desk().gbAutoTid);
-    StoreFlag(kSettings, "VisLand", desk().gbVisLand);
-    StoreText(kSettings, "MyCall", desk().gsMyCall);
-    StoreText(kSettings, "UTC", desk().gsUTC);
-    StoreText(kSettings, "gsTelefon", desk().gsTelefon);
-    StoreText(kSettings, "LastOP", desk().gsOperatør.Padded());
-    StoreFlag(kSettings, "VisInfo2002", desk().gbVisInfo);
+    StoreSetting(setting::kContestClass, desk().gsKlasse);
+    StoreSetting(setting::kTablesDirectory, desk().gsFDLib);
+    StoreSetting(setting::kLogDirectory, desk().gsLogLib);
+    StoreSetting(setting::kBackupDirectory, desk().gsBackupLib);
+    StoreSetting(setting::kBand, desk().gsBand);
+    StoreSetting(setting::kMode, desk().gsMode);
+    StoreSetting(setting::kQsoMode, desk().gsQsoMode);
+    StoreSetting(setting::kAutoTime, desk().gbAutoTid);
+    StoreSetting(setting::kShowCountry, desk().gbVisLand);
+    StoreSetting(setting::kMyCall, desk().gsMyCall);
+    StoreSetting(setting::kUtc, desk().gsUTC);
+    StoreSetting(setting::kTelephone, desk().gsTelefon);
+    StoreSetting(setting::kLastOperator, desk().gsOperatør.Padded());
+    StoreSetting(setting::kShowInfo, desk().gbVisInfo);
 }
 
 void EntryForm::Text1_Change(int Index) {

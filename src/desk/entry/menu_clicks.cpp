@@ -49,7 +49,7 @@ namespace {
 void SetContestClass(FrmMain& main, std::string_view contestClass) {
     desk().gsKlasse = contestClass;
     ShowContestClass(main);
-    StoreText(kSettings, "gsKlasse", desk().gsKlasse);
+    StoreSetting(setting::kContestClass, desk().gsKlasse);
 }
 
 void ToggleWindow(FrmMain& main, MenuItem& entry, FormSlotBase& window) {

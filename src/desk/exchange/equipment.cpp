@@ -8,25 +8,22 @@ namespace vatro {
 
 namespace {
 
-constexpr std::string_view kSection = "Equipment";
 constexpr int kLength = 15;
 
-std::string BandKey(std::string_view kind, std::size_t band) {
-    return std::string(kind).append(kEquipmentBands[band]);
-}
+static_assert(setting::kRigs.size() == kEquipmentBands.size() && setting::kAntennas.size() == kEquipmentBands.size());
 
 }  // namespace
 
 void HentUdstyr() {
     for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
-        desk().rigs[i] = ReadText(kSection, BandKey("Rig", i));
-        desk().antennas[i] = ReadText(kSection, BandKey("Ant", i));
+        desk().rigs[i] = ReadSetting(setting::kRigs[i]);
+        desk().antennas[i] = ReadSetting(setting::kAntennas[i]);
     }
 }
 
 void GemUdstyr() {
-    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, BandKey("Rig", i), desk().rigs[i]);
-    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, BandKey("Ant", i), desk().antennas[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreSetting(setting::kRigs[i], desk().rigs[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreSetting(setting::kAntennas[i], desk().antennas[i]);
 }
 
 FormRigAnt::FormRigAnt()

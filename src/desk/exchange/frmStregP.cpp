@@ -11,8 +11,6 @@ namespace vatro {
 
 namespace {
 
-constexpr WindowPlace kPlace{"StregP", 2000, 2000, 6000, 6000};
-
 constexpr Field kBasis{1, 15};
 constexpr Field kDividerMark{16, 4};
 constexpr Field kLogged{29, 15};
@@ -43,7 +41,7 @@ FrmStregP::FrmStregP()
 }
 
 void FrmStregP::Form_Load() {
-    RestorePlace(*this, kPlace);
+    RestorePlace(*this, setting::kStregPPlace);
     Show();
     List1.Clear();
     IndlæsLogs();
@@ -54,7 +52,7 @@ void FrmStregP::Form_Load() {
 }
 
 void FrmStregP::StoreState() {
-    StorePlace(*this, kPlace);
+    StorePlace(*this, setting::kStregPPlace);
 }
 
 void FrmStregP::IndlæsLogs() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "frame/settings.h"
 
+#include <optional>
+
 #include "codepage.h"
 #include "forms.h"
 #include "numbers.h"
@@ -10,60 +12,74 @@ namespace vatro {
 
 namespace {
 
-std::string PlaceKey(const WindowPlace& place, std::string_view dimension) {
-    return std::string(place.name).append(dimension);
+template <class Value>
+std::optional<std::string> Stored(const Setting<Value>& row) {
+    return platform().settings.Read(row.section, row.readKey);
+}
+
+template <class Value>
+void Store(const Setting<Value>& row, std::string_view text) {
+    platform().settings.Write(row.section, row.writeKey, text);
 }
 
 }  // namespace
 
-std::string ReadText(std::string_view section, std::string_view key, std::string_view standard) {
-    return platform().settings.Read(section, key).value_or(std::string(standard));
+std::string ReadSetting(const TextSetting& row) {
+    return Stored(row).value_or(std::string(row.fallback));
 }
 
-int ReadNumber(std::string_view section, std::string_view key, int standard) {
-    const auto text = platform().settings.Read(section, key);
-    return text ? ToInt16(ToNumber(*text)) : standard;
+std::int16_t ReadSetting(const ShortSetting& row) {
+    const auto text = Stored(row);
+    return text ? ToInt16(ToNumber(*text)) : row.fallback;
 }
 
-int ReadTwips(std::string_view key, int standard) {
-    const auto text = platform().settings.Read(kSettings, key);
-    return text ? ToInt32(ToNumber(*text)) : standard;
+std::int32_t ReadSetting(const LongSetting& row) {
+    const auto text = Stored(row);
+    return text ? ToInt32(ToNumber(*text)) : row.fallback;
 }
 
-bool ReadFlag(std::string_view section, std::string_view key, bool standard) {
-    const auto text = platform().settings.Read(section, key);
-    if (!text) return standard;
+bool ReadSetting(const FlagSetting& row) {
+    const auto text = Stored(row);
+    if (!text) return row.fallback;
     if (EqualNoCase(*text, "True")) return true;
     if (EqualNoCase(*text, "False")) return false;
     return ToNumber(*text) != 0;
 }
 
-void StoreText(std::string_view section, std::string_view key, std::string_view text) {
-    platform().settings.Write(section, key, text);
+bool IsStored(const LongSetting& row) {
+    return Stored(row).has_value();
 }
 
-void StoreNumber(std::string_view section, std::string_view key, int number) {
-    StoreText(section, key, PlainNumber(number));
+void StoreSetting(const TextSetting& row, std::string_view text) {
+    Store(row, text);
 }
 
-void StoreFlag(std::string_view section, std::string_view key, bool flag) {
-    StoreText(section, key, flag ? "True" : "False");
+void StoreSetting(const ShortSetting& row, std::int16_t number) {
+    Store(row, PlainNumber(number));
 }
 
-void RestorePlace(Form& form, const WindowPlace& place) {
-    const int left = ReadTwips(PlaceKey(place, "Left"), place.left);
-    const int top = ReadTwips(PlaceKey(place, "Top"), place.top);
-    const int width = ReadTwips(PlaceKey(place, "Width"), place.width);
-    const int height = ReadTwips(PlaceKey(place, "Height"), place.height);
+void StoreSetting(const LongSetting& row, std::int32_t number) {
+    Store(row, PlainNumber(number));
+}
+
+void StoreSetting(const FlagSetting& row, bool flag) {
+    Store(row, flag ? "True" : "False");
+}
+
+void RestorePlace(Form& form, const PlaceSetting& place) {
+    const int left = ReadSetting(place.left);
+    const int top = ReadSetting(place.top);
+    const int width = ReadSetting(place.width);
+    const int height = ReadSetting(place.height);
     form.Place(left, top, width, height);
 }
 
-void StorePlace(const Form& form, const WindowPlace& place) {
+void StorePlace(const Form& form, const PlaceSetting& place) {
     if (form.State() == WindowState::Minimised) return;
-    StoreNumber(kSettings, PlaceKey(place, "Left"), form.Left());
-    StoreNumber(kSettings, PlaceKey(place, "Top"), form.Top());
-    StoreNumber(kSettings, PlaceKey(place, "Width"), form.Width());
-    StoreNumber(kSettings, PlaceKey(place, "Height"), form.Height());
+    StoreSetting(place.left, form.Left());
+    StoreSetting(place.top, form.Top());
+    StoreSetting(place.width, form.Width());
+    StoreSetting(place.height, form.Height());
 }
 
 }  // namespace vatro

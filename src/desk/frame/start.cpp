@@ -26,13 +26,13 @@ using namespace literals;
 namespace {
 
 void ReadSettings() {
-    desk().gsUTC = ReadText(kSettings, "UTC", "-2");
-    desk().gsMyCall = ReadText(kSettings, "MyCall");
-    desk().gsFDLib = ReadText(kSettings, "gsFDLib");
-    desk().gsKlasse = ReadText(kSettings, "gsKlasse", "A");
-    desk().gsTelefon = ReadText(kSettings, "gsTelefon", "12345678");
-    desk().gsOperatør = ReadText(kSettings, "LastOP");
-    desk().gbVisInfo = ReadFlag(kSettings, "VisInfo2002", true);
+    desk().gsUTC = ReadSetting(setting::kUtc);
+    desk().gsMyCall = ReadSetting(setting::kMyCall);
+    desk().gsFDLib = ReadSetting(setting::kTablesDirectory);
+    desk().gsKlasse = ReadSetting(setting::kContestClass);
+    desk().gsTelefon = ReadSetting(setting::kTelephone);
+    desk().gsOperatør = ReadSetting(setting::kLastOperator);
+    desk().gbVisInfo = ReadSetting(setting::kShowInfo);
 }
 
 /// As far as it can be done.
@@ -88,7 +88,7 @@ void StartProgram() {
     if (desk().gsFDLib.empty()) {
         desk().gsFDLib = platform().files.CurrentDirectory();
         // Another key than the one read above, which gets the value at a regular end: both are meant.
-        StoreText(kSettings, "FDLib", desk().gsFDLib);
+        StoreSetting(setting::kFirstTablesDirectory, desk().gsFDLib);
     }
 
     frmSplash->ShowStage("Indlæser Lande"_t);

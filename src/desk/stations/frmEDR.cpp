@@ -14,7 +14,6 @@ using namespace literals;
 
 namespace {
 
-constexpr WindowPlace kPlace{"EDR", 2000, 2000, 6000, 6000};
 /// Height of the button, in twips.
 constexpr int kButtonHeight = 495;
 constexpr int kColumns = 4;
@@ -32,12 +31,12 @@ FrmEDR::FrmEDR() : Form("frmEDR", FormKind::Tool, ""), List1(*this, "List1", {},
 }
 
 void FrmEDR::Form_Load() {
-    RestorePlace(*this, kPlace);
+    RestorePlace(*this, setting::kEdrPlace);
     Form_Resize();
 }
 
 void FrmEDR::StoreState() {
-    StorePlace(*this, kPlace);
+    StorePlace(*this, setting::kEdrPlace);
 }
 
 void FrmEDR::Form_Resize() {

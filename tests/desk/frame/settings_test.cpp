@@ -16,51 +16,67 @@ int NumberOf(const std::function<void()>& call) {
     return 0;
 }
 
-class StoredSettings : public RunningProgram {};
+class StoredSettings : public RunningProgram {
+protected:
+    /// What the store has under the key; "none" for a missing one.
+    std::string Stored(std::string_view key) { return settings.Read("Settings", key).value_or("none"); }
+};
 
 TEST_F(StoredSettings, AMissingKeyYieldsTheDefaultAndWritesNothing) {
-    EXPECT_EQ(ReadText("CW", "Tekst9", "x"), "x");
-    EXPECT_EQ(ReadNumber("CW", "WPM", 20), 20);
-    EXPECT_TRUE(ReadFlag("Settings", "VisLand", true));
+    EXPECT_EQ(ReadSetting(setting::kKeyerTexts[1]), "CL?");
+    EXPECT_EQ(ReadSetting(setting::kSpeed), 20);
+    EXPECT_EQ(ReadSetting(setting::kVolume), 10000);
+    EXPECT_TRUE(ReadSetting(setting::kShowCountry));
+    EXPECT_FALSE(IsStored(setting::kMainLeft));
     EXPECT_TRUE(settings.written.empty());
 }
 
-TEST_F(StoredSettings, KeysAreOneWhateverTheirCase) {
-    StoreText("Settings", "gsFDlib", "c:\\vatro");
-    EXPECT_EQ(ReadText("Settings", "gsFDLib"), "c:\\vatro");
-    EXPECT_EQ(ReadText("Settings", "FDLib", "none"), "none");
+TEST_F(StoredSettings, AKeyIsWrittenAsItsRowHasItAndReadWhateverItsCase) {
+    StoreSetting(setting::kTablesDirectory, "c:\\vatro");
+    EXPECT_EQ(settings.written, std::vector<std::string>{"gsFDlib"});
+    EXPECT_EQ(ReadSetting(setting::kTablesDirectory), "c:\\vatro");
+    EXPECT_EQ(Stored("FDLib"), "none");
 }
 
 TEST_F(StoredSettings, AFlagComesBackAsItWasWritten) {
     for (const bool flag : {true, false}) {
-        StoreFlag("Settings", "VisLand", flag);
-        EXPECT_EQ(ReadText("Settings", "VisLand"), flag ? "True" : "False");
-        EXPECT_EQ(ReadFlag("Settings", "VisLand", !flag), flag);
+        StoreSetting(setting::kShowCountry, flag);
+        EXPECT_EQ(Stored("VisLand"), flag ? "True" : "False");
+        EXPECT_EQ(ReadSetting(setting::kShowCountry), flag);
     }
 }
 
 TEST_F(StoredSettings, ANumberIsWrittenAsDecimalDigits) {
-    StoreNumber("Settings", "MainLeft", -120);
-    EXPECT_EQ(ReadText("Settings", "MainLeft"), "-120");
-    EXPECT_EQ(ReadNumber("Settings", "MainLeft", 0), -120);
+    StoreSetting(setting::kMainLeft, -120);
+    EXPECT_EQ(Stored("MainLeft"), "-120");
+    EXPECT_EQ(ReadSetting(setting::kMainLeft), -120);
+    EXPECT_TRUE(IsStored(setting::kMainLeft));
+    StoreSetting(setting::kAutoTime, 0);
+    EXPECT_EQ(Stored("AutoTid"), "0");
 }
 
 TEST_F(StoredSettings, ATextThatIsNoNumberIsAFailure) {
-    StoreText("Settings", "AutoTid", "ja");
-    EXPECT_EQ(NumberOf([] { ReadNumber("Settings", "AutoTid", 1); }), 13);
-    EXPECT_EQ(NumberOf([] { ReadFlag("Settings", "AutoTid", true); }), 13);
-    StoreText("Settings", "AutoTid", "32768");
-    EXPECT_EQ(NumberOf([] { ReadNumber("Settings", "AutoTid", 1); }), 6);
+    settings.Write("Settings", "AutoTid", "ja");
+    EXPECT_EQ(NumberOf([] { ReadSetting(setting::kAutoTime); }), 13);
+    settings.Write("Settings", "VisLand", "ja");
+    EXPECT_EQ(NumberOf([] { ReadSetting(setting::kShowCountry); }), 13);
+}
+
+TEST_F(StoredSettings, ANumberThatIsTooLargeForItsTypeIsAFailure) {
+    settings.Write("Settings", "AutoTid", "32768");
+    EXPECT_EQ(NumberOf([] { ReadSetting(setting::kAutoTime); }), 6);
+    settings.Write("Settings", "MainLeft", "32768");
+    EXPECT_EQ(ReadSetting(setting::kMainLeft), 32768);
 }
 
 TEST_F(StoredSettings, AWindowComesUpWhereItWasClosed) {
     Start();
     frmB4->Place(100, 200, 5000, 4000);
     frmB4.Unload();
-    EXPECT_EQ(ReadText("Settings", "B4Left"), "100");
-    EXPECT_EQ(ReadText("Settings", "B4Top"), "200");
-    EXPECT_EQ(ReadText("Settings", "B4Width"), "5000");
-    EXPECT_EQ(ReadText("Settings", "B4Height"), "4000");
+    EXPECT_EQ(Stored("B4Left"), "100");
+    EXPECT_EQ(Stored("B4Top"), "200");
+    EXPECT_EQ(Stored("B4Width"), "5000");
+    EXPECT_EQ(Stored("B4Height"), "4000");
     EXPECT_EQ(frmB4->Left(), 100);
     EXPECT_EQ(frmB4->Height(), 4000);
 }
@@ -70,7 +86,7 @@ TEST_F(StoredSettings, AMinimisedWindowStoresNoPlace) {
     frmB4->Place(100, 200, 5000, 4000);
     frmB4->UserState(WindowState::Minimised);
     frmB4.Unload();
-    EXPECT_EQ(ReadText("Settings", "B4Left", "none"), "none");
+    EXPECT_EQ(Stored("B4Left"), "none");
 }
 
 }  // namespace
