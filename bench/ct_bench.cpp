@@ -31,9 +31,9 @@ std::vector<std::string> CtLog() {
     std::vector<std::string> lines{"", "", std::string(43, ' ') + "SSB"};
     for (const std::string& line : FirstContacts()) {
         std::string ct = "    05-Sep-26   ";
-        ct.append(kTid.Af(line).substr(0, 2)).append(kTid.Af(line).substr(3)).append("  ");
-        ct.append(kNrSendt.Af(line)).append(std::string(9, ' '));
-        ct.append(kCall.Af(line).substr(0, 12)).append(" ").append(kRstModtaget.Af(line)).append(" ").append(kNrModtaget.Af(line));
+        ct.append(kTime.Of(line).substr(0, 2)).append(kTime.Of(line).substr(3)).append("  ");
+        ct.append(kNumberSent.Of(line)).append(std::string(9, ' '));
+        ct.append(kCall.Of(line).substr(0, 12)).append(" ").append(kReportReceived.Of(line)).append(" ").append(kNumberReceived.Of(line));
         lines.push_back(ct);
     }
     return lines;

@@ -41,7 +41,7 @@ void ChangeBand(benchmark::State& state) {
     const Program program(SampleLog());
     state.SetLabel("vs file into lines, at most 3");
     for (auto _ : state) {
-        SkiftBåndMode(k80m);
+        ChangeBandMode(k80m);
         if (frmMain->List1.ListCount() != kLogLines) return state.SkipWithError("the log was not read");
     }
 }

@@ -14,6 +14,7 @@
 #include "entry/frmMain.h"
 #include "frame/band_mode.h"
 #include "frame/log_file.h"
+#include "frame/state.h"
 #include "frame/station.h"
 #include "log/contact_line.h"
 #include "page.h"
@@ -71,23 +72,23 @@ private:
 std::vector<std::string> FaultlessLog(const std::vector<std::string>& sample, std::string_view mode) {
     std::vector<std::string> log;
     ResetLande();
-    giMult = 0;
+    desk().giMult = 0;
     for (const std::string& line : sample) {
         if (log.size() == kContacts) break;
-        Qso qso;
-        qso.call = kCall.TrimmetAf(line);
-        LandWkd(qso.call, qso.multiplier, Handling::Test);
-        if (giMult == kCountries && !qso.multiplier.empty()) continue;
+        Contact qso;
+        qso.call = kCall.TrimmedOf(line);
+        LandWkd(qso.call, qso.multiplier, MarkAction::Test);
+        if (desk().giMult == kCountries && !qso.multiplier.empty()) continue;
         BeregnPoint(qso.call);
-        LandWkd(qso.call, qso.multiplier, Handling::Op);
-        qso.point = giQSOPoint;
-        qso.tid = kTid.Af(line);
-        qso.rstSendt = qso.rstModtaget = mode == "CW" ? "599" : "59";
-        qso.nrSendt = kNrSendt.Af(line);
-        qso.nrModtaget = kNrModtaget.Af(line);
-        qso.operatør = "OZ1QN";
+        LandWkd(qso.call, qso.multiplier, MarkAction::Mark);
+        qso.point = desk().giQSOPoint;
+        qso.time = kTime.Of(line);
+        qso.reportSent = qso.reportReceived = mode == "CW" ? "599" : "59";
+        qso.numberSent = kNumberSent.Of(line);
+        qso.numberReceived = kNumberReceived.Of(line);
+        qso.operatorCall = "OZ1QN";
         qso.qsoMode = mode;
-        qso.dato = kDato.Af(line);
+        qso.date = kDate.Of(line);
         log.push_back(QsoLine(qso, mode));
     }
     return log;
@@ -99,10 +100,10 @@ public:
     Station() : program_({}), printer_(noPrinter_) {
         static const std::vector<std::string> sample = SampleLog();
         const Platform& had = platform();
-        InstallPlatform({had.front, had.dialogs, had.settings, files, had.clock, had.help, had.instance, had.sound, printer_, had.version});
-        for (const BåndMode& log : kTiLogge) WriteLines(Path(log), FaultlessLog(sample, log.mode));
+        InstallPlatform({had.dialogs, had.settings, files, had.clock, had.help, had.instance, had.sound, printer_, had.version});
+        for (const LogId& log : kTenLogs) WriteLines(Path(log), FaultlessLog(sample, log.mode));
     }
-    static std::string Path(const BåndMode& log) { return LogSti(log.bånd, log.mode); }
+    static std::string Path(const LogId& log) { return LogPath(log.band, log.mode); }
     static void Choose(MenuItem& item) {
         Dispatch([&item] { item.Choose(); });
     }
@@ -125,7 +126,7 @@ std::vector<std::string> Lines(const std::string& path) {
 void ReadTen(benchmark::State& state) {
     const Station station;
     for (auto _ : state) {
-        for (const BåndMode& log : kTiLogge)
+        for (const LogId& log : kTenLogs)
             if (Lines(Station::Path(log)).size() != kContacts) return state.SkipWithError("a log was not read");
     }
 }
@@ -143,15 +144,15 @@ void MakePaper(benchmark::State& state, MenuItem MainMenu::*entry, std::size_t l
 void LookUp(benchmark::State& state) {
     const Station station;
     std::vector<std::vector<std::string>> calls;
-    for (const BåndMode& log : kTiLogge) {
+    for (const LogId& log : kTenLogs) {
         calls.emplace_back();
-        for (const std::string& line : Lines(Station::Path(log))) calls.back().emplace_back(kCall.TrimmetAf(line));
+        for (const std::string& line : Lines(Station::Path(log))) calls.back().emplace_back(kCall.TrimmedOf(line));
     }
     std::string land;
     for (auto _ : state) {
         for (const std::vector<std::string>& log : calls) {
             ResetLande();
-            for (const std::string& call : log) LandWkd(call, land, Handling::Op);
+            for (const std::string& call : log) LandWkd(call, land, MarkAction::Mark);
         }
         benchmark::DoNotOptimize(land.data());
     }
@@ -162,10 +163,10 @@ void ListErrors(benchmark::State& state) {
     state.SetLabel("vs country lookups of ten logs, at most 2");
     for (auto _ : state) Station::Choose(frmMain->mnuFilerDanFejlliste);
     // Of each log its heading and that it is faultless.
-    if (station.files.lines != 2 + 4 * kTiLogge.size()) state.SkipWithError("errors were found");
+    if (station.files.lines != 2 + 4 * kTenLogs.size()) state.SkipWithError("errors were found");
 }
 
-constexpr std::size_t kAll = kContacts * kTiLogge.size();
+constexpr std::size_t kAll = kContacts * kTenLogs.size();
 
 BENCHMARK(ReadTen)->Name("ten files into lines")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(MakePaper, sheets, &MainMenu::mnuEfterAlt, 26, 0)->Name("sheets, check sheet, summary")->Unit(benchmark::kMillisecond);

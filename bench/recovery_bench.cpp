@@ -30,8 +30,8 @@ public:
         WriteTables(workplace_.Path("data"));
         std::vector<std::string> lines = SampleLog();
         lines.resize(kContacts);
-        for (const auto& [band, mode] : kTiLogge) {
-            const std::filesystem::path log = Directory() / LogNavn(band, mode);
+        for (const auto& [band, mode] : kTenLogs) {
+            const std::filesystem::path log = Directory() / LogName(band, mode);
             WriteLines(log, lines);
             const History::Version version = history_.Add(log, History::Keep::ByAge);
             std::filesystem::remove(log);

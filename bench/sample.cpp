@@ -69,18 +69,18 @@ std::vector<std::string> SampleLog() {
     for (int number = 1; number <= kLogLines; ++number) {
         const int minute = number % 1440;
         const auto figures = [](int n) { return TwoFigures(n / 100) + TwoFigures(n); };
-        Qso qso;
-        qso.tid = TwoFigures(minute / 60) + ":" + TwoFigures(minute % 60);
+        Contact qso;
+        qso.time = TwoFigures(minute / 60) + ":" + TwoFigures(minute % 60);
         qso.call = maker.Call();
-        qso.rstSendt = "59";
-        qso.nrSendt = figures((number - 1) % kHighestNumber + 1);
-        qso.rstModtaget = "59";
-        qso.nrModtaget = figures(static_cast<int>(maker.Below(2000)) + 1);
+        qso.reportSent = "59";
+        qso.numberSent = figures((number - 1) % kHighestNumber + 1);
+        qso.reportReceived = "59";
+        qso.numberReceived = figures(static_cast<int>(maker.Below(2000)) + 1);
         qso.point = 3;
         if (number % 80 == 0) qso.multiplier = maker.Prefix();
-        qso.operatør = "OZ1QN";
+        qso.operatorCall = "OZ1QN";
         qso.qsoMode = "SSB";
-        qso.dato = "05-09-26";
+        qso.date = "05-09-26";
         lines.push_back(QsoLine(qso, "SSB"));
     }
     return lines;

@@ -34,10 +34,10 @@
 #include "entry/frmB4.h"
 #include "entry/frmMain.h"
 #include "frame/start.h"
-#include "front.h"
 #include "log/contact_line.h"
 #include "printer.h"
 #include "program.h"
+#include "qt_front.h"
 #include "sample.h"
 #include "sound_card.h"
 #include "started_program.h"
@@ -92,7 +92,7 @@ public:
 
     /// Returns when the log is painted.
     void Start() {
-        InstallPlatform({front_, unattended_, settings_, files_, clock_, unattended_, unattended_, sound_, printer_, Version{}});
+        InstallPlatform(front_, {unattended_, settings_, files_, clock_, unattended_, unattended_, sound_, printer_, Version{}});
         BeginProgram();
         Deliver([] { StartProgram(); });
         if (frmMain->List1.ListCount() != kLogLines) throw std::runtime_error("the log was not read");
@@ -187,7 +187,7 @@ void Keys(benchmark::State& state, QWidget& field, QWidget& list) {
 int Found() {
     const std::vector<std::string> log = SampleLog();
     return static_cast<int>(
-        std::ranges::count_if(log, [](const std::string& line) { return kCall.Af(line).find("1L") != std::string::npos; }));
+        std::ranges::count_if(log, [](const std::string& line) { return kCall.Of(line).find("1L") != std::string::npos; }));
 }
 
 void BareKey(benchmark::State& state) {

@@ -12,6 +12,7 @@
 #include "exchange/ct_import.h"
 #include "frame/log_file.h"
 #include "frame/start.h"
+#include "frame/state.h"
 #include "log/contact_line.h"
 #include "world.h"
 
@@ -26,7 +27,7 @@ bool InItsColumns(std::string_view line) {
     if (line.size() > kLength) return true;
     for (const std::size_t blank : {6U, 22U, 31U, 40U, 43U, 54U, 61U, 65U, 71U})
         if (line[blank - 1] != ' ') return false;
-    return line[25] == '-' && line[34] == '-' && Trim(kOperatør.Af(line)) == "CT-IMP";
+    return line[25] == '-' && line[34] == '-' && Trim(kOperator.Of(line)) == "CT-IMP";
 }
 
 bool Expected(Failure failure) {
@@ -52,16 +53,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!InItsColumns(line)) __builtin_trap();
         file += line + "\r\n";
     }
-    const auto written = texts.find(UpperText(AktuelLogSti()));
+    const auto written = texts.find(UpperText(CurrentLogPath()));
     if (file != (written == texts.end() ? std::string() : written->second)) __builtin_trap();
 
-    const std::int32_t points = glPoint;
+    const std::int32_t points = desk().log.glPoint;
     const int count = frmMain->List1.ListCount();
     const bool whole = file.size() == static_cast<std::size_t>(count) * 81;
     world->files.Close(2);
     IndlæsLogfil();
     // A number that is too long stands where the points are looked for.
-    if (whole && (glPoint != points || frmMain->List1.ListCount() != count)) __builtin_trap();
+    if (whole && (desk().log.glPoint != points || frmMain->List1.ListCount() != count)) __builtin_trap();
     EndProgram();
     return 0;
 }

@@ -13,15 +13,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace vatro;
     constexpr std::size_t kRoom = 20;
     try {
-        std::vector<CtyLand> lande = LæsCtyFil(CtyLinjer({reinterpret_cast<const char*>(data), size}));
-        KontrollerCty(lande);
-        TilpasCty(lande, kRoom);
-        const std::vector<std::string> fitted = SkrivCty(lande);
-        std::vector<CtyLand> again = LæsCtyFil(fitted);
+        std::vector<CtyCountry> lande = ReadCtyFile(CtyLines({reinterpret_cast<const char*>(data), size}));
+        CheckCty(lande);
+        FitCty(lande, kRoom);
+        const std::vector<std::string> fitted = WriteCty(lande);
+        std::vector<CtyCountry> again = ReadCtyFile(fitted);
         std::size_t items = 0;
-        for (const CtyLand& land : again) items += land.poster.size();
-        if (items > kRoom || SkrivCty(again) != fitted) __builtin_trap();
-    } catch (const CtyFejl&) {
+        for (const CtyCountry& land : again) items += land.items.size();
+        if (items > kRoom || WriteCty(again) != fitted) __builtin_trap();
+    } catch (const CtyError&) {
         // Told by the tool.
     }
     return 0;

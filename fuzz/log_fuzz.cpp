@@ -26,9 +26,9 @@ namespace {
 using namespace vatro;
 
 constexpr std::string_view kDashes = "------------";
-constexpr Felt kBasis{1, 15};
-constexpr Felt kBehind{16, 12};
-constexpr Felt kSpelling{29, 15};
+constexpr Field kBasis{1, 15};
+constexpr Field kBehind{16, 12};
+constexpr Field kSpelling{29, 15};
 
 /// The base call as the list holds it, and how it is spelled, of each contact.
 using Spellings = std::map<std::string, std::set<std::string>>;
@@ -36,10 +36,10 @@ using Spellings = std::map<std::string, std::set<std::string>>;
 Spellings SpellingsOf(const std::vector<std::string>& lines) {
     Spellings spellings;
     for (const std::string& line : lines) {
-        if (ErNote(line)) continue;
-        std::string base(kCall.TrimmetAf(line));
+        if (IsNote(line)) continue;
+        std::string base(kCall.TrimmedOf(line));
         StripCall(base);
-        spellings[LeftAligned(base, kBasis.bredde)].insert(LeftAligned(kCall.Af(line), kCall.bredde));
+        spellings[LeftAligned(base, kBasis.latitude)].insert(LeftAligned(kCall.Of(line), kCall.latitude));
     }
     return spellings;
 }
@@ -62,7 +62,7 @@ void CheckSuffixes(const std::vector<std::string>& lines) {
     if (!Plain(spellings)) return;
     std::map<std::string, std::set<std::string>> shown;
     for (const std::string& item : items)
-        if (kBehind.Af(item) != kDashes && item != kDashes) shown[std::string(kBasis.Af(item))].insert(std::string(kSpelling.Af(item)));
+        if (kBehind.Of(item) != kDashes && item != kDashes) shown[std::string(kBasis.Of(item))].insert(std::string(kSpelling.Of(item)));
     for (const auto& [base, ways] : spellings)
         if (ways.size() > 1 && shown[base] != ways) __builtin_trap();
     // The first call may stay though it has one spelling; so may the second, whose dashes stand where the first item was.
@@ -72,7 +72,7 @@ void CheckSuffixes(const std::vector<std::string>& lines) {
     if (alone > 1) __builtin_trap();
 }
 
-std::vector<std::string> Lines(const std::map<std::string, std::string>& texts, const BåndMode& log) {
+std::vector<std::string> Lines(const std::map<std::string, std::string>& texts, const LogId& log) {
     const auto found = texts.find(LogName(log));
     std::vector<std::string> lines;
     for (std::string_view rest = found == texts.end() ? std::string_view() : found->second; !rest.empty();) {
@@ -88,9 +88,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static auto* const world = new RunningWorld;
     auto& texts = world->files.texts;
     FillLogs(texts, {reinterpret_cast<const char*>(data), size});
-    const std::vector<std::string> current = Lines(texts, kTiLogge.back());
+    const std::vector<std::string> current = Lines(texts, kTenLogs.back());
     std::vector<std::string> all;
-    for (const BåndMode& log : kTiLogge) std::ranges::copy(Lines(texts, log), std::back_inserter(all));
+    for (const LogId& log : kTenLogs) std::ranges::copy(Lines(texts, log), std::back_inserter(all));
     BeginProgram();
     Dispatch(StartProgram);
     // A value too large for a counter ends the load with that line.

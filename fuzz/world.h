@@ -102,16 +102,16 @@ inline std::vector<std::string_view> LinesOf(std::string_view text) {
     return lines;
 }
 
-inline std::string LogName(const BåndMode& log) {
-    return UpperText("log\\" + LogNavn(log.bånd, log.mode));
+inline std::string LogName(const LogId& log) {
+    return UpperText("log\\" + LogName(log.band, log.mode));
 }
 
 /// Lines into the ten logs, instead of what is there. The first character of each says which log it stands in.
 inline void FillLogs(std::map<std::string, std::string>& texts, std::string_view input) {
-    for (const BåndMode& log : kTiLogge) texts.erase(LogName(log));
+    for (const LogId& log : kTenLogs) texts.erase(LogName(log));
     for (const std::string_view line : LinesOf(input))
         if (!line.empty())
-            texts[LogName(kTiLogge[static_cast<unsigned char>(line.front()) % kTiLogge.size()])].append(line.substr(1)).append("\r\n");
+            texts[LogName(kTenLogs[static_cast<unsigned char>(line.front()) % kTenLogs.size()])].append(line.substr(1)).append("\r\n");
 }
 
 }  // namespace vatro

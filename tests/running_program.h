@@ -25,6 +25,7 @@
 #include "entry/frmMain.h"
 #include "forms.h"
 #include "frame/start.h"
+#include "front.h"
 #include "page.h"
 #include "platform.h"
 #include "program.h"
@@ -173,7 +174,7 @@ class FakeClock : public Clock {
 public:
     DateTime Now() override { return now; }
     double SecondsSinceMidnight() override { return now.hour * 3600 + now.minute * 60 + now.second + now.millisecond / 1000.0; }
-    void Schedule(Timer& timer) override { static_cast<void>(timer); }
+    void Schedule(Ticker& ticker) override { static_cast<void>(ticker); }
     DateTime now{2026, 9, 5, 15, 0, 0, 0};
 };
 
@@ -196,7 +197,6 @@ public:
         if (pending) pending();
     }
     double TextWidth(std::string_view text, const Font& font) override { return 0.6 * font.size * static_cast<double>(text.size()); }
-    double TextHeight(const Font& font) override { return 1.2 * font.size; }
     void Ended() override { ended = true; }
     bool ended = false;
     /// What happens while the program lets events run.
@@ -306,7 +306,7 @@ protected:
         files.files["DATA\\EDR.TXT"] = {"OZ1ABC Test, formand"};
         files.files["DATA\\OPERATOR.TXT"] = {"OZ1DEF"};
         settings.texts = {{"SETTINGS/GSLOGLIB", "log"}, {"SETTINGS/LASTOP", "OZ1DEF"}, {"SETTINGS/VISINFO2002", "False"}};
-        InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+        InstallPlatform(front, {dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
     }
     ~RunningProgram() override {
         EndProgram();

@@ -21,73 +21,73 @@ namespace {
 
 using namespace vatro;
 
-std::string Læs(const std::string& sti) {
-    std::ifstream fil(PathOfUtf8(sti), std::ios::binary);
+std::string ReadWhole(const std::string& path) {
+    std::ifstream file(PathOfUtf8(path), std::ios::binary);
     try {
-        if (fil) return {std::istreambuf_iterator<char>(fil), {}};
+        if (file) return {std::istreambuf_iterator<char>(file), {}};
     } catch (const std::ios_base::failure&) {
         // As a directory does.
     }
-    throw CtyFejl{sti + " kan ikke læses"};
+    throw CtyError{path + " kan ikke læses"};
 }
 
 /// Writes the file whole or not at all.
-void Skriv(const std::string& sti, const std::vector<std::string>& linjer) {
-    const std::filesystem::path ny = PathOfUtf8(sti + ".ny");
-    std::ofstream fil(ny, std::ios::binary);
-    for (const std::string& linje : linjer) fil << linje << "\r\n";
-    fil.close();
-    std::error_code fejl;
-    if (fil) std::filesystem::rename(ny, PathOfUtf8(sti), fejl);
-    if (fil && !fejl) return;
-    std::filesystem::remove(ny, fejl);
-    throw CtyFejl{sti + " kan ikke skrives"};
+void WriteWhole(const std::string& path, const std::vector<std::string>& lines) {
+    const std::filesystem::path fresh = PathOfUtf8(path + ".ny");
+    std::ofstream file(fresh, std::ios::binary);
+    for (const std::string& line : lines) file << line << "\r\n";
+    file.close();
+    std::error_code error;
+    if (file) std::filesystem::rename(fresh, PathOfUtf8(path), error);
+    if (file && !error) return;
+    std::filesystem::remove(fresh, error);
+    throw CtyError{path + " kan ikke skrives"};
 }
 
-void Fortæl(const char* hvad, const std::vector<std::string>& poster) {
-    if (poster.empty()) return;
-    std::cout << poster.size() << " " << hvad << ":\n ";
-    for (const std::string& post : poster) std::cout << ' ' << ToUtf8(post);
+void Tell(const char* what, const std::vector<std::string>& entries) {
+    if (entries.empty()) return;
+    std::cout << entries.size() << " " << what << ":\n ";
+    for (const std::string& item : entries) std::cout << ' ' << ToUtf8(item);
     std::cout << '\n';
 }
 
 /// Tells what is wrong; whether nothing is.
-bool Kontroller(const std::vector<CtyLand>& lande) {
-    const std::vector<std::string> fejl = KontrollerCty(lande);
-    for (const std::string& linje : fejl) std::cerr << linje << '\n';
-    return fejl.empty();
+bool Check(const std::vector<CtyCountry>& countries) {
+    const std::vector<std::string> error = CheckCty(countries);
+    for (const std::string& line : error) std::cerr << line << '\n';
+    return error.empty();
 }
 
-int Tilpas(std::vector<CtyLand>& lande, const std::string& sti) {
-    const CtyUdeladt ude = TilpasCty(lande);
-    const std::vector<std::string> linjer = SkrivCty(lande);
-    if (!Kontroller(LæsCtyFil(linjer))) return 1;
-    Skriv(sti, linjer);
-    Fortæl("lande med * er udeladt", ude.lande);
-    Fortæl("poster står allerede under et andet land og er udeladt", ude.dubletter);
-    Fortæl("kald er udeladt, fordi programmet aldrig finder dem", ude.uopnåelige);
-    Fortæl("poster er udeladt uden tab", ude.intetTabt);
-    Fortæl("poster er udeladt, kun deres zoner er tabt", ude.zoner);
-    Fortæl("kald er udeladt og hører nu til et andet land eller intet", ude.kald);
+int Fit(std::vector<CtyCountry>& countries, const std::string& path) {
+    const CtyOmissions omissions = FitCty(countries);
+    const std::vector<std::string> lines = WriteCty(countries);
+    if (!Check(ReadCtyFile(lines))) return 1;
+    WriteWhole(path, lines);
+    Tell("lande med * er udeladt", omissions.countries);
+    Tell("poster står allerede under et andet land og er udeladt", omissions.duplicates);
+    Tell("kald er udeladt, fordi programmet aldrig finder dem", omissions.unreachable);
+    Tell("poster er udeladt uden tab", omissions.nothingLost);
+    Tell("poster er udeladt, kun deres zoner er tabt", omissions.zones);
+    Tell("kald er udeladt og hører nu til et andet land eller intet", omissions.lostCalls);
     return 0;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::string> argumenter = CommandLine(argc, argv);
-    if (argumenter.size() != 2 && argumenter.size() != 3) {
+    const std::vector<std::string> arguments = CommandLine(argc, argv);
+    if (arguments.size() != 2 && arguments.size() != 3) {
         std::cerr << "brug: vatro-cty CTY.DAT [NY.DAT]\n";
         return 2;
     }
     try {
-        std::vector<CtyLand> lande = LæsCtyFil(CtyLinjer(Læs(argumenter[1])));
-        if (argumenter.size() == 3) return Tilpas(lande, argumenter[2]);
-        if (!Kontroller(lande)) return 1;
-        std::cout << lande.size() << " lande, filen kan importeres\n";
+        std::vector<CtyCountry> countries = ReadCtyFile(CtyLines(ReadWhole(arguments[1])));
+        if (arguments.size() == 3) return Fit(countries, arguments[2]);
+        if (!Check(countries)) return 1;
+        std::cout << countries.size() << " lande, filen kan importeres\n";
         return 0;
-    } catch (const CtyFejl& fejl) {
-        std::cerr << "vatro-cty: " << fejl.tekst << '\n';
+    } catch (const CtyError& error) {
+        std::cerr << "vatro-cty: " << error.text << '\n';
         return 1;
     }
 }

@@ -23,8 +23,8 @@ std::size_t SharedContacts(const std::vector<std::string_view>& lines, const std
 CopyOwner OwnerOf(const std::vector<std::string_view>& lines, const fs::path& directory) {
     CopyOwner owner;
     std::size_t most = 0;
-    for (const auto& [band, mode] : kTiLogge) {
-        const fs::path log = directory / LogNavn(band, mode);
+    for (const auto& [band, mode] : kTenLogs) {
+        const fs::path log = directory / LogName(band, mode);
         try {
             std::error_code error;
             if (!fs::exists(log, error)) continue;

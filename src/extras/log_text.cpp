@@ -44,7 +44,7 @@ bool IsDigit(char c) {
 }
 
 bool LooksLikeALine(std::string_view line) {
-    if (ErNote(line)) return true;
+    if (IsNote(line)) return true;
     return line.size() > 5 && IsDigit(line[0]) && IsDigit(line[1]) && IsDigit(line[3]) && IsDigit(line[4]);
 }
 
@@ -58,8 +58,8 @@ bool IsDamaged(const Piece& piece) {
 
 /// Time and number sent.
 std::string Key(std::string_view line) {
-    std::string key(kTid.Af(line));
-    key.append("/").append(kNrSendt.Af(line));
+    std::string key(kTime.Of(line));
+    key.append("/").append(kNumberSent.Of(line));
     return key;
 }
 
@@ -131,9 +131,9 @@ bool BeginsAs(const std::vector<std::string_view>& old, const std::vector<std::s
 }
 
 std::string Moment(std::string_view line) {
-    std::string moment(kDato.TrimmetAf(line));
+    std::string moment(kDate.TrimmedOf(line));
     if (!moment.empty()) moment += ' ';
-    return moment.append(kTid.TrimmetAf(line));
+    return moment.append(kTime.TrimmedOf(line));
 }
 
 }  // namespace
@@ -166,7 +166,7 @@ bool IsNoLog(const LogText& text, std::string_view content) {
 }
 
 bool IsContact(std::string_view line) {
-    return !line.empty() && !ErNote(line);
+    return !line.empty() && !IsNote(line);
 }
 
 std::vector<std::string_view> MissingContacts(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
@@ -224,7 +224,7 @@ LogSummary Summarise(const std::vector<std::string_view>& lines) {
         ++summary.contacts;
         summary.last = Moment(line);
         if (summary.contacts == 1) summary.first = summary.last;
-        const double number = NumericValue(kNrSendt.Af(line));
+        const double number = NumericValue(kNumberSent.Of(line));
         if (number > summary.highestNumber && number < 32768) summary.highestNumber = static_cast<int>(number);
     }
     return summary;
@@ -235,8 +235,8 @@ std::size_t UnreadableLine(const std::vector<std::string_view>& lines) {
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (!IsContact(lines[i])) continue;
         try {
-            points = ToInt32(points + NumericValue(kPoint.Af(lines[i])));
-            ToInt16(NumericValue(kNrSendt.Af(lines[i])));
+            points = ToInt32(points + NumericValue(kPoint.Of(lines[i])));
+            ToInt16(NumericValue(kNumberSent.Of(lines[i])));
         } catch (const RunTimeError&) {
             return i + 1;
         }

@@ -67,10 +67,10 @@ public:
 
 private:
     void ReadLogs() {
-        logs_.reserve(kTiLogge.size());
-        for (const auto& [band, mode] : kTiLogge) {
+        logs_.reserve(kTenLogs.size());
+        for (const auto& [band, mode] : kTenLogs) {
             Log log;
-            log.name = LogNavn(band, mode);
+            log.name = LogName(band, mode);
             log.mode = mode;
             log.path = FindPath(places_.logs / log.name).path;
             Read(log);
@@ -213,7 +213,7 @@ private:
     bool IsOld(const LogText& copy) const {
         for (auto line = copy.lines.rbegin(); line != copy.lines.rend(); ++line) {
             if (!IsContact(*line)) continue;
-            const auto date = ParseDate(kDato.Af(*line));
+            const auto date = ParseDate(kDate.Of(*line));
             return date && !IsYoung(*date);
         }
         return false;
@@ -222,7 +222,7 @@ private:
     static std::string_view ModeOf(const LogText& copy) {
         for (const std::string_view line : copy.lines)
             // A report of an SSB log has two figures and a blank.
-            if (IsContact(line)) return kRstSendt.Af(line).ends_with(' ') ? "SSB" : "CW";
+            if (IsContact(line)) return kReportSent.Of(line).ends_with(' ') ? "SSB" : "CW";
         return "SSB";
     }
 

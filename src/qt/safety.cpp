@@ -47,7 +47,7 @@ Safety::~Safety() {
 SafeFiles::Surroundings Safety::Surroundings() {
     SafeFiles::Surroundings surroundings;
     surroundings.now = [this] { return clock_.Now(); };
-    surroundings.tellTaken = [] { VisKørerAllerede(); };
+    surroundings.tellTaken = [] { ShowAlreadyRunning(); };
     surroundings.askSilent = GoOnInASilentDirectory;
     surroundings.directoryWon = [this](const fs::path& directory) { LookThrough(directory); };
     return surroundings;

@@ -7,7 +7,7 @@
 
 #include "deliver.h"
 #include "errors.h"
-#include "front.h"
+#include "qt_front.h"
 #include "sound_player.h"
 
 namespace vatro {

@@ -63,7 +63,7 @@ int PlayFile(const std::string& file, const Options& options, Driver& driver) {
     const Scenario scenario(text);
     const std::optional<World> world =
         options.keep ? std::optional<World>(std::in_place, PathOfUtf8(*options.keep)) : std::optional<World>(std::in_place);
-    NulstilAlt();
+    ResetAll();
     Player player(scenario, *world, driver, StartProgram);
     player.Play();
     const auto& output = player.Outputs();

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "cty/command.h"
+#include "tables/load_tables.h"
 
 namespace vatro {
 namespace {
@@ -104,8 +105,9 @@ protected:
     static std::string Call(const std::string& item) { return item.substr(item.starts_with('=') ? 1 : 0); }
     static std::string Letters(int n) { return {static_cast<char>('A' + n / 26), static_cast<char>('A' + n % 26)}; }
     /// As the program has them at its next start.
-    static void ReadTables() {
-        NulstilTabeller();
+    void ReadTables() const {
+        ResetDesk();
+        desk().gsFDLib = NativeText(root_);
         IndlæsLande();
         IndlæsRefPfx();
     }
@@ -143,8 +145,8 @@ TEST_F(TooBig, LosesWhatIsGivenAnywayAndNoMoreThanItMust) {
     EXPECT_TRUE(after_.contains("=D03ABA"));
 
     EXPECT_EQ(Import("fit.dat"), 0);
-    EXPECT_EQ(giRefPfx, 5999);
-    EXPECT_EQ(giLande, 20);
+    EXPECT_EQ(desk().tables.giRefPfx, 5999);
+    EXPECT_EQ(desk().tables.giLande, 20);
     for (int start = 0; start < 2; ++start, ReadTables()) {
         for (const auto& [item, country] : before_) ASSERT_EQ(CountryOf(Call(item)), country) << item;
         EXPECT_EQ(CountryOf("XC0AC"), "");
@@ -161,7 +163,7 @@ TEST_F(TooBig, ThenLosesZonesAndThenCallsTheShortestFirst) {
     EXPECT_EQ(Kept(), (std::map<std::string, int>{{"own", 20}, {"Y", 5979}}));
 
     EXPECT_EQ(Import("fit.dat"), 0);
-    EXPECT_EQ(giRefPfx, 5999);
+    EXPECT_EQ(desk().tables.giRefPfx, 5999);
     for (int start = 0; start < 2; ++start, ReadTables()) {
         for (const auto& [item, country] : after_) ASSERT_EQ(CountryOf(Call(item)), country) << item;
         EXPECT_EQ(CountryOf("C49AB"), "C4");

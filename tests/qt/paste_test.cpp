@@ -88,7 +88,7 @@ TEST_F(DesktopPaste, IntoANewNumberTakesFiguresByKeyToo) {
         EXPECT_EQ(frmNytQSOnr->Text1.Text(), "942");
         QTest::keyClick(window, Qt::Key_Return);
     };
-    Dispatch([] { NytQSOnr(); });
+    Dispatch([] { ChangeNextNumber(); });
     EXPECT_EQ(frmMain->Text1[3].Text(), "0942");
 }
 

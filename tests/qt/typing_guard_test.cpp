@@ -16,8 +16,8 @@
 #include "entry/frmNytQSOnr.h"
 #include "entry/qso_fields.h"
 #include "field_mark.h"
+#include "frame/state.h"
 #include "keyer/frmCWTX.h"
-#include "keyer/keyer_state.h"
 #include "qt/window_program.h"
 
 namespace vatro {
@@ -110,7 +110,7 @@ TEST_F(SafeTyping, AnEnterHeldDownLogsNothing) {
     Repeat(*frmMain, Qt::Key_Return, QStringLiteral("\r"));
     EXPECT_EQ(Contacts(), 0U);
     Repeat(*frmMain, Qt::Key_Escape, QStringLiteral("\x1b"));
-    EXPECT_EQ(Field(kCallFelt), "DL9XYZ");
+    EXPECT_EQ(Field(kCallField), "DL9XYZ");
 }
 
 // --- Boxes
@@ -217,8 +217,8 @@ TEST_F(SafeBox, TheFlashIsNotTheColourAlone) {
 TEST_F(SafeTyping, TheNextCallIsTypedWhileTheTextPlays) {
     Send();
     Type("dl9xyz 12");
-    EXPECT_EQ(Field(kCallFelt), "DL9XYZ");
-    EXPECT_EQ(Field(kNrModtagetFelt), "12");
+    EXPECT_EQ(Field(kCallField), "DL9XYZ");
+    EXPECT_EQ(Field(kNumberReceivedField), "12");
     EXPECT_TRUE(Playing());
     EXPECT_EQ(frmCWTX->Text1.Text(), "PARIS ");
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
@@ -231,11 +231,11 @@ TEST_F(SafeTyping, TheFieldThatGetsTheKeysIsMarkedWhileTheTextPlays) {
         return mark != nullptr && mark->isVisible() && mark->geometry().contains(WidgetOf<QWidget>(frmMain->Text1[index]).geometry());
     };
     Send();
-    EXPECT_TRUE(marked(kCallFelt));
+    EXPECT_TRUE(marked(kCallField));
     Type("dl9xyz ");
-    EXPECT_TRUE(marked(kNrModtagetFelt));
+    EXPECT_TRUE(marked(kNumberReceivedField));
     Key({.name = "Esc"});
-    EXPECT_FALSE(marked(kNrModtagetFelt));
+    EXPECT_FALSE(marked(kNumberReceivedField));
 }
 
 TEST_F(SafeTyping, EscStopsTheTextAndLeavesTheFields) {
@@ -243,10 +243,10 @@ TEST_F(SafeTyping, EscStopsTheTextAndLeavesTheFields) {
     Type("dl9xyz 12");
     Key({.name = "Esc"});
     EXPECT_FALSE(Playing());
-    EXPECT_EQ(Field(kCallFelt), "DL9XYZ");
+    EXPECT_EQ(Field(kCallField), "DL9XYZ");
     // A second one is for the fields: the operator has stopped the text.
     Key({.name = "Esc"});
-    EXPECT_EQ(Field(kCallFelt), "");
+    EXPECT_EQ(Field(kCallField), "");
 }
 
 TEST_F(SafeTyping, EnterStopsTheTextAndLogsNothing) {
@@ -275,17 +275,17 @@ TEST_F(SafeTyping, EditingKeysReachTheFieldWhileTheTextPlays) {
     Key({.name = "Backspace"});
     Key({.name = "Home"});
     Key({.name = "Delete"});
-    EXPECT_EQ(Field(kCallFelt), "L9XYZ");
+    EXPECT_EQ(Field(kCallField), "L9XYZ");
     Key({.name = "Tab"});
-    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->Text1[kRstSendtFelt]);
+    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->Text1[kReportSentField]);
     Key({.name = {}, .character = 'c', .alt = true});
-    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->Text1[kCallFelt]);
+    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->Text1[kCallField]);
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
 }
 
 TEST_F(SafeTyping, FunctionKeysSendWhileATextPlays) {
     Send();
-    keyerState().CWTekster[1] = "EE";
+    desk().cw.CWTekster[1] = "EE";
     Key({.name = "F6"});
     EXPECT_EQ(frmCWTX->Text1.Text(), "EE ");
     EXPECT_TRUE(Playing());
@@ -303,11 +303,11 @@ TEST_F(SafeTyping, KeysOnTheirWayToTheMainWindowAreSharedOutAlike) {
     Send();
     QWindow* main = WindowOf(*frmMain).Top()->windowHandle();
     QTest::keyClick(main, Qt::Key_D);
-    EXPECT_EQ(Field(kCallFelt), "D");
+    EXPECT_EQ(Field(kCallField), "D");
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
     QTest::keyClick(main, Qt::Key_Escape);
     EXPECT_FALSE(Playing());
-    EXPECT_EQ(Field(kCallFelt), "D");
+    EXPECT_EQ(Field(kCallField), "D");
 }
 
 TEST_F(SafeTyping, EscRightBehindTheEndOfATextStillMeansTheText) {
@@ -316,9 +316,9 @@ TEST_F(SafeTyping, EscRightBehindTheEndOfATextStillMeansTheText) {
     PlayToTheEnd();
     moment += 400ms;
     Key({.name = "Esc"});
-    EXPECT_EQ(Field(kCallFelt), "DL9XYZ");
+    EXPECT_EQ(Field(kCallField), "DL9XYZ");
     Key({.name = "Esc"});
-    EXPECT_EQ(Field(kCallFelt), "");
+    EXPECT_EQ(Field(kCallField), "");
 }
 
 TEST_F(SafeTyping, EnterRightBehindTheEndOfATextStillMeansTheText) {
@@ -337,7 +337,7 @@ TEST_F(SafeTyping, EscLongerBehindTheEndWipesTheFields) {
     PlayToTheEnd();
     moment += 401ms;
     Key({.name = "Esc"});
-    EXPECT_EQ(Field(kCallFelt), "");
+    EXPECT_EQ(Field(kCallField), "");
 }
 
 TEST_F(SafeTyping, AKeyBehindTheEndGivesEnterToTheFields) {
@@ -352,7 +352,7 @@ TEST_F(SafeTyping, AKeyBehindTheEndGivesEnterToTheFields) {
 TEST_F(SafeTyping, EnterMeansTheFieldsIfTheMainWindowHadTheKeys) {
     Send();
     Type("dl9xyz 12");
-    driver.Focus(frmMain->Text1[kCallFelt]);
+    driver.Focus(frmMain->Text1[kCallField]);
     driver.Settle();
     ASSERT_EQ(ActiveForm(), frmMain.Peek());
     PlayToTheEnd();

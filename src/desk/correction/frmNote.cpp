@@ -3,14 +3,15 @@
 
 #include "entry/frmMain.h"
 #include "frame/log_file.h"
+#include "frame/state.h"
 #include "log/contact_line.h"
 
 namespace vatro {
 
 namespace {
 
-std::string NoteLinje() {
-    return std::string(kNoteMærke) + frmNote->Text1.Text();
+std::string NoteLine() {
+    return std::string(kNoteMark) + frmNote->Text1.Text();
 }
 
 }  // namespace
@@ -20,8 +21,8 @@ FrmNote::FrmNote()
       Text1(*this, "Text1"),
       Command1(*this, "Command1", "&OK"),
       Command2(*this, "Command2", "&Annuller") {
-    constexpr int kLængde = 80;
-    Text1.SetMaxLength(kLængde);
+    constexpr int kLength = 80;
+    Text1.SetMaxLength(kLength);
     Command1.isDefault = true;
     Command2.isCancel = true;
     SetTabOrder({&Text1, &Command1, &Command2});
@@ -32,19 +33,19 @@ FrmNote::FrmNote()
     };
 }
 
-void IndsætNote() {
+void InsertNote() {
     frmNote->Text1.SelectAll();
     frmNote->ShowModal();
     if (frmNote->Text1.Text().empty()) return;
-    LogLinje(NoteLinje());
+    LogLine(NoteLine());
 }
 
-void RetNote() {
-    ListBox& log = frmMain->List1;
-    frmNote->Text1.SetText(Columns(log.List(log.ListIndex()), kNoteMærke.size() + 1));
+void CorrectNote() {
+    const ListBox& list = frmMain->List1;
+    frmNote->Text1.SetText(Columns(list.List(list.ListIndex()), kNoteMark.size() + 1));
     frmNote->ShowModal();
     if (!frmNote->Text1.Text().empty()) {
-        log.SetList(log.ListIndex(), NoteLinje());
+        desk().log.Replace(static_cast<std::size_t>(list.ListIndex()), NoteLine());
         SkrivLog();
     }
     frmMain->Text1[1].SetFocus();

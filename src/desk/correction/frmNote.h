@@ -21,8 +21,8 @@ public:
 inline FormSlot<FrmNote> frmNote{"frmNote"};
 
 /// Asks for a note and appends it to the log. The text of the last one stands in the window, selected.
-void IndsætNote();
+void InsertNote();
 /// Asks for another wording of the note that is selected in the log.
-void RetNote();
+void CorrectNote();
 
 }  // namespace vatro

@@ -1,37 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "correction/frmRetQSO.h"
+#include "frame/state.h"
+
+#include <algorithm>
+#include <span>
 
 #include "call/call_analysis.h"
-#include "checks/field_checks.h"
 #include "correction/frmNote.h"
-#include "country/lookup.h"
 #include "datetime.h"
+#include "entry/field_questions.h"
 #include "entry/frmMain.h"
 #include "entry/frmQSOnr.h"
 #include "entry/operators.h"
 #include "entry/qso_fields.h"
-#include "frame/band_mode.h"
 #include "frame/log_file.h"
 #include "frame/station.h"
 #include "log/contact_line.h"
 #include "log/duplicates.h"
 #include "numbers.h"
 #include "platform.h"
-#include "score/points.h"
-#include "score/stations.h"
 #include "tables/unknown.h"
+#include "tables/worked.h"
 
 namespace vatro {
-
-namespace {
-
-std::string MultiplierTest(std::string_view call) {
-    std::string multiplier;
-    LandWkd(call, multiplier, Handling::Test);
-    return multiplier;
-}
-
-}  // namespace
 
 FrmRetQSO::FrmRetQSO()
     : Form("frmRetQSO", FormKind::Dialog, "Ret QSO"),
@@ -46,10 +37,10 @@ FrmRetQSO::FrmRetQSO()
       Command2(*this, "Command2", "&Annuller"),
       cmdBeregn(*this, "cmdBeregn", "&Beregn point"),
       sbStatusBar(*this, "sbStatusBar", {""}),
-      Label1{{*this, "Label1", 0, "&UTC:", &Text1[kUtcFelt]},
-             {*this, "Label1", 1, "&Call:", &Text1[kCallFelt]},
-             {*this, "Label1", 2, "&RST Sendt:", &Text1[kRstSendtFelt]},
-             {*this, "Label1", 3, "RST &modtaget:", &Text1[kRstModtagetFelt]},
+      Label1{{*this, "Label1", 0, "&UTC:", &Text1[kUtcField]},
+             {*this, "Label1", 1, "&Call:", &Text1[kCallField]},
+             {*this, "Label1", 2, "&RST Sendt:", &Text1[kReportSentField]},
+             {*this, "Label1", 3, "RST &modtaget:", &Text1[kReportReceivedField]},
              {*this, "Label1", 4, "&Point:", &Combo2},
              {*this, "Label1", 5, "Multiplier:"},
              {*this, "Label1", 6, "&Operatør Call:"_t, &Combo1},
@@ -57,71 +48,62 @@ FrmRetQSO::FrmRetQSO()
              {*this, "Label1", 8, "&Dato:", &txtDato}} {
     SetTabOrder({&Text1[0], &Text1[1], &Text1[2], &Text1[3], &Text1[4], &Text1[5], &Combo2, &Text3, &Combo1, &Check1, &cboMode, &txtDato,
                  &Command1, &Command2, &cmdBeregn});
-    SætFeltlængder(Text1);
-    for (int i = kUtcFelt; i <= kNrModtagetFelt; ++i) {
-        Text1[i].KeyPress = [this, i](KeyCode& key) { FeltTast(Text1, i, key, [this] { Command1_Click(); }); };
-        Text1[i].KeyFilter = [i](KeyCode& key) { FeltFilter(i, key); };
+    SetFieldLengths(Text1);
+    for (int i = kUtcField; i <= kNumberReceivedField; ++i) {
+        Text1[i].KeyPress = [this, i](KeyCode& key) { HandleFieldKey(Text1, i, key, [this] { Command1_Click(); }); };
+        Text1[i].KeyFilter = [i](KeyCode& key) { FilterFieldKey(i, key); };
     }
-    Text1[kCallFelt].GotFocus = [this] {
+    Text1[kCallField].GotFocus = [this] {
         sbStatusBar.SetPanel(1, "Hop ud af feltet for at få beregnet point automatisk inden du trykker på 'Log'"_t);
     };
-    Text1[kCallFelt].LostFocus = [this] { Text1_LostFocus(); };
+    Text1[kCallField].LostFocus = [this] { Text1_LostFocus(); };
     Text3.SetLocked(true);
     for (const std::string_view point : {"0", "1", "3", "5", "6", "10"}) Combo2.AddItem(std::string(point));
     Combo1.KeyPress = [this](KeyCode& key) { OperatørTast(Combo1, key); };
-    Combo1.KeyFilter = [this](KeyCode& key) { OperatørFilter(Combo1, key); };
+    Combo1.KeyFilter = [this](KeyCode& key) { OperatorFilter(Combo1, key); };
     Combo1.LostFocus = [this] { OperatørTjek(Combo1, false); };
     Command1.Click = [this] { Command1_Click(); };
     Command2.Click = [this] { Unload(); };
-    cmdBeregn.Click = [this] { Beregn(); };
+    cmdBeregn.Click = [this] { Calculate(); };
 }
 
-void FrmRetQSO::Udfyld(std::string_view linje) {
+void FrmRetQSO::Fill(std::string_view line) {
     LæsOperatører(Combo1, {});
-    std::string tid(linje.substr(0, 2));
-    tid.append(":").append(Columns(linje, 4, 2));
-    const auto klokken = ParseTime(tid);
-    Text1[kUtcFelt].SetText(klokken ? FormatTime(klokken->hour, klokken->minute) : tid);
-    Text1[kCallFelt].SetText(kCall.TrimmetAf(linje));
-    Text1[kRstSendtFelt].SetText(kRstSendt.TrimmetAf(linje));
-    Text1[kNrSendtFelt].SetText(kNrSendt.TrimmetAf(linje));
-    Text1[kRstModtagetFelt].SetText(kRstModtaget.TrimmetAf(linje));
-    Text1[kNrModtagetFelt].SetText(kNrModtaget.TrimmetAf(linje));
-    Combo2.SetText(kPoint.TrimmetAf(linje));
-    Text3.SetText(kMultiplier.TrimmetAf(linje));
-    Combo2.SetEnabled(Text3.Text() != kDupeMærke);
-    Combo1.SetText(kOperatørLæst.TrimmetAf(linje));
-    Check1.SetValue(kQsl.TrimmetAf(linje) == "QSL");
+    std::string time(line.substr(0, 2));
+    time.append(":").append(Columns(line, 4, 2));
+    const auto timeOfDay = ParseTime(time);
+    Text1[kUtcField].SetText(timeOfDay ? FormatTime(timeOfDay->hour, timeOfDay->minute) : time);
+    Text1[kCallField].SetText(kCall.TrimmedOf(line));
+    Text1[kReportSentField].SetText(kReportSent.TrimmedOf(line));
+    Text1[kNumberSentField].SetText(kNumberSent.TrimmedOf(line));
+    Text1[kReportReceivedField].SetText(kReportReceived.TrimmedOf(line));
+    Text1[kNumberReceivedField].SetText(kNumberReceived.TrimmedOf(line));
+    Combo2.SetText(kPoint.TrimmedOf(line));
+    Text3.SetText(kMultiplier.TrimmedOf(line));
+    Combo2.SetEnabled(Text3.Text() != kDupeMark);
+    Combo1.SetText(kOperatorAsRead.TrimmedOf(line));
+    Check1.SetValue(kQsl.TrimmedOf(line) == "QSL");
 
     // Lines of earlier years end before mode and date. A contact can change between the modes of its log only.
-    std::string mode(kQsoMode.TrimmetAf(linje));
-    if (mode.empty()) mode = gsQsoMode;
+    std::string mode(kQsoMode.TrimmedOf(line));
+    if (mode.empty()) mode = desk().gsQsoMode;
     cboMode.Clear();
     if (mode == "SSB") {
         cboMode.AddItem(mode);
         cboMode.SetListIndex(0);
     } else {
-        for (const std::string_view navn : {"CW", "PSK31", "RTTY", "HELL"}) {
-            cboMode.AddItem(std::string(navn));
-            if (navn == mode) cboMode.SetListIndex(cboMode.ListCount() - 1);
+        for (const std::string_view name : {"CW", "PSK31", "RTTY", "HELL"}) {
+            cboMode.AddItem(std::string(name));
+            if (name == mode) cboMode.SetListIndex(cboMode.ListCount() - 1);
         }
     }
-    txtDato.SetText(kDato.Af(linje).empty() ? FormatDate(NuUTC()) : std::string(kDato.Af(linje)));
+    txtDato.SetText(kDate.Of(line).empty() ? FormatDate(UtcNow()) : std::string(kDate.Of(line)));
 }
 
-void FrmRetQSO::CheckDupQSO() {
-    gbDupe = false;
-    std::string s;
-    for (int i = 0; i < frmMain->List1.ListIndex(); ++i) {
-        // The call of the line before, not this line: see the header.
-        if (s.starts_with(kNoteMærke)) continue;
-        s = kCall.TrimmetAf(frmMain->List1.List(i));
-        StripCall(s);
-        if (s == gsCall) {
-            gbDupe = true;
-            return;
-        }
-    }
+void FrmRetQSO::NoteDuplicateAbove() {
+    const std::span<const std::string> lines = desk().log.Lines();
+    const auto above = static_cast<std::size_t>(std::max(frmMain->List1.ListIndex(), 0));
+    desk().gbDupe = CheckDupQSO(lines.first(std::min(above, lines.size())), desk().gsCall);
 }
 
 void FrmRetQSO::StoreState() {
@@ -130,140 +112,132 @@ void FrmRetQSO::StoreState() {
 
 void FrmRetQSO::Text1_LostFocus() {
     sbStatusBar.SetPanel(1, {});
-    gsCall = Text1[kCallFelt].Text();
-    StripCall(gsCall);
-    if (!TjekKaldesignal(gsCall)) return Text1[kCallFelt].SetFocus();
-    Beregn();
-    if (gbDupe)
+    desk().gsCall = StripCall(Text1[kCallField].Text());
+    if (!Accepted(CheckCall(desk().gsCall))) return Text1[kCallField].SetFocus();
+    Calculate();
+    if (desk().gbDupe)
         frmQSOnr->visDupe();
     else
         frmQSOnr->visQSOnr();
 }
 
-void FrmRetQSO::Beregn() {
-    const std::string call = Text1[kCallFelt].Text();
+void FrmRetQSO::Calculate() {
+    const std::string call = Text1[kCallField].Text();
     if (call.empty()) return;
-    gsCall = call;
-    StripCall(gsCall);
-    CheckDupQSO();
-    BeregnPoint(call);
-    std::string tekst;
-    LandStatusTekst(call, tekst);
-    sbStatusBar.SetPanel(1, tekst);
-    VisBeregnet(MultiplierTest(call));
+    desk().gsCall = StripCall(call);
+    NoteDuplicateAbove();
+    NotePoints(call);
+    sbStatusBar.SetPanel(1, ShownCountry(call).text);
+    ShowCalculated(NoteCountry(call, MarkAction::Test));
 }
 
-void FrmRetQSO::VisBeregnet(std::string_view multiplier) {
-    if (gbDupe) return VisDupe();
+void FrmRetQSO::ShowCalculated(std::string_view multiplier) {
+    if (desk().gbDupe) return ShowDuplicate();
     Text3.SetText(multiplier);
-    Combo2.SetText(PlainNumber(giQSOPoint));
+    Combo2.SetText(PlainNumber(desk().giQSOPoint));
     Combo2.SetEnabled(true);
 }
 
-void FrmRetQSO::VisDupe() {
-    Text3.SetText(kDupeMærke);
+void FrmRetQSO::ShowDuplicate() {
+    Text3.SetText(kDupeMark);
     Combo2.SetListIndex(0);
     Combo2.SetEnabled(false);
 }
 
-bool FrmRetQSO::TjekDato() {
+bool FrmRetQSO::CheckDate() {
     if (txtDato.Text().size() == 8) {
-        const std::string tekst = txtDato.Text();
-        txtDato.SetText(tekst.substr(0, 2) + "-" + tekst.substr(3, 2) + "-" + tekst.substr(6, 2));
+        const std::string text = txtDato.Text();
+        txtDato.SetText(text.substr(0, 2) + "-" + text.substr(3, 2) + "-" + text.substr(6, 2));
         if (ParseDate(txtDato.Text())) return true;
     }
-    MsgBox("Indtast dato i formatet: " + FormatDate(NuUTC()));
+    MsgBox("Indtast dato i formatet: " + FormatDate(UtcNow()));
     return false;
 }
 
 void FrmRetQSO::Command1_Click() {
-    if (!TjekOperatør(Combo1.Text())) return Combo1.SetFocus();
-    if (!TjekDato()) return txtDato.SetFocus();
-    std::string tid;
-    if (!TjekTid(Text1[kUtcFelt], tid)) return Text1[kUtcFelt].SetFocus();
-    gsCall = Text1[kCallFelt].Text();
-    StripCall(gsCall);
-    if (!TjekKaldesignal(gsCall)) return Text1[kCallFelt].SetFocus();
-    CheckDupQSO();
-    if (gbDupe) {
-        Text3.SetText(kDupeMærke);
+    if (!Accepted(CheckOperator(Combo1.Text()))) return Combo1.SetFocus();
+    if (!CheckDate()) return txtDato.SetFocus();
+    const auto time = AcceptedTime(Text1[kUtcField]);
+    if (!time) return Text1[kUtcField].SetFocus();
+    desk().gsCall = StripCall(Text1[kCallField].Text());
+    if (!Accepted(CheckCall(desk().gsCall))) return Text1[kCallField].SetFocus();
+    NoteDuplicateAbove();
+    if (desk().gbDupe) {
+        Text3.SetText(kDupeMark);
         Combo2.SetListIndex(0);
     }
-    if (const int felt = TjekRapporter(Text1); felt >= 0) return Text1[felt].SetFocus();
-    Log(tid);
+    if (const auto field = FieldAtFault(Text1)) return Text1[*field].SetFocus();
+    LogCorrection(*time);
 }
 
-void FrmRetQSO::Log(const std::string& tid) {
-    const std::string call = Text1[kCallFelt].Text();
+void FrmRetQSO::LogCorrection(const std::string& time) {
+    const std::string call = Text1[kCallField].Text();
     // As it counts now; what Text3 shows is not used.
-    Qso qso;
-    LandWkd(call, qso.multiplier, Handling::Op);
-    EDRstnWkd(gsCall, Handling::Op);
-    BeregnPoint(call);
+    Contact contact;
+    contact.multiplier = NoteCountry(call, MarkAction::Mark);
+    NoteStation(desk().gsCall, MarkAction::Mark);
+    // Six characters are what the station was looked up by, and what the variable shows from now on.
+    desk().gsCall = StationCall(desk().gsCall);
+    NotePoints(call);
     const double point = NumericValue(Combo2.Text());
-    if (point != giQSOPoint) {
-        MessageBox spørgsmål;
-        spørgsmål.text = "Er " + Combo2.Text() + " point korrekt?";
-        spørgsmål.title = "Point";
-        spørgsmål.buttons = Buttons::YesNo;
-        if (MsgBox(spørgsmål) == Answer::No) {
-            // The marks just set stay set: a second "&Log" then finds the country marked. Meant so.
+    if (point != desk().giQSOPoint) {
+        MessageBox question;
+        question.text = "Er " + Combo2.Text() + " point korrekt?";
+        question.title = "Point";
+        question.buttons = Buttons::YesNo;
+        if (MsgBox(question) == Answer::No) {
+            // The marks just set stay set: a second "&Log" then finds the country marked, and the corrected line has no multiplier
+            // until the log is checked. Logs corrected that way are in the archives of many stations.
             if (Combo2.Enabled()) Combo2.SetFocus();
             return;
         }
     }
-    giQSOPoint = ToInt32(point);
-    qso.tid = tid;
-    qso.call = call;
-    qso.rstSendt = Text1[kRstSendtFelt].Text();
-    qso.nrSendt = Text1[kNrSendtFelt].Text();
-    qso.rstModtaget = Text1[kRstModtagetFelt].Text();
-    qso.nrModtaget = Text1[kNrModtagetFelt].Text();
-    qso.point = giQSOPoint;
-    if (gbDupe) qso.multiplier = kDupeMærke;
-    qso.operatør = Trim(Combo1.Text());
-    qso.qsl = Check1.Value();
-    qso.qsoMode = cboMode.Text();
-    qso.dato = txtDato.Text();
-    const std::string linje = QsoLine(qso, gsMode);
+    desk().giQSOPoint = ToInt32(point);
+    contact.time = time;
+    contact.call = call;
+    contact.reportSent = Text1[kReportSentField].Text();
+    contact.numberSent = Text1[kNumberSentField].Text();
+    contact.reportReceived = Text1[kReportReceivedField].Text();
+    contact.numberReceived = Text1[kNumberReceivedField].Text();
+    contact.point = desk().giQSOPoint;
+    if (desk().gbDupe) contact.multiplier = kDupeMark;
+    contact.operatorCall = Trim(Combo1.Text());
+    contact.qsl = Check1.Value();
+    contact.qsoMode = cboMode.Text();
+    contact.date = txtDato.Text();
+    const std::string line = QsoLine(contact, desk().gsMode);
 
-    std::string status;
-    LandStatusTekst(call, status);
-    if (ErUkendt(status)) GemUkendt(linje);
-    frmMain->List1.SetList(frmMain->List1.ListIndex(), linje);
-    glPoint = ToInt32(static_cast<double>(glPoint) + giQSOPoint);
-    VisStilling();
+    if (ShownCountry(call).unknown) GemUkendt(line);
+    desk().log.Replace(static_cast<std::size_t>(frmMain->List1.ListIndex()), line);
+    desk().log.AddPoints(desk().giQSOPoint);
+    ShowScore();
     Unload();
 }
 
 namespace {
 
 /// Takes a contact out of points and marks before it is corrected.
-void TrækTilbage(FrmRetQSO& form) {
-    std::string call = form.Text1[kCallFelt].Text();
-    if (!call.empty() && !form.Text3.Text().empty() && form.Text3.Text() != kDupeMærke) {
-        std::string multiplier;
-        LandWkd(call, multiplier, Handling::Ned);
-    }
-    StripCall(call);
-    EDRstnWkd(call, Handling::Ned);
-    glPoint = ToInt32(glPoint - NumericValue(form.Combo2.Text()));
+void Withdraw(FrmRetQSO& form) {
+    const std::string& call = form.Text1[kCallField].Text();
+    if (!call.empty() && !form.Text3.Text().empty() && form.Text3.Text() != kDupeMark) NoteCountry(call, MarkAction::Unmark);
+    NoteStation(StripCall(call), MarkAction::Unmark);
+    desk().log.AddPoints(-NumericValue(form.Combo2.Text()));
 }
 
 }  // namespace
 
-void RetLinje() {
-    ListBox& log = frmMain->List1;
-    if (log.ListCount() == 0 || log.ListIndex() < 0) return;
-    const std::string linje = log.List(log.ListIndex());
-    if (linje.starts_with(kNoteMærke)) return RetNote();
-    frmRetQSO->Udfyld(linje);
-    TrækTilbage(*frmRetQSO);
+void CorrectLine() {
+    const ListBox& list = frmMain->List1;
+    if (list.ListCount() == 0 || list.ListIndex() < 0) return;
+    const std::string line = list.List(list.ListIndex());
+    if (line.starts_with(kNoteMark)) return CorrectNote();
+    frmRetQSO->Fill(line);
+    Withdraw(*frmRetQSO);
     frmRetQSO->ShowModal();
     // Whatever way the window was closed.
-    LæsOperatører(frmMain->Combo1, gsOperatør.Padded());
+    LæsOperatører(frmMain->Combo1, desk().gsOperatør.Padded());
     SkrivLog();
-    frmMain->Text1[kCallFelt].SetFocus();
+    frmMain->Text1[kCallField].SetFocus();
 }
 
 }  // namespace vatro

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/clock.h"
+#include "frame/state.h"
 
 #include "entry/frmMain.h"
 #include "frame/station.h"
@@ -7,20 +8,18 @@
 
 namespace vatro {
 
-std::int16_t gbAutoTid = 0;
-
 namespace {
 
-constexpr int kMinut = 60000;
+constexpr int kMinute = 60000;
 /// After the full minute, so that the tick never shows the minute that has just gone.
-constexpr int kEfterMinutskift = 100;
+constexpr int kAfterMinute = 100;
 
 }  // namespace
 
 void TimerStart() {
-    const DateTime nu = platform().clock.Now();
-    const double sekunder = platform().clock.SecondsSinceMidnight() - nu.hour * 3600 - nu.minute * 60;
-    frmMain->Timer1.SetInterval(static_cast<int>((60 - sekunder) * 1000) + kEfterMinutskift);
+    const DateTime now = platform().clock.Now();
+    const double seconds = platform().clock.SecondsSinceMidnight() - now.hour * 3600 - now.minute * 60;
+    frmMain->Timer1.SetInterval(static_cast<int>((60 - seconds) * 1000) + kAfterMinute);
     frmMain->Timer1.SetRunning(true);
     frmMain->mnuIndstillingerKlokken.SetTicked(true);
 }
@@ -31,17 +30,17 @@ void TimerStop() {
 }
 
 void TimerTick() {
-    if (frmMain->Timer1.Interval() != kMinut) frmMain->Timer1.SetInterval(kMinut);
-    frmMain->Text1[0].SetText(NuUTCTid());
+    if (frmMain->Timer1.Interval() != kMinute) frmMain->Timer1.SetInterval(kMinute);
+    frmMain->Text1[0].SetText(UtcTimeText());
 }
 
-void SkiftAutoTid() {
+void ToggleAutoTime() {
     if (frmMain->mnuIndstillingerKlokken.Ticked()) {
         TimerStop();
-        gbAutoTid = 0;
+        desk().gbAutoTid = 0;
     } else {
         TimerStart();
-        gbAutoTid = 1;
+        desk().gbAutoTid = 1;
     }
 }
 

@@ -7,25 +7,25 @@ namespace vatro {
 
 namespace {
 
-constexpr double kTwipsPrPunkt = 20;
+constexpr double kTwipsPerPoint = 20;
 /// Twips of window for each point of text: a point has 20, and the text gets a margin of 2.5 per cent.
-constexpr double kTwipsPrTekstpunkt = 20.5;
+constexpr double kTwipsPerTextPoint = 20.5;
 
 }  // namespace
 
-void TilpasTekst(Form& form, Label& label) {
-    label.SetFontSize(form.ScaleHeight() / kTwipsPrPunkt);
-    TilpasBredde(form, label);
+void FitText(Form& form, Label& label) {
+    label.SetFontSize(form.ScaleHeight() / kTwipsPerPoint);
+    FitWidth(form, label);
 }
 
-void TilpasBredde(Form& form, const Label& label) {
-    form.SetWidth(static_cast<int>(std::lround(label.TextWidth() * kTwipsPrTekstpunkt)));
+void FitWidth(Form& form, const Label& label) {
+    form.SetWidth(static_cast<int>(std::lround(label.TextWidth() * kTwipsPerTextPoint)));
 }
 
-void VisNormal(Label& label, std::string_view tekst) {
+void ShowNormal(Label& label, std::string_view text) {
     label.SetOpaque(false);
     label.SetForeColour(kBlack);
-    label.SetCaption(tekst);
+    label.SetCaption(text);
 }
 
 }  // namespace vatro

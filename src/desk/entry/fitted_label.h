@@ -8,10 +8,10 @@
 namespace vatro {
 
 /// The label's font becomes as many points high as the room of the window, and the window a little wider than its text.
-void TilpasTekst(Form& form, Label& label);
+void FitText(Form& form, Label& label);
 /// The text has changed: the window follows it in width.
-void TilpasBredde(Form& form, const Label& label);
+void FitWidth(Form& form, const Label& label);
 /// Black on the window's own ground.
-void VisNormal(Label& label, std::string_view tekst);
+void ShowNormal(Label& label, std::string_view text);
 
 }  // namespace vatro

@@ -7,7 +7,7 @@ namespace vatro {
 
 namespace {
 
-constexpr Vinduesplads kPlads{"B4", 2000, 2000, 6000, 6000};
+constexpr WindowPlace kPlace{"B4", 2000, 2000, 6000, 6000};
 
 }  // namespace
 
@@ -17,12 +17,18 @@ FrmB4::FrmB4()
     SetTabOrder({&List1});
 }
 
+void FrmB4::ShowContacts(std::vector<std::string> contacts) {
+    const ListBox::Filling filling(List1);
+    List1.Clear();
+    for (std::string& contact : contacts) List1.AddItem(std::move(contact));
+}
+
 void FrmB4::Form_Load() {
-    HentPlads(*this, kPlads);
+    RestorePlace(*this, kPlace);
 }
 
 void FrmB4::StoreState() {
-    GemPlads(*this, kPlads);
+    StorePlace(*this, kPlace);
 }
 
 }  // namespace vatro

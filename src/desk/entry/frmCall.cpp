@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/frmCall.h"
+#include "frame/state.h"
 
 #include "entry/frmContestCall.h"
 #include "entry/frmMain.h"
@@ -22,42 +23,42 @@ FrmCall::FrmCall()
     Command1.isCancel = true;
     SetTabOrder({&cboCall, &Text1, &Command2, &Command1});
     cboCall.KeyFilter = [](KeyCode& key) {
-        key = StorTast(key);
-        FiltrerTast(key, kCallTegn);
+        key = UpperKey(key);
+        FilterKey(key, kCallCharacters);
     };
-    Text1.KeyFilter = [](KeyCode& key) { FiltrerTast(key, kCifferTegn); };
+    Text1.KeyFilter = [](KeyCode& key) { FilterKey(key, kDigitCharacters); };
     Command2.Click = [this] {
-        gsTelefon = Text1.Text();
-        gsMyCall = cboCall.Text();
-        GemTekst(kSettings, "MyCall", gsMyCall);
+        desk().gsTelefon = Text1.Text();
+        desk().gsMyCall = cboCall.Text();
+        StoreText(kSettings, "MyCall", desk().gsMyCall);
         Hide();
     };
     Command1.Click = [this] {
-        VisVærdier();
+        ShowValues();
         Hide();
     };
 }
 
 void FrmCall::Form_Load() {
-    Files& filer = platform().files;
-    filer.Open(1, Sti(gsFDLib, "edr.txt"), FileMode::Input);
-    while (!filer.EndOfFile(1)) {
-        const std::string linje = filer.LineInput(1);
-        const std::size_t blank = linje.find(' ');
-        if (blank != std::string::npos) cboCall.AddItem(linje.substr(0, blank) + "/P");
+    Files& files = platform().files;
+    files.Open(1, PathIn(desk().gsFDLib, "edr.txt"), FileMode::Input);
+    while (!files.EndOfFile(1)) {
+        const std::string line = files.LineInput(1);
+        const std::size_t blank = line.find(' ');
+        if (blank != std::string::npos) cboCall.AddItem(line.substr(0, blank) + "/P");
     }
-    VisVærdier();
-    filer.Close(1);
+    ShowValues();
+    files.Close(1);
 }
 
-void FrmCall::VisVærdier() {
-    cboCall.SetText(gsMyCall);
-    Text1.SetText(gsTelefon);
+void FrmCall::ShowValues() {
+    cboCall.SetText(desk().gsMyCall);
+    Text1.SetText(desk().gsTelefon);
 }
 
-void RetContestCall() {
+void ChangeContestCall() {
     frmCall->ShowModal();
-    frmMain->SetCaption("Vatro " + gsMyCall);
+    frmMain->SetCaption("Vatro " + desk().gsMyCall);
     frmContestCall->visContestCall();
 }
 

@@ -21,12 +21,12 @@ public:
     void Form_Load() override;
 
 private:
-    void VisVærdier();
+    void ShowValues();
 };
 
 inline FormSlot<FrmCall> frmCall{"frmCall"};
 
 /// Asks for the contest call and shows the one that holds in the caption and the window of the call.
-void RetContestCall();
+void ChangeContestCall();
 
 }  // namespace vatro

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/frmContestCall.h"
+#include "frame/state.h"
 
 #include "entry/fitted_label.h"
 #include "frame/settings.h"
@@ -9,31 +10,31 @@ namespace vatro {
 
 namespace {
 
-constexpr Vinduesplads kPlads{"Call", 0, 0, 1000, 3000};
+constexpr WindowPlace kPlace{"Call", 0, 0, 1000, 3000};
 
 }  // namespace
 
 FrmContestCall::FrmContestCall()
     : Form("frmContestCall", FormKind::Tool, "Contest Call"), Label1(*this, "Label1", "", {"Arial", 48, true}) {
-    Label1.Change = [this] { TilpasBredde(*this, Label1); };
+    Label1.Change = [this] { FitWidth(*this, Label1); };
 }
 
 void FrmContestCall::visContestCall() {
-    VisNormal(Label1, gsMyCall);
+    ShowNormal(Label1, desk().gsMyCall);
 }
 
 void FrmContestCall::Form_Load() {
     visContestCall();
-    HentPlads(*this, kPlads);
+    RestorePlace(*this, kPlace);
     Form_Resize();
 }
 
 void FrmContestCall::StoreState() {
-    GemPlads(*this, kPlads);
+    StorePlace(*this, kPlace);
 }
 
 void FrmContestCall::Form_Resize() {
-    TilpasTekst(*this, Label1);
+    FitText(*this, Label1);
 }
 
 }  // namespace vatro

@@ -27,6 +27,6 @@ private:
 inline FormSlot<FrmNytQSOnr> frmNytQSOnr{"frmNytQSOnr"};
 
 /// Asks for the number and shows the one that holds.
-void NytQSOnr();
+void ChangeNextNumber();
 
 }  // namespace vatro

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "entry/frmQSOnr.h"
+#include "frame/state.h"
 
 #include "codepage.h"
 #include "entry/fitted_label.h"
-#include "entry/validation.h"
-#include "frame/band_mode.h"
 #include "frame/log_file.h"
 #include "frame/settings.h"
+#include "log/ten_logs.h"
 #include "numbers.h"
 
 namespace vatro {
@@ -15,18 +15,18 @@ using namespace literals;
 
 namespace {
 
-constexpr Vinduesplads kPlads{"QSO", 0, 0, 1000, 3000};
+constexpr WindowPlace kPlace{"QSO", 0, 0, 1000, 3000};
 
 }  // namespace
 
 FrmQSOnr::FrmQSOnr() : Form("frmQSOnr", FormKind::Tool, "Næste QSO nr"_t), label1(*this, "label1", "", {"Arial", 72, true}) {
-    label1.Change = [this] { TilpasBredde(*this, label1); };
+    label1.Change = [this] { FitWidth(*this, label1); };
 }
 
 void FrmQSOnr::visQSOnr() {
-    std::string tekst = gsQsoMode;
-    tekst.append(" ").append(StandardRST()).append(" ").append(ZeroPadded(giQSOnr, 3));
-    VisNormal(label1, tekst);
+    std::string text = desk().gsQsoMode;
+    text.append(" ").append(StandardRST(desk().gsQsoMode)).append(" ").append(ZeroPadded(desk().log.giQSOnr, 3));
+    ShowNormal(label1, text);
 }
 
 void FrmQSOnr::visDupe() {
@@ -36,16 +36,16 @@ void FrmQSOnr::visDupe() {
 }
 
 void FrmQSOnr::Form_Load() {
-    HentPlads(*this, kPlads);
+    RestorePlace(*this, kPlace);
     Form_Resize();
 }
 
 void FrmQSOnr::StoreState() {
-    GemPlads(*this, kPlads);
+    StorePlace(*this, kPlace);
 }
 
 void FrmQSOnr::Form_Resize() {
-    TilpasTekst(*this, label1);
+    FitText(*this, label1);
 }
 
 }  // namespace vatro

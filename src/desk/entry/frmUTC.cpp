@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/frmUTC.h"
+#include "frame/state.h"
 
 #include "entry/frmMain.h"
 #include "frame/settings.h"
@@ -10,8 +11,8 @@ namespace vatro {
 
 namespace {
 
-constexpr int kFørste = -11;
-constexpr int kSidste = 12;
+constexpr int kFirst = -11;
+constexpr int kLast = 12;
 
 }  // namespace
 
@@ -23,21 +24,21 @@ FrmUTC::FrmUTC()
     Command1.isCancel = true;
     SetTabOrder({&Combo1, &Command2, &Command1});
     Command2.Click = [this] {
-        gsUTC = Combo1.Text();
-        GemTekst(kSettings, "UTC", gsUTC);
+        desk().gsUTC = Combo1.Text();
+        StoreText(kSettings, "UTC", desk().gsUTC);
         Hide();
     };
     Command1.Click = [this] { Hide(); };
 }
 
 void FrmUTC::Form_Load() {
-    for (int timer = kFørste; timer <= kSidste; ++timer) Combo1.AddItem(PlainNumber(timer));
-    Combo1.SetListIndex(ToInt16(NumericValue(gsUTC) - kFørste));
+    for (int hours = kFirst; hours <= kLast; ++hours) Combo1.AddItem(PlainNumber(hours));
+    Combo1.SetListIndex(ToInt16(NumericValue(desk().gsUTC) - kFirst));
 }
 
-void RetUTC() {
+void ChangeUtcOffset() {
     frmUTC->ShowModal();
-    frmMain->Text1[0].SetText(NuUTCTid());
+    frmMain->Text1[0].SetText(UtcTimeText());
 }
 
 }  // namespace vatro

@@ -21,6 +21,6 @@ public:
 inline FormSlot<FrmUTC> frmUTC{"frmUTC"};
 
 /// Asks for the offset and shows the time that goes with it, also after Annuller.
-void RetUTC();
+void ChangeUtcOffset();
 
 }  // namespace vatro

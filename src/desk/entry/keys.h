@@ -14,20 +14,21 @@ namespace vatro {
 using namespace literals;
 
 // The 4 stands twice and out of order in these; the set is what counts.
-inline constexpr std::string_view kCallTegn = "ABCDEFGHIJKLMNOPQRSTUVWXYZÆØÅ12434567890/"_t;
-inline constexpr std::string_view kTidTegn = "12434567890:."_t;
-inline constexpr std::string_view kCifferTegn = "12434567890"_t;
+inline constexpr std::string_view kCallCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZÆØÅ12434567890/"_t;
+inline constexpr std::string_view kTimeCharacters = "12434567890:."_t;
+inline constexpr std::string_view kDigitCharacters = "12434567890"_t;
 
 /// The key in upper case.
-inline KeyCode StorTast(KeyCode key) {
+inline KeyCode UpperKey(KeyCode key) {
     return key < 0 || key > 255 ? key : static_cast<unsigned char>(Upper(static_cast<char>(static_cast<unsigned char>(key))));
 }
 
 /// Makes the key nothing unless it is backspace or in the set, without regard to case.
-inline void FiltrerTast(KeyCode& key, std::string_view tegn) {
+inline void FilterKey(KeyCode& key, std::string_view characters) {
     if (key == kBackspace) return;
-    const KeyCode stor = StorTast(key);
-    if (stor < 1 || stor > 255 || tegn.find(static_cast<char>(static_cast<unsigned char>(stor))) == std::string_view::npos) key = kNoKey;
+    const KeyCode upper = UpperKey(key);
+    if (upper < 1 || upper > 255 || characters.find(static_cast<char>(static_cast<unsigned char>(upper))) == std::string_view::npos)
+        key = kNoKey;
 }
 
 }  // namespace vatro

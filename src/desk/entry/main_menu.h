@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The menu bar of the entry form. What the entries do stands in frmMain_menu.cpp.
+// The menu bar of the entry form. What the entries do stands in menu_clicks.cpp. The names follow no menu: the entries of "&Indstillinger"
+// and
+// "&Vis" are partly called mnuFunktioner..., as the first version of the program had them there.
 #pragma once
 
 #include <vector>
@@ -123,7 +125,7 @@ struct MainMenu : Form {
     MenuItem mnuHelpAbout{*this, &mnuHjælp, "mnuHelpAbout", "O&m Vatro"};
 
     /// The entries of bands and modes, with their index: the separator is none of them.
-    std::vector<MenuItem*> BåndPunkter();
+    std::vector<MenuItem*> BandEntries();
 };
 
 }  // namespace vatro

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/operators.h"
+#include "frame/state.h"
 
 #include <algorithm>
 
@@ -12,62 +13,56 @@ namespace vatro {
 
 using namespace literals;
 
-FixedText<6> gsOperatør;
-
 namespace {
 
-constexpr std::size_t kNavnLængde = 6;
-constexpr std::string_view kFil = "operator.txt";
+constexpr std::size_t kNameLength = 6;
+constexpr std::string_view kFile = "operator.txt";
 
 }  // namespace
 
-void LæsOperatører(ComboBox& cbo, std::string_view ønsket) {
-    Files& filer = platform().files;
+void LæsOperatører(ComboBox& box, std::string_view wanted) {
+    Files& files = platform().files;
     try {
-        cbo.Clear();
-        filer.Open(1, Sti(gsFDLib, kFil), FileMode::Input);
-        while (!filer.EndOfFile(1)) cbo.AddItem(filer.LineInput(1).substr(0, kNavnLængde));
-        filer.Close(1);
-        if (!ønsket.empty()) cbo.SetText(gsOperatør.Padded());
+        box.Clear();
+        files.Open(1, PathIn(desk().gsFDLib, kFile), FileMode::Input);
+        while (!files.EndOfFile(1)) box.AddItem(files.LineInput(1).substr(0, kNameLength));
+        files.Close(1);
+        if (!wanted.empty()) box.SetText(desk().gsOperatør.Padded());
     } catch (const RunTimeError&) {
-        filer.Close(1);
+        files.Close(1);
         MsgBox("OperatørIndlæsning i fejl."_t);
     }
 }
 
-void GemOperatører(const ComboBox& cbo) {
-    Files& filer = platform().files;
-    filer.Open(1, Sti(gsFDLib, kFil), FileMode::Output);
-    for (const std::string& navn : cbo.Items()) filer.PrintLine(1, navn);
-    filer.Close(1);
+void GemOperatører(const ComboBox& box) {
+    Files& files = platform().files;
+    files.Open(1, PathIn(desk().gsFDLib, kFile), FileMode::Output);
+    for (const std::string& name : box.Items()) files.PrintLine(1, name);
+    files.Close(1);
 }
 
-void OperatørTjek(ComboBox& cbo, bool sæt) {
-    const std::string navn = cbo.Text();
-    if (navn.empty()) return;
-    if (std::find(cbo.Items().begin(), cbo.Items().end(), navn) == cbo.Items().end()) cbo.AddItem(navn);
-    if (sæt) gsOperatør = navn;
+void OperatørTjek(ComboBox& box, bool takeOver) {
+    const std::string name = box.Text();
+    if (name.empty()) return;
+    if (std::find(box.Items().begin(), box.Items().end(), name) == box.Items().end()) box.AddItem(name);
+    if (takeOver) desk().gsOperatør = name;
 }
 
-void OperatørValgt(const ComboBox& cbo) {
-    gsOperatør = cbo.Text();
+void OperatørValgt(const ComboBox& box) {
+    desk().gsOperatør = box.Text();
 }
 
-void OperatørTast(ComboBox& cbo, KeyCode& KeyAscii) {
-    if (KeyAscii == kEnter && cbo.Text().size() <= kNavnLængde) OperatørTjek(cbo, true);
+void OperatørTast(ComboBox& box, KeyCode& KeyAscii) {
+    if (KeyAscii == kEnter && box.Text().size() <= kNameLength) OperatørTjek(box, true);
 }
 
-void OperatørFilter(const ComboBox& cbo, KeyCode& KeyAscii) {
-    if (cbo.Text().size() > kNavnLængde) {
+void OperatorFilter(const ComboBox& box, KeyCode& KeyAscii) {
+    if (box.Text().size() > kNameLength) {
         KeyAscii = kNoKey;
         return;
     }
-    KeyAscii = StorTast(KeyAscii);
-    if (KeyAscii != kEnter) FiltrerTast(KeyAscii, kCallTegn);
-}
-
-void NulstilOperatør() {
-    gsOperatør = std::string_view{};
+    KeyAscii = UpperKey(KeyAscii);
+    if (KeyAscii != kEnter) FilterKey(KeyAscii, kCallCharacters);
 }
 
 }  // namespace vatro

@@ -8,36 +8,29 @@
 #include <string>
 #include <string_view>
 
-#include "columns.h"
 #include "controls.h"
 
 namespace vatro {
 
-/// The operator at the key: written in every line.
-extern FixedText<6> gsOperatør;
-
-/// Fills the box from operator.txt; a failure gives a message and leaves what was read. If `ønsket` is not empty the box
+/// Fills the box from operator.txt; a failure gives a message and leaves what was read. If `wanted` is not empty the box
 /// shows gsOperatør.
-void LæsOperatører(ComboBox& cbo, std::string_view ønsket);
+void LæsOperatører(ComboBox& box, std::string_view wanted);
 
 /// Writes the list of the box to operator.txt. Failures are not caught.
-void GemOperatører(const ComboBox& cbo);
+void GemOperatører(const ComboBox& box);
 
-/// Adds the text of the box to its list if it is not there, by exact comparison; with `sæt` it becomes gsOperatør. An empty
+/// Adds the text of the box to its list if it is not there, by exact comparison; with `takeOver` it becomes gsOperatør. An empty
 /// text: nothing.
-void OperatørTjek(ComboBox& cbo, bool sæt);
+void OperatørTjek(ComboBox& box, bool takeOver);
 
 /// An item was chosen: it becomes gsOperatør.
-void OperatørValgt(const ComboBox& cbo);
+void OperatørValgt(const ComboBox& box);
 
 /// Enter in the box takes the text over as OperatørTjek does, unless it is longer than six characters.
-void OperatørTast(ComboBox& cbo, KeyCode& KeyAscii);
+void OperatørTast(ComboBox& box, KeyCode& KeyAscii);
 
 /// What a key becomes in the box: upper case and only the characters of a call. Once the text is longer than six characters every
 /// key is swallowed, so a seventh can be typed: meant so.
-void OperatørFilter(const ComboBox& cbo, KeyCode& KeyAscii);
-
-/// Nobody at the key, as before the start.
-void NulstilOperatør();
+void OperatorFilter(const ComboBox& box, KeyCode& KeyAscii);
 
 }  // namespace vatro

@@ -9,45 +9,45 @@ namespace vatro {
 
 namespace {
 
-bool ErCallEllerNr(int index) {
-    return index == kCallFelt || index == kNrModtagetFelt;
+bool IsCallOrNumber(int index) {
+    return index == kCallField || index == kNumberReceivedField;
 }
 
-void Esc(QsoTekster& felter, int index) {
-    if (ErCallEllerNr(index)) {
-        felter[kCallFelt].SetText({});
-        felter[kNrModtagetFelt].SetText({});
-        felter[kCallFelt].SetFocus();
-    } else if (index != kNrSendtFelt) {
-        felter[index].SetText({});
+void ClearFields(ContactFields& fields, int index) {
+    if (IsCallOrNumber(index)) {
+        fields[kCallField].SetText({});
+        fields[kNumberReceivedField].SetText({});
+        fields[kCallField].SetFocus();
+    } else if (index != kNumberSentField) {
+        fields[index].SetText({});
     }
 }
 
 }  // namespace
 
-void SætFeltlængder(QsoTekster& felter) {
-    constexpr int kLængder[kAntalFelter]{5, 15, 3, 4, 3, 4};
-    for (int i = 0; i < kAntalFelter; ++i) felter[i].SetMaxLength(kLængder[i]);
+void SetFieldLengths(ContactFields& fields) {
+    constexpr int kLengths[kFieldCount]{5, 15, 3, 4, 3, 4};
+    for (int i = 0; i < kFieldCount; ++i) fields[i].SetMaxLength(kLengths[i]);
 }
 
-void FeltTast(QsoTekster& felter, int Index, KeyCode& KeyAscii, const std::function<void()>& enter) {
-    const KeyCode tast = std::exchange(KeyAscii, kNoKey);
-    if (tast == kEnter) return enter();
-    if (tast == kEsc) return Esc(felter, Index);
-    if (tast == kSpace) {
-        if (ErCallEllerNr(Index)) felter[Index == kCallFelt ? kNrModtagetFelt : kCallFelt].SetFocus();
+void HandleFieldKey(ContactFields& fields, int Index, KeyCode& KeyAscii, const std::function<void()>& enter) {
+    const KeyCode pressed = std::exchange(KeyAscii, kNoKey);
+    if (pressed == kEnter) return enter();
+    if (pressed == kEsc) return ClearFields(fields, Index);
+    if (pressed == kSpace) {
+        if (IsCallOrNumber(Index)) fields[Index == kCallField ? kNumberReceivedField : kCallField].SetFocus();
         return;
     }
-    KeyAscii = tast;
+    KeyAscii = pressed;
 }
 
-void FeltFilter(int Index, KeyCode& KeyAscii) {
-    if (Index == kCallFelt) KeyAscii = StorTast(KeyAscii);
+void FilterFieldKey(int Index, KeyCode& KeyAscii) {
+    if (Index == kCallField) KeyAscii = UpperKey(KeyAscii);
     // No field can hold a blank from the keyboard.
     if (KeyAscii == kSpace) KeyAscii = kNoKey;
-    if (Index == kUtcFelt) FiltrerTast(KeyAscii, kTidTegn);
-    if (Index == kCallFelt) FiltrerTast(KeyAscii, kCallTegn);
-    if (Index == kNrModtagetFelt) FiltrerTast(KeyAscii, kCifferTegn);
+    if (Index == kUtcField) FilterKey(KeyAscii, kTimeCharacters);
+    if (Index == kCallField) FilterKey(KeyAscii, kCallCharacters);
+    if (Index == kNumberReceivedField) FilterKey(KeyAscii, kDigitCharacters);
 }
 
 }  // namespace vatro

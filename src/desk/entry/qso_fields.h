@@ -10,19 +10,19 @@
 namespace vatro {
 
 /// Indices of the fields, Text1 of either form.
-enum QsoFelter { kUtcFelt, kCallFelt, kRstSendtFelt, kNrSendtFelt, kRstModtagetFelt, kNrModtagetFelt, kAntalFelter };
+enum ContactField { kUtcField, kCallField, kReportSentField, kNumberSentField, kReportReceivedField, kNumberReceivedField, kFieldCount };
 
-using QsoTekster = TextBox[kAntalFelter];
+using ContactFields = TextBox[kFieldCount];
 
 /// Sets the length limits of the fields.
-void SætFeltlængder(QsoTekster& felter);
+void SetFieldLengths(ContactFields& fields);
 
 /// A key in one of the fields. Enter runs `enter`; Esc empties call and received number together, or the field alone; Space jumps
 /// between call and received number. A key that has done something becomes nothing.
-void FeltTast(QsoTekster& felter, int Index, KeyCode& KeyAscii, const std::function<void()>& enter);
+void HandleFieldKey(ContactFields& fields, int Index, KeyCode& KeyAscii, const std::function<void()>& enter);
 
 /// What a key becomes in one of the fields: time, call and received number take only their own characters, the call in upper
 /// case; no field takes a blank.
-void FeltFilter(int Index, KeyCode& KeyAscii);
+void FilterFieldKey(int Index, KeyCode& KeyAscii);
 
 }  // namespace vatro

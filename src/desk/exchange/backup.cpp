@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/backup.h"
+#include "frame/state.h"
 
 #include "codepage.h"
 #include "exchange/frmTilFloppy.h"
@@ -13,30 +14,28 @@ namespace vatro {
 
 using namespace literals;
 
-std::string gsBackupLib;
-
 namespace {
 
-const std::string kDrev = "a:";
+const std::string kDrive = "a:";
 
-void Stands(std::string_view besked, bool& stop) {
-    MsgBox(besked);
+void Stands(std::string_view message, bool& stop) {
+    MsgBox(message);
     stop = true;
 }
 
-void Kopier(const std::string& fil, const std::string& bibliotek, std::string_view mangler, bool& stop) {
+void CopyFile(const std::string& file, const std::string& directory, std::string_view missing, bool& stop) {
     try {
-        frmTilFloppy->List1.AddItem(fil + " kopieres...");
+        frmTilFloppy->List1.AddItem(file + " kopieres...");
         frmTilFloppy->Refresh();
-        platform().files.Copy(Sti(gsLogLib, fil), Sti(bibliotek, fil));
+        platform().files.Copy(PathIn(desk().gsLogLib, file), PathIn(directory, file));
         stop = false;
-    } catch (const RunTimeError& fejl) {
-        switch (fejl.Which()) {
+    } catch (const RunTimeError& error) {
+        switch (error.Which()) {
             case Failure::FileNotFound:
                 // A log of a band that nobody has worked.
                 break;
             case Failure::PathNotFound:
-                Stands(mangler, stop);
+                Stands(missing, stop);
                 break;
             case Failure::DiskNotReady:
                 Stands("Indsæt diskette i drev A og foretag Diskettekopi igen."_t, stop);
@@ -46,66 +45,66 @@ void Kopier(const std::string& fil, const std::string& bibliotek, std::string_vi
                 Stands("Disketten er skrivebeskyttet. Fjern skrivebeskyttelsen og foretag Diskettekopi igen."_t, stop);
                 break;
             default:
-                MsgBox(PlainNumber(fejl.Number()));
+                MsgBox(PlainNumber(error.Number()));
         }
     }
 }
 
-void KopierAlle(std::string_view titel, void (*kopier)(const std::string& fil, bool& stop)) {
-    frmTilFloppy->SetCaption(titel);
+void CopyAll(std::string_view title, void (*copyOne)(const std::string& file, bool& stop)) {
+    frmTilFloppy->SetCaption(title);
     frmTilFloppy->Show();
     frmTilFloppy->List1.Clear();
     bool stop = false;
-    kopier("Ukendt.txt", stop);
-    for (const BåndMode& log : kTiLogge)
-        if (!stop) kopier(LogNavn(log.bånd, log.mode), stop);
+    copyOne("Ukendt.txt", stop);
+    for (const LogId& log : kTenLogs)
+        if (!stop) copyOne(LogName(log.band, log.mode), stop);
     frmTilFloppy->Hide();
 }
 
 }  // namespace
 
 void SetBackupLib() {
-    Files& filer = platform().files;
+    Files& files = platform().files;
     try {
-        const std::string fil = VælgMærkefil("setBackup.txt", "Vælg eller opret Backupbibliotek"_t);
-        gsBackupLib = BibliotekAf(fil);
-        if (gsBackupLib != gsLogLib) {
-            filer.Open(1, fil, FileMode::Output);
-            filer.Close(1);
-            MsgBox("Backupbibliotek sat til: " + gsBackupLib + filer.Separator());
+        const std::string file = ChooseMarkerFile("setBackup.txt", "Vælg eller opret Backupbibliotek"_t);
+        desk().gsBackupLib = DirectoryOf(file);
+        if (desk().gsBackupLib != desk().gsLogLib) {
+            files.Open(1, file, FileMode::Output);
+            files.Close(1);
+            MsgBox("Backupbibliotek sat til: " + desk().gsBackupLib + files.Separator());
             return;
         }
-        MessageBox samme;
-        samme.text = "Backupbibliotek må ikke være det samme som logbiblioteket.\r\nBiblioteket er sættes til: Ikke angivet."_t;
-        samme.icon = Icon::Information;
-        MsgBox(samme);
-        gsBackupLib.clear();
+        MessageBox same;
+        same.text = "Backupbibliotek må ikke være det samme som logbiblioteket.\r\nBiblioteket er sættes til: Ikke angivet."_t;
+        same.icon = Icon::Information;
+        MsgBox(same);
+        desk().gsBackupLib.clear();
     } catch (const RunTimeError&) {
-        if (gsBackupLib.empty())
+        if (desk().gsBackupLib.empty())
             MsgBox("Backupbibliotek er ikke angivet. ");
         else
-            MsgBox("Backupbibliotek er beholdt som: " + gsBackupLib + filer.Separator());
+            MsgBox("Backupbibliotek er beholdt som: " + desk().gsBackupLib + files.Separator());
     }
 }
 
-void BackupUdfør() {
-    if (gsBackupLib.empty()) {
+void BackUpLogs() {
+    if (desk().gsBackupLib.empty()) {
         MsgBox("Sæt backup bibliotek først."_t);
         return;
     }
-    KopierAlle("Backup af log", TilBackup);
+    CopyAll("Backup af log", TilBackup);
 }
 
-void Diskettekopi() {
-    KopierAlle("Kopierer log til diskette", TilFloppy);
+void CopyToDiskette() {
+    CopyAll("Kopierer log til diskette", TilFloppy);
 }
 
-void TilBackup(const std::string& fil, bool& stop) {
-    Kopier(fil, gsBackupLib, "Destination ikke fundet.", stop);
+void TilBackup(const std::string& file, bool& stop) {
+    CopyFile(file, desk().gsBackupLib, "Destination ikke fundet.", stop);
 }
 
-void TilFloppy(const std::string& fil, bool& stop) {
-    Kopier(fil, kDrev, "Diskettedrev ikke fundet. Brug backup funktion i stedet.", stop);
+void TilFloppy(const std::string& file, bool& stop) {
+    CopyFile(file, kDrive, "Diskettedrev ikke fundet. Brug backup funktion i stedet.", stop);
 }
 
 }  // namespace vatro

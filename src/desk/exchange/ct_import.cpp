@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/ct_import.h"
+#include "frame/state.h"
 
 #include "call/call_analysis.h"
 #include "codepage.h"
 #include "datetime.h"
-#include "entry/frmMain.h"
+#include "entry/next_contact.h"
 #include "entry/validation.h"
 #include "frame/band_mode.h"
 #include "frame/log_file.h"
 #include "log/contact_line.h"
-#include "log/duplicates.h"
 #include "numbers.h"
 #include "platform.h"
-#include "score/stations.h"
+#include "tables/worked.h"
 
 namespace vatro {
 
@@ -20,44 +20,44 @@ using namespace literals;
 
 namespace {
 
-constexpr int kCtFil = 2;
-constexpr Felt kCtMode{44, 3};
-constexpr Felt kCtMærke{7, 1};
-constexpr Felt kCtDato{5, 9};
-constexpr Felt kCtTime{17, 2};
-constexpr Felt kCtMinut{19, 2};
-constexpr Felt kCtNrSendt{23, 4};
-constexpr Felt kCtCall{36, 12};
-constexpr Felt kCtRstModtaget{49, 3};
-constexpr Felt kCtNrModtaget{53, 4};
+constexpr int kCtFile = 2;
+constexpr Field kCtMode{44, 3};
+constexpr Field kCtMark{7, 1};
+constexpr Field kCtDate{5, 9};
+constexpr Field kCtTime{17, 2};
+constexpr Field kCtMinute{19, 2};
+constexpr Field kCtNumberSent{23, 4};
+constexpr Field kCtCall{36, 12};
+constexpr Field kCtReportReceived{49, 3};
+constexpr Field kCtNumberReceived{53, 4};
 
 /// The report received in the columns of a log of the current mode: two figures in SSB, three in CW.
-std::string RstModtaget(std::string_view linje) {
-    if (gsMode == "SSB") return LeftAligned(kCtRstModtaget.TrimmetAf(linje), 2);
-    return LeftAligned(kCtRstModtaget.Af(linje), kRstModtaget.bredde);
+std::string ReportReceived(std::string_view line) {
+    if (desk().gsMode == "SSB") return LeftAligned(kCtReportReceived.TrimmedOf(line), 2);
+    return LeftAligned(kCtReportReceived.Of(line), kReportReceived.width);
 }
 
-std::string Dato(std::string_view linje) {
-    const auto dato = ParseDate(kCtDato.Af(linje));
-    if (!dato) throw RunTimeError(Failure::TypeMismatch);
-    return FormatDate(*dato);
+std::string DateOf(std::string_view line) {
+    const auto date = ParseDate(kCtDate.Of(line));
+    if (!date) throw RunTimeError(Failure::TypeMismatch);
+    return FormatDate(*date);
 }
 
 /// Opens the CT file and reads its head. True if there is a log of its band and mode, which has been told.
-bool LogFindes(const std::string& filnavn, std::string& bånd, std::string& mode) {
-    Files& filer = platform().files;
+bool LogExists(const std::string& path, std::string& band, std::string& mode) {
+    Files& files = platform().files;
     try {
-        filer.Open(kCtFil, filnavn, FileMode::Input);
-        std::string linje;
-        for (int i = 0; i < 3; ++i) linje = filer.LineInput(kCtFil);
-        mode = kCtMode.TrimmetAf(linje);
-        bånd = std::string(Right(filnavn, 2)) + "m";
-        filer.Open(1, LogSti(bånd, mode), FileMode::Input);
-        filer.Close(1);
-        MessageBox findes;
-        findes.text = "Log for " + bånd + " " + mode + " findes allerede.";
-        findes.title = "Log kan ikke importeres.";
-        MsgBox(findes);
+        files.Open(kCtFile, path, FileMode::Input);
+        std::string line;
+        for (int i = 0; i < 3; ++i) line = files.LineInput(kCtFile);
+        mode = kCtMode.TrimmedOf(line);
+        band = std::string(Right(path, 2)) + "m";
+        files.Open(1, LogPath(band, mode), FileMode::Input);
+        files.Close(1);
+        MessageBox exists;
+        exists.text = "Log for " + band + " " + mode + " findes allerede.";
+        exists.title = "Log kan ikke importeres.";
+        MsgBox(exists);
         return true;
     } catch (const RunTimeError&) {
         // Nothing tells a missing log from any other failure.
@@ -71,63 +71,62 @@ void ImporterCtMenu() {
     FileDialog dialog;
     dialog.filter = "CT-logfil (*.10;*.15;*.20;*.40;*.80)|*.10;*.15;*.20;*.40;*.80|";
     dialog.fileMustExist = true;
-    std::string filnavn;
+    std::string path;
     try {
-        filnavn = platform().dialogs.OpenFile(dialog);
+        path = platform().dialogs.OpenFile(dialog);
     } catch (const RunTimeError&) {
         return;
     }
-    ImporterCt(filnavn);
+    ImporterCt(path);
 }
 
-void ImporterCt(const std::string& filnavn) {
-    std::string bånd;
+void ImporterCt(const std::string& path) {
+    std::string band;
     std::string mode;
-    if (LogFindes(filnavn, bånd, mode)) return;
+    if (LogExists(path, band, mode)) return;
 
-    gsBand = bånd;
-    gsMode = mode == "SSB" ? "SSB" : "CW";
-    gsQsoMode = mode;
+    desk().gsBand = band;
+    desk().gsMode = mode == "SSB" ? "SSB" : "CW";
+    desk().gsQsoMode = mode;
     SetToolbar();
-    TømLog();
+    ClearLog();
 
-    Files& filer = platform().files;
-    if (filer.EndOfFile(kCtFil)) {
-        MessageBox tom;
-        tom.text = filnavn + " er tom.";
-        tom.title = "Import af CT-fil";
-        tom.icon = Icon::Information;
-        MsgBox(tom);
+    Files& files = platform().files;
+    if (files.EndOfFile(kCtFile)) {
+        MessageBox empty;
+        empty.text = path + " er tom.";
+        empty.title = "Import af CT-fil";
+        empty.icon = Icon::Information;
+        MsgBox(empty);
     }
-    while (!filer.EndOfFile(kCtFil)) {
-        const std::string linje = filer.LineInput(kCtFil);
-        if (kCtMærke.Af(linje) == "-") ImportQSO(linje);
+    while (!files.EndOfFile(kCtFile)) {
+        const std::string line = files.LineInput(kCtFile);
+        if (kCtMark.Of(line) == "-") ImportQSO(line);
     }
-    filer.Close(kCtFil);
+    files.Close(kCtFile);
     ResetQSO();
 }
 
-void ImportQSO(std::string_view linje) {
-    Qso qso;
-    qso.operatør = "CT-IMP";
-    qso.tid = LeftAligned(kCtTime.Af(linje), 2) + ":" + LeftAligned(kCtMinut.Af(linje), 2);
-    qso.call = kCtCall.TrimmetAf(linje);
-    gsCall = qso.call;
-    StripCall(gsCall);
-    CheckDupe();
+void ImportQSO(std::string_view line) {
+    Contact contact;
+    contact.operatorCall = "CT-IMP";
+    contact.time = LeftAligned(kCtTime.Of(line), 2) + ":" + LeftAligned(kCtMinute.Of(line), 2);
+    contact.call = kCtCall.TrimmedOf(line);
+    desk().gsCall = StripCall(contact.call);
+    NoteDuplicate();
     // What CT says of the report sent is not asked.
-    qso.rstSendt = gsMode == "SSB" ? "59" : "599";
-    const double nrSendt = NumericValue(kCtNrSendt.Af(linje));
-    qso.nrSendt = ZeroPadded(nrSendt, 4);
-    giQSOnr = ToInt16(nrSendt);
-    qso.rstModtaget = RstModtaget(linje);
-    qso.nrModtaget = ZeroPadded(NumericValue(kCtNrModtaget.Af(linje)), 4);
-    // The first characters as they stand: as at a load, a call with "/P" is not stripped for the society's list.
-    std::string edr = qso.call.substr(0, kEdrCall);
-    BedømQSO(qso, edr);
-    qso.qsoMode = gsMode;
-    qso.dato = Dato(linje);
-    BogførQSO(QsoLine(qso, gsMode));
+    contact.reportSent = desk().gsMode == "SSB" ? "59" : "599";
+    const double numberSent = NumericValue(kCtNumberSent.Of(line));
+    contact.numberSent = ZeroPadded(numberSent, 4);
+    desk().log.giQSOnr = ToInt16(numberSent);
+    contact.reportReceived = ReportReceived(line);
+    contact.numberReceived = ZeroPadded(NumericValue(kCtNumberReceived.Of(line)), 4);
+    // The call as it stands: as at a load, a call with "/P" is not stripped for the society's list.
+    contact.multiplier = RateContact(contact.call, contact.call);
+    contact.point = desk().giQSOPoint;
+    contact.qsoMode = desk().gsMode;
+    contact.date = DateOf(line);
+    RecordContact(QsoLine(contact, desk().gsMode));
 }
 
 }  // namespace vatro

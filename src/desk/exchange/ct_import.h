@@ -26,11 +26,11 @@ void ImporterCtMenu();
 /// existed, the CT file stays open: the next import of the run cannot open its own, and goes on with the contacts of the first
 /// one, to a log without band. A file of fewer than three lines is told to be empty and leaves band and mode empty too. Both are
 /// meant so. A file that cannot be opened at all fails with 52.
-void ImporterCt(const std::string& filnavn);
+void ImporterCt(const std::string& path);
 
 /// Logs one contact line with the operator "CT-IMP", without any question; giQSOnr becomes its serial number. An unknown prefix
 /// counts 0 points and is not recorded anywhere. The line has the columns of every other line, whatever the CT line has. Fails
 /// with 13 if the date is none, with 5 if there is no call; nothing has been logged then.
-void ImportQSO(std::string_view linje);
+void ImportQSO(std::string_view line);
 
 }  // namespace vatro

@@ -1,34 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/equipment.h"
+#include "frame/state.h"
 
 #include "frame/settings.h"
 
 namespace vatro {
 
-std::array<std::string, kUdstyrBånd.size()> gsRig;
-std::array<std::string, kUdstyrBånd.size()> gsAnt;
-
 namespace {
 
-constexpr std::string_view kSektion = "Equipment";
-constexpr int kLængde = 15;
+constexpr std::string_view kSection = "Equipment";
+constexpr int kLength = 15;
 
-std::string Nøgle(std::string_view slags, std::size_t bånd) {
-    return std::string(slags).append(kUdstyrBånd[bånd]);
+std::string Nøgle(std::string_view kind, std::size_t band) {
+    return std::string(kind).append(kEquipmentBands[band]);
 }
 
 }  // namespace
 
 void HentUdstyr() {
-    for (std::size_t i = 0; i < kUdstyrBånd.size(); ++i) {
-        gsRig[i] = HentTekst(kSektion, Nøgle("Rig", i));
-        gsAnt[i] = HentTekst(kSektion, Nøgle("Ant", i));
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
+        desk().rigs[i] = ReadText(kSection, Nøgle("Rig", i));
+        desk().antennas[i] = ReadText(kSection, Nøgle("Ant", i));
     }
 }
 
 void GemUdstyr() {
-    for (std::size_t i = 0; i < kUdstyrBånd.size(); ++i) GemTekst(kSektion, Nøgle("Rig", i), gsRig[i]);
-    for (std::size_t i = 0; i < kUdstyrBånd.size(); ++i) GemTekst(kSektion, Nøgle("Ant", i), gsAnt[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, Nøgle("Rig", i), desk().rigs[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, Nøgle("Ant", i), desk().antennas[i]);
 }
 
 FormRigAnt::FormRigAnt()
@@ -42,28 +40,28 @@ FormRigAnt::FormRigAnt()
       Label1{{*this, "Label1", 0, "80m"}, {*this, "Label1", 1, "40m"}, {*this, "Label1", 2, "20m"}, {*this, "Label1", 3, "15m"},
              {*this, "Label1", 4, "10m"}, {*this, "Label1", 5, "80m"}, {*this, "Label1", 6, "40m"}, {*this, "Label1", 7, "20m"},
              {*this, "Label1", 8, "15m"}, {*this, "Label1", 9, "10m"}} {
-    std::vector<Control*> orden;
-    for (TextBox& felt : TextRig) orden.push_back(&felt);
-    for (TextBox& felt : TextAnt) orden.push_back(&felt);
-    for (Control* felt : orden) static_cast<TextBox*>(felt)->SetMaxLength(kLængde);
-    orden.push_back(&CommandOK);
-    orden.push_back(&CommandLuk);
-    SetTabOrder(orden);
+    std::vector<Control*> order;
+    for (TextBox& field : TextRig) order.push_back(&field);
+    for (TextBox& field : TextAnt) order.push_back(&field);
+    for (Control* field : order) static_cast<TextBox*>(field)->SetMaxLength(kLength);
+    order.push_back(&CommandOK);
+    order.push_back(&CommandLuk);
+    SetTabOrder(order);
     CommandOK.Click = [this] { CommandOK_Click(); };
     CommandLuk.Click = [this] { Unload(); };
 }
 
 void FormRigAnt::Form_Load() {
-    for (std::size_t i = 0; i < kUdstyrBånd.size(); ++i) {
-        TextRig[i].SetText(gsRig[i]);
-        TextAnt[i].SetText(gsAnt[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
+        TextRig[i].SetText(desk().rigs[i]);
+        TextAnt[i].SetText(desk().antennas[i]);
     }
 }
 
 void FormRigAnt::CommandOK_Click() {
-    for (std::size_t i = 0; i < kUdstyrBånd.size(); ++i) {
-        gsAnt[i] = TextAnt[i].Text();
-        gsRig[i] = TextRig[i].Text();
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
+        desk().antennas[i] = TextAnt[i].Text();
+        desk().rigs[i] = TextRig[i].Text();
     }
     GemUdstyr();
     Unload();

@@ -2,7 +2,7 @@
 #include "exchange/frmAbout.h"
 
 #include "codepage.h"
-#include "frame/start.h"
+#include "frame/version.h"
 
 namespace vatro {
 
@@ -10,14 +10,14 @@ using namespace literals;
 
 namespace {
 
-constexpr double kTitelPunkter = 20;
+constexpr double kTitlePoints = 20;
 
 }  // namespace
 
 FrmAbout::FrmAbout()
     : Form("frmAbout", FormKind::Dialog, "Om Vatro"),
-      lblTitle(*this, "lblTitle", "Vatro", {{}, kTitelPunkter, true}),
-      lblVersion(*this, "lblVersion", "Version " + VersionTekst()),
+      lblTitle(*this, "lblTitle", "Vatro", {{}, kTitlePoints, true}),
+      lblVersion(*this, "lblVersion", "Version " + VersionText()),
       lblDescription(*this, "lblDescription", "Log til HF Field Day i EDR's lokalafdelinger.\nFri software under MIT-licensen."_t),
       cmdOK(*this, "cmdOK", "&OK") {
     cmdOK.isDefault = true;

@@ -11,32 +11,28 @@ namespace vatro {
 
 namespace {
 
-constexpr Vinduesplads kPlads{"StregP", 2000, 2000, 6000, 6000};
+constexpr WindowPlace kPlace{"StregP", 2000, 2000, 6000, 6000};
 
-constexpr Felt kBasis{1, 15};
-constexpr Felt kSkilleMærke{16, 4};
-constexpr Felt kLogget{29, 15};
-constexpr std::string_view kSkille = "------------";
+constexpr Field kBasis{1, 15};
+constexpr Field kDividerMark{16, 4};
+constexpr Field kLogged{29, 15};
+constexpr std::string_view kDashes = "------------";
 
-std::string Kontakt(const BåndMode& log, std::string_view linje) {
-    std::string basis(kCall.TrimmetAf(linje));
-    StripCall(basis);
-    std::string post = LeftAligned(basis, kBasis.bredde);
-    post.append(log.bånd).append(" ");
-    post.append(LeftAligned(log.mode, 4));
-    post.append(LeftAligned(kNrSendt.Af(linje), kNrSendt.bredde)).append(" ");
-    post.append(LeftAligned(kCall.Af(linje), kCall.bredde));
-    return post;
+std::string ContactItem(const LogId& log, std::string_view line) {
+    std::string item = LeftAligned(StripCall(kCall.TrimmedOf(line)), kBasis.width);
+    item.append(log.band).append(" ");
+    item.append(LeftAligned(log.mode, 4));
+    item.append(LeftAligned(kNumberSent.Of(line), kNumberSent.width)).append(" ");
+    item.append(LeftAligned(kCall.Of(line), kCall.width));
+    return item;
 }
 
-std::string Gruppe(std::string_view post) {
-    std::string call(kBasis.TrimmetAf(post));
-    StripCall(call);
-    return call;
+std::string BaseCallOf(std::string_view item) {
+    return StripCall(kBasis.TrimmedOf(item));
 }
 
-std::string Skille(std::string_view call) {
-    return LeftAligned(call, kBasis.bredde).append(kSkille);
+std::string Divider(std::string_view call) {
+    return LeftAligned(call, kBasis.width).append(kDashes);
 }
 
 }  // namespace
@@ -47,7 +43,7 @@ FrmStregP::FrmStregP()
 }
 
 void FrmStregP::Form_Load() {
-    HentPlads(*this, kPlads);
+    RestorePlace(*this, kPlace);
     Show();
     List1.Clear();
     IndlæsLogs();
@@ -58,52 +54,52 @@ void FrmStregP::Form_Load() {
 }
 
 void FrmStregP::StoreState() {
-    GemPlads(*this, kPlads);
+    StorePlace(*this, kPlace);
 }
 
 void FrmStregP::IndlæsLogs() {
-    const ListBox::Filling fylder(List1);
-    for (const BåndMode& log : kTiLogge) indlæslog(log);
+    const ListBox::Filling filling(List1);
+    for (const LogId& log : kTenLogs) indlæslog(log);
 }
 
-void FrmStregP::indlæslog(const BåndMode& log) {
-    Files& filer = platform().files;
+void FrmStregP::indlæslog(const LogId& log) {
+    Files& files = platform().files;
     try {
-        filer.Open(1, LogSti(log.bånd, log.mode), FileMode::Input);
-        while (!filer.EndOfFile(1)) {
-            const std::string linje = filer.LineInput(1);
-            if (!ErNote(linje)) List1.AddItem(Kontakt(log, linje));
+        files.Open(1, LogPath(log.band, log.mode), FileMode::Input);
+        while (!files.EndOfFile(1)) {
+            const std::string line = files.LineInput(1);
+            if (!IsNote(line)) List1.AddItem(ContactItem(log, line));
         }
     } catch (const RunTimeError&) {
         // What has been read so far is shown.
     }
-    filer.Close(1);
+    files.Close(1);
 }
 
 void FrmStregP::IndsætBlanke() {
-    const ListBox::Filling fylder(List1);
-    const int antal = List1.ListCount();
-    std::string sidste = antal > 0 ? List1.List(antal - 1) : std::string();
-    std::string forrige = Gruppe(sidste);
-    for (int i = antal - 2; i >= 1; --i) {
-        sidste = List1.List(i);
-        std::string denne = Gruppe(sidste);
-        if (denne != forrige) List1.AddItem(Skille(forrige));
-        forrige = std::move(denne);
+    const ListBox::Filling filling(List1);
+    const int count = List1.ListCount();
+    std::string last = count > 0 ? List1.List(count - 1) : std::string();
+    std::string previous = BaseCallOf(last);
+    for (int i = count - 2; i >= 1; --i) {
+        last = List1.List(i);
+        std::string current = BaseCallOf(last);
+        if (current != previous) List1.AddItem(Divider(previous));
+        previous = std::move(current);
     }
-    List1.AddItem(std::string(kBasis.Af(sidste)).append(kSkille));
+    List1.AddItem(std::string(kBasis.Of(last)).append(kDashes));
 }
 
 void FrmStregP::FjernDubletter() {
-    const ListBox::Filling fylder(List1);
+    const ListBox::Filling filling(List1);
     int i = List1.ListCount() - 1;
     while (i > 1) {
-        const int sidste = i;
-        bool ens = true;
-        for (; kSkilleMærke.Af(List1.List(i)) != "----"; --i)
-            if (kLogget.Af(List1.List(i)) != kLogget.Af(List1.List(sidste))) ens = false;
-        if (ens)
-            for (int række = sidste; række >= i; --række) List1.RemoveItem(række);
+        const int last = i;
+        bool alike = true;
+        for (; kDividerMark.Of(List1.List(i)) != "----"; --i)
+            if (kLogged.Of(List1.List(i)) != kLogged.Of(List1.List(last))) alike = false;
+        if (alike)
+            for (int row = last; row >= i; --row) List1.RemoveItem(row);
         --i;
     }
 }

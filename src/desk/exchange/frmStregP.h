@@ -32,7 +32,7 @@ public:
     /// The contacts of all ten logs, from the files.
     void IndlæsLogs();
     /// The contacts of one log. A log that cannot be read ends where it fails, without a word.
-    void indlæslog(const BåndMode& log);
+    void indlæslog(const LogId& log);
     /// Puts a line of dashes before the contacts of each base call. The first item is never looked at: a contact that stands
     /// there alone with its call gets none and stays on view, whatever its spelling. An empty list gets dashes without a call.
     /// Meant so.

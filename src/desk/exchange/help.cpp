@@ -8,18 +8,18 @@ namespace vatro {
 
 using namespace literals;
 
-void VisHjælpIndhold() {
+void ShowHelpContents() {
     try {
         platform().help.Show("Vatro.chm");
-    } catch (const RunTimeError& fejl) {
-        if (fejl.Which() != Failure::FileNotFound) {
-            MsgBox(Meaning(fejl.Which()));
+    } catch (const RunTimeError& error) {
+        if (error.Which() != Failure::FileNotFound) {
+            MsgBox(Meaning(error.Which()));
             return;
         }
-        MessageBox ingen;
-        ingen.text = "Kan ikke vise hjælp indhold. Der er ingen hjælp knyttet til dette program."_t;
-        ingen.icon = Icon::Information;
-        MsgBox(ingen);
+        MessageBox none;
+        none.text = "Kan ikke vise hjælp indhold. Der er ingen hjælp knyttet til dette program."_t;
+        none.icon = Icon::Information;
+        MsgBox(none);
     }
 }
 

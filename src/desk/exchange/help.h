@@ -6,6 +6,6 @@
 namespace vatro {
 
 /// Opens the handbook at its table of contents. Tells it if the program has none, or what the viewer failed at.
-void VisHjælpIndhold();
+void ShowHelpContents();
 
 }  // namespace vatro

@@ -2,19 +2,19 @@
 #include "frame/frmSplash.h"
 
 #include "codepage.h"
-#include "frame/start.h"
+#include "frame/version.h"
 
 namespace vatro {
 
 using namespace literals;
 
 FrmSplash::FrmSplash() : Form("frmSplash", FormKind::Splash, "Vatro") {
-    lblVersion.SetCaption("Version " + VersionTekst());
+    lblVersion.SetCaption("Version " + VersionText());
     lblWarning.SetCaption("Advarsel! Dette er et Windows program."_t);
 }
 
-void FrmSplash::Vis(std::string_view trin) {
-    Label1.SetCaption(trin);
+void FrmSplash::ShowStage(std::string_view stage) {
+    Label1.SetCaption(stage);
     Refresh();
 }
 

@@ -16,7 +16,7 @@ public:
     Label lblWarning{*this, "lblWarning"};
 
     /// Shows the stage of the loading at once.
-    void Vis(std::string_view trin);
+    void ShowStage(std::string_view stage);
 };
 
 inline FormSlot<FrmSplash> frmSplash{"frmSplash"};

@@ -10,60 +10,60 @@ namespace vatro {
 
 namespace {
 
-std::string Nøgle(const Vinduesplads& plads, std::string_view mål) {
-    return std::string(plads.navn).append(mål);
+std::string PlaceKey(const WindowPlace& place, std::string_view dimension) {
+    return std::string(place.name).append(dimension);
 }
 
 }  // namespace
 
-std::string HentTekst(std::string_view sektion, std::string_view nøgle, std::string_view standard) {
-    return platform().settings.Read(sektion, nøgle).value_or(std::string(standard));
+std::string ReadText(std::string_view section, std::string_view key, std::string_view standard) {
+    return platform().settings.Read(section, key).value_or(std::string(standard));
 }
 
-int HentTal(std::string_view sektion, std::string_view nøgle, int standard) {
-    const auto tekst = platform().settings.Read(sektion, nøgle);
-    return tekst ? ToInt16(ToNumber(*tekst)) : standard;
+int ReadNumber(std::string_view section, std::string_view key, int standard) {
+    const auto text = platform().settings.Read(section, key);
+    return text ? ToInt16(ToNumber(*text)) : standard;
 }
 
-int HentTwips(std::string_view nøgle, int standard) {
-    const auto tekst = platform().settings.Read(kSettings, nøgle);
-    return tekst ? ToInt32(ToNumber(*tekst)) : standard;
+int ReadTwips(std::string_view key, int standard) {
+    const auto text = platform().settings.Read(kSettings, key);
+    return text ? ToInt32(ToNumber(*text)) : standard;
 }
 
-bool HentFlag(std::string_view sektion, std::string_view nøgle, bool standard) {
-    const auto tekst = platform().settings.Read(sektion, nøgle);
-    if (!tekst) return standard;
-    if (EqualNoCase(*tekst, "True")) return true;
-    if (EqualNoCase(*tekst, "False")) return false;
-    return ToNumber(*tekst) != 0;
+bool ReadFlag(std::string_view section, std::string_view key, bool standard) {
+    const auto text = platform().settings.Read(section, key);
+    if (!text) return standard;
+    if (EqualNoCase(*text, "True")) return true;
+    if (EqualNoCase(*text, "False")) return false;
+    return ToNumber(*text) != 0;
 }
 
-void GemTekst(std::string_view sektion, std::string_view nøgle, std::string_view tekst) {
-    platform().settings.Write(sektion, nøgle, tekst);
+void StoreText(std::string_view section, std::string_view key, std::string_view text) {
+    platform().settings.Write(section, key, text);
 }
 
-void GemTal(std::string_view sektion, std::string_view nøgle, int tal) {
-    GemTekst(sektion, nøgle, PlainNumber(tal));
+void StoreNumber(std::string_view section, std::string_view key, int number) {
+    StoreText(section, key, PlainNumber(number));
 }
 
-void GemFlag(std::string_view sektion, std::string_view nøgle, bool flag) {
-    GemTekst(sektion, nøgle, flag ? "True" : "False");
+void StoreFlag(std::string_view section, std::string_view key, bool flag) {
+    StoreText(section, key, flag ? "True" : "False");
 }
 
-void HentPlads(Form& form, const Vinduesplads& plads) {
-    const int left = HentTwips(Nøgle(plads, "Left"), plads.left);
-    const int top = HentTwips(Nøgle(plads, "Top"), plads.top);
-    const int width = HentTwips(Nøgle(plads, "Width"), plads.width);
-    const int height = HentTwips(Nøgle(plads, "Height"), plads.height);
+void RestorePlace(Form& form, const WindowPlace& place) {
+    const int left = ReadTwips(PlaceKey(place, "Left"), place.left);
+    const int top = ReadTwips(PlaceKey(place, "Top"), place.top);
+    const int width = ReadTwips(PlaceKey(place, "Width"), place.width);
+    const int height = ReadTwips(PlaceKey(place, "Height"), place.height);
     form.Place(left, top, width, height);
 }
 
-void GemPlads(const Form& form, const Vinduesplads& plads) {
+void StorePlace(const Form& form, const WindowPlace& place) {
     if (form.State() == WindowState::Minimised) return;
-    GemTal(kSettings, Nøgle(plads, "Left"), form.Left());
-    GemTal(kSettings, Nøgle(plads, "Top"), form.Top());
-    GemTal(kSettings, Nøgle(plads, "Width"), form.Width());
-    GemTal(kSettings, Nøgle(plads, "Height"), form.Height());
+    StoreNumber(kSettings, PlaceKey(place, "Left"), form.Left());
+    StoreNumber(kSettings, PlaceKey(place, "Top"), form.Top());
+    StoreNumber(kSettings, PlaceKey(place, "Width"), form.Width());
+    StoreNumber(kSettings, PlaceKey(place, "Height"), form.Height());
 }
 
 }  // namespace vatro

@@ -13,24 +13,26 @@ namespace vatro {
 class Form;
 
 inline constexpr std::string_view kSettings = "Settings";
+/// Where the main form stood; written by every regular end.
+inline constexpr std::string_view kMainLeftKey = "MainLeft";
 
 /// The text as it is stored.
-std::string HentTekst(std::string_view sektion, std::string_view nøgle, std::string_view standard = {});
+std::string ReadText(std::string_view section, std::string_view key, std::string_view standard = {});
 /// A whole number, -32768 to 32767; fails with 6 beyond.
-int HentTal(std::string_view sektion, std::string_view nøgle, int standard);
-/// A place or length in twips: beside a wide screen, or on a second one, it can be more than HentTal takes.
-int HentTwips(std::string_view nøgle, int standard);
+int ReadNumber(std::string_view section, std::string_view key, int standard);
+/// A place or length in twips: beside a wide screen, or on a second one, it can be more than ReadNumber takes.
+int ReadTwips(std::string_view key, int standard);
 /// "True" or "False" without regard to case, or a number, of which 0 is false.
-bool HentFlag(std::string_view sektion, std::string_view nøgle, bool standard);
+bool ReadFlag(std::string_view section, std::string_view key, bool standard);
 
 /// What is stored is on the disk on return.
-void GemTekst(std::string_view sektion, std::string_view nøgle, std::string_view tekst);
-void GemTal(std::string_view sektion, std::string_view nøgle, int tal);
-void GemFlag(std::string_view sektion, std::string_view nøgle, bool flag);
+void StoreText(std::string_view section, std::string_view key, std::string_view text);
+void StoreNumber(std::string_view section, std::string_view key, int number);
+void StoreFlag(std::string_view section, std::string_view key, bool flag);
 
 /// The keys and defaults, in twips, of a window's place: "QSO" gives QSOLeft, QSOTop, QSOWidth, QSOHeight.
-struct Vinduesplads {
-    std::string_view navn;
+struct WindowPlace {
+    std::string_view name;
     int left;
     int top;
     int width;
@@ -38,8 +40,8 @@ struct Vinduesplads {
 };
 
 /// Moves and sizes the form to its stored place; one on a screen that is no longer there is taken as it is.
-void HentPlads(Form& form, const Vinduesplads& plads);
+void RestorePlace(Form& form, const WindowPlace& place);
 /// Stores the form's place unless it is minimised.
-void GemPlads(const Form& form, const Vinduesplads& plads);
+void StorePlace(const Form& form, const WindowPlace& place);
 
 }  // namespace vatro

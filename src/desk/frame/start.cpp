@@ -1,28 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "frame/start.h"
+#include "frame/state.h"
 
 #include <exception>
 #include <functional>
 #include <vector>
 
 #include "codepage.h"
-#include "country/tables.h"
 #include "entry/frmMain.h"
 #include "entry/operators.h"
-#include "exchange/backup.h"
 #include "exchange/equipment.h"
-#include "frame/band_mode.h"
 #include "frame/frmSplash.h"
-#include "frame/log_file.h"
 #include "frame/settings.h"
 #include "frame/station.h"
 #include "keyer/keyer_settings.h"
-#include "keyer/keyer_state.h"
-#include "numbers.h"
 #include "page.h"
 #include "platform.h"
 #include "program.h"
-#include "score/stations.h"
+#include "tables/load_tables.h"
 
 namespace vatro {
 
@@ -30,14 +25,14 @@ using namespace literals;
 
 namespace {
 
-void LæsIndstillinger() {
-    gsUTC = HentTekst(kSettings, "UTC", "-2");
-    gsMyCall = HentTekst(kSettings, "MyCall");
-    gsFDLib = HentTekst(kSettings, "gsFDLib");
-    gsKlasse = HentTekst(kSettings, "gsKlasse", "A");
-    gsTelefon = HentTekst(kSettings, "gsTelefon", "12345678");
-    gsOperatør = HentTekst(kSettings, "LastOP");
-    gbVisInfo = HentFlag(kSettings, "VisInfo2002", true);
+void ReadSettings() {
+    desk().gsUTC = ReadText(kSettings, "UTC", "-2");
+    desk().gsMyCall = ReadText(kSettings, "MyCall");
+    desk().gsFDLib = ReadText(kSettings, "gsFDLib");
+    desk().gsKlasse = ReadText(kSettings, "gsKlasse", "A");
+    desk().gsTelefon = ReadText(kSettings, "gsTelefon", "12345678");
+    desk().gsOperatør = ReadText(kSettings, "LastOP");
+    desk().gbVisInfo = ReadFlag(kSettings, "VisInfo2002", true);
 }
 
 /// As far as it can be done.
@@ -51,34 +46,20 @@ void Try(const std::function<void()>& step) noexcept {
 
 }  // namespace
 
-std::string VersionTekst() {
-    const Version& version = platform().version;
-    return PlainNumber(version.major) + "." + PlainNumber(version.minor) + "." + PlainNumber(version.revision);
+void ResetAll() {
+    ResetDesk();
 }
 
-void NulstilAlt() {
-    NulstilStation();
-    NulstilBåndMode();
-    NulstilLog();
-    NulstilTabeller();
-    NulstilEDR();
-    NulstilOperatør();
-    ResetKeyerState();
-    gsBackupLib.clear();
-    gbAutoTid = 0;
-    gbVisLand = false;
-}
-
-void VisKørerAllerede() {
-    MessageBox afvist;
-    afvist.text = "Der må kun køre een udgave ellers går der kuk i loggen!"_t;
-    afvist.title = "Vatro kører allerede."_t;
-    MsgBox(afvist);
+void ShowAlreadyRunning() {
+    MessageBox refusal;
+    refusal.text = "Der må kun køre een udgave ellers går der kuk i loggen!"_t;
+    refusal.title = "Vatro kører allerede."_t;
+    MsgBox(refusal);
 }
 
 void StoreRunningProgram() noexcept {
     auto* main = static_cast<FrmMain*>(frmMain.Peek());
-    if (main == nullptr || !main->Up()) return;
+    if (main == nullptr || !main->up) return;
     const SettingsBatch together(platform().settings);
     // Not while another handler has its file open.
     Try([main] { GemOperatører(main->Combo1); });
@@ -89,32 +70,32 @@ void StoreRunningProgram() noexcept {
 }
 
 void StartProgram() {
-    NulstilAlt();
+    ResetAll();
     platform().printer.Abandon();
-    LæsIndstillinger();
+    ReadSettings();
     HentCWIndstillinger();
     HentUdstyr();
 
     // Before any table is loaded: two copies would write the same log.
     if (platform().instance.AnotherCopyRuns()) {
-        VisKørerAllerede();
+        ShowAlreadyRunning();
         EndProgram();
     }
 
     frmSplash->Show();
     frmSplash->Refresh();
 
-    if (gsFDLib.empty()) {
-        gsFDLib = platform().files.CurrentDirectory();
+    if (desk().gsFDLib.empty()) {
+        desk().gsFDLib = platform().files.CurrentDirectory();
         // Another key than the one read above, which gets the value at a regular end: both are meant.
-        GemTekst(kSettings, "FDLib", gsFDLib);
+        StoreText(kSettings, "FDLib", desk().gsFDLib);
     }
 
-    frmSplash->Vis("Indlæser Lande"_t);
+    frmSplash->ShowStage("Indlæser Lande"_t);
     IndlæsLande();
-    frmSplash->Vis("Indlæser Præfixliste."_t);
+    frmSplash->ShowStage("Indlæser Præfixliste."_t);
     IndlæsRefPfx();
-    frmSplash->Vis("Indlæser EDR stationer."_t);
+    frmSplash->ShowStage("Indlæser EDR stationer."_t);
     IndlæsEDR();
 
     frmMain.Load();

@@ -1,58 +1,43 @@
 // SPDX-License-Identifier: MIT
 #include "frame/station.h"
+#include "frame/state.h"
 
 #include "numbers.h"
 #include "platform.h"
 
 namespace vatro {
 
-std::string gsFDLib;
-std::string gsMyCall;
-std::string gsKlasse;
-std::string gsTelefon;
-std::string gsUTC;
-bool gbVisInfo = false;
-
-DateTime NuUTC() {
-    return AddHours(platform().clock.Now(), ToInt16(ToNumber(gsUTC)));
+DateTime UtcNow() {
+    return AddHours(platform().clock.Now(), ToInt16(ToNumber(desk().gsUTC)));
 }
 
-std::string NuUTCTid() {
-    const DateTime nu = NuUTC();
-    return FormatTime(nu.hour, nu.minute);
+std::string UtcTimeText() {
+    const DateTime now = UtcNow();
+    return FormatTime(now.hour, now.minute);
 }
 
-std::string Sti(const std::string& bibliotek, std::string_view navn) {
-    std::string sti = bibliotek;
-    sti += platform().files.Separator();
-    sti += navn;
-    return sti;
+std::string PathIn(const std::string& directory, std::string_view name) {
+    std::string path = directory;
+    path += platform().files.Separator();
+    path += name;
+    return path;
 }
 
-std::string BibliotekAf(const std::string& sti) {
-    const std::size_t skel = sti.find_last_of(platform().files.Separator());
-    if (skel == std::string::npos) throw RunTimeError(Failure::InvalidCall);
-    return sti.substr(0, skel);
+std::string DirectoryOf(const std::string& path) {
+    const std::size_t separator = path.find_last_of(platform().files.Separator());
+    if (separator == std::string::npos) throw RunTimeError(Failure::InvalidCall);
+    return path.substr(0, separator);
 }
 
-std::string VælgMærkefil(std::string_view navn, std::string_view titel) {
+std::string ChooseMarkerFile(std::string_view name, std::string_view title) {
     FileDialog dialog;
-    dialog.fileName = navn;
-    dialog.title = titel;
-    dialog.filter = std::string(navn) + " (*.txt)|*.txt";
+    dialog.fileName = name;
+    dialog.title = title;
+    dialog.filter = std::string(name) + " (*.txt)|*.txt";
     dialog.defaultExtension = "txt";
     dialog.overwritePrompt = true;
     dialog.markerFile = true;
     return platform().dialogs.SaveFile(dialog);
-}
-
-void NulstilStation() {
-    gsFDLib.clear();
-    gsMyCall.clear();
-    gsKlasse.clear();
-    gsTelefon.clear();
-    gsUTC.clear();
-    gbVisInfo = false;
 }
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The station as the settings tell it, and the clock of its log: universal time.
+// The clock of the log, universal time, and the paths of the program's files.
 #pragma once
 
 #include <string>
@@ -9,37 +9,19 @@
 
 namespace vatro {
 
-/// The program's own data directory, without a final separator: lande.txt, refpfx.txt, edr.txt, operator.txt, cty.dat.
-/// Set by the start procedure only.
-extern std::string gsFDLib;
-/// The station's own call. Changed by the dialogue of the contest call.
-extern std::string gsMyCall;
-/// Contest class, "A" or "B". Changed by the menu.
-extern std::string gsKlasse;
-/// Telephone number for the summary. Changed by the dialogue of the contest call.
-extern std::string gsTelefon;
-/// A whole number of hours as text, -11 to 12: what is added to local time to get universal time. Changed by the
-/// dialogue of the offset.
-extern std::string gsUTC;
-/// Whether the start information is shown at the next start.
-extern bool gbVisInfo;
-
 /// Universal time now: the local clock plus gsUTC hours. Fails with 13 if gsUTC is no number, with 6 beyond 16 bits.
-DateTime NuUTC();
+DateTime UtcNow();
 /// "Hh:Nn" of now, as the time field and the messages show it.
-std::string NuUTCTid();
+std::string UtcTimeText();
 
-/// `navn` in the directory `bibliotek`.
-std::string Sti(const std::string& bibliotek, std::string_view navn);
+/// `name` in the directory `directory`.
+std::string PathIn(const std::string& directory, std::string_view name);
 
 /// The directory in which a file lies, without a final separator. Fails with 5 if its path names none.
-std::string BibliotekAf(const std::string& sti);
+std::string DirectoryOf(const std::string& path);
 
 /// Asks for a directory by the file that the user picks or creates in it, as file dialogues offer no directory itself. Gives
 /// the file's path, which is not created yet; fails with 32755 on Cancel.
-std::string VælgMærkefil(std::string_view navn, std::string_view titel);
-
-/// All state of a run as it is before the start.
-void NulstilStation();
+std::string ChooseMarkerFile(std::string_view name, std::string_view title);
 
 }  // namespace vatro

@@ -6,6 +6,7 @@
 #include "codepage.h"
 #include "entry/keys.h"
 #include "exchange/equipment.h"
+#include "frame/state.h"
 #include "keyer/frmCWTX.h"
 #include "keyer/keyer_settings.h"
 #include "keyer/texts.h"
@@ -62,8 +63,8 @@ FrmCW::FrmCW()
     for (TextBox& field : Text1) {
         order.push_back(&field);
         field.KeyFilter = [](KeyCode& key) {
-            key = StorTast(key);
-            FiltrerTast(key, kTextCharacters);
+            key = UpperKey(key);
+            FilterKey(key, kTextCharacters);
         };
     }
     order.insert(order.end(), {&txtWPM, &txtTone, &HScroll1, &optRST[0], &optRST[1], &optLobenr[0], &optLobenr[1]});
@@ -75,7 +76,7 @@ FrmCW::FrmCW()
 }
 
 void FrmCW::Form_Load() {
-    const KeyerState& cw = keyerState();
+    const KeyerState& cw = desk().cw;
     txtWPM.SetText(PlainNumber(cw.giCWWPM));
     txtTone.SetText(PlainNumber(cw.giCWTone));
     HScroll1.SetValue(std::clamp<int>(cw.glCWVolume, HScroll1.Limits().min, HScroll1.Limits().max));
@@ -96,7 +97,7 @@ void FrmCW::cmdReset_Click() {
 }
 
 void FrmCW::cmdOK_Click() {
-    KeyerState& cw = keyerState();
+    KeyerState& cw = desk().cw;
     for (std::size_t i = 0; i < kCwTextCount; ++i) cw.CWTekster[i] = Text1[i].Text();
 
     const double wpm = NumericValue(txtWPM.Text());

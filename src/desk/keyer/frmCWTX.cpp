@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/frmCWTX.h"
 
-#include "frame/station.h"
+#include "frame/state.h"
+#include "front.h"
 #include "keyer/frmAfslut.h"
-#include "keyer/keyer_state.h"
 #include "morse/text_codes.h"
 #include "platform.h"
 
@@ -54,7 +54,7 @@ void FrmCWTX::Form_QueryUnload(bool& Cancel) {
     SetHourglass(true);
     frmAfslut->Show();
     for (SoundEvent& event : CWEvent) {
-        platform().front.DoEvents();
+        InstalledFront().DoEvents();
         if (event == 0) continue;
         platform().sound.DestroyEvent(event);
         event = 0;
@@ -72,7 +72,7 @@ void FrmCWTX::ReleaseSound() {
 
 void FrmCWTX::DanLydBuffer() {
     ReleaseSound();
-    KeyerState& cw = keyerState();
+    KeyerState& cw = desk().cw;
     cw.keyer.SetSpeed(cw.giCWWPM);
     CWBuffer = soundCard_->CreateBuffer({.samplesPerSecond = kSamplesPerSecond, .samples = kBufferSamples});
     const PositionNotification ends[]{{kHalfSamples - 1, CWEvent[0]}, {kBufferSamples - 1, CWEvent[1]}};
@@ -83,7 +83,7 @@ void FrmCWTX::DanLydBuffer() {
 
 void FrmCWTX::StartCW() {
     ended_ = false;
-    keyerState().keyer.Begin();
+    desk().cw.keyer.Begin();
     FillHalf(Half::First);
     FillHalf(Half::Second);
     CWBuffer->SetCurrentPosition(0);
@@ -97,15 +97,15 @@ void FrmCWTX::StopCW() {
         CWBuffer->Stop();
         CWBuffer->SetCurrentPosition(0);
     }
-    keyerState().keyer.ResetPosition();
+    desk().cw.keyer.ResetPosition();
 }
 
 void FrmCWTX::cmdTX_Click() {
     if (!ready_) return;
-    KeyerState& cw = keyerState();
+    KeyerState& cw = desk().cw;
     cw.gsCWNummer = NumberAsSent(cw.gsCWNummer, cw.gsCWNummerFormat);
     cw.gsCWRST = ReportAsSent(cw.gsCWRST, cw.gsCWRSTFormat);
-    const CodeValues values{.call = cw.gsCWCall, .report = cw.gsCWRST, .number = cw.gsCWNummer, .ownCall = gsMyCall};
+    const CodeValues values{.call = cw.gsCWCall, .report = cw.gsCWRST, .number = cw.gsCWNummer, .ownCall = desk().gsMyCall};
     cw.keyer.SetText(DanCWTekst(cw.gsCWRaa, values), cw.giCWFarnsworth);
     Text1.SetText(cw.keyer.Place().gsCWTekst);
     StartCW();
@@ -130,7 +130,7 @@ void FrmCWTX::DirectXEvent_DXCallback(SoundEvent event) {
 }
 
 bool FrmCWTX::FillHalf(Half half) {
-    const FilledHalf filled = keyerState().keyer.Fill(half);
+    const FilledHalf filled = desk().cw.keyer.Fill(half);
     CWBuffer->Write(filled.first, filled.samples);
     return filled.active;
 }

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "frame/settings.h"
-#include "keyer/keyer_state.h"
+#include "frame/state.h"
 #include "morse/text_codes.h"
 #include "numbers.h"
 
@@ -24,31 +24,31 @@ std::string TextKey(std::size_t text) {
 }
 
 std::int16_t ReadShort(std::string_view key, int fallback) {
-    return static_cast<std::int16_t>(HentTal(kSection, key, fallback));
+    return static_cast<std::int16_t>(ReadNumber(kSection, key, fallback));
 }
 
 }  // namespace
 
 void HentCWIndstillinger() {
-    KeyerState& cw = keyerState();
+    KeyerState& cw = desk().cw;
     cw.giCWWPM = ReadShort("WPM", 20);
     cw.giCWTone = ReadShort("Tone", 800);
-    cw.glCWVolume = ToInt32(ToNumber(HentTekst(kSection, "Volume", "10000")));
-    cw.giCWFarnsworth = static_cast<std::int16_t>(std::min(HentTal(kSection, "Farnsworth", 0), kMaxFarnsworth));
-    cw.gsCWNummerFormat = HentTekst(kSection, "N", kNumberWithZeros);
-    cw.gsCWRSTFormat = HentTekst(kSection, "T", kReportInFigures);
-    for (std::size_t i = 0; i < kCwTextCount; ++i) cw.CWTekster[i] = HentTekst(kSection, TextKey(i), kInitialTexts[i]);
+    cw.glCWVolume = ToInt32(ToNumber(ReadText(kSection, "Volume", "10000")));
+    cw.giCWFarnsworth = static_cast<std::int16_t>(std::min(ReadNumber(kSection, "Farnsworth", 0), kMaxFarnsworth));
+    cw.gsCWNummerFormat = ReadText(kSection, "N", kNumberWithZeros);
+    cw.gsCWRSTFormat = ReadText(kSection, "T", kReportInFigures);
+    for (std::size_t i = 0; i < kCwTextCount; ++i) cw.CWTekster[i] = ReadText(kSection, TextKey(i), kInitialTexts[i]);
 }
 
 void GemCWIndstillinger() {
-    const KeyerState& cw = keyerState();
-    GemTal(kSection, "WPM", cw.giCWWPM);
-    GemTal(kSection, "Tone", cw.giCWTone);
-    GemTal(kSection, "Volume", cw.glCWVolume);
-    GemTal(kSection, "Farnsworth", cw.giCWFarnsworth);
-    GemTekst(kSection, "N", cw.gsCWNummerFormat);
-    GemTekst(kSection, "T", cw.gsCWRSTFormat);
-    for (std::size_t i = 0; i < kCwTextCount; ++i) GemTekst(kSection, TextKey(i), cw.CWTekster[i]);
+    const KeyerState& cw = desk().cw;
+    StoreNumber(kSection, "WPM", cw.giCWWPM);
+    StoreNumber(kSection, "Tone", cw.giCWTone);
+    StoreNumber(kSection, "Volume", cw.glCWVolume);
+    StoreNumber(kSection, "Farnsworth", cw.giCWFarnsworth);
+    StoreText(kSection, "N", cw.gsCWNummerFormat);
+    StoreText(kSection, "T", cw.gsCWRSTFormat);
+    for (std::size_t i = 0; i < kCwTextCount; ++i) StoreText(kSection, TextKey(i), cw.CWTekster[i]);
 }
 
 }  // namespace vatro

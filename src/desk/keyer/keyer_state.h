@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the handlers of the keyer share: its settings, the values of the last send, and the keyer itself.
+// What the handlers of the keyer share: its settings, the values of the last send, and the keyer itself. Part of the state of the
+// desk (frame/state.h).
 #pragma once
 
 #include <array>
@@ -43,11 +44,5 @@ struct KeyerState {
     /// The text under way and its place in it, and the samples. frmCWTX drives it.
     Keyer keyer;
 };
-
-/// The one state of the keyer.
-KeyerState& keyerState();
-
-/// Makes it anew, as it is before a start.
-void ResetKeyerState();
 
 }  // namespace vatro

@@ -3,8 +3,8 @@
 
 #include "entry/frmMain.h"
 #include "entry/qso_fields.h"
+#include "frame/state.h"
 #include "keyer/frmCWTX.h"
-#include "keyer/keyer_state.h"
 #include "log/contact_line.h"
 
 namespace vatro {
@@ -12,20 +12,20 @@ namespace vatro {
 namespace {
 
 /// One column more than the call has, which only a note can fill.
-constexpr Felt kCallAndNext{kCall.fra, kCall.bredde + 1};
+constexpr Field kCallAndNext{kCall.from, kCall.width + 1};
 
 /// With an empty field and an empty log the values stay those of the last send.
 void TakeValues(const FrmMain& main) {
-    KeyerState& cw = keyerState();
-    if (!main.Text1[kCallFelt].Text().empty()) {
-        cw.gsCWCall = main.Text1[kCallFelt].Text();
-        cw.gsCWRST = main.Text1[kRstSendtFelt].Text();
-        cw.gsCWNummer = main.Text1[kNrSendtFelt].Text();
+    KeyerState& cw = desk().cw;
+    if (!main.Text1[kCallField].Text().empty()) {
+        cw.gsCWCall = main.Text1[kCallField].Text();
+        cw.gsCWRST = main.Text1[kReportSentField].Text();
+        cw.gsCWNummer = main.Text1[kNumberSentField].Text();
     } else if (main.List1.ListCount() > 0) {
         const std::string& last = main.List1.Items().back();
-        cw.gsCWCall = kCallAndNext.TrimmetAf(last);
-        cw.gsCWRST = kRstSendt.TrimmetAf(last);
-        cw.gsCWNummer = kNrSendt.TrimmetAf(last);
+        cw.gsCWCall = kCallAndNext.TrimmedOf(last);
+        cw.gsCWRST = kReportSent.TrimmedOf(last);
+        cw.gsCWNummer = kNumberSent.TrimmedOf(last);
     }
 }
 
@@ -36,7 +36,7 @@ void SendCW(std::string_view text) {
     main.SetEnabled(false);
     frmCWTX.Load();
     if (frmCWTX->Ready()) {
-        keyerState().gsCWRaa = text;
+        desk().cw.gsCWRaa = text;
         TakeValues(main);
         frmCWTX->Show();
         frmCWTX->cmdTX_Click();
@@ -45,7 +45,7 @@ void SendCW(std::string_view text) {
 }
 
 void SetCwMenuTekster() {
-    for (std::size_t i = 0; i < kCwTextCount; ++i) frmMain->mnuCWTXT[i].SetCaption(keyerState().CWTekster[i]);
+    for (std::size_t i = 0; i < kCwTextCount; ++i) frmMain->mnuCWTXT[i].SetCaption(desk().cw.CWTekster[i]);
 }
 
 }  // namespace vatro

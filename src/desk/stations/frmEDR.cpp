@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "stations/frmEDR.h"
+#include "frame/state.h"
 
 #include "codepage.h"
 #include "frame/settings.h"
+#include "front.h"
 #include "platform.h"
 #include "score/stations.h"
 
@@ -12,45 +14,45 @@ using namespace literals;
 
 namespace {
 
-constexpr Vinduesplads kPlads{"EDR", 2000, 2000, 6000, 6000};
+constexpr WindowPlace kPlace{"EDR", 2000, 2000, 6000, 6000};
 /// Height of the button, in twips.
-constexpr int kKnapHøjde = 495;
-constexpr int kKolonner = 4;
-constexpr int kTwipsPrPunkt = 20;
+constexpr int kButtonHeight = 495;
+constexpr int kColumns = 4;
+constexpr int kTwipsPerPoint = 20;
 /// Only a measure of one column: seven characters of a wide call.
-constexpr std::string_view kBredtCall = "QQ9MMM ";
+constexpr std::string_view kWideCall = "QQ9MMM ";
 
-const Font kVinduesskrift{"MS Sans Serif", 8.25};
+const Font kWindowFont{"MS Sans Serif", 8.25};
 
 }  // namespace
 
-FrmEDR::FrmEDR() : Form("frmEDR", FormKind::Tool, ""), List1(*this, "List1", {}, kKolonner), cmdLuk(*this, "cmdLuk", "&Luk") {
+FrmEDR::FrmEDR() : Form("frmEDR", FormKind::Tool, ""), List1(*this, "List1", {}, kColumns), cmdLuk(*this, "cmdLuk", "&Luk") {
     SetTabOrder({&List1, &cmdLuk});
     cmdLuk.Click = [this] { Unload(); };
 }
 
 void FrmEDR::Form_Load() {
-    HentPlads(*this, kPlads);
+    RestorePlace(*this, kPlace);
     Form_Resize();
 }
 
 void FrmEDR::StoreState() {
-    GemPlads(*this, kPlads);
+    StorePlace(*this, kPlace);
 }
 
 void FrmEDR::Form_Resize() {
-    if (kKnapHøjde * 3 >= Height()) SetHeight(kKnapHøjde * 3);
-    const int mindst = static_cast<int>(kKolonner * platform().front.TextWidth(kBredtCall, kVinduesskrift) * kTwipsPrPunkt);
-    if (mindst >= Width()) SetWidth(mindst);
+    if (kButtonHeight * 3 >= Height()) SetHeight(kButtonHeight * 3);
+    const int minimum = static_cast<int>(kColumns * InstalledFront().TextWidth(kWideCall, kWindowFont) * kTwipsPerPoint);
+    if (minimum >= Width()) SetWidth(minimum);
 }
 
-void VisEDRstns(bool koert) {
+void VisEDRstns(bool worked) {
     frmEDR->List1.Clear();
-    frmEDR->SetCaption(koert ? "Kørte EDR stationer"_t : "Ikke kørte EDR stationer"_t);
+    frmEDR->SetCaption(worked ? "Kørte EDR stationer"_t : "Ikke kørte EDR stationer"_t);
     frmEDR->Show();
-    for (int i = 1; i <= EDRIBrug(); ++i) {
-        const EDRRec& station = EDRstn[static_cast<std::size_t>(i)];
-        frmEDR->List1.AddItem(station.Wkd == koert ? std::string(station.Linje.Padded().substr(0, kEdrCall)) : "________");
+    for (int i = 1; i <= desk().stations.StationsInUse(); ++i) {
+        const EDRRec& station = desk().stations.EDRstn[static_cast<std::size_t>(i)];
+        frmEDR->List1.AddItem(station.Wkd == worked ? std::string(station.Linje.Padded().substr(0, kEdrCall)) : "________");
     }
 }
 

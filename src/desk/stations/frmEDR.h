@@ -22,6 +22,6 @@ inline FormSlot<FrmEDR> frmEDR{"frmEDR"};
 
 /// Fills and shows the window. Every station keeps its place, so that the lists of worked and of not worked stations can be
 /// laid over each other: one that does not belong is a row of underscores.
-void VisEDRstns(bool koert);
+void VisEDRstns(bool worked);
 
 }  // namespace vatro

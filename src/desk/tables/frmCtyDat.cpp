@@ -9,9 +9,9 @@ namespace vatro {
 
 namespace {
 
-constexpr int kMinut = 60000;
+constexpr int kMinute = 60000;
 /// Pictures of the bar on its way from one end to the other.
-constexpr int kBilleder = 100;
+constexpr int kRepaints = 100;
 
 }  // namespace
 
@@ -30,26 +30,26 @@ void FrmCtyDat::Form_Load() {
 }
 
 void FrmCtyDat::Timer1_Timer() {
-    if (Timer1.Interval() != kMinut) Timer1.SetInterval(kMinut);
+    if (Timer1.Interval() != kMinute) Timer1.SetInterval(kMinute);
     // The date and the time that the panels show are never set: the day from which dates are counted, and no time. That is
     // meant so.
     sbStatusBar.SetPanel(2, "30.12.1899");
     sbStatusBar.SetPanel(3, "");
 }
 
-void FrmCtyDat::Vis(std::string_view hvad) {
-    sbStatusBar.SetPanel(1, hvad);
+void FrmCtyDat::ShowStage(std::string_view stage) {
+    sbStatusBar.SetPanel(1, stage);
     Refresh();
 }
 
-void FrmCtyDat::Begynd(int rækker) {
-    ProgressBar1.SetMax(rækker);
+void FrmCtyDat::Begin(int rows) {
+    ProgressBar1.SetMax(rows);
     ProgressBar1.SetValue(0);
-    næsteBillede_ = 0;
+    nextPaint_ = 0;
 }
 
-void FrmCtyDat::MalBjælke(int række) {
-    næsteBillede_ = række + std::max(ProgressBar1.Max() / kBilleder, 1);
+void FrmCtyDat::PaintBar(int row) {
+    nextPaint_ = row + std::max(ProgressBar1.Max() / kRepaints, 1);
     Refresh();
 }
 

@@ -20,21 +20,21 @@ public:
     void Form_Load() override;
 
     /// Tells what is being done, at once.
-    void Vis(std::string_view hvad);
+    void ShowStage(std::string_view stage);
     /// Empties the bar; it fills with so many rows.
-    void Begynd(int rækker);
+    void Begin(int rows);
     /// Moves the bar to a row. It is painted some hundred times in a run and not for every row.
-    void Trin(int række) {
-        ProgressBar1.SetValue(række);
-        if (række >= næsteBillede_) MalBjælke(række);
+    void Advance(int row) {
+        ProgressBar1.SetValue(row);
+        if (row >= nextPaint_) PaintBar(row);
     }
 
 private:
     void Timer1_Timer();
-    void MalBjælke(int række);
+    void PaintBar(int row);
 
     /// The row at which the bar is painted next.
-    int næsteBillede_ = 0;
+    int nextPaint_ = 0;
 };
 
 inline FormSlot<FrmCtyDat> frmCtyDat{"frmCtyDat"};

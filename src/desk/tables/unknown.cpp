@@ -1,44 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "tables/unknown.h"
+#include "frame/state.h"
 
 #include <string>
 
 #include "columns.h"
-#include "country/lookup.h"
-#include "country/tables.h"
 #include "entry/frmMain.h"
-#include "frame/band_mode.h"
 #include "frame/log_file.h"
 #include "log/contact_line.h"
 
 namespace vatro {
 
-void ResetLande() {
-    for (int i = 1; i <= LandeIBrug(); ++i) Lande[static_cast<std::size_t>(i)].Wkd = false;
+void GemUkendt(std::string_view line) {
+    std::string unknownLine = desk().gsBand;
+    unknownLine += desk().gsMode == "CW" ? " CW  " : " SSB ";
+    unknownLine += line;
+    AppendLine("ukendt.txt", unknownLine);
 }
 
-void GemUkendt(std::string_view linje) {
-    std::string ukendt = gsBand;
-    ukendt += gsMode == "CW" ? " CW  " : " SSB ";
-    ukendt += linje;
-    TilføjLinje("ukendt.txt", ukendt);
-}
-
-void VisLandNu() {
+void ShowCountryNow() {
     std::string call = frmMain->Text1[1].Text();
     if (call.empty()) {
-        const ListBox& log = frmMain->List1;
-        if (log.ListCount() == 0) return;
+        const auto& lines = desk().log.Lines();
+        if (lines.empty()) return;
         // One column more than the call has, which is always blank.
-        call = Trim(Columns(log.List(log.ListCount() - 1), kCall.fra, kCall.bredde + 1));
+        call = Trim(Columns(lines.back(), kCall.from, kCall.width + 1));
         if (call.empty()) return;
     }
-    const bool vist = gbVisLand;
-    gbVisLand = true;
-    std::string tekst;
-    LandStatusTekst(call, tekst);
-    frmMain->sbStatusBar.SetPanel(1, tekst);
-    gbVisLand = vist;
+    frmMain->sbStatusBar.SetPanel(1, desk().countries.LandStatusTekst(call).text);
 }
 
 }  // namespace vatro

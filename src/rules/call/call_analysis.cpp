@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "call/call_analysis.h"
 
-#include <array>
 #include <initializer_list>
 
 #include "columns.h"
@@ -11,85 +10,78 @@ namespace vatro {
 namespace {
 
 /// The last two characters of a call are looked for in here as a substring.
-constexpr std::string_view kTalsuffikser = "/1/2/3/4/5/6/7/8/9/0";
-constexpr std::string_view kCifre = "1234567890";
+constexpr std::string_view kDigitSuffixes = "/1/2/3/4/5/6/7/8/9/0";
+constexpr std::string_view kDigits = "1234567890";
 
-bool ErCiffer(char c) {
-    return kCifre.find(c) != std::string_view::npos;
+bool IsDecimalDigit(char c) {
+    return kDigits.find(c) != std::string_view::npos;
 }
 
-bool HarTalsuffiks(std::string_view call) {
-    return call.size() >= 2 && kTalsuffikser.find(Right(call, 2)) != std::string_view::npos;
-}
-
-/// Cuts the ending off if the call has it.
-bool Fjern(std::string& call, std::string_view endelse) {
-    if (!call.ends_with(endelse)) return false;
-    call.resize(call.size() - endelse.size());
-    return true;
+bool HasDigitSuffix(std::string_view call) {
+    return call.size() >= 2 && kDigitSuffixes.find(Right(call, 2)) != std::string_view::npos;
 }
 
 /// One pass over the endings, each test on what the tests before it have left.
-bool FjernEndelser(std::string& call, std::initializer_list<std::string_view> endelser) {
-    bool fjernet = false;
-    for (const std::string_view endelse : endelser) fjernet |= Fjern(call, endelse);
-    return fjernet;
+std::string_view WithoutEndings(std::string_view call, std::initializer_list<std::string_view> endings) {
+    for (const std::string_view ending : endings)
+        if (call.ends_with(ending)) call.remove_suffix(ending.size());
+    return call;
 }
 
-bool StripRunde(std::string& call) {
-    bool fjernet = Fjern(call, "/");
-    if (HarTalsuffiks(call)) {
-        call.resize(call.size() - 2);
-        fjernet = true;
-    }
-    fjernet |= FjernEndelser(call, {"/P", "/M", "/A", "/MM", "/AM", "/QRP", "/QRPP"});
-    return fjernet;
+std::string_view StrippedOnce(std::string_view call) {
+    call = WithoutEndings(call, {"/"});
+    if (HasDigitSuffix(call)) call.remove_suffix(2);
+    return WithoutEndings(call, {"/P", "/M", "/A", "/MM", "/AM", "/QRP", "/QRPP"});
+}
+
+/// Other endings than those of the base call, on purpose: no "/AM", and a numbered suffix counts only at the very end.
+std::string_view WithoutPortableOnce(std::string_view call) {
+    return WithoutEndings(call, {"/P", "/M", "/A", "/MM", "/QRP", "/QRPP", "/"});
+}
+
+/// What is left when nothing more can be cut off.
+template <class Pass>
+std::string_view UntilNothingGoes(std::string_view call, Pass pass) {
+    for (std::string_view shorter = pass(call); shorter.size() != call.size(); shorter = pass(call)) call = shorter;
+    return call;
 }
 
 }  // namespace
 
-void StripCall(std::string& call) {
-    if (call.find('/') == std::string::npos) return;
-    while (StripRunde(call)) {
-    }
-    const std::size_t streg = call.find('/');
-    if (streg == std::string::npos) return;
+std::string StripCall(std::string_view call) {
+    if (call.find('/') == std::string_view::npos) return std::string(call);
+    const std::string_view base = UntilNothingGoes(call, StrippedOnce);
+    const std::size_t slash = base.find('/');
+    if (slash == std::string_view::npos) return std::string(base);
     // The longer side is the base call; the text behind the slash wins where neither is.
-    const std::size_t halv = (call.size() + 1) / 2;
-    if (halv >= streg + 1)
-        call.erase(0, streg + 1);
-    else
-        call.erase(streg);
+    const std::size_t half = (base.size() + 1) / 2;
+    return std::string(half >= slash + 1 ? base.substr(slash + 1) : base.substr(0, slash));
 }
 
-void FlytTalsuffiks(std::string& call) {
-    if (!HarTalsuffiks(call)) return;
-    const char ciffer = call.back();
-    call.resize(call.size() - 2);
-    for (std::size_t i = call.size(); i-- > 0;)
-        if (i + 1 < call.size() && ErCiffer(call[i]) && !ErCiffer(call[i + 1])) call[i] = ciffer;
-}
-
-void findPfxCall(std::string_view call, std::string& pfxcall) {
-    pfxcall = call;
-    if (call.size() < 2 || call.find('/') == std::string_view::npos) return;
-    FlytTalsuffiks(pfxcall);
-    // Other endings than those of the base call, on purpose: no "/AM", and a numbered suffix counts only at the very end.
-    while (FjernEndelser(pfxcall, {"/P", "/M", "/A", "/MM", "/QRP", "/QRPP", "/"})) {
-    }
-    const std::size_t streg = pfxcall.find('/');
-    if (streg == std::string::npos) return;
-    if (const std::size_t anden = pfxcall.find('/', streg + 1); anden != std::string::npos) {
+std::string findPfxCall(std::string_view call) {
+    if (call.size() < 2 || call.find('/') == std::string_view::npos) return std::string(call);
+    const std::string moved = MoveDigitSuffix(call);
+    const std::string_view text = UntilNothingGoes(moved, WithoutPortableOnce);
+    const std::size_t slash = text.find('/');
+    if (slash == std::string_view::npos) return std::string(text);
+    if (const std::size_t second = text.find('/', slash + 1); second != std::string_view::npos) {
         // Three pieces: the middle one goes, and whatever stands behind a third slash.
-        const std::size_t tredje = pfxcall.find('/', anden + 1);
-        pfxcall = pfxcall.substr(0, streg) + pfxcall.substr(anden, tredje == std::string::npos ? tredje : tredje - anden);
-        return;
+        const std::size_t third = text.find('/', second + 1);
+        return std::string(text.substr(0, slash)).append(text.substr(second, third == std::string_view::npos ? third : third - second));
     }
     // The shorter side carries the country's prefix; the text before the slash wins where neither is.
-    if (static_cast<double>(pfxcall.size() + 1) / 2 < static_cast<double>(streg + 1))
-        pfxcall.erase(0, streg + 1);
-    else
-        pfxcall.erase(streg);
+    const bool secondShorter = static_cast<double>(text.size() + 1) / 2 < static_cast<double>(slash + 1);
+    return std::string(secondShorter ? text.substr(slash + 1) : text.substr(0, slash));
+}
+
+std::string MoveDigitSuffix(std::string_view call) {
+    std::string moved(call);
+    if (!HasDigitSuffix(call)) return moved;
+    const char digit = moved.back();
+    moved.resize(moved.size() - 2);
+    for (std::size_t i = moved.size(); i-- > 0;)
+        if (i + 1 < moved.size() && IsDecimalDigit(moved[i]) && !IsDecimalDigit(moved[i + 1])) moved[i] = digit;
+    return moved;
 }
 
 }  // namespace vatro

@@ -10,75 +10,75 @@ namespace vatro {
 
 namespace {
 
-/// Where the character stands, from the offset `fra` on; it must stand somewhere.
-std::size_t Find(std::string_view tekst, char tegn, std::size_t fra = 0) {
-    const std::size_t plads = tekst.find(tegn, fra);
-    if (plads == std::string_view::npos) throw RunTimeError(Failure::InvalidCall);
-    return plads;
+/// Where the character stands, from the offset `from` on; it must stand somewhere.
+std::size_t Find(std::string_view text, char character, std::size_t from = 0) {
+    const std::size_t place = text.find(character, from);
+    if (place == std::string_view::npos) throw RunTimeError(Failure::InvalidCall);
+    return place;
 }
 
 /// From the column up to the first ":" at or after the next column.
-std::string_view TilKolon(std::string_view linje, std::size_t kolonne) {
-    return linje.substr(kolonne - 1, Find(linje, ':', kolonne) - kolonne + 1);
+std::string_view UpToColon(std::string_view line, std::size_t column) {
+    return line.substr(column - 1, Find(line, ':', column) - column + 1);
 }
 
 /// The zone between two brackets with leading zeros, its last two characters; nothing without the opening one.
-void LæsZone(std::string_view tekst, char fra, char til, FixedText<2>& zone) {
-    const std::size_t start = tekst.find(fra);
+void ReadZone(std::string_view text, char from, char to, FixedText<2>& zone) {
+    const std::size_t start = text.find(from);
     if (start == std::string_view::npos) return;
-    const std::size_t slut = Find(tekst, til, start);
-    std::string cifre = "00";
-    cifre += tekst.substr(start + 1, slut - start - 1);
-    zone = Right(cifre, 2);
+    const std::size_t end = Find(text, to, start);
+    std::string digits = "00";
+    digits += text.substr(start + 1, end - start - 1);
+    zone = Right(digits, 2);
 }
 
-void Fjern(std::string_view& tekst, char fra, char til) {
-    if (tekst.ends_with(til)) tekst = tekst.substr(0, Find(tekst, fra));
+void CutBracket(std::string_view& text, char from, char to) {
+    if (text.ends_with(to)) text = text.substr(0, Find(text, from));
 }
 
 }  // namespace
 
-CtyHoved LæsCtyHoved(std::string_view linje) {
-    CtyHoved hoved;
-    hoved.navn = linje.substr(0, Find(linje, ':'));
-    hoved.kontinent = TilKolon(linje, 37);
-    hoved.pfx = TilKolon(linje, 70);
-    hoved.cqZone = Columns(linje, 27, 2);
-    hoved.ituZone = Columns(linje, 32, 2);
-    hoved.bredde = Columns(linje, 41, 7);
-    hoved.længde = Columns(linje, 51, 7);
-    hoved.tidsZone = Columns(linje, 62, 5);
-    return hoved;
+CtyHeader ReadCtyHeader(std::string_view line) {
+    CtyHeader header;
+    header.name = line.substr(0, Find(line, ':'));
+    header.continent = UpToColon(line, 37);
+    header.prefix = UpToColon(line, 70);
+    header.cqZone = Columns(line, 27, 2);
+    header.ituZone = Columns(line, 32, 2);
+    header.latitude = Columns(line, 41, 7);
+    header.longitude = Columns(line, 51, 7);
+    header.utcOffset = Columns(line, 62, 5);
+    return header;
 }
 
-float LæsCtyTal(std::string_view tekst) {
-    return ToFloat32(NumericValue(tekst));
+float ReadCtyNumber(std::string_view text) {
+    return ToFloat32(NumericValue(text));
 }
 
-std::string_view CtyPoster::NæsteTekst() {
-    const std::size_t start = plads_ - 1;
-    std::size_t slut = linje_.find(',', start);
-    if (slut == std::string_view::npos) slut = Find(linje_, ';', start);
+std::string_view CtyEntryReader::NextText() {
+    const std::size_t start = column_ - 1;
+    std::size_t end = line_.find(',', start);
+    if (end == std::string_view::npos) end = Find(line_, ';', start);
     // Just behind the separator, as a column.
-    plads_ = slut + 2;
-    return linje_.substr(start, slut - start);
+    column_ = end + 2;
+    return line_.substr(start, end - start);
 }
 
-CtyPost CtyPoster::Opdel(std::string_view tekst, const CtyHoved& hoved) {
-    CtyPost post{tekst, hoved.cqZone, hoved.ituZone, false};
-    LæsZone(tekst, '(', ')', post.cqZone);
-    LæsZone(tekst, '[', ']', post.ituZone);
-    if (tekst.starts_with('=')) {
-        post.kald = true;
-        tekst.remove_prefix(1);
+CtyEntry CtyEntryReader::TakeApart(std::string_view text, const CtyHeader& header) {
+    CtyEntry entry{text, header.cqZone, header.ituZone, false};
+    ReadZone(text, '(', ')', entry.cqZone);
+    ReadZone(text, '[', ']', entry.ituZone);
+    if (text.starts_with('=')) {
+        entry.isExactCall = true;
+        text.remove_prefix(1);
     }
     // The two may stand in either order.
     for (int gang = 0; gang < 2; ++gang) {
-        Fjern(tekst, '(', ')');
-        Fjern(tekst, '[', ']');
+        CutBracket(text, '(', ')');
+        CutBracket(text, '[', ']');
     }
-    post.tekst = tekst;
-    return post;
+    entry.text = text;
+    return entry;
 }
 
 }  // namespace vatro

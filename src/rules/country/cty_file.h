@@ -22,56 +22,56 @@
 namespace vatro {
 
 /// Fills the sort key of a prefix up to the width of its field: "å", above all digits and capital letters.
-inline constexpr char kCtyFyld = '\xE5';
+inline constexpr char kCtyFiller = '\xE5';
 
 /// A header line in its fields, which point into the line.
-struct CtyHoved {
-    std::string_view navn;
-    std::string_view kontinent;
-    std::string_view pfx;
+struct CtyHeader {
+    std::string_view name;
+    std::string_view continent;
+    std::string_view prefix;
     std::string_view cqZone;
     std::string_view ituZone;
-    std::string_view bredde;
-    std::string_view længde;
-    std::string_view tidsZone;
+    std::string_view latitude;
+    std::string_view longitude;
+    std::string_view utcOffset;
 
     /// Marked with "*": a country of one contest alone.
-    bool Udelades() const { return pfx.starts_with('*'); }
+    bool IsOmitted() const { return prefix.starts_with('*'); }
 };
 
-/// An item without its marks. `tekst` points into the line.
-struct CtyPost {
-    std::string_view tekst;
+/// An item without its marks. `text` points into the line.
+struct CtyEntry {
+    std::string_view text;
     FixedText<2> cqZone;
     FixedText<2> ituZone;
     /// Had "=" in front.
-    bool kald = false;
+    bool isExactCall = false;
 };
 
 /// Fails with 5 if a ":" is missing behind name, continent or primary prefix.
-CtyHoved LæsCtyHoved(std::string_view linje);
+CtyHeader ReadCtyHeader(std::string_view line);
 
 /// The numeric value of latitude, longitude or UTC offset. Fails with 6 if it is too large.
-float LæsCtyTal(std::string_view tekst);
+float ReadCtyNumber(std::string_view text);
 
 /// The items of a prefix line, one after the other.
-class CtyPoster {
+class CtyEntryReader {
 public:
-    CtyPoster(std::string_view linje, const CtyHoved& hoved) : linje_(linje), hoved_(hoved) {}
+    CtyEntryReader(std::string_view line, const CtyHeader& header) : line_(line), header_(header) {}
     /// Whether another item is expected: a separator at the end of the line has none behind it.
-    bool Flere() const { return plads_ < linje_.size(); }
+    bool HasMore() const { return column_ < line_.size(); }
     /// The next item as it stands. Fails with 5 if neither "," nor ";" follows.
-    std::string_view NæsteTekst();
+    std::string_view NextText();
     /// The next item, taken apart. Fails with 5 as above, and if a bracket of an item has no partner.
-    CtyPost Næste() { return Opdel(NæsteTekst(), hoved_); }
+    CtyEntry Next() { return TakeApart(NextText(), header_); }
 
-    static CtyPost Opdel(std::string_view tekst, const CtyHoved& hoved);
+    static CtyEntry TakeApart(std::string_view text, const CtyHeader& header);
 
 private:
-    std::string_view linje_;
-    const CtyHoved& hoved_;
+    std::string_view line_;
+    const CtyHeader& header_;
     /// Column of the next item.
-    std::size_t plads_ = 5;
+    std::size_t column_ = 5;
 };
 
 }  // namespace vatro

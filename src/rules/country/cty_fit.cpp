@@ -16,279 +16,280 @@ namespace vatro {
 
 namespace {
 
-constexpr std::size_t kLinjeLængde = 78;
+constexpr std::size_t kLineLength = 78;
 
-bool Stjerne(const CtyLand& land) {
-    return land.pfx.starts_with('*');
+bool IsStarred(const CtyCountry& country) {
+    return country.prefix.starts_with('*');
 }
 
 /// An item that stays, and its country.
-struct Sted {
-    const CtyLand* land = nullptr;
-    CtyItem* post = nullptr;
+struct KeptItem {
+    const CtyCountry* country = nullptr;
+    CtyItem* item = nullptr;
 };
 
-bool SammeZoner(const CtyItem& a, const CtyItem& b) {
+bool SameZones(const CtyItem& a, const CtyItem& b) {
     return a.cqZone == b.cqZone && a.ituZone == b.ituZone;
 }
 
 /// The text that is looked up where the call is not found whole.
-std::string Landetekst(const CtyItem& post) {
-    std::string tekst;
-    findPfxCall(post.helt, tekst);
-    return tekst;
+std::string CountryText(const CtyItem& item) {
+    return findPfxCall(item.bare);
 }
 
 /// Whether the row of the item is met by the item's own call.
-bool Opnåelig(const CtyItem& post) {
-    return post.helt.size() <= kPfxLængde || Landetekst(post).starts_with(post.pfx);
+bool IsReachable(const CtyItem& item) {
+    return item.bare.size() <= kPrefixLength || CountryText(item).starts_with(item.prefix);
 }
 
 /// The items that stay, by prefix.
-class Beholdt {
+class KeptItems {
 public:
     /// False if the prefix is there already.
-    bool Tilføj(const Sted& sted) { return steder_.emplace(sted.post->pfx, sted).second; }
-    void Fjern(CtyItem& post) {
-        post.med = false;
-        steder_.erase(post.pfx);
+    bool Add(const KeptItem& place) { return items_.emplace(place.item->prefix, place).second; }
+    void Remove(CtyItem& item) {
+        item.stays = false;
+        items_.erase(item.prefix);
     }
-    std::size_t Antal() const { return steder_.size(); }
-    const Sted* Find(const std::string& pfx) const {
-        const auto fundet = steder_.find(pfx);
-        return fundet == steder_.end() ? nullptr : &fundet->second;
+    std::size_t Count() const { return items_.size(); }
+    const KeptItem* Find(const std::string& prefix) const {
+        const auto found = items_.find(prefix);
+        return found == items_.end() ? nullptr : &found->second;
     }
     /// What gives the item its country without its own row: the longest other one that begins the text, or nothing.
-    const Sted* Ellers(const CtyItem& post) const {
-        const std::string tekst = Landetekst(post);
-        for (std::size_t længde = std::min(tekst.size(), kPfxLængde) + 1; længde-- > 0;)
-            if (const Sted* sted = Find(tekst.substr(0, længde)); sted != nullptr && sted->post->pfx != post.pfx) return sted;
+    const KeptItem* Fallback(const CtyItem& item) const {
+        const std::string text = CountryText(item);
+        for (std::size_t length = std::min(text.size(), kPrefixLength) + 1; length-- > 0;)
+            if (const KeptItem* place = Find(text.substr(0, length)); place != nullptr && place->item->prefix != item.prefix) return place;
         return nullptr;
     }
 
 private:
-    std::unordered_map<std::string, Sted> steder_;
+    std::unordered_map<std::string, KeptItem> items_;
 };
 
-[[noreturn]] void FejlILinje(std::size_t nr, const std::string& hvad) {
-    throw CtyFejl{"linje " + std::to_string(nr) + ": " + hvad};
+[[noreturn]] void FailInLine(std::size_t number, const std::string& what) {
+    throw CtyError{"linje " + std::to_string(number) + ": " + what};
 }
 
 /// All items but those that stand twice, the shortest first; of equal length in the order of the file. What stands twice under
-/// one country goes to `dobbelte`, first those with the same zones.
-std::vector<Sted> Stedfæst(std::vector<CtyLand>& lande, Beholdt& beholdt, std::vector<Sted>& dobbelte, CtyUdeladt& ude) {
-    std::vector<Sted> steder;
-    std::vector<Sted> andreZoner;
-    for (CtyLand& land : lande)
-        for (CtyItem& post : land.poster) {
-            const Sted sted{&land, &post};
-            if (beholdt.Tilføj(sted)) {
-                steder.push_back(sted);
+/// one country goes to `repeated`, first those with the same zones.
+std::vector<KeptItem> CollectItems(std::vector<CtyCountry>& countries, KeptItems& kept, std::vector<KeptItem>& repeated,
+                                   CtyOmissions& omissions) {
+    std::vector<KeptItem> places;
+    std::vector<KeptItem> otherZones;
+    for (CtyCountry& country : countries)
+        for (CtyItem& item : country.items) {
+            const KeptItem place{&country, &item};
+            if (kept.Add(place)) {
+                places.push_back(place);
                 continue;
             }
-            const Sted& første = *beholdt.Find(post.pfx);
-            if (første.land->pfx == land.pfx) {
-                (SammeZoner(*første.post, post) ? dobbelte : andreZoner).push_back(sted);
+            const KeptItem& first = *kept.Find(item.prefix);
+            if (first.country->prefix == country.prefix) {
+                (SameZones(*first.item, item) ? repeated : otherZones).push_back(place);
                 continue;
             }
-            post.med = false;
-            ude.dubletter.push_back(post.tekst);
+            item.stays = false;
+            omissions.duplicates.push_back(item.text);
         }
-    dobbelte.insert(dobbelte.end(), andreZoner.begin(), andreZoner.end());
-    std::stable_sort(steder.begin(), steder.end(), [](const Sted& a, const Sted& b) { return a.post->pfx.size() < b.post->pfx.size(); });
-    return steder;
+    repeated.insert(repeated.end(), otherZones.begin(), otherZones.end());
+    std::stable_sort(places.begin(), places.end(),
+                     [](const KeptItem& a, const KeptItem& b) { return a.item->prefix.size() < b.item->prefix.size(); });
+    return places;
 }
 
 /// Leaves out items that may go until the rest fits.
-template <class MåUd>
-void Udelad(const std::vector<Sted>& steder, Beholdt& beholdt, std::size_t plads, MåUd måUd) {
-    for (const Sted& sted : steder) {
-        if (beholdt.Antal() <= plads) return;
-        if (sted.post->med && måUd(sted, beholdt.Ellers(*sted.post))) beholdt.Fjern(*sted.post);
+template <class MayGo>
+void LeaveOut(const std::vector<KeptItem>& places, KeptItems& kept, std::size_t room, MayGo mayGo) {
+    for (const KeptItem& place : places) {
+        if (kept.Count() <= room) return;
+        if (place.item->stays && mayGo(place, kept.Fallback(*place.item))) kept.Remove(*place.item);
     }
 }
 
 /// Leaves out calls that the program never finds, unless another prefix leads them home all the same.
-void UdeladVildledte(const std::vector<Sted>& steder, Beholdt& beholdt) {
-    Udelad(steder, beholdt, 0, [](const Sted& sted, const Sted* ellers) {
-        return !Opnåelig(*sted.post) && (ellers == nullptr || ellers->land->pfx != sted.land->pfx);
+void LeaveOutMisled(const std::vector<KeptItem>& places, KeptItems& kept) {
+    LeaveOut(places, kept, 0, [](const KeptItem& place, const KeptItem* fallback) {
+        return !IsReachable(*place.item) && (fallback == nullptr || fallback->country->prefix != place.country->prefix);
     });
 }
 
 /// Leaves out calls of full length that stand before all other prefixes of their first character and that no other one
 /// gives: until the program is started again the import's index leads past them.
-void UdeladForreste(const std::vector<Sted>& steder, Beholdt& beholdt) {
-    std::map<std::string, Sted> rækker;
-    for (const Sted& sted : steder) {
-        std::string nøgle = sted.post->pfx;
-        nøgle.resize(kPfxLængde, kCtyFyld);
-        if (sted.post->med) rækker.emplace(nøgle, sted);
+void LeaveOutForemost(const std::vector<KeptItem>& places, KeptItems& kept) {
+    std::map<std::string, KeptItem> rows;
+    for (const KeptItem& place : places) {
+        std::string key = place.item->prefix;
+        key.resize(kPrefixLength, kCtyFiller);
+        if (place.item->stays) rows.emplace(key, place);
     }
-    char indekseret = '\0';
-    for (const auto& [nøgle, sted] : rækker) {
-        if (nøgle.front() == indekseret) continue;
-        if (nøgle.back() == kCtyFyld) {
-            indekseret = nøgle.front();
+    char indexed = '\0';
+    for (const auto& [key, place] : rows) {
+        if (key.front() == indexed) continue;
+        if (key.back() == kCtyFiller) {
+            indexed = key.front();
             continue;
         }
-        const Sted* ellers = beholdt.Ellers(*sted.post);
-        if (ellers == nullptr || ellers->land->pfx != sted.land->pfx) beholdt.Fjern(*sted.post);
+        const KeptItem* fallback = kept.Fallback(*place.item);
+        if (fallback == nullptr || fallback->country->prefix != place.country->prefix) kept.Remove(*place.item);
     }
 }
 
-/// Enters what it costs that the item is left out, where `giver` decides its country now.
-void Bogfør(CtyUdeladt& ude, const Sted& sted, const Sted* giver) {
-    const CtyItem& post = *sted.post;
-    std::vector<std::string>* liste = &ude.intetTabt;
-    if (!Opnåelig(post))
-        liste = &ude.uopnåelige;
-    else if (giver == nullptr || giver->land->pfx != sted.land->pfx)
-        liste = &ude.kald;
-    else if (!SammeZoner(*giver->post, post))
-        liste = &ude.zoner;
-    liste->push_back(post.tekst);
+/// Enters what it costs that the item is left out, where `source` decides its country now.
+void RecordCost(CtyOmissions& omissions, const KeptItem& place, const KeptItem* source) {
+    const CtyItem& item = *place.item;
+    std::vector<std::string>* list = &omissions.nothingLost;
+    if (!IsReachable(item))
+        list = &omissions.unreachable;
+    else if (source == nullptr || source->country->prefix != place.country->prefix)
+        list = &omissions.lostCalls;
+    else if (!SameZones(*source->item, item))
+        list = &omissions.zones;
+    list->push_back(item.text);
 }
 
 }  // namespace
 
-std::vector<std::string> CtyLinjer(std::string_view indhold) {
-    std::vector<std::string> linjer;
-    while (!indhold.empty()) {
-        const std::size_t slut = std::min(indhold.find_first_of("\r\n"), indhold.size());
-        linjer.emplace_back(indhold.substr(0, slut));
-        indhold.remove_prefix(slut);
-        if (indhold.empty()) break;
-        indhold.remove_prefix(indhold.starts_with("\r\n") ? 2 : 1);
+std::vector<std::string> CtyLines(std::string_view content) {
+    std::vector<std::string> lines;
+    while (!content.empty()) {
+        const std::size_t end = std::min(content.find_first_of("\r\n"), content.size());
+        lines.emplace_back(content.substr(0, end));
+        content.remove_prefix(end);
+        if (content.empty()) break;
+        content.remove_prefix(content.starts_with("\r\n") ? 2 : 1);
     }
-    return linjer;
+    return lines;
 }
 
-std::vector<CtyLand> LæsCtyFil(const std::vector<std::string>& linjer) {
-    std::vector<CtyLand> lande;
-    for (std::size_t nr = 0; nr < linjer.size(); ++nr) {
-        CtyLand land;
-        land.hoved = linjer[nr];
+std::vector<CtyCountry> ReadCtyFile(const std::vector<std::string>& lines) {
+    std::vector<CtyCountry> countries;
+    for (std::size_t number = 0; number < lines.size(); ++number) {
+        CtyCountry country;
+        country.header = lines[number];
         try {
-            const CtyHoved hoved = LæsCtyHoved(land.hoved);
-            land.pfx = hoved.pfx.substr(0, kPfxLængde);
-            if (!hoved.Udelades())
-                for (const std::string_view tal : {hoved.bredde, hoved.længde, hoved.tidsZone}) LæsCtyTal(tal);
+            const CtyHeader header = ReadCtyHeader(country.header);
+            country.prefix = header.prefix.substr(0, kPrefixLength);
+            if (!header.IsOmitted())
+                for (const std::string_view figure : {header.latitude, header.longitude, header.utcOffset}) ReadCtyNumber(figure);
             do {
-                if (++nr == linjer.size()) FejlILinje(nr, "filen holder op midt i et land");
-                CtyPoster rest(linjer[nr], hoved);
-                while (rest.Flere()) {
-                    const std::string_view tekst = rest.NæsteTekst();
-                    if (tekst.empty()) FejlILinje(nr + 1, "en post er tom");
+                if (++number == lines.size()) FailInLine(number, "filen holder op midt i et land");
+                CtyEntryReader rest(lines[number], header);
+                while (rest.HasMore()) {
+                    const std::string_view text = rest.NextText();
+                    if (text.empty()) FailInLine(number + 1, "en post er tom");
                     // The import takes it for a part of the item, which at the end of a line could not be written so again.
-                    if (tekst.find(';') != std::string_view::npos) FejlILinje(nr + 1, "';' står inde i en post");
-                    const CtyPost post = CtyPoster::Opdel(tekst, hoved);
-                    land.poster.push_back({std::string(tekst), std::string(post.tekst), std::string(post.tekst.substr(0, kPfxLængde)),
-                                           post.cqZone, post.ituZone, post.kald, true});
+                    if (text.find(';') != std::string_view::npos) FailInLine(number + 1, "';' står inde i en post");
+                    const CtyEntry item = CtyEntryReader::TakeApart(text, header);
+                    country.items.push_back({std::string(text), std::string(item.text), std::string(item.text.substr(0, kPrefixLength)),
+                                             item.cqZone, item.ituZone, item.isExactCall, true});
                 }
-            } while (!linjer[nr].ends_with(';'));
+            } while (!lines[number].ends_with(';'));
         } catch (const RunTimeError&) {
-            FejlILinje(nr + 1, "kan ikke læses");
+            FailInLine(number + 1, "kan ikke læses");
         }
-        lande.push_back(std::move(land));
+        countries.push_back(std::move(country));
     }
-    return lande;
+    return countries;
 }
 
-std::vector<std::string> KontrollerCty(const std::vector<CtyLand>& lande) {
-    std::vector<std::string> fejl;
-    std::size_t antalLande = 0;
-    std::size_t poster = 0;
-    bool udeladt = false;
-    const CtyLand* forrige = nullptr;
-    std::unordered_map<std::string, std::string> landAf;
-    for (const CtyLand& land : lande) {
-        if (Stjerne(land) && !udeladt) {
-            udeladt = true;
+std::vector<std::string> CheckCty(const std::vector<CtyCountry>& countries) {
+    std::vector<std::string> errors;
+    std::size_t countryCount = 0;
+    std::size_t items = 0;
+    bool omitted = false;
+    const CtyCountry* previous = nullptr;
+    std::unordered_map<std::string, std::string> countryOf;
+    for (const CtyCountry& country : countries) {
+        if (IsStarred(country) && !omitted) {
+            omitted = true;
             continue;
         }
-        if (udeladt && Stjerne(land)) fejl.push_back("to lande med * efter hinanden: " + ToUtf8(land.pfx) + " bliver taget med");
+        if (omitted && IsStarred(country))
+            errors.push_back("to lande med * efter hinanden: " + ToUtf8(country.prefix) + " bliver taget med");
         // The import looks for the next header by its last character.
-        if (udeladt && !land.hoved.ends_with(':'))
-            fejl.push_back("overskriften efter et land med * slutter ikke med ':': " + ToUtf8(land.hoved));
-        udeladt = false;
-        ++antalLande;
-        poster += land.poster.size();
-        if (forrige != nullptr && forrige->pfx >= land.pfx)
-            fejl.push_back(ToUtf8(land.pfx) + " står ikke i rækkefølge efter " + ToUtf8(forrige->pfx));
-        forrige = &land;
-        for (const CtyItem& post : land.poster) {
-            const auto [sted, ny] = landAf.emplace(post.pfx, land.pfx);
-            if (!ny && sted->second != land.pfx)
-                fejl.push_back(ToUtf8(post.pfx) + " står under både " + ToUtf8(sted->second) + " og " + ToUtf8(land.pfx));
+        if (omitted && !country.header.ends_with(':'))
+            errors.push_back("overskriften efter et land med * slutter ikke med ':': " + ToUtf8(country.header));
+        omitted = false;
+        ++countryCount;
+        items += country.items.size();
+        if (previous != nullptr && previous->prefix >= country.prefix)
+            errors.push_back(ToUtf8(country.prefix) + " står ikke i rækkefølge efter " + ToUtf8(previous->prefix));
+        previous = &country;
+        for (const CtyItem& item : country.items) {
+            const auto [place, added] = countryOf.emplace(item.prefix, country.prefix);
+            if (!added && place->second != country.prefix)
+                errors.push_back(ToUtf8(item.prefix) + " står under både " + ToUtf8(place->second) + " og " + ToUtf8(country.prefix));
         }
     }
-    if (udeladt) fejl.emplace_back("det sidste land er mærket med *");
-    if (antalLande == 0) fejl.emplace_back("filen har ingen lande");
-    if (antalLande > static_cast<std::size_t>(kLandeRækker))
-        fejl.push_back(std::to_string(antalLande) + " lande, der er plads til " + std::to_string(kLandeRækker));
-    if (poster > kPladsTilPræfikser)
-        fejl.push_back(std::to_string(poster) + " præfixer, der er plads til " + std::to_string(kPladsTilPræfikser));
-    return fejl;
+    if (omitted) errors.emplace_back("det sidste land er mærket med *");
+    if (countryCount == 0) errors.emplace_back("filen har ingen lande");
+    if (countryCount > static_cast<std::size_t>(kCountryRows))
+        errors.push_back(std::to_string(countryCount) + " lande, der er plads til " + std::to_string(kCountryRows));
+    if (items > kPrefixRoom) errors.push_back(std::to_string(items) + " præfixer, der er plads til " + std::to_string(kPrefixRoom));
+    return errors;
 }
 
-CtyUdeladt TilpasCty(std::vector<CtyLand>& lande, std::size_t plads) {
-    CtyUdeladt ude;
-    for (const CtyLand& land : lande)
-        if (Stjerne(land)) ude.lande.push_back(land.pfx);
-    std::erase_if(lande, Stjerne);
+CtyOmissions FitCty(std::vector<CtyCountry>& countries, std::size_t room) {
+    CtyOmissions omissions;
+    for (const CtyCountry& country : countries)
+        if (IsStarred(country)) omissions.countries.push_back(country.prefix);
+    std::erase_if(countries, IsStarred);
 
-    Beholdt beholdt;
-    std::vector<Sted> dobbelte;
-    const std::vector<Sted> steder = Stedfæst(lande, beholdt, dobbelte, ude);
-    for (std::size_t i = 0; i < dobbelte.size() && beholdt.Antal() + dobbelte.size() - i > plads; ++i) dobbelte[i].post->med = false;
+    KeptItems kept;
+    std::vector<KeptItem> repeated;
+    const std::vector<KeptItem> places = CollectItems(countries, kept, repeated, omissions);
+    for (std::size_t i = 0; i < repeated.size() && kept.Count() + repeated.size() - i > room; ++i) repeated[i].item->stays = false;
     // A call is no support, with or without its mark: it may have to go itself.
-    const auto støttet = [](const Sted& sted, const Sted* ellers) {
-        return ellers != nullptr && !ellers->post->kald && ellers->post->helt.find('/') == std::string::npos &&
-               ellers->land->pfx == sted.land->pfx;
+    const auto supported = [](const KeptItem& place, const KeptItem* fallback) {
+        return fallback != nullptr && !fallback->item->isExactCall && fallback->item->bare.find('/') == std::string::npos &&
+               fallback->country->prefix == place.country->prefix;
     };
-    UdeladVildledte(steder, beholdt);
-    Udelad(steder, beholdt, plads, [](const Sted& sted, const Sted*) { return !Opnåelig(*sted.post); });
-    Udelad(steder, beholdt, plads,
-           [&](const Sted& sted, const Sted* ellers) { return støttet(sted, ellers) && SammeZoner(*sted.post, *ellers->post); });
-    Udelad(steder, beholdt, plads, støttet);
-    Udelad(steder, beholdt, plads, [](const Sted& sted, const Sted*) { return sted.post->kald; });
-    if (beholdt.Antal() > plads)
-        throw CtyFejl{std::to_string(beholdt.Antal()) + " præfixer kan ikke undværes, der er plads til " + std::to_string(plads)};
+    LeaveOutMisled(places, kept);
+    LeaveOut(places, kept, room, [](const KeptItem& place, const KeptItem*) { return !IsReachable(*place.item); });
+    LeaveOut(places, kept, room, [&](const KeptItem& place, const KeptItem* fallback) {
+        return supported(place, fallback) && SameZones(*place.item, *fallback->item);
+    });
+    LeaveOut(places, kept, room, supported);
+    LeaveOut(places, kept, room, [](const KeptItem& place, const KeptItem*) { return place.item->isExactCall; });
+    if (kept.Count() > room)
+        throw CtyError{std::to_string(kept.Count()) + " præfixer kan ikke undværes, der er plads til " + std::to_string(room)};
 
-    UdeladForreste(steder, beholdt);
+    LeaveOutForemost(places, kept);
     // What led them home may have gone.
-    UdeladVildledte(steder, beholdt);
+    LeaveOutMisled(places, kept);
 
     // What an item has lost shows only now: the one that gave its zones may have gone after it.
-    for (const Sted& sted : dobbelte) {
-        const Sted* første = beholdt.Find(sted.post->pfx);
-        if (første == nullptr) sted.post->med = false;
-        if (!sted.post->med) Bogfør(ude, sted, første != nullptr ? første : beholdt.Ellers(*sted.post));
+    for (const KeptItem& place : repeated) {
+        const KeptItem* first = kept.Find(place.item->prefix);
+        if (first == nullptr) place.item->stays = false;
+        if (!place.item->stays) RecordCost(omissions, place, first != nullptr ? first : kept.Fallback(*place.item));
     }
-    for (const Sted& sted : steder)
-        if (!sted.post->med) Bogfør(ude, sted, beholdt.Ellers(*sted.post));
-    return ude;
+    for (const KeptItem& place : places)
+        if (!place.item->stays) RecordCost(omissions, place, kept.Fallback(*place.item));
+    return omissions;
 }
 
-std::vector<std::string> SkrivCty(const std::vector<CtyLand>& lande) {
-    std::vector<std::string> linjer;
-    for (const CtyLand& land : lande) {
-        linjer.push_back(land.hoved);
-        std::string linje(4, ' ');
-        bool første = true;
-        for (const CtyItem& post : land.poster) {
-            if (!post.med) continue;
-            if (!første) linje += ',';
-            if (linje.size() > 4 && linje.size() + post.tekst.size() + 1 > kLinjeLængde) {
-                linjer.push_back(linje);
-                linje.assign(4, ' ');
+std::vector<std::string> WriteCty(const std::vector<CtyCountry>& countries) {
+    std::vector<std::string> lines;
+    for (const CtyCountry& country : countries) {
+        lines.push_back(country.header);
+        std::string line(4, ' ');
+        bool first = true;
+        for (const CtyItem& item : country.items) {
+            if (!item.stays) continue;
+            if (!first) line += ',';
+            if (line.size() > 4 && line.size() + item.text.size() + 1 > kLineLength) {
+                lines.push_back(line);
+                line.assign(4, ' ');
             }
-            linje += post.tekst;
-            første = false;
+            line += item.text;
+            first = false;
         }
-        linjer.push_back(linje + ';');
+        lines.push_back(line + ';');
     }
-    return linjer;
+    return lines;
 }
 
 }  // namespace vatro

@@ -11,85 +11,86 @@ namespace vatro {
 
 namespace {
 
-using Plads = std::uint16_t;
+using RowNumber = std::uint16_t;
 
 /// A row by its characters and its place.
-struct Nøgle {
-    std::array<unsigned char, kPfxLængde> tegn{};
-    Plads plads = 0;
+struct SortKey {
+    std::array<unsigned char, kPrefixLength> characters{};
+    RowNumber place = 0;
 };
 
-/// The rows 1 to `antal` in ascending order: sorted by each character in turn, the last one first, every time without
+/// The rows 1 to `count` in ascending order: sorted by each character in turn, the last one first, every time without
 /// disturbing the order of equal ones.
-std::vector<Nøgle> EfterTegn(std::span<const PfxRec> rækker, int antal) {
-    std::vector<Nøgle> nøgler(static_cast<std::size_t>(antal));
+std::vector<SortKey> ByCharacters(std::span<const PfxRec> rows, int count) {
+    std::vector<SortKey> keys(static_cast<std::size_t>(count));
     // Which places of a character are not the same in all rows; at the end of most there is nothing but filler.
-    std::array<unsigned char, kPfxLængde> forskel{};
-    for (std::size_t i = 0; i < nøgler.size(); ++i) {
-        std::ranges::copy(rækker[i + 1].Pfx.Padded(), nøgler[i].tegn.begin());
-        nøgler[i].plads = static_cast<Plads>(i + 1);
-        for (std::size_t nr = 0; nr < kPfxLængde; ++nr)
-            forskel[nr] = static_cast<unsigned char>(forskel[nr] | (nøgler[i].tegn[nr] ^ nøgler[0].tegn[nr]));
+    std::array<unsigned char, kPrefixLength> differences{};
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        std::ranges::copy(rows[i + 1].Pfx.Padded(), keys[i].characters.begin());
+        keys[i].place = static_cast<RowNumber>(i + 1);
+        for (std::size_t number = 0; number < kPrefixLength; ++number)
+            differences[number] =
+                static_cast<unsigned char>(differences[number] | (keys[i].characters[number] ^ keys[0].characters[number]));
     }
-    std::vector<Nøgle> næste(nøgler.size());
-    for (std::size_t nr = kPfxLængde; nr-- > 0;) {
-        if (forskel[nr] == 0) continue;
-        std::array<Plads, 256> start{};
-        for (const Nøgle& nøgle : nøgler) ++start[nøgle.tegn[nr]];
-        std::exclusive_scan(start.begin(), start.end(), start.begin(), Plads{0});
-        for (const Nøgle& nøgle : nøgler) næste[start[nøgle.tegn[nr]]++] = nøgle;
-        nøgler.swap(næste);
+    std::vector<SortKey> next(keys.size());
+    for (std::size_t number = kPrefixLength; number-- > 0;) {
+        if (differences[number] == 0) continue;
+        std::array<RowNumber, 256> start{};
+        for (const SortKey& key : keys) ++start[key.characters[number]];
+        std::exclusive_scan(start.begin(), start.end(), start.begin(), RowNumber{0});
+        for (const SortKey& key : keys) next[start[key.characters[number]]++] = key;
+        keys.swap(next);
     }
-    return nøgler;
+    return keys;
 }
 
 /// The selection sort itself, for a full table, in which the spare row is one of those that are sorted.
-void Udvælg(std::span<PfxRec> rækker, const std::function<void(int)>& trin) {
-    PfxRec& reserve = rækker.back();
-    for (std::size_t i = 1; i < rækker.size(); ++i) {
-        trin(static_cast<int>(i));
-        std::size_t valgt = i;
-        for (std::size_t j = i + 1; j < rækker.size(); ++j)
-            if (rækker[j].Pfx.Padded() <= rækker[valgt].Pfx.Padded()) valgt = j;
-        if (valgt == i) continue;
-        reserve = rækker[i];
-        rækker[i] = rækker[valgt];
-        rækker[valgt] = reserve;
+void SelectionSort(std::span<PfxRec> rows, const std::function<void(int)>& step) {
+    PfxRec& reserve = rows.back();
+    for (std::size_t i = 1; i < rows.size(); ++i) {
+        step(static_cast<int>(i));
+        std::size_t chosen = i;
+        for (std::size_t j = i + 1; j < rows.size(); ++j)
+            if (rows[j].Pfx.Padded() <= rows[chosen].Pfx.Padded()) chosen = j;
+        if (chosen == i) continue;
+        reserve = rows[i];
+        rows[i] = rows[chosen];
+        rows[chosen] = reserve;
     }
 }
 
 }  // namespace
 
-void SorterPræfikser(std::span<PfxRec> rækker, int antal, const std::function<void(int)>& trin) {
-    const auto sidste = static_cast<std::size_t>(antal);
-    if (sidste + 1 == rækker.size()) return Udvælg(rækker, trin);
+void SortPrefixes(std::span<PfxRec> rows, int count, const std::function<void(int)>& step) {
+    const auto last = static_cast<std::size_t>(count);
+    if (last + 1 == rows.size()) return SelectionSort(rows, step);
 
-    std::vector<Nøgle> rest = EfterTegn(rækker, antal);
+    std::vector<SortKey> rest = ByCharacters(rows, count);
     // Only places are swapped until the order is known: where each row has gone, and which row stands at each place.
-    std::vector<Plads> sted(sidste + 1);
-    std::iota(sted.begin(), sted.end(), Plads{0});
-    std::vector<Plads> række = sted;
-    Plads sidstByttet = 0;
-    for (std::size_t i = 1; i <= sidste; ++i) {
-        trin(static_cast<int>(i));
+    std::vector<RowNumber> placeOf(last + 1);
+    std::iota(placeOf.begin(), placeOf.end(), RowNumber{0});
+    std::vector<RowNumber> row = placeOf;
+    RowNumber lastSwapped = 0;
+    for (std::size_t i = 1; i <= last; ++i) {
+        step(static_cast<int>(i));
         // Of the rows that are left the smallest are in front. There are seldom two.
-        std::size_t valgt = i - 1;
-        for (std::size_t j = i; j < sidste && rest[j].tegn == rest[i - 1].tegn; ++j)
-            if (sted[rest[j].plads] > sted[rest[valgt].plads]) valgt = j;
-        std::swap(rest[i - 1].plads, rest[valgt].plads);
-        const Plads valgtRække = rest[i - 1].plads;
-        const Plads hertil = sted[valgtRække];
-        if (hertil == i) continue;
-        sidstByttet = række[i];
-        række[hertil] = sidstByttet;
-        sted[sidstByttet] = hertil;
-        række[i] = valgtRække;
+        std::size_t chosen = i - 1;
+        for (std::size_t j = i; j < last && rest[j].characters == rest[i - 1].characters; ++j)
+            if (placeOf[rest[j].place] > placeOf[rest[chosen].place]) chosen = j;
+        std::swap(rest[i - 1].place, rest[chosen].place);
+        const RowNumber chosenRow = rest[i - 1].place;
+        const RowNumber target = placeOf[chosenRow];
+        if (target == i) continue;
+        lastSwapped = row[i];
+        row[target] = lastSwapped;
+        placeOf[lastSwapped] = target;
+        row[i] = chosenRow;
     }
-    if (sidstByttet == 0) return;
+    if (lastSwapped == 0) return;
 
-    const std::vector<PfxRec> før(rækker.begin(), rækker.begin() + antal + 1);
-    for (std::size_t i = 1; i <= sidste; ++i) rækker[i] = før[række[i]];
-    rækker.back() = før[sidstByttet];
+    const std::vector<PfxRec> before(rows.begin(), rows.begin() + count + 1);
+    for (std::size_t i = 1; i <= last; ++i) rows[i] = before[row[i]];
+    rows.back() = before[lastSwapped];
 }
 
 }  // namespace vatro

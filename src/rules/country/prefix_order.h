@@ -19,9 +19,9 @@
 
 namespace vatro {
 
-/// Sorts the rows 1 to `antal` ascending by Pfx, by character code. Row 0 is left alone; the last row of `rækker` is the
-/// spare one. `trin` runs with the number of each row before the row is settled; the rows move when all are.
-/// Takes time in proportion to `antal`, but by its square for a full table and for rows that are equal.
-void SorterPræfikser(std::span<PfxRec> rækker, int antal, const std::function<void(int)>& trin);
+/// Sorts the rows 1 to `count` ascending by Pfx, by character code. Row 0 is left alone; the last row of `rows` is the
+/// spare one. `step` runs with the number of each row before the row is settled; the rows move when all are.
+/// Takes time in proportion to `count`, but by its square for a full table and for rows that are equal.
+void SortPrefixes(std::span<PfxRec> rows, int count, const std::function<void(int)>& step);
 
 }  // namespace vatro

@@ -6,28 +6,28 @@
 
 namespace vatro {
 
-bool ErNote(std::string_view tekst) {
-    return EqualNoCase(tekst.substr(0, kNoteMærke.size()), kNoteMærke);
+bool IsNote(std::string_view text) {
+    return EqualNoCase(text.substr(0, kNoteMark.size()), kNoteMark);
 }
 
-std::string QsoLine(const Qso& qso, std::string_view logMode) {
-    const std::string_view rapportBlank = logMode == "SSB" ? " " : "";
-    std::string linje;
-    linje.reserve(80);
-    linje.append(qso.tid).append(" ");
-    linje.append(LeftAligned(qso.call, kCall.bredde)).append(" ");
-    linje.append(qso.rstSendt).append(rapportBlank);
-    linje.append("-").append(ZeroPadded(qso.nrSendt, 4)).append(" ");
-    linje.append(qso.rstModtaget).append(rapportBlank);
-    linje.append("-").append(ZeroPadded(qso.nrModtaget, 4)).append(" ");
-    if (qso.point < 10) linje.append(" ");
-    linje.append(PlainNumber(qso.point)).append(" ");
-    linje.append(LeftAligned(qso.multiplier, kMultiplier.bredde)).append(" ");
-    linje.append(LeftAligned(qso.operatør, kOperatør.bredde)).append(" ");
-    linje.append(qso.qsl ? "QSL" : "   ").append(" ");
-    linje.append(LeftAligned(qso.qsoMode, kQsoMode.bredde)).append(" ");
-    linje.append(qso.dato);
-    return linje;
+std::string QsoLine(const Contact& contact, std::string_view logMode) {
+    const std::string_view reportPadding = logMode == "SSB" ? " " : "";
+    std::string line;
+    line.reserve(80);
+    line.append(contact.time).append(" ");
+    line.append(LeftAligned(contact.call, kCall.width)).append(" ");
+    line.append(contact.reportSent).append(reportPadding);
+    line.append("-").append(ZeroPadded(contact.numberSent, 4)).append(" ");
+    line.append(contact.reportReceived).append(reportPadding);
+    line.append("-").append(ZeroPadded(contact.numberReceived, 4)).append(" ");
+    if (contact.point < 10) line.append(" ");
+    line.append(PlainNumber(contact.point)).append(" ");
+    line.append(LeftAligned(contact.multiplier, kMultiplier.width)).append(" ");
+    line.append(LeftAligned(contact.operatorCall, kOperator.width)).append(" ");
+    line.append(contact.qsl ? "QSL" : "   ").append(" ");
+    line.append(LeftAligned(contact.qsoMode, kQsoMode.width)).append(" ");
+    line.append(contact.date);
+    return line;
 }
 
 }  // namespace vatro

@@ -23,53 +23,53 @@
 namespace vatro {
 
 /// Columns of a field.
-struct Felt {
-    std::size_t fra;
-    std::size_t bredde;
-    constexpr std::string_view Af(std::string_view linje) const { return Columns(linje, fra, bredde); }
-    constexpr std::string_view TrimmetAf(std::string_view linje) const { return Trim(Af(linje)); }
+struct Field {
+    std::size_t from;
+    std::size_t width;
+    constexpr std::string_view Of(std::string_view line) const { return Columns(line, from, width); }
+    constexpr std::string_view TrimmedOf(std::string_view line) const { return Trim(Of(line)); }
 };
 
-inline constexpr Felt kTid{1, 5};
-inline constexpr Felt kCall{7, 15};
-inline constexpr Felt kRstSendt{23, 3};
-inline constexpr Felt kNrSendt{27, 4};
-inline constexpr Felt kRstModtaget{32, 3};
-inline constexpr Felt kNrModtaget{36, 4};
-inline constexpr Felt kPoint{41, 2};
-inline constexpr Felt kMultiplier{44, 10};
-inline constexpr Felt kOperatør{55, 6};
+inline constexpr Field kTime{1, 5};
+inline constexpr Field kCall{7, 15};
+inline constexpr Field kReportSent{23, 3};
+inline constexpr Field kNumberSent{27, 4};
+inline constexpr Field kReportReceived{32, 3};
+inline constexpr Field kNumberReceived{36, 4};
+inline constexpr Field kPoint{41, 2};
+inline constexpr Field kMultiplier{44, 10};
+inline constexpr Field kOperator{55, 6};
 /// One column more than is written: what readers of the operator take.
-inline constexpr Felt kOperatørLæst{kOperatør.fra, kOperatør.bredde + 1};
-inline constexpr Felt kQsl{62, 3};
-inline constexpr Felt kQsoMode{66, 5};
-inline constexpr Felt kDato{72, 8};
+inline constexpr Field kOperatorAsRead{kOperator.from, kOperator.width + 1};
+inline constexpr Field kQsl{62, 3};
+inline constexpr Field kQsoMode{66, 5};
+inline constexpr Field kDate{72, 8};
 
-inline constexpr std::string_view kNoteMærke = "NOTE: ";
-inline constexpr std::string_view kDupeMærke = "-DUPE-";
+inline constexpr std::string_view kNoteMark = "NOTE: ";
+inline constexpr std::string_view kDupeMark = "-DUPE-";
 
 /// Whether the text begins with the mark of a note, in any case.
-bool ErNote(std::string_view tekst);
+bool IsNote(std::string_view text);
 
 /// What a contact line is made of, each as text of its field.
-struct Qso {
-    std::string tid;
+struct Contact {
+    std::string time;
     std::string call;
-    std::string rstSendt;
-    std::string nrSendt;
-    std::string rstModtaget;
-    std::string nrModtaget;
+    std::string reportSent;
+    std::string numberSent;
+    std::string reportReceived;
+    std::string numberReceived;
     int point = 0;
     std::string multiplier;
-    std::string operatør;
+    std::string operatorCall;
     bool qsl = false;
     std::string qsoMode;
-    std::string dato;
+    std::string date;
 };
 
 /// The line of a contact in a log of this mode: in an SSB log a report has two figures and a blank. Call, multiplier, operator
 /// and QSO mode are cut at their columns or filled up to them; the others must fit theirs. A serial number above 9999 shifts all
 /// that follows.
-std::string QsoLine(const Qso& qso, std::string_view logMode);
+std::string QsoLine(const Contact& contact, std::string_view logMode);
 
 }  // namespace vatro

@@ -54,7 +54,7 @@ void EksporterAlle() {
     ÅbnPapir("vatro" + Årstal() + ".adi");
     Skriv("Genereret af QQ9ZZZ's Logprogram (RT60)<EOH>\r\n");
     VisForløb("Dan ADIF");
-    for (const BåndMode& log : kPapirOrden) DanAdif(log);
+    for (const LogId& log : kPapirOrden) DanAdif(log);
     platform().files.Close(kPapirFil);
 }
 
@@ -68,9 +68,9 @@ void EksporterAdif() {
     }
 }
 
-void DanAdif(const BåndMode& log) {
+void DanAdif(const LogId& log) {
     Find1Weekend();
-    TilføjForløb(BåndOgMode(log.bånd, log.mode));
+    TilføjForløb(BåndOgMode(log.band, log.mode));
     try {
         ÅbnLog(log);
     } catch (const RunTimeError&) {
@@ -86,32 +86,32 @@ void DanAdif(const BåndMode& log) {
     platform().files.Close(kLogFil);
 }
 
-void DanAdifKrop(const BåndMode& log) {
+void DanAdifKrop(const LogId& log) {
     Files& filer = platform().files;
     std::string post;
     while (!filer.EndOfFile(kLogFil)) {
         const std::string linje = filer.LineInput(kLogFil);
         if (ErNotelinje(linje)) continue;
         post.clear();
-        TilføjPost(post, linje, log.bånd);
+        TilføjPost(post, linje, log.band);
         post.append(kLinjeskift);
         Skriv(post);
     }
 }
 
 void TilføjPost(std::string& post, std::string_view linje, std::string_view bånd) {
-    TilføjDato(post, kDato.Af(linje));
+    TilføjDato(post, kDate.Of(linje));
     TilføjTid(post, linje);
     TilføjFelt(post, "<BAND:", UpperText(bånd));
-    TilføjFelt(post, "<MODE:", kQsoMode.TrimmetAf(linje));
-    TilføjFelt(post, "<CALL:", kCall.TrimmetAf(linje));
-    TilføjFelt(post, "<RST_SENT:", kRstSendt.TrimmetAf(linje));
-    TilføjFelt(post, "<SRL_SENT:", kNrSendt.TrimmetAf(linje));
-    TilføjFelt(post, "<RST_RCVD:", kRstModtaget.TrimmetAf(linje));
-    TilføjFelt(post, "<SRL_RCVD:", kNrModtaget.TrimmetAf(linje));
-    TilføjFelt(post, "<POINTS:", kPoint.TrimmetAf(linje));
-    TilføjFelt(post, "<MULT:", kMultiplier.TrimmetAf(linje));
-    TilføjFelt(post, "<OPERATOR:", kOperatørLæst.TrimmetAf(linje));
+    TilføjFelt(post, "<MODE:", kQsoMode.TrimmedOf(linje));
+    TilføjFelt(post, "<CALL:", kCall.TrimmedOf(linje));
+    TilføjFelt(post, "<RST_SENT:", kReportSent.TrimmedOf(linje));
+    TilføjFelt(post, "<SRL_SENT:", kNumberSent.TrimmedOf(linje));
+    TilføjFelt(post, "<RST_RCVD:", kReportReceived.TrimmedOf(linje));
+    TilføjFelt(post, "<SRL_RCVD:", kNumberReceived.TrimmedOf(linje));
+    TilføjFelt(post, "<POINTS:", kPoint.TrimmedOf(linje));
+    TilføjFelt(post, "<MULT:", kMultiplier.TrimmedOf(linje));
+    TilføjFelt(post, "<OPERATOR:", kOperatorAsRead.TrimmedOf(linje));
     post.append("<EOR>").append(kLinjeskift);
 }
 

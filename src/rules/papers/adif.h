@@ -17,9 +17,9 @@ namespace vatro {
 void EksporterAdif();
 
 /// The records of one log; a log that cannot be opened has none.
-void DanAdif(const BåndMode& log);
+void DanAdif(const LogId& log);
 /// The records of the open log.
-void DanAdifKrop(const BåndMode& log);
+void DanAdifKrop(const LogId& log);
 
 /// Adds the record of a contact line, with the line ends in it. A date or time that is none has no field: whatever stood there
 /// would be taken for one.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/error_list.h"
+#include "frame/state.h"
 
 #include <memory_resource>
 #include <unordered_set>
@@ -7,14 +8,12 @@
 #include "call/call_analysis.h"
 #include "checks/field_checks.h"
 #include "columns.h"
-#include "country/lookup.h"
 #include "datetime.h"
 #include "entry/frmMain.h"
-#include "entry/validation.h"
+#include "entry/next_contact.h"
 #include "frame/log_file.h"
 #include "frame/station.h"
 #include "log/contact_line.h"
-#include "log/duplicates.h"
 #include "numbers.h"
 #include "papers/layout.h"
 #include "papers/weekend.h"
@@ -23,7 +22,7 @@
 #include "printing/progress.h"
 #include "score/points.h"
 #include "score/stations.h"
-#include "tables/unknown.h"
+#include "tables/worked.h"
 
 namespace vatro {
 
@@ -82,10 +81,10 @@ public:
         vist_ = false;
         TjekTidspunkt();
         TjekCall();
-        TjekRapport(kRstSendt.TrimmetAf(linje_), kSendt);
-        if (!IsNumeric(kNrSendt.TrimmetAf(linje_))) Fejl("Sendt QSOnr skal være numerisk."_t);
-        TjekRapport(kRstModtaget.TrimmetAf(linje_), kModtaget);
-        TjekRapportSomNummer(kRstModtaget.TrimmetAf(linje_));
+        TjekRapport(kReportSent.TrimmedOf(linje_), kSendt);
+        if (!IsNumeric(kNumberSent.TrimmedOf(linje_))) Fejl("Sendt QSOnr skal være numerisk."_t);
+        TjekRapport(kReportReceived.TrimmedOf(linje_), kModtaget);
+        TjekRapportSomNummer(kReportReceived.TrimmedOf(linje_));
         TjekPoint();
         TjekMultiplier();
         TjekResten();
@@ -99,20 +98,19 @@ private:
     }
 
     void TjekTidspunkt() {
-        std::string tid(kTid.TrimmetAf(linje_));
+        std::string tid(kTime.TrimmedOf(linje_));
         ValiderTid(tid);
         if (!tid.empty()) Fejl(tid);
     }
 
     void TjekCall() {
-        gsCall = kCall.TrimmetAf(linje_);
-        StripCall(gsCall);
-        if (gsCall.size() < 3) Fejl("Et kaldesignal skal være på mindst 3 tegn."_t);
-        if (!HarTalOgBogstaver(gsCall)) Fejl("Der skal være både tal og bogstaver i et kaldesignal."_t);
-        if (gsCall.starts_with('0')) Fejl("Første tegn i call'et er et nul."_t);
-        const bool husket = !sete_.insert(LeftAligned(gsCall, kHusketCall)).second;
-        dublet_ = husket && gsCall.size() <= kHusketCall;
-        if (dublet_) Fejl(gsCall + " er en dublet!");
+        desk().gsCall = StripCall(kCall.TrimmedOf(linje_));
+        if (desk().gsCall.size() < 3) Fejl("Et kaldesignal skal være på mindst 3 tegn."_t);
+        if (!HasDigitsAndLetters(desk().gsCall)) Fejl("Der skal være både tal og bogstaver i et kaldesignal."_t);
+        if (desk().gsCall.starts_with('0')) Fejl("Første tegn i call'et er et nul."_t);
+        const bool husket = !sete_.insert(LeftAligned(desk().gsCall, kHusketCall)).second;
+        dublet_ = husket && desk().gsCall.size() <= kHusketCall;
+        if (dublet_) Fejl(desk().gsCall + " er en dublet!");
     }
 
     void TjekRapport(std::string_view rst, const RapportBeskeder& beskeder) {
@@ -130,26 +128,27 @@ private:
     }
 
     void TjekPoint() {
-        const std::string_view call = kCall.TrimmetAf(linje_);
-        giQSOPoint = 3;
+        const std::string_view call = kCall.TrimmedOf(linje_);
+        desk().giQSOPoint = 3;
         if (ErDansk(call))
-            giQSOPoint = 1;
+            desk().giQSOPoint = 1;
         else if (call.ends_with("/P"))
-            giQSOPoint = 5;
-        LandWkd(call, nytLand_, Handling::Op);
-        const double point = NumericValue(kPoint.TrimmetAf(linje_));
+            desk().giQSOPoint = 5;
+        nytLand_ = NoteCountry(call, MarkAction::Mark);
+        const double point = NumericValue(kPoint.TrimmedOf(linje_));
         if (dublet_) {
             if (point != 0) Fejl("Dublet station giver 0 point.");
             return;
         }
-        EDRstnWkd(gsCall, Handling::Op);
-        if (point != giQSOPoint) Fejl(PointBesked(giQSOPoint));
+        NoteStation(desk().gsCall, MarkAction::Mark);
+        desk().gsCall = StationCall(desk().gsCall);
+        if (point != desk().giQSOPoint) Fejl(PointBesked(desk().giQSOPoint));
     }
 
     void TjekMultiplier() {
-        const std::string_view mult = kMultiplier.TrimmetAf(linje_);
+        const std::string_view mult = kMultiplier.TrimmedOf(linje_);
         const std::string_view nyt = Trim(nytLand_);
-        if (mult == nyt || mult == kDupeMærke) return;
+        if (mult == nyt || mult == kDupeMark) return;
         if (nyt.empty())
             Fejl(std::string("QSO er ikke første qso for land: "_t)
                      .append(mult)
@@ -159,12 +158,12 @@ private:
     }
 
     void TjekResten() {
-        if (kOperatørLæst.TrimmetAf(linje_).empty()) Fejl("Operatør skal udfyldes."_t);
-        const std::string_view mode = kQsoMode.TrimmetAf(linje_);
+        if (kOperatorAsRead.TrimmedOf(linje_).empty()) Fejl("Operatør skal udfyldes."_t);
+        const std::string_view mode = kQsoMode.TrimmedOf(linje_);
         if (ssb_ && mode != "SSB") Fejl("Mode skal være SSB i SSB-log."_t);
         if (cw_ && mode != "PSK31" && mode != "CW" && mode != "RTTY" && mode != "HELL")
             Fejl("Mode skal være CW, PSK31, RTTY eller HELL i CW-log."_t);
-        if (!GyldigDato(kDato.TrimmetAf(linje_))) Fejl("Dato skal være i formatet dd-mm-åå."_t);
+        if (!GyldigDato(kDate.TrimmedOf(linje_))) Fejl("Dato skal være i formatet dd-mm-åå."_t);
     }
 
     bool cw_;
@@ -188,9 +187,9 @@ void DanFejlliste() {
     frmMain->SetEnabled(false);
     VisForløb("Dan fejlliste");
     ÅbnPapir("Fejllist.txt");
-    Skriv(Indrykket("Vatro fejlliste for " + gsMyCall + ". Dannet d. " + FormatDate(platform().clock.Now(), "dd.mm.yyyy")));
+    Skriv(Indrykket("Vatro fejlliste for " + desk().gsMyCall + ". Dannet d. " + FormatDate(platform().clock.Now(), "dd.mm.yyyy")));
     SkrivBlank();
-    for (const BåndMode& log : kPapirOrden) DanFejlList(log);
+    for (const LogId& log : kPapirOrden) DanFejlList(log);
     platform().files.Close(kPapirFil);
 
     IndlæsLogfil();
@@ -200,9 +199,9 @@ void DanFejlliste() {
     frmMain->SetHourglass(false);
 }
 
-void DanFejlList(const BåndMode& log) {
+void DanFejlList(const LogId& log) {
     Find1Weekend();
-    TilføjForløb(BåndOgMode(log.bånd, log.mode));
+    TilføjForløb(BåndOgMode(log.band, log.mode));
     DanFejlListHoved(log);
     try {
         ÅbnLog(log);
@@ -217,15 +216,15 @@ void DanFejlList(const BåndMode& log) {
     }
 }
 
-void DanFejlListHoved(const BåndMode& log) {
-    Skriv(Indrykket("================================   " + BåndOgMode(log.bånd, LeftAligned(log.mode, 3)) +
+void DanFejlListHoved(const LogId& log) {
+    Skriv(Indrykket("================================   " + BåndOgMode(log.band, LeftAligned(log.mode, 3)) +
                     "   =================================="));
 }
 
-void DanFejlListKrop(const BåndMode& log) {
+void DanFejlListKrop(const LogId& log) {
     Files& filer = platform().files;
-    ResetLande();
-    ResetEDR();
+    desk().countries.ResetLande();
+    desk().stations.ResetEDR();
     Kontrol kontrol(log.mode);
     bool FileHasErrors = false;
     do {

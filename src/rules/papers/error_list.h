@@ -19,11 +19,11 @@ namespace vatro {
 void DanFejlliste();
 
 /// The section of one log. A log that is missing or empty is told; so is any other failure, which ends the log there.
-void DanFejlList(const BåndMode& log);
+void DanFejlList(const LogId& log);
 /// The line between two sections.
-void DanFejlListHoved(const BåndMode& log);
+void DanFejlListHoved(const LogId& log);
 /// All lines of the open log, at least one: fails with 62 if there is none.
-void DanFejlListKrop(const BåndMode& log);
+void DanFejlListKrop(const LogId& log);
 
 /// Shows the line above its first error, and sets `QSOShown`.
 void DanFejlQSO(std::string_view linje, bool& QSOShown);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/html_page.h"
+#include "frame/state.h"
 
 #include <string>
 
@@ -19,8 +20,8 @@ namespace {
 /// Behind the comma and the first letter of the first operator.
 constexpr std::size_t kOperatørerFra = 3;
 
-std::string Anker(const BåndMode& log) {
-    return std::string(log.bånd).append(log.mode);
+std::string Anker(const LogId& log) {
+    return std::string(log.band).append(log.mode);
 }
 
 /// A number with one blank, or its sign, before it and one blank behind.
@@ -43,14 +44,14 @@ void SkrivTop() {
     Skriv("<body>");
     Skriv(std::string("<a name=\"Top\"></a><h1 align=\"Center\">(foreløbig) "_t) + titel + "</h1>");
     std::string links = "<p>";
-    for (const BåndMode& log : kTiLogge) links += "<a href=\"#" + Anker(log) + "\">" + BåndOgMode(log.bånd, log.mode) + "</a>, ";
+    for (const LogId& log : kTenLogs) links += "<a href=\"#" + Anker(log) + "\">" + BåndOgMode(log.band, log.mode) + "</a>, ";
     Skriv(links + "<a href=\"#Summary\">Summary</a></p>");
 }
 
 void SkrivBåndsum(const Sammentælling& alt, std::size_t båndNr) {
-    const std::string meter(Trim(kTiLogge[2 * båndNr].bånd.substr(0, 2)));
+    const std::string meter(Trim(kTenLogs[2 * båndNr].band.substr(0, 2)));
     Skriv("<TR ALIGN=\"Center\"><TD ROWSPAN=\"2\">" + meter + " Meter<TD>CW  " + Celler(alt.CW(båndNr).QSOs, alt.CW(båndNr)) +
-          "<TD ROWSPAN=\"2\">" + FriForm(alt.bånd[båndNr].Score) + "<BR>");
+          "<TD ROWSPAN=\"2\">" + FriForm(alt.band[båndNr].Score) + "<BR>");
     Skriv("<TR ALIGN=\"Center\">                          <TD>SSB " + Celler(alt.SSB(båndNr).QSOs, alt.SSB(båndNr)));
 }
 
@@ -60,16 +61,16 @@ void DanHtml() {
     ÅbnPapir("vatro" + Årstal() + ".htm");
     SkrivTop();
     VisForløb("Dan html");
-    for (const BåndMode& log : kPapirOrden) DanHtm(log);
+    for (const LogId& log : kPapirOrden) DanHtm(log);
     DanHtmSummary();
     Skriv("</body>");
     Skriv("</html>");
     platform().files.Close(kPapirFil);
 }
 
-void DanHtm(const BåndMode& log) {
+void DanHtm(const LogId& log) {
     Find1Weekend();
-    TilføjForløb(BåndOgMode(log.bånd, log.mode));
+    TilføjForløb(BåndOgMode(log.band, log.mode));
     DanHtmHoved(log);
     bool åben = true;
     try {
@@ -82,12 +83,12 @@ void DanHtm(const BåndMode& log) {
     platform().files.Close(kLogFil);
 }
 
-void DanHtmHoved(const BåndMode& log) {
+void DanHtmHoved(const LogId& log) {
     Skriv("<a name=\"" + Anker(log) + "\"></a><a href=\"#top\">Top</a>");
-    Skriv("<h3 align=\"center\">" + BåndOgMode(log.bånd, log.mode) + "</h3>");
+    Skriv("<h3 align=\"center\">" + BåndOgMode(log.band, log.mode) + "</h3>");
     Skriv("<pre>");
     SkrivBlank();
-    if (log.bånd != "ukendt") Skriv(Indrykket("<B>" + std::string(kKolonner) + "</B>"));
+    if (log.band != "ukendt") Skriv(Indrykket("<B>" + std::string(kKolonner) + "</B>"));
 }
 
 void DanHtmKrop() {
@@ -106,10 +107,10 @@ void DanHtmKrop() {
 void DanHtmSummary() {
     const Sammentælling alt = Sammentæl();
     Skriv("<a name=\"Summary\"></a><a href=\"#top\">Top</a>");
-    Skriv("<h3 align=\"center\">Summary for " + gsMyCall + "</a></h3>");
+    Skriv("<h3 align=\"center\">Summary for " + desk().gsMyCall + "</a></h3>");
     Skriv("<table width=90% border=1 align=\"center\" bgcolor=\"#F1F1F1\">");
-    Skriv("<tr align=\"center\"><td>Kaldesignal: <b>" + gsMyCall + "</B><td>Kategori: " + gsKlasse);
-    Skriv("<tr align=\"center\"><td colspan=2>" + alt.navn);
+    Skriv("<tr align=\"center\"><td>Kaldesignal: <b>" + desk().gsMyCall + "</B><td>Kategori: " + desk().gsKlasse);
+    Skriv("<tr align=\"center\"><td colspan=2>" + alt.name);
     Skriv("<tr align=\"center\"><td colspan=2><b>Operatører:</B>"_t);
     Skriv("<tr align=\"center\"><td colspan=2>" + std::string(Columns(alt.Operators, kOperatørerFra)) + "</tr>");
     Skriv("</table>");

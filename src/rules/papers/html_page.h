@@ -12,9 +12,9 @@ namespace vatro {
 void DanHtml();
 
 /// The section of one log. Without its file it is empty, and the links still find it.
-void DanHtm(const BåndMode& log);
+void DanHtm(const LogId& log);
 /// Anchor, heading and the columns' names.
-void DanHtmHoved(const BåndMode& log);
+void DanHtmHoved(const LogId& log);
 /// Every line of the open log, notes too, and its sums.
 void DanHtmKrop();
 /// The summary. In the list of operators, which is not sorted, the first one lacks its first letter: meant so.

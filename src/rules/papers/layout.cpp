@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "papers/layout.h"
+#include "frame/state.h"
 
 #include "columns.h"
-#include "frame/start.h"
 #include "frame/station.h"
+#include "frame/version.h"
 #include "log/contact_line.h"
 #include "numbers.h"
 #include "platform.h"
@@ -25,8 +26,8 @@ std::string Indrykket(std::string_view tekst) {
 
 std::string Kontaktrække(std::string_view linje) {
     std::string række;
-    række.reserve(kIndryk.size() + kDato.bredde + 1 + kVistBredde);
-    return række.append(kIndryk).append(kDato.Af(linje)).append(1, ' ').append(Columns(linje, 1, kVistBredde));
+    række.reserve(kIndryk.size() + kDate.width + 1 + kVistBredde);
+    return række.append(kIndryk).append(kDate.Of(linje)).append(1, ' ').append(Columns(linje, 1, kVistBredde));
 }
 
 std::string Ialtrække(const IaltForm& form, std::string_view label, const LogSum& sum) {
@@ -41,11 +42,11 @@ std::string Årstal() {
 }
 
 std::string LogTitel() {
-    return "Fieldday log for " + gsMyCall + " " + Årstal();
+    return "Fieldday log for " + desk().gsMyCall + " " + Årstal();
 }
 
 std::string VersionMærke() {
-    return ", (Vatro version " + VersionTekst() + ")";
+    return ", (Vatro version " + VersionText() + ")";
 }
 
 std::string BåndOgMode(std::string_view bånd, std::string_view mode) {

@@ -17,29 +17,29 @@ constexpr std::string_view kFormFeed = "\f";
 
 class LogArk : public LogPapir {
 public:
-    explicit LogArk(const BåndMode& log) : log_(log) {}
+    explicit LogArk(const LogId& log) : log_(log) {}
 
 private:
     void Række(std::string_view tekst) override { Skriv(tekst); }
     const IaltForm& Ialt() const override { return kIaltFil; }
     void NySide() override {
         Skriv(kFormFeed);
-        DanHoved(log_.bånd, log_.mode);
+        DanHoved(log_.band, log_.mode);
     }
-    BåndMode log_;
+    LogId log_;
 };
 
 }  // namespace
 
-void Danlog(const BåndMode& log) {
+void Danlog(const LogId& log) {
     Find1Weekend();
     VisForløb("Dan log");
-    TilføjForløb(BåndOgMode(log.bånd, log.mode));
+    TilføjForløb(BåndOgMode(log.band, log.mode));
     try {
         // The log first: without one an earlier sheet stays as it is.
         ÅbnLog(log);
-        ÅbnPapir(std::string("SM").append(log.bånd).append(log.mode).append(".txt"));
-        DanHoved(log.bånd, log.mode);
+        ÅbnPapir(std::string("SM").append(log.band).append(log.mode).append(".txt"));
+        DanHoved(log.band, log.mode);
         DanKrop(log);
         platform().files.Close(kLogFil);
         platform().files.Close(kPapirFil);
@@ -55,12 +55,12 @@ void DanHoved(std::string_view bånd, std::string_view mode) {
     if (bånd != "Multiplier" && bånd != "ukendt") Skriv(Indrykket(kKolonner));
 }
 
-void DanKrop(const BåndMode& log) {
+void DanKrop(const LogId& log) {
     LogArk(log).Krop();
 }
 
 void DanAlt() {
-    for (const BåndMode& log : kPapirOrden) Danlog(log);
+    for (const LogId& log : kPapirOrden) Danlog(log);
     DanMultCheck();
     DanSummary();
 }

@@ -12,13 +12,13 @@ namespace vatro {
 
 /// Makes the sheets of one log. A log that cannot be opened makes none, leaves earlier ones and says nothing. Any failure
 /// ends it in silence, with the files left open: the next log that is opened finds their numbers in use.
-void Danlog(const BåndMode& log);
+void Danlog(const LogId& log);
 
 /// The heading of a page of the open sheet file. `bånd` may also be "Multiplier" or "ukendt", without the columns' names.
 void DanHoved(std::string_view bånd, std::string_view mode);
 
 /// The pages of the open log file, into the open sheet file.
-void DanKrop(const BåndMode& log);
+void DanKrop(const LogId& log);
 
 /// All sheets, the multiplier check sheet and the summary.
 void DanAlt();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/logs.h"
+#include "frame/state.h"
 
 #include "frame/band_mode.h"
 #include "frame/log_file.h"
@@ -10,12 +11,12 @@
 
 namespace vatro {
 
-void ÅbnLog(const BåndMode& log) {
-    platform().files.Open(kLogFil, LogSti(log.bånd, log.mode), FileMode::Input);
+void ÅbnLog(const LogId& log) {
+    platform().files.Open(kLogFil, LogPath(log.band, log.mode), FileMode::Input);
 }
 
 void ÅbnPapir(std::string_view navn) {
-    platform().files.Open(kPapirFil, Sti(gsLogLib, navn), FileMode::Output);
+    platform().files.Open(kPapirFil, PathIn(desk().gsLogLib, navn), FileMode::Output);
 }
 
 void Skriv(std::string_view linje) {
@@ -27,15 +28,15 @@ void SkrivBlank() {
 }
 
 bool ErNotelinje(std::string_view linje) {
-    return linje.starts_with(kNoteMærke);
+    return linje.starts_with(kNoteMark);
 }
 
 bool TællerSomQSO(std::string_view linje) {
-    return !kMultiplier.Af(linje).starts_with(kDupeMærke) && !ErNotelinje(linje);
+    return !kMultiplier.Of(linje).starts_with(kDupeMark) && !ErNotelinje(linje);
 }
 
 bool TællerSomMult(std::string_view linje) {
-    return !kMultiplier.Af(linje).starts_with(' ') && TællerSomQSO(linje);
+    return !kMultiplier.Of(linje).starts_with(' ') && TællerSomQSO(linje);
 }
 
 void LogSum::Tæl(std::string_view linje) {
@@ -44,7 +45,7 @@ void LogSum::Tæl(std::string_view linje) {
 }
 
 void LogSum::TælPoint(std::string_view linje) {
-    Points = ToInt32(Points + NumericValue(kPoint.Af(linje)));
+    Points = ToInt32(Points + NumericValue(kPoint.Of(linje)));
 }
 
 void LogSum::LægTil(const LogSum& andre) {

@@ -17,19 +17,19 @@ inline constexpr int kLogFil = 1;
 inline constexpr int kPapirFil = 2;
 
 /// The order in which papers set them out.
-inline constexpr std::array<BåndMode, 10> kPapirOrden{{{"80m", "CW"},
-                                                       {"80m", "SSB"},
-                                                       {"40m", "CW"},
-                                                       {"40m", "SSB"},
-                                                       {"20m", "CW"},
-                                                       {"20m", "SSB"},
-                                                       {"15m", "CW"},
-                                                       {"15m", "SSB"},
-                                                       {"10m", "CW"},
-                                                       {"10m", "SSB"}}};
+inline constexpr std::array<LogId, 10> kPapirOrden{{{"80m", "CW"},
+                                                    {"80m", "SSB"},
+                                                    {"40m", "CW"},
+                                                    {"40m", "SSB"},
+                                                    {"20m", "CW"},
+                                                    {"20m", "SSB"},
+                                                    {"15m", "CW"},
+                                                    {"15m", "SSB"},
+                                                    {"10m", "CW"},
+                                                    {"10m", "SSB"}}};
 
 /// Opens a log for reading under its number. Fails as Files::Open does.
-void ÅbnLog(const BåndMode& log);
+void ÅbnLog(const LogId& log);
 /// Opens a file of the log directory for a paper, which replaces it.
 void ÅbnPapir(std::string_view navn);
 /// Prints to the paper: a line, or a blank line, which holds one blank.

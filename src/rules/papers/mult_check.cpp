@@ -39,7 +39,7 @@ bool Multrække(const MultTable& table, const MultCount& count, std::size_t ræk
 
 }  // namespace
 
-void SamlMult(const BåndMode& log, MultTable& table, MultCount& count, std::size_t kolonne) {
+void SamlMult(const LogId& log, MultTable& table, MultCount& count, std::size_t kolonne) {
     Files& filer = platform().files;
     try {
         ÅbnLog(log);
@@ -47,7 +47,7 @@ void SamlMult(const BåndMode& log, MultTable& table, MultCount& count, std::siz
             const std::string linje = filer.LineInput(kLogFil);
             if (!TællerSomMult(linje)) continue;
             ++count[kolonne];
-            Celle(table, kolonne, count[kolonne]) = kMultiplier.Af(linje).substr(0, kCelle);
+            Celle(table, kolonne, count[kolonne]) = kMultiplier.Of(linje).substr(0, kCelle);
         }
         filer.Close(kLogFil);
     } catch (const RunTimeError&) {
@@ -64,7 +64,7 @@ void SortMult(MultTable& table, const MultCount& count) {
 }
 
 void SamlAlleMult(MultTable& table, MultCount& count) {
-    for (std::size_t kolonne = 0; kolonne < kTiLogge.size(); ++kolonne) SamlMult(kTiLogge[kolonne], table, count, kolonne);
+    for (std::size_t kolonne = 0; kolonne < kTenLogs.size(); ++kolonne) SamlMult(kTenLogs[kolonne], table, count, kolonne);
     SortMult(table, count);
 }
 
@@ -87,14 +87,14 @@ void OpsætMult(const MultTable& table, const MultCount& count, const MultPapir&
 }
 
 void DanMult(const MultTable& table, const MultCount& count) {
-    OpsætMult(table, count, {Skriv, [] { DanHoved(kMultHoved.bånd, kMultHoved.mode); }});
+    OpsætMult(table, count, {Skriv, [] { DanHoved(kMultHoved.band, kMultHoved.mode); }});
 }
 
 void DanMultCheck() {
     VisForløb("Dan log");
     TilføjForløb(kMultTrin);
     ÅbnPapir("Mult.txt");
-    DanHoved(kMultHoved.bånd, kMultHoved.mode);
+    DanHoved(kMultHoved.band, kMultHoved.mode);
     MultTable table;
     MultCount count{};
     SamlAlleMult(table, count);

@@ -15,15 +15,15 @@ namespace vatro {
 
 inline constexpr std::size_t kMultRækker = 100;
 
-/// By column, in the order of kTiLogge, and row from 1. A cell has at most 7 characters; that of a line which ends before the
+/// By column, in the order of kTenLogs, and row from 1. A cell has at most 7 characters; that of a line which ends before the
 /// multiplier is shorter and moves the columns to its right: meant so.
-using MultTable = std::array<std::array<std::string, kMultRækker + 1>, kTiLogge.size()>;
+using MultTable = std::array<std::array<std::string, kMultRækker + 1>, kTenLogs.size()>;
 /// Cells in use.
-using MultCount = std::array<std::size_t, kTiLogge.size()>;
+using MultCount = std::array<std::size_t, kTenLogs.size()>;
 
 /// Collects a log in a column. A log that cannot be opened is passed over. One cell too many ends it in silence, with the cell
 /// counted and the file left open, so that the logs after it are passed over too.
-void SamlMult(const BåndMode& log, MultTable& table, MultCount& count, std::size_t kolonne);
+void SamlMult(const LogId& log, MultTable& table, MultCount& count, std::size_t kolonne);
 
 /// Sorts each column. Fails with 9 if one has a cell too many.
 void SortMult(MultTable& table, const MultCount& count);
@@ -47,6 +47,6 @@ void DanMultCheck();
 
 inline constexpr std::string_view kMultTrin = "Multiplier checksheet";
 /// Band and mode of the sheet's heading.
-inline constexpr BåndMode kMultHoved{"Multiplier", "Checksheet"};
+inline constexpr LogId kMultHoved{"Multiplier", "Checksheet"};
 
 }  // namespace vatro

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <string>
 
+#include "frame/state.h"
 #include "frame/station.h"
 #include "numbers.h"
 #include "page.h"
@@ -30,7 +31,7 @@ constexpr Båndsøjler kSøjler{"  @@@@@ x ", " @@@@@@@@"};
 /// Radio and antenna stand one above the other.
 void PrintBånd(PageSurface& surface, const Sammentælling& alt, std::size_t båndNr) {
     Række(surface, Båndrække(kSøjler, båndNr, " CW  ", alt.CW(båndNr)) + Blanke(29) + RigAf(båndNr));
-    const LogSum& bånd = alt.bånd[båndNr];
+    const LogSum& bånd = alt.band[båndNr];
     Række(surface, Båndrække(kSøjler, båndNr, " SSB ", alt.SSB(båndNr)) + InTemplate("  @@@@@ x ", bånd.Mults) +
                        InTemplate("@@@@@@ = ", bånd.Points) + InTemplate("@@@@@@@@@", bånd.Score) + " " + AntAf(båndNr));
     BlankRække(surface);
@@ -45,10 +46,10 @@ void PrintTelefon(PageSurface& surface) {
 void PrintBlad(PageSurface& surface, const Sammentælling& alt) {
     Række(surface, kSammentællingsblad);
     BlankRække(surface);
-    Række(surface,
-          "Kaldesignal: " + gsMyCall + Blanke(10) + "Kategori: " + gsKlasse + Blanke(14) + "Antal logsider: " + NumberText(surface.Page()));
+    Række(surface, "Kaldesignal: " + desk().gsMyCall + Blanke(10) + "Kategori: " + desk().gsKlasse + Blanke(14) +
+                       "Antal logsider: " + NumberText(surface.Page()));
     BlankRække(surface);
-    Række(surface, "Navn: " + alt.navn);
+    Række(surface, "Navn: " + alt.name);
     BlankRække(surface);
     Række(surface, kOperatørerne);
     BlankRække(surface);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/printing.h"
+#include "frame/state.h"
 
 #include <string>
 
@@ -25,7 +26,7 @@ constexpr IaltForm kIaltPrint{46, "@@@@@", "      @@@@", "      @@@@@@@"};
 
 class LogUdskrift : public LogPapir {
 public:
-    LogUdskrift(PageSurface& surface, const BåndMode& log) : surface_(surface), log_(log) {}
+    LogUdskrift(PageSurface& surface, const LogId& log) : surface_(surface), log_(log) {}
 
 private:
     void FørLinje(int LineCount) override {
@@ -37,10 +38,10 @@ private:
     void NySide() override {
         PrintFod(surface_);
         surface_.NewPage();
-        PrintHoved(surface_, log_.bånd, log_.mode);
+        PrintHoved(surface_, log_.band, log_.mode);
     }
     PageSurface& surface_;
-    BåndMode log_;
+    LogId log_;
 };
 
 void PrintUkendteLinjer(PageSurface& surface) {
@@ -100,17 +101,17 @@ void PrintFod(PageSurface& surface) {
     surface.PrintCentred("Side " + NumberText(surface.Page()) + VersionMærke());
 }
 
-void PrintLog(PageSurface& surface, const BåndMode& log) {
+void PrintLog(PageSurface& surface, const LogId& log) {
     Find1Weekend();
     VisForløb(kPrintTitel);
-    TilføjForløb(BåndOgMode(log.bånd, log.mode));
+    TilføjForløb(BåndOgMode(log.band, log.mode));
     try {
         ÅbnLog(log);
     } catch (const RunTimeError&) {
         return;
     }
     try {
-        PrintHoved(surface, log.bånd, log.mode);
+        PrintHoved(surface, log.band, log.mode);
         PrintKrop(surface, log);
         PrintFod(surface);
         platform().files.Close(kLogFil);
@@ -119,7 +120,7 @@ void PrintLog(PageSurface& surface, const BåndMode& log) {
     }
 }
 
-void PrintKrop(PageSurface& surface, const BåndMode& log) {
+void PrintKrop(PageSurface& surface, const LogId& log) {
     surface.font.name = kBrødtekstFont;
     surface.font.size = kBrødtekst;
     LogUdskrift(surface, log).Krop();
@@ -128,7 +129,7 @@ void PrintKrop(PageSurface& surface, const BåndMode& log) {
 void PrintMultCheck(PageSurface& surface) {
     VisForløb(kPrintTitel);
     TilføjForløb(kMultTrin);
-    PrintHoved(surface, kMultHoved.bånd, kMultHoved.mode);
+    PrintHoved(surface, kMultHoved.band, kMultHoved.mode);
     MultTable table;
     MultCount count{};
     SamlAlleMult(table, count);
@@ -140,7 +141,7 @@ void PrintMult(PageSurface& surface, const MultTable& table, const MultCount& co
     const auto nySide = [&surface] {
         PrintFod(surface);
         surface.NewPage();
-        PrintHoved(surface, kMultHoved.bånd, kMultHoved.mode);
+        PrintHoved(surface, kMultHoved.band, kMultHoved.mode);
     };
     OpsætMult(table, count, {[&surface](std::string_view linje) { surface.Print(linje); }, nySide});
 }
@@ -150,7 +151,7 @@ void PrintUkendt(PageSurface& surface) {
     TilføjForløb("Ukendte præfixer"_t);
     bool åben = false;
     try {
-        platform().files.Open(kLogFil, Sti(gsLogLib, "ukendt.txt"), FileMode::Input);
+        platform().files.Open(kLogFil, PathIn(desk().gsLogLib, "ukendt.txt"), FileMode::Input);
         åben = true;
         PrintHoved(surface, "ukendt", {});
         PrintUkendteLinjer(surface);
@@ -163,7 +164,7 @@ void PrintUkendt(PageSurface& surface) {
 }
 
 void PrintAlt(PageSurface& surface) {
-    for (const BåndMode& log : kPapirOrden) PrintLog(surface, log);
+    for (const LogId& log : kPapirOrden) PrintLog(surface, log);
     PrintMultCheck(surface);
     PrintSummary(surface);
 }

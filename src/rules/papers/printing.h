@@ -32,9 +32,9 @@ void PrintHoved(PageSurface& surface, std::string_view bånd, std::string_view m
 void PrintFod(PageSurface& surface);
 
 /// A log. One that cannot be opened prints nothing and takes no page; one that fails on the way ends there, without a word.
-void PrintLog(PageSurface& surface, const BåndMode& log);
+void PrintLog(PageSurface& surface, const LogId& log);
 /// The pages of the open log, without the footer of the last one.
-void PrintKrop(PageSurface& surface, const BåndMode& log);
+void PrintKrop(PageSurface& surface, const LogId& log);
 
 /// The multiplier check sheet, from the logs or of a table that is counted already. Fails with 9 on a hundred and one multipliers
 /// of one log.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/summary.h"
+#include "frame/state.h"
 
 #include <algorithm>
 #include <vector>
@@ -33,10 +34,10 @@ void TilføjOperatør(std::string& Operators, std::string_view op) {
 }
 
 std::string StationsNavn() {
-    for (int i = 1; i <= EDRIBrug(); ++i) {
-        const std::string_view linje = EDRstn[static_cast<std::size_t>(i)].Linje.Padded();
+    for (int i = 1; i <= desk().stations.StationsInUse(); ++i) {
+        const std::string_view linje = desk().stations.EDRstn[static_cast<std::size_t>(i)].Linje.Padded();
         const std::string call = std::string(UdenBlankeEfter(linje.substr(0, kEdrCall))) + "/P";
-        if (call == gsMyCall) return std::string(linje.substr(kEdrCall + 1));
+        if (call == desk().gsMyCall) return std::string(linje.substr(kEdrCall + 1));
     }
     return {};
 }
@@ -52,7 +53,7 @@ constexpr Båndsøjler kSøjler{"       @@@@@ x ", "@@@@@@@@"};
 void SkrivBånd(const Sammentælling& alt, std::size_t båndNr) {
     constexpr std::size_t kTilUdstyr = 49;
     Skriv(Båndrække(kSøjler, båndNr, " CW   ", alt.CW(båndNr)).append(kTilUdstyr, ' ') + RigAf(båndNr) + "/" + AntAf(båndNr));
-    const LogSum& bånd = alt.bånd[båndNr];
+    const LogSum& bånd = alt.band[båndNr];
     Skriv(Båndrække(kSøjler, båndNr, " SSB  ", alt.SSB(båndNr)) + InTemplate("         @@@@@ x ", bånd.Mults) +
           InTemplate("      @@@@@@ = ", bånd.Points) + InTemplate("      @@@@@@@@@", bånd.Score));
 }
@@ -66,9 +67,9 @@ void SkrivTotal(const Sammentælling& alt) {
 void SkrivBlad(const Sammentælling& alt) {
     Skriv(kSammentællingsblad);
     SkrivBlank();
-    Skriv(TilNæsteZone(TilNæsteZone("Kaldesignal: " + gsMyCall) + "Kategori: " + gsKlasse) + "Antal logsider: ");
+    Skriv(TilNæsteZone(TilNæsteZone("Kaldesignal: " + desk().gsMyCall) + "Kategori: " + desk().gsKlasse) + "Antal logsider: ");
     SkrivBlank();
-    Skriv("Navn: " + alt.navn);
+    Skriv("Navn: " + alt.name);
     SkrivBlank();
     Skriv(std::string(kOperatørerne) + alt.Operatører());
     SkrivBlank();
@@ -94,7 +95,7 @@ std::string Båndrække(const Båndsøjler& søjler, std::size_t båndNr, std::s
         .append(InTemplate(søjler.score, sum.Score));
 }
 
-void SumLog(const BåndMode& log, BandSum& sum, std::string& Operators) {
+void SumLog(const LogId& log, BandSum& sum, std::string& Operators) {
     Files& filer = platform().files;
     try {
         ÅbnLog(log);
@@ -102,7 +103,7 @@ void SumLog(const BåndMode& log, BandSum& sum, std::string& Operators) {
             const std::string linje = filer.LineInput(kLogFil);
             if (TællerSomQSO(linje)) ++sum.QSOs;
             sum.Tæl(linje);
-            TilføjOperatør(Operators, UdenBlankeEfter(kOperatør.Af(linje)));
+            TilføjOperatør(Operators, UdenBlankeEfter(kOperator.Of(linje)));
         }
         filer.Close(kLogFil);
     } catch (const RunTimeError&) {
@@ -131,32 +132,32 @@ std::string Sammentælling::Operatører() const {
 
 Sammentælling Sammentæl() {
     Sammentælling alt;
-    alt.navn = StationsNavn();
-    for (std::size_t i = 0; i < kTiLogge.size(); ++i) SumLog(kTiLogge[i], alt.rækker[i], alt.Operators);
+    alt.name = StationsNavn();
+    for (std::size_t i = 0; i < kTenLogs.size(); ++i) SumLog(kTenLogs[i], alt.rækker[i], alt.Operators);
     for (BandSum& række : alt.rækker) {
         række.BeregnScore();
         alt.TotalQSOs += række.QSOs;
     }
     for (std::size_t båndNr = 0; båndNr < kAntalBånd; ++båndNr) {
-        alt.bånd[båndNr].LægTil(alt.CW(båndNr));
-        alt.bånd[båndNr].LægTil(alt.SSB(båndNr));
-        alt.bånd[båndNr].BeregnScore();
-        alt.Total.LægTil(alt.bånd[båndNr]);
+        alt.band[båndNr].LægTil(alt.CW(båndNr));
+        alt.band[båndNr].LægTil(alt.SSB(båndNr));
+        alt.band[båndNr].BeregnScore();
+        alt.Total.LægTil(alt.band[båndNr]);
     }
     alt.Total.BeregnScore();
     return alt;
 }
 
 const std::string& RigAf(std::size_t båndNr) {
-    return gsRig[kUdstyrBånd.size() - 1 - båndNr];
+    return desk().rigs[kEquipmentBands.size() - 1 - båndNr];
 }
 
 const std::string& AntAf(std::size_t båndNr) {
-    return gsAnt[kUdstyrBånd.size() - 1 - båndNr];
+    return desk().antennas[kEquipmentBands.size() - 1 - båndNr];
 }
 
 std::string_view OplystTelefon() {
-    return gsTelefon == kTelefonStandard ? std::string_view{} : gsTelefon;
+    return desk().gsTelefon == kTelefonStandard ? std::string_view{} : desk().gsTelefon;
 }
 
 void DanSummary() {

@@ -26,23 +26,23 @@ struct BandSum : LogSum {
 /// Counts a log into `sum` and adds its operators to `Operators`, each with a "," before it; one whose call is part of what
 /// stands there already is not added, nor is the mark of an imported contact. A log that cannot be opened is passed over. A
 /// failure on the way ends it in silence, with what was counted, and leaves the file open.
-void SumLog(const BåndMode& log, BandSum& sum, std::string& Operators);
+void SumLog(const LogId& log, BandSum& sum, std::string& Operators);
 
 /// From a list with "," to a sorted one with ", ".
 void SortOper(std::string& Operators);
 
-inline constexpr std::size_t kAntalBånd = kTiLogge.size() / 2;
+inline constexpr std::size_t kAntalBånd = kTenLogs.size() / 2;
 
 /// What a summary tells.
 struct Sammentælling {
     /// Of the station in the society's list, 73 characters with their blanks; empty if it is not on it.
-    std::string navn;
+    std::string name;
     /// As SumLog leaves it.
     std::string Operators;
-    /// In the order of kTiLogge.
-    std::array<BandSum, kTiLogge.size()> rækker;
+    /// In the order of kTenLogs.
+    std::array<BandSum, kTenLogs.size()> rækker;
     /// CW and SSB together: 10, 15, 20, 40, 80 m.
-    std::array<LogSum, kAntalBånd> bånd;
+    std::array<LogSum, kAntalBånd> band;
     std::int32_t TotalQSOs = 0;
     LogSum Total;
 

@@ -3,87 +3,76 @@
 
 #include <algorithm>
 
-#include "codepage.h"
-#include "frame/station.h"
-#include "platform.h"
-#include "score/points.h"
+#include "errors.h"
 
 namespace vatro {
 
-using namespace literals;
-
-std::array<EDRRec, kEdrRækker + 1> EDRstn;
-std::int16_t giEDR = 0;
-
 namespace {
 
-/// The calls of the rows, packed: every line of a log that is loaded is looked for among all stations.
-std::array<std::uint64_t, kEdrRækker + 1> nøgler{};
+constexpr std::int32_t kStationPoints = 10;
 
-std::uint64_t Nøgle(std::string_view seksTegn) {
-    std::uint64_t nøgle = 0;
-    for (const char c : seksTegn) nøgle = (nøgle << 8U) | static_cast<unsigned char>(c);
-    return nøgle;
+std::uint64_t PackedCall(std::string_view sixCharacters) {
+    std::uint64_t key = 0;
+    for (const char c : sixCharacters) key = (key << 8U) | static_cast<unsigned char>(c);
+    return key;
 }
 
-std::string_view EdrCall(const EDRRec& station) {
+std::string_view CallOf(const EDRRec& station) {
     return station.Linje.Padded().substr(0, kEdrCall);
 }
 
 }  // namespace
 
-int EDRIBrug() {
-    return std::min<int>(giEDR, kEdrRækker);
+std::string StationCall(std::string_view call) {
+    return LeftAligned(call, kEdrCall);
 }
 
-void IndlæsEDR() {
-    Files& filer = platform().files;
-    try {
-        filer.Open(1, Sti(gsFDLib, "edr.txt"), FileMode::Input);
-        giEDR = 0;
-        while (!filer.EndOfFile(1)) {
-            const std::string linje = filer.LineInput(1);
-            ++giEDR;
-            if (giEDR > kEdrRækker) throw RunTimeError(Failure::IndexOutOfRange);
-            const auto række = static_cast<std::size_t>(giEDR);
-            EDRstn[række].Linje = linje;
-            EDRstn[række].Wkd = false;
-            nøgler[række] = Nøgle(EdrCall(EDRstn[række]));
-        }
-        filer.Close(1);
-    } catch (const RunTimeError&) {
-        MsgBox("Kan ikke finde filen " + Sti(gsFDLib, "edr.txt"));
+void Stations::Read(std::string_view line) {
+    ++giEDR;
+    if (giEDR > kEdrRows) throw RunTimeError(Failure::IndexOutOfRange);
+    const auto row = static_cast<std::size_t>(giEDR);
+    EDRstn[row].Linje = line;
+    EDRstn[row].Wkd = false;
+    keys_[row] = PackedCall(CallOf(EDRstn[row]));
+}
+
+int Stations::StationsInUse() const {
+    return std::min<int>(giEDR, kEdrRows);
+}
+
+std::size_t Stations::RowBehind(std::size_t row, std::uint64_t call) const {
+    const auto end = keys_.begin() + StationsInUse() + 1;
+    const auto found = std::find(keys_.begin() + static_cast<std::ptrdiff_t>(row) + 1, end, call);
+    return found == end ? 0 : static_cast<std::size_t>(found - keys_.begin());
+}
+
+std::optional<std::int32_t> Stations::EDRstnWkd(std::string_view call, MarkAction action) {
+    const std::uint64_t wanted = PackedCall(StationCall(call));
+    std::optional<std::int32_t> points;
+    for (std::size_t row = RowBehind(0, wanted); row != 0; row = RowBehind(row, wanted)) {
+        points = kStationPoints;
+        if (action != MarkAction::Test) EDRstn[row].Wkd = action == MarkAction::Mark;
     }
+    return points;
 }
 
-void EDRstnWkd(std::string& call, Handling handling) {
-    call.resize(kEdrCall, ' ');
-    const std::uint64_t søgt = Nøgle(call);
-    const auto ende = nøgler.begin() + EDRIBrug() + 1;
-    for (auto nøgle = std::find(nøgler.begin() + 1, ende, søgt); nøgle != ende; nøgle = std::find(nøgle + 1, ende, søgt)) {
-        giQSOPoint = 10;
-        if (handling != Handling::Test) EDRstn[static_cast<std::size_t>(nøgle - nøgler.begin())].Wkd = handling == Handling::Op;
-    }
+std::optional<std::int32_t> Stations::StationPoints(std::string_view call) const {
+    if (RowBehind(0, PackedCall(StationCall(call))) == 0) return std::nullopt;
+    return kStationPoints;
 }
 
-void findEDRstn(std::string_view call, std::string& tekst) {
-    for (int i = 1; i <= EDRIBrug(); ++i) {
+std::optional<std::string> Stations::findEDRstn(std::string_view call) const {
+    for (int i = 1; i <= StationsInUse(); ++i) {
         const EDRRec& station = EDRstn[static_cast<std::size_t>(i)];
-        if (Trim(EdrCall(station)) != Trim(call)) continue;
-        const std::string_view linje = station.Linje.Padded();
-        tekst = linje.substr(0, linje.find(','));
-        return;
+        if (Trim(CallOf(station)) != Trim(call)) continue;
+        const std::string_view line = station.Linje.Padded();
+        return std::string(line.substr(0, line.find(',')));
     }
+    return std::nullopt;
 }
 
-void ResetEDR() {
+void Stations::ResetEDR() {
     for (EDRRec& station : EDRstn) station.Wkd = false;
-}
-
-void NulstilEDR() {
-    EDRstn.fill({});
-    nøgler.fill(0);
-    giEDR = 0;
 }
 
 }  // namespace vatro

@@ -12,6 +12,7 @@
 #include "exchange/backup.h"
 #include "exchange/frmTilFloppy.h"
 #include "frame/band_mode.h"
+#include "frame/state.h"
 #include "running_program.h"
 #include "temporary_directory.h"
 
@@ -49,14 +50,14 @@ protected:
     Media() {
         fs::create_directory(root_ / "log");
         Start();
-        InstallPlatform({front, dialogs, settings, disk_, clock, help, instance, sound, printer, {1, 2, 3}});
-        gsLogLib = (root_ / "log").string();
-        gsBackupLib = (root_ / "kopi").string();
+        InstallPlatform(front, {dialogs, settings, disk_, clock, help, instance, sound, printer, {1, 2, 3}});
+        desk().gsLogLib = (root_ / "log").string();
+        desk().gsBackupLib = (root_ / "kopi").string();
     }
     void SetUp() override {
         if (!medium_.Mounted()) GTEST_SKIP() << "skipped: file systems can only be mounted by root";
     }
-    ~Media() override { InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}}); }
+    ~Media() override { InstallPlatform(front, {dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}}); }
 
     void Put(const std::string& name, std::size_t length) const {
         std::ofstream(root_ / "log" / name, std::ios::binary) << std::string(length, 'x');
@@ -67,7 +68,7 @@ protected:
         const auto length = fs::file_size(root_ / "kopi" / name, missing);
         return missing ? -1 : static_cast<long>(length);
     }
-    static void Copy() { Dispatch(BackupUdfør); }
+    static void Copy() { Dispatch(BackUpLogs); }
 
     TemporaryDirectory directory_;
     fs::path root_ = directory_.Path();

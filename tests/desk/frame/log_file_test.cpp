@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "frame/log_file.h"
 
+#include "frame/state.h"
+#include "tables/worked.h"
+
 #include "country/lookup.h"
 #include "frame/band_mode.h"
 #include "running_program.h"
@@ -27,16 +30,16 @@ protected:
 
 TEST_F(LogFile, IsNamedAfterBandAndMode) {
     Start();
-    EXPECT_EQ(LogSti("10m", "CW"), "log\\FD10mCW.txt");
-    EXPECT_EQ(AktuelLogSti(), "log\\FD80mSSB.txt");
+    EXPECT_EQ(LogPath("10m", "CW"), "log\\FD10mCW.txt");
+    EXPECT_EQ(CurrentLogPath(), "log\\FD80mSSB.txt");
 }
 
 TEST_F(LogFile, LoadCountsPointsCountriesAndTakesTheLastSerialNumber) {
     StartWith({kFirst, kSecond, kDuplicate});
     IndlæsLogfil();
-    EXPECT_EQ(giQSOnr, 8);
-    EXPECT_EQ(glPoint, 13);
-    EXPECT_EQ(giMult, 2);
+    EXPECT_EQ(desk().log.giQSOnr, 8);
+    EXPECT_EQ(desk().log.glPoint, 13);
+    EXPECT_EQ(desk().giMult, 2);
     EXPECT_EQ(frmMain->List1.Items(), (Lines{kFirst, kSecond, kDuplicate}));
     EXPECT_EQ(frmMain->List1.ListIndex(), 2);
     EXPECT_EQ(frmMain->sbStatusBar.Panel(1), "Vatro 80m SSB");
@@ -47,16 +50,16 @@ TEST_F(LogFile, LoadListsANoteAndCountsNothingOfIt) {
     StartWith({kFirst, "note: x                                 99 OZ"});
     IndlæsLogfil();
     EXPECT_EQ(frmMain->List1.ListCount(), 2);
-    EXPECT_EQ(giQSOnr, 7);
-    EXPECT_EQ(glPoint, 3);
-    EXPECT_EQ(giMult, 1);
+    EXPECT_EQ(desk().log.giQSOnr, 7);
+    EXPECT_EQ(desk().log.glPoint, 3);
+    EXPECT_EQ(desk().giMult, 1);
 }
 
 TEST_F(LogFile, LoadOfALogWithoutContactsSelectsNothing) {
     StartWith({});
     IndlæsLogfil();
     EXPECT_EQ(frmMain->List1.ListIndex(), -1);
-    EXPECT_EQ(giQSOnr, 0);
+    EXPECT_EQ(desk().log.giQSOnr, 0);
 }
 
 TEST_F(LogFile, LoadThatFailsOnTheWayKeepsWhatWasRead) {
@@ -64,8 +67,8 @@ TEST_F(LogFile, LoadThatFailsOnTheWayKeepsWhatWasRead) {
     files.FailFrom("read", 2, Failure::DiskNotReady);
     IndlæsLogfil();
     EXPECT_EQ(frmMain->List1.Items(), Lines{kFirst});
-    EXPECT_EQ(glPoint, 3);
-    EXPECT_EQ(giQSOnr, 7);
+    EXPECT_EQ(desk().log.glPoint, 3);
+    EXPECT_EQ(desk().log.giQSOnr, 7);
     // The panels still show the zeros from before the file was opened.
     EXPECT_EQ(frmMain->sbStatusBar.Panel(2), "0");
     EXPECT_FALSE(files.IsOpen());
@@ -73,19 +76,16 @@ TEST_F(LogFile, LoadThatFailsOnTheWayKeepsWhatWasRead) {
 
 TEST_F(LogFile, LoadBelievesTheMultiplierColumnAndNotTheCall) {
     StartWith({"10:10 DL1AA           59 -0007 59 -0003  3 OZ         OZ1DEF     SSB   05-09-26"});
-    std::string status;
-    LandStatusTekst("OZ7XYZ", status);
-    EXPECT_EQ(ToUtf8(status), "OZ: Denmark (EU), er kørt.");
-    LandStatusTekst("DL1AA", status);
-    EXPECT_EQ(status, "DL: Fed. Rep. of Germany (EU), er nyt land.");
+    EXPECT_EQ(ToUtf8(ShownCountry("OZ7XYZ").text), "OZ: Denmark (EU), er kørt.");
+    EXPECT_EQ(ShownCountry("DL1AA").text, "DL: Fed. Rep. of Germany (EU), er nyt land.");
 }
 
 TEST_F(LogFile, LoadTakesALineThatEndsBeforeItsPoints) {
     StartWith({"10:10 DL1AA           59 -0007"});
     IndlæsLogfil();
-    EXPECT_EQ(giQSOnr, 7);
-    EXPECT_EQ(glPoint, 0);
-    EXPECT_EQ(giMult, 0);
+    EXPECT_EQ(desk().log.giQSOnr, 7);
+    EXPECT_EQ(desk().log.glPoint, 0);
+    EXPECT_EQ(desk().giMult, 0);
 }
 
 TEST_F(LogFile, AppendOpensWritesAndClosesForEachLine) {
@@ -117,7 +117,7 @@ TEST_F(LogFile, AppendThatFailsEndsTheProgramAfterOneMessage) {
 
 TEST_F(LogFile, RewriteGoesByWayOfACopy) {
     StartWith({kFirst, kSecond});
-    frmMain->List1.SetList(0, "NOTE: x");
+    desk().log.Replace(0, "NOTE: x");
     SkrivLog();
     EXPECT_EQ(files.steps, (Lines{"open LOG\\FDKOPI.TXT", "write LOG\\FDKOPI.TXT", "write LOG\\FDKOPI.TXT", "close",
                                   "delete LOG\\FD80MSSB.TXT", "rename LOG\\FDKOPI.TXT"}));

@@ -19,48 +19,48 @@ int NumberOf(const std::function<void()>& call) {
 class StoredSettings : public RunningProgram {};
 
 TEST_F(StoredSettings, AMissingKeyYieldsTheDefaultAndWritesNothing) {
-    EXPECT_EQ(HentTekst("CW", "Tekst9", "x"), "x");
-    EXPECT_EQ(HentTal("CW", "WPM", 20), 20);
-    EXPECT_TRUE(HentFlag("Settings", "VisLand", true));
+    EXPECT_EQ(ReadText("CW", "Tekst9", "x"), "x");
+    EXPECT_EQ(ReadNumber("CW", "WPM", 20), 20);
+    EXPECT_TRUE(ReadFlag("Settings", "VisLand", true));
     EXPECT_TRUE(settings.written.empty());
 }
 
 TEST_F(StoredSettings, KeysAreOneWhateverTheirCase) {
-    GemTekst("Settings", "gsFDlib", "c:\\vatro");
-    EXPECT_EQ(HentTekst("Settings", "gsFDLib"), "c:\\vatro");
-    EXPECT_EQ(HentTekst("Settings", "FDLib", "none"), "none");
+    StoreText("Settings", "gsFDlib", "c:\\vatro");
+    EXPECT_EQ(ReadText("Settings", "gsFDLib"), "c:\\vatro");
+    EXPECT_EQ(ReadText("Settings", "FDLib", "none"), "none");
 }
 
 TEST_F(StoredSettings, AFlagComesBackAsItWasWritten) {
     for (const bool flag : {true, false}) {
-        GemFlag("Settings", "VisLand", flag);
-        EXPECT_EQ(HentTekst("Settings", "VisLand"), flag ? "True" : "False");
-        EXPECT_EQ(HentFlag("Settings", "VisLand", !flag), flag);
+        StoreFlag("Settings", "VisLand", flag);
+        EXPECT_EQ(ReadText("Settings", "VisLand"), flag ? "True" : "False");
+        EXPECT_EQ(ReadFlag("Settings", "VisLand", !flag), flag);
     }
 }
 
 TEST_F(StoredSettings, ANumberIsWrittenAsDecimalDigits) {
-    GemTal("Settings", "MainLeft", -120);
-    EXPECT_EQ(HentTekst("Settings", "MainLeft"), "-120");
-    EXPECT_EQ(HentTal("Settings", "MainLeft", 0), -120);
+    StoreNumber("Settings", "MainLeft", -120);
+    EXPECT_EQ(ReadText("Settings", "MainLeft"), "-120");
+    EXPECT_EQ(ReadNumber("Settings", "MainLeft", 0), -120);
 }
 
 TEST_F(StoredSettings, ATextThatIsNoNumberIsAFailure) {
-    GemTekst("Settings", "AutoTid", "ja");
-    EXPECT_EQ(NumberOf([] { HentTal("Settings", "AutoTid", 1); }), 13);
-    EXPECT_EQ(NumberOf([] { HentFlag("Settings", "AutoTid", true); }), 13);
-    GemTekst("Settings", "AutoTid", "32768");
-    EXPECT_EQ(NumberOf([] { HentTal("Settings", "AutoTid", 1); }), 6);
+    StoreText("Settings", "AutoTid", "ja");
+    EXPECT_EQ(NumberOf([] { ReadNumber("Settings", "AutoTid", 1); }), 13);
+    EXPECT_EQ(NumberOf([] { ReadFlag("Settings", "AutoTid", true); }), 13);
+    StoreText("Settings", "AutoTid", "32768");
+    EXPECT_EQ(NumberOf([] { ReadNumber("Settings", "AutoTid", 1); }), 6);
 }
 
 TEST_F(StoredSettings, AWindowComesUpWhereItWasClosed) {
     Start();
     frmB4->Place(100, 200, 5000, 4000);
     frmB4.Unload();
-    EXPECT_EQ(HentTekst("Settings", "B4Left"), "100");
-    EXPECT_EQ(HentTekst("Settings", "B4Top"), "200");
-    EXPECT_EQ(HentTekst("Settings", "B4Width"), "5000");
-    EXPECT_EQ(HentTekst("Settings", "B4Height"), "4000");
+    EXPECT_EQ(ReadText("Settings", "B4Left"), "100");
+    EXPECT_EQ(ReadText("Settings", "B4Top"), "200");
+    EXPECT_EQ(ReadText("Settings", "B4Width"), "5000");
+    EXPECT_EQ(ReadText("Settings", "B4Height"), "4000");
     EXPECT_EQ(frmB4->Left(), 100);
     EXPECT_EQ(frmB4->Height(), 4000);
 }
@@ -70,7 +70,7 @@ TEST_F(StoredSettings, AMinimisedWindowStoresNoPlace) {
     frmB4->Place(100, 200, 5000, 4000);
     frmB4->UserState(WindowState::Minimised);
     frmB4.Unload();
-    EXPECT_EQ(HentTekst("Settings", "B4Left", "none"), "none");
+    EXPECT_EQ(ReadText("Settings", "B4Left", "none"), "none");
 }
 
 }  // namespace

@@ -62,7 +62,7 @@ TEST_F(Sending, AnEventFillsTheHalfThatHasJustBeenPlayed) {
 TEST_F(Sending, AShortTextStopsAtTheFirstEvent) {
     Start();
     // At 60 words a minute, "E" and its silence are 9702 samples.
-    keyerState().giCWWPM = 60;
+    desk().cw.giCWWPM = 60;
     SendText("E");
     sound.calls.clear();
     Pass(0);
@@ -74,7 +74,7 @@ TEST_F(Sending, AShortTextStopsAtTheFirstEvent) {
 
 TEST_F(Sending, AnEmptyTextIsHalfASecondOfSilence) {
     Start();
-    keyerState().giCWWPM = 60;
+    desk().cw.giCWWPM = 60;
     Send(4);
     EXPECT_EQ(frmCWTX->Text1.Text(), " ");
     PlayOut();
@@ -96,7 +96,7 @@ TEST_F(Sending, UpTo24WordsAMinuteEveryToneIsHeard) {
     Start();
     for (const int wpm : {6, 13, 20, 23, 24}) {
         Dispatch([] { frmCWTX.Unload(); });
-        keyerState().giCWWPM = static_cast<std::int16_t>(wpm);
+        desk().cw.giCWWPM = static_cast<std::int16_t>(wpm);
         // Texts of so many dots up to the end of the last tone.
         for (const auto& [text, dots] :
              {std::pair{"E", 1}, {"T", 3}, {"A", 5}, {"U", 7}, {"V", 9}, {"4", 11}, {"EEEE", 13}, {"EEET", 15}}) {
@@ -115,7 +115,7 @@ TEST_F(Sending, Above24WordsAMinuteTheLastTonesCanBeCutOff) {
     Start();
     // 27 dots of 1764 samples up to the end of the last dash, and 10 of silence, are 65268 samples, in three halves. When the third one
     // begins to sound, the next one holds nothing: two halves are heard, 25 dots.
-    keyerState().giCWWPM = 30;
+    desk().cw.giCWWPM = 30;
     SendText("EEEEEET");
     PlayOut();
     EXPECT_EQ(heard.size(), 2U * kHalf);
@@ -125,7 +125,7 @@ TEST_F(Sending, Above24WordsAMinuteTheLastTonesCanBeCutOff) {
 TEST_F(Sending, ATextThatEndsWithAHalfIsFollowedByOneMore) {
     Start();
     // 15 dots and 10 of silence are 44100 samples. The last slot ends with its half, which counts as one that has been cut.
-    keyerState().giCWWPM = 30;
+    desk().cw.giCWWPM = 30;
     SendText("EEET");
     PlayOut();
     EXPECT_EQ(heard.size(), 2U * kHalf);
@@ -229,7 +229,7 @@ TEST_F(Sending, ANewSpeedBreaksTheTextOffAndTheWindowWaitsForStop) {
     SendText("PARIS PARIS");
     const SoundEvent first = frmCWTX->CWEvent[0];
     Dispatch([] {
-        keyerState().giCWWPM = 40;
+        desk().cw.giCWWPM = 40;
         frmCWTX->DanLydBuffer();
     });
     EXPECT_EQ(CurrentPieces().Priklen, 1323);
@@ -261,7 +261,7 @@ TEST_F(Sending, WithoutACardTheMessageComesOnceAndNothingElseHappens) {
     EXPECT_TRUE(frmMain->Enabled());
     EXPECT_EQ(ActiveForm(), &*frmMain);
     EXPECT_EQ(Place().gsCWTekst, "");
-    EXPECT_EQ(keyerState().gsCWCall, "");
+    EXPECT_EQ(desk().cw.gsCWCall, "");
     SendText("#C");
     EXPECT_EQ(dialogs.boxes.size(), 1U);
     EXPECT_FALSE(Shown());

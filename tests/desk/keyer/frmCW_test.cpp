@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/frmCW.h"
+#include "frame/state.h"
 
 #include "desk/keyer/sending_program.h"
 #include "exchange/equipment.h"
@@ -48,8 +49,8 @@ TEST_F(CWWindow, ShowsAVolumeBeyondTheBarAtItsEnd) {
     Open();
     EXPECT_EQ(frmCW->HScroll1.Value(), 10000);
     PressOK();
-    EXPECT_EQ(keyerState().glCWVolume, 10000);
-    keyerState().glCWVolume = -5;
+    EXPECT_EQ(desk().cw.glCWVolume, 10000);
+    desk().cw.glCWVolume = -5;
     Open();
     EXPECT_EQ(frmCW->HScroll1.Value(), 0);
 }
@@ -114,9 +115,9 @@ TEST_F(CWWindow, TheDefaultTextsComeIntoTheFieldsAlone) {
     EXPECT_EQ(dialogs.boxes.back().icon, Icon::Question);
     EXPECT_TRUE(dialogs.boxes.back().defaultNo);
     EXPECT_EQ(Fields(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "TU #R", "#C?", "", ""}));
-    EXPECT_EQ(keyerState().CWTekster[4], "");
+    EXPECT_EQ(desk().cw.CWTekster[4], "");
     PressOK();
-    EXPECT_EQ(keyerState().CWTekster[4], "TU #R");
+    EXPECT_EQ(desk().cw.CWTekster[4], "TU #R");
 }
 
 TEST_F(CWWindow, ANoKeepsTheFields) {
@@ -128,9 +129,9 @@ TEST_F(CWWindow, ANoKeepsTheFields) {
 }
 
 TEST_F(CWWindow, OKTakesEverythingOverAndStoresItWithTheEquipment) {
-    gsRig[0] = "";
+    desk().rigs[0] = "";
     Open();
-    gsRig[2] = "Homebrew";
+    desk().rigs[2] = "Homebrew";
     frmCW->Text1[0].SetText("TEST #R");
     frmCW->Text1[6].SetText("AGN?");
     frmCW->txtWPM.SetText("26");
@@ -140,13 +141,13 @@ TEST_F(CWWindow, OKTakesEverythingOverAndStoresItWithTheEquipment) {
     frmCW->optLobenr[1].SetValue(true);
     settings.written.clear();
     PressOK();
-    EXPECT_EQ(keyerState().giCWWPM, 26);
-    EXPECT_EQ(keyerState().giCWTone, 700);
-    EXPECT_EQ(keyerState().glCWVolume, 8000);
-    EXPECT_EQ(keyerState().gsCWRSTFormat, "5nn");
-    EXPECT_EQ(keyerState().gsCWNummerFormat, "--1");
-    EXPECT_EQ(keyerState().CWTekster[0], "TEST #R");
-    EXPECT_EQ(keyerState().CWTekster[6], "AGN?");
+    EXPECT_EQ(desk().cw.giCWWPM, 26);
+    EXPECT_EQ(desk().cw.giCWTone, 700);
+    EXPECT_EQ(desk().cw.glCWVolume, 8000);
+    EXPECT_EQ(desk().cw.gsCWRSTFormat, "5nn");
+    EXPECT_EQ(desk().cw.gsCWNummerFormat, "--1");
+    EXPECT_EQ(desk().cw.CWTekster[0], "TEST #R");
+    EXPECT_EQ(desk().cw.CWTekster[6], "AGN?");
     EXPECT_EQ(frmMain->mnuCWTXT[0].Caption(), "TEST #R");
     EXPECT_EQ(frmMain->mnuCWTXT[6].Caption(), "AGN?");
     // The keyer first, then the equipment.
@@ -168,8 +169,8 @@ TEST_F(CWWindow, OKGivesTheLongFormsBack) {
     frmCW->optRST[0].SetValue(true);
     frmCW->optLobenr[0].SetValue(true);
     PressOK();
-    EXPECT_EQ(keyerState().gsCWRSTFormat, "599");
-    EXPECT_EQ(keyerState().gsCWNummerFormat, "001");
+    EXPECT_EQ(desk().cw.gsCWRSTFormat, "599");
+    EXPECT_EQ(desk().cw.gsCWNummerFormat, "001");
 }
 
 TEST_F(CWWindow, CancelKeepsNothing) {
@@ -180,9 +181,9 @@ TEST_F(CWWindow, CancelKeepsNothing) {
     settings.written.clear();
     Dispatch([] { frmCW->UserDefaultKey(kEsc); });
     EXPECT_FALSE(frmCW.Loaded());
-    EXPECT_EQ(keyerState().giCWWPM, 20);
-    EXPECT_EQ(keyerState().gsCWRSTFormat, "599");
-    EXPECT_EQ(keyerState().CWTekster[0], "CQ TEST DE #R #R TEST K");
+    EXPECT_EQ(desk().cw.giCWWPM, 20);
+    EXPECT_EQ(desk().cw.gsCWRSTFormat, "599");
+    EXPECT_EQ(desk().cw.CWTekster[0], "CQ TEST DE #R #R TEST K");
     EXPECT_EQ(settings.written, Texts{});
     Open();
     EXPECT_EQ(frmCW->Text1[0].Text(), "CQ TEST DE #R #R TEST K");
@@ -192,7 +193,7 @@ TEST_F(CWWindow, EnterIsOK) {
     Open();
     frmCW->Text1[0].SetText("X");
     Dispatch([] { frmCW->UserDefaultKey(kEnter); });
-    EXPECT_EQ(keyerState().CWTekster[0], "X");
+    EXPECT_EQ(desk().cw.CWTekster[0], "X");
 }
 
 TEST_F(CWWindow, TheNumberInFrontOfATextCounts) {
@@ -200,13 +201,13 @@ TEST_F(CWWindow, TheNumberInFrontOfATextCounts) {
     frmCW->txtWPM.SetText(" 25 wpm");
     frmCW->txtTone.SetText("612.5");
     PressOK();
-    EXPECT_EQ(keyerState().giCWWPM, 25);
-    EXPECT_EQ(keyerState().giCWTone, 612);
+    EXPECT_EQ(desk().cw.giCWWPM, 25);
+    EXPECT_EQ(desk().cw.giCWTone, 612);
     // Not the same as the stored 612: all three are taken over again, to the even neighbour.
     Open();
     frmCW->txtTone.SetText("613.5");
     PressOK();
-    EXPECT_EQ(keyerState().giCWTone, 614);
+    EXPECT_EQ(desk().cw.giCWTone, 614);
 }
 
 TEST_F(CWWindow, NewSoundMakesNewPieces) {
@@ -237,7 +238,7 @@ TEST_F(CWWindow, AVolumeThatWasTooLoudCanBeTurnedDown) {
     SendText("E");
     Open();
     PressOK();
-    EXPECT_EQ(keyerState().glCWVolume, 10000);
+    EXPECT_EQ(desk().cw.glCWVolume, 10000);
     SendText("E");
     EXPECT_TRUE(frmCWTX->Visible());
     EXPECT_EQ(sound.calls.back(), "play");

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/keyer_settings.h"
 
-#include "keyer/keyer_state.h"
+#include "frame/state.h"
 #include "running_program.h"
 
 namespace vatro {
@@ -11,17 +11,17 @@ using Texts = std::vector<std::string>;
 
 class CWSettings : public RunningProgram {
 protected:
-    std::vector<std::string> AllTexts() { return {keyerState().CWTekster.begin(), keyerState().CWTekster.end()}; }
+    std::vector<std::string> AllTexts() { return {desk().cw.CWTekster.begin(), desk().cw.CWTekster.end()}; }
 };
 
 TEST_F(CWSettings, AnEmptyStoreGivesTheDefaults) {
     Start();
-    EXPECT_EQ(keyerState().giCWWPM, 20);
-    EXPECT_EQ(keyerState().giCWTone, 800);
-    EXPECT_EQ(keyerState().glCWVolume, 10000);
-    EXPECT_EQ(keyerState().giCWFarnsworth, 0);
-    EXPECT_EQ(keyerState().gsCWNummerFormat, "001");
-    EXPECT_EQ(keyerState().gsCWRSTFormat, "599");
+    EXPECT_EQ(desk().cw.giCWWPM, 20);
+    EXPECT_EQ(desk().cw.giCWTone, 800);
+    EXPECT_EQ(desk().cw.glCWVolume, 10000);
+    EXPECT_EQ(desk().cw.giCWFarnsworth, 0);
+    EXPECT_EQ(desk().cw.gsCWNummerFormat, "001");
+    EXPECT_EQ(desk().cw.gsCWRSTFormat, "599");
     EXPECT_EQ(AllTexts(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "", "", "", ""}));
 }
 
@@ -35,15 +35,15 @@ TEST_F(CWSettings, AreReadAtTheStartAndNothingIsWritten) {
                            {"CW/TEKST1", ""},
                            {"CW/TEKST8", "TU #R"}});
     HentCWIndstillinger();
-    EXPECT_EQ(keyerState().giCWWPM, 32);
-    EXPECT_EQ(keyerState().giCWTone, 650);
-    EXPECT_EQ(keyerState().glCWVolume, 40000);
-    EXPECT_EQ(keyerState().giCWFarnsworth, 3);
-    EXPECT_EQ(keyerState().gsCWNummerFormat, "--1");
-    EXPECT_EQ(keyerState().gsCWRSTFormat, "5nn");
-    EXPECT_EQ(keyerState().CWTekster[0], "");
-    EXPECT_EQ(keyerState().CWTekster[1], "CL?");
-    EXPECT_EQ(keyerState().CWTekster[7], "TU #R");
+    EXPECT_EQ(desk().cw.giCWWPM, 32);
+    EXPECT_EQ(desk().cw.giCWTone, 650);
+    EXPECT_EQ(desk().cw.glCWVolume, 40000);
+    EXPECT_EQ(desk().cw.giCWFarnsworth, 3);
+    EXPECT_EQ(desk().cw.gsCWNummerFormat, "--1");
+    EXPECT_EQ(desk().cw.gsCWRSTFormat, "5nn");
+    EXPECT_EQ(desk().cw.CWTekster[0], "");
+    EXPECT_EQ(desk().cw.CWTekster[1], "CL?");
+    EXPECT_EQ(desk().cw.CWTekster[7], "TU #R");
     EXPECT_EQ(settings.written, Texts{});
 }
 
@@ -51,7 +51,7 @@ TEST_F(CWSettings, ExtraSilenceIsCutAtTwentyAndHasNoLowerEnd) {
     const auto read = [this](const char* stored) {
         settings.texts["CW/FARNSWORTH"] = stored;
         HentCWIndstillinger();
-        return keyerState().giCWFarnsworth;
+        return desk().cw.giCWFarnsworth;
     };
     EXPECT_EQ(read("20"), 20);
     EXPECT_EQ(read("21"), 20);
@@ -60,10 +60,10 @@ TEST_F(CWSettings, ExtraSilenceIsCutAtTwentyAndHasNoLowerEnd) {
 
 TEST_F(CWSettings, AreWrittenWithAllTheirKeys) {
     HentCWIndstillinger();
-    keyerState().giCWWPM = 26;
-    keyerState().glCWVolume = 70000;
-    keyerState().giCWFarnsworth = -2;
-    keyerState().CWTekster[4] = "QRZ?";
+    desk().cw.giCWWPM = 26;
+    desk().cw.glCWVolume = 70000;
+    desk().cw.giCWFarnsworth = -2;
+    desk().cw.CWTekster[4] = "QRZ?";
     GemCWIndstillinger();
     EXPECT_EQ(settings.written, (Texts{"WPM", "Tone", "Volume", "Farnsworth", "N", "T", "Tekst1", "Tekst2", "Tekst3", "Tekst4", "Tekst5",
                                        "Tekst6", "Tekst7", "Tekst8"}));

@@ -37,12 +37,12 @@ TEST_F(CWTexts, AContactInShortForm) {
     Fill("DL9XYZ", "599", "0012");
     SendText("#C UR #T #N BK");
     EXPECT_EQ(Place().gsCWTekst, "DL9XYZ UR 5NN T12 BK ");
-    EXPECT_EQ(keyerState().gsCWNummer, "TT12");
-    EXPECT_EQ(keyerState().gsCWRST, "5NN");
+    EXPECT_EQ(desk().cw.gsCWNummer, "TT12");
+    EXPECT_EQ(desk().cw.gsCWRST, "5NN");
     // Once more: the values are short already.
     PressTX();
     EXPECT_EQ(Place().gsCWTekst, "DL9XYZ UR 5NN T12 BK ");
-    EXPECT_EQ(keyerState().gsCWNummer, "TT12");
+    EXPECT_EQ(desk().cw.gsCWNummer, "TT12");
 }
 
 TEST_F(CWTexts, AContactInLongForm) {
@@ -50,15 +50,15 @@ TEST_F(CWTexts, AContactInLongForm) {
     Fill("DL9XYZ", "599", "0012");
     SendText("#C DE #R UR #T #N BK");
     EXPECT_EQ(Place().gsCWTekst, "DL9XYZ DE OZ1AB/P UR 599 012 BK ");
-    EXPECT_EQ(keyerState().gsCWNummer, "0012");
-    EXPECT_EQ(keyerState().gsCWRST, "599");
+    EXPECT_EQ(desk().cw.gsCWNummer, "0012");
+    EXPECT_EQ(desk().cw.gsCWRST, "599");
 }
 
 TEST_F(CWTexts, TheTextShownIsTheTextSent) {
     Start();
     Fill("DL9XYZ", "599", "0012");
     SendText("de #r");
-    EXPECT_EQ(keyerState().gsCWRaa, "de #r");
+    EXPECT_EQ(desk().cw.gsCWRaa, "de #r");
     EXPECT_EQ(frmCWTX->Text1.Text(), "DE OZ1AB/P ");
     EXPECT_EQ(Place().gsCWTekst, "DE OZ1AB/P ");
 }
@@ -87,7 +87,7 @@ TEST_F(CWTexts, TakeTheNumberOfTheField) {
     Type(frmMain->Text1[1], "DL9XYZ");
     SendText("#N");
     EXPECT_EQ(Place().gsCWTekst, "001 ");
-    EXPECT_EQ(keyerState().gsCWNummer, "0001");
+    EXPECT_EQ(desk().cw.gsCWNummer, "0001");
 }
 
 TEST_F(CWTexts, WithNothingAtAllTheCodesAreEmpty) {
@@ -109,7 +109,7 @@ TEST_F(CWTexts, AnEmptyCallFieldAddressesTheStationOfTheLastLine) {
     StartWithLast("13:02 DL1ABC          579-0008 599-0034  1            OZ1DEF     CW    05-09-26");
     SendText("#C UR #T #N");
     EXPECT_EQ(Place().gsCWTekst, "DL1ABC UR 579 008 ");
-    EXPECT_EQ(keyerState().gsCWNummer, "0008");
+    EXPECT_EQ(desk().cw.gsCWNummer, "0008");
 }
 
 TEST_F(CWTexts, ANoteIsCutLikeAContact) {
@@ -117,9 +117,9 @@ TEST_F(CWTexts, ANoteIsCutLikeAContact) {
     StartWithLast("NOTE: antenna down at 579 x4321y");
     SendText("#C/#T/#N");
     // Columns 7 to 22, 23 to 25, 27 to 30.
-    EXPECT_EQ(keyerState().gsCWCall, "antenna down at");
-    EXPECT_EQ(keyerState().gsCWRST, "579");
-    EXPECT_EQ(keyerState().gsCWNummer, "x432");
+    EXPECT_EQ(desk().cw.gsCWCall, "antenna down at");
+    EXPECT_EQ(desk().cw.gsCWRST, "579");
+    EXPECT_EQ(desk().cw.gsCWNummer, "x432");
     EXPECT_EQ(Place().gsCWTekst, "antenna down at/579/432 ");
 }
 
@@ -127,7 +127,7 @@ TEST_F(CWTexts, TheCallOfANoteReachesIntoTheColumnBehindACall) {
     //             123456789012345678901234567890
     StartWithLast("NOTE: abcdefghijklmnopqrstuvwx");
     SendText("#C");
-    EXPECT_EQ(keyerState().gsCWCall, "abcdefghijklmnop");
+    EXPECT_EQ(desk().cw.gsCWCall, "abcdefghijklmnop");
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "stations/frmEDR.h"
 
-#include "frame/station.h"
+#include "frame/state.h"
 #include "running_program.h"
 #include "score/stations.h"
 
@@ -14,9 +14,9 @@ protected:
     void SetUp() override {
         files.files["DATA\\EDR.TXT"] = {"OZ1ABC Test, formand", "OZ7XY", "OZ9ABC Test"};
         Start();
-        Mark("OZ7XY", Handling::Op);
+        Mark("OZ7XY", MarkAction::Mark);
     }
-    static void Mark(std::string call, Handling handling) { EDRstnWkd(call, handling); }
+    static void Mark(std::string call, MarkAction handling) { desk().stations.EDRstnWkd(call, handling); }
 };
 
 TEST_F(StationWindow, KeepsThePlaceOfEveryStation) {
@@ -37,7 +37,7 @@ TEST_F(StationWindow, SaysWhichStationsItShows) {
 
 TEST_F(StationWindow, KeepsItsContentsWhenAMarkIsTakenAway) {
     VisEDRstns(false);
-    Mark("OZ7XY", Handling::Ned);
+    Mark("OZ7XY", MarkAction::Unmark);
     EXPECT_EQ(frmEDR->List1.Items(), (Texts{"OZ1ABC", "________", "OZ9ABC"}));
     VisEDRstns(false);
     EXPECT_EQ(frmEDR->List1.Items(), (Texts{"OZ1ABC", "OZ7XY ", "OZ9ABC"}));

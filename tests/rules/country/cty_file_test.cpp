@@ -15,12 +15,12 @@ constexpr std::string_view kHeader = "Fantasia:                 14:  27:  EU:   
 
 /// Each item of the line as "TEXT CQ ITU", an exact call with "=" in front.
 std::vector<std::string> Items(std::string_view line) {
-    const CtyHoved header = LæsCtyHoved(kHeader);
+    const CtyHeader header = ReadCtyHeader(kHeader);
     std::vector<std::string> items;
-    CtyPoster rest(line, header);
-    while (rest.Flere()) {
-        const CtyPost item = rest.Næste();
-        items.push_back((item.kald ? "=" : "") + std::string(item.tekst) + " " + std::string(item.cqZone.Padded()) + " " +
+    CtyEntryReader rest(line, header);
+    while (rest.HasMore()) {
+        const CtyEntry item = rest.Next();
+        items.push_back((item.isExactCall ? "=" : "") + std::string(item.text) + " " + std::string(item.cqZone.Padded()) + " " +
                         std::string(item.ituZone.Padded()));
     }
     return items;
@@ -37,7 +37,7 @@ int FailureOfLine(std::string_view line) {
 
 int FailureOfHeader(std::string_view line) {
     try {
-        LæsCtyHoved(line);
+        ReadCtyHeader(line);
     } catch (const RunTimeError& failure) {
         return failure.Number();
     }
@@ -47,25 +47,25 @@ int FailureOfHeader(std::string_view line) {
 using Texts = std::vector<std::string>;
 
 TEST(CtyFile, AHeaderIsReadInItsColumns) {
-    const CtyHoved header = LæsCtyHoved(kHeader);
-    EXPECT_EQ(header.navn, "Fantasia");
+    const CtyHeader header = ReadCtyHeader(kHeader);
+    EXPECT_EQ(header.name, "Fantasia");
     EXPECT_EQ(header.cqZone, "14");
     EXPECT_EQ(header.ituZone, "27");
-    EXPECT_EQ(header.kontinent, "EU");
-    EXPECT_EQ(header.bredde, "  56.00");
-    EXPECT_EQ(header.længde, " -10.00");
-    EXPECT_EQ(header.tidsZone, " -1.0");
-    EXPECT_EQ(header.pfx, "QQ");
-    EXPECT_FALSE(header.Udelades());
+    EXPECT_EQ(header.continent, "EU");
+    EXPECT_EQ(header.latitude, "  56.00");
+    EXPECT_EQ(header.longitude, " -10.00");
+    EXPECT_EQ(header.utcOffset, " -1.0");
+    EXPECT_EQ(header.prefix, "QQ");
+    EXPECT_FALSE(header.IsOmitted());
 }
 
 TEST(CtyFile, ContinentAndPrefixHoldAtLeastOneCharacter) {
     // The ":" is looked for from the second column of the field on.
     std::string line(80, ' ');
     line[5] = line[36] = line[38] = line[69] = line[72] = ':';
-    const CtyHoved header = LæsCtyHoved(line);
-    EXPECT_EQ(header.kontinent, ": ");
-    EXPECT_EQ(header.pfx, ":  ");
+    const CtyHeader header = ReadCtyHeader(line);
+    EXPECT_EQ(header.continent, ": ");
+    EXPECT_EQ(header.prefix, ":  ");
 }
 
 TEST(CtyFile, AHeaderCutAnywhereBeforeItsLastColonFails) {
@@ -74,13 +74,13 @@ TEST(CtyFile, AHeaderCutAnywhereBeforeItsLastColonFails) {
 }
 
 TEST(CtyFile, ANumberIsReadUnlessItIsTooLarge) {
-    EXPECT_FLOAT_EQ(LæsCtyTal(" -10.25"), -10.25F);
-    EXPECT_FLOAT_EQ(LæsCtyTal("   x"), 0.0F);
-    EXPECT_FLOAT_EQ(LæsCtyTal("-3e38"), -3e38F);
+    EXPECT_FLOAT_EQ(ReadCtyNumber(" -10.25"), -10.25F);
+    EXPECT_FLOAT_EQ(ReadCtyNumber("   x"), 0.0F);
+    EXPECT_FLOAT_EQ(ReadCtyNumber("-3e38"), -3e38F);
     for (const std::string_view text : {"4e38", "-4e38", "1e99"}) {
         int number = 0;
         try {
-            LæsCtyTal(text);
+            ReadCtyNumber(text);
         } catch (const RunTimeError& failure) {
             number = failure.Number();
         }
@@ -142,9 +142,9 @@ TEST(CtyFile, ABracketWithoutItsPartnerFails) {
 TEST(CtyFile, OnlyAStarInFrontLeavesACountryOut) {
     std::string line(kHeader);
     line.replace(69, 2, "*Q");
-    EXPECT_TRUE(LæsCtyHoved(line).Udelades());
+    EXPECT_TRUE(ReadCtyHeader(line).IsOmitted());
     line.replace(69, 2, "Q*");
-    EXPECT_FALSE(LæsCtyHoved(line).Udelades());
+    EXPECT_FALSE(ReadCtyHeader(line).IsOmitted());
 }
 
 }  // namespace

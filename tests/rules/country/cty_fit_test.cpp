@@ -18,24 +18,24 @@ std::string Header(const std::string& pfx) {
 const Texts kTwo{Header("QA"), "    QA,QA1,QA2(15),=QA5AB,=QB7XY;", Header("QB"), "    QB,=QB1AB;"};
 
 Texts Fitted(const Texts& lines, std::size_t room) {
-    std::vector<CtyLand> countries = LæsCtyFil(lines);
-    TilpasCty(countries, room);
-    return SkrivCty(countries);
+    std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    FitCty(countries, room);
+    return WriteCty(countries);
 }
 
 std::string Refused(const Texts& lines) {
     try {
-        LæsCtyFil(lines);
-    } catch (const CtyFejl& fault) {
-        return fault.tekst;
+        ReadCtyFile(lines);
+    } catch (const CtyError& fault) {
+        return fault.text;
     }
     return {};
 }
 
 TEST(CtyFit, LinesEndInAnyWay) {
-    EXPECT_EQ(CtyLinjer("a\r\nb\nc\rd"), (Texts{"a", "b", "c", "d"}));
-    EXPECT_EQ(CtyLinjer("a\n\nb\n"), (Texts{"a", "", "b"}));
-    EXPECT_EQ(CtyLinjer(""), (Texts{}));
+    EXPECT_EQ(CtyLines("a\r\nb\nc\rd"), (Texts{"a", "b", "c", "d"}));
+    EXPECT_EQ(CtyLines("a\n\nb\n"), (Texts{"a", "", "b"}));
+    EXPECT_EQ(CtyLines(""), (Texts{}));
 }
 
 TEST(CtyFit, WhatFitsStays) {
@@ -51,41 +51,41 @@ TEST(CtyFit, WhatAShorterPrefixGivesGoesFirst) {
 TEST(CtyFit, ThenZonesAndThenExactCalls) {
     EXPECT_EQ(Fitted(kTwo, 3), (Texts{Header("QA"), "    QA,=QB7XY;", Header("QB"), "    QB;"}));
     EXPECT_EQ(Fitted(kTwo, 2), (Texts{Header("QA"), "    QA;", Header("QB"), "    QB;"}));
-    EXPECT_THROW(Fitted(kTwo, 1), CtyFejl);
+    EXPECT_THROW(Fitted(kTwo, 1), CtyError);
 }
 
 TEST(CtyFit, TellsWhatIsLost) {
-    std::vector<CtyLand> countries = LæsCtyFil(kTwo);
-    const CtyUdeladt out = TilpasCty(countries, 2);
-    EXPECT_EQ(out.intetTabt, (Texts{"QA1", "=QA5AB", "=QB1AB"}));
-    EXPECT_EQ(out.zoner, (Texts{"QA2(15)"}));
-    EXPECT_EQ(out.kald, (Texts{"=QB7XY"}));
-    EXPECT_EQ(out.dubletter, (Texts{}));
-    EXPECT_EQ(out.lande, (Texts{}));
+    std::vector<CtyCountry> countries = ReadCtyFile(kTwo);
+    const CtyOmissions out = FitCty(countries, 2);
+    EXPECT_EQ(out.nothingLost, (Texts{"QA1", "=QA5AB", "=QB1AB"}));
+    EXPECT_EQ(out.zones, (Texts{"QA2(15)"}));
+    EXPECT_EQ(out.lostCalls, (Texts{"=QB7XY"}));
+    EXPECT_EQ(out.duplicates, (Texts{}));
+    EXPECT_EQ(out.countries, (Texts{}));
 }
 
 TEST(CtyFit, APrefixOfAnotherCountryInBetweenKeepsTheLongerOne) {
     // QA12 would be counted for QB, whose QA1 is longer than QA.
     const Texts lines{Header("QA"), "    QA,QA12;", Header("QB"), "    QA1,QB,QB3;"};
     EXPECT_EQ(Fitted(lines, 4), (Texts{Header("QA"), "    QA,QA12;", Header("QB"), "    QA1,QB;"}));
-    EXPECT_THROW(Fitted(lines, 3), CtyFejl);
+    EXPECT_THROW(Fitted(lines, 3), CtyError);
 }
 
 TEST(CtyFit, AnExactCallSupportsNoLongerOne) {
     // QB7XY/P is given by QB7XY alone, which goes itself in the end.
     const Texts lines{Header("QA"), "    QA,=QB7XY,=QB7XY/P;", Header("QB"), "    QB;"};
-    std::vector<CtyLand> countries = LæsCtyFil(lines);
-    EXPECT_EQ(TilpasCty(countries, 2).kald, (Texts{"=QB7XY", "=QB7XY/P"}));
+    std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    EXPECT_EQ(FitCty(countries, 2).lostCalls, (Texts{"=QB7XY", "=QB7XY/P"}));
 }
 
 TEST(CtyFit, ACallWithASlashGoesWithoutLossOnlyIfItsCountryTextGivesTheSame) {
     // Of QA5AB/QB1 the program looks up QB1, of QA5AB/P it looks up QA5AB, of QA5AB/7 it looks up QA7AB.
     const Texts lines{Header("QA"), "    QA,=QA5AB/QB1,=QA5AB/P,=QA5AB/7;", Header("QB"), "    QB,QA7;"};
     EXPECT_EQ(Fitted(lines, 5), (Texts{Header("QA"), "    QA,=QA5AB/QB1,=QA5AB/7;", Header("QB"), "    QB,QA7;"}));
-    std::vector<CtyLand> countries = LæsCtyFil(lines);
-    const CtyUdeladt out = TilpasCty(countries, 3);
-    EXPECT_EQ(out.intetTabt, (Texts{"=QA5AB/P"}));
-    EXPECT_EQ(out.kald, (Texts{"=QA5AB/7", "=QA5AB/QB1"}));
+    std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    const CtyOmissions out = FitCty(countries, 3);
+    EXPECT_EQ(out.nothingLost, (Texts{"=QA5AB/P"}));
+    EXPECT_EQ(out.lostCalls, (Texts{"=QA5AB/7", "=QA5AB/QB1"}));
 }
 
 TEST(CtyFit, ACallThatIsTooLongToBeFoundGoesBeforeAllOthers) {
@@ -94,29 +94,29 @@ TEST(CtyFit, ACallThatIsTooLongToBeFoundGoesBeforeAllOthers) {
     const Texts lines{Header("QA"), "    QA,QA1,=QB1ABCD/QA1;", Header("QB"), "    QB,=QB12345678Z;"};
     EXPECT_EQ(Fitted(lines, 5), lines);
     EXPECT_EQ(Fitted(lines, 4), (Texts{Header("QA"), "    QA,QA1;", Header("QB"), "    QB,=QB12345678Z;"}));
-    std::vector<CtyLand> countries = LæsCtyFil(lines);
-    const CtyUdeladt out = TilpasCty(countries, 3);
-    EXPECT_EQ(out.uopnåelige, (Texts{"=QB1ABCD/QA1"}));
-    EXPECT_EQ(out.intetTabt, (Texts{"QA1"}));
+    std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    const CtyOmissions out = FitCty(countries, 3);
+    EXPECT_EQ(out.unreachable, (Texts{"=QB1ABCD/QA1"}));
+    EXPECT_EQ(out.nothingLost, (Texts{"QA1"}));
 }
 
 TEST(CtyFit, ACallThatIsNeverFoundInItsCountryAlwaysGoes) {
     // Eleven characters: the program looks up QA1 and finds the other country, in a file with room to spare as well.
     const Texts lines{Header("QA"), "    QA;", Header("QB"), "    QB,=QB12345/QA1;"};
-    std::vector<CtyLand> countries = LæsCtyFil(lines);
-    EXPECT_EQ(TilpasCty(countries).uopnåelige, (Texts{"=QB12345/QA1"}));
-    EXPECT_EQ(SkrivCty(countries), (Texts{Header("QA"), "    QA;", Header("QB"), "    QB;"}));
+    std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    EXPECT_EQ(FitCty(countries).unreachable, (Texts{"=QB12345/QA1"}));
+    EXPECT_EQ(WriteCty(countries), (Texts{Header("QA"), "    QA;", Header("QB"), "    QB;"}));
 }
 
 TEST(CtyFit, StarredCountriesAndItemsOfAnEarlierCountryAlwaysGo) {
     const Texts lines{Header("*QA/x"), "    QA5;", Header("QA"), "    QA,QX;", Header("QB"), "    QB,QX;"};
-    std::vector<CtyLand> countries = LæsCtyFil(lines);
-    const CtyUdeladt out = TilpasCty(countries);
-    EXPECT_EQ(out.lande, (Texts{"*QA/x"}));
-    EXPECT_EQ(out.dubletter, (Texts{"QX"}));
-    EXPECT_EQ(SkrivCty(countries), (Texts{Header("QA"), "    QA,QX;", Header("QB"), "    QB;"}));
-    EXPECT_EQ(KontrollerCty(countries).size(), 1U) << "the lists still hold what is not written";
-    EXPECT_EQ(KontrollerCty(LæsCtyFil(SkrivCty(countries))), (Texts{}));
+    std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    const CtyOmissions out = FitCty(countries);
+    EXPECT_EQ(out.countries, (Texts{"*QA/x"}));
+    EXPECT_EQ(out.duplicates, (Texts{"QX"}));
+    EXPECT_EQ(WriteCty(countries), (Texts{Header("QA"), "    QA,QX;", Header("QB"), "    QB;"}));
+    EXPECT_EQ(CheckCty(countries).size(), 1U) << "the lists still hold what is not written";
+    EXPECT_EQ(CheckCty(ReadCtyFile(WriteCty(countries))), (Texts{}));
 }
 
 TEST(CtyFit, AnItemThatStandsTwiceGoesWhenRoomIsShort) {
@@ -140,9 +140,9 @@ TEST(CtyFit, ACallOfFullLengthInFrontOfItsLetterGoes) {
     EXPECT_EQ(Fitted(lines, 5999), lines) << "IA stands before it";
 
     lines = {Header("QA"), "    QA,=IB1/ABCDEF,=IB1/ABCDEF;", Header("QI"), "    I;"};
-    std::vector<CtyLand> countries = LæsCtyFil(lines);
-    EXPECT_EQ(TilpasCty(countries).kald, (Texts{"=IB1/ABCDEF", "=IB1/ABCDEF"})) << "wherever it stands";
-    EXPECT_EQ(SkrivCty(countries), (Texts{Header("QA"), "    QA;", Header("QI"), "    I;"}));
+    std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    EXPECT_EQ(FitCty(countries).lostCalls, (Texts{"=IB1/ABCDEF", "=IB1/ABCDEF"})) << "wherever it stands";
+    EXPECT_EQ(WriteCty(countries), (Texts{Header("QA"), "    QA;", Header("QI"), "    I;"}));
 }
 
 TEST(CtyFit, ACountryWithoutItemsKeepsItsHeader) {
@@ -152,7 +152,7 @@ TEST(CtyFit, ACountryWithoutItemsKeepsItsHeader) {
 TEST(CtyFit, LongListsRunOverSeveralLines) {
     Texts lines{Header("QA"), "    "};
     for (int i = 100; i < 150; ++i) lines[1] += "QA" + std::to_string(i) + (i == 149 ? ";" : ",");
-    const Texts written = SkrivCty(LæsCtyFil(lines));
+    const Texts written = WriteCty(ReadCtyFile(lines));
     // Twelve to a line.
     ASSERT_EQ(written.size(), 6U);
     std::string all;
@@ -173,7 +173,7 @@ TEST(CtyFit, DamageIsToldByItsLine) {
 }
 
 TEST(CtyFit, WhatTheImportWouldGoWrongOnIsTold) {
-    const auto told = [](const Texts& lines) { return KontrollerCty(LæsCtyFil(lines)); };
+    const auto told = [](const Texts& lines) { return CheckCty(ReadCtyFile(lines)); };
     EXPECT_EQ(told(kTwo), (Texts{}));
     EXPECT_EQ(told({}), (Texts{"filen har ingen lande"})) << "the import would empty the tables";
     EXPECT_EQ(told({Header("*QA"), "    QA;", Header("QB"), "    QA;"}), (Texts{})) << "a starred country leaves no trace";

@@ -5,12 +5,8 @@
 
 #include <random>
 
-#include "call/call_analysis.h"
 #include "codepage.h"
-#include "country/tables.h"
 #include "errors.h"
-#include "score/points.h"
-#include "tables/unknown.h"
 
 namespace vatro {
 namespace {
@@ -20,10 +16,6 @@ using namespace literals;
 class Lookup : public ::testing::Test {
 protected:
     void SetUp() override {
-        NulstilTabeller();
-        gbVisLand = true;
-        giMult = 0;
-        giQSOPoint = 0;
         // Countries in ascending order, longer prefixes before the shorter ones they begin with.
         Country("DL", "Fed. Rep. of Germany", "EU");
         Country("G", "England", "EU");
@@ -32,121 +24,111 @@ protected:
         Country("TA", "Turkey", "AS");
         Country("VP8", "Falkland Islands", "SA");
         Country("VP8/H", "South Shetland Islands", "SA");
-        for (auto [pfx, land] : {std::pair{"2E", "G"},
-                                 {"DL", "DL"},
-                                 {"GM", "GM"},
-                                 {"G", "G"},
-                                 {"K", "K"},
-                                 {"TA", "TA"},
-                                 {"VP8ADE/H", "VP8/H"},
-                                 {"VP8", "VP8"}})
-            Prefix(pfx, land);
-        IndekserRefPfx();
+        for (auto [prefix, country] : {std::pair{"2E", "G"},
+                                       {"DL", "DL"},
+                                       {"GM", "GM"},
+                                       {"G", "G"},
+                                       {"K", "K"},
+                                       {"TA", "TA"},
+                                       {"VP8ADE/H", "VP8/H"},
+                                       {"VP8", "VP8"}})
+            Prefix(prefix, country);
+        tables.IndexPrefixes();
     }
-    void TearDown() override { NulstilTabeller(); }
 
-    static void Country(std::string_view pfx, std::string_view name, std::string_view continent) {
-        LandRec& row = Lande[static_cast<std::size_t>(++giLande)];
-        row.Pfx = pfx;
+    void Country(std::string_view prefix, std::string_view name, std::string_view continent) {
+        LandRec& row = tables.Lande[static_cast<std::size_t>(++tables.giLande)];
+        row.Pfx = prefix;
         row.Navn = name;
         row.Kontinent = continent;
     }
-    static void Prefix(std::string_view pfx, std::string_view country) {
-        PfxRec& row = RefPfx[static_cast<std::size_t>(++giRefPfx)];
-        row.Pfx = pfx;
+    void Prefix(std::string_view prefix, std::string_view country) {
+        PfxRec& row = tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)];
+        row.Pfx = prefix;
         row.Land = country;
-        auto& start = gaPfxStart[static_cast<unsigned char>(pfx.front())];
-        if (start == 0) start = giRefPfx;
+        auto& start = tables.gaPfxStart[static_cast<unsigned char>(prefix.front())];
+        if (start == 0) start = tables.giRefPfx;
     }
-    static std::string Result(std::string_view call, Handling handling) {
-        std::string result = "left from before";
-        LandWkd(call, result, handling);
-        return result;
+    std::string Result(std::string_view call, MarkAction action) { return std::string(countries.LandWkd(call, action).resultat); }
+    std::optional<std::int32_t> PointsOf(std::string_view call, MarkAction action) { return countries.LandWkd(call, action).points; }
+    std::string Status(std::string_view call) const { return countries.LandStatusTekst(call).text; }
+    bool Unknown(std::string_view call) const { return countries.LandStatusTekst(call).unknown; }
+    int Marked() const {
+        int marked = 0;
+        for (int row = 1; row <= tables.giLande; ++row) marked += countries.Wkd(row) ? 1 : 0;
+        return marked;
     }
-    static std::string Status(std::string_view call) {
-        std::string text = "as the caller had it";
-        LandStatusTekst(call, text);
-        return text;
-    }
+
+    CountryTables tables;
+    WorkedCountries countries{tables};
 };
 
 TEST_F(Lookup, MarkingTellsTheCountryOnce) {
-    EXPECT_EQ(Result("DL1ABC", Handling::Op), "DL        ");
-    EXPECT_EQ(giMult, 1);
-    EXPECT_EQ(Result("DL2ABC", Handling::Op), "");
-    EXPECT_EQ(giMult, 1);
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Mark), "DL        ");
+    EXPECT_EQ(Marked(), 1);
+    EXPECT_EQ(Result("DL2ABC", MarkAction::Mark), "");
+    EXPECT_EQ(Marked(), 1);
 }
 
 TEST_F(Lookup, TakingTheMarkAwayTellsTheCountryOnce) {
-    Result("GM3ABC", Handling::Op);
-    EXPECT_EQ(Result("GM3ABC", Handling::Ned), "GM        ");
-    EXPECT_EQ(giMult, 0);
-    EXPECT_EQ(Result("GM3ABC", Handling::Ned), "");
-    EXPECT_EQ(giMult, 0);
+    Result("GM3ABC", MarkAction::Mark);
+    EXPECT_EQ(Result("GM3ABC", MarkAction::Unmark), "GM        ");
+    EXPECT_EQ(Marked(), 0);
+    EXPECT_EQ(Result("GM3ABC", MarkAction::Unmark), "");
+    EXPECT_EQ(Marked(), 0);
 }
 
 TEST_F(Lookup, AskingChangesNothing) {
-    EXPECT_EQ(Result("DL1ABC", Handling::Test), "DL        ");
-    EXPECT_EQ(Result("DL1ABC", Handling::Test), "DL        ");
-    EXPECT_EQ(giMult, 0);
-    Result("DL1ABC", Handling::Op);
-    EXPECT_EQ(Result("DL1ABC", Handling::Test), "");
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
+    EXPECT_EQ(Marked(), 0);
+    Result("DL1ABC", MarkAction::Mark);
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "");
 }
 
 TEST_F(Lookup, AnUnknownPrefixChangesNothing) {
-    giQSOPoint = 77;
-    for (const Handling handling : {Handling::Op, Handling::Ned, Handling::Test}) EXPECT_EQ(Result("XZ9XYZ", handling), "");
-    EXPECT_EQ(giMult, 0);
-    EXPECT_EQ(giQSOPoint, 77);
+    for (const MarkAction action : {MarkAction::Mark, MarkAction::Unmark, MarkAction::Test}) {
+        EXPECT_EQ(Result("XZ9XYZ", action), "");
+        EXPECT_EQ(PointsOf("XZ9XYZ", action), std::nullopt);
+    }
+    EXPECT_EQ(Marked(), 0);
 }
 
 TEST_F(Lookup, AMultiplierColumnIsFoundWithItsBlanks) {
-    EXPECT_EQ(Result("GM        ", Handling::Op), "GM        ");
-    EXPECT_EQ(Result("-DUPE-    ", Handling::Op), "");
+    EXPECT_EQ(Result("GM        ", MarkAction::Mark), "GM        ");
+    EXPECT_EQ(Result("-DUPE-    ", MarkAction::Mark), "");
     // The text before the slash decides: the country of the shorter prefix, not the one named.
-    EXPECT_EQ(Result("VP8/H     ", Handling::Op), "VP8       ");
-    EXPECT_EQ(giMult, 2);
+    EXPECT_EQ(Result("VP8/H     ", MarkAction::Mark), "VP8       ");
+    EXPECT_EQ(Marked(), 2);
 }
 
 TEST_F(Lookup, OutsideEuropeSetsSixPointsWithEveryAction) {
-    for (const Handling handling : {Handling::Op, Handling::Op, Handling::Test, Handling::Ned, Handling::Ned}) {
-        giQSOPoint = 3;
-        Result("K1ABC", handling);
-        EXPECT_EQ(giQSOPoint, 6);
-    }
-    giQSOPoint = 3;
-    Result("DL1ABC", Handling::Op);
-    EXPECT_EQ(giQSOPoint, 3);
+    for (const MarkAction action : {MarkAction::Mark, MarkAction::Mark, MarkAction::Test, MarkAction::Unmark, MarkAction::Unmark})
+        EXPECT_EQ(PointsOf("K1ABC", action), 6);
+    EXPECT_EQ(PointsOf("DL1ABC", MarkAction::Mark), std::nullopt);
 }
 
 TEST_F(Lookup, TheEuropeanAreasOfAnAsianCountryKeepTheirPoints) {
-    giQSOPoint = 3;
-    Result("TA1ABC", Handling::Op);
-    EXPECT_EQ(giQSOPoint, 3);
-    Result("TA0ABC", Handling::Test);
-    EXPECT_EQ(giQSOPoint, 3);
-    Result("TA2ABC", Handling::Test);
-    EXPECT_EQ(giQSOPoint, 6);
+    EXPECT_EQ(PointsOf("TA1ABC", MarkAction::Mark), std::nullopt);
+    EXPECT_EQ(PointsOf("TA0ABC", MarkAction::Test), std::nullopt);
+    EXPECT_EQ(PointsOf("TA2ABC", MarkAction::Test), 6);
 }
 
 TEST_F(Lookup, TheEuropeanAreaIsReadFromTheCallAsGiven) {
     // The country text is TA1ABC, but the call begins TA2.
-    giQSOPoint = 3;
-    Result("TA2ABC/1", Handling::Test);
-    EXPECT_EQ(giQSOPoint, 6);
+    EXPECT_EQ(PointsOf("TA2ABC/1", MarkAction::Test), 6);
 }
 
 TEST_F(Lookup, ACallOfOneFigureCountsAsEuropean) {
     Prefix("1", "K");
-    IndekserRefPfx();
-    giQSOPoint = 3;
-    EXPECT_EQ(Result("1", Handling::Test), "K         ");
-    EXPECT_EQ(giQSOPoint, 3);
+    tables.IndexPrefixes();
+    EXPECT_EQ(Result("1", MarkAction::Test), "K         ");
+    EXPECT_EQ(PointsOf("1", MarkAction::Test), std::nullopt);
 }
 
 TEST_F(Lookup, TheStatusTellsNewAndWorked) {
     EXPECT_EQ(Status("DL1ABC"), "DL: Fed. Rep. of Germany (EU), er nyt land.");
-    Result("DL1ABC", Handling::Op);
+    Result("DL1ABC", MarkAction::Mark);
     EXPECT_EQ(Status("DL1ABC"), "DL: Fed. Rep. of Germany (EU), er kørt."_t);
 }
 
@@ -154,8 +136,8 @@ TEST_F(Lookup, TheStatusOfAnUnknownPrefixNamesWhatWasLookedUp) {
     constexpr std::string_view told = ": er ukendt præfix. Call'et bliver gemt i filen 'ukendt.txt', hvis QSOen logges. Kør den!"_t;
     EXPECT_EQ(Status("XZ9XYZ"), "XZ9XYZ" + std::string(told));
     EXPECT_EQ(Status("K1ABC/AM"), "AM" + std::string(told));
-    EXPECT_TRUE(ErUkendt(Status("XZ9XYZ")));
-    EXPECT_FALSE(ErUkendt(Status("DL1ABC")));
+    EXPECT_TRUE(Unknown("XZ9XYZ"));
+    EXPECT_FALSE(Unknown("DL1ABC"));
 }
 
 TEST_F(Lookup, ASingleCharacterIsNotReported) {
@@ -164,75 +146,83 @@ TEST_F(Lookup, ASingleCharacterIsNotReported) {
     EXPECT_EQ(Status("G"), "G: England (EU), er nyt land.");
 }
 
-TEST_F(Lookup, SwitchedOffTheStatusIsLeftAsItWas) {
-    gbVisLand = false;
-    EXPECT_EQ(Status("DL1ABC"), "as the caller had it");
-    EXPECT_EQ(Status("XZ9XYZ"), "as the caller had it");
+TEST_F(Lookup, ACountryNamedUnknownCountsAsOne) {
+    Country("ZZ", "ukendt land", "EU");
+    Prefix("ZZ", "ZZ");
+    tables.IndexPrefixes();
+    EXPECT_EQ(Status("ZZ1ABC"), "ZZ: ukendt land (EU), er nyt land.");
+    EXPECT_TRUE(Unknown("ZZ1ABC"));
+    EXPECT_TRUE(IsUnknown(tables, FindCountry(tables, "ZZ1ABC")));
+    EXPECT_FALSE(IsUnknown(tables, FindCountry(tables, "DL1ABC")));
+    EXPECT_TRUE(IsUnknown(tables, FindCountry(tables, "XZ9XYZ")));
+    EXPECT_FALSE(IsUnknown(tables, FindCountry(tables, "X"))) << "a single character is no prefix yet";
+}
+
+TEST_F(Lookup, AnEmptyCallFails) {
+    EXPECT_THROW(Result("", MarkAction::Test), RunTimeError);
+    EXPECT_THROW(Status(""), RunTimeError);
 }
 
 TEST_F(Lookup, AWholeCallOfTheTableComesBeforeItsPrefix) {
-    EXPECT_EQ(Result("VP8ADE/H", Handling::Test), "VP8/H     ");
-    EXPECT_EQ(Result("VP8ADE/P", Handling::Test), "VP8       ");
+    EXPECT_EQ(Result("VP8ADE/H", MarkAction::Test), "VP8/H     ");
+    EXPECT_EQ(Result("VP8ADE/P", MarkAction::Test), "VP8       ");
 }
 
 TEST_F(Lookup, EmptyTablesKnowNoCall) {
-    NulstilTabeller();
-    EXPECT_EQ(Result("DL1ABC", Handling::Op), "");
-    EXPECT_TRUE(ErUkendt(Status("DL")));
+    tables = {};
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Mark), "");
+    EXPECT_TRUE(Unknown("DL"));
     EXPECT_EQ(Status("D"), "");
 }
 
 TEST_F(Lookup, ACountryNotInTheTableGivesItsNeighbour) {
     Prefix("F", "F");
     Prefix("ZL", "ZL");
-    IndekserRefPfx();
-    EXPECT_EQ(Result("F5ABC", Handling::Test), "G         ");
-    EXPECT_EQ(Result("ZL1ABC", Handling::Test), "VP8/H     ");
+    tables.IndexPrefixes();
+    EXPECT_EQ(Result("F5ABC", MarkAction::Test), "G         ");
+    EXPECT_EQ(Result("ZL1ABC", MarkAction::Test), "VP8/H     ");
 }
 
-TEST_F(Lookup, ClearingTheMarksLeavesTheCountToTheCaller) {
-    Result("DL1ABC", Handling::Op);
-    Result("K1ABC", Handling::Op);
-    ResetLande();
-    EXPECT_EQ(giMult, 2);
-    EXPECT_EQ(Result("DL1ABC", Handling::Test), "DL        ");
-    EXPECT_EQ(Result("K1ABC", Handling::Test), "K         ");
+TEST_F(Lookup, ClearingTheMarksForgetsEveryCountry) {
+    Result("DL1ABC", MarkAction::Mark);
+    Result("K1ABC", MarkAction::Mark);
+    countries.ResetLande();
+    EXPECT_EQ(Marked(), 0);
+    EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
+    EXPECT_EQ(Result("K1ABC", MarkAction::Test), "K         ");
 }
 
 TEST_F(Lookup, InAFullTableOnlyAWholeRowIsFound) {
-    while (giRefPfx < kRefPfxRækker) Prefix("YY", "K");
-    IndekserRefPfx();
-    EXPECT_EQ(Result("YY", Handling::Test), "K         ");
+    while (tables.giRefPfx < kPrefixRows) Prefix("YY", "K");
+    tables.IndexPrefixes();
+    EXPECT_EQ(Result("YY", MarkAction::Test), "K         ");
     // Looking for the whole call comes first and has run beyond the table before the prefix is tried.
-    EXPECT_THROW(Result("YY1ABC", Handling::Test), RunTimeError);
+    EXPECT_THROW(Result("YY1ABC", MarkAction::Test), RunTimeError);
     EXPECT_THROW(Status("YY1ABC"), RunTimeError);
 }
 
-TEST_F(Lookup, CountNeverLeavesTheMarks) {
+TEST_F(Lookup, AnActionTakesEffectWhenItChangesAMark) {
     std::mt19937 random(7);
     const std::vector<std::string> calls{"DL1ABC", "G3ABC",    "GM3ABC", "K1ABC",     "TA1ABC",
                                          "VP8LP",  "VP8ADE/H", "XZ9XYZ", "OZ/DL1ABC", "2E0ABC/3"};
     std::uniform_int_distribution<std::size_t> call(0, calls.size() - 1);
-    std::uniform_int_distribution<int> action(0, 2);
+    std::uniform_int_distribution<int> which(0, 2);
     for (int round = 0; round < 5000; ++round) {
-        const auto handling = static_cast<Handling>(action(random));
-        const int before = giMult;
-        const std::string result = Result(calls[call(random)], handling);
-        int marked = 0;
-        for (int row = 1; row <= giLande; ++row) marked += Lande[static_cast<std::size_t>(row)].Wkd ? 1 : 0;
-        ASSERT_EQ(giMult, marked);
-        const int moved = handling == Handling::Op ? 1 : handling == Handling::Ned ? -1 : 0;
-        ASSERT_EQ(giMult - before, result.empty() ? 0 : moved);
+        const auto action = static_cast<MarkAction>(which(random));
+        const int before = Marked();
+        const bool changed = countries.LandWkd(calls[call(random)], action).changed;
+        const int moved = action == MarkAction::Mark ? 1 : action == MarkAction::Unmark ? -1 : 0;
+        ASSERT_EQ(Marked() - before, changed ? moved : 0);
     }
 }
 
 /// The search as a scan, row by row.
-int Scanned(std::string_view s, int start, bool whole) {
-    for (int i = std::max(start, 1); i <= giRefPfx; ++i) {
-        const std::string_view pfx = RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed();
-        if (whole ? pfx == s : s.substr(0, pfx.size()) == pfx) return i;
+std::optional<int> Scanned(const CountryTables& tables, std::string_view s, int start, bool whole) {
+    for (int i = std::max(start, 1); i <= tables.giRefPfx; ++i) {
+        const std::string_view prefix = tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed();
+        if (whole ? prefix == s : s.substr(0, prefix.size()) == prefix) return i;
     }
-    return 0;
+    return std::nullopt;
 }
 
 TEST(PrefixSearch, FindsTheRowThatAScanFinds) {
@@ -245,44 +235,41 @@ TEST(PrefixSearch, FindsTheRowThatAScanFinds) {
         return t;
     };
     for (int table = 0; table < 60; ++table) {
-        NulstilTabeller();
+        CountryTables tables;
         const int rows = std::uniform_int_distribution<int>(0, 80)(random);
-        for (giRefPfx = 0; giRefPfx < rows;) RefPfx[static_cast<std::size_t>(++giRefPfx)].Pfx = text(5);
-        IndekserRefPfx();
+        for (tables.giRefPfx = 0; tables.giRefPfx < rows;) tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)].Pfx = text(5);
+        tables.IndexPrefixes();
         for (int round = 0; round < 200; ++round) {
             const std::string call = text(8);
             const int start = std::uniform_int_distribution<int>(0, rows)(random);
-            ASSERT_EQ(FindHeleCall(call, start), Scanned(call, start, true)) << call << " from " << start;
-            ASSERT_EQ(FindPræfix(call, start), Scanned(call, start, false)) << call << " from " << start;
+            ASSERT_EQ(tables.FindWholeCall(call, start), Scanned(tables, call, start, true)) << call << " from " << start;
+            ASSERT_EQ(tables.FindPrefix(call, start), Scanned(tables, call, start, false)) << call << " from " << start;
         }
     }
-    NulstilTabeller();
 }
 
 TEST(PrefixSearch, RunsOneRowBeyondAFullTable) {
-    NulstilTabeller();
-    for (giRefPfx = 0; giRefPfx < kRefPfxRækker;) RefPfx[static_cast<std::size_t>(++giRefPfx)].Pfx = "DL";
-    IndekserRefPfx();
-    EXPECT_EQ(FindPræfix("DL1ABC", 1), 1);
-    EXPECT_EQ(FindPræfix("DL1ABC", 6000), 6000);
-    for (const auto search : {FindHeleCall, FindPræfix}) {
+    CountryTables tables;
+    for (tables.giRefPfx = 0; tables.giRefPfx < kPrefixRows;) tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)].Pfx = "DL";
+    tables.IndexPrefixes();
+    EXPECT_EQ(tables.FindPrefix("DL1ABC", 1), 1);
+    EXPECT_EQ(tables.FindPrefix("DL1ABC", 6000), 6000);
+    for (const auto search : {&CountryTables::FindWholeCall, &CountryTables::FindPrefix}) {
         try {
-            search("XZ9XYZ", 1);
+            (tables.*search)("XZ9XYZ", 1);
             ADD_FAILURE() << "the search came to an end";
         } catch (const RunTimeError& failure) {
             EXPECT_EQ(failure.Number(), 9);
         }
     }
-    NulstilTabeller();
 }
 
 TEST(PrefixSearch, OneRowLessThanFullFindsNothingAndIsNoFailure) {
-    NulstilTabeller();
-    for (giRefPfx = 0; giRefPfx < kRefPfxRækker - 1;) RefPfx[static_cast<std::size_t>(++giRefPfx)].Pfx = "DL";
-    IndekserRefPfx();
-    EXPECT_EQ(FindHeleCall("XZ9XYZ", 0), 0);
-    EXPECT_EQ(FindPræfix("XZ9XYZ", 0), 0);
-    NulstilTabeller();
+    CountryTables tables;
+    for (tables.giRefPfx = 0; tables.giRefPfx < kPrefixRows - 1;) tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)].Pfx = "DL";
+    tables.IndexPrefixes();
+    EXPECT_EQ(tables.FindWholeCall("XZ9XYZ", 0), std::nullopt);
+    EXPECT_EQ(tables.FindPrefix("XZ9XYZ", 0), std::nullopt);
 }
 
 }  // namespace

@@ -41,7 +41,7 @@ void SortPlainly(Rows& rows, std::size_t count) {
 }
 
 void Sort(Rows& rows, std::size_t count) {
-    SorterPræfikser(rows, static_cast<int>(count), [](int) {});
+    SortPrefixes(rows, static_cast<int>(count), [](int) {});
 }
 
 /// The rows as "KEY/NUMBER".
@@ -86,7 +86,7 @@ TEST(PrefixOrder, TheSpareRowOfAFullTableLosesItsPrefix) {
 TEST(PrefixOrder, EachRowIsToldOnceInItsTurn) {
     Rows rows = Table({"C", "B", "A"});
     std::vector<int> steps;
-    SorterPræfikser(rows, 3, [&](int row) { steps.push_back(row); });
+    SortPrefixes(rows, 3, [&](int row) { steps.push_back(row); });
     EXPECT_EQ(steps, (std::vector<int>{1, 2, 3}));
 }
 

@@ -10,105 +10,105 @@ namespace {
 
 using namespace literals;
 
-Qso Contact() {
-    Qso qso;
-    qso.tid = "12:07";
-    qso.call = "DL9XYZ";
-    qso.rstSendt = "59";
-    qso.nrSendt = "0012";
-    qso.rstModtaget = "59";
-    qso.nrModtaget = "345";
-    qso.point = 3;
-    qso.multiplier = "DL";
-    qso.operatør = "OZ1AB";
-    qso.qsl = true;
-    qso.qsoMode = "SSB";
-    qso.dato = "07-09-02";
-    return qso;
+Contact SomeContact() {
+    Contact contact;
+    contact.time = "12:07";
+    contact.call = "DL9XYZ";
+    contact.reportSent = "59";
+    contact.numberSent = "0012";
+    contact.reportReceived = "59";
+    contact.numberReceived = "345";
+    contact.point = 3;
+    contact.multiplier = "DL";
+    contact.operatorCall = "OZ1AB";
+    contact.qsl = true;
+    contact.qsoMode = "SSB";
+    contact.date = "07-09-02";
+    return contact;
 }
 
 TEST(QsoLine, HasEveryFieldInItsColumns) {
-    EXPECT_EQ(QsoLine(Contact(), "SSB"), "12:07 DL9XYZ          59 -0012 59 -0345  3 DL         OZ1AB  QSL SSB   07-09-02");
-    EXPECT_EQ(QsoLine(Contact(), "SSB").size(), 79U);
+    EXPECT_EQ(QsoLine(SomeContact(), "SSB"), "12:07 DL9XYZ          59 -0012 59 -0345  3 DL         OZ1AB  QSL SSB   07-09-02");
+    EXPECT_EQ(QsoLine(SomeContact(), "SSB").size(), 79U);
 }
 
 TEST(QsoLine, HasNoBlankBehindAReportOfThreeFigures) {
-    Qso qso = Contact();
-    qso.rstSendt = "599";
-    qso.rstModtaget = "589";
-    qso.qsl = false;
-    qso.qsoMode = "PSK31";
-    EXPECT_EQ(QsoLine(qso, "CW"), "12:07 DL9XYZ          599-0012 589-0345  3 DL         OZ1AB      PSK31 07-09-02");
+    Contact contact = SomeContact();
+    contact.reportSent = "599";
+    contact.reportReceived = "589";
+    contact.qsl = false;
+    contact.qsoMode = "PSK31";
+    EXPECT_EQ(QsoLine(contact, "CW"), "12:07 DL9XYZ          599-0012 589-0345  3 DL         OZ1AB      PSK31 07-09-02");
 }
 
 TEST(QsoLine, FillsThePointsColumnsWithTen) {
-    Qso qso = Contact();
-    qso.point = 10;
-    EXPECT_EQ(QsoLine(qso, "SSB"), "12:07 DL9XYZ          59 -0012 59 -0345 10 DL         OZ1AB  QSL SSB   07-09-02");
+    Contact contact = SomeContact();
+    contact.point = 10;
+    EXPECT_EQ(QsoLine(contact, "SSB"), "12:07 DL9XYZ          59 -0012 59 -0345 10 DL         OZ1AB  QSL SSB   07-09-02");
 }
 
 TEST(QsoLine, LeavesTheMultiplierColumnsBlankWithoutOne) {
-    Qso qso = Contact();
-    qso.multiplier.clear();
-    EXPECT_EQ(QsoLine(qso, "SSB"), "12:07 DL9XYZ          59 -0012 59 -0345  3            OZ1AB  QSL SSB   07-09-02");
+    Contact contact = SomeContact();
+    contact.multiplier.clear();
+    EXPECT_EQ(QsoLine(contact, "SSB"), "12:07 DL9XYZ          59 -0012 59 -0345  3            OZ1AB  QSL SSB   07-09-02");
 }
 
 TEST(QsoLine, IsPushedOneColumnByASerialNumberOfFiveFigures) {
-    Qso qso = Contact();
-    qso.nrSendt = "10000";
-    EXPECT_EQ(QsoLine(qso, "SSB"), "12:07 DL9XYZ          59 -10000 59 -0345  3 DL         OZ1AB  QSL SSB   07-09-02");
+    Contact contact = SomeContact();
+    contact.numberSent = "10000";
+    EXPECT_EQ(QsoLine(contact, "SSB"), "12:07 DL9XYZ          59 -10000 59 -0345  3 DL         OZ1AB  QSL SSB   07-09-02");
 }
 
 TEST(QsoLine, CutsAnOperatorOfSevenCharactersSoThatNoColumnMoves) {
-    Qso qso = Contact();
-    qso.operatør = "OZ1ABCD";
-    EXPECT_EQ(QsoLine(qso, "SSB"), "12:07 DL9XYZ          59 -0012 59 -0345  3 DL         OZ1ABC QSL SSB   07-09-02");
+    Contact contact = SomeContact();
+    contact.operatorCall = "OZ1ABCD";
+    EXPECT_EQ(QsoLine(contact, "SSB"), "12:07 DL9XYZ          59 -0012 59 -0345  3 DL         OZ1ABC QSL SSB   07-09-02");
 }
 
 TEST(QsoLine, GivesADanishLetterOneColumn) {
-    Qso qso = Contact();
-    qso.call = "OZ1ÆØÅ"_t;
-    const std::string line = QsoLine(qso, "SSB");
+    Contact contact = SomeContact();
+    contact.call = "OZ1ÆØÅ"_t;
+    const std::string line = QsoLine(contact, "SSB");
     EXPECT_EQ(line.size(), 79U);
-    EXPECT_EQ(kCall.TrimmetAf(line), "OZ1ÆØÅ"_t);
-    EXPECT_EQ(kDato.Af(line), "07-09-02");
+    EXPECT_EQ(kCall.TrimmedOf(line), "OZ1ÆØÅ"_t);
+    EXPECT_EQ(kDate.Of(line), "07-09-02");
 }
 
 TEST(QsoLine, IsReadBackByItsColumns) {
-    const std::string line = QsoLine(Contact(), "SSB");
-    EXPECT_EQ(kTid.Af(line), "12:07");
-    EXPECT_EQ(kCall.Af(line), "DL9XYZ         ");
-    EXPECT_EQ(kRstSendt.Af(line), "59 ");
-    EXPECT_EQ(kNrSendt.Af(line), "0012");
-    EXPECT_EQ(kRstModtaget.Af(line), "59 ");
-    EXPECT_EQ(kNrModtaget.Af(line), "0345");
-    EXPECT_EQ(kPoint.Af(line), " 3");
-    EXPECT_EQ(kMultiplier.Af(line), "DL        ");
-    EXPECT_EQ(kOperatør.Af(line), "OZ1AB ");
-    EXPECT_EQ(kQsl.Af(line), "QSL");
-    EXPECT_EQ(kQsoMode.Af(line), "SSB  ");
-    EXPECT_EQ(kDato.Af(line), "07-09-02");
+    const std::string line = QsoLine(SomeContact(), "SSB");
+    EXPECT_EQ(kTime.Of(line), "12:07");
+    EXPECT_EQ(kCall.Of(line), "DL9XYZ         ");
+    EXPECT_EQ(kReportSent.Of(line), "59 ");
+    EXPECT_EQ(kNumberSent.Of(line), "0012");
+    EXPECT_EQ(kReportReceived.Of(line), "59 ");
+    EXPECT_EQ(kNumberReceived.Of(line), "0345");
+    EXPECT_EQ(kPoint.Of(line), " 3");
+    EXPECT_EQ(kMultiplier.Of(line), "DL        ");
+    EXPECT_EQ(kOperator.Of(line), "OZ1AB ");
+    EXPECT_EQ(kQsl.Of(line), "QSL");
+    EXPECT_EQ(kQsoMode.Of(line), "SSB  ");
+    EXPECT_EQ(kDate.Of(line), "07-09-02");
 }
 
 TEST(QsoLine, OfAnEarlierYearEndsBeforeModeAndDate) {
     const std::string_view line = "12:07 DL9XYZ          59 -0012 59 -0345  3 DL         OZ1AB";
-    EXPECT_EQ(kOperatør.Af(line), "OZ1AB");
-    EXPECT_EQ(kQsl.Af(line), "");
-    EXPECT_EQ(kQsoMode.Af(line), "");
-    EXPECT_EQ(kDato.TrimmetAf(line), "");
+    EXPECT_EQ(kOperator.Of(line), "OZ1AB");
+    EXPECT_EQ(kQsl.Of(line), "");
+    EXPECT_EQ(kQsoMode.Of(line), "");
+    EXPECT_EQ(kDate.TrimmedOf(line), "");
 }
 
-TEST(ErNote, KnowsTheMarkInAnyCase) {
-    EXPECT_TRUE(ErNote("NOTE: Regn"));
-    EXPECT_TRUE(ErNote("note: regn"));
-    EXPECT_TRUE(ErNote("NOTE: "));
+TEST(IsNote, KnowsTheMarkInAnyCase) {
+    EXPECT_TRUE(IsNote("NOTE: Regn"));
+    EXPECT_TRUE(IsNote("note: regn"));
+    EXPECT_TRUE(IsNote("NOTE: "));
 }
 
-TEST(ErNote, NeedsAllSixCharactersOfTheMarkAtTheStart) {
-    EXPECT_FALSE(ErNote("NOTE:"));
-    EXPECT_FALSE(ErNote("NOTE:Regn"));
-    EXPECT_FALSE(ErNote(" NOTE: Regn"));
-    EXPECT_FALSE(ErNote(""));
+TEST(IsNote, NeedsAllSixCharactersOfTheMarkAtTheStart) {
+    EXPECT_FALSE(IsNote("NOTE:"));
+    EXPECT_FALSE(IsNote("NOTE:Regn"));
+    EXPECT_FALSE(IsNote(" NOTE: Regn"));
+    EXPECT_FALSE(IsNote(""));
 }
 
 }  // namespace

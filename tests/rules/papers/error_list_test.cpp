@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "papers/error_list.h"
 
+#include "frame/state.h"
+#include "tables/worked.h"
+
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -322,14 +325,12 @@ TEST_F(ErrorList, LoadsTheCurrentLogAgainAndResetsTheEntry) {
         frmMain->Text1[1].SetText("DL9XX");
     });
     List();
-    EXPECT_EQ(glPoint, 3);
-    EXPECT_EQ(giMult, 1);
-    EXPECT_EQ(giQSOnr, 13);
+    EXPECT_EQ(desk().log.glPoint, 3);
+    EXPECT_EQ(desk().giMult, 1);
+    EXPECT_EQ(desk().log.giQSOnr, 13);
     EXPECT_EQ(frmMain->Text1[1].Text(), "");
     EXPECT_EQ(frmMain->Text1[3].Text(), "0013");
-    std::string status;
-    LandStatusTekst("VK2AA", status);
-    EXPECT_EQ(status, "VK: Australia (OC), er nyt land.");
+    EXPECT_EQ(ShownCountry("VK2AA").text, "VK: Australia (OC), er nyt land.");
     EXPECT_TRUE(frmMain->Enabled());
     EXPECT_FALSE(frmMain->Hourglass());
     EXPECT_EQ(ActiveForm(), &*frmInfo);
@@ -341,10 +342,10 @@ TEST_F(ErrorList, DisablesTheMainFormWhileItRuns) {
         void Refresh(Form&) override { seen.push_back(frmMain->Enabled() || !frmMain->Hourglass()); }
         std::vector<bool> seen;
     } watch;
-    InstallPlatform({watch, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+    InstallPlatform(watch, {dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
     List();
     EXPECT_EQ(watch.seen, std::vector<bool>(10, false));
-    InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+    InstallPlatform(front, {dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
 }
 
 TEST_F(ErrorList, StopsTheProgramIfItCannotBeCreated) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/html_page.h"
+#include "frame/state.h"
 
 #include <gmock/gmock.h>
 
@@ -115,7 +116,7 @@ TEST_F(HtmlPage, SumsUpInATable) {
 }
 
 TEST_F(HtmlPage, NamesTheStationWithItsBlanks) {
-    gsMyCall = "OZ1ABC/P";
+    desk().gsMyCall = "OZ1ABC/P";
     const Lines page = Page();
     EXPECT_EQ(page[1], "<head><title>Fieldday log for OZ1ABC/P 2026</title></head>");
     EXPECT_EQ(page[5 + 60 + 4], "<tr align=\"center\"><td colspan=2>Test, formand" + std::string(73 - 13, ' '));

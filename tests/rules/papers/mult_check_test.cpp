@@ -94,7 +94,7 @@ TEST_F(MultCheck, LetsAShortLineMoveTheColumnsToItsRight) {
 }
 
 TEST_F(MultCheck, WritesARowOfEmptyCellsAlone) {
-    for (const BåndMode& log : kTiLogge) Log(std::string(log.bånd) + std::string(log.mode), {"x"});
+    for (const LogId& log : kTenLogs) Log(std::string(log.band) + std::string(log.mode), {"x"});
     EXPECT_EQ(Sheet(), kTop + Lines{"       "});
 }
 

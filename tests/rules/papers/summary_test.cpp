@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "papers/summary.h"
 
+#include "frame/state.h"
+#include "tables/load_tables.h"
+
 #include <gmock/gmock.h>
 
 #include "exchange/equipment.h"
@@ -19,7 +22,7 @@ protected:
         Choose(frmMain->mnuEfterSummary);
         return Paper("Summary.txt");
     }
-    static BandSum Counted(const BåndMode& log, std::string operators = {}) {
+    static BandSum Counted(const LogId& log, std::string operators = {}) {
         BandSum sum;
         SumLog(log, sum, operators);
         return sum;
@@ -30,7 +33,7 @@ protected:
     }
 };
 
-constexpr BåndMode k80mCW{"80m", "CW"};
+constexpr LogId k80mCW{"80m", "CW"};
 
 const Lines kNothing{
     "Sammentællingsblad for EDR's HF Fieldday for lokalafdelinger",
@@ -76,8 +79,8 @@ TEST_F(Summary, ShowsTheRowsOfTheWorkedExample) {
     Log("20mCW", Times(162, Contact({.points = 3, .mult = "DL"})) + Times(200, Contact({.points = 3})) + Lines{Contact({.points = 10})} +
                      Times(77, Contact({.points = 1})));
     Log("10mCW", {NoteWith("37", "")});
-    gsRig[0] = "IC-751";
-    gsAnt[0] = "Dipol";
+    desk().rigs[0] = "IC-751";
+    desk().antennas[0] = "Dipol";
     const Lines sheet = Sheet();
     EXPECT_EQ(sheet[8], "Bånd        QSOs - Dubs  Mults x Points = Band score  Mult total x Points total = Bandscore total  Stn/Ant");
     EXPECT_EQ(sheet[9], "3,5 MHz CW     120          31 x    240 =     7440                                                 IC-751/Dipol");
@@ -187,16 +190,16 @@ TEST_F(Summary, NamesTheStationOfTheSocietysList) {
     files.files["DATA\\EDR.TXT"] = {"OZ1A   Afdeling Syd", "OZ1AB  Afdeling Nord, formand", "OZ1AB  Afdeling Vest"};
     IndlæsEDR();
     EXPECT_EQ(Sheet()[4], "Navn: Afdeling Nord, formand" + std::string(73 - 22, ' '));
-    gsMyCall = "OZ1AB";
+    desk().gsMyCall = "OZ1AB";
     EXPECT_EQ(Sheet()[4], "Navn: ");
-    gsMyCall = "oz1ab/P";
+    desk().gsMyCall = "oz1ab/P";
     EXPECT_EQ(Sheet()[4], "Navn: ");
 }
 
 TEST_F(Summary, FillsToTheNextPrintZone) {
     const auto line = [this](const char* call, const char* klasse) {
-        gsMyCall = call;
-        gsKlasse = klasse;
+        desk().gsMyCall = call;
+        desk().gsKlasse = klasse;
         return Sheet()[2];
     };
     EXPECT_EQ(line("", "B"), "Kaldesignal:  Kategori: B   Antal logsider: ");
@@ -206,18 +209,18 @@ TEST_F(Summary, FillsToTheNextPrintZone) {
 }
 
 TEST_F(Summary, TellsTheTelephoneUnlessItIsTheDefault) {
-    gsTelefon = "87654321";
+    desk().gsTelefon = "87654321";
     EXPECT_EQ(Sheet()[25], "Telefon (hvis der er spørgsmål): 87654321");
-    gsTelefon = "12345678";
+    desk().gsTelefon = "12345678";
     EXPECT_EQ(Sheet()[25], "Telefon (hvis der er spørgsmål): ");
-    gsTelefon = "";
+    desk().gsTelefon = "";
     EXPECT_EQ(Sheet()[25], "Telefon (hvis der er spørgsmål): ");
 }
 
 TEST_F(Summary, PutsTheEquipmentOnTheCwRowOfItsBand) {
     for (std::size_t i = 0; i < 5; ++i) {
-        gsRig[i] = "R" + std::string(kUdstyrBånd[i]);
-        gsAnt[i] = "A" + std::string(kUdstyrBånd[i]);
+        desk().rigs[i] = "R" + std::string(kEquipmentBands[i]);
+        desk().antennas[i] = "A" + std::string(kEquipmentBands[i]);
     }
     const Lines sheet = Sheet();
     EXPECT_EQ(sheet[9].substr(99), "R80/A80");

@@ -1,44 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "score/points.h"
 
-#include "country/lookup.h"
-#include "country/tables.h"
-#include "frame/station.h"
-#include "running_program.h"
-#include "score/stations.h"
+#include <gtest/gtest.h>
 
 namespace vatro {
 namespace {
 
-class Points : public RunningProgram {
+class Points : public ::testing::Test {
 protected:
     void SetUp() override {
-        BeginProgram();
-        gsFDLib = "data";
-        gbVisLand = true;
-        giMult = 0;
-        NulstilTabeller();
-        files.files["DATA\\LANDE.TXT"] = {"DL        Fed. Rep. of Germany     EU -1 ", "K         United States            NA  5 ",
-                                          "OZ        Denmark                  EU -1 ", "TA        Turkey                   AS -2 "};
-        files.files["DATA\\REFPFX.TXT"] = {"DL        DL        14 28", "K         K         05 08", "OZ        OZ        14 18",
-                                           "TA        TA        20 39", "W         K         05 08"};
-        IndlæsLande();
-        IndlæsRefPfx();
-        Stations({"OZ1ABC Test, formand"});
+        CountryReader countries(tables);
+        for (const char* line : {"DL        Fed. Rep. of Germany     EU -1 ", "K         United States            NA  5 ",
+                                 "OZ        Denmark                  EU -1 ", "TA        Turkey                   AS -2 "})
+            countries.Read(line);
+        PrefixReader prefixes(tables);
+        for (const char* line : {"DL        DL        14 28", "K         K         05 08", "OZ        OZ        14 18",
+                                 "TA        TA        20 39", "W         K         05 08"})
+            prefixes.Read(line);
+        tables.IndexPrefixes();
+        List({"OZ1ABC Test, formand"});
     }
-    void TearDown() override {
-        NulstilTabeller();
-        NulstilEDR();
+    void List(const std::vector<std::string>& lines) {
+        stations.BeginReading();
+        for (const std::string& line : lines) stations.Read(line);
     }
-    void Stations(std::vector<std::string> lines) {
-        files.files["DATA\\EDR.TXT"] = std::move(lines);
-        IndlæsEDR();
-    }
-    static int Of(const std::string& call) {
-        giQSOPoint = 99;
-        BeregnPoint(call);
-        return giQSOPoint;
-    }
+    int Of(std::string_view call) const { return BeregnPoint(call, tables, stations, shown); }
+
+    CountryTables tables;
+    Stations stations;
+    /// Whether the operator is shown the countries.
+    bool shown = true;
 };
 
 TEST_F(Points, OfDanishStationsDependOnTheList) {
@@ -85,16 +76,16 @@ TEST_F(Points, OfALongerCallAreThoseOfItsFirstSixCharacters) {
 }
 
 TEST_F(Points, OfAListedStationBeatTheContinent) {
-    Stations({"W1ABC  Test, medlem"});
+    List({"W1ABC  Test, medlem"});
     EXPECT_EQ(Of("W1ABC"), 10);
 }
 
 TEST_F(Points, OfAnUnknownPrefixAreNoneWhileCountriesAreShown) {
-    Stations({"XZ9XYZ Test, rejsende"});
+    List({"XZ9XYZ Test, rejsende"});
     EXPECT_EQ(Of("XZ9XYZ"), 0);
     EXPECT_EQ(Of("XZ9ABC"), 0);
     EXPECT_EQ(Of("OU1ABC"), 0);
-    gbVisLand = false;
+    shown = false;
     EXPECT_EQ(Of("XZ9XYZ"), 10);
     EXPECT_EQ(Of("XZ9ABC"), 3);
     EXPECT_EQ(Of("XZ9ABC/P"), 5);
@@ -103,23 +94,15 @@ TEST_F(Points, OfAnUnknownPrefixAreNoneWhileCountriesAreShown) {
 
 TEST_F(Points, OfASuffixWithoutACallAreThreeAndNothingIsLookedUp) {
     // A blank line of the list would match a call of six blanks.
-    Stations({""});
+    List({""});
     for (const char* call : {"", "/3", "9/", "/QRP", "/QRP/3"}) EXPECT_EQ(Of(call), 3) << call;
     EXPECT_EQ(Of("/P"), 10);
 }
 
-TEST_F(Points, ChangeNoMarks) {
-    Of("DL1ABC");
-    Of("OZ1ABC");
-    EXPECT_EQ(giMult, 0);
-    EXPECT_FALSE(Lande[1].Wkd);
-    EXPECT_FALSE(EDRstn[1].Wkd);
-}
-
-TEST_F(Points, DoNotDependOnWhatWasWorkedBefore) {
-    std::string result;
-    LandWkd("DL1ABC", result, Handling::Op);
-    EXPECT_EQ(Of("DL1ABC"), 3);
+TEST_F(Points, ThatCountryAndListLeaveAreThoseOfEurope) {
+    EXPECT_EQ(EuropeanPoints("OZ7XYZ/P"), 1);
+    EXPECT_EQ(EuropeanPoints("W1ABC/P"), 5);
+    EXPECT_EQ(EuropeanPoints(""), 3);
 }
 
 TEST(Danish, AreSevenPrefixes) {
