@@ -7,6 +7,7 @@
 #include "codepage.h"
 #include "entry/keys.h"
 #include "exchange/equipment.h"
+#include "frame/state.h"
 #include "keyer/frmCWTX.h"
 #include "keyer/keyer_settings.h"
 #include "keyer/texts.h"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/texts.h"
-#include "frame/state.h"
 
 #include "desk/keyer/sending_program.h"
 
