@@ -18,7 +18,6 @@
 #include "frame/station.h"
 #include "keyer/texts.h"
 #include "log/duplicates.h"
-#include "papers/weekend.h"
 #include "platform.h"
 #include "score/stations.h"
 #include "stations/frmEDR.h"
@@ -153,7 +152,6 @@ void FrmMain::Form_Load() {
     mnuCW.SetEnabled(gsQsoMode == "CW");
 
     if (gsLogLib.empty()) mnuFilerSætLogbibliotek.Click();
-    Find1Weekend();
     IndlæsLogfil();
     LæsOperatører(Combo1, gsOperatør.Padded());
     ResetQSO();

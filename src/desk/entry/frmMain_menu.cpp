@@ -29,13 +29,10 @@
 #include "keyer/frmCW.h"
 #include "keyer/keyer_settings.h"
 #include "keyer/texts.h"
-#include "papers/adif.h"
-#include "papers/error_list.h"
-#include "papers/html_page.h"
-#include "papers/log_sheets.h"
-#include "papers/mult_check.h"
-#include "papers/printing.h"
-#include "papers/summary.h"
+#include "printing/error_list_run.h"
+#include "printing/exports.h"
+#include "printing/printer.h"
+#include "printing/sheets.h"
 #include "stations/frmEDR.h"
 #include "tables/unknown.h"
 
@@ -104,20 +101,20 @@ void FrmMain::BindPapers() {
                                                        &mnuUdskriv80mCW, &mnuUdskriv80mSSB};
     for (std::size_t i = 0; i < kTenLogs.size(); ++i) {
         sheets[i]->Click = [log = kTenLogs[i]] { Danlog(log); };
-        print[i]->Click = [log = kTenLogs[i]] { Udskriv([&log](PageSurface& surface) { PrintLog(surface, log); }); };
+        print[i]->Click = [log = kTenLogs[i]] { RunPrintJob([&log](PageSurface& surface) { PrintLog(surface, log); }); };
     }
     mnuFilerDanMult.Click = DanMultCheck;
     mnuEfterSummary.Click = DanSummary;
-    mnuEfterAlt.Click = DanAlt;
-    mnuFilerDanFejlliste.Click = DanFejlliste;
-    mnuFilerDanHtml.Click = DanHtml;
-    mnuFilerEksportAdif.Click = EksporterAdif;
+    mnuEfterAlt.Click = MakeAllPapers;
+    mnuFilerDanFejlliste.Click = MakeErrorList;
+    mnuFilerDanHtml.Click = MakeHtmlPage;
+    mnuFilerEksportAdif.Click = ExportAdif;
 
-    mnuFilePageSetup.Click = VælgPrinter;
-    mnuUdskrivUkendt.Click = [] { Udskriv(PrintUkendt); };
-    mnuFilerUdskrivMult.Click = [] { Udskriv(PrintMultCheck); };
-    mnuUdskrivSummary.Click = [] { Udskriv(PrintSummary); };
-    mnuUdskrivAlt.Click = [] { Udskriv(PrintAlt); };
+    mnuFilePageSetup.Click = ChoosePrinter;
+    mnuUdskrivUkendt.Click = [] { RunPrintJob(PrintUkendt); };
+    mnuFilerUdskrivMult.Click = [] { RunPrintJob(PrintMultCheck); };
+    mnuUdskrivSummary.Click = [] { RunPrintJob(PrintSummary); };
+    mnuUdskrivAlt.Click = [] { RunPrintJob(PrintAll); };
 }
 
 void FrmMain::SetContestClass(std::string_view contestClass) {

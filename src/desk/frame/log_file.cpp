@@ -42,12 +42,6 @@ void CountLine(std::string_view line) {
 
 }  // namespace
 
-std::string LogName(std::string_view band, std::string_view mode) {
-    std::string name = "FD";
-    name.append(band).append(mode).append(".txt");
-    return name;
-}
-
 std::string LogPath(std::string_view band, std::string_view mode) {
     return PathIn(gsLogLib, LogName(band, mode));
 }

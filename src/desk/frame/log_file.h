@@ -7,10 +7,11 @@
 // on. All numbers shown are derived from the lines when the log is loaded and kept up to date as contacts are logged.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
+
+#include "log/ten_logs.h"
 
 namespace vatro {
 
@@ -19,25 +20,6 @@ extern std::int16_t giQSOnr;
 /// Sum of the points of all contact lines.
 extern std::int32_t glPoint;
 
-struct LogId {
-    std::string_view band;
-    std::string_view mode;
-};
-
-/// All logs that there can be, in the order in which they are copied, searched and counted.
-inline constexpr std::array<LogId, 10> kTenLogs{{{"10m", "CW"},
-                                                 {"10m", "SSB"},
-                                                 {"15m", "CW"},
-                                                 {"15m", "SSB"},
-                                                 {"20m", "CW"},
-                                                 {"20m", "SSB"},
-                                                 {"40m", "CW"},
-                                                 {"40m", "SSB"},
-                                                 {"80m", "CW"},
-                                                 {"80m", "SSB"}}};
-
-/// "FD80mSSB.txt".
-std::string LogName(std::string_view band, std::string_view mode);
 /// Path of the log of a band and log mode; no file means no contact.
 std::string LogPath(std::string_view band, std::string_view mode);
 /// Path of the current log.
