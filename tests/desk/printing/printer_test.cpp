@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "papers/printing.h"
+#include "printing/printer.h"
 
 #include <gmock/gmock.h>
 

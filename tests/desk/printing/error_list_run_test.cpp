@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "papers/error_list.h"
+#include "printing/error_list_run.h"
 
 #include <gmock/gmock.h>
 
@@ -10,6 +10,7 @@
 #include "frame/log_file.h"
 #include "log/duplicates.h"
 #include "paper_program.h"
+#include "papers/error_list.h"
 #include "score/points.h"
 #include "score/stations.h"
 
@@ -94,13 +95,10 @@ TEST_F(ErrorList, ShowsAFaultyContactAsInTheWorkedExample) {
 }
 
 TEST_F(ErrorList, ShowsALineOnceForAllItsErrors) {
-    bool shown = false;
-    files.Open(2, "log\\x.txt", FileMode::Output);
-    DanFejlQSO("abc", shown);
-    EXPECT_TRUE(shown);
-    DanFejlQSO("abc", shown);
-    EXPECT_EQ(Paper("x.txt"), Lines({" ", kColumns, "        abc", " "}));
-    files.Close(2);
+    WrittenLines list;
+    EXPECT_TRUE(DanFejlQSO(list, "abc", false));
+    EXPECT_TRUE(DanFejlQSO(list, "abc", true));
+    EXPECT_EQ(list.lines, Lines({" ", kColumns, "        abc", " "}));
 }
 
 TEST_F(ErrorList, RunsAllRulesInTheirOrder) {
@@ -126,14 +124,9 @@ TEST_F(ErrorList, ChecksTheTime) {
         told.time = bad;
         EXPECT_EQ(FaultsOf(told), fault) << bad;
     }
-    std::string text = "12345";
-    clock.now.hour = 7;
-    clock.now.minute = 9;
-    ValiderTid(text);
-    EXPECT_EQ(text, "");
-    text = "12 7x";
-    ValiderTid(text);
-    EXPECT_EQ(ToUtf8(text), "Fejl i tidspunkt. Tidspunkt skal angives som: '07:09'.");
+    const DateTime now{2026, 9, 5, 7, 9, 0, 0};
+    EXPECT_FALSE(ValiderTid("12345", now));
+    EXPECT_EQ(ToUtf8(ValiderTid("12 7x", now).value_or("")), "Fejl i tidspunkt. Tidspunkt skal angives som: '07:09'.");
 }
 
 TEST_F(ErrorList, ChecksTheBaseCall) {
