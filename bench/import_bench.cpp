@@ -11,6 +11,7 @@
 #include "country/import.h"
 #include "country/tables.h"
 #include "disk_files.h"
+#include "frame/state.h"
 #include "frame/station.h"
 #include "program.h"
 #include "sample.h"
@@ -61,7 +62,7 @@ std::vector<std::string> SampleCtyFile() {
 struct World {
     World() {
         WriteLines(workplace.Path("cty.dat"), SampleCtyFile());
-        gsFDLib = NativeText(workplace.Path(""));
+        desk().gsFDLib = NativeText(workplace.Path(""));
         memory.Install(unattended, files);
         BeginProgram();
         Dispatch([] { frmCtyDat.Load(); });
@@ -81,7 +82,7 @@ void SplitFile(benchmark::State& state) {
     Files& files = platform().files;
     for (auto _ : state) {
         std::vector<std::string> items;
-        files.Open(1, PathIn(gsFDLib, "cty.dat"), FileMode::Input);
+        files.Open(1, PathIn(desk().gsFDLib, "cty.dat"), FileMode::Input);
         while (!files.EndOfFile(1)) {
             const std::string headerLine = files.LineInput(1);
             const CtyHeader header = ReadCtyHeader(headerLine);
@@ -103,7 +104,7 @@ void Import(benchmark::State& state) {
     state.SetLabel("vs country file into items, at most 2");
     for (auto _ : state) {
         ImporterCty();
-        if (giRefPfx != kTableRows) return state.SkipWithError("the file was not imported");
+        if (desk().tables.giRefPfx != kTableRows) return state.SkipWithError("the file was not imported");
     }
     ResetTables();
 }

@@ -14,6 +14,7 @@
 #include "entry/frmMain.h"
 #include "frame/band_mode.h"
 #include "frame/log_file.h"
+#include "frame/state.h"
 #include "frame/station.h"
 #include "log/contact_line.h"
 #include "page.h"
@@ -70,16 +71,16 @@ private:
 std::vector<std::string> FaultlessLog(const std::vector<std::string>& sample, std::string_view mode) {
     std::vector<std::string> log;
     ResetLande();
-    giMult = 0;
+    desk().giMult = 0;
     for (const std::string& line : sample) {
         if (log.size() == kContacts) break;
         Contact qso;
         qso.call = kCall.TrimmedOf(line);
         LandWkd(qso.call, qso.multiplier, MarkAction::Test);
-        if (giMult == kCountries && !qso.multiplier.empty()) continue;
+        if (desk().giMult == kCountries && !qso.multiplier.empty()) continue;
         BeregnPoint(qso.call);
         LandWkd(qso.call, qso.multiplier, MarkAction::Mark);
-        qso.point = giQSOPoint;
+        qso.point = desk().giQSOPoint;
         qso.time = kTime.Of(line);
         qso.reportSent = qso.reportReceived = mode == "CW" ? "599" : "59";
         qso.numberSent = kNumberSent.Of(line);

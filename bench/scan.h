@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "country/tables.h"
+#include "frame/state.h"
 #include "log/contact_line.h"
 
 namespace vatro::bench {
@@ -27,7 +28,8 @@ inline std::ptrdiff_t ScanLog(const std::vector<std::string>& lines, char sought
 /// The prefixes of the table.
 inline std::ptrdiff_t ScanTable(char sought) {
     std::ptrdiff_t found = 0;
-    for (int row = 1; row <= giRefPfx; ++row) found += CountIn(RefPfx[static_cast<std::size_t>(row)].Pfx.Padded(), sought);
+    for (int row = 1; row <= desk().tables.giRefPfx; ++row)
+        found += CountIn(desk().tables.RefPfx[static_cast<std::size_t>(row)].Pfx.Padded(), sought);
     return found;
 }
 

@@ -12,6 +12,7 @@
 #include "exchange/ct_import.h"
 #include "frame/log_file.h"
 #include "frame/start.h"
+#include "frame/state.h"
 #include "log/contact_line.h"
 #include "world.h"
 
@@ -55,13 +56,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto written = texts.find(UpperText(CurrentLogPath()));
     if (file != (written == texts.end() ? std::string() : written->second)) __builtin_trap();
 
-    const std::int32_t points = glPoint;
+    const std::int32_t points = desk().log.glPoint;
     const int count = frmMain->List1.ListCount();
     const bool whole = file.size() == static_cast<std::size_t>(count) * 81;
     world->files.Close(2);
     IndlæsLogfil();
     // A number that is too long stands where the points are looked for.
-    if (whole && (glPoint != points || frmMain->List1.ListCount() != count)) __builtin_trap();
+    if (whole && (desk().log.glPoint != points || frmMain->List1.ListCount() != count)) __builtin_trap();
     EndProgram();
     return 0;
 }

@@ -11,6 +11,7 @@
 
 #include "country/import.h"
 #include "country/tables.h"
+#include "frame/state.h"
 #include "tables/frmCtyDat.h"
 #include "world.h"
 
@@ -62,11 +63,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     try {
         ImporterCty();
     } catch (const RunTimeError& failure) {
-        if (!Expected(failure.Which()) || world->files.wrote || giRefPfx != 0) __builtin_trap();
+        if (!Expected(failure.Which()) || world->files.wrote || desk().tables.giRefPfx != 0) __builtin_trap();
         return 0;
     }
-    if (giLande > kCountryRows || giRefPfx > kPrefixRows) __builtin_trap();
-    for (int i = 1; i <= giRefPfx; ++i)
-        if (FindWholeCall(RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed(), 1) > i) __builtin_trap();
+    if (desk().tables.giLande > kCountryRows || desk().tables.giRefPfx > kPrefixRows) __builtin_trap();
+    for (int i = 1; i <= desk().tables.giRefPfx; ++i)
+        if (FindWholeCall(desk().tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed(), 1) > i) __builtin_trap();
     return 0;
 }

@@ -13,6 +13,7 @@
 #include "country/lookup.h"
 #include "country/tables.h"
 #include "errors.h"
+#include "frame/state.h"
 
 namespace {
 
@@ -20,8 +21,8 @@ using namespace vatro;
 
 template <class Meets>
 int Scan(int start, Meets meets) {
-    for (int i = std::max(start, 1); i <= giRefPfx; ++i)
-        if (meets(RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed())) return i;
+    for (int i = std::max(start, 1); i <= desk().tables.giRefPfx; ++i)
+        if (meets(desk().tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed())) return i;
     return 0;
 }
 
@@ -40,18 +41,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (call.empty()) return 0;
 
     ResetTables();
-    giLande = 1;
-    Lande[1].Pfx = "QQ";
-    while (!rest.empty() && giRefPfx < 100) {
-        ++giRefPfx;
-        RefPfx[static_cast<std::size_t>(giRefPfx)].Pfx = Trim(TakeLine(rest));
-        RefPfx[static_cast<std::size_t>(giRefPfx)].Land = "QQ";
+    desk().tables.giLande = 1;
+    desk().tables.Lande[1].Pfx = "QQ";
+    while (!rest.empty() && desk().tables.giRefPfx < 100) {
+        ++desk().tables.giRefPfx;
+        desk().tables.RefPfx[static_cast<std::size_t>(desk().tables.giRefPfx)].Pfx = Trim(TakeLine(rest));
+        desk().tables.RefPfx[static_cast<std::size_t>(desk().tables.giRefPfx)].Land = "QQ";
     }
     IndexPrefixes();
 
     std::string pfxcall;
     findPfxCall(call, pfxcall);
-    for (int start = 0; start <= giRefPfx; ++start) {
+    for (int start = 0; start <= desk().tables.giRefPfx; ++start) {
         if (FindWholeCall(call, start) != Scan(start, [&](std::string_view pfx) { return pfx == call; })) __builtin_trap();
         if (FindPrefix(pfxcall, start) != Scan(start, [&](std::string_view pfx) { return pfxcall.starts_with(pfx); })) __builtin_trap();
     }
@@ -64,14 +65,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // Only a call that keeps a slash can lose more.
     if (base.find('/') == std::string::npos && again != base) __builtin_trap();
 
-    gbVisLand = true;
-    giMult = 0;
+    desk().gbVisLand = true;
+    desk().giMult = 0;
     std::string found;
     LandWkd(call, found, MarkAction::Mark);
-    if ((giMult == 1) != Lande[1].Wkd || (giMult == 1) == found.empty()) __builtin_trap();
+    if ((desk().giMult == 1) != desk().tables.Lande[1].Wkd || (desk().giMult == 1) == found.empty()) __builtin_trap();
     std::string status;
     LandStatusTekst(call, status);
     LandWkd(call, found, MarkAction::Unmark);
-    if (giMult != 0 || Lande[1].Wkd) __builtin_trap();
+    if (desk().giMult != 0 || desk().tables.Lande[1].Wkd) __builtin_trap();
     return 0;
 }

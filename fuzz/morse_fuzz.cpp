@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "frame/state.h"
 #include "frame/station.h"
 #include "keyer/keyer_settings.h"
 #include "keyer/texts.h"
@@ -53,7 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     gsCWCall = line(1);
     gsCWNummer = line(2);
     gsCWRST = line(3);
-    gsMyCall = "OZ1QN";
+    desk().gsMyCall = "OZ1QN";
     DanCWTekst();
     if (gsCWTekst.empty() || gsCWTekst.back() != ' ') __builtin_trap();
 

@@ -12,6 +12,7 @@
 #include "entry/frmMain.h"
 #include "entry/qso_fields.h"
 #include "frame/start.h"
+#include "frame/state.h"
 #include "score/points.h"
 #include "score/stations.h"
 #include "world.h"
@@ -28,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     BeginProgram();
     Dispatch(StartProgram);
     if (!ProgramRuns()) return 0;
-    if (CountriesInUse() > kCountryRows || giRefPfx > kPrefixRows + 1 || StationsInUse() > kEdrRows) __builtin_trap();
+    if (CountriesInUse() > kCountryRows || desk().tables.giRefPfx > kPrefixRows + 1 || StationsInUse() > kEdrRows) __builtin_trap();
     for (const char* call : {"OZ1ABC", "OZ1ABC/P", "W1AW", "SV9/DL1XYZ", "Q"}) {
         Dispatch([&] {
             frmMain->Text1[kCallField].SetText(call);

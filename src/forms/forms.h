@@ -187,6 +187,8 @@ template <class F>
 class FormSlot : public FormSlotBase {
 public:
     explicit FormSlot(std::string_view name) : FormSlotBase(name, [] { return std::make_unique<F>(); }) {}
+    /// Of a class derived from F, made by `make`.
+    FormSlot(std::string_view name, std::function<std::unique_ptr<Form>()> make) : FormSlotBase(name, std::move(make)) {}
     /// The form, loaded by this if it is not.
     F* operator->() {
         Load();

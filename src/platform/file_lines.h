@@ -12,9 +12,9 @@
 namespace vatro {
 
 /// Reads the file that is open under a number. Fails as Files::LineInput and Files::EndOfFile do.
-class FileSource : public LineSource {
+class FileLines : public LineSource {
 public:
-    FileSource(Files& files, int number) : files_(files), number_(number) {}
+    FileLines(Files& files, int number) : files_(files), number_(number) {}
     bool AtEnd() override { return files_.EndOfFile(number_); }
     std::string Next() override { return files_.LineInput(number_); }
 

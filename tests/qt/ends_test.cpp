@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ends.h"
+#include "frame/state.h"
 
 #include <QEvent>
 #include <QTest>
@@ -25,7 +26,7 @@ protected:
 };
 
 TEST_F(ProgramEnds, WhenTheDesktopTellsItToQuit) {
-    gsBand = "20m";
+    desk().gsBand = "20m";
     const Ends ends(stored);
     QEvent quit(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &quit);
@@ -39,7 +40,7 @@ TEST_F(ProgramEnds, WhenTheDesktopTellsItToQuit) {
 TEST_F(ProgramEnds, BySignal) {
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
         if (!ProgramRuns()) StartVatro();
-        gsBand = "20m";
+        desk().gsBand = "20m";
         settings.texts.erase("SETTINGS/BAND");
         const Ends ends(stored);
         std::raise(number);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "looking.h"
+#include "frame/state.h"
 
 #include <gtest/gtest.h>
 
@@ -131,19 +132,19 @@ TEST(Looking, VariablesAreKnownByName) {
 }
 
 TEST(Looking, VariablesShowTextInQuotesAndTheRestBare) {
-    gsBand = "80m";
-    gsOperatør = "OZ1A";
-    gbDupe = true;
-    gbAutoTid = 1;
-    giQSOnr = 12;
-    glPoint = 123456;
+    desk().gsBand = "80m";
+    desk().gsOperatør = "OZ1A";
+    desk().gbDupe = true;
+    desk().gbAutoTid = 1;
+    desk().log.giQSOnr = 12;
+    desk().log.glPoint = 123456;
     EXPECT_EQ(VariableValue("gsBand"), "\"80m\"");
     EXPECT_EQ(VariableValue("gsOperatør"_t), "\"OZ1A  \"");
     EXPECT_EQ(VariableValue("gbDupe"), "true");
     EXPECT_EQ(VariableValue("gbAutoTid"), "1");
     EXPECT_EQ(VariableValue("giQSOnr"), "12");
     EXPECT_EQ(VariableValue("glPoint"), "123456");
-    gbDupe = false;
+    desk().gbDupe = false;
     EXPECT_EQ(VariableValue("gbDupe"), "false");
 }
 

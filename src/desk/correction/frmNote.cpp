@@ -3,6 +3,7 @@
 
 #include "entry/frmMain.h"
 #include "frame/log_file.h"
+#include "frame/state.h"
 #include "log/contact_line.h"
 
 namespace vatro {
@@ -40,11 +41,11 @@ void InsertNote() {
 }
 
 void CorrectNote() {
-    ListBox& log = frmMain->List1;
-    frmNote->Text1.SetText(Columns(log.List(log.ListIndex()), kNoteMark.size() + 1));
+    const ListBox& list = frmMain->List1;
+    frmNote->Text1.SetText(Columns(list.List(list.ListIndex()), kNoteMark.size() + 1));
     frmNote->ShowModal();
     if (!frmNote->Text1.Text().empty()) {
-        log.SetList(log.ListIndex(), NoteLine());
+        desk().log.Replace(static_cast<std::size_t>(list.ListIndex()), NoteLine());
         SkrivLog();
     }
     frmMain->Text1[1].SetFocus();

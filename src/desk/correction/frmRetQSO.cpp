@@ -1,37 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "correction/frmRetQSO.h"
+#include "frame/state.h"
+
+#include <algorithm>
+#include <span>
 
 #include "call/call_analysis.h"
-#include "checks/field_checks.h"
 #include "correction/frmNote.h"
-#include "country/lookup.h"
 #include "datetime.h"
+#include "entry/field_questions.h"
 #include "entry/frmMain.h"
 #include "entry/frmQSOnr.h"
 #include "entry/operators.h"
 #include "entry/qso_fields.h"
-#include "frame/band_mode.h"
 #include "frame/log_file.h"
 #include "frame/station.h"
 #include "log/contact_line.h"
 #include "log/duplicates.h"
 #include "numbers.h"
 #include "platform.h"
-#include "score/points.h"
-#include "score/stations.h"
 #include "tables/unknown.h"
+#include "tables/worked.h"
 
 namespace vatro {
-
-namespace {
-
-std::string MultiplierTest(std::string_view call) {
-    std::string multiplier;
-    LandWkd(call, multiplier, MarkAction::Test);
-    return multiplier;
-}
-
-}  // namespace
 
 FrmRetQSO::FrmRetQSO()
     : Form("frmRetQSO", FormKind::Dialog, "Ret QSO"),
@@ -95,7 +86,7 @@ void FrmRetQSO::Fill(std::string_view line) {
 
     // Lines of earlier years end before mode and date. A contact can change between the modes of its log only.
     std::string mode(kQsoMode.TrimmedOf(line));
-    if (mode.empty()) mode = gsQsoMode;
+    if (mode.empty()) mode = desk().gsQsoMode;
     cboMode.Clear();
     if (mode == "SSB") {
         cboMode.AddItem(mode);
@@ -109,19 +100,10 @@ void FrmRetQSO::Fill(std::string_view line) {
     txtDato.SetText(kDate.Of(line).empty() ? FormatDate(UtcNow()) : std::string(kDate.Of(line)));
 }
 
-void FrmRetQSO::CheckDupQSO() {
-    gbDupe = false;
-    std::string s;
-    for (int i = 0; i < frmMain->List1.ListIndex(); ++i) {
-        // The call of the line before, not this line: see the header.
-        if (s.starts_with(kNoteMark)) continue;
-        s = kCall.TrimmedOf(frmMain->List1.List(i));
-        StripCall(s);
-        if (s == gsCall) {
-            gbDupe = true;
-            return;
-        }
-    }
+void FrmRetQSO::NoteDuplicateAbove() {
+    const std::span<const std::string> lines = desk().log.Lines();
+    const auto above = static_cast<std::size_t>(std::max(frmMain->List1.ListIndex(), 0));
+    desk().gbDupe = CheckDupQSO(lines.first(std::min(above, lines.size())), desk().gsCall);
 }
 
 void FrmRetQSO::StoreState() {
@@ -130,11 +112,10 @@ void FrmRetQSO::StoreState() {
 
 void FrmRetQSO::Text1_LostFocus() {
     sbStatusBar.SetPanel(1, {});
-    gsCall = Text1[kCallField].Text();
-    StripCall(gsCall);
-    if (!CheckCall(gsCall)) return Text1[kCallField].SetFocus();
+    desk().gsCall = StripCall(Text1[kCallField].Text());
+    if (!Accepted(CheckCall(desk().gsCall))) return Text1[kCallField].SetFocus();
     Calculate();
-    if (gbDupe)
+    if (desk().gbDupe)
         frmQSOnr->visDupe();
     else
         frmQSOnr->visQSOnr();
@@ -143,20 +124,17 @@ void FrmRetQSO::Text1_LostFocus() {
 void FrmRetQSO::Calculate() {
     const std::string call = Text1[kCallField].Text();
     if (call.empty()) return;
-    gsCall = call;
-    StripCall(gsCall);
-    CheckDupQSO();
-    BeregnPoint(call);
-    std::string text;
-    LandStatusTekst(call, text);
-    sbStatusBar.SetPanel(1, text);
-    ShowCalculated(MultiplierTest(call));
+    desk().gsCall = StripCall(call);
+    NoteDuplicateAbove();
+    NotePoints(call);
+    sbStatusBar.SetPanel(1, ShownCountry(call).text);
+    ShowCalculated(NoteCountry(call, MarkAction::Test));
 }
 
 void FrmRetQSO::ShowCalculated(std::string_view multiplier) {
-    if (gbDupe) return ShowDuplicate();
+    if (desk().gbDupe) return ShowDuplicate();
     Text3.SetText(multiplier);
-    Combo2.SetText(PlainNumber(giQSOPoint));
+    Combo2.SetText(PlainNumber(desk().giQSOPoint));
     Combo2.SetEnabled(true);
 }
 
@@ -177,61 +155,61 @@ bool FrmRetQSO::CheckDate() {
 }
 
 void FrmRetQSO::Command1_Click() {
-    if (!CheckOperator(Combo1.Text())) return Combo1.SetFocus();
+    if (!Accepted(CheckOperator(Combo1.Text()))) return Combo1.SetFocus();
     if (!CheckDate()) return txtDato.SetFocus();
-    std::string time;
-    if (!CheckTime(Text1[kUtcField], time)) return Text1[kUtcField].SetFocus();
-    gsCall = Text1[kCallField].Text();
-    StripCall(gsCall);
-    if (!CheckCall(gsCall)) return Text1[kCallField].SetFocus();
-    CheckDupQSO();
-    if (gbDupe) {
+    const auto time = AcceptedTime(Text1[kUtcField]);
+    if (!time) return Text1[kUtcField].SetFocus();
+    desk().gsCall = StripCall(Text1[kCallField].Text());
+    if (!Accepted(CheckCall(desk().gsCall))) return Text1[kCallField].SetFocus();
+    NoteDuplicateAbove();
+    if (desk().gbDupe) {
         Text3.SetText(kDupeMark);
         Combo2.SetListIndex(0);
     }
-    if (const int field = CheckReports(Text1); field >= 0) return Text1[field].SetFocus();
-    Log(time);
+    if (const auto field = FieldAtFault(Text1)) return Text1[*field].SetFocus();
+    LogCorrection(*time);
 }
 
-void FrmRetQSO::Log(const std::string& time) {
+void FrmRetQSO::LogCorrection(const std::string& time) {
     const std::string call = Text1[kCallField].Text();
     // As it counts now; what Text3 shows is not used.
     Contact contact;
-    LandWkd(call, contact.multiplier, MarkAction::Mark);
-    EDRstnWkd(gsCall, MarkAction::Mark);
-    BeregnPoint(call);
+    contact.multiplier = NoteCountry(call, MarkAction::Mark);
+    NoteStation(desk().gsCall, MarkAction::Mark);
+    // Six characters are what the station was looked up by, and what the variable shows from now on.
+    desk().gsCall = StationCall(desk().gsCall);
+    NotePoints(call);
     const double point = NumericValue(Combo2.Text());
-    if (point != giQSOPoint) {
+    if (point != desk().giQSOPoint) {
         MessageBox question;
         question.text = "Er " + Combo2.Text() + " point korrekt?";
         question.title = "Point";
         question.buttons = Buttons::YesNo;
         if (MsgBox(question) == Answer::No) {
-            // The marks just set stay set: a second "&Log" then finds the country marked. Meant so.
+            // The marks just set stay set: a second "&Log" then finds the country marked, and the corrected line has no multiplier
+            // until the log is checked. Logs corrected that way are in the archives of many stations.
             if (Combo2.Enabled()) Combo2.SetFocus();
             return;
         }
     }
-    giQSOPoint = ToInt32(point);
+    desk().giQSOPoint = ToInt32(point);
     contact.time = time;
     contact.call = call;
     contact.reportSent = Text1[kReportSentField].Text();
     contact.numberSent = Text1[kNumberSentField].Text();
     contact.reportReceived = Text1[kReportReceivedField].Text();
     contact.numberReceived = Text1[kNumberReceivedField].Text();
-    contact.point = giQSOPoint;
-    if (gbDupe) contact.multiplier = kDupeMark;
+    contact.point = desk().giQSOPoint;
+    if (desk().gbDupe) contact.multiplier = kDupeMark;
     contact.operatorCall = Trim(Combo1.Text());
     contact.qsl = Check1.Value();
     contact.qsoMode = cboMode.Text();
     contact.date = txtDato.Text();
-    const std::string line = QsoLine(contact, gsMode);
+    const std::string line = QsoLine(contact, desk().gsMode);
 
-    std::string status;
-    LandStatusTekst(call, status);
-    if (IsUnknown(status)) GemUkendt(line);
-    frmMain->List1.SetList(frmMain->List1.ListIndex(), line);
-    glPoint = ToInt32(static_cast<double>(glPoint) + giQSOPoint);
+    if (ShownCountry(call).unknown) GemUkendt(line);
+    desk().log.Replace(static_cast<std::size_t>(frmMain->List1.ListIndex()), line);
+    desk().log.AddPoints(desk().giQSOPoint);
     ShowScore();
     Unload();
 }
@@ -240,28 +218,24 @@ namespace {
 
 /// Takes a contact out of points and marks before it is corrected.
 void Withdraw(FrmRetQSO& form) {
-    std::string call = form.Text1[kCallField].Text();
-    if (!call.empty() && !form.Text3.Text().empty() && form.Text3.Text() != kDupeMark) {
-        std::string multiplier;
-        LandWkd(call, multiplier, MarkAction::Unmark);
-    }
-    StripCall(call);
-    EDRstnWkd(call, MarkAction::Unmark);
-    glPoint = ToInt32(glPoint - NumericValue(form.Combo2.Text()));
+    const std::string& call = form.Text1[kCallField].Text();
+    if (!call.empty() && !form.Text3.Text().empty() && form.Text3.Text() != kDupeMark) NoteCountry(call, MarkAction::Unmark);
+    NoteStation(StripCall(call), MarkAction::Unmark);
+    desk().log.AddPoints(-NumericValue(form.Combo2.Text()));
 }
 
 }  // namespace
 
 void CorrectLine() {
-    ListBox& log = frmMain->List1;
-    if (log.ListCount() == 0 || log.ListIndex() < 0) return;
-    const std::string line = log.List(log.ListIndex());
+    const ListBox& list = frmMain->List1;
+    if (list.ListCount() == 0 || list.ListIndex() < 0) return;
+    const std::string line = list.List(list.ListIndex());
     if (line.starts_with(kNoteMark)) return CorrectNote();
     frmRetQSO->Fill(line);
     Withdraw(*frmRetQSO);
     frmRetQSO->ShowModal();
     // Whatever way the window was closed.
-    LæsOperatører(frmMain->Combo1, gsOperatør.Padded());
+    LæsOperatører(frmMain->Combo1, desk().gsOperatør.Padded());
     SkrivLog();
     frmMain->Text1[kCallField].SetFocus();
 }

@@ -2,7 +2,7 @@
 //
 // Correction of a logged contact. While the window is open the contact counts for nothing: it is withdrawn from points and
 // marks before the window opens, and "&Log" counts it again as it then stands. "&Annuller" does not: the counters come right
-// at the next load. Meant so.
+// at the next load, as operators who look at a contact and leave it have always seen.
 #pragma once
 
 #include "forms.h"
@@ -32,9 +32,8 @@ public:
 
     /// Shows the fields of a contact line.
     void Fill(std::string_view line);
-    /// Sets gbDupe for gsCall, against the lines above the one being corrected. The guard against notes looks at the call of the
-    /// line before, so a note that begins with the call counts as a contact: meant so.
-    void CheckDupQSO();
+    /// Sets gbDupe for gsCall, against the lines above the one being corrected; see CheckDupQSO.
+    void NoteDuplicateAbove();
 
     void StoreState() override;
 
@@ -45,7 +44,7 @@ private:
     void ShowCalculated(std::string_view multiplier);
     void ShowDuplicate();
     bool CheckDate();
-    void Log(const std::string& time);
+    void LogCorrection(const std::string& time);
 };
 
 inline FormSlot<FrmRetQSO> frmRetQSO{"frmRetQSO"};

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "entry/clock.h"
+#include "frame/state.h"
 
 #include "entry/frmMain.h"
 #include "frame/station.h"
 #include "platform.h"
 
 namespace vatro {
-
-std::int16_t gbAutoTid = 0;
 
 namespace {
 
@@ -38,10 +37,10 @@ void TimerTick() {
 void ToggleAutoTime() {
     if (frmMain->mnuIndstillingerKlokken.Ticked()) {
         TimerStop();
-        gbAutoTid = 0;
+        desk().gbAutoTid = 0;
     } else {
         TimerStart();
-        gbAutoTid = 1;
+        desk().gbAutoTid = 1;
     }
 }
 

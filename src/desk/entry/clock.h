@@ -3,12 +3,7 @@
 // The minute clock of the time field.
 #pragma once
 
-#include <cstdint>
-
 namespace vatro {
-
-/// Automatic time, 1 on, 0 off. Not the same as the running clock: that one stands still while the time field is edited.
-extern std::int16_t gbAutoTid;
 
 /// Starts the clock so that its first tick falls 100 ms after the next full minute, and ticks its menu entry.
 void TimerStart();

@@ -17,6 +17,12 @@ FrmB4::FrmB4()
     SetTabOrder({&List1});
 }
 
+void FrmB4::ShowContacts(std::vector<std::string> contacts) {
+    const ListBox::Filling filling(List1);
+    List1.Clear();
+    for (std::string& contact : contacts) List1.AddItem(std::move(contact));
+}
+
 void FrmB4::Form_Load() {
     RestorePlace(*this, kPlace);
 }

@@ -3,6 +3,9 @@
 // The earlier contacts whose call contains what has been typed so far.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "forms.h"
 
 namespace vatro {
@@ -10,8 +13,11 @@ namespace vatro {
 class FrmB4 : public Form {
 public:
     FrmB4();
-    /// Filled by WkdB4; fills the window.
+    /// Fills the window.
     ListBox List1;
+
+    /// Shows these contacts in place of those that were shown; see WkdB4.
+    void ShowContacts(std::vector<std::string> contacts);
 
     void Form_Load() override;
     void StoreState() override;

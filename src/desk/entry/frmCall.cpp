@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/frmCall.h"
+#include "frame/state.h"
 
 #include "entry/frmContestCall.h"
 #include "entry/frmMain.h"
@@ -27,9 +28,9 @@ FrmCall::FrmCall()
     };
     Text1.KeyFilter = [](KeyCode& key) { FilterKey(key, kDigitCharacters); };
     Command2.Click = [this] {
-        gsTelefon = Text1.Text();
-        gsMyCall = cboCall.Text();
-        StoreText(kSettings, "MyCall", gsMyCall);
+        desk().gsTelefon = Text1.Text();
+        desk().gsMyCall = cboCall.Text();
+        StoreText(kSettings, "MyCall", desk().gsMyCall);
         Hide();
     };
     Command1.Click = [this] {
@@ -40,7 +41,7 @@ FrmCall::FrmCall()
 
 void FrmCall::Form_Load() {
     Files& files = platform().files;
-    files.Open(1, PathIn(gsFDLib, "edr.txt"), FileMode::Input);
+    files.Open(1, PathIn(desk().gsFDLib, "edr.txt"), FileMode::Input);
     while (!files.EndOfFile(1)) {
         const std::string line = files.LineInput(1);
         const std::size_t blank = line.find(' ');
@@ -51,13 +52,13 @@ void FrmCall::Form_Load() {
 }
 
 void FrmCall::ShowValues() {
-    cboCall.SetText(gsMyCall);
-    Text1.SetText(gsTelefon);
+    cboCall.SetText(desk().gsMyCall);
+    Text1.SetText(desk().gsTelefon);
 }
 
 void ChangeContestCall() {
     frmCall->ShowModal();
-    frmMain->SetCaption("Vatro " + gsMyCall);
+    frmMain->SetCaption("Vatro " + desk().gsMyCall);
     frmContestCall->visContestCall();
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/frmContestCall.h"
+#include "frame/state.h"
 
 #include "entry/fitted_label.h"
 #include "frame/settings.h"
@@ -19,7 +20,7 @@ FrmContestCall::FrmContestCall()
 }
 
 void FrmContestCall::visContestCall() {
-    ShowNormal(Label1, gsMyCall);
+    ShowNormal(Label1, desk().gsMyCall);
 }
 
 void FrmContestCall::Form_Load() {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/frmNytQSOnr.h"
+#include "frame/state.h"
 
 #include "entry/frmMain.h"
 #include "entry/frmQSOnr.h"
@@ -24,25 +25,25 @@ FrmNytQSOnr::FrmNytQSOnr()
 }
 
 void FrmNytQSOnr::Form_Load() {
-    Text1.SetText(PlainNumber(giQSOnr));
-    UpDown1.SetMin(giQSOnr);
+    Text1.SetText(PlainNumber(desk().log.giQSOnr));
+    UpDown1.SetMin(desk().log.giQSOnr);
 }
 
 void FrmNytQSOnr::Command1_Click() {
     const double newNumber = NumericValue(Text1.Text());
-    if (newNumber < giQSOnr) {
-        MsgBox(std::string("Nyt QSOnummer skal være større end "_t) + PlainNumber(giQSOnr));
-        Text1.SetText(PlainNumber(giQSOnr));
+    if (newNumber < desk().log.giQSOnr) {
+        MsgBox(std::string("Nyt QSOnummer skal være større end "_t) + PlainNumber(desk().log.giQSOnr));
+        Text1.SetText(PlainNumber(desk().log.giQSOnr));
         Text1.SetFocus();
         return;
     }
-    giQSOnr = ToInt16(newNumber);
+    desk().log.giQSOnr = ToInt16(newNumber);
     Hide();
 }
 
 void ChangeNextNumber() {
     frmNytQSOnr->ShowModal();
-    frmMain->Text1[3].SetText(ZeroPadded(giQSOnr, 4));
+    frmMain->Text1[3].SetText(ZeroPadded(desk().log.giQSOnr, 4));
     frmQSOnr->visQSOnr();
 }
 

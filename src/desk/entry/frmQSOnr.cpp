@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "entry/frmQSOnr.h"
+#include "frame/state.h"
 
 #include "codepage.h"
 #include "entry/fitted_label.h"
-#include "entry/validation.h"
-#include "frame/band_mode.h"
 #include "frame/log_file.h"
 #include "frame/settings.h"
+#include "log/ten_logs.h"
 #include "numbers.h"
 
 namespace vatro {
@@ -24,8 +24,8 @@ FrmQSOnr::FrmQSOnr() : Form("frmQSOnr", FormKind::Tool, "Næste QSO nr"_t), labe
 }
 
 void FrmQSOnr::visQSOnr() {
-    std::string text = gsQsoMode;
-    text.append(" ").append(StandardRST()).append(" ").append(ZeroPadded(giQSOnr, 3));
+    std::string text = desk().gsQsoMode;
+    text.append(" ").append(StandardRST(desk().gsQsoMode)).append(" ").append(ZeroPadded(desk().log.giQSOnr, 3));
     ShowNormal(label1, text);
 }
 

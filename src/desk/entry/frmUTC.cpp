@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/frmUTC.h"
+#include "frame/state.h"
 
 #include "entry/frmMain.h"
 #include "frame/settings.h"
@@ -23,8 +24,8 @@ FrmUTC::FrmUTC()
     Command1.isCancel = true;
     SetTabOrder({&Combo1, &Command2, &Command1});
     Command2.Click = [this] {
-        gsUTC = Combo1.Text();
-        StoreText(kSettings, "UTC", gsUTC);
+        desk().gsUTC = Combo1.Text();
+        StoreText(kSettings, "UTC", desk().gsUTC);
         Hide();
     };
     Command1.Click = [this] { Hide(); };
@@ -32,7 +33,7 @@ FrmUTC::FrmUTC()
 
 void FrmUTC::Form_Load() {
     for (int hours = kFirst; hours <= kLast; ++hours) Combo1.AddItem(PlainNumber(hours));
-    Combo1.SetListIndex(ToInt16(NumericValue(gsUTC) - kFirst));
+    Combo1.SetListIndex(ToInt16(NumericValue(desk().gsUTC) - kFirst));
 }
 
 void ChangeUtcOffset() {

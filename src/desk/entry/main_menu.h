@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The menu bar of the entry form. What the entries do stands in frmMain_menu.cpp.
+// The menu bar of the entry form. What the entries do stands in menu_clicks.cpp. The names follow no menu: the entries of "&Indstillinger"
+// and
+// "&Vis" are partly called mnuFunktioner..., as the first version of the program had them there.
 #pragma once
 
 #include <vector>

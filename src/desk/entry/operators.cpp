@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/operators.h"
+#include "frame/state.h"
 
 #include <algorithm>
 
@@ -12,8 +13,6 @@ namespace vatro {
 
 using namespace literals;
 
-FixedText<6> gsOperatør;
-
 namespace {
 
 constexpr std::size_t kNameLength = 6;
@@ -25,10 +24,10 @@ void LæsOperatører(ComboBox& box, std::string_view wanted) {
     Files& files = platform().files;
     try {
         box.Clear();
-        files.Open(1, PathIn(gsFDLib, kFile), FileMode::Input);
+        files.Open(1, PathIn(desk().gsFDLib, kFile), FileMode::Input);
         while (!files.EndOfFile(1)) box.AddItem(files.LineInput(1).substr(0, kNameLength));
         files.Close(1);
-        if (!wanted.empty()) box.SetText(gsOperatør.Padded());
+        if (!wanted.empty()) box.SetText(desk().gsOperatør.Padded());
     } catch (const RunTimeError&) {
         files.Close(1);
         MsgBox("OperatørIndlæsning i fejl."_t);
@@ -37,7 +36,7 @@ void LæsOperatører(ComboBox& box, std::string_view wanted) {
 
 void GemOperatører(const ComboBox& box) {
     Files& files = platform().files;
-    files.Open(1, PathIn(gsFDLib, kFile), FileMode::Output);
+    files.Open(1, PathIn(desk().gsFDLib, kFile), FileMode::Output);
     for (const std::string& name : box.Items()) files.PrintLine(1, name);
     files.Close(1);
 }
@@ -46,11 +45,11 @@ void OperatørTjek(ComboBox& box, bool takeOver) {
     const std::string name = box.Text();
     if (name.empty()) return;
     if (std::find(box.Items().begin(), box.Items().end(), name) == box.Items().end()) box.AddItem(name);
-    if (takeOver) gsOperatør = name;
+    if (takeOver) desk().gsOperatør = name;
 }
 
 void OperatørValgt(const ComboBox& box) {
-    gsOperatør = box.Text();
+    desk().gsOperatør = box.Text();
 }
 
 void OperatørTast(ComboBox& box, KeyCode& KeyAscii) {
@@ -64,10 +63,6 @@ void OperatorFilter(const ComboBox& box, KeyCode& KeyAscii) {
     }
     KeyAscii = UpperKey(KeyAscii);
     if (KeyAscii != kEnter) FilterKey(KeyAscii, kCallCharacters);
-}
-
-void ResetOperator() {
-    gsOperatør = std::string_view{};
 }
 
 }  // namespace vatro

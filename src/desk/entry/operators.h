@@ -8,13 +8,9 @@
 #include <string>
 #include <string_view>
 
-#include "columns.h"
 #include "controls.h"
 
 namespace vatro {
-
-/// The operator at the key: written in every line.
-extern FixedText<6> gsOperatør;
 
 /// Fills the box from operator.txt; a failure gives a message and leaves what was read. If `wanted` is not empty the box
 /// shows gsOperatør.
@@ -36,8 +32,5 @@ void OperatørTast(ComboBox& box, KeyCode& KeyAscii);
 /// What a key becomes in the box: upper case and only the characters of a call. Once the text is longer than six characters every
 /// key is swallowed, so a seventh can be typed: meant so.
 void OperatorFilter(const ComboBox& box, KeyCode& KeyAscii);
-
-/// Nobody at the key, as before the start.
-void ResetOperator();
 
 }  // namespace vatro

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/backup.h"
+#include "frame/state.h"
 
 #include "codepage.h"
 #include "exchange/frmTilFloppy.h"
@@ -12,8 +13,6 @@
 namespace vatro {
 
 using namespace literals;
-
-std::string gsBackupLib;
 
 namespace {
 
@@ -28,7 +27,7 @@ void CopyFile(const std::string& file, const std::string& directory, std::string
     try {
         frmTilFloppy->List1.AddItem(file + " kopieres...");
         frmTilFloppy->Refresh();
-        platform().files.Copy(PathIn(gsLogLib, file), PathIn(directory, file));
+        platform().files.Copy(PathIn(desk().gsLogLib, file), PathIn(directory, file));
         stop = false;
     } catch (const RunTimeError& error) {
         switch (error.Which()) {
@@ -68,28 +67,28 @@ void SetBackupLib() {
     Files& files = platform().files;
     try {
         const std::string file = ChooseMarkerFile("setBackup.txt", "Vælg eller opret Backupbibliotek"_t);
-        gsBackupLib = DirectoryOf(file);
-        if (gsBackupLib != gsLogLib) {
+        desk().gsBackupLib = DirectoryOf(file);
+        if (desk().gsBackupLib != desk().gsLogLib) {
             files.Open(1, file, FileMode::Output);
             files.Close(1);
-            MsgBox("Backupbibliotek sat til: " + gsBackupLib + files.Separator());
+            MsgBox("Backupbibliotek sat til: " + desk().gsBackupLib + files.Separator());
             return;
         }
         MessageBox same;
         same.text = "Backupbibliotek må ikke være det samme som logbiblioteket.\r\nBiblioteket er sættes til: Ikke angivet."_t;
         same.icon = Icon::Information;
         MsgBox(same);
-        gsBackupLib.clear();
+        desk().gsBackupLib.clear();
     } catch (const RunTimeError&) {
-        if (gsBackupLib.empty())
+        if (desk().gsBackupLib.empty())
             MsgBox("Backupbibliotek er ikke angivet. ");
         else
-            MsgBox("Backupbibliotek er beholdt som: " + gsBackupLib + files.Separator());
+            MsgBox("Backupbibliotek er beholdt som: " + desk().gsBackupLib + files.Separator());
     }
 }
 
 void BackUpLogs() {
-    if (gsBackupLib.empty()) {
+    if (desk().gsBackupLib.empty()) {
         MsgBox("Sæt backup bibliotek først."_t);
         return;
     }
@@ -101,7 +100,7 @@ void CopyToDiskette() {
 }
 
 void TilBackup(const std::string& file, bool& stop) {
-    CopyFile(file, gsBackupLib, "Destination ikke fundet.", stop);
+    CopyFile(file, desk().gsBackupLib, "Destination ikke fundet.", stop);
 }
 
 void TilFloppy(const std::string& file, bool& stop) {

@@ -9,9 +9,6 @@
 
 namespace vatro {
 
-/// The backup directory, without a final separator; empty if it is not set.
-extern std::string gsBackupLib;
-
 /// Asks for the backup directory: the one in which the user picks or creates the marker file setBackup.txt, which proves that it
 /// can be written to. The log directory itself is refused and leaves none set. Keeps the old one on Cancel; a marker that cannot
 /// be written leaves the new one set and tells it as kept: meant so.

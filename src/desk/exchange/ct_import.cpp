@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/ct_import.h"
+#include "frame/state.h"
 
 #include "call/call_analysis.h"
 #include "codepage.h"
 #include "datetime.h"
-#include "entry/frmMain.h"
+#include "entry/next_contact.h"
 #include "entry/validation.h"
 #include "frame/band_mode.h"
 #include "frame/log_file.h"
 #include "log/contact_line.h"
-#include "log/duplicates.h"
 #include "numbers.h"
 #include "platform.h"
-#include "score/stations.h"
+#include "tables/worked.h"
 
 namespace vatro {
 
@@ -33,7 +33,7 @@ constexpr Field kCtNumberReceived{53, 4};
 
 /// The report received in the columns of a log of the current mode: two figures in SSB, three in CW.
 std::string ReportReceived(std::string_view line) {
-    if (gsMode == "SSB") return LeftAligned(kCtReportReceived.TrimmedOf(line), 2);
+    if (desk().gsMode == "SSB") return LeftAligned(kCtReportReceived.TrimmedOf(line), 2);
     return LeftAligned(kCtReportReceived.Of(line), kReportReceived.width);
 }
 
@@ -85,9 +85,9 @@ void ImporterCt(const std::string& path) {
     std::string mode;
     if (LogExists(path, band, mode)) return;
 
-    gsBand = band;
-    gsMode = mode == "SSB" ? "SSB" : "CW";
-    gsQsoMode = mode;
+    desk().gsBand = band;
+    desk().gsMode = mode == "SSB" ? "SSB" : "CW";
+    desk().gsQsoMode = mode;
     SetToolbar();
     ClearLog();
 
@@ -112,22 +112,21 @@ void ImportQSO(std::string_view line) {
     contact.operatorCall = "CT-IMP";
     contact.time = LeftAligned(kCtTime.Of(line), 2) + ":" + LeftAligned(kCtMinute.Of(line), 2);
     contact.call = kCtCall.TrimmedOf(line);
-    gsCall = contact.call;
-    StripCall(gsCall);
-    CheckDupe();
+    desk().gsCall = StripCall(contact.call);
+    NoteDuplicate();
     // What CT says of the report sent is not asked.
-    contact.reportSent = gsMode == "SSB" ? "59" : "599";
+    contact.reportSent = desk().gsMode == "SSB" ? "59" : "599";
     const double numberSent = NumericValue(kCtNumberSent.Of(line));
     contact.numberSent = ZeroPadded(numberSent, 4);
-    giQSOnr = ToInt16(numberSent);
+    desk().log.giQSOnr = ToInt16(numberSent);
     contact.reportReceived = ReportReceived(line);
     contact.numberReceived = ZeroPadded(NumericValue(kCtNumberReceived.Of(line)), 4);
-    // The first characters as they stand: as at a load, a call with "/P" is not stripped for the society's list.
-    std::string baseCall = contact.call.substr(0, kEdrCall);
-    RateContact(contact, baseCall);
-    contact.qsoMode = gsMode;
+    // The call as it stands: as at a load, a call with "/P" is not stripped for the society's list.
+    contact.multiplier = RateContact(contact.call, contact.call);
+    contact.point = desk().giQSOPoint;
+    contact.qsoMode = desk().gsMode;
     contact.date = DateOf(line);
-    RecordContact(QsoLine(contact, gsMode));
+    RecordContact(QsoLine(contact, desk().gsMode));
 }
 
 }  // namespace vatro

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/equipment.h"
+#include "frame/state.h"
 
 #include "frame/settings.h"
 
 namespace vatro {
-
-std::array<std::string, kEquipmentBands.size()> rigs;
-std::array<std::string, kEquipmentBands.size()> antennas;
 
 namespace {
 
@@ -21,14 +19,14 @@ std::string Nøgle(std::string_view kind, std::size_t band) {
 
 void HentUdstyr() {
     for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
-        rigs[i] = ReadText(kSection, Nøgle("Rig", i));
-        antennas[i] = ReadText(kSection, Nøgle("Ant", i));
+        desk().rigs[i] = ReadText(kSection, Nøgle("Rig", i));
+        desk().antennas[i] = ReadText(kSection, Nøgle("Ant", i));
     }
 }
 
 void GemUdstyr() {
-    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, Nøgle("Rig", i), rigs[i]);
-    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, Nøgle("Ant", i), antennas[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, Nøgle("Rig", i), desk().rigs[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, Nøgle("Ant", i), desk().antennas[i]);
 }
 
 FormRigAnt::FormRigAnt()
@@ -55,15 +53,15 @@ FormRigAnt::FormRigAnt()
 
 void FormRigAnt::Form_Load() {
     for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
-        TextRig[i].SetText(rigs[i]);
-        TextAnt[i].SetText(antennas[i]);
+        TextRig[i].SetText(desk().rigs[i]);
+        TextAnt[i].SetText(desk().antennas[i]);
     }
 }
 
 void FormRigAnt::CommandOK_Click() {
     for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
-        antennas[i] = TextAnt[i].Text();
-        rigs[i] = TextRig[i].Text();
+        desk().antennas[i] = TextAnt[i].Text();
+        desk().rigs[i] = TextRig[i].Text();
     }
     GemUdstyr();
     Unload();

@@ -10,13 +10,6 @@
 
 namespace vatro {
 
-/// Bands of the equipment, in the order of the form and of the settings.
-inline constexpr std::array<std::string_view, 5> kEquipmentBands{"80", "40", "20", "15", "10"};
-
-/// By the band's place in kEquipmentBands. Read at the start; changed by FormRigAnt.
-extern std::array<std::string, kEquipmentBands.size()> rigs;
-extern std::array<std::string, kEquipmentBands.size()> antennas;
-
 /// Reads the ten keys of section "Equipment".
 void HentUdstyr();
 /// Writes them: all radios, then all antennas.

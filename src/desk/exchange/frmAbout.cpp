@@ -2,7 +2,7 @@
 #include "exchange/frmAbout.h"
 
 #include "codepage.h"
-#include "frame/start.h"
+#include "frame/version.h"
 
 namespace vatro {
 

@@ -19,9 +19,7 @@ constexpr Field kLogged{29, 15};
 constexpr std::string_view kDashes = "------------";
 
 std::string ContactItem(const LogId& log, std::string_view line) {
-    std::string basis(kCall.TrimmedOf(line));
-    StripCall(basis);
-    std::string item = LeftAligned(basis, kBasis.width);
+    std::string item = LeftAligned(StripCall(kCall.TrimmedOf(line)), kBasis.width);
     item.append(log.band).append(" ");
     item.append(LeftAligned(log.mode, 4));
     item.append(LeftAligned(kNumberSent.Of(line), kNumberSent.width)).append(" ");
@@ -30,9 +28,7 @@ std::string ContactItem(const LogId& log, std::string_view line) {
 }
 
 std::string BaseCallOf(std::string_view item) {
-    std::string call(kBasis.TrimmedOf(item));
-    StripCall(call);
-    return call;
+    return StripCall(kBasis.TrimmedOf(item));
 }
 
 std::string Divider(std::string_view call) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/frmVisTekst.h"
+#include "frame/state.h"
 
 #include "codepage.h"
 #include "frame/station.h"
@@ -44,13 +45,13 @@ FrmVisTekst::FrmVisTekst()
     cmdLuk.isCancel = true;
     SetTabOrder({&Text1, &chkVisTekst, &cmdLuk});
     cmdLuk.Click = [this] {
-        gbVisInfo = chkVisTekst.Value();
+        desk().gbVisInfo = chkVisTekst.Value();
         Unload();
     };
 }
 
 void FrmVisTekst::Form_Load() {
-    chkVisTekst.SetValue(gbVisInfo);
+    chkVisTekst.SetValue(desk().gbVisInfo);
 }
 
 void VisStartInfo() {

@@ -1,66 +1,63 @@
 // SPDX-License-Identifier: MIT
 #include "frame/log_file.h"
 
-#include "country/lookup.h"
+#include "codepage.h"
 #include "entry/frmMain.h"
-#include "frame/band_mode.h"
+#include "frame/state.h"
 #include "frame/station.h"
 #include "log/contact_line.h"
-#include "log/duplicates.h"
 #include "numbers.h"
 #include "platform.h"
 #include "program.h"
-#include "score/points.h"
-#include "score/stations.h"
-#include "tables/unknown.h"
+#include "tables/worked.h"
 
 namespace vatro {
 
-std::int16_t giQSOnr = 0;
-std::int32_t glPoint = 0;
+using namespace literals;
 
 namespace {
 
 void ShowLog() {
-    frmMain->sbStatusBar.SetPanel(1, "Vatro " + gsBand + " " + gsMode);
+    frmMain->sbStatusBar.SetPanel(1, "Vatro " + desk().gsBand + " " + desk().gsMode);
     ShowScore();
+}
+
+void SelectLastLine() {
+    frmMain->List1.SetListIndex(frmMain->List1.ListCount() - 1);
 }
 
 /// Takes a contact line into marks and counters.
 void CountLine(std::string_view line) {
     const std::string_view multiplier = kMultiplier.Of(line);
-    if (!multiplier.empty() && multiplier.front() != ' ') {
-        std::string newMultiplier;
-        LandWkd(multiplier, newMultiplier, MarkAction::Mark);
-    }
-    glPoint = ToInt32(glPoint + NumericValue(kPoint.Of(line)));
-    // The first six columns of the call as they stand: a call with "/P" is not stripped here, on purpose.
-    std::string sixCharacters(kCall.Of(line).substr(0, kEdrCall));
-    EDRstnWkd(sixCharacters, MarkAction::Mark);
-    giQSOnr = ToInt16(NumericValue(kNumberSent.Of(line)));
+    if (!multiplier.empty() && multiplier.front() != ' ') NoteCountry(multiplier, MarkAction::Mark);
+    desk().log.AddPoints(NumericValue(kPoint.Of(line)));
+    // The first six columns of the call as they stand. A call with "/P" is not stripped, so that a loaded log marks other stations than
+    // the same contacts did when they were logged; the list of stations worked has always been so after a restart.
+    NoteStation(kCall.Of(line).substr(0, kEdrCall), MarkAction::Mark);
+    desk().log.giQSOnr = ToInt16(NumericValue(kNumberSent.Of(line)));
 }
 
 }  // namespace
 
 std::string LogPath(std::string_view band, std::string_view mode) {
-    return PathIn(gsLogLib, LogName(band, mode));
+    return PathIn(desk().gsLogLib, LogName(band, mode));
 }
 
 std::string CurrentLogPath() {
-    return LogPath(gsBand, gsMode);
+    return LogPath(desk().gsBand, desk().gsMode);
 }
 
 void IndlæsLogfil() {
     Files& files = platform().files;
-    ListBox& log = frmMain->List1;
-    const ListBox::Filling filling(log);
+    const ListBox::Filling filling(frmMain->List1);
     // Before the file is opened, so that the bar is right even if it cannot be read.
     ClearLog();
+    Log& log = desk().log;
     try {
         files.Open(1, CurrentLogPath(), FileMode::Input);
         while (!files.EndOfFile(1)) {
-            log.AddItem(files.LineInput(1));
-            const std::string& line = log.Items().back();
+            log.Append(files.LineInput(1));
+            const std::string& line = log.Lines().back();
             if (!IsNote(line)) CountLine(line);
         }
         files.Close(1);
@@ -68,24 +65,35 @@ void IndlæsLogfil() {
         files.Close(1);
         return;
     }
-    log.SetListIndex(log.ListCount() - 1);
+    SelectLastLine();
     ShowLog();
 }
 
 void ClearLog() {
-    frmMain->List1.Clear();
-    ResetLande();
-    ResetEDR();
-    giQSOnr = 0;
-    glPoint = 0;
-    giMult = 0;
+    // The form that shows it: it is loaded by this if it is not.
+    frmMain.Load();
+    Log& log = desk().log;
+    log.Clear();
+    ClearWorked();
+    log.giQSOnr = 0;
+    log.glPoint = 0;
     ShowLog();
+}
+
+void AppendLog(std::string_view line) {
+    AppendLine(LogName(desk().gsBand, desk().gsMode), line);
+}
+
+void LogLine(const std::string& line) {
+    AppendLog(line);
+    desk().log.Append(line);
+    SelectLastLine();
 }
 
 void AppendLine(std::string_view file, std::string_view line) {
     Files& files = platform().files;
     try {
-        files.Open(1, PathIn(gsLogLib, file), FileMode::Append);
+        files.Open(1, PathIn(desk().gsLogLib, file), FileMode::Append);
         files.PrintLine(1, line);
         files.Close(1);
     } catch (const RunTimeError&) {
@@ -94,40 +102,28 @@ void AppendLine(std::string_view file, std::string_view line) {
     }
 }
 
-void AppendLog(std::string_view line) {
-    AppendLine(LogName(gsBand, gsMode), line);
-}
-
-void LogLine(const std::string& line) {
-    AppendLog(line);
-    ListBox& log = frmMain->List1;
-    log.AddItem(line);
-    log.SetListIndex(log.ListCount() - 1);
-}
-
 void SkrivLog() {
     Files& files = platform().files;
-    const std::string copy = PathIn(gsLogLib, "FDkopi.txt");
+    const std::string copy = PathIn(desk().gsLogLib, "FDkopi.txt");
     files.Open(1, copy, FileMode::Output);
-    for (const std::string& line : frmMain->List1.Items()) files.PrintLine(1, line);
+    for (const std::string& line : desk().log.Lines()) files.PrintLine(1, line);
     files.Close(1);
     files.Replace(copy, CurrentLogPath());
 }
 
 void ShowScore() {
     StatusBar& bar = frmMain->sbStatusBar;
-    bar.SetPanel(2, PlainNumber(glPoint));
-    bar.SetPanel(4, PlainNumber(giMult));
-    bar.SetPanel(6, PlainNumber(ToInt32(static_cast<double>(giMult) * glPoint)));
+    const Log& log = desk().log;
+    bar.SetPanel(2, PlainNumber(log.glPoint));
+    bar.SetPanel(4, PlainNumber(desk().giMult));
+    bar.SetPanel(6, PlainNumber(ToInt32(static_cast<double>(desk().giMult) * log.glPoint)));
 }
 
-void ResetLog() {
-    giQSOnr = 0;
-    glPoint = 0;
-    giMult = 0;
-    giQSOPoint = 0;
-    gbDupe = false;
-    gsCall.clear();
+void TjekLogLib() {
+    MsgBox(
+        "Jeg kan ikke finde Logbiblioteket.\r\n\r\n"
+        "Det er enten ikke defineret endnu eller også er det blevet fjernet, døbt om eller flyttet. Vatro standses.\r\n\r\n"
+        "Start Vatro igen og angiv logbibliotek ved at vælge 'Filer' | 'Sæt logbibliotek' og log så qso'en igen."_t);
 }
 
 }  // namespace vatro

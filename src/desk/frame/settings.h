@@ -13,6 +13,8 @@ namespace vatro {
 class Form;
 
 inline constexpr std::string_view kSettings = "Settings";
+/// Where the main form stood; written by every regular end.
+inline constexpr std::string_view kMainLeftKey = "MainLeft";
 
 /// The text as it is stored.
 std::string ReadText(std::string_view section, std::string_view key, std::string_view standard = {});

@@ -1,29 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "frame/start.h"
+#include "frame/state.h"
 
 #include <exception>
 #include <functional>
 #include <vector>
 
 #include "codepage.h"
-#include "country/tables.h"
 #include "entry/frmMain.h"
 #include "entry/operators.h"
-#include "exchange/backup.h"
 #include "exchange/equipment.h"
-#include "frame/band_mode.h"
 #include "frame/frmSplash.h"
-#include "frame/log_file.h"
 #include "frame/settings.h"
 #include "frame/station.h"
 #include "keyer/keyer_settings.h"
 #include "keyer/texts.h"
 #include "morse/synthesis.h"
-#include "numbers.h"
 #include "page.h"
 #include "platform.h"
 #include "program.h"
-#include "score/stations.h"
+#include "tables/load_tables.h"
 
 namespace vatro {
 
@@ -32,13 +28,13 @@ using namespace literals;
 namespace {
 
 void ReadSettings() {
-    gsUTC = ReadText(kSettings, "UTC", "-2");
-    gsMyCall = ReadText(kSettings, "MyCall");
-    gsFDLib = ReadText(kSettings, "gsFDLib");
-    gsKlasse = ReadText(kSettings, "gsKlasse", "A");
-    gsTelefon = ReadText(kSettings, "gsTelefon", "12345678");
-    gsOperatør = ReadText(kSettings, "LastOP");
-    gbVisInfo = ReadFlag(kSettings, "VisInfo2002", true);
+    desk().gsUTC = ReadText(kSettings, "UTC", "-2");
+    desk().gsMyCall = ReadText(kSettings, "MyCall");
+    desk().gsFDLib = ReadText(kSettings, "gsFDLib");
+    desk().gsKlasse = ReadText(kSettings, "gsKlasse", "A");
+    desk().gsTelefon = ReadText(kSettings, "gsTelefon", "12345678");
+    desk().gsOperatør = ReadText(kSettings, "LastOP");
+    desk().gbVisInfo = ReadFlag(kSettings, "VisInfo2002", true);
 }
 
 /// As far as it can be done.
@@ -52,23 +48,10 @@ void Try(const std::function<void()>& step) noexcept {
 
 }  // namespace
 
-std::string VersionText() {
-    const Version& version = platform().version;
-    return PlainNumber(version.major) + "." + PlainNumber(version.minor) + "." + PlainNumber(version.revision);
-}
-
 void ResetAll() {
-    ResetStation();
-    ResetBandMode();
-    ResetLog();
-    ResetTables();
-    ClearStations();
-    ResetOperator();
+    ResetDesk();
     NulstilSyntese();
     NulstilCWTekster();
-    gsBackupLib.clear();
-    gbAutoTid = 0;
-    gbVisLand = false;
 }
 
 void ShowAlreadyRunning() {
@@ -80,7 +63,7 @@ void ShowAlreadyRunning() {
 
 void StoreRunningProgram() noexcept {
     auto* main = static_cast<FrmMain*>(frmMain.Peek());
-    if (main == nullptr || !main->Up()) return;
+    if (main == nullptr || !main->up) return;
     const SettingsBatch together(platform().settings);
     // Not while another handler has its file open.
     Try([main] { GemOperatører(main->Combo1); });
@@ -106,10 +89,10 @@ void StartProgram() {
     frmSplash->Show();
     frmSplash->Refresh();
 
-    if (gsFDLib.empty()) {
-        gsFDLib = platform().files.CurrentDirectory();
+    if (desk().gsFDLib.empty()) {
+        desk().gsFDLib = platform().files.CurrentDirectory();
         // Another key than the one read above, which gets the value at a regular end: both are meant.
-        StoreText(kSettings, "FDLib", gsFDLib);
+        StoreText(kSettings, "FDLib", desk().gsFDLib);
     }
 
     frmSplash->ShowStage("Indlæser Lande"_t);

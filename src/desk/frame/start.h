@@ -4,8 +4,6 @@
 // brings up the main form and returns; from then on everything happens in handlers of events.
 #pragma once
 
-#include <string>
-
 namespace vatro {
 
 /// What the program holds in memory becomes what it is before the first start; a run begins with nothing of an earlier one.
@@ -23,8 +21,5 @@ void ShowAlreadyRunning();
 /// any moment at which the logic waits for the front; asks nothing of the front and never fails. Before the main form is up nothing
 /// is stored, as at every early end. While a handler has file 1 open, the operators are left out.
 void StoreRunningProgram() noexcept;
-
-/// Major, minor and revision, joined by ".".
-std::string VersionText();
 
 }  // namespace vatro

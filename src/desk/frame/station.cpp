@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "frame/station.h"
+#include "frame/state.h"
 
 #include "numbers.h"
 #include "platform.h"
 
 namespace vatro {
 
-std::string gsFDLib;
-std::string gsMyCall;
-std::string gsKlasse;
-std::string gsTelefon;
-std::string gsUTC;
-bool gbVisInfo = false;
-
 DateTime UtcNow() {
-    return AddHours(platform().clock.Now(), ToInt16(ToNumber(gsUTC)));
+    return AddHours(platform().clock.Now(), ToInt16(ToNumber(desk().gsUTC)));
 }
 
 std::string UtcTimeText() {
@@ -44,15 +38,6 @@ std::string ChooseMarkerFile(std::string_view name, std::string_view title) {
     dialog.overwritePrompt = true;
     dialog.markerFile = true;
     return platform().dialogs.SaveFile(dialog);
-}
-
-void ResetStation() {
-    gsFDLib.clear();
-    gsMyCall.clear();
-    gsKlasse.clear();
-    gsTelefon.clear();
-    gsUTC.clear();
-    gbVisInfo = false;
 }
 
 }  // namespace vatro

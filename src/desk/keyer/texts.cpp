@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/texts.h"
+#include "frame/state.h"
 
 #include <algorithm>
 #include <optional>
@@ -41,7 +42,7 @@ std::optional<std::string_view> Værdi(char kode) {
         case 'N':
             return NumericValue(gsCWNummer) < kFireCifre ? Right(gsCWNummer, kTreTegn) : gsCWNummer;
         case 'R':
-            return gsMyCall;
+            return desk().gsMyCall;
         default:
             return std::nullopt;
     }

@@ -7,6 +7,7 @@
 
 namespace vatro {
 
+class ErrorList;
 class LineSink;
 
 /// Makes the list, with the main form disabled meanwhile. gsCall and giQSOPoint are left as the last contact checked has them;
@@ -14,6 +15,6 @@ class LineSink;
 void MakeErrorList();
 
 /// The section of one log. A log that is missing or empty is told; so is any other failure, which ends the section there.
-void DanFejlList(LineSink& list, const LogId& log);
+void DanFejlList(ErrorList& checker, LineSink& list, const LogId& log);
 
 }  // namespace vatro

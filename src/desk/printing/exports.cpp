@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "frame/band_mode.h"
+#include "frame/log_file.h"
 #include "papers/adif.h"
 #include "papers/html_page.h"
 #include "papers/layout.h"
@@ -15,7 +15,7 @@ namespace vatro {
 namespace {
 
 /// The log, or nothing if it cannot be opened.
-std::optional<FileSource> TryToOpen(const LogId& log) {
+std::optional<FileLines> TryToOpen(const LogId& log) {
     try {
         return OpenLog(log);
     } catch (const RunTimeError&) {
@@ -39,8 +39,7 @@ void MakeHtmlPage() {
     WriteHtmlTop(page, context);
     ShowProgress("Dan html");
     for (const LogId& log : kPaperOrder) DanHtm(page, log);
-    LogFiles logs;
-    DanHtmSummary(page, context, TallyLogs(logs, context.call));
+    DanHtmSummary(page, context, CurrentTally());
     WriteHtmlEnd(page);
     ClosePaper();
 }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "printing/paper_files.h"
 
-#include "exchange/equipment.h"
-#include "frame/band_mode.h"
 #include "frame/log_file.h"
-#include "frame/start.h"
+#include "frame/state.h"
 #include "frame/station.h"
+#include "frame/version.h"
 #include "platform.h"
 
 namespace vatro {
@@ -16,28 +15,34 @@ namespace {
 std::array<Equipment, kBandCount> CurrentEquipment() {
     static_assert(kEquipmentBands.size() == kBandCount);
     std::array<Equipment, kBandCount> equipment;
-    for (std::size_t i = 0; i < kBandCount; ++i) equipment[i] = {rigs[kBandCount - 1 - i], antennas[kBandCount - 1 - i]};
+    for (std::size_t i = 0; i < kBandCount; ++i)
+        equipment[i] = {desk().rigs[kBandCount - 1 - i], desk().antennas[kBandCount - 1 - i]};
     return equipment;
 }
 
 }  // namespace
 
 PaperContext CurrentPaperContext() {
-    return {gsMyCall, gsKlasse, gsTelefon, CurrentEquipment(), platform().clock.Now(), VersionText()};
+    return {desk().gsMyCall, desk().gsKlasse, desk().gsTelefon, CurrentEquipment(), platform().clock.Now(), VersionText()};
 }
 
-FileSource OpenLog(const LogId& log) {
+Tally CurrentTally() {
+    LogFiles logs;
+    return TallyLogs(logs, desk().stations, desk().gsMyCall);
+}
+
+FileLines OpenLog(const LogId& log) {
     platform().files.Open(kLogFile, LogPath(log.band, log.mode), FileMode::Input);
     return {platform().files, kLogFile};
 }
 
-FileSource OpenInLogLibrary(std::string_view name) {
-    platform().files.Open(kLogFile, PathIn(gsLogLib, name), FileMode::Input);
+FileLines OpenInLogLibrary(std::string_view name) {
+    platform().files.Open(kLogFile, PathIn(desk().gsLogLib, name), FileMode::Input);
     return {platform().files, kLogFile};
 }
 
 FileSink OpenPaper(std::string_view name) {
-    platform().files.Open(kPaperFile, PathIn(gsLogLib, name), FileMode::Output);
+    platform().files.Open(kPaperFile, PathIn(desk().gsLogLib, name), FileMode::Output);
     return {platform().files, kPaperFile};
 }
 

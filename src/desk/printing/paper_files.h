@@ -10,6 +10,7 @@
 #include "file_lines.h"
 #include "papers/context.h"
 #include "papers/logs.h"
+#include "papers/summary.h"
 
 namespace vatro {
 
@@ -17,13 +18,15 @@ namespace vatro {
 inline constexpr int kLogFile = 1;
 inline constexpr int kPaperFile = 2;
 
-/// What a paper made now tells of the station. The only place in which papers read the state of the program.
+/// What a paper made now tells of the station.
 PaperContext CurrentPaperContext();
+/// Counts the log files for a summary made now.
+Tally CurrentTally();
 
 /// Opens a log for reading. Fails as Files::Open does.
-FileSource OpenLog(const LogId& log);
+FileLines OpenLog(const LogId& log);
 /// Opens a file of the log directory for reading, under the number of the logs.
-FileSource OpenInLogLibrary(std::string_view name);
+FileLines OpenInLogLibrary(std::string_view name);
 /// Opens a file of the log directory for a paper, which replaces it. Fails as Files::Open does.
 FileSink OpenPaper(std::string_view name);
 
@@ -42,7 +45,7 @@ public:
     void Close() override { CloseLog(); }
 
 private:
-    std::optional<FileSource> source_;
+    std::optional<FileLines> source_;
 };
 
 }  // namespace vatro

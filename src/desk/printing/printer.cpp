@@ -40,7 +40,7 @@ void PrintLog(PageSurface& surface, const LogId& log) {
     SurfacePages pages(surface);
     bool open = false;
     try {
-        FileSource lines = OpenLog(log);
+        FileLines lines = OpenLog(log);
         open = true;
         PrintHoved(pages, context, log.band, log.mode);
         PrintKrop(lines, pages, context, log);
@@ -67,8 +67,7 @@ void PrintSummary(PageSurface& surface) {
     AddProgress("Summary");
     const PaperContext context = CurrentPaperContext();
     SurfacePages pages(surface);
-    LogFiles logs;
-    const Tally tally = TallyLogs(logs, context.call);
+    const Tally tally = CurrentTally();
     PrintHoved(pages, context, "Summary", {});
     PrintSheet(pages, context, tally);
     PrintFod(pages, context);
@@ -81,7 +80,7 @@ void PrintUkendt(PageSurface& surface) {
     SurfacePages pages(surface);
     bool open = false;
     try {
-        FileSource lines = OpenInLogLibrary("ukendt.txt");
+        FileLines lines = OpenInLogLibrary("ukendt.txt");
         open = true;
         PrintHoved(pages, context, "ukendt", {});
         PrintUnknownLines(lines, pages, context);

@@ -22,7 +22,7 @@ void Danlog(const LogId& log) {
     const PaperContext context = CurrentPaperContext();
     try {
         // The log first: without one an earlier sheet stays as it is.
-        FileSource lines = OpenLog(log);
+        FileLines lines = OpenLog(log);
         FileSink sheet = OpenPaper(LogSheetName(log));
         DanHoved(sheet, context, log.band, log.mode);
         DanKrop(lines, sheet, context, log);
@@ -48,8 +48,7 @@ void DanSummary() {
     ShowProgress(kMakeTitle);
     AddProgress("Summary");
     const PaperContext context = CurrentPaperContext();
-    LogFiles logs;
-    const Tally tally = TallyLogs(logs, context.call);
+    const Tally tally = CurrentTally();
     FileSink sheet = OpenPaper("Summary.txt");
     WriteSummary(sheet, context, tally);
     ClosePaper();

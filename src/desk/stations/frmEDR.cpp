@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "stations/frmEDR.h"
+#include "frame/state.h"
 
 #include "codepage.h"
 #include "frame/settings.h"
@@ -48,8 +49,8 @@ void VisEDRstns(bool worked) {
     frmEDR->List1.Clear();
     frmEDR->SetCaption(worked ? "Kørte EDR stationer"_t : "Ikke kørte EDR stationer"_t);
     frmEDR->Show();
-    for (int i = 1; i <= StationsInUse(); ++i) {
-        const EDRRec& station = EDRstn[static_cast<std::size_t>(i)];
+    for (int i = 1; i <= desk().stations.StationsInUse(); ++i) {
+        const EDRRec& station = desk().stations.EDRstn[static_cast<std::size_t>(i)];
         frmEDR->List1.AddItem(station.Wkd == worked ? std::string(station.Linje.Padded().substr(0, kEdrCall)) : "________");
     }
 }

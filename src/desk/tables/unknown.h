@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The worked marks of the countries as a whole, and ukendt.txt, in which contacts of unknown prefix are collected for later
+// What the program does about an unknown prefix: ukendt.txt, in which contacts of unknown prefix are collected for later
 // care. The file is only ever appended to:
 //
 //    1-3   band
@@ -11,9 +11,6 @@
 #include <string_view>
 
 namespace vatro {
-
-/// Clears the worked marks of all countries. giMult is the caller's.
-void ResetLande();
 
 /// Appends a contact line to ukendt.txt in the log directory. A failure to write ends the program after the message of
 /// the log directory that has gone, as it does for the log.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "call/call_analysis.h"
 
-#include <array>
 #include <initializer_list>
 
 #include "columns.h"
@@ -22,74 +21,67 @@ bool HasDigitSuffix(std::string_view call) {
     return call.size() >= 2 && kDigitSuffixes.find(Right(call, 2)) != std::string_view::npos;
 }
 
-/// Cuts the ending off if the call has it.
-bool CutEnding(std::string& call, std::string_view ending) {
-    if (!call.ends_with(ending)) return false;
-    call.resize(call.size() - ending.size());
-    return true;
-}
-
 /// One pass over the endings, each test on what the tests before it have left.
-bool CutEndings(std::string& call, std::initializer_list<std::string_view> endings) {
-    bool cut = false;
-    for (const std::string_view ending : endings) cut |= CutEnding(call, ending);
-    return cut;
+std::string_view WithoutEndings(std::string_view call, std::initializer_list<std::string_view> endings) {
+    for (const std::string_view ending : endings)
+        if (call.ends_with(ending)) call.remove_suffix(ending.size());
+    return call;
 }
 
-bool StripOnce(std::string& call) {
-    bool cut = CutEnding(call, "/");
-    if (HasDigitSuffix(call)) {
-        call.resize(call.size() - 2);
-        cut = true;
-    }
-    cut |= CutEndings(call, {"/P", "/M", "/A", "/MM", "/AM", "/QRP", "/QRPP"});
-    return cut;
+std::string_view StrippedOnce(std::string_view call) {
+    call = WithoutEndings(call, {"/"});
+    if (HasDigitSuffix(call)) call.remove_suffix(2);
+    return WithoutEndings(call, {"/P", "/M", "/A", "/MM", "/AM", "/QRP", "/QRPP"});
+}
+
+/// Other endings than those of the base call, on purpose: no "/AM", and a numbered suffix counts only at the very end.
+std::string_view WithoutPortableOnce(std::string_view call) {
+    return WithoutEndings(call, {"/P", "/M", "/A", "/MM", "/QRP", "/QRPP", "/"});
+}
+
+/// What is left when nothing more can be cut off.
+template <class Pass>
+std::string_view UntilNothingGoes(std::string_view call, Pass pass) {
+    for (std::string_view shorter = pass(call); shorter.size() != call.size(); shorter = pass(call)) call = shorter;
+    return call;
 }
 
 }  // namespace
 
-void StripCall(std::string& call) {
-    if (call.find('/') == std::string::npos) return;
-    while (StripOnce(call)) {
-    }
-    const std::size_t slash = call.find('/');
-    if (slash == std::string::npos) return;
+std::string StripCall(std::string_view call) {
+    if (call.find('/') == std::string_view::npos) return std::string(call);
+    const std::string_view base = UntilNothingGoes(call, StrippedOnce);
+    const std::size_t slash = base.find('/');
+    if (slash == std::string_view::npos) return std::string(base);
     // The longer side is the base call; the text behind the slash wins where neither is.
-    const std::size_t half = (call.size() + 1) / 2;
-    if (half >= slash + 1)
-        call.erase(0, slash + 1);
-    else
-        call.erase(slash);
+    const std::size_t half = (base.size() + 1) / 2;
+    return std::string(half >= slash + 1 ? base.substr(slash + 1) : base.substr(0, slash));
 }
 
-void MoveDigitSuffix(std::string& call) {
-    if (!HasDigitSuffix(call)) return;
-    const char digit = call.back();
-    call.resize(call.size() - 2);
-    for (std::size_t i = call.size(); i-- > 0;)
-        if (i + 1 < call.size() && IsDecimalDigit(call[i]) && !IsDecimalDigit(call[i + 1])) call[i] = digit;
-}
-
-void findPfxCall(std::string_view call, std::string& prefixText) {
-    prefixText = call;
-    if (call.size() < 2 || call.find('/') == std::string_view::npos) return;
-    MoveDigitSuffix(prefixText);
-    // Other endings than those of the base call, on purpose: no "/AM", and a numbered suffix counts only at the very end.
-    while (CutEndings(prefixText, {"/P", "/M", "/A", "/MM", "/QRP", "/QRPP", "/"})) {
-    }
-    const std::size_t slash = prefixText.find('/');
-    if (slash == std::string::npos) return;
-    if (const std::size_t second = prefixText.find('/', slash + 1); second != std::string::npos) {
+std::string findPfxCall(std::string_view call) {
+    if (call.size() < 2 || call.find('/') == std::string_view::npos) return std::string(call);
+    const std::string moved = MoveDigitSuffix(call);
+    const std::string_view text = UntilNothingGoes(moved, WithoutPortableOnce);
+    const std::size_t slash = text.find('/');
+    if (slash == std::string_view::npos) return std::string(text);
+    if (const std::size_t second = text.find('/', slash + 1); second != std::string_view::npos) {
         // Three pieces: the middle one goes, and whatever stands behind a third slash.
-        const std::size_t third = prefixText.find('/', second + 1);
-        prefixText = prefixText.substr(0, slash) + prefixText.substr(second, third == std::string::npos ? third : third - second);
-        return;
+        const std::size_t third = text.find('/', second + 1);
+        return std::string(text.substr(0, slash)).append(text.substr(second, third == std::string_view::npos ? third : third - second));
     }
     // The shorter side carries the country's prefix; the text before the slash wins where neither is.
-    if (static_cast<double>(prefixText.size() + 1) / 2 < static_cast<double>(slash + 1))
-        prefixText.erase(0, slash + 1);
-    else
-        prefixText.erase(slash);
+    const bool secondShorter = static_cast<double>(text.size() + 1) / 2 < static_cast<double>(slash + 1);
+    return std::string(secondShorter ? text.substr(slash + 1) : text.substr(0, slash));
+}
+
+std::string MoveDigitSuffix(std::string_view call) {
+    std::string moved(call);
+    if (!HasDigitSuffix(call)) return moved;
+    const char digit = moved.back();
+    moved.resize(moved.size() - 2);
+    for (std::size_t i = moved.size(); i-- > 0;)
+        if (i + 1 < moved.size() && IsDecimalDigit(moved[i]) && !IsDecimalDigit(moved[i + 1])) moved[i] = digit;
+    return moved;
 }
 
 }  // namespace vatro

@@ -10,15 +10,15 @@
 
 namespace vatro {
 
-/// Reduces the call in place to the base call. Calls are upper case; nothing is folded.
-void StripCall(std::string& call);
+/// The base call. Calls are upper case; nothing is folded.
+std::string StripCall(std::string_view call);
 
-/// Writes the text that decides the country to `prefixText`.
-void findPfxCall(std::string_view call, std::string& prefixText);
+/// The text that decides the country.
+std::string findPfxCall(std::string_view call);
 
-/// If the call ends in a numbered suffix such as "/3", cuts it off and puts its figure into the call: DL1ABC/3 becomes
-/// DL3ABC. Every digit before a non-digit is replaced, so 2E0ABC/3 becomes 3E3ABC, and a tail such as "3/" counts as a
-/// suffix too: both are meant so.
-void MoveDigitSuffix(std::string& call);
+/// The call without a numbered suffix such as "/3", whose figure is put into the call instead: DL1ABC/3 becomes DL3ABC. A call
+/// without one is given back as it is. Every digit before a non-digit is replaced, so 2E0ABC/3 becomes 3E3ABC, and a tail
+/// such as "3/" counts as a suffix too: contests are scored by what this gives, so neither may be tidied.
+std::string MoveDigitSuffix(std::string_view call);
 
 }  // namespace vatro

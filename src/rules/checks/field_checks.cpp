@@ -6,31 +6,13 @@
 #include "codepage.h"
 #include "columns.h"
 #include "datetime.h"
-#include "errors.h"
-#include "frame/band_mode.h"
-#include "frame/station.h"
 #include "numbers.h"
-#include "platform.h"
 
 namespace vatro {
 
 using namespace literals;
 
 namespace {
-
-bool Refuse(std::string_view message) {
-    MsgBox(message);
-    return false;
-}
-
-bool Confirm(std::string_view question, std::string_view title) {
-    MessageBox box;
-    box.text = question;
-    box.title = title;
-    box.buttons = Buttons::YesNo;
-    box.defaultNo = true;
-    return MsgBox(box) == Answer::Yes;
-}
 
 bool IsOneOf(char c, std::string_view characters) {
     return characters.find(c) != std::string_view::npos;
@@ -43,20 +25,20 @@ bool IsLetter(char c) {
 
 }  // namespace
 
-bool CheckOperator(std::string_view operatorCall) {
-    return !Trim(operatorCall).empty() || Refuse("Operatørcall skal angives"_t);
+std::optional<Objection> CheckOperator(std::string_view operatorCall) {
+    if (Trim(operatorCall).empty()) return Objection{"Operatørcall skal angives"_t};
+    return std::nullopt;
 }
 
-bool CheckTime(TextBox& field, std::string& time) {
-    if (field.Text().size() == 5) {
-        const std::string text = field.Text();
-        field.SetText(text.substr(0, 2) + ":" + text.substr(3, 2));
-        if (const auto timeOfDay = ParseTime(field.Text())) {
-            time = FormatTime(timeOfDay->hour, timeOfDay->minute);
-            return true;
-        }
-    }
-    return Refuse("Indtast tid i formatet: " + UtcTimeText());
+std::optional<std::string> WithColon(std::string_view time) {
+    if (time.size() != 5) return std::nullopt;
+    return std::string(time.substr(0, 2)).append(":").append(time.substr(3, 2));
+}
+
+std::optional<std::string> CheckTime(std::string_view time) {
+    const auto timeOfDay = ParseTime(time);
+    if (!timeOfDay) return std::nullopt;
+    return FormatTime(timeOfDay->hour, timeOfDay->minute);
 }
 
 bool HasDigitsAndLetters(std::string_view call) {
@@ -64,38 +46,37 @@ bool HasDigitsAndLetters(std::string_view call) {
     return digit && std::any_of(call.begin(), call.end(), IsLetter);
 }
 
-bool CheckCall(std::string_view call) {
-    if (call.size() < 3) return Refuse("Et kaldesignal skal være på mindst 3 tegn"_t);
-    if (!HasDigitsAndLetters(call)) return Refuse("Der skal være både tal og bogstaver i et kaldesignal"_t);
-    return call.front() != '0' || Confirm("Skal det være et nul?"_t, "Første tegn i call'et er et nul."_t);
+std::optional<Objection> CheckCall(std::string_view call) {
+    if (call.size() < 3) return Objection{"Et kaldesignal skal være på mindst 3 tegn"_t};
+    if (!HasDigitsAndLetters(call)) return Objection{"Der skal være både tal og bogstaver i et kaldesignal"_t};
+    if (call.front() == '0') return Objection{"Skal det være et nul?"_t, "Første tegn i call'et er et nul."_t, true};
+    return std::nullopt;
 }
 
-bool CheckReport(std::string_view report) {
-    const bool cw = gsMode == "CW";
-    if (cw && report.size() != 3) return Refuse("Modtaget RST skal være på 3 cifre."_t);
-    if (!cw && report.size() != 2) return Refuse("Modtaget RST skal være på 2 cifre."_t);
-    if (!IsOneOf(report[0], "12345")) return Refuse("Første ciffer i RST skal være mellem 1 og 5."_t);
-    if (!IsOneOf(report[1], "123456789")) return Refuse("Andet ciffer i RST skal være mellem 1 og 9."_t);
-    if (cw && !IsOneOf(report[2], "123456789")) return Refuse("Sidste ciffer i RST skal være mellem 1 og 9."_t);
-    return true;
+std::optional<Objection> CheckReport(std::string_view report, std::string_view logMode) {
+    const bool cw = logMode == "CW";
+    if (cw && report.size() != 3) return Objection{"Modtaget RST skal være på 3 cifre."_t};
+    if (!cw && report.size() != 2) return Objection{"Modtaget RST skal være på 2 cifre."_t};
+    if (!IsOneOf(report[0], "12345")) return Objection{"Første ciffer i RST skal være mellem 1 og 5."_t};
+    if (!IsOneOf(report[1], "123456789")) return Objection{"Andet ciffer i RST skal være mellem 1 og 9."_t};
+    if (cw && !IsOneOf(report[2], "123456789")) return Objection{"Sidste ciffer i RST skal være mellem 1 og 9."_t};
+    return std::nullopt;
 }
 
-int CheckReports(TextBox (&fields)[6]) {
-    if (!CheckReport(fields[2].Text())) return 2;
-    if (!IsNumeric(fields[3].Text())) {
-        MsgBox("Sendt rapport skal være numerisk"_t);
-        return 3;
-    }
-    if (!CheckReport(fields[4].Text())) return 4;
-    return CheckReceivedNumber(fields[5]) ? -1 : 5;
+std::optional<Objection> CheckNumberSent(std::string_view number) {
+    if (!IsNumeric(number)) return Objection{"Sendt rapport skal være numerisk"_t};
+    return std::nullopt;
 }
 
-bool CheckReceivedNumber(TextBox& field) {
-    if (field.Text().empty() || NumericValue(field.Text()) == 0) {
-        if (!Confirm("Skal modtaget rapportnummer være nul?"_t, "Modtaget rapport"_t)) return false;
-        field.SetText("0000");
-    }
-    return IsNumeric(field.Text()) || Refuse("Modtaget rapport skal være numerisk"_t);
+std::optional<Objection> CheckZeroNumber(std::string_view number) {
+    if (number.empty() || NumericValue(number) == 0)
+        return Objection{"Skal modtaget rapportnummer være nul?"_t, "Modtaget rapport"_t, true};
+    return std::nullopt;
+}
+
+std::optional<Objection> CheckNumberReceived(std::string_view number) {
+    if (!IsNumeric(number)) return Objection{"Modtaget rapport skal være numerisk"_t};
+    return std::nullopt;
 }
 
 }  // namespace vatro

@@ -34,9 +34,7 @@ bool SameZones(const CtyItem& a, const CtyItem& b) {
 
 /// The text that is looked up where the call is not found whole.
 std::string CountryText(const CtyItem& item) {
-    std::string text;
-    findPfxCall(item.bare, text);
-    return text;
+    return findPfxCall(item.bare);
 }
 
 /// Whether the row of the item is met by the item's own call.

@@ -3,98 +3,94 @@
 
 #include "call/call_analysis.h"
 #include "codepage.h"
-#include "country/tables.h"
 #include "errors.h"
-#include "numbers.h"
-#include "score/points.h"
 
 namespace vatro {
 
 using namespace literals;
 
-bool gbVisLand = false;
-std::int16_t giMult = 0;
-
 namespace {
 
 constexpr std::string_view kEuropeanExceptions = "TA0,TA1,TB0,TB1,TC0,TC1,YM0,YM1,";
+constexpr std::string_view kUnknown = "ukendt";
 
-int PrefixStart(std::string_view text) {
+int PrefixStart(const CountryTables& tables, std::string_view text) {
     if (text.empty()) throw RunTimeError(Failure::InvalidCall);
-    return gaPfxStart[static_cast<unsigned char>(text.front())];
+    return tables.gaPfxStart[static_cast<unsigned char>(text.front())];
 }
 
 /// The row of Lande to which a row of RefPfx points: the first whose prefix is not below the wanted one, or the last. There
 /// is no test of equality, so a table out of order can give a neighbour: accepted.
-LandRec& CountryOf(const PfxRec& prefix) {
-    const auto last = static_cast<std::size_t>(CountriesInUse());
-    std::size_t j = 1;
-    while (j < last && prefix.Land.Padded() > Lande[j].Pfx.Padded()) ++j;
-    return Lande[j];
+int CountryOf(const CountryTables& tables, const PfxRec& prefix) {
+    const int last = tables.CountriesInUse();
+    int row = 1;
+    while (row < last && prefix.Land.Padded() > tables.Lande[static_cast<std::size_t>(row)].Pfx.Padded()) ++row;
+    return row;
 }
 
-/// The country of a call, or nothing. `prefixText` becomes the text that was looked up as a prefix, where it came so far.
-LandRec* FindCountry(std::string_view call, std::string& prefixText) {
-    prefixText.clear();
-    int row = FindWholeCall(call, PrefixStart(call));
-    if (row == 0) {
-        findPfxCall(call, prefixText);
-        if (prefixText.empty()) return nullptr;
-        row = FindPrefix(prefixText, PrefixStart(prefixText));
-    }
-    return row == 0 ? nullptr : &CountryOf(RefPfx[static_cast<std::size_t>(row)]);
+const LandRec& CountryAt(const CountryTables& tables, int row) {
+    return tables.Lande[static_cast<std::size_t>(row)];
 }
 
 }  // namespace
 
-void LandWkd(std::string_view call, std::string& result, MarkAction action) {
-    result.clear();
-    std::string prefixText;
-    LandRec* const country = FindCountry(call, prefixText);
-    if (country == nullptr) return;
-
-    if (country->Kontinent.Padded() != "EU") {
-        const std::string area = std::string(call.substr(0, 3)) + ",";
-        if (kEuropeanExceptions.find(area) == std::string_view::npos) giQSOPoint = 6;
+FoundCountry FindCountry(const CountryTables& tables, std::string_view call) {
+    FoundCountry found;
+    std::optional<int> prefix = tables.FindWholeCall(call, PrefixStart(tables, call));
+    if (!prefix) {
+        found.prefixText = findPfxCall(call);
+        if (found.prefixText.empty()) return found;
+        prefix = tables.FindPrefix(found.prefixText, PrefixStart(tables, found.prefixText));
     }
-
-    switch (action) {
-        case MarkAction::Unmark:
-            if (!country->Wkd) return;
-            giMult = ToInt16(giMult - 1);
-            country->Wkd = false;
-            break;
-        case MarkAction::Test:
-            if (country->Wkd) return;
-            break;
-        case MarkAction::Mark:
-            if (country->Wkd) return;
-            giMult = ToInt16(giMult + 1);
-            country->Wkd = true;
-            break;
-    }
-    result = country->Pfx.Padded();
+    if (prefix) found.row = CountryOf(tables, tables.RefPfx[static_cast<std::size_t>(*prefix)]);
+    return found;
 }
 
-void LandStatusTekst(std::string_view call, std::string& text) {
-    if (!gbVisLand) return;
-    std::string prefixText;
-    const LandRec* const country = FindCountry(call, prefixText);
-    text.clear();
-    if (country == nullptr) {
-        // A single character is no prefix yet.
-        if (prefixText.size() < 2) return;
-        text = Trim(prefixText);
-        text += ": er ukendt præfix. Call'et bliver gemt i filen 'ukendt.txt', hvis QSOen logges. Kør den!"_t;
-        return;
-    }
-    text.append(country->Pfx.Trimmed()).append(": ").append(country->Navn.Trimmed());
-    text.append(" (").append(country->Kontinent.Padded());
-    text.append(country->Wkd ? "), er kørt."_t : "), er nyt land."_t);
+std::optional<std::int32_t> CountryPoints(const CountryTables& tables, const FoundCountry& found, std::string_view call) {
+    constexpr std::int32_t kOutsideEurope = 6;
+    if (!found.row || CountryAt(tables, *found.row).Kontinent.Padded() == "EU") return std::nullopt;
+    const std::string area = std::string(call.substr(0, 3)) + ",";
+    if (kEuropeanExceptions.find(area) != std::string_view::npos) return std::nullopt;
+    return kOutsideEurope;
 }
 
-bool IsUnknown(std::string_view statusText) {
-    return statusText.find("ukendt") != std::string_view::npos;
+bool IsUnknown(const CountryTables& tables, const FoundCountry& found) {
+    if (!found.row) return found.prefixText.size() >= 2;
+    const LandRec& country = CountryAt(tables, *found.row);
+    return country.Pfx.Trimmed().find(kUnknown) != std::string_view::npos ||
+           country.Navn.Trimmed().find(kUnknown) != std::string_view::npos;
+}
+
+WorkedCountries::Result WorkedCountries::LandWkd(std::string_view call, MarkAction action) {
+    const FoundCountry found = FindCountry(tables_, call);
+    if (!found.row) return {};
+    Result result;
+    result.points = CountryPoints(tables_, found, call);
+    auto mark = marks_[static_cast<std::size_t>(*found.row)];
+    result.changed = action == MarkAction::Unmark ? mark : !mark;
+    if (!result.changed) return result;
+    if (action != MarkAction::Test) mark = action == MarkAction::Mark;
+    result.resultat = CountryAt(tables_, *found.row).Pfx.Padded();
+    return result;
+}
+
+CountryStatus WorkedCountries::LandStatusTekst(std::string_view call) const {
+    const FoundCountry found = FindCountry(tables_, call);
+    CountryStatus status{{}, IsUnknown(tables_, found)};
+    if (found.row) {
+        const LandRec& country = CountryAt(tables_, *found.row);
+        status.text.append(country.Pfx.Trimmed()).append(": ").append(country.Navn.Trimmed());
+        status.text.append(" (").append(country.Kontinent.Padded());
+        status.text.append(Wkd(*found.row) ? "), er kørt."_t : "), er nyt land."_t);
+    } else if (status.unknown) {
+        status.text = Trim(found.prefixText);
+        status.text += ": er ukendt præfix. Call'et bliver gemt i filen 'ukendt.txt', hvis QSOen logges. Kør den!"_t;
+    }
+    return status;
+}
+
+void WorkedCountries::ResetLande() {
+    for (int row = 1; row <= tables_.CountriesInUse(); ++row) marks_.reset(static_cast<std::size_t>(row));
 }
 
 }  // namespace vatro

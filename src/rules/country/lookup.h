@@ -1,36 +1,77 @@
 // SPDX-License-Identifier: MIT
 //
-// From a call to its country: the worked marks, the multiplier count, the points outside Europe, and the words for the
-// status bar.
+// From a call to its country: the worked marks, the points outside Europe, and the words for the operator.
+//
+// Every search fails with 5 on an empty call, and with 9 as CountryTables::FindWholeCall does.
 #pragma once
 
+#include <bitset>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "country/tables.h"
+
 namespace vatro {
+
+/// The country of a call.
+struct FoundCountry {
+    /// Row of CountryTables::Lande; nothing for an unknown prefix.
+    std::optional<int> row;
+    /// The text that was looked up as a prefix; empty where the call was found whole.
+    std::string prefixText;
+};
+
+FoundCountry FindCountry(const CountryTables& tables, std::string_view call);
+
+/// The points that the country decides: 6 outside Europe, but for the calls of the European areas of a country that the tables
+/// hold as Asian.
+std::optional<std::int32_t> CountryPoints(const CountryTables& tables, const FoundCountry& found, std::string_view call);
+
+/// Whether the status text of the country contains the word "ukendt": an unknown prefix, or a country of that name. The rules of
+/// the contest look for the word, so a country so called counts nothing either.
+bool IsUnknown(const CountryTables& tables, const FoundCountry& found);
 
 /// What a search does with the mark of what it finds: marks it as worked, takes the mark away, or only asks.
 enum class MarkAction { Mark, Unmark, Test };
 
-/// Whether the country is shown while a call is typed; the menu changes it. Also a condition of the rule of the unknown
-/// prefix: switched off, such a contact keeps its points and is not written to ukendt.txt. That is meant so.
-extern bool gbVisLand;
-/// Countries marked as worked in the current log.
-extern std::int16_t giMult;
+/// A country as the operator is told of it.
+struct CountryStatus {
+    /// Empty for a single character, which is no prefix yet.
+    std::string text;
+    /// Whether the text contains the word "ukendt".
+    bool unknown = false;
+};
 
-/// Finds the country of a call. `result` becomes its ten-character prefix if the action took effect - with Op and Test:
-/// the country was not marked, the contact is a new multiplier - and "" otherwise. Op and Ned keep giMult in step. For a
-/// country outside Europe giQSOPoint becomes 6 with every action, but for the calls of the European areas of a country
-/// that the tables hold as Asian. No country: nothing changes. Fails with 5 on an empty
-/// call, and as FindWholeCall does.
-void LandWkd(std::string_view call, std::string& result, MarkAction action);
+/// Which countries of the tables a log has worked.
+class WorkedCountries {
+public:
+    /// None. The tables must live as long as this; marks stay with their rows when the rows change.
+    explicit WorkedCountries(const CountryTables& tables) : tables_(tables) {}
 
-/// Words the country of a call for the status bar. With gbVisLand off `text` stays as it was. Fails
-/// as LandWkd does.
-void LandStatusTekst(std::string_view call, std::string& text);
+    struct Result {
+        /// Whether the action took effect: with Mark and Test, the country was not marked, so that the contact is a new
+        /// multiplier; with Unmark, it was.
+        bool changed = false;
+        /// The ten characters of the country's prefix where it took effect, else nothing. Lives as long as the tables' row.
+        std::string_view resultat;
+        /// What the country decides, whatever the action.
+        std::optional<std::int32_t> points;
+    };
+    /// Finds the country of a call and does this to its mark. No country: nothing changes.
+    Result LandWkd(std::string_view call, MarkAction action);
 
-/// Whether a status text is that of an unknown prefix.
-bool IsUnknown(std::string_view statusText);
+    /// Words the country of a call.
+    CountryStatus LandStatusTekst(std::string_view call) const;
+
+    bool Wkd(int row) const { return marks_[static_cast<std::size_t>(row)]; }
+    /// Clears the marks of all rows in use.
+    void ResetLande();
+
+private:
+    const CountryTables& tables_;
+    std::bitset<kCountryRows + 1> marks_;
+};
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The country data: countries and their prefixes, in two tables in memory and two files in gsFDLib.
+// The country data: countries and their prefixes, in two tables in memory and two files in the program's data directory.
 //
 // lande.txt, one line a country          refpfx.txt, one line a prefix or exact call
 //    1-10  primary prefix                   1-10  prefix, a longer one before a shorter it begins with
@@ -9,11 +9,15 @@
 //   38     blank                           23     blank
 //   39-43  UTC offset, a number            24-25  ITU zone
 //
-// Rows are counted from 1; row 0 is never filled and never found.
+// Rows are counted from 1; row 0 is never filled and never found. The names of the rows and their fields are those that the
+// files' makers know.
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "columns.h"
@@ -24,6 +28,7 @@ inline constexpr int kCountryRows = 500;
 inline constexpr int kPrefixRows = 6000;
 inline constexpr std::size_t kPrefixLength = 10;
 
+/// A country. Whether it has been worked is another matter: see lookup.h.
 struct LandRec {
     /// Primary prefix, the key by which prefixes point here.
     FixedText<kPrefixLength> Pfx;
@@ -35,10 +40,9 @@ struct LandRec {
     float Laengde = 0;
     /// Hours from universal time; the import writes it to lande.txt, and nothing else reads it.
     float TidsZone = 0;
-    /// Worked in the current log. In no file.
-    bool Wkd = false;
 };
 
+/// A prefix.
 struct PfxRec {
     /// Prefix or exact call.
     FixedText<kPrefixLength> Pfx;
@@ -48,33 +52,67 @@ struct PfxRec {
     FixedText<2> CQzone;
 };
 
-extern std::array<LandRec, kCountryRows + 1> Lande;
-extern std::array<PfxRec, kPrefixRows + 1> RefPfx;
-/// Rows in use. After a load that failed at the end of a table it counts the row that did not fit.
-extern std::int16_t giLande;
-extern std::int16_t giRefPfx;
-/// By the code of a character: the first row of RefPfx whose prefix begins with it, 0 if there is none.
-extern std::array<std::int16_t, 257> gaPfxStart;
+/// Both tables. Whoever changes rows of RefPfx or giRefPfx calls IndexPrefixes afterwards; the searches need it.
+class CountryTables {
+public:
+    std::array<LandRec, kCountryRows + 1> Lande;
+    std::array<PfxRec, kPrefixRows + 1> RefPfx;
+    /// Rows in use. After a load that failed at the end of a table it counts the row that did not fit.
+    std::int16_t giLande = 0;
+    std::int16_t giRefPfx = 0;
+    /// By the code of a character: the first row of RefPfx whose prefix begins with it, 0 if there is none.
+    std::array<std::int16_t, 257> gaPfxStart{};
 
-/// Rows of a table that can be visited: the count, but no row beyond the table.
-int CountriesInUse();
+    /// Rows of Lande that can be visited: the count, but no row beyond the table.
+    int CountriesInUse() const;
 
-/// Fills Lande and giLande from lande.txt. Any failure, also a table that overflows or a number that cannot be read, gives
-/// one message; what was read stays.
-void IndlæsLande();
-/// Fills RefPfx, giRefPfx and gaPfxStart from refpfx.txt, with failures as above.
-void IndlæsRefPfx();
+    /// The first row from `start` on whose prefix is the whole of `call`, trimmed of blanks, if a row in use is. Fails with 9
+    /// (index) if a full table holds none: the search runs one row beyond it.
+    std::optional<int> FindWholeCall(std::string_view call, int start) const;
+    /// The first row from `start` on whose prefix begins the text: in a sorted table the longest. Fails as above.
+    std::optional<int> FindPrefix(std::string_view text, int start) const;
 
-/// The first row from `start` on whose prefix is the whole of `call`, trimmed of blanks; 0 if no row in use is. Fails
-/// with 9 (index) if a full table holds none: the search runs one row beyond it.
-int FindWholeCall(std::string_view call, int start);
-/// The first row from `start` on whose prefix begins the text `s`: in a sorted table the longest. 0 and failure as above.
-int FindPrefix(std::string_view s, int start);
+    /// Rebuilds what the two searches use.
+    void IndexPrefixes();
 
-/// Rebuilds what the two searches use. To be called whenever rows of RefPfx or giRefPfx have changed.
-void IndexPrefixes();
+private:
+    // A search of RefPfx looks from a start row to the end of the table for the first row that is met. What the rows hold is
+    // found by a table of hashes, so that a search without a hit costs no more than one with a hit; `nextInBucket_` joins the
+    // rows of one hash in ascending order.
+    static constexpr std::size_t kBuckets = 16384;
+    static std::size_t BucketOf(std::uint32_t hash) { return (hash ^ (hash >> 15U)) % kBuckets; }
+    /// The first row from `start` on that holds `prefix`, whose hash is given; 0 if none does.
+    int FirstRow(std::string_view prefix, std::uint32_t hash, int start) const;
+    /// The answer of a search for a row that is none.
+    std::optional<int> FoundRow(int row) const;
 
-/// Empty tables, as before the start.
-void ResetTables();
+    std::array<std::int16_t, kBuckets> buckets_{};
+    std::array<std::int16_t, kPrefixRows + 1> nextInBucket_{};
+};
+
+/// Fills Lande from lande.txt, line by line.
+class CountryReader {
+public:
+    /// No row is in use any more; what stood in them is overwritten.
+    explicit CountryReader(CountryTables& tables) : tables_(tables) { tables_.giLande = 0; }
+    /// The next row. Fails with 9 where the table is full, with the row counted, and with 13 or 6 where the offset is no number.
+    void Read(std::string_view line);
+
+private:
+    CountryTables& tables_;
+};
+
+/// Fills RefPfx and gaPfxStart from refpfx.txt, line by line.
+class PrefixReader {
+public:
+    explicit PrefixReader(CountryTables& tables) : tables_(tables) { tables_.giRefPfx = 0; }
+    /// The next row. Fails with 9 where the table is full, with the row counted.
+    void Read(std::string_view line);
+
+private:
+    CountryTables& tables_;
+    /// First character of the row before; nothing before the first.
+    std::optional<char> last_;
+};
 
 }  // namespace vatro

@@ -1,33 +1,33 @@
 // SPDX-License-Identifier: MIT
 //
-// Two searches of the current log while a contact is entered: is the station logged already, and which earlier contacts
-// hold what has been typed so far. Both are plain scans of the list from its first line.
+// Searches of a log while a contact is entered or corrected: is the station logged already, and which earlier contacts hold
+// what has been typed so far. All are plain scans of the lines from the first one.
+//
+// Each skips a line by looking at the line before it, where a note would be expected to be skipped itself. So a note whose
+// text looks like a call counts as a contact. Logs of many contests were made by these searches; another search would find
+// other duplicates in them.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
-
-#include "controls.h"
+#include <vector>
 
 namespace vatro {
 
-/// The call being entered, corrected, imported or checked, reduced to the base call. Set by whoever looks at one, so it has a
-/// meaning only until the next.
-extern std::string gsCall;
-/// The contact of gsCall is a duplicate.
-extern bool gbDupe;
+/// Whether a line holds the station: its call, reduced to the base call, is the base call given, by exact comparison. Behind a
+/// note whose text itself begins with "NOTE: " nothing is found.
+bool CheckDupe(std::span<const std::string> lines, std::string_view baseCall);
 
-/// Sets gbDupe: whether a line of the log holds the station gsCall, both reduced to the base call, by exact comparison.
-/// The guard against notes looks at the text of the line before: a note whose text is a call counts as a contact, and
-/// behind a note whose text itself begins with "NOTE: " nothing is found. Meant so.
-void CheckDupe();
+/// The same for a contact under correction, among the lines above it. A note that begins with the call counts as a contact.
+bool CheckDupQSO(std::span<const std::string> above, std::string_view baseCall);
 
-/// Fills `matches` with the earlier contacts whose call contains the field's text, without regard to case; at most 50, the
-/// oldest first. The guard against notes is as in CheckDupe.
+/// The earlier contacts whose call contains the text, without regard to case; at most 50, the oldest first, as the operator is
+/// shown them:
 ///
 ///    1-15  call                21-24  serial number received
 ///   16-19  serial number sent  26-30  UTC
 ///   20     "/"
-void WkdB4(const TextBox& callField, const ListBox& log, ListBox& matches);
+std::vector<std::string> WkdB4(std::string_view text, std::span<const std::string> lines);
 
 }  // namespace vatro

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The logs that there can be: one for each band and log mode. The digital modes have no log of their own and stand in the CW log of
-// their band.
+// The ten logs of a contest: one for each band and log mode. The digital modes have no log of their own: they count as CW and
+// stand in the CW log of their band, told apart by the mode column of the line.
 #pragma once
 
 #include <array>
@@ -10,13 +10,13 @@
 
 namespace vatro {
 
-/// A log by band, as "80m", and log mode, "CW" or "SSB".
+/// A log by its band, as "80m", and its log mode, "CW" or "SSB".
 struct LogId {
     std::string_view band;
     std::string_view mode;
 };
 
-/// All logs, in the order in which they are copied, searched and counted.
+/// All logs that there can be, in the order in which they are copied, searched and counted.
 inline constexpr std::array<LogId, 10> kTenLogs{{{"10m", "CW"},
                                                  {"10m", "SSB"},
                                                  {"15m", "CW"},
@@ -28,7 +28,10 @@ inline constexpr std::array<LogId, 10> kTenLogs{{{"10m", "CW"},
                                                  {"80m", "CW"},
                                                  {"80m", "SSB"}}};
 
-/// Name of a log's file in the log directory: "FD80mSSB.txt".
+/// The name of its file: "FD80mSSB.txt".
 std::string LogName(std::string_view band, std::string_view mode);
+
+/// The default report of a QSO mode: "599", "59" for SSB, empty for what is no mode.
+std::string_view StandardRST(std::string_view qsoMode);
 
 }  // namespace vatro

@@ -7,16 +7,11 @@
 #include "call/call_analysis.h"
 #include "checks/field_checks.h"
 #include "columns.h"
-#include "country/lookup.h"
-#include "country/tables.h"
 #include "datetime.h"
 #include "log/contact_line.h"
-#include "log/duplicates.h"
 #include "numbers.h"
 #include "papers/layout.h"
 #include "score/points.h"
-#include "score/stations.h"
-#include "tables/unknown.h"
 
 namespace vatro {
 
@@ -64,14 +59,21 @@ std::string_view PointsMessage(std::int32_t points) {
     }
 }
 
-/// The rules, in their order, each without regard to the others.
-class Checker {
+}  // namespace
+
+/// The check of one log: the rules, in their order, each without regard to the others.
+class ErrorList::Check {
 public:
-    Checker(LineSink& list, const DateTime& now, std::string_view logMode)
-        : list_(list), now_(now), cw_(logMode == "CW"), ssb_(logMode == "SSB") {}
+    Check(ErrorList& of, LineSink& list, const DateTime& now, std::string_view logMode)
+        : countries_(of.countries_), stations_(of.stations_), left_(of.left_), list_(list), now_(now), cw_(logMode == "CW"),
+          ssb_(logMode == "SSB") {
+        countries_.ResetLande();
+        stations_.ResetEDR();
+        left_.giMult = 0;
+    }
 
     /// Checks a contact line. Gives whether it has an error. Fails with 5 if it has no call, behind the errors found so far.
-    bool Check(std::string_view line) {
+    bool HasError(std::string_view line) {
         line_ = line;
         shown_ = false;
         CheckTime();
@@ -97,14 +99,14 @@ private:
     }
 
     void CheckCall() {
-        gsCall = kCall.TrimmedOf(line_);
-        StripCall(gsCall);
-        if (gsCall.size() < 3) Complain("Et kaldesignal skal være på mindst 3 tegn."_t);
-        if (!HasDigitsAndLetters(gsCall)) Complain("Der skal være både tal og bogstaver i et kaldesignal."_t);
-        if (gsCall.starts_with('0')) Complain("Første tegn i call'et er et nul."_t);
-        const bool remembered = !seen_.insert(LeftAligned(gsCall, kRememberedCall)).second;
-        duplicate_ = remembered && gsCall.size() <= kRememberedCall;
-        if (duplicate_) Complain(gsCall + " er en dublet!");
+        const std::string call = StripCall(kCall.TrimmedOf(line_));
+        left_.gsCall = call;
+        if (call.size() < 3) Complain("Et kaldesignal skal være på mindst 3 tegn."_t);
+        if (!HasDigitsAndLetters(call)) Complain("Der skal være både tal og bogstaver i et kaldesignal."_t);
+        if (call.starts_with('0')) Complain("Første tegn i call'et er et nul."_t);
+        const bool remembered = !seen_.insert(LeftAligned(call, kRememberedCall)).second;
+        duplicate_ = remembered && call.size() <= kRememberedCall;
+        if (duplicate_) Complain(call + " er en dublet!");
     }
 
     void CheckReport(std::string_view report, const ReportMessages& messages) {
@@ -123,31 +125,30 @@ private:
 
     void CheckPoints() {
         const std::string_view call = kCall.TrimmedOf(line_);
-        giQSOPoint = 3;
-        if (ErDansk(call))
-            giQSOPoint = 1;
-        else if (call.ends_with("/P"))
-            giQSOPoint = 5;
-        LandWkd(call, newCountry_, MarkAction::Mark);
+        std::int32_t& worth = left_.giQSOPoint.emplace(EuropeanPoints(call));
+        const WorkedCountries::Result country = countries_.LandWkd(call, MarkAction::Mark);
+        newMultiplier_ = Trim(country.resultat);
+        if (country.changed) ++*left_.giMult;
+        worth = country.points.value_or(worth);
         const double points = NumericValue(kPoint.TrimmedOf(line_));
         if (duplicate_) {
             if (points != 0) Complain("Dublet station giver 0 point.");
             return;
         }
-        EDRstnWkd(gsCall, MarkAction::Mark);
-        if (points != giQSOPoint) Complain(PointsMessage(giQSOPoint));
+        worth = stations_.EDRstnWkd(*left_.gsCall, MarkAction::Mark).value_or(worth);
+        left_.gsCall = StationCall(*left_.gsCall);
+        if (points != worth) Complain(PointsMessage(worth));
     }
 
     void CheckMultiplier() {
         const std::string_view multiplier = kMultiplier.TrimmedOf(line_);
-        const std::string_view newMultiplier = Trim(newCountry_);
-        if (multiplier == newMultiplier || multiplier == kDupeMark) return;
-        if (newMultiplier.empty())
+        if (multiplier == newMultiplier_ || multiplier == kDupeMark) return;
+        if (newMultiplier_.empty())
             Complain(std::string("QSO er ikke første qso for land: "_t)
                          .append(multiplier)
                          .append(". Flyt markeringen til den første QSO for landet."_t));
         else
-            Complain(std::string("QSO er første multiplier for land: "_t).append(newMultiplier).append(", men er ikke markeret."));
+            Complain(std::string("QSO er første multiplier for land: "_t).append(newMultiplier_).append(", men er ikke markeret."));
     }
 
     void CheckRest() {
@@ -159,6 +160,9 @@ private:
         if (!GyldigDato(kDate.TrimmedOf(line_))) Complain("Dato skal være i formatet dd-mm-åå."_t);
     }
 
+    WorkedCountries& countries_;
+    Stations& stations_;
+    Leftovers& left_;
     LineSink& list_;
     DateTime now_;
     bool cw_;
@@ -172,10 +176,8 @@ private:
     /// It holds a call that an earlier line has.
     bool duplicate_ = false;
     /// The multiplier that the contact is by the tables, or nothing.
-    std::string newCountry_;
+    std::string_view newMultiplier_;
 };
-
-}  // namespace
 
 void WriteErrorListHead(LineSink& list, const PaperContext& context) {
     list.Write(Indented("Vatro fejlliste for " + context.call + ". Dannet d. " + FormatDate(context.now, "dd.mm.yyyy")));
@@ -187,17 +189,15 @@ void DanFejlListHoved(LineSink& list, const LogId& log) {
                         "   =================================="));
 }
 
-void DanFejlListKrop(LineSource& lines, LineSink& list, const PaperContext& context, const LogId& log) {
-    ResetLande();
-    ResetEDR();
-    Checker checker(list, context.now, log.mode);
+void ErrorList::DanFejlListKrop(LineSource& lines, LineSink& list, const PaperContext& context, const LogId& log) {
+    Check check(*this, list, context.now, log.mode);
     bool FileHasErrors = false;
     do {
         const std::string line = lines.Next();
         if (IsNoteLine(line)) {
             WriteBlank(list);
             list.Write(Indented(line));
-        } else if (checker.Check(line)) {
+        } else if (check.HasError(line)) {
             FileHasErrors = true;
         }
     } while (!lines.AtEnd());

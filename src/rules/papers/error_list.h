@@ -8,12 +8,16 @@
 // the same lines.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "country/lookup.h"
+#include "country/tables.h"
 #include "papers/context.h"
 #include "papers/logs.h"
+#include "score/stations.h"
 
 namespace vatro {
 
@@ -21,9 +25,36 @@ namespace vatro {
 void WriteErrorListHead(LineSink& list, const PaperContext& context);
 /// Writes the line above a log's section.
 void DanFejlListHoved(LineSink& list, const LogId& log);
-/// Writes what is found in a log's lines, of which there must be one: fails with 62 if there is none, and with 5 at a line without
-/// a call, behind the errors found so far.
-void DanFejlListKrop(LineSource& lines, LineSink& list, const PaperContext& context, const LogId& log);
+/// The check of the logs, with marks of its own for what has been worked.
+class ErrorList {
+public:
+    /// `tables` must live as long as this.
+    ErrorList(const CountryTables& tables, const Stations& stations) : countries_(tables), stations_(stations) {}
+
+    /// Writes what is found in a log's lines, of which there must be one: fails with 62 if there is none, and with 5 at a line
+    /// without a call, behind the errors found so far. Marks are wiped first: each log counts for itself.
+    void DanFejlListKrop(LineSource& lines, LineSink& list, const PaperContext& context, const LogId& log);
+
+    /// What the check has found out last; nothing where it did not come so far. At the entry desk these values are seen until the
+    /// next look at a contact.
+    struct Leftovers {
+        /// Base call of the last contact, as the lookup of stations leaves it.
+        std::optional<std::string> gsCall;
+        /// What the last contact is worth.
+        std::optional<std::int32_t> giQSOPoint;
+        /// Countries worked in the last log, as far as it was checked.
+        std::optional<std::int16_t> giMult;
+    };
+    const Leftovers& Left() const { return left_; }
+
+private:
+    class Check;
+
+    WorkedCountries countries_;
+    Stations stations_;
+    Leftovers left_;
+};
+
 /// Writes that there is no such log, which also stands where a section broke off.
 void WriteLogNotFound(LineSink& list);
 

@@ -9,7 +9,6 @@
 #include "errors.h"
 #include "log/contact_line.h"
 #include "numbers.h"
-#include "score/stations.h"
 
 namespace vatro {
 
@@ -29,9 +28,9 @@ bool IsNewOperator(std::string_view Operators, std::string_view operatorCall) {
     return Operators.empty() || Operators.find(operatorCall) == std::string_view::npos;
 }
 
-std::string StationName(std::string_view ownCall) {
-    for (int i = 1; i <= StationsInUse(); ++i) {
-        const std::string_view line = EDRstn[static_cast<std::size_t>(i)].Linje.Padded();
+std::string StationName(const Stations& stations, std::string_view ownCall) {
+    for (int i = 1; i <= stations.StationsInUse(); ++i) {
+        const std::string_view line = stations.EDRstn[static_cast<std::size_t>(i)].Linje.Padded();
         const std::string call = std::string(WithoutTrailingBlanks(line.substr(0, kEdrCall))) + "/P";
         if (call == ownCall) return std::string(line.substr(kEdrCall + 1));
     }
@@ -110,9 +109,9 @@ std::string Tally::SortedOperators() const {
     return SortOper(Columns(Operators, 2));
 }
 
-Tally TallyLogs(LogReader& logs, std::string_view call) {
+Tally TallyLogs(LogReader& logs, const Stations& stations, std::string_view call) {
     Tally tally;
-    tally.name = StationName(call);
+    tally.name = StationName(stations, call);
     for (std::size_t i = 0; i < kTenLogs.size(); ++i) {
         LogCount count = SumLog(logs, kTenLogs[i], std::move(tally.Operators));
         tally.rows[i] = count.sum;

@@ -14,6 +14,7 @@
 #include "codepage.h"
 #include "papers/context.h"
 #include "papers/logs.h"
+#include "score/stations.h"
 
 namespace vatro {
 
@@ -56,8 +57,8 @@ struct Tally {
     std::string SortedOperators() const;
 };
 
-/// Counts all ten logs. `call` is the station's own. A product over 32 bits fails with 6.
-Tally TallyLogs(LogReader& logs, std::string_view call);
+/// Counts all ten logs. `call` is the station's own, whose name is looked for in the society's list. A product over 32 bits fails with 6.
+Tally TallyLogs(LogReader& logs, const Stations& stations, std::string_view call);
 
 /// The bands as sheets name them, in the order of Tally::band.
 inline constexpr std::array<std::string_view, kBandCount> kMegahertz{" 28 MHz", " 21 MHz", " 14 MHz", "  7 MHz", "3,5 MHz"};

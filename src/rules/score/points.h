@@ -8,20 +8,22 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <string_view>
 
-namespace vatro {
+#include "country/lookup.h"
+#include "score/stations.h"
 
-/// Points of the contact being built. The lookups of country and station write it too, so it has a meaning only right
-/// after BeregnPoint.
-extern std::int32_t giQSOPoint;
+namespace vatro {
 
 /// Whether the first two characters of the call are those of a Danish prefix, without regard to case. False for an empty call.
 bool ErDansk(std::string_view call);
 
-/// Sets giQSOPoint for a call; changes no mark and no other counter. An unknown prefix is worth nothing only while
-/// gbVisLand is on: meant so. A call that is empty, or nothing but a suffix ("/3", "/QRP"), counts 3 without being looked up.
-void BeregnPoint(std::string call);
+/// The points of a call that neither its country nor the society's list decides: 1, 3 or 5.
+std::int32_t EuropeanPoints(std::string_view call);
+
+/// The points of a call. An unknown prefix is worth nothing only with `gbVisLand`, that is, while the operator is shown the countries:
+/// a station that has switched the display off keeps those points in its log. A call that is empty, or nothing
+/// but a suffix ("/3", "/QRP"), counts 3 without being looked up.
+std::int32_t BeregnPoint(std::string_view call, const CountryTables& tables, const Stations& stations, bool gbVisLand);
 
 }  // namespace vatro

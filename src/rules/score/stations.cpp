@@ -3,22 +3,13 @@
 
 #include <algorithm>
 
-#include "codepage.h"
-#include "frame/station.h"
-#include "platform.h"
-#include "score/points.h"
+#include "errors.h"
 
 namespace vatro {
 
-using namespace literals;
-
-std::array<EDRRec, kEdrRows + 1> EDRstn;
-std::int16_t giEDR = 0;
-
 namespace {
 
-/// The calls of the rows, packed: every line of a log that is loaded is looked for among all stations.
-std::array<std::uint64_t, kEdrRows + 1> keys{};
+constexpr std::int32_t kStationPoints = 10;
 
 std::uint64_t PackedCall(std::string_view sixCharacters) {
     std::uint64_t key = 0;
@@ -26,64 +17,62 @@ std::uint64_t PackedCall(std::string_view sixCharacters) {
     return key;
 }
 
-std::string_view StationCall(const EDRRec& station) {
+std::string_view CallOf(const EDRRec& station) {
     return station.Linje.Padded().substr(0, kEdrCall);
 }
 
 }  // namespace
 
-int StationsInUse() {
+std::string StationCall(std::string_view call) {
+    return LeftAligned(call, kEdrCall);
+}
+
+void Stations::Read(std::string_view line) {
+    ++giEDR;
+    if (giEDR > kEdrRows) throw RunTimeError(Failure::IndexOutOfRange);
+    const auto row = static_cast<std::size_t>(giEDR);
+    EDRstn[row].Linje = line;
+    EDRstn[row].Wkd = false;
+    keys_[row] = PackedCall(CallOf(EDRstn[row]));
+}
+
+int Stations::StationsInUse() const {
     return std::min<int>(giEDR, kEdrRows);
 }
 
-void IndlæsEDR() {
-    Files& files = platform().files;
-    try {
-        files.Open(1, PathIn(gsFDLib, "edr.txt"), FileMode::Input);
-        giEDR = 0;
-        while (!files.EndOfFile(1)) {
-            const std::string line = files.LineInput(1);
-            ++giEDR;
-            if (giEDR > kEdrRows) throw RunTimeError(Failure::IndexOutOfRange);
-            const auto row = static_cast<std::size_t>(giEDR);
-            EDRstn[row].Linje = line;
-            EDRstn[row].Wkd = false;
-            keys[row] = PackedCall(StationCall(EDRstn[row]));
-        }
-        files.Close(1);
-    } catch (const RunTimeError&) {
-        MsgBox("Kan ikke finde filen " + PathIn(gsFDLib, "edr.txt"));
-    }
+std::size_t Stations::RowBehind(std::size_t row, std::uint64_t call) const {
+    const auto end = keys_.begin() + StationsInUse() + 1;
+    const auto found = std::find(keys_.begin() + static_cast<std::ptrdiff_t>(row) + 1, end, call);
+    return found == end ? 0 : static_cast<std::size_t>(found - keys_.begin());
 }
 
-void EDRstnWkd(std::string& call, MarkAction action) {
-    call.resize(kEdrCall, ' ');
-    const std::uint64_t wanted = PackedCall(call);
-    const auto end = keys.begin() + StationsInUse() + 1;
-    for (auto key = std::find(keys.begin() + 1, end, wanted); key != end; key = std::find(key + 1, end, wanted)) {
-        giQSOPoint = 10;
-        if (action != MarkAction::Test) EDRstn[static_cast<std::size_t>(key - keys.begin())].Wkd = action == MarkAction::Mark;
+std::optional<std::int32_t> Stations::EDRstnWkd(std::string_view call, MarkAction action) {
+    const std::uint64_t wanted = PackedCall(StationCall(call));
+    std::optional<std::int32_t> points;
+    for (std::size_t row = RowBehind(0, wanted); row != 0; row = RowBehind(row, wanted)) {
+        points = kStationPoints;
+        if (action != MarkAction::Test) EDRstn[row].Wkd = action == MarkAction::Mark;
     }
+    return points;
 }
 
-void findEDRstn(std::string_view call, std::string& text) {
+std::optional<std::int32_t> Stations::StationPoints(std::string_view call) const {
+    if (RowBehind(0, PackedCall(StationCall(call))) == 0) return std::nullopt;
+    return kStationPoints;
+}
+
+std::optional<std::string> Stations::findEDRstn(std::string_view call) const {
     for (int i = 1; i <= StationsInUse(); ++i) {
         const EDRRec& station = EDRstn[static_cast<std::size_t>(i)];
-        if (Trim(StationCall(station)) != Trim(call)) continue;
+        if (Trim(CallOf(station)) != Trim(call)) continue;
         const std::string_view line = station.Linje.Padded();
-        text = line.substr(0, line.find(','));
-        return;
+        return std::string(line.substr(0, line.find(',')));
     }
+    return std::nullopt;
 }
 
-void ResetEDR() {
+void Stations::ResetEDR() {
     for (EDRRec& station : EDRstn) station.Wkd = false;
-}
-
-void ClearStations() {
-    EDRstn.fill({});
-    keys.fill(0);
-    giEDR = 0;
 }
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The society's own stations, which count more: edr.txt in gsFDLib, made by hand, one station a line.
+// The society's own stations, which count more: edr.txt, made by hand, one station a line.
 //
 //    1-6   call, blank-padded
 //    7-80  free text; what stands before the first "," of the line, call included, is shown to the operator
@@ -9,7 +9,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,27 +29,42 @@ struct EDRRec {
     bool Wkd = false;
 };
 
-extern std::array<EDRRec, kEdrRows + 1> EDRstn;
-/// Rows in use. After a load that failed at the end of the table it counts the line that did not fit.
-extern std::int16_t giEDR;
-/// Rows that can be visited: the count, but no row beyond the table.
-int StationsInUse();
+/// The six characters by which a station is known: the call cut off there, or filled up with blanks.
+std::string StationCall(std::string_view call);
 
-/// Loads the list. Any failure, also a line beyond the table, gives one message and leaves what was read; the file stays
-/// open under number 1 in the latter case, so that the first log load of the run finds nothing: meant so.
-void IndlæsEDR();
+/// The list. Rows change by Read alone.
+class Stations {
+public:
+    std::array<EDRRec, kEdrRows + 1> EDRstn;
+    /// Rows in use. After a load that failed at the end of the table it counts the line that did not fit.
+    std::int16_t giEDR = 0;
 
-/// Recognises a station by the first six characters of the call, to which `call` is cut or blank-padded. A station found
-/// sets giQSOPoint to 10 with every action; Op marks it as worked, Ned takes the mark away.
-void EDRstnWkd(std::string& call, MarkAction action);
+    /// No row is in use any more.
+    void BeginReading() { giEDR = 0; }
+    /// The next row, not worked. Fails with 9 where the table is full, with the row counted.
+    void Read(std::string_view line);
 
-/// Words the station of a base call for the operator; `text` stays as it was if it is none.
-void findEDRstn(std::string_view call, std::string& text);
+    /// Rows that can be visited: the count, but no row beyond the table.
+    int StationsInUse() const;
 
-/// Clears the worked marks.
-void ResetEDR();
+    /// Recognises a station by its six characters. Mark marks it as worked, Unmark takes the mark away. Gives the points of a station
+    /// found, whatever the action, and nothing for a call that is none.
+    std::optional<std::int32_t> EDRstnWkd(std::string_view call, MarkAction action);
+    /// As with Test.
+    std::optional<std::int32_t> StationPoints(std::string_view call) const;
 
-/// An empty list, as before the start.
-void ClearStations();
+    /// Words the station of a base call for the operator.
+    std::optional<std::string> findEDRstn(std::string_view call) const;
+
+    /// Clears the worked marks.
+    void ResetEDR();
+
+private:
+    /// The row that comes next behind this one with the packed call, or 0.
+    std::size_t RowBehind(std::size_t row, std::uint64_t call) const;
+
+    /// The calls of the rows, packed: every line of a log that is loaded is looked for among all stations.
+    std::array<std::uint64_t, kEdrRows + 1> keys_{};
+};
 
 }  // namespace vatro

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/clock.h"
+#include "frame/state.h"
 
 #include "running_program.h"
 
@@ -32,16 +33,16 @@ TEST_F(EntryClock, StopsWithoutForgettingThatItIsAutomatic) {
     TimerStop();
     EXPECT_FALSE(frmMain->Timer1.Running());
     EXPECT_FALSE(frmMain->mnuIndstillingerKlokken.Ticked());
-    EXPECT_EQ(gbAutoTid, 1);
+    EXPECT_EQ(desk().gbAutoTid, 1);
 }
 
 TEST_F(EntryClock, IsSwitchedByItsMenuEntry) {
     Start();
     ToggleAutoTime();
-    EXPECT_EQ(gbAutoTid, 0);
+    EXPECT_EQ(desk().gbAutoTid, 0);
     EXPECT_FALSE(frmMain->Timer1.Running());
     ToggleAutoTime();
-    EXPECT_EQ(gbAutoTid, 1);
+    EXPECT_EQ(desk().gbAutoTid, 1);
     EXPECT_TRUE(frmMain->Timer1.Running());
 }
 

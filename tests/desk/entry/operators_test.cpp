@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/operators.h"
+#include "frame/state.h"
 
 #include "running_program.h"
 
@@ -35,7 +36,7 @@ TEST_F(Operators, AreShownOnlyWhenAskedFor) {
 
 TEST_F(Operators, TheOneShownHasSixCharactersWithItsBlanks) {
     Start();
-    gsOperatør = "OZ1A";
+    desk().gsOperatør = "OZ1A";
     LæsOperatører(Box(), "x");
     EXPECT_EQ(Box().Text(), "OZ1A  ");
 }
@@ -55,10 +56,10 @@ TEST_F(Operators, ANewNameJoinsAtTheEnd) {
     Box().SetText("OZ3JKL");
     OperatørTjek(Box(), false);
     EXPECT_EQ(Box().Items(), (Lines{"OZ1DEF", "", "OZ2GHI", "OZ3JKL"}));
-    EXPECT_EQ(gsOperatør.Padded(), "OZ1DEF");
+    EXPECT_EQ(desk().gsOperatør.Padded(), "OZ1DEF");
     OperatørTjek(Box(), true);
     EXPECT_EQ(Box().ListCount(), 4);
-    EXPECT_EQ(gsOperatør.Padded(), "OZ3JKL");
+    EXPECT_EQ(desk().gsOperatør.Padded(), "OZ3JKL");
 }
 
 TEST_F(Operators, AnEmptyTextChangesNothing) {
@@ -66,7 +67,7 @@ TEST_F(Operators, AnEmptyTextChangesNothing) {
     Box().SetText("");
     OperatørTjek(Box(), true);
     EXPECT_EQ(Box().ListCount(), 3);
-    EXPECT_EQ(gsOperatør.Padded(), "OZ1DEF");
+    EXPECT_EQ(desk().gsOperatør.Padded(), "OZ1DEF");
 }
 
 TEST_F(Operators, AreComparedByCase) {
@@ -80,7 +81,7 @@ TEST_F(Operators, TheChosenOneIsCutToSixCharacters) {
     Start();
     Box().SetText("OZ3JKLM");
     OperatørValgt(Box());
-    EXPECT_EQ(gsOperatør.Padded(), "OZ3JKL");
+    EXPECT_EQ(desk().gsOperatør.Padded(), "OZ3JKL");
 }
 
 TEST_F(Operators, KeysAreTurnedToCapitalsAndFiltered) {
@@ -101,7 +102,7 @@ TEST_F(Operators, ASeventhKeyPassesAndNoneAfterIt) {
     EXPECT_EQ(Press('m'), 'M');
     Box().SetText("OZ3JKLM");
     for (const KeyCode key : {static_cast<KeyCode>('N'), kBackspace, kEnter}) EXPECT_EQ(Press(key), kNoKey);
-    EXPECT_EQ(gsOperatør.Padded(), "OZ1DEF");
+    EXPECT_EQ(desk().gsOperatør.Padded(), "OZ1DEF");
 }
 
 TEST_F(Operators, EnterTakesTheTextOver) {
@@ -109,10 +110,10 @@ TEST_F(Operators, EnterTakesTheTextOver) {
     Box().SetText("OZ3JKL");
     Press(kEnter);
     EXPECT_EQ(Box().ListCount(), 4);
-    EXPECT_EQ(gsOperatør.Padded(), "OZ3JKL");
+    EXPECT_EQ(desk().gsOperatør.Padded(), "OZ3JKL");
     Box().SetText("");
     Press(kEnter);
-    EXPECT_EQ(gsOperatør.Padded(), "OZ3JKL");
+    EXPECT_EQ(desk().gsOperatør.Padded(), "OZ3JKL");
 }
 
 TEST_F(Operators, AFailureToWriteIsNotCaught) {

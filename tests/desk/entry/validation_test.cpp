@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/validation.h"
+#include "frame/state.h"
 
 #include "country/lookup.h"
 #include "frame/band_mode.h"
@@ -25,12 +26,12 @@ protected:
 
 TEST_F(Validation, TheDefaultReportFollowsTheQsoMode) {
     for (const char* mode : {"CW", "RTTY", "HELL", "PSK31"}) {
-        gsQsoMode = mode;
+        desk().gsQsoMode = mode;
         EXPECT_EQ(StandardRST(), "599");
     }
-    gsQsoMode = "SSB";
+    desk().gsQsoMode = "SSB";
     EXPECT_EQ(StandardRST(), "59");
-    gsQsoMode = "FM";
+    desk().gsQsoMode = "FM";
     EXPECT_EQ(StandardRST(), "");
 }
 
@@ -41,9 +42,9 @@ TEST_F(Validation, AnAcceptedContactGoesToFileListAndCounters) {
     EXPECT_EQ(LinesOf("log\\FD80mSSB.txt"), Lines{line});
     EXPECT_EQ(frmMain->List1.Items(), Lines{line});
     EXPECT_EQ(frmMain->List1.ListIndex(), 0);
-    EXPECT_EQ(glPoint, 3);
-    EXPECT_EQ(giMult, 1);
-    EXPECT_EQ(giQSOnr, 2);
+    EXPECT_EQ(desk().log.glPoint, 3);
+    EXPECT_EQ(desk().giMult, 1);
+    EXPECT_EQ(desk().log.giQSOnr, 2);
     EXPECT_EQ(frmMain->sbStatusBar.Panel(2), "3");
     EXPECT_EQ(frmMain->sbStatusBar.Panel(4), "1");
     EXPECT_EQ(frmMain->sbStatusBar.Panel(6), "3");
@@ -70,19 +71,19 @@ TEST_F(Validation, TheSentReportIsJudgedBeforeTheNumbers) {
 TEST_F(Validation, TheStationOfTheSocietyLeavesItsCallInSixColumns) {
     Start();
     Enter("OZ1AB/P", "1");
-    EXPECT_EQ(gsCall, "OZ1AB ");
+    EXPECT_EQ(desk().gsCall, "OZ1AB ");
 }
 
 TEST_F(Validation, ADuplicateGetsNoPointsButItsCountryStaysMarked) {
     files.files["LOG\\FD80MSSB.TXT"] = {"10:10 DL9XYZ          59 -0007 59 -0003  3            OZ1DEF     SSB   05-09-26"};
     Start();
-    EXPECT_EQ(giMult, 0);
+    EXPECT_EQ(desk().giMult, 0);
     Enter("DL9XYZ/P", "1");
     EXPECT_EQ(LinesOf("log\\FD80mSSB.txt").back(), "13:00 DL9XYZ/P        59 -0008 59 -0001  0 -DUPE-     OZ1DEF     SSB   05-09-26");
-    EXPECT_TRUE(gbDupe);
-    EXPECT_EQ(giQSOPoint, 0);
-    EXPECT_EQ(giMult, 1);
-    EXPECT_EQ(glPoint, 3);
+    EXPECT_TRUE(desk().gbDupe);
+    EXPECT_EQ(desk().giQSOPoint, 0);
+    EXPECT_EQ(desk().giMult, 1);
+    EXPECT_EQ(desk().log.glPoint, 3);
 }
 
 TEST_F(Validation, TheUnknownCallIsNotedBeforeTheLogIsWritten) {
@@ -113,9 +114,9 @@ TEST_F(Validation, ResetMovesTheNumberOnAndClearsTheEntry) {
     frmMain->Text1[2].SetText("11");
     frmMain->Text1[5].SetText("7");
     frmMain->Check1.SetValue(true);
-    giQSOnr = 998;
+    desk().log.giQSOnr = 998;
     ResetQSO();
-    EXPECT_EQ(giQSOnr, 999);
+    EXPECT_EQ(desk().log.giQSOnr, 999);
     EXPECT_EQ(frmMain->Text1[1].Text(), "");
     EXPECT_EQ(frmMain->Text1[2].Text(), "59");
     EXPECT_EQ(frmMain->Text1[2].MaxLength(), 2);
@@ -127,7 +128,7 @@ TEST_F(Validation, ResetMovesTheNumberOnAndClearsTheEntry) {
 
 TEST_F(Validation, TheSerialNumberOverflowsAsAFailure) {
     Start();
-    giQSOnr = 32767;
+    desk().log.giQSOnr = 32767;
     EXPECT_THROW(ResetQSO(), RunTimeError);
 }
 

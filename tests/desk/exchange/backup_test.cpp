@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/backup.h"
+#include "frame/state.h"
 
 #include "exchange/frmTilFloppy.h"
 #include "frame/band_mode.h"
@@ -74,7 +75,7 @@ TEST_F(Backup, ASecondCopyBeginsWithAnEmptyWindow) {
 }
 
 TEST_F(Backup, WithoutADirectoryThereIsOnlyAMessage) {
-    gsBackupLib.clear();
+    desk().gsBackupLib.clear();
     dialogs.Expect("Sæt backup bibliotek først.");
     Copy();
     EXPECT_EQ(Copied(), Lines{});
@@ -120,7 +121,7 @@ TEST_F(Backup, TheFloppyIsDriveA) {
 }
 
 TEST_F(Backup, TheFloppyNeedsNoBackupDirectory) {
-    gsBackupLib.clear();
+    desk().gsBackupLib.clear();
     Floppy();
     EXPECT_EQ(Copied().size(), 2U);
 }
@@ -165,7 +166,7 @@ TEST_F(BackupDirectory, IsThatOfTheMarkerFileWhichIsEmptied) {
     files.files["D:\\KOPI\\SETBACKUP.TXT"] = {"old"};
     dialogs.Expect("Backupbibliotek sat til: d:\\kopi\\");
     Choose("d:\\kopi\\setBackup.txt");
-    EXPECT_EQ(gsBackupLib, "d:\\kopi");
+    EXPECT_EQ(desk().gsBackupLib, "d:\\kopi");
     EXPECT_EQ(LinesOf("d:\\kopi\\setBackup.txt"), Lines{});
     EXPECT_FALSE(files.IsOpen());
     const FileDialog& asked = dialogs.asked.back();
@@ -178,41 +179,41 @@ TEST_F(BackupDirectory, IsThatOfTheMarkerFileWhichIsEmptied) {
 }
 
 TEST_F(BackupDirectory, MustNotBeTheLogDirectory) {
-    gsBackupLib = "d:\\kopi";
+    desk().gsBackupLib = "d:\\kopi";
     dialogs.Expect("Backupbibliotek må ikke være det samme som logbiblioteket.\r\nBiblioteket er sættes til: Ikke angivet.");
     Choose("log\\setBackup.txt");
     EXPECT_EQ(dialogs.boxes.back().icon, Icon::Information);
-    EXPECT_EQ(gsBackupLib, "");
+    EXPECT_EQ(desk().gsBackupLib, "");
     EXPECT_FALSE(files.files.contains("LOG\\SETBACKUP.TXT"));
 }
 
 TEST_F(BackupDirectory, IsComparedExactly) {
     dialogs.Expect("Backupbibliotek sat til: LOG\\");
     Choose("LOG\\setBackup.txt");
-    EXPECT_EQ(gsBackupLib, "LOG");
+    EXPECT_EQ(desk().gsBackupLib, "LOG");
 }
 
 TEST_F(BackupDirectory, StaysOnCancel) {
     dialogs.Expect("Backupbibliotek er ikke angivet. ");
     Dispatch([] { frmMain->mnuFilerBackupSetBibliotek.Choose(); });
-    gsBackupLib = "d:\\kopi";
+    desk().gsBackupLib = "d:\\kopi";
     dialogs.Expect("Backupbibliotek er beholdt som: d:\\kopi\\");
     Dispatch([] { frmMain->mnuFilerBackupSetBibliotek.Choose(); });
-    EXPECT_EQ(gsBackupLib, "d:\\kopi");
+    EXPECT_EQ(desk().gsBackupLib, "d:\\kopi");
 }
 
 TEST_F(BackupDirectory, ThatCannotBeWrittenToIsKeptAllTheSame) {
-    gsBackupLib = "d:\\kopi";
+    desk().gsBackupLib = "d:\\kopi";
     files.FailFrom("open", 1, Failure::PermissionDenied);
     dialogs.Expect("Backupbibliotek er beholdt som: e:\\ny\\");
     Choose("e:\\ny\\setBackup.txt");
-    EXPECT_EQ(gsBackupLib, "e:\\ny");
+    EXPECT_EQ(desk().gsBackupLib, "e:\\ny");
 }
 
 TEST_F(BackupDirectory, InTheRootOfADriveHasNoFinalBackslash) {
     dialogs.Expect("Backupbibliotek sat til: e:\\");
     Choose("e:\\setBackup.txt");
-    EXPECT_EQ(gsBackupLib, "e:");
+    EXPECT_EQ(desk().gsBackupLib, "e:");
 }
 
 TEST_F(BackupDirectory, ReachesTheSettingsAtARegularEnd) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/ct_import.h"
+#include "frame/state.h"
 
 #include "columns.h"
 #include "country/lookup.h"
@@ -63,9 +64,9 @@ TEST_F(CtImport, TheSystemIsOnTheImportedLogAfterwards) {
         {Contact("07-Sep-02", "1200", "0011", "DL1ABC", "599", "0001"), Contact("07-Sep-02", "1207", "0012", "OZ2DEF", "599", "0345")});
     Start();
     Import();
-    EXPECT_EQ(gsBand, "40m");
-    EXPECT_EQ(gsMode, "CW");
-    EXPECT_EQ(gsQsoMode, "CW");
+    EXPECT_EQ(desk().gsBand, "40m");
+    EXPECT_EQ(desk().gsMode, "CW");
+    EXPECT_EQ(desk().gsQsoMode, "CW");
     const StatusBar& bar = frmMain->sbStatusBar;
     EXPECT_EQ(bar.Panel(1), "Vatro 40m CW");
     // 3 points and 1, two countries.
@@ -73,7 +74,7 @@ TEST_F(CtImport, TheSystemIsOnTheImportedLogAfterwards) {
     EXPECT_EQ(bar.Panel(4), "2");
     EXPECT_EQ(bar.Panel(6), "8");
     // ResetQSO has moved it on from the last line's.
-    EXPECT_EQ(giQSOnr, 13);
+    EXPECT_EQ(desk().log.giQSOnr, 13);
     EXPECT_EQ(frmMain->Text1[3].Text(), "0013");
     EXPECT_EQ(frmMain->Text1[2].Text(), "599");
     EXPECT_FALSE(files.IsOpen());
@@ -88,8 +89,8 @@ TEST_F(CtImport, TheLogBeforeStaysAsItWas) {
     Start();
     Import();
     EXPECT_EQ(LinesOf("log\\FD80mSSB.txt"), Lines{line});
-    EXPECT_EQ(glPoint, 3);
-    EXPECT_EQ(giMult, 1);
+    EXPECT_EQ(desk().log.glPoint, 3);
+    EXPECT_EQ(desk().giMult, 1);
 }
 
 TEST_F(CtImport, OnlyLinesWithADashInColumnSevenAreContacts) {
@@ -106,8 +107,8 @@ TEST_F(CtImport, ACallTwiceIsADuplicateThoughPortable) {
     Start();
     Import();
     EXPECT_EQ(LinesOf("log\\FD40mCW.txt").back(), "12:01 DL1ABC/P        599-0002 599-0002  0 -DUPE-     CT-IMP     CW    07-09-02");
-    EXPECT_EQ(glPoint, 3);
-    EXPECT_EQ(giMult, 1);
+    EXPECT_EQ(desk().log.glPoint, 3);
+    EXPECT_EQ(desk().giMult, 1);
 }
 
 TEST_F(CtImport, AnUnknownPrefixHasNoPointsAndIsNotRecorded) {
@@ -125,15 +126,15 @@ TEST_F(CtImport, ACountryOutsideEuropeCountsSixAndADanishStationOne) {
         {Contact("07-Sep-02", "1200", "0001", "W1AW", "599", "0001"), Contact("07-Sep-02", "1201", "0002", "OZ7XYZ", "599", "0002")});
     Start();
     Import();
-    EXPECT_EQ(glPoint, 7);
+    EXPECT_EQ(desk().log.glPoint, 7);
 }
 
 TEST_F(CtImport, TheSocietysStationsAreKnownByTheFirstSixCharacters) {
     Log("CW ", {Contact("07-Sep-02", "1200", "0001", "OZ1ABC/P", "599", "0001")});
     Start();
     Import();
-    EXPECT_TRUE(EDRstn[1].Wkd);
-    EXPECT_EQ(glPoint, 10);
+    EXPECT_TRUE(desk().stations.EDRstn[1].Wkd);
+    EXPECT_EQ(desk().log.glPoint, 10);
 }
 
 TEST_F(CtImport, NumbersThatAreNoneBecomeNought) {
@@ -142,7 +143,7 @@ TEST_F(CtImport, NumbersThatAreNoneBecomeNought) {
     Import();
     EXPECT_EQ(LinesOf("log\\FD40mCW.txt"), (Lines{"12:00 DL1ABC          599-0012 599-0000  3 DL         CT-IMP     CW    07-09-02",
                                                   "12:01 DL2ABC          599-0000 599-0034  3            CT-IMP     CW    07-09-02"}));
-    EXPECT_EQ(giQSOnr, 1);
+    EXPECT_EQ(desk().log.giQSOnr, 1);
 }
 
 TEST_F(CtImport, ReportsThatAreMissingOrTooLongMoveNoColumn) {
@@ -199,8 +200,8 @@ TEST_F(CtImport, AnExistingLogIsRefusedAndNothingChanges) {
     EXPECT_EQ(dialogs.boxes.back().title, "Log kan ikke importeres.");
     EXPECT_EQ(dialogs.boxes.back().icon, Icon::None);
     EXPECT_EQ(LinesOf("log\\FD40mCW.txt"), Lines{"a"});
-    EXPECT_EQ(gsBand, "80m");
-    EXPECT_EQ(gsMode, "SSB");
+    EXPECT_EQ(desk().gsBand, "80m");
+    EXPECT_EQ(desk().gsMode, "SSB");
     // The CT file stays open.
     EXPECT_TRUE(files.IsOpen());
 }
@@ -213,9 +214,9 @@ TEST_F(CtImport, TheImportAfterARefusedOneGoesOnWithTheFirstFileInALogWithoutBan
     dialogs.Expect("Log for 40m CW findes allerede.");
     Import();
     Import("CT\\FELT.20");
-    EXPECT_EQ(gsBand, "");
-    EXPECT_EQ(gsMode, "CW");
-    EXPECT_EQ(gsQsoMode, "");
+    EXPECT_EQ(desk().gsBand, "");
+    EXPECT_EQ(desk().gsMode, "CW");
+    EXPECT_EQ(desk().gsQsoMode, "");
     EXPECT_EQ(frmMain->sbStatusBar.Panel(1), "Vatro  CW");
     EXPECT_EQ(LinesOf("log\\FDCW.txt"), Lines{"12:00 DL1ABC          599-0001 599-0001  3 DL         CT-IMP     CW    07-09-02"});
     EXPECT_FALSE(files.files.contains("LOG\\FD20MSSB.TXT"));
@@ -232,9 +233,9 @@ TEST_F(CtImport, AFileOfFewerThanThreeLinesIsToldToBeEmpty) {
     Import("ct\\felt.40");
     EXPECT_EQ(dialogs.boxes.back().title, "Import af CT-fil");
     EXPECT_EQ(dialogs.boxes.back().icon, Icon::Information);
-    EXPECT_EQ(gsBand, "");
-    EXPECT_EQ(gsMode, "CW");
-    EXPECT_EQ(gsQsoMode, "");
+    EXPECT_EQ(desk().gsBand, "");
+    EXPECT_EQ(desk().gsMode, "CW");
+    EXPECT_EQ(desk().gsQsoMode, "");
     EXPECT_EQ(frmMain->List1.ListCount(), 0);
     EXPECT_FALSE(files.IsOpen());
 }
@@ -244,8 +245,8 @@ TEST_F(CtImport, AFileOfThreeLinesIsToldToBeEmptyOnItsOwnBand) {
     Start();
     dialogs.Expect("CT\\FELT.40 er tom.");
     Import();
-    EXPECT_EQ(gsBand, "40m");
-    EXPECT_EQ(gsMode, "SSB");
+    EXPECT_EQ(desk().gsBand, "40m");
+    EXPECT_EQ(desk().gsMode, "SSB");
     EXPECT_FALSE(files.files.contains("LOG\\FD40MSSB.TXT"));
     EXPECT_EQ(frmMain->Text1[3].Text(), "0001");
 }
@@ -262,8 +263,8 @@ TEST_F(CtImport, AnotherModeIsSoughtUnderItsNameAndLoggedAsCw) {
     Log("FM ", {Contact("07-Sep-02", "1200", "0001", "DL2ABC", "599", "0001")});
     Start();
     Import();
-    EXPECT_EQ(gsMode, "CW");
-    EXPECT_EQ(gsQsoMode, "FM");
+    EXPECT_EQ(desk().gsMode, "CW");
+    EXPECT_EQ(desk().gsQsoMode, "FM");
     // To the log that is there already.
     EXPECT_EQ(LinesOf("log\\FD40mCW.txt").size(), 2U);
     EXPECT_EQ(frmMain->List1.ListCount(), 1);
@@ -273,7 +274,7 @@ TEST_F(CtImport, AFileWithoutABandInItsNameHasALogOfSuchABand) {
     Log("CW ", {Contact("07-Sep-02", "1200", "0001", "DL2ABC", "599", "0001")}, "CT\\FELT.LOG");
     Start();
     Import("CT\\FELT.log");
-    EXPECT_EQ(gsBand, "ogm");
+    EXPECT_EQ(desk().gsBand, "ogm");
     EXPECT_TRUE(files.files.contains("LOG\\FDOGMCW.TXT"));
 }
 
@@ -293,10 +294,10 @@ TEST_F(CtImport, TheMenuAsksForAnExistingFileOfTheFiveBands) {
     Log("CW ", {Contact("07-Sep-02", "1200", "0001", "DL1ABC", "599", "0001")});
     Start();
     Dispatch([] { frmMain->mnuFunktionerImporterCtAll.Choose(); });
-    EXPECT_EQ(gsBand, "80m");
+    EXPECT_EQ(desk().gsBand, "80m");
     dialogs.chosen = "CT\\FELT.40";
     Dispatch([] { frmMain->mnuFunktionerImporterCtAll.Choose(); });
-    EXPECT_EQ(gsBand, "40m");
+    EXPECT_EQ(desk().gsBand, "40m");
     ASSERT_EQ(dialogs.asked.size(), 2U);
     EXPECT_TRUE(dialogs.asked[0].fileMustExist);
     EXPECT_EQ(dialogs.asked[0].filter, "CT-logfil (*.10;*.15;*.20;*.40;*.80)|*.10;*.15;*.20;*.40;*.80|");

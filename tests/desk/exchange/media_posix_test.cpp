@@ -12,6 +12,7 @@
 #include "exchange/backup.h"
 #include "exchange/frmTilFloppy.h"
 #include "frame/band_mode.h"
+#include "frame/state.h"
 #include "running_program.h"
 #include "temporary_directory.h"
 
@@ -50,8 +51,8 @@ protected:
         fs::create_directory(root_ / "log");
         Start();
         InstallPlatform({front, dialogs, settings, disk_, clock, help, instance, sound, printer, {1, 2, 3}});
-        gsLogLib = (root_ / "log").string();
-        gsBackupLib = (root_ / "kopi").string();
+        desk().gsLogLib = (root_ / "log").string();
+        desk().gsBackupLib = (root_ / "kopi").string();
     }
     void SetUp() override {
         if (!medium_.Mounted()) GTEST_SKIP() << "skipped: file systems can only be mounted by root";

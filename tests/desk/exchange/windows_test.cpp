@@ -4,6 +4,7 @@
 #include "exchange/FormQuickInfo.h"
 #include "exchange/frmAbout.h"
 #include "exchange/frmVisTekst.h"
+#include "frame/state.h"
 #include "frame/station.h"
 #include "running_program.h"
 
@@ -32,7 +33,7 @@ TEST_F(Windows, StartInformationComesAtTheStartUntilItIsUnticked) {
     };
     Start();
     EXPECT_TRUE(shown);
-    EXPECT_FALSE(gbVisInfo);
+    EXPECT_FALSE(desk().gbVisInfo);
     EXPECT_FALSE(frmVisTekst.Loaded());
     Dispatch([] { frmMain->Unload(); });
     EXPECT_EQ(settings.texts["SETTINGS/VISINFO2002"], "False");
@@ -48,7 +49,7 @@ TEST_F(Windows, StartInformationOfTheMenuOffersTheBoxAgain) {
         frmVisTekst->cmdLuk.Press();
     };
     Choose(frmMain->mnuHelpStartInfo);
-    EXPECT_TRUE(gbVisInfo);
+    EXPECT_TRUE(desk().gbVisInfo);
 }
 
 TEST_F(Windows, StartInformationClosedByItsFrameChangesNothing) {
@@ -58,7 +59,7 @@ TEST_F(Windows, StartInformationClosedByItsFrameChangesNothing) {
         form.UserClosed();
     };
     Choose(frmMain->mnuHelpStartInfo);
-    EXPECT_FALSE(gbVisInfo);
+    EXPECT_FALSE(desk().gbVisInfo);
 }
 
 TEST_F(Windows, StartInformationHasTwentyLinesAndCannotBeEdited) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "frame/band_mode.h"
+#include "frame/state.h"
 
 #include "frame/log_file.h"
 #include "running_program.h"
@@ -48,9 +49,9 @@ TEST_F(BandMode, ABandReplacesTheBandAndKeepsTheMode) {
     Start();
     for (const auto& [index, band] : {std::pair{1, "10m"}, {2, "15m"}, {3, "20m"}, {4, "40m"}, {5, "80m"}, {6, "XXm"}}) {
         SetIndstillinger(index);
-        EXPECT_EQ(gsBand, band);
-        EXPECT_EQ(gsMode, "SSB");
-        EXPECT_EQ(gsQsoMode, "SSB");
+        EXPECT_EQ(desk().gsBand, band);
+        EXPECT_EQ(desk().gsMode, "SSB");
+        EXPECT_EQ(desk().gsQsoMode, "SSB");
         EXPECT_EQ(Ticked(), (std::vector<int>{index, 8}));
         EXPECT_FALSE(frmMain->mnuCW.Enabled());
     }
@@ -60,9 +61,9 @@ TEST_F(BandMode, AModeReplacesTheModeAndTheDigitalOnesCountAsCw) {
     Start();
     for (const auto& [index, mode] : {std::pair{8, "SSB"}, {9, "CW"}, {10, "PSK31"}, {11, "RTTY"}, {12, "HELL"}}) {
         SetIndstillinger(index);
-        EXPECT_EQ(gsBand, "80m");
-        EXPECT_EQ(gsQsoMode, mode);
-        EXPECT_EQ(gsMode, index == 8 ? "SSB" : "CW");
+        EXPECT_EQ(desk().gsBand, "80m");
+        EXPECT_EQ(desk().gsQsoMode, mode);
+        EXPECT_EQ(desk().gsMode, index == 8 ? "SSB" : "CW");
         EXPECT_EQ(Ticked(), (std::vector<int>{5, index}));
         EXPECT_EQ(frmMain->mnuCW.Enabled(), index == 9);
     }
@@ -70,15 +71,15 @@ TEST_F(BandMode, AModeReplacesTheModeAndTheDigitalOnesCountAsCw) {
 
 TEST_F(BandMode, TheToolbarFollowsBandAndMode) {
     Start();
-    gsBand = "15m";
-    gsQsoMode = "RTTY";
+    desk().gsBand = "15m";
+    desk().gsQsoMode = "RTTY";
     SetToolbar();
     EXPECT_EQ(Pressed(), (std::vector<int>{2, 11}));
 }
 
 TEST_F(BandMode, TheHiddenBandLeavesTheToolbarAsItIs) {
     Start();
-    gsBand = "XXm";
+    desk().gsBand = "XXm";
     SetToolbar();
     EXPECT_EQ(Pressed(), (std::vector<int>{5, 8}));
 }
@@ -88,7 +89,7 @@ TEST_F(BandMode, AChangeLoadsTheLogBeforeItAsks) {
     Start();
     dialogs.Expect("Fortsætter samme operatør?", Answer::Yes);
     ChangeBandMode(4);
-    EXPECT_EQ(giQSOnr, 8);
+    EXPECT_EQ(desk().log.giQSOnr, 8);
     EXPECT_EQ(dialogs.boxes.back().title, "Bånd/modeskift"_t);
     EXPECT_EQ(dialogs.boxes.back().buttons, Buttons::YesNo);
     EXPECT_EQ(frmMain->Combo1.Text(), "OZ1DEF");
@@ -107,14 +108,14 @@ TEST_F(BandMode, NoEmptiesTheOperatorBoxBeforeItTellsWhatToDo) {
 
 TEST_F(BandMode, AnEmptyBandOrModeStopsTheChange) {
     Start();
-    gsBand.clear();
+    desk().gsBand.clear();
     dialogs.Expect("Vælg bånd");
     ChangeBandMode(9);
-    EXPECT_EQ(gsMode, "CW");
-    gsMode.clear();
+    EXPECT_EQ(desk().gsMode, "CW");
+    desk().gsMode.clear();
     dialogs.Expect("Vælg mode");
     ChangeBandMode(1);
-    EXPECT_EQ(gsBand, "10m");
+    EXPECT_EQ(desk().gsBand, "10m");
 }
 
 TEST_F(BandMode, TheLogDirectoryIsThatOfTheMarkerFile) {
@@ -122,7 +123,7 @@ TEST_F(BandMode, TheLogDirectoryIsThatOfTheMarkerFile) {
     dialogs.chosen = "c:\\felt\\dag\\setlog.txt";
     dialogs.Expect("Logbibliotek sat til: c:\\felt\\dag\\");
     SetLogLib();
-    EXPECT_EQ(gsLogLib, "c:\\felt\\dag");
+    EXPECT_EQ(desk().gsLogLib, "c:\\felt\\dag");
     EXPECT_TRUE(files.files.contains("C:\\FELT\\DAG\\SETLOG.TXT"));
     EXPECT_EQ(dialogs.asked.back().title, "Vælg eller opret logbibliotek"_t);
     EXPECT_EQ(dialogs.asked.back().fileName, "setlog.txt");
@@ -137,7 +138,7 @@ TEST_F(BandMode, TheRootOfADriveIsALogDirectoryOfTwoCharacters) {
     dialogs.chosen = "C:\\setlog.txt";
     dialogs.Expect("Logbibliotek sat til: C:\\");
     SetLogLib();
-    EXPECT_EQ(gsLogLib, "C:");
+    EXPECT_EQ(desk().gsLogLib, "C:");
     EXPECT_EQ(CurrentLogPath(), "C:\\FD80mSSB.txt");
 }
 
@@ -146,7 +147,7 @@ TEST_F(BandMode, CancelKeepsTheLogDirectory) {
     dialogs.chosen.reset();
     dialogs.Expect("Logbibliotek er beholdt som: log\\");
     SetLogLib();
-    EXPECT_EQ(gsLogLib, "log");
+    EXPECT_EQ(desk().gsLogLib, "log");
 }
 
 TEST_F(BandMode, CancelWithoutALogDirectoryEndsTheProgram) {

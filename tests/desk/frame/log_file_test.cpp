@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "frame/log_file.h"
+#include "frame/state.h"
 
 #include "country/lookup.h"
 #include "frame/band_mode.h"
@@ -34,9 +35,9 @@ TEST_F(LogFile, IsNamedAfterBandAndMode) {
 TEST_F(LogFile, LoadCountsPointsCountriesAndTakesTheLastSerialNumber) {
     StartWith({kFirst, kSecond, kDuplicate});
     IndlæsLogfil();
-    EXPECT_EQ(giQSOnr, 8);
-    EXPECT_EQ(glPoint, 13);
-    EXPECT_EQ(giMult, 2);
+    EXPECT_EQ(desk().log.giQSOnr, 8);
+    EXPECT_EQ(desk().log.glPoint, 13);
+    EXPECT_EQ(desk().giMult, 2);
     EXPECT_EQ(frmMain->List1.Items(), (Lines{kFirst, kSecond, kDuplicate}));
     EXPECT_EQ(frmMain->List1.ListIndex(), 2);
     EXPECT_EQ(frmMain->sbStatusBar.Panel(1), "Vatro 80m SSB");
@@ -47,16 +48,16 @@ TEST_F(LogFile, LoadListsANoteAndCountsNothingOfIt) {
     StartWith({kFirst, "note: x                                 99 OZ"});
     IndlæsLogfil();
     EXPECT_EQ(frmMain->List1.ListCount(), 2);
-    EXPECT_EQ(giQSOnr, 7);
-    EXPECT_EQ(glPoint, 3);
-    EXPECT_EQ(giMult, 1);
+    EXPECT_EQ(desk().log.giQSOnr, 7);
+    EXPECT_EQ(desk().log.glPoint, 3);
+    EXPECT_EQ(desk().giMult, 1);
 }
 
 TEST_F(LogFile, LoadOfALogWithoutContactsSelectsNothing) {
     StartWith({});
     IndlæsLogfil();
     EXPECT_EQ(frmMain->List1.ListIndex(), -1);
-    EXPECT_EQ(giQSOnr, 0);
+    EXPECT_EQ(desk().log.giQSOnr, 0);
 }
 
 TEST_F(LogFile, LoadThatFailsOnTheWayKeepsWhatWasRead) {
@@ -64,8 +65,8 @@ TEST_F(LogFile, LoadThatFailsOnTheWayKeepsWhatWasRead) {
     files.FailFrom("read", 2, Failure::DiskNotReady);
     IndlæsLogfil();
     EXPECT_EQ(frmMain->List1.Items(), Lines{kFirst});
-    EXPECT_EQ(glPoint, 3);
-    EXPECT_EQ(giQSOnr, 7);
+    EXPECT_EQ(desk().log.glPoint, 3);
+    EXPECT_EQ(desk().log.giQSOnr, 7);
     // The panels still show the zeros from before the file was opened.
     EXPECT_EQ(frmMain->sbStatusBar.Panel(2), "0");
     EXPECT_FALSE(files.IsOpen());
@@ -83,9 +84,9 @@ TEST_F(LogFile, LoadBelievesTheMultiplierColumnAndNotTheCall) {
 TEST_F(LogFile, LoadTakesALineThatEndsBeforeItsPoints) {
     StartWith({"10:10 DL1AA           59 -0007"});
     IndlæsLogfil();
-    EXPECT_EQ(giQSOnr, 7);
-    EXPECT_EQ(glPoint, 0);
-    EXPECT_EQ(giMult, 0);
+    EXPECT_EQ(desk().log.giQSOnr, 7);
+    EXPECT_EQ(desk().log.glPoint, 0);
+    EXPECT_EQ(desk().giMult, 0);
 }
 
 TEST_F(LogFile, AppendOpensWritesAndClosesForEachLine) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "frame/start.h"
+#include "frame/state.h"
 
 #include "entry/frmB4.h"
 #include "entry/frmContestCall.h"
@@ -20,16 +21,16 @@ class ProgramStart : public RunningProgram {};
 TEST_F(ProgramStart, TakesTheDefaultsFromAnEmptyStore) {
     settings.texts = {{"SETTINGS/GSLOGLIB", "log"}, {"SETTINGS/VISINFO2002", "False"}};
     Start();
-    EXPECT_EQ(gsUTC, "-2");
-    EXPECT_EQ(gsMyCall, "");
-    EXPECT_EQ(gsFDLib, "data");
-    EXPECT_EQ(gsKlasse, "A");
-    EXPECT_EQ(gsTelefon, "12345678");
-    EXPECT_EQ(gsOperatør.Padded(), "      ");
-    EXPECT_EQ(gsBand, "80m");
-    EXPECT_EQ(gsMode, "SSB");
-    EXPECT_EQ(gsQsoMode, "SSB");
-    EXPECT_EQ(gbAutoTid, 1);
+    EXPECT_EQ(desk().gsUTC, "-2");
+    EXPECT_EQ(desk().gsMyCall, "");
+    EXPECT_EQ(desk().gsFDLib, "data");
+    EXPECT_EQ(desk().gsKlasse, "A");
+    EXPECT_EQ(desk().gsTelefon, "12345678");
+    EXPECT_EQ(desk().gsOperatør.Padded(), "      ");
+    EXPECT_EQ(desk().gsBand, "80m");
+    EXPECT_EQ(desk().gsMode, "SSB");
+    EXPECT_EQ(desk().gsQsoMode, "SSB");
+    EXPECT_EQ(desk().gbAutoTid, 1);
     EXPECT_EQ(frmMain->Left(), 1000);
     EXPECT_EQ(frmMain->Top(), 1000);
 }
@@ -97,7 +98,7 @@ TEST_F(ProgramStart, ARegularEndStoresInOneBatch) {
 TEST_F(ProgramStart, AnEndWithoutHandlersStoresWhatARegularOneStores) {
     Start();
     Dispatch([] { frmMain->mnuFunktionerStregP.Click(); });
-    gsBand = "20m";
+    desk().gsBand = "20m";
     frmB4->MoveTo(3000, 4500);
     frmMain->Combo1.AddItem("OZ7QQ");
     const auto before = settings.texts;
@@ -121,7 +122,7 @@ TEST_F(ProgramStart, AnEndWithoutHandlersStoresWhatARegularOneStores) {
 
 TEST_F(ProgramStart, AnEndWithoutHandlersStoresTheSettingsWhereTheOperatorsCannotBe) {
     Start();
-    gsBand = "20m";
+    desk().gsBand = "20m";
     // A handler has it open, and waits.
     files.Open(1, "data\\lande.txt", FileMode::Input);
     StoreRunningProgram();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/frmCW.h"
+#include "frame/state.h"
 
 #include "desk/keyer/sending_program.h"
 #include "exchange/equipment.h"
@@ -128,9 +129,9 @@ TEST_F(CWWindow, ANoKeepsTheFields) {
 }
 
 TEST_F(CWWindow, OKTakesEverythingOverAndStoresItWithTheEquipment) {
-    rigs[0] = "";
+    desk().rigs[0] = "";
     Open();
-    rigs[2] = "Homebrew";
+    desk().rigs[2] = "Homebrew";
     frmCW->Text1[0].SetText("TEST #R");
     frmCW->Text1[6].SetText("AGN?");
     frmCW->txtWPM.SetText("26");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/texts.h"
+#include "frame/state.h"
 
 #include "desk/keyer/sending_program.h"
 
@@ -118,14 +119,14 @@ TEST_F(CWTexts, ACodeMayBeginAtTheEndOfAValue) {
     EXPECT_EQ(Expanded("#C K"), "A K ");
     // "#CT", then "#T" of two values and the text.
     gsCWCall = "#R";
-    gsMyCall = "OZ#";
+    desk().gsMyCall = "OZ#";
     EXPECT_EQ(Expanded("#CT"), "OZ599 ");
 }
 
 TEST_F(CWTexts, ACodeThatComesUpInItsOwnValueIsDroppedAcrossTheEndOfAnother) {
     // "#C" becomes "#RC", "A#C", "A#RC" and so on: it would have no end.
     gsCWCall = "#RC";
-    gsMyCall = "A#";
+    desk().gsMyCall = "A#";
     EXPECT_EQ(Expanded("#C K"), "AC K ");
 }
 

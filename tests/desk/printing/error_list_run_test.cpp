@@ -12,7 +12,7 @@
 #include "paper_program.h"
 #include "papers/error_list.h"
 #include "score/points.h"
-#include "score/stations.h"
+#include "tables/load_tables.h"
 
 namespace vatro {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include "frame/station.h"
+#include "frame/state.h"
 #include "paper_program.h"
 
 namespace vatro {
@@ -39,7 +39,7 @@ TEST_F(HtmlFile, RunsFrom80MetresUpAndThenSumsUp) {
 }
 
 TEST_F(HtmlFile, NamesTheStationWithItsBlanks) {
-    gsMyCall = "OZ1ABC/P";
+    desk().gsMyCall = "OZ1ABC/P";
     const Lines page = Page();
     EXPECT_EQ(page[1], "<head><title>Fieldday log for OZ1ABC/P 2026</title></head>");
     EXPECT_EQ(page[5 + 60 + 4], "<tr align=\"center\"><td colspan=2>Test, formand" + std::string(73 - 13, ' '));

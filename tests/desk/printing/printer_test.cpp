@@ -5,8 +5,7 @@
 
 #include <algorithm>
 
-#include "exchange/equipment.h"
-#include "frame/station.h"
+#include "frame/state.h"
 #include "paper_program.h"
 #include "scene_pages.h"
 
@@ -102,10 +101,10 @@ TEST_F(Printing, CountsAsTheSheetDoes) {
 }
 
 TEST_F(Printing, OfTheSummaryFillsTheSheet) {
-    gsMyCall = "OZ1ABC/P";
-    gsTelefon = "87654321";
-    rigs[0] = "IC-751";
-    antennas[0] = "Dipol";
+    desk().gsMyCall = "OZ1ABC/P";
+    desk().gsTelefon = "87654321";
+    desk().rigs[0] = "IC-751";
+    desk().antennas[0] = "Dipol";
     Log("80mCW", Times(31, Contact({.points = 2, .mult = "DL", .op = "OZ9Z"})) + Times(89, Contact({.points = 2, .op = "OZ1AB"})));
     Log("80mSSB", Times(22, Contact({.points = 2, .mult = "DL"})) + Times(58, Contact({.points = 2})));
     Lines wanted{"job",
@@ -145,13 +144,13 @@ TEST_F(Printing, OfTheSummaryFillsTheSheet) {
 }
 
 TEST_F(Printing, PutsTheTelephoneBehindItsQuestion) {
-    gsTelefon = "87654321";
+    desk().gsTelefon = "87654321";
     const Lines placed = Placed(frmMain->mnuUdskrivSummary);
     // Seven blanks and 33 characters of 6 each; 33 rows stand above it, from 76.8 on.
     const std::string question = "0.0 472.8 Courier New 10 - \"       Telefon (hvis der er spørgsmål): \"";
     EXPECT_EQ(placed[placed.size() - 3], question);
     EXPECT_EQ(placed[placed.size() - 2], "240.0 472.8 Courier New 10 - \"87654321\"");
-    gsTelefon = "12345678";
+    desk().gsTelefon = "12345678";
     const Lines without = Placed(frmMain->mnuUdskrivSummary);
     EXPECT_EQ(without[without.size() - 2], question);
 }

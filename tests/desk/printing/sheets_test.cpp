@@ -3,10 +3,9 @@
 
 #include <gmock/gmock.h>
 
-#include "exchange/equipment.h"
-#include "frame/station.h"
+#include "frame/state.h"
 #include "paper_program.h"
-#include "score/stations.h"
+#include "tables/load_tables.h"
 
 namespace vatro {
 namespace {
@@ -157,11 +156,11 @@ protected:
 };
 
 TEST_F(SummaryFile, TellsWhatIsSet) {
-    gsKlasse = "B";
-    gsTelefon = "87654321";
+    desk().gsKlasse = "B";
+    desk().gsTelefon = "87654321";
     for (std::size_t i = 0; i < 5; ++i) {
-        rigs[i] = "R" + std::string(kEquipmentBands[i]);
-        antennas[i] = "A" + std::string(kEquipmentBands[i]);
+        desk().rigs[i] = "R" + std::string(kEquipmentBands[i]);
+        desk().antennas[i] = "A" + std::string(kEquipmentBands[i]);
     }
     const Lines sheet = Sheet();
     EXPECT_EQ(sheet[2], "Kaldesignal: OZ1AB/P        Kategori: B   Antal logsider: ");
@@ -188,9 +187,9 @@ TEST_F(SummaryFile, NamesTheStationOfTheSocietysList) {
     files.files["DATA\\EDR.TXT"] = {"OZ1A   Afdeling Syd", "OZ1AB  Afdeling Nord, formand", "OZ1AB  Afdeling Vest"};
     IndlæsEDR();
     EXPECT_EQ(Sheet()[4], "Navn: Afdeling Nord, formand" + std::string(73 - 22, ' '));
-    gsMyCall = "OZ1AB";
+    desk().gsMyCall = "OZ1AB";
     EXPECT_EQ(Sheet()[4], "Navn: ");
-    gsMyCall = "oz1ab/P";
+    desk().gsMyCall = "oz1ab/P";
     EXPECT_EQ(Sheet()[4], "Navn: ");
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "checks/field_checks.h"
+#include "frame/state.h"
 
 #include "frame/band_mode.h"
 #include "running_program.h"
@@ -74,7 +75,7 @@ class Reports : public RunningProgram, public ::testing::WithParamInterface<Repo
 
 TEST_P(Reports, AreJudgedFigureByFigure) {
     const auto& [mode, text, message] = GetParam();
-    gsMode = mode;
+    desk().gsMode = mode;
     if (*message != 0) dialogs.Expect(message);
     EXPECT_EQ(CheckReport(text), *message == 0);
 }

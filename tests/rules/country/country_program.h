@@ -4,6 +4,7 @@
 #pragma once
 
 #include "country/tables.h"
+#include "frame/state.h"
 #include "frame/station.h"
 #include "program.h"
 #include "running_program.h"
@@ -15,11 +16,11 @@ protected:
     void SetUp() override {
         BeginProgram();
         ResetTables();
-        gsFDLib = "data";
+        desk().gsFDLib = "data";
     }
     void TearDown() override { ResetTables(); }
 
-    static const LandRec& Country(int row) { return Lande[static_cast<std::size_t>(row)]; }
+    static const LandRec& Country(int row) { return desk().tables.Lande[static_cast<std::size_t>(row)]; }
 };
 
 }  // namespace vatro

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "country/import.h"
+#include "frame/state.h"
 
 #include <numeric>
 
@@ -46,15 +47,15 @@ protected:
         }
         return lines;
     }
-    static std::string Prefix(int row) { return std::string(RefPfx[static_cast<std::size_t>(row)].Pfx.Trimmed()); }
-    static int Start(char c) { return gaPfxStart[static_cast<unsigned char>(c)]; }
+    static std::string Prefix(int row) { return std::string(desk().tables.RefPfx[static_cast<std::size_t>(row)].Pfx.Trimmed()); }
+    static int Start(char c) { return desk().tables.gaPfxStart[static_cast<unsigned char>(c)]; }
     std::vector<std::string> OldFiles() { return {LinesOf("DATA\\LANDE.TXT").at(0), LinesOf("DATA\\REFPFX.TXT").at(0)}; }
     const std::vector<std::string> untouched{"DL        Fed. Rep. of Germany     EU -1 ", "DL        DL        14 28"};
 };
 
 TEST_F(Import, FillsARowForEachCountry) {
     Run({kHeader, "    QQ;", "A Country With A Long Name05:  06:  OC:  -56.25:   110.50:    +5.5:  QS:", "    QS;"});
-    ASSERT_EQ(giLande, 2);
+    ASSERT_EQ(desk().tables.giLande, 2);
     EXPECT_EQ(Country(1).Pfx.Padded(), "QQ        ");
     EXPECT_EQ(Country(1).Navn.Trimmed(), "Fantasia");
     EXPECT_FLOAT_EQ(Country(1).Bredde, 56.0F);
@@ -76,17 +77,17 @@ TEST_F(Import, NoNumberIsNoughtAndATooLargeOneFails) {
 }
 
 TEST_F(Import, LeavesTheWorkedMarksInTheirRows) {
-    Lande[2].Wkd = true;
+    desk().tables.Lande[2].Wkd = true;
     Run({kHeader, "    QQ;", kHeader, "    QR;"});
     EXPECT_FALSE(Country(1).Wkd);
     EXPECT_TRUE(Country(2).Wkd);
 }
 
 TEST_F(Import, IndexesTheFirstCharactersOfPrefixesThatAreNotOfFullLength) {
-    gaPfxStart[static_cast<unsigned char>('Z')] = 77;
+    desk().tables.gaPfxStart[static_cast<unsigned char>('Z')] = 77;
     // Sorted: A123456789, A1, B123456789, C, nothing.
     Run({kHeader, "    C,B123456789,A1,A123456789,,;"});
-    ASSERT_EQ(giRefPfx, 5);
+    ASSERT_EQ(desk().tables.giRefPfx, 5);
     EXPECT_EQ(Prefix(1), "A123456789");
     EXPECT_EQ(Start('A'), 2) << "row 1 is passed over";
     EXPECT_EQ(Start('B'), 0);
@@ -111,8 +112,8 @@ TEST_F(Import, ACharacterOfTheFillerEndsAPrefix) {
 
 TEST_F(Import, AnEmptyFileGivesEmptyTables) {
     Run({});
-    EXPECT_EQ(giLande, 0);
-    EXPECT_EQ(giRefPfx, 0);
+    EXPECT_EQ(desk().tables.giLande, 0);
+    EXPECT_EQ(desk().tables.giRefPfx, 0);
     EXPECT_EQ(LinesOf("DATA\\LANDE.TXT").size(), 0U);
     EXPECT_EQ(LinesOf("DATA\\REFPFX.TXT").size(), 0U);
 }
@@ -128,7 +129,7 @@ TEST_F(Import, FiveHundredCountriesFitAndOneMoreFails) {
     std::vector<std::string> lines;
     for (int i = 0; i < 500; ++i) lines.insert(lines.end(), {kHeader, "    QQ;"});
     Run(lines);
-    EXPECT_EQ(giLande, 500);
+    EXPECT_EQ(desk().tables.giLande, 500);
 
     files.files["DATA\\LANDE.TXT"] = {untouched[0]};
     files.files["DATA\\REFPFX.TXT"] = {untouched[1]};
@@ -142,7 +143,7 @@ TEST_F(Import, FiveThousandNineHundredAndNinetyNinePrefixesSurviveWhole) {
     // The last line to the front, so that there is something to sort.
     std::swap(lines[1], lines[599]);
     Run(lines);
-    ASSERT_EQ(giRefPfx, 5999);
+    ASSERT_EQ(desk().tables.giRefPfx, 5999);
     for (int i = 1; i <= 5999; ++i) ASSERT_EQ(Prefix(i), "C" + Number(i));
 }
 
@@ -152,7 +153,7 @@ TEST_F(Import, TheSixThousandthPrefixIsLostInTheSort) {
     std::vector<std::string> lines = Entry(6000);
     lines[1].replace(4, 11, "C0002,C0001");
     Run(lines);
-    ASSERT_EQ(giRefPfx, 6000);
+    ASSERT_EQ(desk().tables.giRefPfx, 6000);
     for (int i = 1; i <= 5999; ++i) ASSERT_EQ(Prefix(i), "C" + Number(i));
     EXPECT_EQ(Prefix(6000), "C5999");
 }
@@ -183,7 +184,7 @@ TEST_F(Import, ADamagedFileFailsBeforeAnythingIsWritten) {
     EXPECT_EQ(Failing({kHeader, "    QQ,QR"}), 5);
     EXPECT_EQ(Failing({kHeader, "    QQ;", "no header"}), 5);
     EXPECT_EQ(OldFiles(), untouched);
-    EXPECT_EQ(giLande, 0) << "nothing is in use before the whole file is read";
+    EXPECT_EQ(desk().tables.giLande, 0) << "nothing is in use before the whole file is read";
 }
 
 TEST_F(Import, AFileThatCannotBeReadFails) {

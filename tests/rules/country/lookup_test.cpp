@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "country/lookup.h"
+#include "frame/state.h"
 
 #include <gtest/gtest.h>
 
@@ -21,9 +22,9 @@ class Lookup : public ::testing::Test {
 protected:
     void SetUp() override {
         ResetTables();
-        gbVisLand = true;
-        giMult = 0;
-        giQSOPoint = 0;
+        desk().gbVisLand = true;
+        desk().giMult = 0;
+        desk().giQSOPoint = 0;
         // Countries in ascending order, longer prefixes before the shorter ones they begin with.
         Country("DL", "Fed. Rep. of Germany", "EU");
         Country("G", "England", "EU");
@@ -46,17 +47,17 @@ protected:
     void TearDown() override { ResetTables(); }
 
     static void Country(std::string_view pfx, std::string_view name, std::string_view continent) {
-        LandRec& row = Lande[static_cast<std::size_t>(++giLande)];
+        LandRec& row = desk().tables.Lande[static_cast<std::size_t>(++desk().tables.giLande)];
         row.Pfx = pfx;
         row.Navn = name;
         row.Kontinent = continent;
     }
     static void Prefix(std::string_view pfx, std::string_view country) {
-        PfxRec& row = RefPfx[static_cast<std::size_t>(++giRefPfx)];
+        PfxRec& row = desk().tables.RefPfx[static_cast<std::size_t>(++desk().tables.giRefPfx)];
         row.Pfx = pfx;
         row.Land = country;
-        auto& start = gaPfxStart[static_cast<unsigned char>(pfx.front())];
-        if (start == 0) start = giRefPfx;
+        auto& start = desk().tables.gaPfxStart[static_cast<unsigned char>(pfx.front())];
+        if (start == 0) start = desk().tables.giRefPfx;
     }
     static std::string Result(std::string_view call, MarkAction handling) {
         std::string result = "left from before";
@@ -72,32 +73,32 @@ protected:
 
 TEST_F(Lookup, MarkingTellsTheCountryOnce) {
     EXPECT_EQ(Result("DL1ABC", MarkAction::Mark), "DL        ");
-    EXPECT_EQ(giMult, 1);
+    EXPECT_EQ(desk().giMult, 1);
     EXPECT_EQ(Result("DL2ABC", MarkAction::Mark), "");
-    EXPECT_EQ(giMult, 1);
+    EXPECT_EQ(desk().giMult, 1);
 }
 
 TEST_F(Lookup, TakingTheMarkAwayTellsTheCountryOnce) {
     Result("GM3ABC", MarkAction::Mark);
     EXPECT_EQ(Result("GM3ABC", MarkAction::Unmark), "GM        ");
-    EXPECT_EQ(giMult, 0);
+    EXPECT_EQ(desk().giMult, 0);
     EXPECT_EQ(Result("GM3ABC", MarkAction::Unmark), "");
-    EXPECT_EQ(giMult, 0);
+    EXPECT_EQ(desk().giMult, 0);
 }
 
 TEST_F(Lookup, AskingChangesNothing) {
     EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
     EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
-    EXPECT_EQ(giMult, 0);
+    EXPECT_EQ(desk().giMult, 0);
     Result("DL1ABC", MarkAction::Mark);
     EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "");
 }
 
 TEST_F(Lookup, AnUnknownPrefixChangesNothing) {
-    giQSOPoint = 77;
+    desk().giQSOPoint = 77;
     for (const MarkAction handling : {MarkAction::Mark, MarkAction::Unmark, MarkAction::Test}) EXPECT_EQ(Result("XZ9XYZ", handling), "");
-    EXPECT_EQ(giMult, 0);
-    EXPECT_EQ(giQSOPoint, 77);
+    EXPECT_EQ(desk().giMult, 0);
+    EXPECT_EQ(desk().giQSOPoint, 77);
 }
 
 TEST_F(Lookup, AMultiplierColumnIsFoundWithItsBlanks) {
@@ -105,43 +106,43 @@ TEST_F(Lookup, AMultiplierColumnIsFoundWithItsBlanks) {
     EXPECT_EQ(Result("-DUPE-    ", MarkAction::Mark), "");
     // The text before the slash decides: the country of the shorter prefix, not the one named.
     EXPECT_EQ(Result("VP8/H     ", MarkAction::Mark), "VP8       ");
-    EXPECT_EQ(giMult, 2);
+    EXPECT_EQ(desk().giMult, 2);
 }
 
 TEST_F(Lookup, OutsideEuropeSetsSixPointsWithEveryAction) {
     for (const MarkAction handling : {MarkAction::Mark, MarkAction::Mark, MarkAction::Test, MarkAction::Unmark, MarkAction::Unmark}) {
-        giQSOPoint = 3;
+        desk().giQSOPoint = 3;
         Result("K1ABC", handling);
-        EXPECT_EQ(giQSOPoint, 6);
+        EXPECT_EQ(desk().giQSOPoint, 6);
     }
-    giQSOPoint = 3;
+    desk().giQSOPoint = 3;
     Result("DL1ABC", MarkAction::Mark);
-    EXPECT_EQ(giQSOPoint, 3);
+    EXPECT_EQ(desk().giQSOPoint, 3);
 }
 
 TEST_F(Lookup, TheEuropeanAreasOfAnAsianCountryKeepTheirPoints) {
-    giQSOPoint = 3;
+    desk().giQSOPoint = 3;
     Result("TA1ABC", MarkAction::Mark);
-    EXPECT_EQ(giQSOPoint, 3);
+    EXPECT_EQ(desk().giQSOPoint, 3);
     Result("TA0ABC", MarkAction::Test);
-    EXPECT_EQ(giQSOPoint, 3);
+    EXPECT_EQ(desk().giQSOPoint, 3);
     Result("TA2ABC", MarkAction::Test);
-    EXPECT_EQ(giQSOPoint, 6);
+    EXPECT_EQ(desk().giQSOPoint, 6);
 }
 
 TEST_F(Lookup, TheEuropeanAreaIsReadFromTheCallAsGiven) {
     // The country text is TA1ABC, but the call begins TA2.
-    giQSOPoint = 3;
+    desk().giQSOPoint = 3;
     Result("TA2ABC/1", MarkAction::Test);
-    EXPECT_EQ(giQSOPoint, 6);
+    EXPECT_EQ(desk().giQSOPoint, 6);
 }
 
 TEST_F(Lookup, ACallOfOneFigureCountsAsEuropean) {
     Prefix("1", "K");
     IndexPrefixes();
-    giQSOPoint = 3;
+    desk().giQSOPoint = 3;
     EXPECT_EQ(Result("1", MarkAction::Test), "K         ");
-    EXPECT_EQ(giQSOPoint, 3);
+    EXPECT_EQ(desk().giQSOPoint, 3);
 }
 
 TEST_F(Lookup, TheStatusTellsNewAndWorked) {
@@ -165,7 +166,7 @@ TEST_F(Lookup, ASingleCharacterIsNotReported) {
 }
 
 TEST_F(Lookup, SwitchedOffTheStatusIsLeftAsItWas) {
-    gbVisLand = false;
+    desk().gbVisLand = false;
     EXPECT_EQ(Status("DL1ABC"), "as the caller had it");
     EXPECT_EQ(Status("XZ9XYZ"), "as the caller had it");
 }
@@ -194,13 +195,13 @@ TEST_F(Lookup, ClearingTheMarksLeavesTheCountToTheCaller) {
     Result("DL1ABC", MarkAction::Mark);
     Result("K1ABC", MarkAction::Mark);
     ResetLande();
-    EXPECT_EQ(giMult, 2);
+    EXPECT_EQ(desk().giMult, 2);
     EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
     EXPECT_EQ(Result("K1ABC", MarkAction::Test), "K         ");
 }
 
 TEST_F(Lookup, InAFullTableOnlyAWholeRowIsFound) {
-    while (giRefPfx < kPrefixRows) Prefix("YY", "K");
+    while (desk().tables.giRefPfx < kPrefixRows) Prefix("YY", "K");
     IndexPrefixes();
     EXPECT_EQ(Result("YY", MarkAction::Test), "K         ");
     // Looking for the whole call comes first and has run beyond the table before the prefix is tried.
@@ -216,20 +217,20 @@ TEST_F(Lookup, CountNeverLeavesTheMarks) {
     std::uniform_int_distribution<int> action(0, 2);
     for (int round = 0; round < 5000; ++round) {
         const auto handling = static_cast<MarkAction>(action(random));
-        const int before = giMult;
+        const int before = desk().giMult;
         const std::string result = Result(calls[call(random)], handling);
         int marked = 0;
-        for (int row = 1; row <= giLande; ++row) marked += Lande[static_cast<std::size_t>(row)].Wkd ? 1 : 0;
-        ASSERT_EQ(giMult, marked);
+        for (int row = 1; row <= desk().tables.giLande; ++row) marked += desk().tables.Lande[static_cast<std::size_t>(row)].Wkd ? 1 : 0;
+        ASSERT_EQ(desk().giMult, marked);
         const int moved = handling == MarkAction::Mark ? 1 : handling == MarkAction::Unmark ? -1 : 0;
-        ASSERT_EQ(giMult - before, result.empty() ? 0 : moved);
+        ASSERT_EQ(desk().giMult - before, result.empty() ? 0 : moved);
     }
 }
 
 /// The search as a scan, row by row.
 int Scanned(std::string_view s, int start, bool whole) {
-    for (int i = std::max(start, 1); i <= giRefPfx; ++i) {
-        const std::string_view pfx = RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed();
+    for (int i = std::max(start, 1); i <= desk().tables.giRefPfx; ++i) {
+        const std::string_view pfx = desk().tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed();
         if (whole ? pfx == s : s.substr(0, pfx.size()) == pfx) return i;
     }
     return 0;
@@ -247,7 +248,8 @@ TEST(PrefixSearch, FindsTheRowThatAScanFinds) {
     for (int table = 0; table < 60; ++table) {
         ResetTables();
         const int rows = std::uniform_int_distribution<int>(0, 80)(random);
-        for (giRefPfx = 0; giRefPfx < rows;) RefPfx[static_cast<std::size_t>(++giRefPfx)].Pfx = text(5);
+        for (desk().tables.giRefPfx = 0; desk().tables.giRefPfx < rows;)
+            desk().tables.RefPfx[static_cast<std::size_t>(++desk().tables.giRefPfx)].Pfx = text(5);
         IndexPrefixes();
         for (int round = 0; round < 200; ++round) {
             const std::string call = text(8);
@@ -261,7 +263,8 @@ TEST(PrefixSearch, FindsTheRowThatAScanFinds) {
 
 TEST(PrefixSearch, RunsOneRowBeyondAFullTable) {
     ResetTables();
-    for (giRefPfx = 0; giRefPfx < kPrefixRows;) RefPfx[static_cast<std::size_t>(++giRefPfx)].Pfx = "DL";
+    for (desk().tables.giRefPfx = 0; desk().tables.giRefPfx < kPrefixRows;)
+        desk().tables.RefPfx[static_cast<std::size_t>(++desk().tables.giRefPfx)].Pfx = "DL";
     IndexPrefixes();
     EXPECT_EQ(FindPrefix("DL1ABC", 1), 1);
     EXPECT_EQ(FindPrefix("DL1ABC", 6000), 6000);
@@ -278,7 +281,8 @@ TEST(PrefixSearch, RunsOneRowBeyondAFullTable) {
 
 TEST(PrefixSearch, OneRowLessThanFullFindsNothingAndIsNoFailure) {
     ResetTables();
-    for (giRefPfx = 0; giRefPfx < kPrefixRows - 1;) RefPfx[static_cast<std::size_t>(++giRefPfx)].Pfx = "DL";
+    for (desk().tables.giRefPfx = 0; desk().tables.giRefPfx < kPrefixRows - 1;)
+        desk().tables.RefPfx[static_cast<std::size_t>(++desk().tables.giRefPfx)].Pfx = "DL";
     IndexPrefixes();
     EXPECT_EQ(FindWholeCall("XZ9XYZ", 0), 0);
     EXPECT_EQ(FindPrefix("XZ9XYZ", 0), 0);

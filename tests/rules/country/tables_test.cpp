@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "country/tables.h"
+#include "frame/state.h"
 
 #include "codepage.h"
 #include "rules/country/country_program.h"
@@ -22,13 +23,13 @@ protected:
         files.files["DATA\\REFPFX.TXT"] = std::move(lines);
         IndlæsRefPfx();
     }
-    static const PfxRec& Prefix(int row) { return RefPfx[static_cast<std::size_t>(row)]; }
-    static int Start(char c) { return gaPfxStart[static_cast<unsigned char>(c)]; }
+    static const PfxRec& Prefix(int row) { return desk().tables.RefPfx[static_cast<std::size_t>(row)]; }
+    static int Start(char c) { return desk().tables.gaPfxStart[static_cast<unsigned char>(c)]; }
 };
 
 TEST_F(Tables, ReadTheColumnsOfACountry) {
     LoadLande({"QQ        Fantasia                 EU -1 ", "QS        A Country With A LongnameOC  5.5 "});
-    ASSERT_EQ(giLande, 2);
+    ASSERT_EQ(desk().tables.giLande, 2);
     EXPECT_EQ(Country(1).Pfx.Padded(), "QQ        ");
     EXPECT_EQ(Country(1).Navn.Trimmed(), "Fantasia");
     EXPECT_EQ(Country(1).Kontinent.Padded(), "EU");
@@ -41,7 +42,7 @@ TEST_F(Tables, ReadTheColumnsOfACountry) {
 TEST_F(Tables, ReadTheColumnsOfAPrefix) {
     LoadRefPfx({"QQ1       QQ        14 27", "QQ2       QQ        15 27", "QQ8ABC    QQ        14 27", "QQ        QQ        14 27",
                 "QR        QQ        14 28"});
-    ASSERT_EQ(giRefPfx, 5);
+    ASSERT_EQ(desk().tables.giRefPfx, 5);
     EXPECT_EQ(Prefix(2).Pfx.Padded(), "QQ2       ");
     EXPECT_EQ(Prefix(2).Land.Padded(), "QQ        ");
     EXPECT_EQ(Prefix(2).CQzone.Padded(), "15");
@@ -60,8 +61,8 @@ TEST_F(Tables, RowZeroIsNeverFilled) {
 TEST_F(Tables, EmptyFilesLoadInSilence) {
     LoadLande({});
     LoadRefPfx({});
-    EXPECT_EQ(giLande, 0);
-    EXPECT_EQ(giRefPfx, 0);
+    EXPECT_EQ(desk().tables.giLande, 0);
+    EXPECT_EQ(desk().tables.giRefPfx, 0);
 }
 
 TEST_F(Tables, MissingFilesAreTold) {
@@ -77,12 +78,12 @@ TEST_F(Tables, MissingFilesAreTold) {
 TEST_F(Tables, FiveHundredCountriesFitAndOneMoreIsTold) {
     std::vector<std::string> lines(500, "QQ        Fantasia                 EU -1 ");
     LoadLande(lines);
-    EXPECT_EQ(giLande, 500);
+    EXPECT_EQ(desk().tables.giLande, 500);
 
     lines.emplace_back("QS        One Too Many             EU -1 ");
     dialogs.Expect(kLandeMangler);
     LoadLande(lines);
-    EXPECT_EQ(giLande, 501) << "the row that failed is counted";
+    EXPECT_EQ(desk().tables.giLande, 501) << "the row that failed is counted";
     EXPECT_EQ(CountriesInUse(), 500);
     EXPECT_EQ(Country(500).Pfx.Trimmed(), "QQ");
     EXPECT_FALSE(files.IsOpen());
@@ -91,12 +92,12 @@ TEST_F(Tables, FiveHundredCountriesFitAndOneMoreIsTold) {
 TEST_F(Tables, SixThousandPrefixesFitAndOneMoreIsTold) {
     std::vector<std::string> lines(6000, "QQ        QQ        14 27");
     LoadRefPfx(lines);
-    EXPECT_EQ(giRefPfx, 6000);
+    EXPECT_EQ(desk().tables.giRefPfx, 6000);
 
     lines.emplace_back("QS        QQ        14 27");
     dialogs.Expect(kRefPfxMangler);
     LoadRefPfx(lines);
-    EXPECT_EQ(giRefPfx, 6001);
+    EXPECT_EQ(desk().tables.giRefPfx, 6001);
     EXPECT_FALSE(files.IsOpen());
 }
 
@@ -104,7 +105,7 @@ TEST_F(Tables, ANumberThatCannotBeReadEndsTheLoadWithItsRow) {
     dialogs.Expect(kLandeMangler);
     LoadLande({"DL        Fed. Rep. of Germany     EU -1 ", "F         France                   EU x ",
                "G         England                  EU  0 "});
-    EXPECT_EQ(giLande, 2);
+    EXPECT_EQ(desk().tables.giLande, 2);
     EXPECT_EQ(Country(2).Navn.Trimmed(), "France");
     EXPECT_EQ(Country(3).Pfx.Trimmed(), "");
 }

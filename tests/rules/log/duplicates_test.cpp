@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "log/duplicates.h"
+#include "frame/state.h"
 
 #include <random>
 
@@ -24,11 +25,11 @@ protected:
         for (const std::string& line : lines) frmMain->List1.AddItem(line);
     }
     static bool IsDuplicate(std::string call) {
-        gsCall = call;
-        StripCall(gsCall);
-        gbDupe = !gbDupe;
+        desk().gsCall = call;
+        StripCall(desk().gsCall);
+        desk().gbDupe = !desk().gbDupe;
         CheckDupe();
-        return gbDupe;
+        return desk().gbDupe;
     }
 };
 

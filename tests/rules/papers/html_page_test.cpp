@@ -57,7 +57,7 @@ protected:
             }
             WriteHtmlSectionEnd(page);
         }
-        DanHtmSummary(page, context, TallyLogs(logs, context.call));
+        DanHtmSummary(page, context, TallyLogs(logs, stations, context.call));
         WriteHtmlEnd(page);
         return page.lines;
     }

@@ -18,6 +18,7 @@
 #include "errors.h"
 #include "papers/context.h"
 #include "papers/logs.h"
+#include "score/stations.h"
 
 namespace vatro {
 
@@ -113,6 +114,7 @@ protected:
     void Log(const std::string& bandMode, const Lines& lines) { logs.logs[bandMode] = lines; }
 
     ListedLogs logs;
+    Stations stations;
     PaperContext context{"OZ1AB/P", "A", "12345678", {}, {2026, 9, 5, 15, 0, 0, 0}, "1.2.3"};
 };
 

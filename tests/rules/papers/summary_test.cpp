@@ -39,7 +39,7 @@ class Summary : public Papers {
 protected:
     Lines Sheet() {
         WrittenLines sheet;
-        WriteSummary(sheet, context, TallyLogs(logs, context.call));
+        WriteSummary(sheet, context, TallyLogs(logs, stations, context.call));
         EXPECT_FALSE(logs.open);
         return sheet.lines;
     }
@@ -210,16 +210,16 @@ TEST_F(Summary, KeepsWhatWasCountedBeforeAFailureAndLeavesTheLogOpen) {
 TEST_F(Summary, FailsWhenAScoreOverflows) {
     // 4,700 multipliers times 465,300 points.
     Log("80mCW", Times(4700, Contact({.points = 99, .mult = "DL"})));
-    EXPECT_THROW(TallyLogs(logs, {}), RunTimeError);
+    EXPECT_THROW(TallyLogs(logs, stations, {}), RunTimeError);
 }
 
 TEST_F(Summary, FailsWhenOnlyTheTotalOverflows) {
     // 4,000 times 396,000 in each of two bands fits, 8,000 times 792,000 does not.
     const Lines log = Times(4000, Contact({.points = 99, .mult = "DL"}));
     Log("80mCW", log);
-    EXPECT_EQ(TallyLogs(logs, {}).Total.Score, 1'584'000'000);
+    EXPECT_EQ(TallyLogs(logs, stations, {}).Total.Score, 1'584'000'000);
     Log("10mSSB", log);
-    EXPECT_THROW(TallyLogs(logs, {}), RunTimeError);
+    EXPECT_THROW(TallyLogs(logs, stations, {}), RunTimeError);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "score/points.h"
+#include "frame/state.h"
 
 #include "country/lookup.h"
 #include "country/tables.h"
@@ -14,9 +15,9 @@ class Points : public RunningProgram {
 protected:
     void SetUp() override {
         BeginProgram();
-        gsFDLib = "data";
-        gbVisLand = true;
-        giMult = 0;
+        desk().gsFDLib = "data";
+        desk().gbVisLand = true;
+        desk().giMult = 0;
         ResetTables();
         files.files["DATA\\LANDE.TXT"] = {"DL        Fed. Rep. of Germany     EU -1 ", "K         United States            NA  5 ",
                                           "OZ        Denmark                  EU -1 ", "TA        Turkey                   AS -2 "};
@@ -35,9 +36,9 @@ protected:
         IndlæsEDR();
     }
     static int Of(const std::string& call) {
-        giQSOPoint = 99;
+        desk().giQSOPoint = 99;
         BeregnPoint(call);
-        return giQSOPoint;
+        return desk().giQSOPoint;
     }
 };
 
@@ -94,7 +95,7 @@ TEST_F(Points, OfAnUnknownPrefixAreNoneWhileCountriesAreShown) {
     EXPECT_EQ(Of("XZ9XYZ"), 0);
     EXPECT_EQ(Of("XZ9ABC"), 0);
     EXPECT_EQ(Of("OU1ABC"), 0);
-    gbVisLand = false;
+    desk().gbVisLand = false;
     EXPECT_EQ(Of("XZ9XYZ"), 10);
     EXPECT_EQ(Of("XZ9ABC"), 3);
     EXPECT_EQ(Of("XZ9ABC/P"), 5);
@@ -111,9 +112,9 @@ TEST_F(Points, OfASuffixWithoutACallAreThreeAndNothingIsLookedUp) {
 TEST_F(Points, ChangeNoMarks) {
     Of("DL1ABC");
     Of("OZ1ABC");
-    EXPECT_EQ(giMult, 0);
-    EXPECT_FALSE(Lande[1].Wkd);
-    EXPECT_FALSE(EDRstn[1].Wkd);
+    EXPECT_EQ(desk().giMult, 0);
+    EXPECT_FALSE(desk().tables.Lande[1].Wkd);
+    EXPECT_FALSE(desk().stations.EDRstn[1].Wkd);
 }
 
 TEST_F(Points, DoNotDependOnWhatWasWorkedBefore) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "score/stations.h"
+#include "frame/state.h"
 
 #include "frame/station.h"
 #include "running_program.h"
@@ -12,19 +13,19 @@ class Stations : public RunningProgram {
 protected:
     void SetUp() override {
         ClearStations();
-        gsFDLib = "data";
+        desk().gsFDLib = "data";
     }
     void TearDown() override { ClearStations(); }
     void Load(std::vector<std::string> lines) {
         files.files["DATA\\EDR.TXT"] = std::move(lines);
         IndlæsEDR();
     }
-    static bool Worked(int row) { return EDRstn[static_cast<std::size_t>(row)].Wkd; }
+    static bool Worked(int row) { return desk().stations.EDRstn[static_cast<std::size_t>(row)].Wkd; }
     /// Points after the call was handled, 3 before.
     static int Handle(std::string call, MarkAction handling) {
-        giQSOPoint = 3;
+        desk().giQSOPoint = 3;
         EDRstnWkd(call, handling);
-        return giQSOPoint;
+        return desk().giQSOPoint;
     }
     static std::string Name(std::string_view call) {
         std::string text = "as it was";

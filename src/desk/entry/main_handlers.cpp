@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+//
+// The handlers of the entry form: its fields, its coming up and its end. The menu's stand in menu_clicks.cpp.
+#include "call/call_analysis.h"
+#include "correction/frmRetQSO.h"
+#include "entry/clock.h"
+#include "entry/frmB4.h"
+#include "entry/frmContestCall.h"
+#include "entry/frmMain.h"
+#include "entry/frmQSOnr.h"
+#include "entry/menu_clicks.h"
+#include "entry/next_contact.h"
+#include "entry/operators.h"
+#include "entry/qso_fields.h"
+#include "entry/validation.h"
+#include "exchange/frmVisTekst.h"
+#include "frame/band_mode.h"
+#include "frame/log_file.h"
+#include "frame/settings.h"
+#include "frame/state.h"
+#include "keyer/texts.h"
+#include "log/duplicates.h"
+#include "platform.h"
+#include "tables/worked.h"
+
+namespace vatro {
+
+namespace {
+
+/// Keeps the list of the form in step with the log.
+class ShownLog : public LogObserver {
+public:
+    void Cleared() override {
+        if (ListBox* list = List()) list->Clear();
+    }
+    void Appended(const std::string& line) override {
+        if (ListBox* list = List()) list->AddItem(line);
+    }
+    void Replaced(std::size_t row, const std::string& line) override {
+        if (ListBox* list = List()) list->SetList(static_cast<int>(row), line);
+    }
+
+private:
+    static ListBox* List() { return frmMain.Loaded() ? &frmMain->List1 : nullptr; }
+};
+
+class EntryForm : public FrmMain {
+public:
+    EntryForm();
+
+    void Form_Load() override;
+    void Form_Unload() override;
+    void StoreState() override;
+    void Form_Resize() override;
+
+private:
+    void BindFields();
+    void Text1_Change(int Index);
+    void Text1_GotFocus(int Index);
+    void Text1_LostFocus(int Index);
+};
+
+EntryForm::EntryForm() {
+    static ShownLog shownLog;
+    desk().log.Observe(&shownLog);
+    BindFields();
+    BindMenu(*this);
+}
+
+void EntryForm::BindFields() {
+    for (int i = kUtcField; i <= kNumberReceivedField; ++i) {
+        TextBox& field = Text1[i];
+        field.KeyPress = [this, i](KeyCode& key) { HandleFieldKey(Text1, i, key, ValiderQSO); };
+        field.KeyFilter = [i](KeyCode& key) { FilterFieldKey(i, key); };
+        field.Change = [this, i] { Text1_Change(i); };
+        field.GotFocus = [this, i] { Text1_GotFocus(i); };
+        field.LostFocus = [this, i] { Text1_LostFocus(i); };
+    }
+    Check1.KeyPress = [](KeyCode& key) {
+        if (key == kEnter) ValiderQSO();
+    };
+    Command1.Click = ValiderQSO;
+    List1.KeyPress = [](KeyCode& key) {
+        if (key == kEnter) CorrectLine();
+    };
+    List1.DblClick = CorrectLine;
+    Combo1.KeyPress = [this](KeyCode& key) { OperatørTast(Combo1, key); };
+    Combo1.KeyFilter = [this](KeyCode& key) { OperatorFilter(Combo1, key); };
+    Combo1.Click = [this] { OperatørValgt(Combo1); };
+    Combo1.LostFocus = [this] {
+        OperatørTjek(Combo1, true);
+        GemOperatører(Combo1);
+    };
+    Timer1.OnTimer = TimerTick;
+    Toolbar1.ButtonClick = ChangeBandMode;
+}
+
+void EntryForm::Form_Load() {
+    MoveTo(ReadTwips(kMainLeftKey, 1000), ReadTwips("MainTop", 1000));
+    desk().gsBand = ReadText(kSettings, "Band", "80m");
+    desk().gsMode = ReadText(kSettings, "Mode", "SSB");
+    desk().gsQsoMode = ReadText(kSettings, "QsoMode", "SSB");
+    desk().gbAutoTid = static_cast<std::int16_t>(ReadNumber(kSettings, "AutoTid", 1));
+    desk().gbVisLand = ReadFlag(kSettings, "VisLand", true);
+    desk().gsLogLib = ReadText(kSettings, "gsLogLib");
+    desk().gsBackupLib = ReadText(kSettings, "gsBackupLib");
+    SetCaption("Vatro " + desk().gsMyCall);
+    if (desk().gbAutoTid == 1)
+        TimerStart();
+    else
+        TimerStop();
+    mnuVisLand.SetTicked(desk().gbVisLand);
+    ShowContestClass(*this);
+    SetCwMenuTekster();
+
+    // All side windows come up at every start; their ticks are not kept.
+    frmB4->Show();
+    mnuVisB4.SetTicked(true);
+    Show();
+    frmQSOnr->Show();
+    mnuVisQSOnr.SetTicked(true);
+    frmContestCall->Show();
+    mnuViewContestCall.SetTicked(true);
+
+    SetToolbar();
+    for (MenuItem* entry : BandEntries())
+        if (entry->Index() == BandIndex(desk().gsBand) || entry->Index() == ModeIndex(desk().gsQsoMode)) entry->SetTicked(true);
+    mnuCW.SetEnabled(desk().gsQsoMode == "CW");
+
+    if (desk().gsLogLib.empty()) mnuFilerSætLogbibliotek.Click();
+    IndlæsLogfil();
+    LæsOperatører(Combo1, desk().gsOperatør.Padded());
+    ResetQSO();
+    up = true;
+    if (desk().gbVisInfo) VisStartInfo();
+    // Again, so that the time spent loading does not shift the clock.
+    if (desk().gbAutoTid == 1) TimerStart();
+}
+
+void EntryForm::Form_Resize() {
+    const bool show = State() != WindowState::Minimised;
+    const auto toggle = [show](const MenuItem& entry, auto& window) {
+        if (!entry.Ticked() || window->Visible() == show) return;
+        if (show)
+            window->Show();
+        else
+            window->Hide();
+    };
+    toggle(mnuVisQSOnr, frmQSOnr);
+    toggle(mnuVisB4, frmB4);
+    if (show && Visible()) SetFocus();
+}
+
+void EntryForm::Form_Unload() {
+    // More than thirty values: the disk takes them in one piece.
+    const SettingsBatch together(platform().settings);
+    SetHourglass(true);
+    GemOperatører(Combo1);
+    // The keyer lets other events run while it goes, which may close windows too.
+    for (std::size_t i = LoadedForms().size(); i-- > 1;)
+        if (i < LoadedForms().size()) LoadedForms()[i]->Unload();
+    StoreState();
+    SetHourglass(false);
+}
+
+void EntryForm::StoreState() {
+    if (State() != WindowState::Minimised) {
+        StoreNumber(kSettings, kMainLeftKey, Left());
+        StoreNumber(kSettings, "MainTop", Top());
+    }
+    StoreText(kSettings, "gsKlasse", desk().gsKlasse);
+    StoreText(kSettings, "gsFDlib", desk().gsFDLib);
+    StoreText(kSettings, "gsLoglib", desk().gsLogLib);
+    StoreText(kSettings, "gsBackupLib", desk().gsBackupLib);
+    StoreText(kSettings, "Band", desk().gsBand);
+    StoreText(kSettings, "Mode", desk().gsMode);
+    StoreText(kSettings, "QsoMode", desk().gsQsoMode);
+    StoreNumber(kSettings, "AutoTid", desk().gbAutoTid);
+    StoreFlag(kSettings, "VisLand", desk().gbVisLand);
+    StoreText(kSettings, "MyCall", desk().gsMyCall);
+    StoreText(kSettings, "UTC", desk().gsUTC);
+    StoreText(kSettings, "gsTelefon", desk().gsTelefon);
+    StoreText(kSettings, "LastOP", desk().gsOperatør.Padded());
+    StoreFlag(kSettings, "VisInfo2002", desk().gbVisInfo);
+}
+
+void EntryForm::Text1_Change(int Index) {
+    if (Index != kCallField) return;
+    const TextBox& field = Text1[kCallField];
+    if (field.Text().size() < 2) frmB4->List1.Clear();
+    if (!field.Text().empty()) {
+        sbStatusBar.SetPanel(1, ShownCountry(field.Text()).text);
+    }
+    if (field.Text().size() > 1) frmB4->ShowContacts(WkdB4(field.Text(), desk().log.Lines()));
+    frmQSOnr->visQSOnr();
+}
+
+void EntryForm::Text1_GotFocus(int Index) {
+    // A time being typed is not overwritten: the clock stands still until the contact is logged.
+    if (Index == kUtcField) TimerStop();
+    if (Index == kUtcField || Index == kReportSentField || Index == kReportReceivedField) Text1[Index].SelectAll();
+}
+
+void EntryForm::Text1_LostFocus(int Index) {
+    if (Index != kCallField) return;
+    desk().gsCall = StripCall(Text1[kCallField].Text());
+    if (desk().gsCall.size() > 1)
+        if (const auto station = desk().stations.findEDRstn(desk().gsCall)) sbStatusBar.SetPanel(1, *station);
+    NoteDuplicate();
+    if (desk().gbDupe) {
+        frmQSOnr->visDupe();
+        sbStatusBar.SetPanel(1, kDupeWarning);
+    }
+}
+
+}  // namespace
+
+FormSlot<FrmMain> frmMain{"frmMain", [] { return std::make_unique<EntryForm>(); }};
+
+}  // namespace vatro

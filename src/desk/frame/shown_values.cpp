@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "frame/shown_values.h"
+
+#include <array>
+
+#include "codepage.h"
+#include "frame/state.h"
+#include "keyer/keyer_settings.h"
+#include "keyer/texts.h"
+#include "morse/synthesis.h"
+
+namespace vatro {
+
+using namespace literals;
+
+namespace {
+
+ShownValue Shown(const std::string& text) {
+    return text;
+}
+ShownValue Shown(const FixedText<6>& text) {
+    return std::string(text.Padded());
+}
+ShownValue Shown(bool flag) {
+    return flag;
+}
+ShownValue Shown(std::int32_t number) {
+    return number;
+}
+
+struct Variable {
+    std::string_view name;
+    ShownValue (*value)();
+};
+
+constexpr std::array kVariables{
+    Variable{"gsBand", [] { return Shown(desk().gsBand); }},
+    Variable{"gsMode", [] { return Shown(desk().gsMode); }},
+    Variable{"gsQsoMode", [] { return Shown(desk().gsQsoMode); }},
+    Variable{"gsLogLib", [] { return Shown(desk().gsLogLib); }},
+    Variable{"gsFDLib", [] { return Shown(desk().gsFDLib); }},
+    Variable{"gsBackupLib", [] { return Shown(desk().gsBackupLib); }},
+    Variable{"gsUTC", [] { return Shown(desk().gsUTC); }},
+    Variable{"gbAutoTid", [] { return Shown(desk().gbAutoTid); }},
+    Variable{"gbVisLand", [] { return Shown(desk().gbVisLand); }},
+    Variable{"gbVisInfo", [] { return Shown(desk().gbVisInfo); }},
+    Variable{"gsMyCall", [] { return Shown(desk().gsMyCall); }},
+    Variable{"gsKlasse", [] { return Shown(desk().gsKlasse); }},
+    Variable{"gsTelefon", [] { return Shown(desk().gsTelefon); }},
+    Variable{"gsOperatør"_t, [] { return Shown(desk().gsOperatør); }},
+    Variable{"gsCall", [] { return Shown(desk().gsCall); }},
+    Variable{"gbDupe", [] { return Shown(desk().gbDupe); }},
+    Variable{"giQSOPoint", [] { return Shown(desk().giQSOPoint); }},
+    Variable{"giQSOnr", [] { return Shown(desk().log.giQSOnr); }},
+    Variable{"glPoint", [] { return Shown(desk().log.glPoint); }},
+    Variable{"giMult", [] { return Shown(desk().giMult); }},
+    Variable{"giLande", [] { return Shown(desk().tables.giLande); }},
+    Variable{"giRefPfx", [] { return Shown(desk().tables.giRefPfx); }},
+    Variable{"giEDR", [] { return Shown(desk().stations.giEDR); }},
+    Variable{"giCWWPM", [] { return Shown(giCWWPM); }},
+    Variable{"giCWTone", [] { return Shown(giCWTone); }},
+    Variable{"glCWVolume", [] { return Shown(glCWVolume); }},
+    Variable{"giCWFarnsworth", [] { return Shown(giCWFarnsworth); }},
+    Variable{"gsCWNummerFormat", [] { return Shown(gsCWNummerFormat); }},
+    Variable{"gsCWRSTFormat", [] { return Shown(gsCWRSTFormat); }},
+    Variable{"gsCWRaa", [] { return Shown(gsCWRaa); }},
+    Variable{"gsCWCall", [] { return Shown(gsCWCall); }},
+    Variable{"gsCWRST", [] { return Shown(gsCWRST); }},
+    Variable{"gsCWNummer", [] { return Shown(gsCWNummer); }},
+    Variable{"gsCWTekst", [] { return Shown(gsCWTekst); }},
+    Variable{"Priklen", [] { return Shown(Priklen); }},
+    Variable{"glTegnPos", [] { return Shown(glTegnPos); }},
+    Variable{"gscwtegn", [] { return Shown(gscwtegn); }},
+    Variable{"glElementPos", [] { return Shown(glElementPos); }},
+    Variable{"gsElement", [] { return Shown(gsElement); }},
+    Variable{"glCWSlat", [] { return Shown(glCWSlat); }},
+};
+
+}  // namespace
+
+std::optional<ShownValue> FindShownValue(std::string_view name) {
+    for (const Variable& variable : kVariables)
+        if (variable.name == name) return variable.value();
+    return std::nullopt;
+}
+
+}  // namespace vatro

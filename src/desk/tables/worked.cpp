@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "tables/worked.h"
+
+#include "frame/state.h"
+#include "log/duplicates.h"
+#include "numbers.h"
+#include "score/points.h"
+
+namespace vatro {
+
+std::string NoteCountry(std::string_view call, MarkAction action) {
+    const WorkedCountries::Result result = desk().countries.LandWkd(call, action);
+    if (result.points) desk().giQSOPoint = *result.points;
+    if (result.changed && action != MarkAction::Test) desk().giMult = ToInt16(desk().giMult + (action == MarkAction::Mark ? 1 : -1));
+    return std::string(result.resultat);
+}
+
+void NoteStation(std::string_view call, MarkAction action) {
+    if (const auto points = desk().stations.EDRstnWkd(call, action)) desk().giQSOPoint = *points;
+}
+
+void NotePoints(std::string_view call) {
+    desk().giQSOPoint = BeregnPoint(call, desk().tables, desk().stations, desk().gbVisLand);
+}
+
+CountryStatus ShownCountry(std::string_view call) {
+    if (!desk().gbVisLand) return {};
+    return desk().countries.LandStatusTekst(call);
+}
+
+void NoteDuplicate() {
+    // A call is sought when its field is left and again at Enter: the second time the answer is still good, unless the log
+    // has become another one.
+    DeskState::DuplicateSearch& last = desk().lastSearch;
+    const Log& log = desk().log;
+    if (last.revision != log.Revision() || last.call != desk().gsCall || !last.made)
+        last = {true, desk().gsCall, log.Revision(), CheckDupe(log.Lines(), desk().gsCall)};
+    desk().gbDupe = last.found;
+}
+
+void ClearWorked() {
+    desk().countries.ResetLande();
+    desk().stations.ResetEDR();
+    desk().giMult = 0;
+}
+
+}  // namespace vatro
