@@ -10,8 +10,8 @@
 #include "exchange/ct_import.h"
 #include "log/contact_line.h"
 #include "names.h"
-#include "program.h"
 #include "sample.h"
+#include "started_program.h"
 
 namespace vatro::bench {
 

@@ -10,34 +10,17 @@
 #include <cstring>
 
 #include "keyer/frmCWTX.h"
-#include "keyer/keyer_settings.h"
-#include "morse/synthesis.h"
+#include "morse/keyer.h"
 #include "program.h"
 #include "sample.h"
+#include "started_program.h"
 
 namespace vatro::bench {
 
 namespace {
 
-constexpr int kHalfBytes = kBufferBytes / 2;
+constexpr std::size_t kHalfBytes = kHalfSamples * sizeof(std::int16_t);
 constexpr double kHalfSecond = 0.5;
-
-/// Takes the bytes over and does no more.
-class BareBuffer : public SoundBuffer {
-public:
-    void SetNotificationPositions(std::span<const PositionNotification> positions) override { static_cast<void>(positions); }
-    void Write(int startByte, int size, std::span<const std::int16_t> image) override {
-        const auto sample = static_cast<std::size_t>(startByte / kBytesPerSample);
-        std::memcpy(&samples_[sample], &image[sample], static_cast<std::size_t>(size));
-        benchmark::ClobberMemory();
-    }
-    void SetCurrentPosition(int offset) override { static_cast<void>(offset); }
-    void PlayLooping() override {}
-    void Stop() override {}
-
-private:
-    std::array<std::int16_t, kSamplesPerSecond> samples_{};
-};
 
 void HalfSecond(benchmark::State& state) {
     for (auto _ : state) state.SetIterationTime(kHalfSecond);
@@ -70,25 +53,23 @@ private:
     Program program_;
 };
 
-/// Half after half of a text that does not end, at the highest speed of the arrows.
+/// Half after half of a text that does not end, at the highest speed of the arrows, each copied into a buffer.
 void Fill(benchmark::State& state, const char* yardstick) {
-    Station station;
-    giCWWPM = 60;
-    station.Press("F5");
     std::string text;
     for (int i = 0; i < 1000; ++i) text += "CQ TEST DE OZ1AB/P OZ1AB/P TEST K ";
-    gsCWTekst = text;
-    BareBuffer buffer;
+    Keyer keyer;
+    keyer.SetSpeed(60);
+    keyer.MakePieces(800, 10000);
+    keyer.SetText(text, 0);
+    std::array<std::int16_t, kBufferSamples> buffer{};
     state.SetLabel(yardstick);
-    bool aktiv = true;
-    bool first = true;
+    Half half = Half::First;
     for (auto _ : state) {
-        if (first)
-            FyldDel1(aktiv, buffer);
-        else
-            FyldDel2(aktiv, buffer);
-        first = !first;
-        if (!aktiv) gsElement.clear();
+        const FilledHalf filled = keyer.Fill(half);
+        std::memcpy(&buffer[static_cast<std::size_t>(filled.first)], filled.samples.data(), filled.samples.size_bytes());
+        benchmark::ClobberMemory();
+        half = half == Half::First ? Half::Second : Half::First;
+        if (!filled.active) keyer.Begin();
     }
 }
 

@@ -15,6 +15,7 @@
 #include "frame/station.h"
 #include "program.h"
 #include "sample.h"
+#include "started_program.h"
 #include "tables/frmCtyDat.h"
 #include "unattended.h"
 

@@ -9,9 +9,9 @@
 
 #include "entry/frmB4.h"
 #include "entry/frmMain.h"
-#include "program.h"
 #include "sample.h"
 #include "scan.h"
+#include "started_program.h"
 
 namespace vatro::bench {
 

@@ -9,8 +9,8 @@
 #include "entry/frmMain.h"
 #include "frame/band_mode.h"
 #include "frame/log_file.h"
-#include "program.h"
 #include "sample.h"
+#include "started_program.h"
 
 namespace vatro::bench {
 

@@ -5,9 +5,9 @@
 #include <benchmark/benchmark.h>
 
 #include "country/lookup.h"
-#include "program.h"
 #include "sample.h"
 #include "scan.h"
+#include "started_program.h"
 
 namespace vatro::bench {
 

@@ -22,6 +22,7 @@
 #include "program.h"
 #include "sample.h"
 #include "score/points.h"
+#include "started_program.h"
 #include "tables/unknown.h"
 
 namespace vatro::bench {
@@ -99,7 +100,7 @@ public:
     Station() : program_({}), printer_(noPrinter_) {
         static const std::vector<std::string> sample = SampleLog();
         const Platform& had = platform();
-        InstallPlatform({had.front, had.dialogs, had.settings, files, had.clock, had.help, had.instance, had.sound, printer_, had.version});
+        InstallPlatform({had.dialogs, had.settings, files, had.clock, had.help, had.instance, had.sound, printer_, had.version});
         for (const LogId& log : kTenLogs) WriteLines(Path(log), FaultlessLog(sample, log.mode));
     }
     static std::string Path(const LogId& log) { return LogPath(log.band, log.mode); }
@@ -147,13 +148,13 @@ void LookUp(benchmark::State& state) {
         calls.emplace_back();
         for (const std::string& line : Lines(Station::Path(log))) calls.back().emplace_back(kCall.TrimmedOf(line));
     }
-    std::string land;
+    std::string country;
     for (auto _ : state) {
         for (const std::vector<std::string>& log : calls) {
             ResetLande();
-            for (const std::string& call : log) LandWkd(call, land, MarkAction::Mark);
+            for (const std::string& call : log) LandWkd(call, country, MarkAction::Mark);
         }
-        benchmark::DoNotOptimize(land.data());
+        benchmark::DoNotOptimize(country.data());
     }
 }
 

@@ -9,9 +9,9 @@
 #include <array>
 
 #include "frame/log_file.h"
-#include "program.h"
 #include "recovery.h"
 #include "sample.h"
+#include "started_program.h"
 
 namespace vatro::bench {
 

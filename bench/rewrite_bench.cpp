@@ -11,8 +11,8 @@
 
 #include "entry/frmMain.h"
 #include "frame/log_file.h"
-#include "program.h"
 #include "sample.h"
+#include "started_program.h"
 
 namespace vatro::bench {
 
@@ -62,11 +62,11 @@ void RewriteBare(benchmark::State& state) {
 void Rewrite(benchmark::State& state) {
     const Program program(SampleLog());
     state.SetLabel("vs 10000 lines written, synced, renamed, at most 2");
-    std::string line = frmMain->List1.List(0);
+    std::string line = desk().log.Lines().front();
     for (auto _ : state) {
         // Another received number each time, as a correction has it.
         std::swap(line[35], line[38]);
-        frmMain->List1.SetList(0, line);
+        desk().log.Replace(0, line);
         SkrivLog();
     }
 }

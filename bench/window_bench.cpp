@@ -34,12 +34,13 @@
 #include "entry/frmB4.h"
 #include "entry/frmMain.h"
 #include "frame/start.h"
-#include "front.h"
 #include "log/contact_line.h"
 #include "printer.h"
 #include "program.h"
+#include "qt_front.h"
 #include "sample.h"
 #include "sound_card.h"
+#include "started_program.h"
 #include "unattended.h"
 
 namespace vatro::bench {
@@ -91,7 +92,7 @@ public:
 
     /// Returns when the log is painted.
     void Start() {
-        InstallPlatform({front_, unattended_, settings_, files_, clock_, unattended_, unattended_, sound_, printer_, Version{}});
+        InstallPlatform(front_, {unattended_, settings_, files_, clock_, unattended_, unattended_, sound_, printer_, Version{}});
         BeginProgram();
         Deliver([] { StartProgram(); });
         if (frmMain->List1.ListCount() != kLogLines) throw std::runtime_error("the log was not read");

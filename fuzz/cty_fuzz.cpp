@@ -13,13 +13,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace vatro;
     constexpr std::size_t kRoom = 20;
     try {
-        std::vector<CtyCountry> lande = ReadCtyFile(CtyLines({reinterpret_cast<const char*>(data), size}));
-        CheckCty(lande);
-        FitCty(lande, kRoom);
-        const std::vector<std::string> fitted = WriteCty(lande);
+        std::vector<CtyCountry> countries = ReadCtyFile(CtyLines({reinterpret_cast<const char*>(data), size}));
+        CheckCty(countries);
+        FitCty(countries, kRoom);
+        const std::vector<std::string> fitted = WriteCty(countries);
         std::vector<CtyCountry> again = ReadCtyFile(fitted);
         std::size_t items = 0;
-        for (const CtyCountry& land : again) items += land.items.size();
+        for (const CtyCountry& country : again) items += country.items.size();
         if (items > kRoom || WriteCty(again) != fitted) __builtin_trap();
     } catch (const CtyError&) {
         // Told by the tool.

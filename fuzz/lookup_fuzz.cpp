@@ -50,11 +50,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     IndexPrefixes();
 
-    std::string pfxcall;
-    findPfxCall(call, pfxcall);
+    std::string prefixText;
+    findPfxCall(call, prefixText);
     for (int start = 0; start <= desk().tables.giRefPfx; ++start) {
-        if (FindWholeCall(call, start) != Scan(start, [&](std::string_view pfx) { return pfx == call; })) __builtin_trap();
-        if (FindPrefix(pfxcall, start) != Scan(start, [&](std::string_view pfx) { return pfxcall.starts_with(pfx); })) __builtin_trap();
+        if (FindWholeCall(call, start) != Scan(start, [&](std::string_view prefix) { return prefix == call; })) __builtin_trap();
+        if (FindPrefix(prefixText, start) != Scan(start, [&](std::string_view prefix) { return prefixText.starts_with(prefix); }))
+            __builtin_trap();
     }
 
     std::string base(call);

@@ -9,11 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/state.h"
-#include "frame/station.h"
-#include "keyer/keyer_settings.h"
-#include "keyer/texts.h"
-#include "morse/synthesis.h"
+#include "morse/keyer.h"
+#include "morse/text_codes.h"
 #include "world.h"
 
 namespace {
@@ -24,20 +21,6 @@ constexpr int kVolume = 10000;
 /// The peak wanders a little round the volume.
 constexpr int kLoudest = kVolume + kVolume / 4;
 
-/// Listens to what is written.
-class Ear : public SoundBuffer {
-public:
-    void SetNotificationPositions(std::span<const PositionNotification>) override {}
-    void Write(int startByte, int size, std::span<const std::int16_t> image) override {
-        const auto first = static_cast<std::size_t>(startByte / kBytesPerSample);
-        for (const std::int16_t sample : image.subspan(first, static_cast<std::size_t>(size / kBytesPerSample)))
-            if (std::abs(static_cast<int>(sample)) > kLoudest) __builtin_trap();
-    }
-    void SetCurrentPosition(int) override {}
-    void PlayLooping() override {}
-    void Stop() override {}
-};
-
 /// The most half seconds that a character can take: eight dashes at the speed below, and the pause behind it.
 constexpr std::size_t kHalvesPerCharacter = 3;
 
@@ -46,29 +29,20 @@ constexpr std::size_t kHalvesPerCharacter = 3;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::vector<std::string_view> lines = LinesOf({reinterpret_cast<const char*>(data), size});
     const auto line = [&](std::size_t number) { return number < lines.size() ? std::string(lines[number].substr(0, 60)) : std::string(); };
-    giCWWPM = 60;
-    giCWTone = 800;
-    glCWVolume = kVolume;
-    giCWFarnsworth = 0;
-    gsCWRaa = line(0);
-    gsCWCall = line(1);
-    gsCWNummer = line(2);
-    gsCWRST = line(3);
-    desk().gsMyCall = "OZ1QN";
-    DanCWTekst();
-    if (gsCWTekst.empty() || gsCWTekst.back() != ' ') __builtin_trap();
+    const std::string text = DanCWTekst(line(0), {.call = line(1), .report = line(3), .number = line(2), .ownCall = "OZ1QN"});
+    if (text.empty() || text.back() != ' ') __builtin_trap();
 
-    BeregnPriklen();
-    TildelPladser();
-    DanTone();
-    DanElementer();
-    NulstilStilling();
-    glCWSlat = 0;
-    Ear ear;
+    Keyer keyer;
+    keyer.SetSpeed(60);
+    keyer.MakePieces(800, kVolume);
+    keyer.SetText(text, 0);
     bool active = true;
     for (std::size_t halves = 0; active; ++halves) {
-        if (halves > kHalvesPerCharacter * gsCWTekst.size() + 2) __builtin_trap();
-        halves % 2 == 0 ? FyldDel1(active, ear) : FyldDel2(active, ear);
+        if (halves > kHalvesPerCharacter * text.size() + 2) __builtin_trap();
+        const FilledHalf filled = keyer.Fill(halves % 2 == 0 ? Half::First : Half::Second);
+        for (const std::int16_t sample : filled.samples)
+            if (std::abs(static_cast<int>(sample)) > kLoudest) __builtin_trap();
+        active = filled.active;
     }
     return 0;
 }

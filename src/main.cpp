@@ -16,9 +16,9 @@
 #include "ends.h"
 #include "entry/frmMain.h"
 #include "frame/start.h"
-#include "front.h"
 #include "printer.h"
 #include "program.h"
+#include "qt_front.h"
 #include "safety.h"
 #include "services.h"
 #include "sound_card.h"
@@ -39,16 +39,15 @@ int main(int argc, char** argv) {
     vatro::QtPrinter pages;
     vatro::PageSurface printer(pages);
     vatro::QtDialogs dialogs(&pages);
-    vatro::InstallPlatform({front,
-                            dialogs,
-                            settings,
-                            safety.ProgramFiles(),
-                            clock,
-                            help,
-                            safety.ProgramInstance(),
-                            sound,
-                            printer,
-                            {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
+    vatro::InstallPlatform(front, {dialogs,
+                                   settings,
+                                   safety.ProgramFiles(),
+                                   clock,
+                                   help,
+                                   safety.ProgramInstance(),
+                                   sound,
+                                   printer,
+                                   {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
     const vatro::Desktop desktop(front);
     const vatro::Ends ends(settings);

@@ -25,6 +25,7 @@
 #include "entry/frmMain.h"
 #include "forms.h"
 #include "frame/start.h"
+#include "front.h"
 #include "page.h"
 #include "platform.h"
 #include "program.h"
@@ -173,7 +174,7 @@ class FakeClock : public Clock {
 public:
     DateTime Now() override { return now; }
     double SecondsSinceMidnight() override { return now.hour * 3600 + now.minute * 60 + now.second + now.millisecond / 1000.0; }
-    void Schedule(Timer& timer) override { static_cast<void>(timer); }
+    void Schedule(Ticker& ticker) override { static_cast<void>(ticker); }
     DateTime now{2026, 9, 5, 15, 0, 0, 0};
 };
 
@@ -196,7 +197,6 @@ public:
         if (pending) pending();
     }
     double TextWidth(std::string_view text, const Font& font) override { return 0.6 * font.size * static_cast<double>(text.size()); }
-    double TextHeight(const Font& font) override { return 1.2 * font.size; }
     void Ended() override { ended = true; }
     bool ended = false;
     /// What happens while the program lets events run.
@@ -224,8 +224,7 @@ public:
 class FakeSound : public Sound {
 public:
     struct Buffer : public SoundBuffer {
-        Buffer(FakeSound& on, const SoundBufferDescription& wanted, const WaveFormat& as)
-            : card(on), description(wanted), format(as), samples(static_cast<std::size_t>(wanted.bytes / 2)) {
+        Buffer(FakeSound& on, const SoundFormat& wanted) : card(on), format(wanted), samples(static_cast<std::size_t>(wanted.samples)) {
             card.buffer = this;
         }
         ~Buffer() override {
@@ -236,17 +235,16 @@ public:
         void SetNotificationPositions(std::span<const PositionNotification> wanted) override {
             positions.assign(wanted.begin(), wanted.end());
         }
-        void Write(int startByte, int size, std::span<const std::int16_t> image) override {
-            card.calls.push_back("write " + std::to_string(startByte) + " " + std::to_string(size));
-            std::copy_n(image.begin() + startByte / 2, size / 2, samples.begin() + startByte / 2);
+        void Write(int first, std::span<const std::int16_t> written) override {
+            card.calls.push_back("write " + std::to_string(first) + " " + std::to_string(written.size()));
+            std::ranges::copy(written, samples.begin() + first);
         }
-        void SetCurrentPosition(int offset) override { card.calls.push_back("position " + std::to_string(offset)); }
+        void SetCurrentPosition(int sample) override { card.calls.push_back("position " + std::to_string(sample)); }
         void PlayLooping() override { card.calls.emplace_back("play"); }
         void Stop() override { card.calls.emplace_back("stop"); }
 
         FakeSound& card;
-        SoundBufferDescription description;
-        WaveFormat format;
+        SoundFormat format;
         std::vector<std::int16_t> samples;
         std::vector<PositionNotification> positions;
     };
@@ -263,7 +261,7 @@ public:
 
     bool there = true;
     std::map<SoundEvent, std::function<void(SoundEvent)>> events;
-    /// In their order: "write 0 44100", "position 0", "play", "stop".
+    /// In their order: "write 0 22050" (first sample, how many), "position 0", "play", "stop".
     std::vector<std::string> calls;
     /// The one created last, while it lives.
     Buffer* buffer = nullptr;
@@ -272,9 +270,7 @@ private:
     class Device : public SoundDevice {
     public:
         explicit Device(FakeSound& card) : card_(card) {}
-        std::unique_ptr<SoundBuffer> CreateBuffer(const SoundBufferDescription& description, const WaveFormat& format) override {
-            return std::make_unique<Buffer>(card_, description, format);
-        }
+        std::unique_ptr<SoundBuffer> CreateBuffer(const SoundFormat& format) override { return std::make_unique<Buffer>(card_, format); }
 
     private:
         FakeSound& card_;
@@ -310,7 +306,7 @@ protected:
         files.files["DATA\\EDR.TXT"] = {"OZ1ABC Test, formand"};
         files.files["DATA\\OPERATOR.TXT"] = {"OZ1DEF"};
         settings.texts = {{"SETTINGS/GSLOGLIB", "log"}, {"SETTINGS/LASTOP", "OZ1DEF"}, {"SETTINGS/VISINFO2002", "False"}};
-        InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+        InstallPlatform(front, {dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
     }
     ~RunningProgram() override {
         EndProgram();

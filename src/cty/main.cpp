@@ -44,18 +44,18 @@ void WriteWhole(const std::string& path, const std::vector<std::string>& lines) 
     throw CtyError{path + " kan ikke skrives"};
 }
 
-void Tell(const char* what, const std::vector<std::string>& entries) {
-    if (entries.empty()) return;
-    std::cout << entries.size() << " " << what << ":\n ";
-    for (const std::string& item : entries) std::cout << ' ' << ToUtf8(item);
+void Tell(const char* what, const std::vector<std::string>& items) {
+    if (items.empty()) return;
+    std::cout << items.size() << " " << what << ":\n ";
+    for (const std::string& item : items) std::cout << ' ' << ToUtf8(item);
     std::cout << '\n';
 }
 
 /// Tells what is wrong; whether nothing is.
 bool Check(const std::vector<CtyCountry>& countries) {
-    const std::vector<std::string> error = CheckCty(countries);
-    for (const std::string& line : error) std::cerr << line << '\n';
-    return error.empty();
+    const std::vector<std::string> faults = CheckCty(countries);
+    for (const std::string& fault : faults) std::cerr << fault << '\n';
+    return faults.empty();
 }
 
 int Fit(std::vector<CtyCountry>& countries, const std::string& path) {

@@ -17,6 +17,8 @@ namespace vatro {
 /// Buttons in groups, of which at most one is pressed in each. Buttons are known by their index, from 1.
 class Toolbar : public Control {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     struct ToolButton {
         int index = 0;
         std::string caption;
@@ -44,6 +46,8 @@ private:
 /// Panels of text at the foot of a form, numbered from 1.
 class StatusBar : public Control {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     StatusBar(Form& form, std::string_view name, std::vector<std::string> panels) : Control(form, name), panels_(std::move(panels)) {}
     const std::vector<std::string>& Panels() const { return panels_; }
     /// The panel must exist, here and below.
@@ -65,6 +69,8 @@ struct MenuLook {
 /// An entry of the menu bar or of a menu. Entries form a tree that the form describes.
 class MenuItem : public Control {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     MenuItem(Form& form, MenuItem* menu, std::string_view name, std::string_view caption, int index = -1, MenuLook look = {});
 
     const std::string& Caption() const { return caption_; }

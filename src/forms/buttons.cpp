@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "forms.h"
+#include "form.h"
 
 namespace vatro {
 
@@ -15,11 +15,10 @@ char Frame::AccessLetter() const {
 }
 
 void Frame::UseAccessLetter() {
-    for (Control* control : Parent().Controls()) {
+    for (OptionButton* option : options_) {
         // Of a choice the one that is on.
-        const auto* option = dynamic_cast<OptionButton*>(control);
-        if (option == nullptr || &option->Group() != this || !option->TabStop()) continue;
-        Parent().UserFocus(*control);
+        if (!option->TabStop()) continue;
+        Parent().UserFocus(*option);
         return;
     }
     Parent().UserFocus(*accessTarget_);
@@ -33,26 +32,30 @@ void Button::Press() {
     if (Enabled() && Click) Click();
 }
 
+bool Button::UseDefaultKey(KeyCode key) {
+    if (!Enabled() || !Visible()) return false;
+    if (!(key == kEnter && isDefault) && !(key == kEsc && isCancel)) return false;
+    Press();
+    return true;
+}
+
 void CheckBox::SetValue(bool value) {
     if (Put(value_, value, Aspect::Value) && Click) Click();
 }
 
-std::vector<OptionButton*> OptionButton::Others() const {
-    std::vector<OptionButton*> others;
-    for (Control* control : Parent().Controls()) {
-        auto* option = dynamic_cast<OptionButton*>(control);
-        if (option != nullptr && option != this && &option->group_ == &group_) others.push_back(option);
-    }
-    return others;
+OptionButton::OptionButton(Form& form, std::string_view name, int index, std::string_view caption, Frame& group)
+    : CaptionedControl(form, name, index, caption), group_(group) {
+    group.options_.push_back(this);
 }
 
 bool OptionButton::TabStop() const {
-    return Control::TabStop() && (value_ || std::ranges::none_of(Others(), [](const OptionButton* other) { return other->value_; }));
+    return Control::TabStop() && (value_ || std::ranges::none_of(group_.options_, [](const OptionButton* other) { return other->value_; }));
 }
 
 void OptionButton::SetValue(bool value) {
     if (!Put(value_, value, Aspect::Value) || !value) return;
-    for (OptionButton* other : Others()) other->SetValue(false);
+    for (OptionButton* other : group_.options_)
+        if (other != this) other->SetValue(false);
     if (Click) Click();
 }
 
@@ -64,11 +67,8 @@ void OptionButton::UserChosen(FocusWay way) {
 
 void OptionButton::UserArrow(bool back) {
     std::vector<OptionButton*> round;
-    for (Control* control : Parent().Controls()) {
-        auto* option = dynamic_cast<OptionButton*>(control);
-        if (option == nullptr || &option->group_ != &group_) continue;
+    for (OptionButton* option : group_.options_)
         if (option == this || (option->Enabled() && option->Visible())) round.push_back(option);
-    }
     if (back) std::ranges::reverse(round);
     const auto here = std::ranges::find(round, this);
     OptionButton* next = here + 1 == round.end() ? round.front() : *(here + 1);

@@ -11,17 +11,25 @@
 
 namespace vatro {
 
+class OptionButton;
+
 /// A frame round other controls, with a caption. The access key in the caption leads to `accessTarget`.
 class Frame : public Control {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     Frame(Form& form, std::string_view name, std::string_view caption, Control* accessTarget = nullptr);
     const std::string& Caption() const { return caption_; }
     char AccessLetter() const override;
     void UseAccessLetter() override;
 
 private:
+    friend class OptionButton;
+
     std::string caption_;
     Control* accessTarget_;
+    /// The choices in it, in the order of their declaration.
+    std::vector<OptionButton*> options_;
 };
 
 /// A control that the focus stands in, with a caption whose access letter is its own.
@@ -41,6 +49,8 @@ private:
 /// by Esc.
 class Button : public CaptionedControl {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     Button(Form& form, std::string_view name, std::string_view caption) : CaptionedControl(form, name, -1, caption) {}
     bool isDefault = false;
     bool isCancel = false;
@@ -50,11 +60,18 @@ public:
     /// Runs Click if the button is enabled.
     void Press();
     void UseAccessLetter() override { Press(); }
+    void UserClicked() override { Press(); }
+
+private:
+    bool KeepsEnter() const override { return true; }
+    bool UseDefaultKey(KeyCode key) override;
 };
 
 /// A box that is ticked or not.
 class CheckBox : public CaptionedControl {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     CheckBox(Form& form, std::string_view name, std::string_view caption) : CaptionedControl(form, name, -1, caption) {}
     bool Value() const { return value_; }
     /// Runs Click if the value has become another one.
@@ -63,6 +80,7 @@ public:
     // From the front.
     void Flip() { SetValue(!value_); }
     void UseAccessLetter() override { Flip(); }
+    void UserClicked() override { Flip(); }
 
 private:
     bool value_ = false;
@@ -72,11 +90,12 @@ private:
 /// the next.
 class OptionButton : public CaptionedControl {
 public:
-    OptionButton(Form& form, std::string_view name, int index, std::string_view caption, const Frame& group)
-        : CaptionedControl(form, name, index, caption), group_(group) {}
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
+    /// The frame must be declared before it.
+    OptionButton(Form& form, std::string_view name, int index, std::string_view caption, Frame& group);
     /// Without one that is on, Tab leads to each of them.
     bool TabStop() const override;
-    const Frame& Group() const { return group_; }
     bool Value() const { return value_; }
     /// Turning it on turns the others of its frame off and runs Click, if it was off.
     void SetValue(bool value);
@@ -86,13 +105,12 @@ public:
     /// By the mouse, the blank or an arrow key: takes the focus and is turned on.
     void UserChosen(FocusWay way);
     void UseAccessLetter() override { UserChosen(FocusWay::Key); }
+    void UserClicked() override { UserChosen(FocusWay::Mouse); }
     /// The next one of the frame that can take the focus, round at the end, is chosen.
     void UserArrow(bool back);
 
 private:
-    std::vector<OptionButton*> Others() const;
-
-    const Frame& group_;
+    Frame& group_;
     bool value_ = false;
 };
 

@@ -3,7 +3,7 @@
 
 #include "codepage.h"
 #include "errors.h"
-#include "forms.h"
+#include "form.h"
 
 namespace vatro {
 

@@ -16,6 +16,8 @@
 #include <string>
 #include <string_view>
 
+#include "control_kinds.h"
+
 namespace vatro {
 
 class Form;
@@ -32,15 +34,6 @@ inline constexpr KeyCode kSpace = 32;
 using Colour = int;
 inline constexpr Colour kBlack = 0;
 inline constexpr Colour kRed = 255;
-
-struct Font {
-    std::string name;
-    /// In points.
-    double size = 0;
-    bool bold = false;
-    bool underline = false;
-    friend bool operator==(const Font&, const Font&) = default;
-};
 
 /// How the focus comes to a control: with the mouse, or by key or program.
 enum class FocusWay { Key, Mouse };
@@ -73,6 +66,10 @@ public:
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
+
+    /// What it is, for those that treat the kinds of control in different ways; see by_kind.h.
+    virtual ControlKind Kind() = 0;
+    virtual ConstControlKind Kind() const = 0;
 
     Form& Parent() const { return form_; }
     const std::string& Name() const { return name_; }
@@ -116,6 +113,10 @@ public:
     /// The access letter was pressed: a button is pressed, a check box flipped, a frame leads to its target. The focus
     /// stays where it is unless the control only leads to it.
     virtual void UseAccessLetter() {}
+    /// The mouse has been clicked on it, and the focus has come with it where it takes any.
+    virtual void UserClicked() {
+        if (Click) Click();
+    }
 
 protected:
     void Tell(Aspect aspect, int row = -1) const {
@@ -136,6 +137,12 @@ private:
     virtual void Filter(KeyCode& /*key*/) const {}
     /// The control has got the focus; runs before GotFocus.
     virtual void Entered(FocusWay /*way*/) {}
+    /// Whether Enter is its own while it has the focus, so that it does not press the form's default button.
+    virtual bool KeepsEnter() const { return false; }
+    /// Enter or Esc was pressed somewhere in the form: whether the control has acted on it.
+    virtual bool UseDefaultKey(KeyCode /*key*/) { return false; }
+    /// The form has been unloaded and is not freed yet.
+    virtual void FormUnloaded() {}
 
     Form& form_;
     std::string name_;

@@ -3,7 +3,8 @@
 
 #include <algorithm>
 
-#include "forms.h"
+#include "form.h"
+#include "front.h"
 #include "numbers.h"
 #include "platform.h"
 
@@ -44,7 +45,7 @@ void Label::SetOpaque(bool opaque) {
 }
 
 double Label::TextWidth() const {
-    return platform().front.TextWidth(caption_, font_);
+    return InstalledFront().TextWidth(caption_, font_);
 }
 
 void Picture::UserClicked() {

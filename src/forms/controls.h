@@ -11,14 +11,18 @@
 #include "bars.h"
 #include "buttons.h"
 #include "control.h"
+#include "font.h"
 #include "lists.h"
 #include "text_controls.h"
+#include "ticker.h"
 
 namespace vatro {
 
 /// A line of text that the user does not edit.
 class Label : public Control {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     explicit Label(Form& form, std::string_view name, std::string_view caption = {}, Font font = {});
     /// The name of a field: the access letter in the caption leads to the field.
     Label(Form& form, std::string_view name, int index, std::string_view caption, Control* accessTarget = nullptr);
@@ -54,6 +58,8 @@ private:
 /// A picture of the handbook, stretched to the size of its place. Keys pass it by.
 class Picture : public Control {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     Picture(Form& form, std::string_view name, std::string_view file) : Control(form, name), file_(file) {}
     /// The name of its file.
     const std::string& File() const { return file_; }
@@ -61,7 +67,7 @@ public:
     // From the front.
 
     /// Runs Click if the picture is enabled.
-    void UserClicked();
+    void UserClicked() override;
 
 private:
     std::string file_;
@@ -70,6 +76,8 @@ private:
 /// A bar whose slide stands at a number.
 class ScrollBar : public Control {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     struct Range {
         int min = 0;
         int max = 0;
@@ -100,12 +108,16 @@ private:
 /// A pair of arrows that counts the number in a text field up and down.
 class UpDown : public Control {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     struct Range {
         int min = 0;
         int max = 0;
         int step = 1;
     };
-    UpDown(Form& form, std::string_view name, TextBox& buddy, Range range) : Control(form, name), buddy_(buddy), range_(range) {}
+    UpDown(Form& form, std::string_view name, TextBox& buddy, Range range) : Control(form, name), buddy_(buddy), range_(range) {
+        buddy.counted_ = true;
+    }
     const Range& Limits() const { return range_; }
     const TextBox& Buddy() const { return buddy_; }
     void SetMin(int min) { range_.min = min; }
@@ -121,24 +133,26 @@ private:
 };
 
 /// Ticks on the clock service: every Interval milliseconds while it is enabled and its interval is above 0.
-class Timer : public Control {
+class Timer : public Control, public Ticker {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     Timer(Form& form, std::string_view name, int interval) : Control(form, name), interval_(interval) {}
     ~Timer() override;
-    /// Milliseconds.
-    int Interval() const { return interval_; }
+    int Interval() const override { return interval_; }
     /// The next tick falls due one interval from now.
     void SetInterval(int milliseconds);
-    /// Whether it ticks.
-    bool Running() const { return running_ && interval_ > 0; }
+    bool Running() const override { return running_ && interval_ > 0; }
     void SetRunning(bool running);
 
     std::function<void()> OnTimer;
 
-    // From the front.
-    void Tick();
+    // From the clock.
+    void Tick() override;
 
 private:
+    void FormUnloaded() override { SetRunning(false); }
+
     int interval_;
     bool running_ = false;
 };
@@ -147,6 +161,8 @@ private:
 class ProgressBar : public Control {
 public:
     using Control::Control;
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     int Max() const { return max_; }
     /// A value above the new maximum becomes it. A maximum below 0 is 0.
     void SetMax(int max);

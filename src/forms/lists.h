@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "control.h"
+#include "font.h"
 #include "text_controls.h"
 
 namespace vatro {
@@ -24,6 +25,8 @@ enum class ListOrder {
 /// Rows of text of which one may be selected. Row numbers start at 0; no selection is -1.
 class ListBox : public Control {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     explicit ListBox(Form& form, std::string_view name, Font font = {}, int columns = 0);
     ListBox(Form& form, std::string_view name, Font font, ListOrder order);
     bool TakesFocus() const override { return true; }
@@ -86,6 +89,8 @@ enum class ComboStyle { DropDown, DropDownList };
 /// A text field with a list of texts to choose from.
 class ComboBox : public TextControl {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     explicit ComboBox(Form& form, std::string_view name, ComboStyle style = ComboStyle::DropDown) : TextControl(form, name), style_(style) {
         SetLocked(style == ComboStyle::DropDownList);
     }

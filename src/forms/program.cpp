@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "program.h"
 
-#include "forms.h"
+#include "form.h"
+#include "front.h"
 #include "platform.h"
 
 namespace vatro {
@@ -22,7 +23,7 @@ void Finish() {
     running = false;
     DropForms();
     ending = false;
-    platform().front.Ended();
+    InstalledFront().Ended();
 }
 
 }  // namespace

@@ -39,6 +39,8 @@ public:
     /// Decides on every key that KeyPress leaves: lets it pass, changes it, or makes it nothing. It does nothing else, so that it may be
     /// asked about a character that nobody has pressed.
     std::function<void(KeyCode& KeyAscii)> KeyFilter;
+    /// Whether arrows beside it count its number.
+    bool Counted() const { return counted_; }
 
     // From the front.
 
@@ -70,18 +72,24 @@ private:
     int selStart_ = 0;
     int selLength_ = 0;
     bool locked_ = false;
+    friend class UpDown;
+    bool counted_ = false;
 };
 
 /// A field of one line.
 class TextBox : public TextControl {
 public:
     using TextControl::TextControl;
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
 };
 
 /// Several lines of text that the user reads, scrolls and copies from, but does not edit. Lines are ended by CR LF. Keys
 /// scroll and leave the caret where it is.
 class TextView : public TextControl {
 public:
+    ControlKind Kind() override { return this; }
+    ConstControlKind Kind() const override { return this; }
     TextView(Form& form, std::string_view name) : TextControl(form, name) { SetLocked(true); }
 };
 

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "control.h"
+#include "font.h"
 
 namespace vatro {
 

@@ -16,7 +16,9 @@ const Platform& platform() {
 }
 
 void InstallPlatform(const Platform& services) {
-    installed.emplace(services);
+    // They may be those installed already.
+    const Platform copy = services;
+    installed.emplace(copy);
 }
 
 void MsgBox(std::string_view text) {

@@ -14,10 +14,9 @@
 
 namespace vatro {
 
-class Form;
 class PageSurface;
 class Sound;
-class Timer;
+class Ticker;
 
 enum class Buttons { Ok, YesNo };
 enum class Icon { None, Information, Question, Exclamation, Critical };
@@ -127,41 +126,16 @@ public:
     virtual char Separator() const = 0;
 };
 
-/// The clock that everything asks that asks for the time.
+/// The only source of time.
 class Clock {
 public:
     virtual ~Clock() = default;
     virtual DateTime Now() = 0;
     /// Seconds since local midnight, with fractions.
     virtual double SecondsSinceMidnight() = 0;
-    /// The timer has been switched or has got another interval: its next tick falls due one interval from now, or
-    /// never if it is off. Ticks are delivered through Timer::Tick.
-    virtual void Schedule(Timer& timer) = 0;
-};
-
-/// The front that shows the forms. It mirrors what the forms and controls tell it and decides nothing.
-class Front {
-public:
-    virtual ~Front() = default;
-    /// The form has been created with the values of its design and has not run its load handler yet.
-    virtual void Created(Form& form) = 0;
-    /// The form is about to go; nothing of it may be used after this call.
-    virtual void Destroyed(Form& form) = 0;
-    /// A property of the form's frame has changed: caption, place, visibility, window state, enabled, pointer.
-    virtual void Changed(Form& form) = 0;
-    /// The form has become the active one.
-    virtual void Activated(Form& form) = 0;
-    /// Delivers events until the form is hidden or unloaded, or the program has ended.
-    virtual void RunModal(Form& form) = 0;
-    /// Lets the window be painted now.
-    virtual void Refresh(Form& form) = 0;
-    /// Lets pending events run.
-    virtual void DoEvents() = 0;
-    /// Width and height of a text in a font, in points.
-    virtual double TextWidth(std::string_view text, const struct Font& font) = 0;
-    virtual double TextHeight(const struct Font& font) = 0;
-    /// The program has ended, regularly or at once.
-    virtual void Ended() = 0;
+    /// The ticker was switched on or off, or its interval was set: its next tick falls due one interval from now, or
+    /// never if it is off. A ticker must be off before it goes.
+    virtual void Schedule(Ticker& ticker) = 0;
 };
 
 /// The help viewer of the program.
@@ -186,9 +160,8 @@ struct Version {
     int revision = 0;
 };
 
-/// All services of one run.
+/// All services of one run. The front is installed with them, by the storey of the forms.
 struct Platform {
-    Front& front;
     Dialogs& dialogs;
     Settings& settings;
     Files& files;
@@ -200,9 +173,9 @@ struct Platform {
     Version version;
 };
 
-/// The services installed. Must not be asked before InstallPlatform.
+/// The services installed. Must not be called before InstallPlatform.
 const Platform& platform();
-/// In place of those installed before.
+/// Replaces any services installed earlier.
 void InstallPlatform(const Platform& services);
 
 /// A box with an OK button and the program's title.

@@ -11,7 +11,7 @@ void SoundCourse::Begin(long long sample) {
 std::optional<SoundCourse::Passing> SoundCourse::Next() const {
     std::optional<Passing> next;
     for (const PositionNotification& position : positions_) {
-        long long played = position.offset / kBytesPerSample + 1 - start_;
+        long long played = position.sample + 1 - start_;
         while (played <= told_) played += size_;
         if (!next || played < next->played) next = Passing{played, position.event};
     }

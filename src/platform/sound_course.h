@@ -2,8 +2,8 @@
 //
 // Where a play round a looping buffer stands, and which of its notifications comes next.
 //
-// Every sound card of the platform counts by this, so that all of them pass an offset at the same sample. Counts are in
-// samples of 16 bits, from where the play began.
+// Every sound card of the platform counts by this, so that all of them notify at the same sample. Counts are in samples, from
+// where the play began.
 #pragma once
 
 #include <cstddef>
@@ -14,8 +14,6 @@
 #include "sound.h"
 
 namespace vatro {
-
-inline constexpr int kBytesPerSample = 2;
 
 /// One play, from Begin on.
 class SoundCourse {
@@ -34,8 +32,8 @@ public:
         long long played = 0;
         SoundEvent event = 0;
     };
-    /// The first passing that has not been told yet, or nothing without positions. The position passes an offset when the
-    /// sample that holds the byte has been played to its end.
+    /// The first passing that has not been told yet, or nothing without positions. A sample is passed when it has been played to
+    /// its end.
     std::optional<Passing> Next() const;
     /// The passing that Next gives has been told.
     void Tell(const Passing& passing) { told_ = passing.played; }

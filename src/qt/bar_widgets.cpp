@@ -11,12 +11,12 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "bindings.h"
+#include "by_kind.h"
 #include "deliver.h"
 #include "fields.h"
 #include "forms.h"
-#include "front.h"
 #include "qt_text.h"
-#include "window.h"
 
 namespace vatro {
 
@@ -83,28 +83,29 @@ void AddBars(const Form& form, QMainWindow& window) {
     // Qt's menu of a main window hides toolbars, which the form knows nothing of.
     window.setContextMenuPolicy(Qt::NoContextMenu);
     for (const Control* control : form.Controls()) {
-        if (dynamic_cast<const Toolbar*>(control) != nullptr) {
-            auto* bar = new QToolBar(&window);
-            bar->setObjectName(ObjectName(*control));
-            bar->setMovable(false);
-            window.addToolBar(bar);
-        } else if (dynamic_cast<const StatusBar*>(control) != nullptr) {
-            window.statusBar()->setObjectName(ObjectName(*control));
-        }
+        ByKind(
+            *control,
+            [&window](const Toolbar& toolbar) {
+                auto* bar = new QToolBar(&window);
+                bar->setObjectName(ObjectName(toolbar));
+                bar->setMovable(false);
+                window.addToolBar(bar);
+            },
+            [&window](const StatusBar& bar) { window.statusBar()->setObjectName(ObjectName(bar)); }, [](const Control&) {});
     }
 }
 
-void BindMenu(Form& form, QMainWindow& window, QObject& scope) {
+void BindMenu(Form& form, QMainWindow& window, Bindings& bindings) {
+    QObject& scope = bindings.Scope();
     for (Control* control : form.Controls()) {
-        auto* item = dynamic_cast<MenuItem*>(control);
+        auto* item = As<MenuItem>(control);
         if (item == nullptr || item->Menu() != nullptr) continue;
         QMenu* menu = window.menuBar()->addMenu(ToQt(item->Caption()));
         QAction* action = AddMenu(*item, *menu, scope);
         // A menu left without a choice gives the keys back at once; Qt would keep them in the menu bar.
-        QObject::connect(menu, &QMenu::aboutToHide, &scope, [&form] {
-            QTimer::singleShot(0, qApp, [name = form.Name()] {
-                const FormSlotBase* slot = FindFormSlot(name);
-                if (slot != nullptr && slot->Loaded() && QApplication::activePopupWidget() == nullptr) FollowFocusSoon(*slot->Peek());
+        QObject::connect(menu, &QMenu::aboutToHide, &scope, [&bindings] {
+            QTimer::singleShot(0, &bindings.Scope(), [&bindings] {
+                if (QApplication::activePopupWidget() == nullptr) bindings.FollowFocusSoon();
             });
         });
         action->setObjectName(ObjectName(*item));
@@ -118,7 +119,7 @@ void BindMenu(Form& form, QMainWindow& window, QObject& scope) {
     }
 }
 
-void Bind(Toolbar& control, QToolBar& widget, FormWindow& window) {
+void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings) {
     const QString tip = ToQt(control.ToolTip());
     widget.setWindowTitle(tip);
     for (const Toolbar::ToolButton& button : control.ToolButtons()) {
@@ -131,7 +132,7 @@ void Bind(Toolbar& control, QToolBar& widget, FormWindow& window) {
         action->setCheckable(true);
         action->setVisible(button.visible);
         action->setToolTip(button.toolTip.empty() ? tip : ToQt(button.toolTip));
-        QObject::connect(action, &QAction::triggered, &window.Scope(), [&control, &widget, index = button.index] {
+        QObject::connect(action, &QAction::triggered, &bindings.Scope(), [&control, &widget, index = button.index] {
             // Qt has flipped the button by itself; the control says which are pressed.
             PushPressed(control, widget);
             Deliver([&] {
@@ -161,7 +162,7 @@ void Bind(Toolbar& control, QToolBar& widget, FormWindow& window) {
     };
 }
 
-void Bind(StatusBar& control, QStatusBar& widget, FormWindow& /*window*/) {
+void Bind(StatusBar& control, QStatusBar& widget, Bindings& /*bindings*/) {
     const auto push = [&control, &widget](std::size_t number) {
         PanelsOf(widget).at(static_cast<qsizetype>(number) - 1)->SetPanelText(ToQt(control.Panel(number)), ToQt(control.ToolTip()));
     };

@@ -10,22 +10,21 @@
 
 class QAction;
 class QMainWindow;
-class QObject;
 class QStatusBar;
 class QToolBar;
 
 namespace vatro {
 
-class FormWindow;
+class Bindings;
 class StatusPanel;
 
 /// Adds empty bars, named after the controls that will fill them.
 void AddBars(const Form& form, QMainWindow& window);
 
 /// Fills the menu bar with the form's entries.
-void BindMenu(Form& form, QMainWindow& window, QObject& scope);
-void Bind(Toolbar& control, QToolBar& widget, FormWindow& window);
-void Bind(StatusBar& control, QStatusBar& widget, FormWindow& window);
+void BindMenu(Form& form, QMainWindow& window, Bindings& bindings);
+void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings);
+void Bind(StatusBar& control, QStatusBar& widget, Bindings& bindings);
 
 /// The action of a menu entry in its window.
 QAction* ActionOf(const MenuItem& item, const QMainWindow& window);

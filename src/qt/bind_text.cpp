@@ -8,11 +8,11 @@
 
 #include "bind_common.h"
 #include "binder.h"
+#include "bindings.h"
 #include "deliver.h"
 #include "forms.h"
 #include "input.h"
 #include "qt_text.h"
-#include "window.h"
 
 namespace vatro {
 
@@ -88,12 +88,12 @@ void PushItems(const ComboBox& control, QComboBox& widget) {
 
 }  // namespace
 
-void Bind(TextBox& control, QLineEdit& widget, FormWindow& window) {
+void Bind(TextBox& control, QLineEdit& widget, Bindings& bindings) {
     PushState(control, widget);
     PushText(control, widget);
     widget.setReadOnly(control.Locked());
-    window.AddInput(control, widget, &widget);
-    ConnectEditor(control, widget, window.Scope());
+    bindings.AddInput(control, widget, &widget);
+    ConnectEditor(control, widget, bindings.Scope());
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
         FollowState(control, widget, aspect);
         FollowEditor(control, widget, aspect);
@@ -128,13 +128,13 @@ void PushText(const TextView& control, QPlainTextEdit& widget) {
 
 }  // namespace
 
-void Bind(TextView& control, QPlainTextEdit& widget, FormWindow& window) {
+void Bind(TextView& control, QPlainTextEdit& widget, Bindings& bindings) {
     // Keys scroll, and the mouse selects what is to be copied.
     widget.setTextInteractionFlags(Qt::TextSelectableByMouse);
     widget.setTabChangesFocus(true);
     PushState(control, widget);
     PushText(control, widget);
-    window.AddInput(control, widget, nullptr);
+    bindings.AddInput(control, widget, nullptr);
     const auto moved = [&control, &widget] {
         const QTextCursor cursor = widget.textCursor();
         const int start = InText(control.Text(), cursor.selectionStart());
@@ -142,8 +142,8 @@ void Bind(TextView& control, QPlainTextEdit& widget, FormWindow& window) {
         if (start == control.SelStart() && length == control.SelLength()) return;
         Deliver([&] { control.UserSelected(start, length); });
     };
-    QObject::connect(&widget, &QPlainTextEdit::cursorPositionChanged, &window.Scope(), moved);
-    QObject::connect(&widget, &QPlainTextEdit::selectionChanged, &window.Scope(), moved);
+    QObject::connect(&widget, &QPlainTextEdit::cursorPositionChanged, &bindings.Scope(), moved);
+    QObject::connect(&widget, &QPlainTextEdit::selectionChanged, &bindings.Scope(), moved);
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
         FollowState(control, widget, aspect);
         if (aspect == Aspect::Text) PushText(control, widget);
@@ -154,7 +154,7 @@ void Bind(TextView& control, QPlainTextEdit& widget, FormWindow& window) {
     };
 }
 
-void Bind(ComboBox& control, QComboBox& widget, FormWindow& window) {
+void Bind(ComboBox& control, QComboBox& widget, Bindings& bindings) {
     widget.setEditable(true);
     widget.setInsertPolicy(QComboBox::NoInsert);
     widget.setCompleter(nullptr);
@@ -163,11 +163,11 @@ void Bind(ComboBox& control, QComboBox& widget, FormWindow& window) {
     PushItems(control, widget);
     QLineEdit& editor = *widget.lineEdit();
     editor.setReadOnly(control.Style() == ComboStyle::DropDownList);
-    window.AddInput(control, widget, &editor);
-    ConnectEditor(control, editor, window.Scope());
+    bindings.AddInput(control, widget, &editor);
+    ConnectEditor(control, editor, bindings.Scope());
     // Qt would choose the item whose text has been typed, when the field is left.
     QObject::disconnect(&editor, &QLineEdit::editingFinished, &widget, nullptr);
-    QObject::connect(&widget, &QComboBox::activated, &window.Scope(), [&control](int row) {
+    QObject::connect(&widget, &QComboBox::activated, &bindings.Scope(), [&control](int row) {
         Deliver([&] {
             if (control.Parent().Reachable()) control.UserPicked(row);
         });

@@ -15,6 +15,7 @@
 
 #include "bind_common.h"
 #include "binder.h"
+#include "bindings.h"
 #include "column_head.h"
 #include "deliver.h"
 #include "fields.h"
@@ -22,7 +23,6 @@
 #include "item_list.h"
 #include "picture_view.h"
 #include "qt_text.h"
-#include "window.h"
 
 namespace vatro {
 
@@ -156,24 +156,24 @@ QFont ToQt(const Font& font, const QFont& otherwise) {
     return result;
 }
 
-void Bind(ListBox& control, ItemList& widget, FormWindow& window) {
+void Bind(ListBox& control, ItemList& widget, Bindings& bindings) {
     PushState(control, widget);
     widget.setFont(ToQt(control.ListFont(), widget.font()));
     widget.SetColumns(control.ColumnCount());
     auto* model = new ItemModel(control, &widget);
     widget.setModel(model);
     PushRow(control, widget);
-    window.AddInput(control, widget, nullptr);
+    bindings.AddInput(control, widget, nullptr);
     // Goes with the window's connections, before the rows do.
-    QObject::connect(&window.Scope(), &QObject::destroyed, model, &ItemModel::Release);
-    QObject::connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, &window.Scope(), [&control, &widget] {
+    QObject::connect(&bindings.Scope(), &QObject::destroyed, model, &ItemModel::Release);
+    QObject::connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, &bindings.Scope(), [&control, &widget] {
         const QModelIndexList rows = widget.selectionModel()->selectedIndexes();
         if (rows.isEmpty() || rows.front().row() == control.ListIndex()) return;
         Deliver([&, row = rows.front().row()] {
             if (control.Parent().Reachable()) control.UserSelected(row);
         });
     });
-    QObject::connect(&widget, &QAbstractItemView::doubleClicked, &window.Scope(), [&control](const QModelIndex& index) {
+    QObject::connect(&widget, &QAbstractItemView::doubleClicked, &bindings.Scope(), [&control](const QModelIndex& index) {
         Deliver([&, row = index.row()] {
             if (control.Parent().Reachable()) control.UserDoubleClicked(row);
         });
@@ -184,13 +184,13 @@ void Bind(ListBox& control, ItemList& widget, FormWindow& window) {
     };
 }
 
-void Bind(Button& control, QPushButton& widget, FormWindow& window) {
+void Bind(Button& control, QPushButton& widget, Bindings& bindings) {
     PushState(control, widget);
     PushCaption(control.Caption(), widget);
     WidenButton(widget);
     widget.setAutoDefault(false);
-    window.AddInput(control, widget, nullptr);
-    QObject::connect(&widget, &QAbstractButton::clicked, &window.Scope(), [&control] {
+    bindings.AddInput(control, widget, nullptr);
+    QObject::connect(&widget, &QAbstractButton::clicked, &bindings.Scope(), [&control] {
         Deliver([&] {
             if (control.Parent().Reachable()) control.Press();
         });
@@ -198,9 +198,9 @@ void Bind(Button& control, QPushButton& widget, FormWindow& window) {
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
 }
 
-void Bind(UpDown& control, SpinArrows& widget, FormWindow& window) {
+void Bind(UpDown& control, SpinArrows& widget, Bindings& bindings) {
     PushState(control, widget);
-    QObject::connect(&widget, &SpinArrows::Stepped, &window.Scope(), [&control](bool up) {
+    QObject::connect(&widget, &SpinArrows::Stepped, &bindings.Scope(), [&control](bool up) {
         Deliver([&] {
             if (control.Parent().Reachable()) control.Spin(up);
         });
@@ -208,22 +208,22 @@ void Bind(UpDown& control, SpinArrows& widget, FormWindow& window) {
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
 }
 
-void Bind(ProgressBar& control, QProgressBar& widget, FormWindow& window) {
+void Bind(ProgressBar& control, QProgressBar& widget, Bindings& bindings) {
     PushState(control, widget);
     PushProgress(control, widget);
-    window.NameByCaption(widget);
+    bindings.NameByCaption(widget);
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
         FollowState(control, widget, aspect);
         if (aspect == Aspect::Value) PushProgress(control, widget);
     };
 }
 
-void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window) {
+void Bind(CheckBox& control, QCheckBox& widget, Bindings& bindings) {
     PushState(control, widget);
     PushCaption(control.Caption(), widget);
     widget.setChecked(control.Value());
-    window.AddInput(control, widget, nullptr);
-    QObject::connect(&widget, &QAbstractButton::clicked, &window.Scope(), [&control, &widget] {
+    bindings.AddInput(control, widget, nullptr);
+    QObject::connect(&widget, &QAbstractButton::clicked, &bindings.Scope(), [&control, &widget] {
         // Qt has flipped the box by itself; the control decides.
         widget.setChecked(control.Value());
         Deliver([&] {
@@ -236,14 +236,14 @@ void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window) {
     };
 }
 
-void Bind(OptionButton& control, QRadioButton& widget, FormWindow& window) {
+void Bind(OptionButton& control, QRadioButton& widget, Bindings& bindings) {
     PushState(control, widget);
     PushCaption(control.Caption(), widget);
     // The frame's other options are turned off by the control.
     widget.setAutoExclusive(false);
     widget.setChecked(control.Value());
-    window.AddInput(control, widget, nullptr);
-    QObject::connect(&widget, &QAbstractButton::clicked, &window.Scope(), [&control, &widget] {
+    bindings.AddInput(control, widget, nullptr);
+    QObject::connect(&widget, &QAbstractButton::clicked, &bindings.Scope(), [&control, &widget] {
         // Qt has flipped the button by itself; the control decides.
         widget.setChecked(control.Value());
         Deliver([&] {
@@ -256,7 +256,7 @@ void Bind(OptionButton& control, QRadioButton& widget, FormWindow& window) {
     };
 }
 
-void Bind(ScrollBar& control, QScrollBar& widget, FormWindow& window) {
+void Bind(ScrollBar& control, QScrollBar& widget, Bindings& bindings) {
     const ScrollBar::Range& limits = control.Limits();
     PushState(control, widget);
     widget.setRange(limits.min, limits.max);
@@ -266,8 +266,8 @@ void Bind(ScrollBar& control, QScrollBar& widget, FormWindow& window) {
     // One change for a slide that is drawn, when it is let go.
     widget.setTracking(false);
     widget.setContextMenuPolicy(Qt::PreventContextMenu);
-    window.AddInput(control, widget, nullptr);
-    QObject::connect(&widget, &QAbstractSlider::valueChanged, &window.Scope(), [&control](int value) {
+    bindings.AddInput(control, widget, nullptr);
+    QObject::connect(&widget, &QAbstractSlider::valueChanged, &bindings.Scope(), [&control](int value) {
         if (value == control.Value()) return;
         Deliver([&] {
             if (control.Parent().Reachable()) control.UserScrolled(value);
@@ -279,20 +279,20 @@ void Bind(ScrollBar& control, QScrollBar& widget, FormWindow& window) {
     };
 }
 
-void Bind(Label& control, QLabel& widget, FormWindow& /*window*/) {
+void Bind(Label& control, QLabel& widget, Bindings& /*bindings*/) {
     widget.setTextFormat(Qt::PlainText);
     BindText(control, widget);
 }
 
-void Bind(Label& control, FittedText& widget, FormWindow& /*window*/) {
+void Bind(Label& control, FittedText& widget, Bindings& /*bindings*/) {
     BindText(control, widget);
 }
 
-void Bind(Picture& control, PictureView& widget, FormWindow& window) {
+void Bind(Picture& control, PictureView& widget, Bindings& bindings) {
     PushState(control, widget);
     widget.SetPicture(ToQt(control.File()));
-    window.NameByCaption(widget);
-    QObject::connect(&widget, &PictureView::Clicked, &window.Scope(), [&control] {
+    bindings.NameByCaption(widget);
+    QObject::connect(&widget, &PictureView::Clicked, &bindings.Scope(), [&control] {
         Deliver([&] {
             if (control.Parent().Reachable()) control.UserClicked();
         });
@@ -300,7 +300,7 @@ void Bind(Picture& control, PictureView& widget, FormWindow& window) {
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
 }
 
-void Bind(Label& control, ColumnHead& widget, FormWindow& /*window*/) {
+void Bind(Label& control, ColumnHead& widget, Bindings& /*bindings*/) {
     PushState(control, widget);
     widget.SetCaption(ToQt(control.Caption()));
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) {
@@ -309,13 +309,13 @@ void Bind(Label& control, ColumnHead& widget, FormWindow& /*window*/) {
     };
 }
 
-void Bind(Frame& control, QFrame& widget, FormWindow& window) {
+void Bind(Frame& control, QFrame& widget, Bindings& bindings) {
     PushState(control, widget);
     const QString head = widget.objectName() + QStringLiteral("Caption");
     if (auto* caption = widget.findChild<ColumnHead*>(head))
         caption->SetCaption(ToQt(control.Caption()));
     else
-        window.AddProblem(QStringLiteral("no head %1").arg(head));
+        bindings.AddProblem(QStringLiteral("no head %1").arg(head));
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
 }
 

@@ -18,57 +18,59 @@
 #include <set>
 
 #include "bar_widgets.h"
+#include "bindings.h"
+#include "by_kind.h"
 #include "column_head.h"
 #include "fields.h"
 #include "forms.h"
 #include "item_list.h"
 #include "picture_view.h"
 #include "qt_text.h"
-#include "window.h"
 
 namespace vatro {
 
 namespace {
 
-/// Binds if control and widget are of these classes.
-template <class C, class W>
-bool BindPair(Control& control, QWidget& widget, FormWindow& window) {
-    auto* c = dynamic_cast<C*>(&control);
-    auto* w = dynamic_cast<W*>(&widget);
-    if (c == nullptr || w == nullptr) return false;
-    Bind(*c, *w, window);
-    return true;
+/// Binds the control if the widget is of one of these classes; a class stands before the one that it is derived from.
+template <class... W, class C>
+bool BindAs(C& control, QWidget& widget, Bindings& bindings) {
+    const auto bind = [&](auto* own) {
+        if (own == nullptr) return false;
+        Bind(control, *own, bindings);
+        return true;
+    };
+    return (bind(qobject_cast<W*>(&widget)) || ...);
 }
 
-/// The pairs there are; a class stands before the one that it is derived from.
-constexpr bool (*kPairs[])(Control&, QWidget&, FormWindow&) = {
-    BindPair<TextBox, QLineEdit>,
-    BindPair<TextView, QPlainTextEdit>,
-    BindPair<Picture, PictureView>,
-    BindPair<ComboBox, QComboBox>,
-    BindPair<ListBox, ItemList>,
-    BindPair<Button, QPushButton>,
-    BindPair<CheckBox, QCheckBox>,
-    BindPair<OptionButton, QRadioButton>,
-    BindPair<ScrollBar, QScrollBar>,
-    BindPair<Label, FittedText>,
-    BindPair<Label, QLabel>,
-    BindPair<Label, ColumnHead>,
-    BindPair<Frame, QFrame>,
-    BindPair<Toolbar, QToolBar>,
-    BindPair<StatusBar, QStatusBar>,
-    BindPair<UpDown, SpinArrows>,
-    BindPair<ProgressBar, QProgressBar>,
-};
+/// The pairs of control and widget that there are.
+bool BindPair(Control& control, QWidget& widget, Bindings& bindings) {
+    return ByKind(
+        control, [&](TextBox& c) { return BindAs<QLineEdit>(c, widget, bindings); },
+        [&](TextView& c) { return BindAs<QPlainTextEdit>(c, widget, bindings); },
+        [&](Picture& c) { return BindAs<PictureView>(c, widget, bindings); },
+        [&](ComboBox& c) { return BindAs<QComboBox>(c, widget, bindings); },
+        [&](ListBox& c) { return BindAs<ItemList>(c, widget, bindings); },
+        [&](Button& c) { return BindAs<QPushButton>(c, widget, bindings); },
+        [&](CheckBox& c) { return BindAs<QCheckBox>(c, widget, bindings); },
+        [&](OptionButton& c) { return BindAs<QRadioButton>(c, widget, bindings); },
+        [&](ScrollBar& c) { return BindAs<QScrollBar>(c, widget, bindings); },
+        [&](Label& c) { return BindAs<FittedText, QLabel, ColumnHead>(c, widget, bindings); },
+        [&](Frame& c) { return BindAs<QFrame>(c, widget, bindings); }, [&](Toolbar& c) { return BindAs<QToolBar>(c, widget, bindings); },
+        [&](StatusBar& c) { return BindAs<QStatusBar>(c, widget, bindings); },
+        [&](UpDown& c) { return BindAs<SpinArrows>(c, widget, bindings); },
+        [&](ProgressBar& c) { return BindAs<QProgressBar>(c, widget, bindings); },
+        // The one shows nothing, the other is an action of the menu bar.
+        [](Timer&) { return false; }, [](MenuItem&) { return false; });
+}
 
 bool HasWidget(const Control& control) {
-    return dynamic_cast<const Timer*>(&control) == nullptr && dynamic_cast<const MenuItem*>(&control) == nullptr;
+    return As<Timer>(&control) == nullptr && As<MenuItem>(&control) == nullptr;
 }
 
 /// The widgets of the window itself, without those of windows above it.
-QList<QWidget*> WidgetsOf(const FormWindow& window, const QString& name = {}) {
-    QList<QWidget*> widgets = window.Top()->findChildren<QWidget*>(name);
-    widgets.removeIf([&](const QWidget* widget) { return widget->window() != window.Top(); });
+QList<QWidget*> WidgetsOf(const QWidget& top, const QString& name = {}) {
+    QList<QWidget*> widgets = top.findChildren<QWidget*>(name);
+    widgets.removeIf([&](const QWidget* widget) { return widget->window() != &top; });
     return widgets;
 }
 
@@ -80,11 +82,9 @@ QString Spoken(const std::string& caption) {
 
 /// What the control is called where it is not seen.
 QString SpokenName(const Control& control) {
-    if (const auto* button = dynamic_cast<const Button*>(&control)) return Spoken(button->Caption());
-    if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return Spoken(box->Caption());
-    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return Spoken(option->Caption());
+    if (const auto* captioned = As<CaptionedControl>(&control)) return Spoken(captioned->Caption());
     for (const Control* other : control.Parent().Controls()) {
-        const auto* label = dynamic_cast<const Label*>(other);
+        const auto* label = As<Label>(other);
         if (label != nullptr && label->AccessTarget() == &control) return Spoken(label->Caption());
     }
     const QString tip = ToQt(control.ToolTip());
@@ -92,32 +92,31 @@ QString SpokenName(const Control& control) {
     return sentence < 0 ? tip : tip.left(sentence);
 }
 
-void NameWidget(const Control& control, QWidget& widget, FormWindow& window) {
+void NameWidget(const Control& control, QWidget& widget, Bindings& bindings) {
     const QString name = widget.accessibleName().isEmpty() ? SpokenName(control) : widget.accessibleName();
     QList<QWidget*> named{&widget};
     if (const auto* combo = qobject_cast<QComboBox*>(&widget)) named.append(combo->lineEdit());
     for (QWidget* one : named) {
         one->setAccessibleName(name);
         // What fills its window is called as the window is.
-        if (name.isEmpty()) window.NameByCaption(*one);
+        if (name.isEmpty()) bindings.NameByCaption(*one);
     }
 }
 
-void BindOne(Control& control, FormWindow& window) {
-    const QList<QWidget*> widgets = WidgetsOf(window, ObjectName(control));
+void BindOne(Control& control, const QWidget& top, Bindings& bindings) {
+    const QList<QWidget*> widgets = WidgetsOf(top, ObjectName(control));
     if (widgets.size() != 1) {
-        window.AddProblem(QStringLiteral("%1 has %2 widgets").arg(ObjectName(control)).arg(widgets.size()));
+        bindings.AddProblem(QStringLiteral("%1 has %2 widgets").arg(ObjectName(control)).arg(widgets.size()));
         return;
     }
     QWidget& widget = *widgets.front();
-    window.Enter(control, widget);
-    for (const auto& bind : kPairs) {
-        if (!bind(control, widget, window)) continue;
-        if (control.TakesFocus()) NameWidget(control, widget, window);
+    bindings.Enter(control, widget);
+    if (!BindPair(control, widget, bindings)) {
+        bindings.AddProblem(
+            QStringLiteral("%1 cannot be tied to a %2").arg(ObjectName(control), QLatin1String(widget.metaObject()->className())));
         return;
     }
-    window.AddProblem(
-        QStringLiteral("%1 cannot be tied to a %2").arg(ObjectName(control), QLatin1String(widget.metaObject()->className())));
+    if (control.TakesFocus()) NameWidget(control, widget, bindings);
 }
 
 bool Bindable(const QWidget& widget) {
@@ -137,26 +136,26 @@ bool Inside(const QWidget& widget, const QWidget& owner) {
 }
 
 /// Widgets of the layout that no control owns.
-void FindOrphans(const Form& form, FormWindow& window) {
+void FindOrphans(const Form& form, const QWidget& top, Bindings& bindings) {
     std::set<QString> known{QStringLiteral("FormCaption")};
     for (const Control* control : form.Controls()) {
         known.insert(ObjectName(*control));
-        if (dynamic_cast<const Frame*>(control) != nullptr) known.insert(ObjectName(*control) + QStringLiteral("Caption"));
+        if (As<Frame>(control) != nullptr) known.insert(ObjectName(*control) + QStringLiteral("Caption"));
     }
-    for (const QWidget* widget : WidgetsOf(window)) {
+    for (const QWidget* widget : WidgetsOf(top)) {
         if (!Bindable(*widget) || known.count(widget->objectName()) > 0) continue;
         bool inside = false;
         for (const QWidget* parent = widget->parentWidget(); parent != nullptr && !inside; parent = parent->parentWidget())
             inside = Inside(*widget, *parent);
         if (inside || widget->inherits("QToolButton")) continue;
-        window.AddProblem(QStringLiteral("no control owns the widget \"%1\"").arg(widget->objectName()));
+        bindings.AddProblem(QStringLiteral("no control owns the widget \"%1\"").arg(widget->objectName()));
     }
 }
 
-void SetTabOrder(const Form& form, FormWindow& window) {
+void SetTabOrder(const Form& form, const Bindings& bindings) {
     QWidget* last = nullptr;
     for (const Control* control : form.TabOrder()) {
-        QWidget* widget = window.WidgetOf(*control);
+        QWidget* widget = bindings.WidgetOf(*control);
         if (widget == nullptr) continue;
         if (last != nullptr) QWidget::setTabOrder(last, widget);
         last = widget;
@@ -165,15 +164,15 @@ void SetTabOrder(const Form& form, FormWindow& window) {
 
 }  // namespace
 
-void BindForm(Form& form, FormWindow& window) {
-    for (QWidget* widget : WidgetsOf(window))
+void BindForm(Form& form, QWidget& top, Bindings& bindings) {
+    for (QWidget* widget : WidgetsOf(top))
         if (Bindable(*widget)) widget->setFocusPolicy(Qt::NoFocus);
     for (Control* control : form.Controls())
-        if (HasWidget(*control)) BindOne(*control, window);
-    if (auto* main = qobject_cast<QMainWindow*>(window.Top())) BindMenu(form, *main, window.Scope());
-    FindOrphans(form, window);
-    SetTabOrder(form, window);
-    for (const QString& problem : window.Problems()) qWarning("%s: %s", qUtf8Printable(ToQt(form.Name())), qUtf8Printable(problem));
+        if (HasWidget(*control)) BindOne(*control, top, bindings);
+    if (auto* main = qobject_cast<QMainWindow*>(&top)) BindMenu(form, *main, bindings);
+    FindOrphans(form, top, bindings);
+    SetTabOrder(form, bindings);
+    for (const QString& problem : bindings.Problems()) qWarning("%s: %s", qUtf8Printable(ToQt(form.Name())), qUtf8Printable(problem));
 }
 
 }  // namespace vatro

@@ -18,16 +18,17 @@ class QProgressBar;
 class QPushButton;
 class QRadioButton;
 class QScrollBar;
+class QWidget;
 
 namespace vatro {
 
+class Bindings;
 class Button;
 class CheckBox;
 class ComboBox;
 class ColumnHead;
 class FittedText;
 class Form;
-class FormWindow;
 class Frame;
 class ItemList;
 class Label;
@@ -42,24 +43,24 @@ class TextBox;
 class TextView;
 class UpDown;
 
-/// Ties all controls of the form, and sets the order of Tab.
-void BindForm(Form& form, FormWindow& window);
+/// Ties all controls of the form to the widgets of its window `top`, and sets the order of Tab.
+void BindForm(Form& form, QWidget& top, Bindings& bindings);
 
-void Bind(TextBox& control, QLineEdit& widget, FormWindow& window);
-void Bind(TextView& control, QPlainTextEdit& widget, FormWindow& window);
-void Bind(ComboBox& control, QComboBox& widget, FormWindow& window);
-void Bind(ListBox& control, ItemList& widget, FormWindow& window);
-void Bind(Button& control, QPushButton& widget, FormWindow& window);
-void Bind(UpDown& control, SpinArrows& widget, FormWindow& window);
-void Bind(ProgressBar& control, QProgressBar& widget, FormWindow& window);
-void Bind(CheckBox& control, QCheckBox& widget, FormWindow& window);
-void Bind(Picture& control, PictureView& widget, FormWindow& window);
-void Bind(OptionButton& control, QRadioButton& widget, FormWindow& window);
-void Bind(ScrollBar& control, QScrollBar& widget, FormWindow& window);
-void Bind(Label& control, QLabel& widget, FormWindow& window);
-void Bind(Label& control, FittedText& widget, FormWindow& window);
-void Bind(Label& control, ColumnHead& widget, FormWindow& window);
+void Bind(TextBox& control, QLineEdit& widget, Bindings& bindings);
+void Bind(TextView& control, QPlainTextEdit& widget, Bindings& bindings);
+void Bind(ComboBox& control, QComboBox& widget, Bindings& bindings);
+void Bind(ListBox& control, ItemList& widget, Bindings& bindings);
+void Bind(Button& control, QPushButton& widget, Bindings& bindings);
+void Bind(UpDown& control, SpinArrows& widget, Bindings& bindings);
+void Bind(ProgressBar& control, QProgressBar& widget, Bindings& bindings);
+void Bind(CheckBox& control, QCheckBox& widget, Bindings& bindings);
+void Bind(Picture& control, PictureView& widget, Bindings& bindings);
+void Bind(OptionButton& control, QRadioButton& widget, Bindings& bindings);
+void Bind(ScrollBar& control, QScrollBar& widget, Bindings& bindings);
+void Bind(Label& control, QLabel& widget, Bindings& bindings);
+void Bind(Label& control, FittedText& widget, Bindings& bindings);
+void Bind(Label& control, ColumnHead& widget, Bindings& bindings);
 /// The caption goes to the head named after the frame, Frame1Caption.
-void Bind(Frame& control, QFrame& widget, FormWindow& window);
+void Bind(Frame& control, QFrame& widget, Bindings& bindings);
 
 }  // namespace vatro

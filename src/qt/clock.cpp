@@ -3,9 +3,9 @@
 
 #include <QDateTime>
 
-#include "controls.h"
 #include "deliver.h"
-#include "front.h"
+#include "qt_front.h"
+#include "ticker.h"
 
 namespace vatro {
 
@@ -20,10 +20,10 @@ double QtClock::SecondsSinceMidnight() {
     return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
 }
 
-void QtClock::Schedule(Timer& timer) {
-    const auto found = ticking_.find(&timer);
-    if (!timer.Running()) {
-        // The timer may be switched off from its own tick.
+void QtClock::Schedule(Ticker& ticker) {
+    const auto found = ticking_.find(&ticker);
+    if (!ticker.Running()) {
+        // The ticker may be switched off from its own tick.
         if (found != ticking_.end()) {
             found->second->stop();
             found->second.release()->deleteLater();
@@ -32,24 +32,24 @@ void QtClock::Schedule(Timer& timer) {
         return;
     }
     if (found != ticking_.end()) {
-        found->second->start(timer.Interval());
+        found->second->start(ticker.Interval());
         return;
     }
-    auto ticker = std::make_unique<QTimer>();
-    ticker->setTimerType(Qt::PreciseTimer);
-    QObject::connect(ticker.get(), &QTimer::timeout, ticker.get(), [this, &timer] { Tick(timer); });
-    ticker->start(timer.Interval());
-    ticking_[&timer] = std::move(ticker);
+    auto timer = std::make_unique<QTimer>();
+    timer->setTimerType(Qt::PreciseTimer);
+    QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [this, &ticker] { Tick(ticker); });
+    timer->start(ticker.Interval());
+    ticking_[&ticker] = std::move(timer);
 }
 
-void QtClock::Tick(Timer& timer) {
+void QtClock::Tick(Ticker& ticker) {
     if (TicksHeld()) {
         // A window is being painted inside a handler: the tick waits until the handler has ended.
-        const auto found = ticking_.find(&timer);
-        QTimer::singleShot(1, found->second.get(), [this, &timer] { Tick(timer); });
+        const auto found = ticking_.find(&ticker);
+        QTimer::singleShot(1, found->second.get(), [this, &ticker] { Tick(ticker); });
         return;
     }
-    Deliver([&] { timer.Tick(); });
+    Deliver([&] { ticker.Tick(); });
 }
 
 }  // namespace vatro

@@ -15,12 +15,12 @@ class QtClock : public Clock {
 public:
     DateTime Now() override;
     double SecondsSinceMidnight() override;
-    void Schedule(Timer& timer) override;
+    void Schedule(Ticker& ticker) override;
 
 private:
-    void Tick(Timer& timer);
+    void Tick(Ticker& ticker);
 
-    std::map<Timer*, std::unique_ptr<QTimer>> ticking_;
+    std::map<Ticker*, std::unique_ptr<QTimer>> ticking_;
 };
 
 }  // namespace vatro

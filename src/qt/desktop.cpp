@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop.h"
 
-#include "front.h"
+#include "qt_front.h"
 
 namespace vatro {
 

@@ -13,9 +13,9 @@
 #include "codepage.h"
 #include "deliver.h"
 #include "forms.h"
-#include "front.h"
 #include "printer.h"
 #include "program.h"
+#include "qt_front.h"
 #include "qt_text.h"
 #include "window.h"
 
@@ -61,7 +61,7 @@ QStringList NameFilters(const std::string& filter) {
 }
 
 const QtFront* FrontOnQt() {
-    return dynamic_cast<const QtFront*>(&platform().front);
+    return dynamic_cast<const QtFront*>(&InstalledFront());
 }
 
 /// Hands the keys over before it goes.
@@ -90,7 +90,7 @@ void CloseUp(QMessageBox& box) {
 
 /// Qt gives the keys back to the window that had them; the active form may be another one by now.
 void GiveKeysBack() {
-    if (Form* form = ActiveForm()) platform().front.Activated(*form);
+    if (Form* form = ActiveForm()) InstalledFront().Activated(*form);
 }
 
 }  // namespace

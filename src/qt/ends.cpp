@@ -14,9 +14,9 @@
 #include "disk_settings.h"
 #include "forms.h"
 #include "frame/start.h"
-#include "front.h"
 #include "platform.h"
 #include "program.h"
+#include "qt_front.h"
 
 namespace vatro {
 

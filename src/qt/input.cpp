@@ -17,7 +17,6 @@
 #include "codepage.h"
 #include "deliver.h"
 #include "field_characters.h"
-#include "front.h"
 #include "qt_text.h"
 
 namespace vatro {
@@ -54,12 +53,6 @@ std::optional<ScrollBar::Move> MoveOf(int key) {
         default:
             return std::nullopt;
     }
-}
-
-/// Whether only what keys can bring gets into a field.
-bool FiltersPaste() {
-    const auto* front = dynamic_cast<const QtFront*>(&platform().front);
-    return front != nullptr && front->filterPaste;
 }
 
 /// Qt gives the focus back to where it was; nobody has moved it in the form.
@@ -114,8 +107,8 @@ void PushSelection(const TextControl& control, QLineEdit& editor) {
         editor.setCursorPosition(control.SelStart());
 }
 
-Input::Input(Control& control, QWidget& widget, QLineEdit* editor)
-    : QObject(&widget), control_(&control), widget_(&widget), editor_(editor) {
+Input::Input(Control& control, QWidget& widget, QLineEdit* editor, const InputSurroundings& surroundings)
+    : QObject(&widget), control_(&control), surroundings_(surroundings), widget_(&widget), editor_(editor) {
     widget.installEventFilter(this);
     if (editor != nullptr && editor != &widget) editor->installEventFilter(this);
 }
@@ -174,16 +167,21 @@ bool Input::TakeKeyEvent(QKeyEvent& event) {
     if (key) return !TakeKey(*key);
     if (plain && TakeMove(event.key())) return true;
     // Qt walks from button to button with the arrows; the form knows only Tab.
-    const bool own = dynamic_cast<ListBox*>(control_) != nullptr || dynamic_cast<TextView*>(control_) != nullptr;
+    const bool own = As<ListBox>(control_) != nullptr || As<TextView>(control_) != nullptr;
     return IsArrow(event.key()) && editor_ == nullptr && !own;
 }
 
 bool Input::TakeMove(int key) {
     std::function<void()> taken;
-    if (auto* option = dynamic_cast<OptionButton*>(control_); option != nullptr && IsArrow(key))
-        taken = [option, back = key == Qt::Key_Left || key == Qt::Key_Up] { option->UserArrow(back); };
-    if (auto* bar = dynamic_cast<ScrollBar*>(control_))
-        if (const auto move = MoveOf(key)) taken = [bar, move] { bar->UserMoved(*move); };
+    ByKind(
+        *control_,
+        [&](OptionButton& option) {
+            if (IsArrow(key)) taken = [&option, back = key == Qt::Key_Left || key == Qt::Key_Up] { option.UserArrow(back); };
+        },
+        [&](ScrollBar& bar) {
+            if (const auto move = MoveOf(key)) taken = [&bar, move] { bar.UserMoved(*move); };
+        },
+        [](Control&) {});
     if (!taken) return false;
     Deliver([&] {
         if (control_->Parent().Reachable() && control_->Enabled()) taken();
@@ -199,18 +197,20 @@ bool Input::TakeKey(KeyCode key) {
         if (!form.Reachable()) return;
         if ((key == kEnter || key == kEsc) && form.UserDefaultKey(key)) return;
         KeyCode taken = control_->PressKey(key);
-        if (self != nullptr && control_ != nullptr && Text() != nullptr && FiltersPaste()) taken = CharacterInto(*Text(), taken);
+        if (self != nullptr && control_ != nullptr && Text() != nullptr && surroundings_.filtersPaste())
+            taken = CharacterInto(*Text(), taken);
         if (taken == kNoKey || self == nullptr || control_ == nullptr) return;
-        if (editor_ != nullptr) {
-            Edit(taken);
-        } else if (auto* button = dynamic_cast<Button*>(control_)) {
-            if (taken == kEnter) button->Press();
-            wanted = taken == kSpace;
-        } else if (auto* option = dynamic_cast<OptionButton*>(control_)) {
-            if (taken == kSpace) option->UserChosen(FocusWay::Key);
-        } else {
-            wanted = taken == kSpace && dynamic_cast<CheckBox*>(control_) != nullptr;
-        }
+        if (editor_ != nullptr) return Edit(taken);
+        ByKind(
+            *control_,
+            [&](Button& button) {
+                if (taken == kEnter) button.Press();
+                wanted = taken == kSpace;
+            },
+            [&](OptionButton& option) {
+                if (taken == kSpace) option.UserChosen(FocusWay::Key);
+            },
+            [&](CheckBox&) { wanted = taken == kSpace; }, [](Control&) {});
     });
     return wanted;
 }
@@ -230,7 +230,7 @@ void Input::Paste(const QString& text) {
     const std::string line = PastedText(text);
     Deliver([&] {
         if (control_ == nullptr) return;
-        if (FiltersPaste())
+        if (surroundings_.filtersPaste())
             PasteInto(*Text(), line);
         else
             Text()->Insert(line);
@@ -238,7 +238,7 @@ void Input::Paste(const QString& text) {
 }
 
 bool Input::TakeForeignText(QEvent& event) {
-    if (Text() == nullptr || !FiltersPaste()) return false;
+    if (Text() == nullptr || !surroundings_.filtersPaste()) return false;
     const QClipboard& clipboard = *QGuiApplication::clipboard();
     if (event.type() == QEvent::MouseButtonRelease) {
         // Its press has put the caret there.
@@ -300,7 +300,7 @@ void Input::TakeFocus(QFocusEvent& event) {
     const QPointer<Input> self(this);
     if (form.ActiveControl() != control) {
         if (form.ActiveControl() != nullptr && OnlyReturns(event.reason())) {
-            FollowFocusSoon(form);
+            surroundings_.followFocusSoon();
             return;
         }
         Deliver([&] {
@@ -309,7 +309,7 @@ void Input::TakeFocus(QFocusEvent& event) {
         });
         if (self == nullptr || control_ == nullptr) return;
         if (form.ActiveControl() != control) {
-            FollowFocusSoon(form);
+            surroundings_.followFocusSoon();
             return;
         }
     }

@@ -10,9 +10,11 @@
 #include <QLineEdit>
 #include <QObject>
 #include <QPointer>
+#include <functional>
 #include <optional>
 
-#include "forms.h"
+#include "by_kind.h"
+#include "form.h"
 
 class QKeyEvent;
 class QInputMethodEvent;
@@ -20,12 +22,21 @@ class QFocusEvent;
 
 namespace vatro {
 
+/// What the inputs of a window ask of its front.
+struct InputSurroundings {
+    /// Gives the focus back to the form's active control when the present event of Qt is over.
+    std::function<void()> followFocusSoon;
+    /// Whether only what keys can bring gets into a field.
+    std::function<bool()> filtersPaste;
+};
+
 class Input : public QObject {
     Q_OBJECT
 
 public:
-    /// `editor` is the line under editing: the widget itself, the one in a combo box, or nothing.
-    Input(Control& control, QWidget& widget, QLineEdit* editor);
+    /// `editor` is the line under editing: the widget itself, the one in a combo box, or nothing. `surroundings` must live until
+    /// Release.
+    Input(Control& control, QWidget& widget, QLineEdit* editor, const InputSurroundings& surroundings);
     /// The control is going away.
     void Release() { control_ = nullptr; }
 
@@ -50,9 +61,10 @@ private:
     /// The ways to paste that Qt would go by itself: middle button, drop, context menu. True if the event is done with.
     bool TakeForeignText(QEvent& event);
     void OpenContextMenu(const QPoint& at);
-    TextControl* Text() const { return dynamic_cast<TextControl*>(control_); }
+    TextControl* Text() const { return As<TextControl>(control_); }
 
     Control* control_;
+    const InputSurroundings& surroundings_;
     QPointer<QWidget> widget_;
     QPointer<QLineEdit> editor_;
     /// The click that brought the focus must not take away what the control's handler has selected.

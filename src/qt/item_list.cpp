@@ -18,7 +18,7 @@ class RowDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        const auto* model = dynamic_cast<const ItemModel*>(index.model());
+        const auto* model = qobject_cast<const ItemModel*>(index.model());
         const int characters = model != nullptr ? model->WidestRow() : 0;
         const int margin = option.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
         const double text = QFontMetricsF(option.font).horizontalAdvance(QString(characters, u'0'));

@@ -2,14 +2,12 @@
 #include "sound_card.h"
 
 #include <QAudioDevice>
-#include <QAudioFormat>
 #include <QMediaDevices>
 #include <QTimer>
 
 #include "deliver.h"
 #include "errors.h"
-#include "front.h"
-#include "sound_course.h"
+#include "qt_front.h"
 #include "sound_player.h"
 
 namespace vatro {
@@ -18,7 +16,6 @@ namespace {
 
 /// Until the sound system has answered, in milliseconds; a machine whose sound does not answer has none.
 constexpr int kPatience = 3000;
-constexpr int kPcm = 1;
 
 }  // namespace
 
@@ -45,9 +42,9 @@ public:
         thread_->Ask(player_,
                      [wanted = std::vector(positions.begin(), positions.end())](SoundPlayer& player) { player.SetPositions(wanted); });
     }
-    void Write(int startByte, int size, std::span<const std::int16_t> image) override { ring_->Write(startByte, size, image); }
-    void SetCurrentPosition(int offset) override {
-        thread_->Ask(player_, [offset, run = ++*run_](SoundPlayer& player) { player.MoveTo(offset / kBytesPerSample, run); });
+    void Write(int first, std::span<const std::int16_t> samples) override { ring_->Write(first, samples); }
+    void SetCurrentPosition(int sample) override {
+        thread_->Ask(player_, [sample, run = ++*run_](SoundPlayer& player) { player.MoveTo(sample, run); });
     }
     void PlayLooping() override {
         QElapsedTimer asked;
@@ -70,11 +67,9 @@ class QtSound::Device : public SoundDevice {
 public:
     Device(std::shared_ptr<SoundThread> thread, std::function<void(const Signal&)> signalled)
         : thread_(std::move(thread)), signalled_(std::move(signalled)) {}
-    std::unique_ptr<SoundBuffer> CreateBuffer(const SoundBufferDescription& description, const WaveFormat& format) override {
-        if (format.formatTag != kPcm || format.channels != 1 || format.bitsPerSample != 8 * kBytesPerSample ||
-            format.samplesPerSecond <= 0 || description.bytes < kBytesPerSample)
-            throw RunTimeError(Failure::InvalidCall);
-        auto ring = std::make_shared<SoundRing>(description.bytes / kBytesPerSample);
+    std::unique_ptr<SoundBuffer> CreateBuffer(const SoundFormat& format) override {
+        if (format.samplesPerSecond <= 0 || format.samples <= 0) throw RunTimeError(Failure::InvalidCall);
+        auto ring = std::make_shared<SoundRing>(format.samples);
         return std::make_unique<Buffer>(thread_, ring, format.samplesPerSecond, signalled_);
     }
 

@@ -26,13 +26,10 @@ constexpr long long kMicrosecondsPerSecond = 1'000'000;
 
 }  // namespace
 
-void SoundRing::Write(int startByte, int size, std::span<const std::int16_t> image) {
-    const auto from = static_cast<std::size_t>(startByte / kBytesPerSample);
-    const auto count = static_cast<std::size_t>(size / kBytesPerSample);
-    if (startByte < 0 || size < 0 || from + count > samples_.size() || from + count > image.size())
-        throw RunTimeError(Failure::InvalidCall);
+void SoundRing::Write(int first, std::span<const std::int16_t> samples) {
+    if (first < 0 || static_cast<std::size_t>(first) + samples.size() > samples_.size()) throw RunTimeError(Failure::InvalidCall);
     const std::lock_guard lock(mutex_);
-    std::ranges::copy(image.subspan(from, count), samples_.begin() + static_cast<std::ptrdiff_t>(from));
+    std::ranges::copy(samples, samples_.begin() + first);
 }
 
 void SoundRing::Read(std::size_t from, std::span<std::int16_t> to) const {
@@ -117,6 +114,7 @@ bool SoundPlayer::FillSink() {
     // A stream that the sound system has ended takes less than nothing, and must not be written to.
     const qsizetype room = sink_->bytesFree();
     if (sink_->state() == QAudio::StoppedState || room < 0) return false;
+    constexpr qsizetype kBytesPerSample = sizeof(std::int16_t);
     std::vector<std::int16_t> samples(static_cast<std::size_t>(room / kBytesPerSample));
     if (samples.empty()) return true;
     ring_->Read(course_.At(handed_), samples);

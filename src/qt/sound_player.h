@@ -29,8 +29,8 @@ class SoundRing {
 public:
     explicit SoundRing(int samples) : samples_(static_cast<std::size_t>(samples)) {}
     long long Size() const { return static_cast<long long>(samples_.size()); }
-    /// As SoundBuffer::Write. Fails with 5 outside the buffer or the image.
-    void Write(int startByte, int size, std::span<const std::int16_t> image);
+    /// As SoundBuffer::Write.
+    void Write(int first, std::span<const std::int16_t> samples);
     /// Copies from this sample on, round at the end.
     void Read(std::size_t from, std::span<std::int16_t> to) const;
 
@@ -43,7 +43,7 @@ class SoundPlayer : public QObject {
     Q_OBJECT
 
 public:
-    /// `passed` is called on the audio thread when the sound heard has passed an offset, with the run it belongs to.
+    /// `passed` is called on the audio thread when a sample tied to an event has been heard, with the run it belongs to.
     SoundPlayer(std::shared_ptr<SoundRing> ring, int samplesPerSecond, std::function<void(SoundEvent event, unsigned run)> passed);
     ~SoundPlayer() override;
 

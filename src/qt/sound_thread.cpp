@@ -40,7 +40,7 @@ void SoundThread::Start() {
     thread_->start(QThread::TimeCriticalPriority);
 }
 
-void SoundThread::Post(std::function<void()> task) const {
+void SoundThread::Queue(std::function<void()> task) const {
     if (home_ != nullptr) QMetaObject::invokeMethod(home_, std::move(task), Qt::QueuedConnection);
 }
 
@@ -48,7 +48,7 @@ bool SoundThread::Await(std::function<void()> task, int milliseconds) {
     Start();
     if (home_ == nullptr) return false;
     const auto done = std::make_shared<QSemaphore>();
-    Post([done, task = std::move(task)] {
+    Queue([done, task = std::move(task)] {
         task();
         done->release();
     });
@@ -58,12 +58,12 @@ bool SoundThread::Await(std::function<void()> task, int milliseconds) {
 int SoundThread::AddPlayer(std::function<std::unique_ptr<SoundPlayer>()> make) {
     Start();
     const int player = ++lastPlayer_;
-    Post([home = home_, player, make = std::move(make)] { home->players[player] = make(); });
+    Queue([home = home_, player, make = std::move(make)] { home->players[player] = make(); });
     return player;
 }
 
 void SoundThread::Ask(int player, std::function<void(SoundPlayer&)> task) {
-    Post([home = home_, player, task = std::move(task)] {
+    Queue([home = home_, player, task = std::move(task)] {
         const auto found = home->players.find(player);
         if (found != home->players.end()) task(*found->second);
     });
@@ -71,7 +71,7 @@ void SoundThread::Ask(int player, std::function<void(SoundPlayer&)> task) {
 
 void SoundThread::RemovePlayer(int player) {
     // It is out of reach before it goes.
-    Post([home = home_, player] { home->players.extract(player); });
+    Queue([home = home_, player] { home->players.extract(player); });
 }
 
 bool SoundThread::End() {

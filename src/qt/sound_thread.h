@@ -36,7 +36,7 @@ private:
     class Home;
 
     void Start();
-    void Post(std::function<void()> task) const;
+    void Queue(std::function<void()> task) const;
 
     /// Runs from the first task to End.
     std::unique_ptr<QThread> thread_;

@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <algorithm>
 
-#include "front.h"
 #include "program.h"
+#include "qt_front.h"
 #include "window.h"
 
 namespace vatro {

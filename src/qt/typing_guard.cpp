@@ -12,14 +12,15 @@
 #include <utility>
 
 #include "box_flash.h"
+#include "by_kind.h"
 #include "deliver.h"
 #include "entry/frmMain.h"
 #include "entry/qso_fields.h"
 #include "field_mark.h"
-#include "front.h"
 #include "input.h"
 #include "item_list.h"
 #include "keyer/frmCWTX.h"
+#include "qt_front.h"
 #include "window.h"
 
 namespace vatro {
@@ -172,7 +173,7 @@ bool TypingGuard::TakeOnForm(const Form& form, const PressedKey& key) {
     if (morse_.StillMeansText(key, now())) return true;
     // In the list Enter corrects, in the box it takes the operator.
     const Control* active = form.ActiveControl();
-    if (dynamic_cast<const ListBox*>(active) != nullptr || dynamic_cast<const ComboBox*>(active) != nullptr) return false;
+    if (As<ListBox>(active) != nullptr || As<ComboBox>(active) != nullptr) return false;
     return entry_.Swallows(key, frmMain->Text1[kCallField].Text().empty(), now());
 }
 
@@ -243,7 +244,7 @@ void TypingGuard::SendingOver() {
 
 void TypingGuard::WatchLog() {
     if (!frmMain.Loaded()) return;
-    const auto* list = dynamic_cast<const ItemList*>(front_.WidgetOf(frmMain->List1));
+    const auto* list = qobject_cast<const ItemList*>(front_.WidgetOf(frmMain->List1));
     if (list == nullptr || list->model() == log_) return;
     log_ = list->model();
     // A log that is read comes as a whole; a row by itself has just been logged.

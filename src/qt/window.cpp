@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <cmath>
@@ -16,9 +17,9 @@
 #include "column_head.h"
 #include "deliver.h"
 #include "fields.h"
-#include "front.h"
 #include "input.h"
 #include "layouts.h"
+#include "qt_front.h"
 #include "qt_text.h"
 
 namespace vatro {
@@ -52,18 +53,16 @@ int ToPixels(int twips) {
     return static_cast<int>(std::lround(static_cast<double>(twips) / kTwipsPerPixel));
 }
 
-FormWindow::FormWindow(Form& form, QWidget* owner, QtFront& front) : form_(form), front_(front), scope_(std::make_unique<QObject>()) {
+FormWindow::FormWindow(Form& form, QWidget* owner, QtFront& front) : form_(form), front_(front), bindings_(Surroundings()) {
     Build(owner);
-    BindForm(form, *this);
+    BindForm(form, *top_, bindings_);
     AddAppearance();
     Follow();
     top_->installEventFilter(this);
 }
 
 FormWindow::~FormWindow() {
-    for (const QPointer<Input>& input : inputs_)
-        if (input) input->Release();
-    scope_.reset();
+    bindings_.Close();
     if (!top_) return;
     top_->removeEventFilter(this);
     // Windows above this one are about to get another owner, or to go themselves.
@@ -74,6 +73,11 @@ FormWindow::~FormWindow() {
     front_.Remove(*top_);
 }
 
+InputSurroundings FormWindow::Surroundings() {
+    return {.followFocusSoon = [this] { QTimer::singleShot(0, &bindings_.Scope(), [this] { FollowFocus(); }); },
+            .filtersPaste = [this] { return front_.filterPaste; }};
+}
+
 void FormWindow::Build(QWidget* owner) {
     const QString name = ToQt(form_.Name());
     auto* content = new QWidget;
@@ -81,7 +85,7 @@ void FormWindow::Build(QWidget* owner) {
     if (make != nullptr)
         make(content);
     else
-        AddProblem(name + QStringLiteral(" has no layout"));
+        bindings_.AddProblem(name + QStringLiteral(" has no layout"));
     // The user makes a side window as small as he likes, and finds it so at the next start.
     if (form_.Kind() == FormKind::Tool && content->layout() != nullptr) content->layout()->setSizeConstraint(QLayout::SetNoConstraint);
     if (form_.Kind() == FormKind::Main) {
@@ -112,15 +116,6 @@ void FormWindow::AddAppearance() {
         if (menu->objectName() == QStringLiteral("mnuVis")) new Appearance(*window, *menu->menu());
 }
 
-void FormWindow::AddInput(Control& control, QWidget& widget, QLineEdit* editor) {
-    inputs_.emplace_back(new Input(control, widget, editor));
-}
-
-QWidget* FormWindow::WidgetOf(const Control& control) const {
-    const auto found = widgets_.find(&control);
-    return found == widgets_.end() ? nullptr : found->second.data();
-}
-
 void FormWindow::TakeDesignSize() {
     if (form_.Kind() != FormKind::Main) return;
     const QSize size = top_->size();
@@ -130,7 +125,7 @@ void FormWindow::TakeDesignSize() {
 void FormWindow::Follow() {
     const QString caption = ToQt(form_.Caption());
     if (top_->windowTitle() != caption) top_->setWindowTitle(caption);
-    for (QWidget* widget : namedByCaption_) widget->setAccessibleName(caption.simplified());
+    bindings_.NameWidgets(caption.simplified());
     if (captionHead_ != nullptr) captionHead_->SetCaption(caption);
     if (top_->isEnabled() != form_.Enabled()) top_->setEnabled(form_.Enabled());
     if (form_.Hourglass())

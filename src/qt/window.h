@@ -10,18 +10,15 @@
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
-#include <map>
-#include <memory>
 #include <optional>
-#include <vector>
 
+#include "bindings.h"
 #include "forms.h"
 
 class QWidget;
 
 namespace vatro {
 
-class Input;
 class QtFront;
 
 inline constexpr int kTwipsPerPixel = 15;
@@ -47,9 +44,9 @@ public:
     ~FormWindow() override;
 
     QWidget* Top() const { return top_; }
-    QWidget* WidgetOf(const Control& control) const;
+    QWidget* WidgetOf(const Control& control) const { return bindings_.WidgetOf(control); }
     /// Controls without exactly one widget, and widgets without a control.
-    const QStringList& Problems() const { return problems_; }
+    const QStringList& Problems() const { return bindings_.Problems(); }
 
     /// Shown, and not on the screen yet.
     bool Arriving() const { return arriving_; }
@@ -66,19 +63,10 @@ public:
     /// The size of the layout becomes that of a main form.
     void TakeDesignSize();
 
-    // Of the binder.
-
-    /// Connections and models of the controls; gone before the form is.
-    QObject& Scope() const { return *scope_; }
-    void Enter(const Control& control, QWidget& widget) { widgets_[&control] = &widget; }
-    void AddInput(Control& control, QWidget& widget, class QLineEdit* editor);
-    /// The widget is called as the form's caption says.
-    void NameByCaption(QWidget& widget) { namedByCaption_.emplace_back(&widget); }
-    void AddProblem(const QString& problem) { problems_.append(problem); }
-
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    InputSurroundings Surroundings();
     void Build(QWidget* owner);
     void AddAppearance();
     WindowPlace Told() const;
@@ -105,11 +93,7 @@ private:
     Form& form_;
     QtFront& front_;
     QPointer<QWidget> top_;
-    std::unique_ptr<QObject> scope_;
-    std::map<const Control*, QPointer<QWidget>> widgets_;
-    std::vector<QPointer<Input>> inputs_;
-    std::vector<QPointer<QWidget>> namedByCaption_;
-    QStringList problems_;
+    Bindings bindings_;
     class ColumnHead* captionHead_ = nullptr;
     /// As it was last taken over from the form, if ever.
     std::optional<WindowPlace> place_;

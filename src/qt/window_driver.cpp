@@ -25,6 +25,7 @@
 #include <utility>
 
 #include "bar_widgets.h"
+#include "by_kind.h"
 #include "codepage.h"
 #include "deliver.h"
 #include "dialogs.h"
@@ -251,7 +252,7 @@ void WindowDriver::Pick(Control& control, int row) {
 }
 
 void WindowDriver::DoubleClick(ListBox& list, int row) {
-    auto& view = dynamic_cast<ItemList&>(WidgetOf(list));
+    auto& view = WidgetAs<ItemList>(WidgetOf(list));
     const QModelIndex index = view.model()->index(row, 0);
     view.scrollTo(index);
     const QPoint at = view.viewport()->mapTo(view.window(), view.visualRect(index).center());
@@ -263,13 +264,13 @@ void WindowDriver::DoubleClick(ListBox& list, int row) {
 }
 
 void WindowDriver::Spin(UpDown& arrows, bool up) {
-    const auto& widget = dynamic_cast<SpinArrows&>(WidgetOf(arrows));
+    const auto& widget = WidgetAs<SpinArrows>(WidgetOf(arrows));
     QToolButton& arrow = widget.Arrow(up);
     ClickAt(arrow, arrow.rect().center());
 }
 
 void WindowDriver::Scroll(ScrollBar& bar, int value) {
-    const QPointer<QScrollBar> widget(&dynamic_cast<QScrollBar&>(WidgetOf(bar)));
+    const QPointer<QScrollBar> widget(&WidgetAs<QScrollBar>(WidgetOf(bar)));
     const QPointer<QWindow> window(widget->window()->windowHandle());
     const QPoint at = widget->mapTo(widget->window(), SlideOf(*widget));
     QTest::mousePress(window.data(), Qt::LeftButton, {}, at);
@@ -299,7 +300,7 @@ void WindowDriver::Choose(MenuItem& item) {
 }
 
 void WindowDriver::PressTool(Toolbar& toolbar, int index) {
-    auto& bar = dynamic_cast<QToolBar&>(WidgetOf(toolbar));
+    auto& bar = WidgetAs<QToolBar>(WidgetOf(toolbar));
     QAction* action = ActionOf(index, bar);
     QWidget* button = action != nullptr ? bar.widgetForAction(action) : nullptr;
     if (button == nullptr) throw CannotDeliver("there is no button " + std::to_string(index));
@@ -388,7 +389,7 @@ void WindowDriver::Settle() {
 }
 
 std::string WindowDriver::Mismatch(const Control& control) {
-    if (const auto* item = dynamic_cast<const MenuItem*>(&control)) {
+    if (const auto* item = As<MenuItem>(&control)) {
         const FormWindow* window = front_.WindowOf(item->Parent());
         const QAction* action = ActionOf(*item, MainOf(*window->Top()));
         if (action == nullptr) return "no entry in the menu";
@@ -399,7 +400,7 @@ std::string WindowDriver::Mismatch(const Control& control) {
         return action->isEnabled() == (item->Enabled() && item->Visible()) ? "" : "it is disabled on one side only";
     }
     const QWidget* widget = front_.WidgetOf(control);
-    if (widget == nullptr) return dynamic_cast<const Timer*>(&control) != nullptr ? "" : "no widget";
+    if (widget == nullptr) return As<Timer>(&control) != nullptr ? "" : "no widget";
     return Difference(control, *widget);
 }
 

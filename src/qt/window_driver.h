@@ -5,13 +5,14 @@
 
 #include <QPoint>
 #include <QPointer>
+#include <QWidget>
+#include <string>
 #include <vector>
 
 #include "driver.h"
-#include "front.h"
+#include "qt_front.h"
 
 class QMessageBox;
-class QWidget;
 class QWindow;
 
 namespace vatro {
@@ -60,6 +61,20 @@ private:
     /// The open message boxes, the one in front last.
     std::vector<QPointer<QMessageBox>> boxes_;
 };
+
+/// The widget as a W; a scenario does not go on with anything else.
+template <class W>
+W& WidgetAs(QWidget& widget) {
+    auto* own = qobject_cast<W*>(&widget);
+    if (own == nullptr) throw CannotDeliver("the widget is a " + std::string(widget.metaObject()->className()));
+    return *own;
+}
+template <class W>
+const W& WidgetAs(const QWidget& widget) {
+    const auto* own = qobject_cast<const W*>(&widget);
+    if (own == nullptr) throw CannotDeliver("the widget is a " + std::string(widget.metaObject()->className()));
+    return *own;
+}
 
 /// What of the control its widget shows otherwise; empty if nothing.
 std::string Difference(const Control& control, const QWidget& widget);

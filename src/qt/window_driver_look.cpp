@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "bar_widgets.h"
+#include "by_kind.h"
 #include "column_head.h"
 #include "fields.h"
 #include "forms.h"
@@ -100,6 +101,14 @@ std::string Differs(const OptionButton& control, const QAbstractButton& widget) 
     return widget.text() == ToQt(control.Caption()) ? "" : "the text is another one";
 }
 
+std::string Differs(const CheckBox& control, const QAbstractButton& widget) {
+    return widget.isChecked() == control.Value() ? "" : "the tick is another one";
+}
+
+std::string Differs(const Button& control, const QAbstractButton& widget) {
+    return widget.text() == ToQt(control.Caption()) ? "" : "the text is another one";
+}
+
 std::string Differs(const ScrollBar& control, const QScrollBar& bar) {
     const ScrollBar::Range& limits = control.Limits();
     if (bar.minimum() != limits.min || bar.maximum() != limits.max) return "the ends are other ones";
@@ -112,22 +121,21 @@ std::string Differs(const ScrollBar& control, const QScrollBar& bar) {
 std::string Difference(const Control& control, const QWidget& widget) {
     if (widget.isHidden() == control.Visible()) return "one is hidden, the other shown";
     if (control.Parent().Enabled() && widget.isEnabled() != control.Enabled()) return "one is disabled, the other enabled";
-    if (const auto* box = dynamic_cast<const ComboBox*>(&control)) return Differs(*box, dynamic_cast<const QComboBox&>(widget));
-    if (const auto* text = dynamic_cast<const TextView*>(&control)) return Differs(*text, dynamic_cast<const QPlainTextEdit&>(widget));
-    if (const auto* text = dynamic_cast<const TextControl*>(&control)) return Differs(*text, dynamic_cast<const QLineEdit&>(widget));
-    if (const auto* list = dynamic_cast<const ListBox*>(&control)) return Differs(*list, dynamic_cast<const ItemList&>(widget));
-    if (const auto* label = dynamic_cast<const Label*>(&control)) return Differs(*label, widget);
-    if (const auto* bar = dynamic_cast<const Toolbar*>(&control)) return Differs(*bar, dynamic_cast<const QToolBar&>(widget));
-    if (const auto* bar = dynamic_cast<const StatusBar*>(&control)) return Differs(*bar, dynamic_cast<const QStatusBar&>(widget));
-    if (const auto* bar = dynamic_cast<const ProgressBar*>(&control)) return Differs(*bar, dynamic_cast<const QProgressBar&>(widget));
-    if (const auto* bar = dynamic_cast<const ScrollBar*>(&control)) return Differs(*bar, dynamic_cast<const QScrollBar&>(widget));
-    if (const auto* option = dynamic_cast<const OptionButton*>(&control))
-        return Differs(*option, dynamic_cast<const QAbstractButton&>(widget));
-    if (const auto* check = dynamic_cast<const CheckBox*>(&control))
-        if (dynamic_cast<const QAbstractButton&>(widget).isChecked() != check->Value()) return "the tick is another one";
-    if (const auto* button = dynamic_cast<const Button*>(&control))
-        if (dynamic_cast<const QAbstractButton&>(widget).text() != ToQt(button->Caption())) return "the text is another one";
-    return {};
+    return ByKind(
+        control, [&](const ComboBox& box) { return Differs(box, WidgetAs<QComboBox>(widget)); },
+        [&](const TextView& text) { return Differs(text, WidgetAs<QPlainTextEdit>(widget)); },
+        [&](const TextBox& text) { return Differs(text, WidgetAs<QLineEdit>(widget)); },
+        [&](const ListBox& list) { return Differs(list, WidgetAs<ItemList>(widget)); },
+        [&](const Label& label) { return Differs(label, widget); },
+        [&](const Toolbar& bar) { return Differs(bar, WidgetAs<QToolBar>(widget)); },
+        [&](const StatusBar& bar) { return Differs(bar, WidgetAs<QStatusBar>(widget)); },
+        [&](const ProgressBar& bar) { return Differs(bar, WidgetAs<QProgressBar>(widget)); },
+        [&](const ScrollBar& bar) { return Differs(bar, WidgetAs<QScrollBar>(widget)); },
+        [&](const OptionButton& option) { return Differs(option, WidgetAs<QAbstractButton>(widget)); },
+        [&](const CheckBox& box) { return Differs(box, WidgetAs<QAbstractButton>(widget)); },
+        [&](const Button& button) { return Differs(button, WidgetAs<QAbstractButton>(widget)); },
+        // What they show does not change, or is looked at elsewhere.
+        [](const Control&) { return std::string(); });
 }
 
 void SaveWindows(const std::string& file) {

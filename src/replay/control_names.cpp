@@ -3,6 +3,7 @@
 
 #include <charconv>
 
+#include "by_kind.h"
 #include "codepage.h"
 #include "driver.h"
 
@@ -58,14 +59,14 @@ MenuItem& FindMenuItem(std::string_view name) {
     int index = -1;
     if (!SplitIndex(name, item, index)) throw CannotDeliver(ToUtf8(name) + " is no name of a menu item");
     for (Form* form : LoadedForms())
-        if (auto* found = dynamic_cast<MenuItem*>(form->Find(item, index))) return *found;
+        if (auto* found = As<MenuItem>(form->Find(item, index))) return *found;
     throw CannotDeliver("there is no menu item " + ToUtf8(name));
 }
 
 Toolbar& FindToolbar() {
     for (Form* form : LoadedForms())
         for (Control* control : form->Controls())
-            if (auto* toolbar = dynamic_cast<Toolbar*>(control)) return *toolbar;
+            if (auto* toolbar = As<Toolbar>(control)) return *toolbar;
     throw CannotDeliver("there is no toolbar");
 }
 

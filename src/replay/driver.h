@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "forms.h"
+#include "front.h"
 #include "platform.h"
 
 namespace vatro {

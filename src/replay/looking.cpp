@@ -3,6 +3,7 @@
 
 #include <set>
 
+#include "by_kind.h"
 #include "codepage.h"
 #include "control_names.h"
 #include "scene_font.h"
@@ -76,46 +77,48 @@ Output ShowNamedControl(const std::string& name, bool state, Driver& driver) {
 
 Output ShowControl(const Control& control) {
     const std::string name = NameOf(control);
-    if (const auto* list = dynamic_cast<const ListBox*>(&control)) {
-        Output lines{name + Count(list->ListCount()) + " selected " + std::to_string(list->ListIndex())};
-        AddItems(lines, list->Items());
+    const auto line = [&name](const std::string& rest) { return Output{name + " " + rest}; };
+    const auto withItems = [](Output lines, const std::vector<std::string>& items) {
+        AddItems(lines, items);
         return lines;
-    }
-    if (const auto* combo = dynamic_cast<const ComboBox*>(&control)) {
-        Output lines{name + " " + Quoted(combo->Text()) + Count(combo->ListCount())};
-        AddItems(lines, combo->Items());
-        return lines;
-    }
-    if (const auto* field = dynamic_cast<const TextControl*>(&control)) return {name + " " + Quoted(field->Text())};
-    if (const auto* label = dynamic_cast<const Label*>(&control)) return {name + " " + Quoted(label->Caption())};
-    if (const auto* button = dynamic_cast<const Button*>(&control)) return {name + " " + Quoted(button->Caption())};
-    if (const auto* frame = dynamic_cast<const Frame*>(&control)) return {name + " " + Quoted(frame->Caption())};
-    if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return {name + (box->Value() ? " on" : " off")};
-    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return {name + (option->Value() ? " on" : " off")};
-    if (const auto* slide = dynamic_cast<const ScrollBar*>(&control))
-        return {name + " " + std::to_string(slide->Value()) + " of " + std::to_string(slide->Limits().max)};
-    if (const auto* bar = dynamic_cast<const StatusBar*>(&control)) {
-        std::string line = name;
-        for (const std::string& panel : bar->Panels()) line += " " + Quoted(panel);
-        return {line};
-    }
-    if (const auto* progress = dynamic_cast<const ProgressBar*>(&control))
-        return {name + " " + std::to_string(progress->Value()) + " of " + std::to_string(progress->Max())};
-    throw CannotDeliver(name + " has nothing to show");
+    };
+    return ByKind(
+        control,
+        [&](const ListBox& list) {
+            return withItems({name + Count(list.ListCount()) + " selected " + std::to_string(list.ListIndex())}, list.Items());
+        },
+        [&](const ComboBox& combo) { return withItems({name + " " + Quoted(combo.Text()) + Count(combo.ListCount())}, combo.Items()); },
+        [&](const TextControl& field) { return line(Quoted(field.Text())); },
+        [&](const Label& label) { return line(Quoted(label.Caption())); },
+        [&](const Button& button) { return line(Quoted(button.Caption())); },
+        [&](const Frame& frame) { return line(Quoted(frame.Caption())); },
+        [&](const CheckBox& box) { return line(box.Value() ? "on" : "off"); },
+        [&](const OptionButton& option) { return line(option.Value() ? "on" : "off"); },
+        [&](const ScrollBar& slide) { return line(std::to_string(slide.Value()) + " of " + std::to_string(slide.Limits().max)); },
+        [&](const StatusBar& bar) {
+            std::string panels = name;
+            for (const std::string& panel : bar.Panels()) panels += " " + Quoted(panel);
+            return Output{panels};
+        },
+        [&](const ProgressBar& bar) { return line(std::to_string(bar.Value()) + " of " + std::to_string(bar.Max())); },
+        [&](const Control&) -> Output { throw CannotDeliver(name + " has nothing to show"); });
 }
 
 Output ShowControlState(const Control& control) {
     std::string line = NameOf(control) + (control.Enabled() ? " enabled" : " disabled") + (control.Visible() ? " shown" : " hidden");
-    if (const auto* field = dynamic_cast<const TextControl*>(&control)) {
-        if (field->MaxLength() > 0) line += " limit " + std::to_string(field->MaxLength());
-        line += " selected " + std::to_string(field->SelStart()) + " " + std::to_string(field->SelLength());
-    }
-    if (const auto* label = dynamic_cast<const Label*>(&control)) {
-        const Font& font = label->LabelFont();
-        line += " colour " + std::to_string(label->ForeColour()) + " back " + std::to_string(label->BackColour()) +
-                (label->Opaque() ? " opaque" : " transparent") + " font " + Quoted(font.name) + " " + Shortest(font.size) + " " +
-                StyleOf(font);
-    }
+    ByKind(
+        control,
+        [&](const TextControl& field) {
+            if (field.MaxLength() > 0) line += " limit " + std::to_string(field.MaxLength());
+            line += " selected " + std::to_string(field.SelStart()) + " " + std::to_string(field.SelLength());
+        },
+        [&](const Label& label) {
+            const Font& font = label.LabelFont();
+            line += " colour " + std::to_string(label.ForeColour()) + " back " + std::to_string(label.BackColour()) +
+                    (label.Opaque() ? " opaque" : " transparent") + " font " + Quoted(font.name) + " " + Shortest(font.size) + " " +
+                    StyleOf(font);
+        },
+        [](const Control&) {});
     if (!control.ToolTip().empty()) line += " tip " + Quoted(control.ToolTip());
     return {line};
 }

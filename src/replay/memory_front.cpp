@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "memory_front.h"
 
+#include "by_kind.h"
 #include "codepage.h"
 #include "memory_keys.h"
 #include "program.h"
@@ -14,7 +15,7 @@ namespace {
 /// The entry of the active form's menus with this shortcut, or nothing.
 MenuItem* FindShortcut(const Form& form, const std::string& shortcut) {
     for (Control* control : form.Controls()) {
-        auto* item = dynamic_cast<MenuItem*>(control);
+        auto* item = As<MenuItem>(control);
         if (item != nullptr && item->Shortcut() == shortcut) return item;
     }
     return nullptr;
@@ -59,7 +60,7 @@ void MemoryFront::PressInMenu(const KeyStroke& key) {
 
 bool MemoryFront::OpenMenu(const Form& form, char letter) {
     for (Control* control : form.Controls()) {
-        auto* item = dynamic_cast<MenuItem*>(control);
+        auto* item = As<MenuItem>(control);
         if (item == nullptr || item->Menu() != nullptr || !item->Choosable() || AccessKey(item->Caption()) != letter) continue;
         menu_ = item;
         return true;
@@ -92,7 +93,7 @@ void MemoryFront::PressInForm(Form& form, const KeyStroke& key) {
 }
 
 void MemoryFront::Paste(std::string_view text) {
-    auto* field = dynamic_cast<TextControl*>(ActiveForm()->ActiveControl());
+    auto* field = As<TextControl>(ActiveForm()->ActiveControl());
     Dispatch([&] { field->Insert(text); });
 }
 
@@ -104,7 +105,7 @@ void MemoryFront::ByMouse(const std::function<void()>& event) {
 
 void MemoryFront::Focus(Control& control) {
     ByMouse([&] {
-        auto* field = dynamic_cast<TextControl*>(&control);
+        auto* field = As<TextControl>(&control);
         const auto caretToEnd = [&] {
             if (field != nullptr) field->UserSelected(static_cast<int>(field->Text().size()), 0);
         };
@@ -122,16 +123,7 @@ void MemoryFront::Click(Control& control) {
         if (control.TakesFocus()) form.UserFocus(control, FocusWay::Mouse);
         // A handler of the change of focus may have taken the control away from under the mouse.
         if (!form.Reachable() || !control.Enabled() || !control.Visible()) return;
-        if (auto* button = dynamic_cast<Button*>(&control))
-            button->Press();
-        else if (auto* box = dynamic_cast<CheckBox*>(&control))
-            box->Flip();
-        else if (auto* option = dynamic_cast<OptionButton*>(&control))
-            option->UserChosen(FocusWay::Mouse);
-        else if (auto* picture = dynamic_cast<Picture*>(&control))
-            picture->UserClicked();
-        else if (control.Click)
-            control.Click();
+        control.UserClicked();
     });
 }
 
@@ -146,10 +138,12 @@ void MemoryFront::Pick(Control& control, int row) {
     ByMouse([&] {
         control.Parent().UserFocus(control, FocusWay::Mouse);
         if (!control.Enabled()) return;
-        if (auto* list = dynamic_cast<ListBox*>(&control))
-            list->UserSelected(row);
-        else if (auto* combo = dynamic_cast<ComboBox*>(&control))
-            if (row < combo->ListCount()) combo->UserPicked(row);
+        ByKind(
+            control, [row](ListBox& list) { list.UserSelected(row); },
+            [row](ComboBox& combo) {
+                if (row < combo.ListCount()) combo.UserPicked(row);
+            },
+            [](Control&) {});
     });
 }
 
@@ -231,10 +225,6 @@ void MemoryFront::RunModal(Form& form) {
 
 double MemoryFront::TextWidth(std::string_view text, const Font& font) {
     return SceneTextWidth(text, font);
-}
-
-double MemoryFront::TextHeight(const Font& font) {
-    return SceneTextHeight(font);
 }
 
 }  // namespace vatro

@@ -55,7 +55,6 @@ private:
     void Refresh(Form& form) override { static_cast<void>(form); }
     void DoEvents() override {}
     double TextWidth(std::string_view text, const Font& font) override;
-    double TextHeight(const Font& font) override;
     void Ended() override { menu_ = nullptr; }
 
     void PressInMenu(const KeyStroke& key);

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <optional>
 
+#include "by_kind.h"
+
 namespace vatro {
 
 namespace {
@@ -70,6 +72,27 @@ int RowBehind(const KeyStroke& key, int row, int rows) {
     return std::clamp(to, 0, rows - 1);
 }
 
+void UseInCombo(ComboBox& combo, const KeyStroke& key, KeyCode code) {
+    if (key.name != "Up" && key.name != "Down") return UseInField(combo, key, code);
+    // No row is chosen: none is above.
+    if (key.name == "Up" && combo.ListIndex() < 0) return;
+    const int row = RowBehind(key, combo.ListIndex(), combo.ListCount());
+    if (row >= 0 && row != combo.ListIndex()) combo.UserPicked(row);
+}
+
+void UseInList(ListBox& list, const KeyStroke& key) {
+    const int row = RowBehind(key, list.ListIndex(), list.ListCount());
+    if (row >= 0) list.UserSelected(row);
+}
+
+void UseOnOption(OptionButton& option, const KeyStroke& key, KeyCode code) {
+    const bool back = key.name == "Up" || key.name == "Left";
+    if (back || key.name == "Down" || key.name == "Right")
+        option.UserArrow(back);
+    else if (code == kSpace)
+        option.UserChosen(FocusWay::Key);
+}
+
 /// What a key does to a scroll bar, or nothing.
 std::optional<ScrollBar::Move> MoveOf(const KeyStroke& key) {
     using enum ScrollBar::Move;
@@ -95,34 +118,21 @@ KeyCode KeyCodeOf(const KeyStroke& key) {
 }
 
 void UseKey(Control& control, const KeyStroke& key, KeyCode code) {
-    if (key.ctrl || key.alt || !control.Enabled() || dynamic_cast<const TextView*>(&control) != nullptr) return;
-    if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
-        if (key.name == "Up" || key.name == "Down") {
-            // No row is chosen: none is above.
-            if (key.name == "Up" && combo->ListIndex() < 0) return;
-            const int row = RowBehind(key, combo->ListIndex(), combo->ListCount());
-            if (row >= 0 && row != combo->ListIndex()) combo->UserPicked(row);
-            return;
-        }
-    }
-    if (auto* field = dynamic_cast<TextControl*>(&control)) {
-        UseInField(*field, key, code);
-    } else if (auto* list = dynamic_cast<ListBox*>(&control)) {
-        const int row = RowBehind(key, list->ListIndex(), list->ListCount());
-        if (row >= 0) list->UserSelected(row);
-    } else if (auto* button = dynamic_cast<Button*>(&control)) {
-        if (code == kEnter || code == kSpace) button->Press();
-    } else if (auto* box = dynamic_cast<CheckBox*>(&control)) {
-        if (code == kSpace) box->Flip();
-    } else if (auto* option = dynamic_cast<OptionButton*>(&control)) {
-        const bool back = key.name == "Up" || key.name == "Left";
-        if (back || key.name == "Down" || key.name == "Right")
-            option->UserArrow(back);
-        else if (code == kSpace)
-            option->UserChosen(FocusWay::Key);
-    } else if (auto* bar = dynamic_cast<ScrollBar*>(&control)) {
-        if (const auto move = MoveOf(key)) bar->UserMoved(*move);
-    }
+    if (key.ctrl || key.alt || !control.Enabled()) return;
+    ByKind(
+        control, [&](ComboBox& combo) { UseInCombo(combo, key, code); }, [&](TextBox& field) { UseInField(field, key, code); },
+        [&](ListBox& list) { UseInList(list, key); },
+        [&](Button& button) {
+            if (code == kEnter || code == kSpace) button.Press();
+        },
+        [&](CheckBox& box) {
+            if (code == kSpace) box.Flip();
+        },
+        [&](OptionButton& option) { UseOnOption(option, key, code); },
+        [&](ScrollBar& bar) {
+            if (const auto move = MoveOf(key)) bar.UserMoved(*move);
+        },
+        [](Control&) {});
 }
 
 }  // namespace vatro

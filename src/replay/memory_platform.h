@@ -43,7 +43,7 @@ struct MemoryPlatform {
     PageSurface printer{pages};
 
     void Install(NobodyThere& nobody, Files& files) {
-        InstallPlatform({front.ProgramFront(), nobody, settings, files, clock, nobody, nobody, sound, printer, Version{}});
+        InstallPlatform(front.ProgramFront(), {nobody, settings, files, clock, nobody, nobody, sound, printer, Version{}});
     }
 };
 

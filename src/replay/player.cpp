@@ -21,16 +21,15 @@ Player::Player(const Scenario& scenario, const World& world, Driver& driver, std
       files_(disk_),
       outputs_(scenario.Commands().size()) {
     driver_.playUntil = [this](const std::function<bool()>& done) { PlayUntil(done); };
-    InstallPlatform({.front = driver_.ProgramFront(),
-                     .dialogs = *this,
-                     .settings = settings_,
-                     .files = files_,
-                     .clock = clock_,
-                     .help = *this,
-                     .instance = *this,
-                     .sound = sound_,
-                     .printer = printer_,
-                     .version = {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
+    InstallPlatform(driver_.ProgramFront(), {.dialogs = *this,
+                                             .settings = settings_,
+                                             .files = files_,
+                                             .clock = clock_,
+                                             .help = *this,
+                                             .instance = *this,
+                                             .sound = sound_,
+                                             .printer = printer_,
+                                             .version = {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 }
 
 Player::~Player() {

@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "by_kind.h"
 #include "codepage.h"
 #include "looking.h"
 #include "player_verbs.h"
@@ -154,9 +155,10 @@ Form& ReachableForm(const std::string& name) {
 
 /// The items of a list or combo box.
 const std::vector<std::string>& ItemsOf(const Control& control) {
-    if (const auto* list = dynamic_cast<const ListBox*>(&control)) return list->Items();
-    if (const auto* combo = dynamic_cast<const ComboBox*>(&control)) return combo->Items();
-    throw CannotDeliver(NameOf(control) + " is neither a list nor a combo box");
+    using Items = const std::vector<std::string>&;
+    return ByKind(
+        control, [](const ListBox& list) -> Items { return list.Items(); }, [](const ComboBox& combo) -> Items { return combo.Items(); },
+        [](const Control& other) -> Items { throw CannotDeliver(NameOf(other) + " is neither a list nor a combo box"); });
 }
 
 int CheckRow(int row, const Control& control) {
@@ -195,7 +197,7 @@ void Player::DoPaste(const Command& command) {
     const Form* form = ActiveForm();
     if (form == nullptr) throw CannotDeliver("no form is active");
     CheckReachable(form, form->Name());
-    const auto* field = dynamic_cast<const TextControl*>(form->ActiveControl());
+    const auto* field = As<TextControl>(form->ActiveControl());
     if (field == nullptr) throw CannotDeliver("no text field has the focus");
     if (!field->Enabled()) throw CannotDeliver(NameOf(*field) + " is disabled");
     driver_.Paste(command.rest);
@@ -213,18 +215,11 @@ void Player::DoClick(const Command& command) {
         driver_.ClickForm(ReachableForm(name));
         return;
     }
-    Control& control = ReachableControl(name);
-    if (dynamic_cast<const TextControl*>(&control) != nullptr) {
-        driver_.Focus(control);
-        return;
-    }
-    if (dynamic_cast<const ListBox*>(&control) != nullptr || dynamic_cast<const Toolbar*>(&control) != nullptr ||
-        dynamic_cast<const MenuItem*>(&control) != nullptr || dynamic_cast<const Timer*>(&control) != nullptr ||
-        dynamic_cast<const StatusBar*>(&control) != nullptr || dynamic_cast<const ProgressBar*>(&control) != nullptr ||
-        dynamic_cast<const Frame*>(&control) != nullptr || dynamic_cast<const ScrollBar*>(&control) != nullptr ||
-        dynamic_cast<const UpDown*>(&control) != nullptr)
-        throw CannotDeliver(NameOf(control) + " is nothing to click on");
-    driver_.Click(control);
+    ByKind(
+        ReachableControl(name), [this](TextControl& field) { driver_.Focus(field); },
+        [this](CaptionedControl& pressed) { driver_.Click(pressed); }, [this](Label& label) { driver_.Click(label); },
+        [this](Picture& picture) { driver_.Click(picture); },
+        [](Control& other) { throw CannotDeliver(NameOf(other) + " is nothing to click on"); });
 }
 
 void Player::DoPick(const Command& command) {
@@ -234,14 +229,14 @@ void Player::DoPick(const Command& command) {
 
 void Player::DoDoubleClick(const Command& command) {
     Control& control = ReachableControl(command.arguments[0]);
-    auto* list = dynamic_cast<ListBox*>(&control);
+    auto* list = As<ListBox>(&control);
     if (list == nullptr) throw CannotDeliver(NameOf(control) + " is no list");
     driver_.DoubleClick(*list, CheckRow(ReadInteger(command.arguments[1]), *list));
 }
 
 void Player::DoSpin(const Command& command) {
     Control& control = ReachableControl(command.arguments[0]);
-    auto* arrows = dynamic_cast<UpDown*>(&control);
+    auto* arrows = As<UpDown>(&control);
     if (arrows == nullptr) throw CannotDeliver(NameOf(control) + " has no arrows");
     const std::string& way = command.arguments[1];
     if (way != "up" && way != "down") throw CannotDeliver("spin: " + way + " is neither up nor down");
@@ -250,7 +245,7 @@ void Player::DoSpin(const Command& command) {
 
 void Player::DoScroll(const Command& command) {
     Control& control = ReachableControl(command.arguments[0]);
-    auto* bar = dynamic_cast<ScrollBar*>(&control);
+    auto* bar = As<ScrollBar>(&control);
     if (bar == nullptr) throw CannotDeliver(NameOf(control) + " is no scroll bar");
     const int value = ReadInteger(command.arguments[1]);
     if (value < bar->Limits().min || value > bar->Limits().max)

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "controls.h"
 #include "program.h"
+#include "ticker.h"
 
 namespace vatro {
 
@@ -25,9 +25,9 @@ void SceneClock::MoveTo(Moment moment) {
     passed_ = std::max(passed_, moment);
 }
 
-void SceneClock::Schedule(Timer& timer) {
-    std::erase_if(waiting_, [&](const Waiting& waiting) { return waiting.timer == &timer; });
-    if (timer.Running()) waiting_.push_back({&timer, passed_ + timer.Interval()});
+void SceneClock::Schedule(Ticker& ticker) {
+    std::erase_if(waiting_, [&](const Waiting& waiting) { return waiting.ticker == &ticker; });
+    if (ticker.Running()) waiting_.push_back({&ticker, passed_ + ticker.Interval()});
 }
 
 std::vector<SceneClock::Waiting>::const_iterator SceneClock::Next() const {
@@ -43,10 +43,10 @@ std::optional<Moment> SceneClock::NextDue() const {
 void SceneClock::DeliverNext() {
     const auto next = Next();
     if (next == waiting_.end()) return;
-    Timer& timer = *next->timer;
+    Ticker& ticker = *next->ticker;
     // The countdown begins anew before the handler runs, which may change it.
-    Schedule(timer);
-    Dispatch([&] { timer.Tick(); });
+    Schedule(ticker);
+    Dispatch([&] { ticker.Tick(); });
 }
 
 }  // namespace vatro

@@ -28,7 +28,7 @@ class SceneClock : public Clock, public DueEvents {
 public:
     DateTime Now() override;
     double SecondsSinceMidnight() override;
-    void Schedule(Timer& timer) override;
+    void Schedule(Ticker& ticker) override;
 
     /// Sets the local time.
     void Set(const DateTime& now);
@@ -41,7 +41,7 @@ public:
 
 private:
     struct Waiting {
-        Timer* timer;
+        Ticker* ticker;
         Moment due;
     };
 

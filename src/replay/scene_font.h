@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "control.h"
+#include "font.h"
 
 namespace vatro {
 

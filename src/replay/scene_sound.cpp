@@ -19,26 +19,26 @@ constexpr Moment kMillisecondsPerSecond = 1000;
 /// Counts the samples that it has played since the play began.
 class SceneSound::Buffer : public SoundBuffer {
 public:
-    Buffer(SceneSound& sound, int bytes, int samplesPerSecond)
+    Buffer(SceneSound& sound, const SoundFormat& format)
         : sound_(sound),
-          samplesPerSecond_(samplesPerSecond),
-          samples_(static_cast<std::size_t>(bytes / kBytesPerSample)),
-          course_(bytes / kBytesPerSample) {}
+          samplesPerSecond_(format.samplesPerSecond),
+          samples_(static_cast<std::size_t>(format.samples)),
+          course_(format.samples) {}
     ~Buffer() override { Stop(); }
     Buffer(const Buffer&) = delete;
     Buffer& operator=(const Buffer&) = delete;
 
     void SetNotificationPositions(std::span<const PositionNotification> positions) override { course_.SetPositions(positions); }
 
-    void Write(int startByte, int size, std::span<const std::int16_t> image) override {
+    void Write(int first, std::span<const std::int16_t> samples) override {
+        if (first < 0 || static_cast<std::size_t>(first) + samples.size() > samples_.size()) throw RunTimeError(Failure::InvalidCall);
         CatchUp();
-        const auto from = image.begin() + startByte / kBytesPerSample;
-        std::copy_n(from, size / kBytesPerSample, samples_.begin() + startByte / kBytesPerSample);
+        std::ranges::copy(samples, samples_.begin() + first);
     }
 
-    void SetCurrentPosition(int offset) override {
+    void SetCurrentPosition(int sample) override {
         CatchUp();
-        Begin(offset / kBytesPerSample);
+        Begin(sample);
     }
 
     void PlayLooping() override {
@@ -59,7 +59,7 @@ public:
         for (; played_ < due; ++played_) sound_.heard_.push_back(samples_[course_.At(played_)]);
     }
 
-    /// When the position next passes an offset that is tied to an event.
+    /// When the next sample that is tied to an event has been played.
     std::optional<std::pair<Moment, SoundEvent>> Next() const {
         const auto passing = course_.Next();
         if (!passing) return std::nullopt;
@@ -90,9 +90,9 @@ private:
 class SceneSound::Device : public SoundDevice {
 public:
     explicit Device(SceneSound& sound) : sound_(sound) {}
-    std::unique_ptr<SoundBuffer> CreateBuffer(const SoundBufferDescription& description, const WaveFormat& format) override {
-        if (format.channels != 1 || format.bitsPerSample != 8 * kBytesPerSample) throw RunTimeError(Failure::InvalidCall);
-        return std::make_unique<Buffer>(sound_, description.bytes, format.samplesPerSecond);
+    std::unique_ptr<SoundBuffer> CreateBuffer(const SoundFormat& format) override {
+        if (format.samplesPerSecond <= 0 || format.samples <= 0) throw RunTimeError(Failure::InvalidCall);
+        return std::make_unique<Buffer>(sound_, format);
     }
 
 private:

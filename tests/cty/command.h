@@ -7,20 +7,20 @@
 #include <vector>
 
 #include "child_process.h"
-#include "country/import.h"
 #include "country/lookup.h"
 #include "country/tables.h"
 #include "disk/temporary_world.h"
-#include "frame/station.h"
+#include "frame/state.h"
 #include "program.h"
 #include "running_program.h"
 #include "tables/frmCtyDat.h"
+#include "tables/import_country_file.h"
 
 namespace vatro {
 
 /// A header line of Fantasia with this primary prefix.
-inline std::string CtyHeader(const std::string& pfx) {
-    return "Fantasia:                 14:  27:  EU:   56.00:   -10.00:    -1.0:  " + pfx + ":";
+inline std::string CtyHeader(const std::string& prefix) {
+    return "Fantasia:                 14:  27:  EU:   56.00:   -10.00:    -1.0:  " + prefix + ":";
 }
 
 class CtyCommand : public TemporaryWorld {
@@ -29,7 +29,7 @@ protected:
 
     ~CtyCommand() override {
         if (ProgramRuns()) EndProgram();
-        ResetTables();
+        ResetDesk();
     }
 
     /// The arguments, with the directory as the current one.
@@ -45,10 +45,10 @@ protected:
     /// The program's own import of this file of the directory. The number of the failure that stops it, 0 if none does.
     int Import(const std::string& name) {
         Put("cty.dat", Content(name));
-        InstallPlatform({front_, dialogs_, settings_, files_, clock_, help_, instance_, sound_, printer_, {1, 0, 0}});
+        InstallPlatform(front_, {dialogs_, settings_, files_, clock_, help_, instance_, sound_, printer_, {1, 0, 0}});
         BeginProgram();
-        ResetTables();
-        gsFDLib = NativeText(root_);
+        ResetDesk();
+        desk().gsFDLib = NativeText(root_);
         const int number = NumberOf(ImporterCty);
         // As the end of the program does.
         files_.Close(1);
@@ -57,9 +57,7 @@ protected:
     }
     /// The primary prefix of the country that the program finds for the call, "" for none.
     static std::string CountryOf(const std::string& call) {
-        std::string country;
-        LandWkd(call, country, MarkAction::Test);
-        return std::string(Trim(country));
+        return std::string(Trim(desk().countries.LandWkd(call, MarkAction::Test).resultat));
     }
 
     FakeDialogs dialogs_;

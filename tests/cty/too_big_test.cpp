@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "cty/command.h"
+#include "tables/load_tables.h"
 
 namespace vatro {
 namespace {
@@ -17,8 +18,8 @@ std::string Figures(int number) {
 }
 
 /// The lines of a country, eight items to a line.
-void AddCountry(Texts& lines, const std::string& pfx, const Texts& items) {
-    lines.push_back(CtyHeader(pfx));
+void AddCountry(Texts& lines, const std::string& prefix, const Texts& items) {
+    lines.push_back(CtyHeader(prefix));
     for (std::size_t i = 0; i < items.size(); ++i) {
         if (i % 8 == 0) lines.emplace_back("    ");
         lines.back() += items[i] + (i + 1 == items.size() ? ";" : ",");
@@ -67,13 +68,13 @@ protected:
         Texts lines;
         for (char group : {'C', 'D'})
             for (char figure = '0'; figure <= '9'; ++figure) {
-                const std::string pfx{group, figure};
-                Texts list{pfx, "=X" + pfx + "AB"};
-                for (int i = 0; i < 100; ++i) list.push_back(pfx + "1" + Letters(i));
-                for (int i = 0; i < 100; ++i) list.push_back(pfx + "2" + Letters(i) + "(15)");
-                for (int i = 0; i < 100; ++i) list.push_back("=" + pfx + "3" + Letters(i) + "A");
-                for (int i = 0; i < items / 20 - 302; ++i) list.push_back("=Y" + pfx + Letters(i) + "A");
-                AddCountry(lines, pfx, list);
+                const std::string prefix{group, figure};
+                Texts list{prefix, "=X" + prefix + "AB"};
+                for (int i = 0; i < 100; ++i) list.push_back(prefix + "1" + Letters(i));
+                for (int i = 0; i < 100; ++i) list.push_back(prefix + "2" + Letters(i) + "(15)");
+                for (int i = 0; i < 100; ++i) list.push_back("=" + prefix + "3" + Letters(i) + "A");
+                for (int i = 0; i < items / 20 - 302; ++i) list.push_back("=Y" + prefix + Letters(i) + "A");
+                AddCountry(lines, prefix, list);
             }
         PutLines("big.dat", lines);
         before_ = Items(Content("big.dat"));
@@ -104,8 +105,9 @@ protected:
     static std::string Call(const std::string& item) { return item.substr(item.starts_with('=') ? 1 : 0); }
     static std::string Letters(int n) { return {static_cast<char>('A' + n / 26), static_cast<char>('A' + n % 26)}; }
     /// As the program has them at its next start.
-    static void ReadTables() {
-        ResetTables();
+    void ReadTables() const {
+        ResetDesk();
+        desk().gsFDLib = NativeText(root_);
         IndlæsLande();
         IndlæsRefPfx();
     }
@@ -143,8 +145,8 @@ TEST_F(TooBig, LosesWhatIsGivenAnywayAndNoMoreThanItMust) {
     EXPECT_TRUE(after_.contains("=D03ABA"));
 
     EXPECT_EQ(Import("fit.dat"), 0);
-    EXPECT_EQ(giRefPfx, 5999);
-    EXPECT_EQ(giLande, 20);
+    EXPECT_EQ(desk().tables.giRefPfx, 5999);
+    EXPECT_EQ(desk().tables.giLande, 20);
     for (int start = 0; start < 2; ++start, ReadTables()) {
         for (const auto& [item, country] : before_) ASSERT_EQ(CountryOf(Call(item)), country) << item;
         EXPECT_EQ(CountryOf("XC0AC"), "");
@@ -161,7 +163,7 @@ TEST_F(TooBig, ThenLosesZonesAndThenCallsTheShortestFirst) {
     EXPECT_EQ(Kept(), (std::map<std::string, int>{{"own", 20}, {"Y", 5979}}));
 
     EXPECT_EQ(Import("fit.dat"), 0);
-    EXPECT_EQ(giRefPfx, 5999);
+    EXPECT_EQ(desk().tables.giRefPfx, 5999);
     for (int start = 0; start < 2; ++start, ReadTables()) {
         for (const auto& [item, country] : after_) ASSERT_EQ(CountryOf(Call(item)), country) << item;
         EXPECT_EQ(CountryOf("C49AB"), "C4");

@@ -76,11 +76,11 @@ TEST(LogText, FindsTheContactBehindZerosFurtherUp) {
 
 TEST(MissingContacts, AreNeitherThereNorUnderTheSameTimeAndNumber) {
     const std::string corrected = ContactLine(2, 2, "DL2BB");
-    const std::string elsewhen = ContactLine(3, 33);
+    const std::string another = ContactLine(3, 33);
     EXPECT_THAT(MissingContacts({kOne, kTwo, kThree}, {kOne, kTwo, kThree}), IsEmpty());
     EXPECT_THAT(MissingContacts({kOne, kTwo, kThree}, {kThree, corrected, kOne}), IsEmpty());
     EXPECT_THAT(MissingContacts({kOne, kTwo, kThree}, {kOne, kTwo}), ElementsAre(kThree));
-    EXPECT_THAT(MissingContacts({kOne, kTwo, kThree}, {kOne, kTwo, elsewhen}), ElementsAre(kThree));
+    EXPECT_THAT(MissingContacts({kOne, kTwo, kThree}, {kOne, kTwo, another}), ElementsAre(kThree));
     EXPECT_THAT(MissingContacts({kOne, kTwo}, {}), ElementsAre(kOne, kTwo));
 }
 

@@ -11,7 +11,7 @@ namespace vatro {
 class Course : public ::testing::Test {
 protected:
     Course() {
-        const PositionNotification positions[]{{9, 1}, {19, 2}};
+        const PositionNotification positions[]{{4, 1}, {9, 2}};
         course.SetPositions(positions);
     }
     /// The passings in their order, told one after the other.
@@ -30,7 +30,7 @@ protected:
     SoundCourse course{10};
 };
 
-TEST_F(Course, PassesAnOffsetWhenItsSampleHasBeenPlayed) {
+TEST_F(Course, PassesASampleWhenItHasBeenPlayed) {
     EXPECT_EQ(Told(5), (Passings{{5, 1}, {10, 2}, {15, 1}, {20, 2}, {25, 1}}));
 }
 
@@ -39,10 +39,10 @@ TEST_F(Course, PassingStandsUntilItIsTold) {
     EXPECT_EQ(course.Next()->played, 5);
 }
 
-TEST_F(Course, BothBytesOfASampleAreOneOffset) {
-    const PositionNotification even[]{{8, 1}};
-    course.SetPositions(even);
-    EXPECT_EQ(course.Next()->played, 5);
+TEST_F(Course, TheFirstSampleIsPassedWhenItAloneHasBeenPlayed) {
+    const PositionNotification first[]{{0, 1}};
+    course.SetPositions(first);
+    EXPECT_EQ(Told(2), (Passings{{1, 1}, {11, 1}}));
 }
 
 TEST_F(Course, CountsFromWhereThePlayBegan) {
@@ -53,7 +53,7 @@ TEST_F(Course, CountsFromWhereThePlayBegan) {
     EXPECT_EQ(course.At(13), 0U);
 }
 
-TEST_F(Course, BeginningAtAnOffsetPassesItOneRoundLater) {
+TEST_F(Course, BeginningBehindASamplePassesItOneRoundLater) {
     Told(1);
     course.Begin(5);
     EXPECT_EQ(Told(2), (Passings{{5, 2}, {10, 1}}));

@@ -8,6 +8,7 @@
 #include <map>
 #include <set>
 
+#include "by_kind.h"
 #include "correction/frmRetQSO.h"
 #include "keyer/frmCW.h"
 #include "qt/window_program.h"
@@ -158,7 +159,7 @@ TEST_F(Keyboard, WhateverTakesTheFocusIsReached) {
         for (const Control* control : form.Controls()) {
             if (!Usable(*control) || (order.contains(control) && control->TabStop())) continue;
             // The arrow keys lead to the options that are off; the sent number is only to be read.
-            const bool option = dynamic_cast<const OptionButton*>(control) != nullptr && order.contains(control);
+            const bool option = As<OptionButton>(control) != nullptr && order.contains(control);
             EXPECT_TRUE(option || control == &frmMain->Text1[3]) << form.Name() << "." << control->FullName();
         }
         Leave(*slot);
@@ -203,7 +204,7 @@ TEST_F(Keyboard, NoTwoControlsOfAFormShareAnAccessKey) {
         Dispatch([&] { slot->Load(); });
         std::vector<char> letters;
         for (const Control* control : slot->Peek()->Controls()) {
-            const auto* item = dynamic_cast<const MenuItem*>(control);
+            const auto* item = As<MenuItem>(control);
             if (item != nullptr && (item->Menu() != nullptr || !item->Visible())) continue;
             letters.push_back(item != nullptr ? AccessKey(item->Caption()) : control->AccessLetter());
         }

@@ -297,7 +297,7 @@ public:
 
 TEST_F(WindowProgram, TimersTickUntilTheyAreSwitchedOff) {
     QtClock ticking;
-    InstallPlatform({driver.ProgramFront(), dialogs, settings, files, ticking, help, instance, sound, printer, {1, 2, 3}});
+    InstallPlatform(driver.ProgramFront(), {dialogs, settings, files, ticking, help, instance, sound, printer, {1, 2, 3}});
     BeginProgram();
     Dispatch([] { frmRules.Load(); });
     FrmTicking form;
@@ -310,7 +310,7 @@ TEST_F(WindowProgram, TimersTickUntilTheyAreSwitchedOff) {
     QTest::qWait(20);
     EXPECT_EQ(ticks, 3);
     EndProgram();
-    InstallPlatform({driver.ProgramFront(), dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+    InstallPlatform(driver.ProgramFront(), {dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
 }
 
 // --- Text in points

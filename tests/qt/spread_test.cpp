@@ -59,7 +59,7 @@ TEST_F(WindowProgram, SpreadWindowsAreWhereTheFormsSay) {
         frmB4->Show();
     });
     driver.Settle();
-    SpreadWindows(dynamic_cast<const QtFront&>(platform().front));
+    SpreadWindows(dynamic_cast<const QtFront&>(InstalledFront()));
     driver.Settle();
     const QWidget& main = *WindowOf(*frmMain).Top();
     for (const Form* form : {static_cast<const Form*>(&*frmQSOnr), static_cast<const Form*>(&*frmB4)}) {

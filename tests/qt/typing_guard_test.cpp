@@ -16,8 +16,8 @@
 #include "entry/frmNytQSOnr.h"
 #include "entry/qso_fields.h"
 #include "field_mark.h"
+#include "frame/state.h"
 #include "keyer/frmCWTX.h"
-#include "keyer/keyer_settings.h"
 #include "qt/window_program.h"
 
 namespace vatro {
@@ -285,7 +285,7 @@ TEST_F(SafeTyping, EditingKeysReachTheFieldWhileTheTextPlays) {
 
 TEST_F(SafeTyping, FunctionKeysSendWhileATextPlays) {
     Send();
-    CWTekster[1] = "EE";
+    desk().cw.CWTekster[1] = "EE";
     Key({.name = "F6"});
     EXPECT_EQ(frmCWTX->Text1.Text(), "EE ");
     EXPECT_TRUE(Playing());

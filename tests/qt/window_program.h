@@ -19,7 +19,7 @@ protected:
         happenings = {};
         AddRulesLayouts();
         driver.playUntil = [](const std::function<bool()>&) { ADD_FAILURE() << "unexpected modal form"; };
-        InstallPlatform({driver.ProgramFront(), dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+        InstallPlatform(driver.ProgramFront(), {dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
     }
     ~WindowProgram() override {
         EndProgram();
@@ -49,7 +49,7 @@ protected:
     WindowDriver driver;
 
 private:
-    const QtFront& Qt() const { return dynamic_cast<const QtFront&>(platform().front); }
+    const QtFront& Qt() const { return dynamic_cast<const QtFront&>(InstalledFront()); }
 };
 
 }  // namespace vatro

@@ -35,16 +35,9 @@ void PrintAll(const std::string& directory, const QString& pdf) {
     pages.PrintToFile(pdf);
     PageSurface printer(pages);
     WindowDriver driver;
-    InstallPlatform({driver.ProgramFront(),
-                     nobody,
-                     settings,
-                     files,
-                     clock,
-                     nobody,
-                     nobody,
-                     sound,
-                     printer,
-                     {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
+    InstallPlatform(
+        driver.ProgramFront(),
+        {nobody, settings, files, clock, nobody, nobody, sound, printer, {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
     BeginProgram();
     Deliver([] { StartProgram(); });
     driver.Settle();

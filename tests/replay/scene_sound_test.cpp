@@ -15,15 +15,14 @@ namespace vatro {
 
 namespace {
 
-constexpr int kBytes = 88200;
-constexpr WaveFormat kFormat{
-    .formatTag = 1, .channels = 1, .samplesPerSecond = 44100, .bytesPerSecond = 88200, .blockAlign = 2, .bitsPerSample = 16};
+constexpr int kSamples = 44100;
+constexpr SoundFormat kFormat{.samplesPerSecond = 44100, .samples = kSamples};
 
 using Samples = std::vector<std::int16_t>;
 
 /// 44,100 different samples would not fit; these differ within each half.
 Samples Ramp(int first) {
-    Samples image(kBytes / 2);
+    Samples image(kSamples);
     std::iota(image.begin(), image.end(), static_cast<std::int16_t>(first));
     return image;
 }
@@ -52,12 +51,12 @@ protected:
         buffer = NewBuffer();
     }
     std::unique_ptr<SoundBuffer> NewBuffer() {
-        auto made = device_->CreateBuffer({.flags = 0x10100, .bytes = kBytes}, kFormat);
-        const PositionNotification positions[]{{44099, events_[0]}, {88199, events_[1]}};
+        auto made = device_->CreateBuffer(kFormat);
+        const PositionNotification positions[]{{22049, events_[0]}, {44099, events_[1]}};
         made->SetNotificationPositions(positions);
         return made;
     }
-    void Fill(const Samples& image) { buffer->Write(0, kBytes, image); }
+    void Fill(const Samples& image) { buffer->Write(0, image); }
     /// Lets time pass, with what falls due delivered at its moment.
     void Pass(Moment milliseconds) {
         const Moment until = scene.Passed() + milliseconds;
@@ -140,12 +139,9 @@ TEST_F(SceneCard, GoesRoundAndPlaysTheSameAgain) {
 }
 
 TEST_F(SceneCard, WhatIsWrittenWhileItPlaysIsHeardInItsTurn) {
-    Fill(Samples(kBytes / 2, 1));
+    Fill(Samples(kSamples, 1));
     buffer->PlayLooping();
-    react = [&](int half) {
-        const Samples image(kBytes / 2, static_cast<std::int16_t>(half + 2));
-        buffer->Write(half * 44100, 44100, image);
-    };
+    react = [&](int half) { buffer->Write(half * 22050, Samples(22050, static_cast<std::int16_t>(half + 2))); };
     Pass(2000);
     const Samples heard = card.TakeHeard();
     ASSERT_EQ(heard.size(), 88200U);
@@ -155,9 +151,9 @@ TEST_F(SceneCard, WhatIsWrittenWhileItPlaysIsHeardInItsTurn) {
     EXPECT_EQ(std::count(heard.begin() + 66150, heard.end(), 3), 22050);
 }
 
-TEST_F(SceneCard, WritingChangesOnlyTheBytesNamed) {
-    Fill(Samples(kBytes / 2, 1));
-    buffer->Write(100, 20, Samples(kBytes / 2, 9));
+TEST_F(SceneCard, WritingChangesOnlyItsOwnSamples) {
+    Fill(Samples(kSamples, 1));
+    buffer->Write(50, Samples(10, 9));
     buffer->PlayLooping();
     Pass(10);
     const Samples heard = card.TakeHeard();
@@ -214,9 +210,9 @@ TEST_F(SceneCard, PositionSetWhileItPlaysGoesOnThereAtOnce) {
     EXPECT_EQ(run, (Run{{0, 900}}));
 }
 
-TEST_F(SceneCard, PositionCountsInBytes) {
+TEST_F(SceneCard, PlayBeginsAtThePositionSet) {
     Fill(Ramp(0));
-    buffer->SetCurrentPosition(44100);
+    buffer->SetCurrentPosition(22050);
     buffer->PlayLooping();
     Pass(500);
     EXPECT_EQ(card.TakeHeard().front(), 22050);
@@ -234,12 +230,12 @@ TEST_F(SceneCard, BufferThatGoesFallsSilent) {
 }
 
 TEST_F(SceneCard, SecondBufferIsHeardBehindTheFirst) {
-    Fill(Samples(kBytes / 2, 1));
+    Fill(Samples(kSamples, 1));
     buffer->PlayLooping();
     Pass(100);
     buffer = nullptr;
     buffer = NewBuffer();
-    Fill(Samples(kBytes / 2, 2));
+    Fill(Samples(kSamples, 2));
     Pass(100);
     buffer->PlayLooping();
     Pass(500);
@@ -289,11 +285,16 @@ TEST_F(SceneCard, WithoutACardThereIsNoDevice) {
     }
 }
 
-TEST_F(SceneCard, FormatThatItCannotPlayIsAnInvalidCall) {
+TEST_F(SceneCard, BufferWithoutRateOrLengthIsAnInvalidCall) {
     const auto device = card.CreateDevice();
-    WaveFormat stereo = kFormat;
-    stereo.channels = 2;
-    EXPECT_THROW(device->CreateBuffer({.bytes = kBytes}, stereo), RunTimeError);
+    EXPECT_THROW(device->CreateBuffer({.samplesPerSecond = 0, .samples = kSamples}), RunTimeError);
+    EXPECT_THROW(device->CreateBuffer({.samplesPerSecond = 44100, .samples = 0}), RunTimeError);
+}
+
+TEST_F(SceneCard, WriteOutsideTheBufferIsAnInvalidCall) {
+    EXPECT_THROW(buffer->Write(22051, Samples(22050)), RunTimeError);
+    EXPECT_THROW(buffer->Write(-1, Samples(100)), RunTimeError);
+    buffer->Write(22050, Samples(22050));
 }
 
 }  // namespace vatro

@@ -19,10 +19,10 @@ namespace {
 void Silent(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*text*/) {}
 
 long OwnMemory() {
-    std::ifstream rollup("/proc/self/smaps_rollup");
-    for (std::string name; rollup >> name;) {
+    std::ifstream memory("/proc/self/smaps_rollup");
+    for (std::string name; memory >> name;) {
         long kilobytes = 0;
-        if (name == "Anonymous:" && rollup >> kilobytes) return kilobytes * 1024;
+        if (name == "Anonymous:" && memory >> kilobytes) return kilobytes * 1024;
     }
     return 0;
 }

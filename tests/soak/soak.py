@@ -42,8 +42,8 @@ SURROUNDINGS = dict(os.environ, LC_ALL="C", QT_QPA_PLATFORM="offscreen", MALLOC_
 
 def anonymous_memory(pid):
     """What the process itself has written to, in bytes: not the files of its libraries, of which more is read in time."""
-    with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as rollup:
-        for line in rollup:
+    with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as memory:
+        for line in memory:
             if line.startswith("Anonymous:"):
                 return int(line.split()[1]) * 1024
     raise OSError("the system does not tell the memory of a process")

@@ -21,15 +21,14 @@ namespace vatro {
 
 namespace {
 
-constexpr int kBytes = 88200;
+constexpr int kSamples = 44100;
 constexpr std::size_t kHalf = 22050;
 constexpr int kSamplesPerMillisecond = 44;
-constexpr WaveFormat kFormat{
-    .formatTag = 1, .channels = 1, .samplesPerSecond = 44100, .bytesPerSecond = 88200, .blockAlign = 2, .bitsPerSample = 16};
+constexpr SoundFormat kFormat{.samplesPerSecond = 44100, .samples = kSamples};
 
 /// No sample is silent, none stands twice within 0.7 seconds.
 Samples Pattern(int step) {
-    Samples image(kBytes / 2);
+    Samples image(kSamples);
     for (std::size_t i = 0; i < image.size(); ++i) image[i] = static_cast<std::int16_t>(1 + (static_cast<int>(i) * step) % 32749);
     return image;
 }
@@ -68,11 +67,11 @@ protected:
     }
     void MakeBuffer() {
         if (device == nullptr) device = card->CreateDevice();
-        buffer = device->CreateBuffer({.flags = 0x10100, .bytes = kBytes}, kFormat);
-        const PositionNotification positions[]{{44099, events[0]}, {88199, events[1]}};
+        buffer = device->CreateBuffer(kFormat);
+        const PositionNotification positions[]{{22049, events[0]}, {44099, events[1]}};
         buffer->SetNotificationPositions(positions);
     }
-    void Fill(const Samples& image) { buffer->Write(0, kBytes, image); }
+    void Fill(const Samples& image) { buffer->Write(0, image); }
     bool WaitForEvents(std::size_t count) {
         return QTest::qWaitFor([&] { return run.size() >= count; }, static_cast<int>(count) * 500 + 3000);
     }
@@ -108,8 +107,8 @@ TEST_F(SoundCard, RefillOfTheHalfJustPlayedIsHeardInItsTurn) {
     Samples expected = Pattern(1);
     react = [&](int half) {
         const Samples next = Pattern(++step);
-        buffer->Write(half * kBytes / 2, kBytes / 2, next);
         const auto from = next.begin() + half * static_cast<int>(kHalf);
+        buffer->Write(half * static_cast<int>(kHalf), {from, kHalf});
         expected.insert(expected.end(), from, from + kHalf);
     };
     Recorder recorder;
@@ -127,7 +126,7 @@ TEST_F(SoundCard, EventComesWhenItsHalfHasBeenHeardAndSoonAfter) {
     const Samples before = Pattern(1);
     Fill(before);
     react = [&](int half) {
-        if (half == 0 && run.size() == 1) Fill(Samples(kBytes / 2, -9));
+        if (half == 0 && run.size() == 1) Fill(Samples(kSamples, -9));
     };
     Recorder recorder;
     buffer->PlayLooping();
@@ -211,7 +210,7 @@ TEST_F(SoundCard, PositionSetWhileItPlaysIsHeardAtOnce) {
     QElapsedTimer watch;
     watch.start();
     QTest::qWait(300);
-    buffer->SetCurrentPosition(44100);
+    buffer->SetCurrentPosition(22050);
     const auto played = static_cast<std::size_t>(watch.elapsed()) * kSamplesPerMillisecond;
     QTest::qWait(300);
     buffer->Stop();
@@ -311,11 +310,15 @@ TEST_F(SoundCard, BufferMayOutliveTheCard) {
 
 TEST_F(SoundCard, WriteOutsideTheBufferIsAnInvalidCall) {
     MakeBuffer();
-    EXPECT_THROW(buffer->Write(44102, 44100, Pattern(1)), RunTimeError);
-    EXPECT_THROW(buffer->Write(0, kBytes, Samples(100)), RunTimeError);
-    WaveFormat eightBits = kFormat;
-    eightBits.bitsPerSample = 8;
-    EXPECT_THROW(device->CreateBuffer({.bytes = kBytes}, eightBits), RunTimeError);
+    EXPECT_THROW(buffer->Write(22051, Samples(kHalf)), RunTimeError);
+    EXPECT_THROW(buffer->Write(-1, Samples(100)), RunTimeError);
+    buffer->Write(22050, Samples(kHalf));
+}
+
+TEST_F(SoundCard, BufferWithoutRateOrLengthIsAnInvalidCall) {
+    MakeBuffer();
+    EXPECT_THROW(device->CreateBuffer({.samplesPerSecond = 0, .samples = kSamples}), RunTimeError);
+    EXPECT_THROW(device->CreateBuffer({.samplesPerSecond = 44100, .samples = 0}), RunTimeError);
 }
 
 /// Run alone: the card of the machine goes for good.

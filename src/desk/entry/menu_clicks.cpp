@@ -30,7 +30,6 @@
 #include "frame/settings.h"
 #include "frame/station.h"
 #include "keyer/frmCW.h"
-#include "keyer/keyer_settings.h"
 #include "keyer/texts.h"
 #include "printing/error_list_run.h"
 #include "printing/exports.h"
@@ -121,9 +120,9 @@ void BindMenu(FrmMain& main) {
     main.mnuFunktionerVisLand.Click = ShowCountryNow;
     main.mnuFunktionerStregP.Click = [] { frmStregP->Show(); };
     main.mnuFunktionerImporterCTY.Click = ImportCtyFromMenu;
-    main.mnuFunktionerImporterCtAll.Click = ImporterCtMenu;
+    main.mnuFunktionerImporterCtAll.Click = ImportCtFromMenu;
 
-    for (MenuItem& entry : main.mnuCWTXT) entry.Click = [&entry] { SendCW(CWTekster[static_cast<std::size_t>(entry.Index())]); };
+    for (MenuItem& entry : main.mnuCWTXT) entry.Click = [&entry] { SendCW(desk().cw.CWTekster[static_cast<std::size_t>(entry.Index())]); };
     main.mnuCWInstillinger.Click = [] { frmCW->ShowModal(); };
 
     main.mnuHjælpIndhold.Click = ShowHelpContents;

@@ -67,7 +67,7 @@ bool LogExists(const std::string& path, std::string& band, std::string& mode) {
 
 }  // namespace
 
-void ImporterCtMenu() {
+void ImportCtFromMenu() {
     FileDialog dialog;
     dialog.filter = "CT-logfil (*.10;*.15;*.20;*.40;*.80)|*.10;*.15;*.20;*.40;*.80|";
     dialog.fileMustExist = true;

@@ -18,7 +18,7 @@
 namespace vatro {
 
 /// Asks for the file and imports it; nothing on Cancel.
-void ImporterCtMenu();
+void ImportCtFromMenu();
 
 /// Imports the file. Band and mode become its own, and the new log the current one.
 ///

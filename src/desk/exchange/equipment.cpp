@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view kSection = "Equipment";
 constexpr int kLength = 15;
 
-std::string Nøgle(std::string_view kind, std::size_t band) {
+std::string BandKey(std::string_view kind, std::size_t band) {
     return std::string(kind).append(kEquipmentBands[band]);
 }
 
@@ -19,14 +19,14 @@ std::string Nøgle(std::string_view kind, std::size_t band) {
 
 void HentUdstyr() {
     for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
-        desk().rigs[i] = ReadText(kSection, Nøgle("Rig", i));
-        desk().antennas[i] = ReadText(kSection, Nøgle("Ant", i));
+        desk().rigs[i] = ReadText(kSection, BandKey("Rig", i));
+        desk().antennas[i] = ReadText(kSection, BandKey("Ant", i));
     }
 }
 
 void GemUdstyr() {
-    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, Nøgle("Rig", i), desk().rigs[i]);
-    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, Nøgle("Ant", i), desk().antennas[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, BandKey("Rig", i), desk().rigs[i]);
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) StoreText(kSection, BandKey("Ant", i), desk().antennas[i]);
 }
 
 FormRigAnt::FormRigAnt()

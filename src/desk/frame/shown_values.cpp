@@ -5,9 +5,6 @@
 
 #include "codepage.h"
 #include "frame/state.h"
-#include "keyer/keyer_settings.h"
-#include "keyer/texts.h"
-#include "morse/synthesis.h"
 
 namespace vatro {
 
@@ -57,23 +54,23 @@ constexpr std::array kVariables{
     Variable{"giLande", [] { return Shown(desk().tables.giLande); }},
     Variable{"giRefPfx", [] { return Shown(desk().tables.giRefPfx); }},
     Variable{"giEDR", [] { return Shown(desk().stations.giEDR); }},
-    Variable{"giCWWPM", [] { return Shown(giCWWPM); }},
-    Variable{"giCWTone", [] { return Shown(giCWTone); }},
-    Variable{"glCWVolume", [] { return Shown(glCWVolume); }},
-    Variable{"giCWFarnsworth", [] { return Shown(giCWFarnsworth); }},
-    Variable{"gsCWNummerFormat", [] { return Shown(gsCWNummerFormat); }},
-    Variable{"gsCWRSTFormat", [] { return Shown(gsCWRSTFormat); }},
-    Variable{"gsCWRaa", [] { return Shown(gsCWRaa); }},
-    Variable{"gsCWCall", [] { return Shown(gsCWCall); }},
-    Variable{"gsCWRST", [] { return Shown(gsCWRST); }},
-    Variable{"gsCWNummer", [] { return Shown(gsCWNummer); }},
-    Variable{"gsCWTekst", [] { return Shown(gsCWTekst); }},
-    Variable{"Priklen", [] { return Shown(Priklen); }},
-    Variable{"glTegnPos", [] { return Shown(glTegnPos); }},
-    Variable{"gscwtegn", [] { return Shown(gscwtegn); }},
-    Variable{"glElementPos", [] { return Shown(glElementPos); }},
-    Variable{"gsElement", [] { return Shown(gsElement); }},
-    Variable{"glCWSlat", [] { return Shown(glCWSlat); }},
+    Variable{"giCWWPM", [] { return Shown(desk().cw.giCWWPM); }},
+    Variable{"giCWTone", [] { return Shown(desk().cw.giCWTone); }},
+    Variable{"glCWVolume", [] { return Shown(desk().cw.glCWVolume); }},
+    Variable{"giCWFarnsworth", [] { return Shown(desk().cw.giCWFarnsworth); }},
+    Variable{"gsCWNummerFormat", [] { return Shown(desk().cw.gsCWNummerFormat); }},
+    Variable{"gsCWRSTFormat", [] { return Shown(desk().cw.gsCWRSTFormat); }},
+    Variable{"gsCWRaa", [] { return Shown(desk().cw.gsCWRaa); }},
+    Variable{"gsCWCall", [] { return Shown(desk().cw.gsCWCall); }},
+    Variable{"gsCWRST", [] { return Shown(desk().cw.gsCWRST); }},
+    Variable{"gsCWNummer", [] { return Shown(desk().cw.gsCWNummer); }},
+    Variable{"gsCWTekst", [] { return Shown(desk().cw.keyer.Place().gsCWTekst); }},
+    Variable{"Priklen", [] { return Shown(desk().cw.keyer.CurrentPieces().Priklen); }},
+    Variable{"glTegnPos", [] { return Shown(desk().cw.keyer.Place().glTegnPos); }},
+    Variable{"gscwtegn", [] { return Shown(desk().cw.keyer.Place().gscwtegn); }},
+    Variable{"glElementPos", [] { return Shown(desk().cw.keyer.Place().glElementPos); }},
+    Variable{"gsElement", [] { return Shown(desk().cw.keyer.Place().gsElement); }},
+    Variable{"glCWSlat", [] { return Shown(desk().cw.keyer.Place().glCWSlat); }},
 };
 
 }  // namespace

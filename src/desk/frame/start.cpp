@@ -14,8 +14,6 @@
 #include "frame/settings.h"
 #include "frame/station.h"
 #include "keyer/keyer_settings.h"
-#include "keyer/texts.h"
-#include "morse/synthesis.h"
 #include "page.h"
 #include "platform.h"
 #include "program.h"
@@ -50,8 +48,6 @@ void Try(const std::function<void()>& step) noexcept {
 
 void ResetAll() {
     ResetDesk();
-    NulstilSyntese();
-    NulstilCWTekster();
 }
 
 void ShowAlreadyRunning() {

@@ -12,6 +12,7 @@
 #include "columns.h"
 #include "country/lookup.h"
 #include "country/tables.h"
+#include "keyer/keyer_state.h"
 #include "log/log.h"
 #include "score/stations.h"
 
@@ -63,6 +64,9 @@ struct DeskState {
     /// Whether the country is shown while a call is typed; the menu changes it. Also a condition of the rule of the unknown
     /// prefix: switched off, such a contact keeps its points and is not written to ukendt.txt.
     bool gbVisLand = false;
+
+    /// The keyer, its settings and its texts.
+    KeyerState cw;
 
     // The current log and what has been worked in it.
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/frmCW.h"
+#include "frame/state.h"
 
 #include <algorithm>
 
@@ -7,7 +8,9 @@
 #include "entry/keys.h"
 #include "exchange/equipment.h"
 #include "keyer/frmCWTX.h"
+#include "keyer/keyer_settings.h"
 #include "keyer/texts.h"
+#include "morse/text_codes.h"
 #include "numbers.h"
 #include "platform.h"
 
@@ -16,11 +19,11 @@ namespace vatro {
 namespace {
 
 // The 4 stands twice and out of order; the set is what counts.
-constexpr std::string_view kTekstTegn = " ABCDEFGHIJKLMNOPQRSTUVWXYZÆØÅ12434567890/#?,.-:()="_t;
+constexpr std::string_view kTextCharacters = " ABCDEFGHIJKLMNOPQRSTUVWXYZÆØÅ12434567890/#?,.-:()="_t;
 
-/// Not those of a first start, which has two fewer: meant so.
-constexpr std::array<std::string_view, kAntalCWTekster> kDefaultTekster{"CQ TEST DE #R #R TEST K", "CL?",   "#R",
-                                                                        "#C UR #T #N BK",          "TU #R", "#C?"};
+/// Two more than a first start has: whoever asks for the defaults gets the full set, a new station only what every contact needs.
+constexpr std::array<std::string_view, kCwTextCount> kDefaultTexts{"CQ TEST DE #R #R TEST K", "CL?",   "#R",
+                                                                   "#C UR #T #N BK",          "TU #R", "#C?"};
 
 }  // namespace
 
@@ -56,56 +59,58 @@ FrmCW::FrmCW()
       cmdAnnuller(*this, "cmdAnnuller", "Annuller") {
     cmdOK.isDefault = true;
     cmdAnnuller.isCancel = true;
-    std::vector<Control*> orden;
-    for (TextBox& felt : Text1) {
-        orden.push_back(&felt);
-        felt.KeyFilter = [](KeyCode& key) {
+    std::vector<Control*> order;
+    for (TextBox& field : Text1) {
+        order.push_back(&field);
+        field.KeyFilter = [](KeyCode& key) {
             key = UpperKey(key);
-            FilterKey(key, kTekstTegn);
+            FilterKey(key, kTextCharacters);
         };
     }
-    orden.insert(orden.end(), {&txtWPM, &txtTone, &HScroll1, &optRST[0], &optRST[1], &optLobenr[0], &optLobenr[1]});
-    orden.insert(orden.end(), {&cmdReset, &cmdOK, &cmdAnnuller});
-    SetTabOrder(orden);
+    order.insert(order.end(), {&txtWPM, &txtTone, &HScroll1, &optRST[0], &optRST[1], &optLobenr[0], &optLobenr[1]});
+    order.insert(order.end(), {&cmdReset, &cmdOK, &cmdAnnuller});
+    SetTabOrder(order);
     cmdReset.Click = [this] { cmdReset_Click(); };
     cmdOK.Click = [this] { cmdOK_Click(); };
     cmdAnnuller.Click = [this] { Unload(); };
 }
 
 void FrmCW::Form_Load() {
-    txtWPM.SetText(PlainNumber(giCWWPM));
-    txtTone.SetText(PlainNumber(giCWTone));
-    HScroll1.SetValue(std::clamp<int>(glCWVolume, HScroll1.Limits().min, HScroll1.Limits().max));
-    optLobenr[gsCWNummerFormat == kNummerMedNuller ? 0 : 1].SetValue(true);
-    optRST[gsCWRSTFormat == kRSTMedTal ? 0 : 1].SetValue(true);
-    for (std::size_t i = 0; i < kAntalCWTekster; ++i) Text1[i].SetText(CWTekster[i]);
+    const KeyerState& cw = desk().cw;
+    txtWPM.SetText(PlainNumber(cw.giCWWPM));
+    txtTone.SetText(PlainNumber(cw.giCWTone));
+    HScroll1.SetValue(std::clamp<int>(cw.glCWVolume, HScroll1.Limits().min, HScroll1.Limits().max));
+    optLobenr[cw.gsCWNummerFormat == kNumberWithZeros ? 0 : 1].SetValue(true);
+    optRST[cw.gsCWRSTFormat == kReportInFigures ? 0 : 1].SetValue(true);
+    for (std::size_t i = 0; i < kCwTextCount; ++i) Text1[i].SetText(cw.CWTekster[i]);
 }
 
 void FrmCW::cmdReset_Click() {
-    MessageBox spørgsmål;
-    spørgsmål.text = "Er du sikker på at du vil ændre teksterne?"_t;
-    spørgsmål.title = "Default tekster";
-    spørgsmål.buttons = Buttons::YesNo;
-    spørgsmål.icon = Icon::Question;
-    spørgsmål.defaultNo = true;
-    if (MsgBox(spørgsmål) == Answer::No) return;
-    for (std::size_t i = 0; i < kAntalCWTekster; ++i) Text1[i].SetText(kDefaultTekster[i]);
+    MessageBox question;
+    question.text = "Er du sikker på at du vil ændre teksterne?"_t;
+    question.title = "Default tekster";
+    question.buttons = Buttons::YesNo;
+    question.icon = Icon::Question;
+    question.defaultNo = true;
+    if (MsgBox(question) == Answer::No) return;
+    for (std::size_t i = 0; i < kCwTextCount; ++i) Text1[i].SetText(kDefaultTexts[i]);
 }
 
 void FrmCW::cmdOK_Click() {
-    for (std::size_t i = 0; i < kAntalCWTekster; ++i) CWTekster[i] = Text1[i].Text();
+    KeyerState& cw = desk().cw;
+    for (std::size_t i = 0; i < kCwTextCount; ++i) cw.CWTekster[i] = Text1[i].Text();
 
     const double wpm = NumericValue(txtWPM.Text());
     const double tone = NumericValue(txtTone.Text());
-    if (wpm != giCWWPM || tone != giCWTone || glCWVolume != HScroll1.Value()) {
-        giCWWPM = ToInt16(wpm);
-        giCWTone = ToInt16(tone);
-        glCWVolume = HScroll1.Value();
+    if (wpm != cw.giCWWPM || tone != cw.giCWTone || cw.glCWVolume != HScroll1.Value()) {
+        cw.giCWWPM = ToInt16(wpm);
+        cw.giCWTone = ToInt16(tone);
+        cw.glCWVolume = HScroll1.Value();
         // Without one the first send makes it.
         if (frmCWTX.Loaded() && frmCWTX->CWBuffer) frmCWTX->DanLydBuffer();
     }
-    gsCWRSTFormat = optRST[0].Value() ? kRSTMedTal : kRSTMedN;
-    gsCWNummerFormat = optLobenr[0].Value() ? kNummerMedNuller : kNummerMedT;
+    cw.gsCWRSTFormat = optRST[0].Value() ? kReportInFigures : kReportWithN;
+    cw.gsCWNummerFormat = optLobenr[0].Value() ? kNumberWithZeros : kNumberWithT;
 
     GemCWIndstillinger();
     // Nothing here has changed the equipment; it is stored with every OK all the same.

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "forms.h"
-#include "keyer/keyer_settings.h"
+#include "keyer/keyer_state.h"
 
 namespace vatro {
 
@@ -13,8 +13,8 @@ class FrmCW : public Form {
 public:
     FrmCW();
     Frame Frame2;
-    Label Label2[kAntalCWTekster];
-    TextBox Text1[kAntalCWTekster];
+    Label Label2[kCwTextCount];
+    TextBox Text1[kCwTextCount];
     Frame Frame1;
     /// What the #-codes stand for.
     Label Label1[4];

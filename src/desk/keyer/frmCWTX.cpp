@@ -1,30 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/frmCWTX.h"
 
+#include "frame/state.h"
+#include "frame/station.h"
+#include "front.h"
 #include "keyer/frmAfslut.h"
-#include "keyer/texts.h"
-#include "morse/synthesis.h"
+#include "morse/text_codes.h"
 #include "platform.h"
 
 namespace vatro {
-
-namespace {
-
-/// Position notification and accurate play position.
-constexpr int kBufferFlag = 0x10100;
-
-WaveFormat DanWaveFormat(int samplesPerSecond, int channels, int bits) {
-    WaveFormat format;
-    format.formatTag = 1;
-    format.channels = channels;
-    format.samplesPerSecond = samplesPerSecond;
-    format.bitsPerSample = bits;
-    format.blockAlign = bits * channels / 8;
-    format.bytesPerSecond = format.blockAlign * samplesPerSecond;
-    return format;
-}
-
-}  // namespace
 
 FrmCWTX::FrmCWTX()
     : Form("frmCWTX", FormKind::Dialog, "CW TX"),
@@ -40,7 +24,7 @@ FrmCWTX::FrmCWTX()
 }
 
 FrmCWTX::~FrmCWTX() {
-    SlipLyd();
+    ReleaseSound();
     for (const SoundEvent event : CWEvent)
         if (event != 0) platform().sound.DestroyEvent(event);
 }
@@ -48,9 +32,9 @@ FrmCWTX::~FrmCWTX() {
 void FrmCWTX::Form_Load() {
     try {
         Show();
-        Sound& lyd = platform().sound;
-        for (SoundEvent& event : CWEvent) event = lyd.CreateEvent([this](SoundEvent eventid) { DirectXEvent_DXCallback(eventid); });
-        lydkort_ = lyd.CreateDevice();
+        Sound& sound = platform().sound;
+        for (SoundEvent& event : CWEvent) event = sound.CreateEvent([this](SoundEvent signalled) { DirectXEvent_DXCallback(signalled); });
+        soundCard_ = sound.CreateDevice();
         DanLydBuffer();
     } catch (const RunTimeError&) {
         MessageBox box;
@@ -62,70 +46,69 @@ void FrmCWTX::Form_Load() {
 }
 
 void FrmCWTX::Form_QueryUnload(bool& Cancel) {
-    if (lukker_) {
+    if (closing_) {
         Cancel = true;
         return;
     }
-    lukker_ = true;
-    SlipLyd();
+    closing_ = true;
+    ReleaseSound();
     SetHourglass(true);
     frmAfslut->Show();
     for (SoundEvent& event : CWEvent) {
-        platform().front.DoEvents();
+        InstalledFront().DoEvents();
         if (event == 0) continue;
         platform().sound.DestroyEvent(event);
         event = 0;
     }
     SetHourglass(false);
-    lydkort_.reset();
+    soundCard_.reset();
     frmAfslut.Unload();
 }
 
-void FrmCWTX::SlipLyd() {
-    klar_ = false;
-    spiller_ = false;
+void FrmCWTX::ReleaseSound() {
+    ready_ = false;
+    playing_ = false;
     CWBuffer.reset();
 }
 
 void FrmCWTX::DanLydBuffer() {
-    SlipLyd();
-    const WaveFormat format = DanWaveFormat(kSamplesPerSecond, 1, 8 * kBytesPerSample);
-    BeregnPriklen();
-    const int bytes = format.bytesPerSecond;
-    CWBuffer = lydkort_->CreateBuffer({.flags = kBufferFlag, .bytes = bytes}, format);
-    const PositionNotification halvdele[]{{(bytes - 1) / 2, CWEvent[0]}, {bytes - 1, CWEvent[1]}};
-    CWBuffer->SetNotificationPositions(halvdele);
-    TildelPladser();
-    DanTone();
-    DanElementer();
-    klar_ = true;
+    ReleaseSound();
+    KeyerState& cw = desk().cw;
+    cw.keyer.SetSpeed(cw.giCWWPM);
+    CWBuffer = soundCard_->CreateBuffer({.samplesPerSecond = kSamplesPerSecond, .samples = kBufferSamples});
+    const PositionNotification ends[]{{kHalfSamples - 1, CWEvent[0]}, {kBufferSamples - 1, CWEvent[1]}};
+    CWBuffer->SetNotificationPositions(ends);
+    cw.keyer.MakePieces(cw.giCWTone, cw.glCWVolume);
+    ready_ = true;
 }
 
 void FrmCWTX::StartCW() {
     ended_ = false;
-    glCWSlat = 0;
-    gsElement.clear();
-    bool aktiv = false;
-    FyldDel1(aktiv, *CWBuffer);
-    FyldDel2(aktiv, *CWBuffer);
+    desk().cw.keyer.Begin();
+    FillHalf(Half::First);
+    FillHalf(Half::Second);
     CWBuffer->SetCurrentPosition(0);
     CWBuffer->PlayLooping();
-    spiller_ = true;
+    playing_ = true;
 }
 
 void FrmCWTX::StopCW() {
-    spiller_ = false;
+    playing_ = false;
     if (CWBuffer) {
         CWBuffer->Stop();
         CWBuffer->SetCurrentPosition(0);
     }
-    NulstilStilling();
+    desk().cw.keyer.ResetPosition();
 }
 
 void FrmCWTX::cmdTX_Click() {
-    if (!klar_) return;
-    DanCWTekst();
-    Text1.SetText(gsCWTekst);
+    if (!ready_) return;
+    KeyerState& cw = desk().cw;
+    cw.gsCWNummer = NumberAsSent(cw.gsCWNummer, cw.gsCWNummerFormat);
+    cw.gsCWRST = ReportAsSent(cw.gsCWRST, cw.gsCWRSTFormat);
+    const CodeValues values{.call = cw.gsCWCall, .report = cw.gsCWRST, .number = cw.gsCWNummer, .ownCall = desk().gsMyCall};
+    cw.keyer.SetText(DanCWTekst(cw.gsCWRaa, values), cw.giCWFarnsworth);
+    Text1.SetText(cw.keyer.Place().gsCWTekst);
     StartCW();
 }
 
@@ -134,17 +117,23 @@ void FrmCWTX::cmdStop_Click() {
     Hide();
 }
 
-void FrmCWTX::DirectXEvent_DXCallback(SoundEvent eventid) {
-    if (!spiller_) return;
-    bool aktiv = true;
-    if (eventid == CWEvent[0])
-        FyldDel1(aktiv, *CWBuffer);
-    else if (eventid == CWEvent[1])
-        FyldDel2(aktiv, *CWBuffer);
-    if (aktiv) return;
+void FrmCWTX::DirectXEvent_DXCallback(SoundEvent event) {
+    if (!playing_) return;
+    bool active = true;
+    if (event == CWEvent[0])
+        active = FillHalf(Half::First);
+    else if (event == CWEvent[1])
+        active = FillHalf(Half::Second);
+    if (active) return;
     StopCW();
     ended_ = true;
     Hide();
+}
+
+bool FrmCWTX::FillHalf(Half half) {
+    const FilledHalf filled = desk().cw.keyer.Fill(half);
+    CWBuffer->Write(filled.first, filled.samples);
+    return filled.active;
 }
 
 }  // namespace vatro

@@ -5,15 +5,19 @@
 // It is loaded by the first send and then only hidden, so that card and buffer are there for the next one. The buffer is one
 // second that plays round and round: at the end of each half that half is filled anew while the other one sounds.
 //
-// The first half into which nothing of the text has come stops the sound at once, when the half before it has only begun. Up to 24
-// words per minute all that goes unheard is silence; above, it can be the last tones. A new text during a send is no new start: it
-// comes in at the character where the old one stood, and only after an end or a stop does a text begin at its beginning. All
-// this is meant so.
+// Two things look like mistakes and are rules of the keyer, which operators know and scenarios in tests/scenarios/cw hold:
+//
+// - The refill that finds nothing left of the text stops the sound at once, while the half with the end mark has only begun to
+//   sound. Up to 24 words per minute only silence is lost; above, the last tones can be. The window never stays longer than the
+//   text, so the entry form gets its keys back as early as possible.
+// - A new text during a send does not start anew: it comes in at the character where the old one stood. Only after an end or a
+//   stop does a text start from its beginning.
 #pragma once
 
 #include <memory>
 
 #include "forms.h"
+#include "morse/keyer.h"
 #include "sound.h"
 
 namespace vatro {
@@ -30,9 +34,9 @@ public:
     Button cmdTX;
     Button cmdStop;
 
-    /// Nothing before DanLydBuffer, and after it if the card or the settings do not do.
+    /// Nothing before DanLydBuffer, or when it has failed before the card had made a buffer.
     std::unique_ptr<SoundBuffer> CWBuffer;
-    /// The ends of the first and of the second half; 0 without one.
+    /// Run at the ends of the first and of the second half; 0 when there is no event.
     SoundEvent CWEvent[2]{};
 
     /// Makes card, events, buffer and pieces ready; a failure gives a message, and the window stays hidden for good.
@@ -43,9 +47,10 @@ public:
     /// Whether the last text has been sent to its end, and not been stopped.
     bool EndedByItself() const { return ended_; }
     /// Whether buffer and pieces are there.
-    bool Klar() const { return klar_; }
+    bool Ready() const { return ready_; }
     /// Makes buffer and pieces for the present speed, tone and volume, in place of those that are there; a sound that plays breaks
-    /// off and is not resumed. Fails with 5, 6, 9 or 11 where they do not do.
+    /// off and is not resumed. Fails with 11 at speed 0, 5 if the card makes no such buffer, 9 at a speed without room for a ramp and
+    /// 6 at a volume too loud for 16 bits; nothing can be sent then until it succeeds.
     void DanLydBuffer();
     /// Fills both halves from where the stepper stands and plays them from the beginning of the buffer.
     void StartCW();
@@ -56,15 +61,19 @@ public:
     void cmdStop_Click();
     /// A half has been played: fills it anew, or stops if the text is over. Nothing if nothing plays: an event can be on its way
     /// when the sound is stopped.
-    void DirectXEvent_DXCallback(SoundEvent eventid);
+    void DirectXEvent_DXCallback(SoundEvent event);
 
 private:
-    void SlipLyd();
+    void ReleaseSound();
+    /// Fills a half anew and writes it. Returns whether anything but the end mark has gone into it.
+    bool FillHalf(Half half);
 
-    std::unique_ptr<SoundDevice> lydkort_;
-    bool klar_ = false;
-    bool spiller_ = false;
-    bool lukker_ = false;
+    std::unique_ptr<SoundDevice> soundCard_;
+    /// Whether buffer and pieces are there.
+    bool ready_ = false;
+    bool playing_ = false;
+    /// While Form_QueryUnload lets other events run.
+    bool closing_ = false;
     bool ended_ = false;
 };
 

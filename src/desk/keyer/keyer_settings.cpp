@@ -2,56 +2,53 @@
 #include "keyer/keyer_settings.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 
 #include "frame/settings.h"
+#include "frame/state.h"
+#include "morse/text_codes.h"
 #include "numbers.h"
 
 namespace vatro {
 
-std::int16_t giCWWPM = 0;
-std::int16_t giCWTone = 0;
-std::int32_t glCWVolume = 0;
-std::int16_t giCWFarnsworth = 0;
-std::string gsCWNummerFormat;
-std::string gsCWRSTFormat;
-std::array<std::string, kAntalCWTekster> CWTekster;
-
 namespace {
 
-constexpr std::string_view kSektion = "CW";
-constexpr int kMestFarnsworth = 20;
+constexpr std::string_view kSection = "CW";
+constexpr int kMaxFarnsworth = 20;
 /// Of a first start. "Default tekster" in frmCW knows two more.
-constexpr std::array<std::string_view, kAntalCWTekster> kFørsteTekster{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK"};
+constexpr std::array<std::string_view, kCwTextCount> kInitialTexts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK"};
 
-std::string Nøgle(std::size_t tekst) {
-    return "Tekst" + PlainNumber(static_cast<long long>(tekst) + 1);
+std::string TextKey(std::size_t text) {
+    return "Tekst" + PlainNumber(static_cast<long long>(text) + 1);
 }
 
-std::int16_t HentKort(std::string_view nøgle, int standard) {
-    return static_cast<std::int16_t>(ReadNumber(kSektion, nøgle, standard));
+std::int16_t ReadShort(std::string_view key, int fallback) {
+    return static_cast<std::int16_t>(ReadNumber(kSection, key, fallback));
 }
 
 }  // namespace
 
 void HentCWIndstillinger() {
-    giCWWPM = HentKort("WPM", 20);
-    giCWTone = HentKort("Tone", 800);
-    glCWVolume = ToInt32(ToNumber(ReadText(kSektion, "Volume", "10000")));
-    giCWFarnsworth = static_cast<std::int16_t>(std::min(ReadNumber(kSektion, "Farnsworth", 0), kMestFarnsworth));
-    gsCWNummerFormat = ReadText(kSektion, "N", kNummerMedNuller);
-    gsCWRSTFormat = ReadText(kSektion, "T", kRSTMedTal);
-    for (std::size_t i = 0; i < kAntalCWTekster; ++i) CWTekster[i] = ReadText(kSektion, Nøgle(i), kFørsteTekster[i]);
+    KeyerState& cw = desk().cw;
+    cw.giCWWPM = ReadShort("WPM", 20);
+    cw.giCWTone = ReadShort("Tone", 800);
+    cw.glCWVolume = ToInt32(ToNumber(ReadText(kSection, "Volume", "10000")));
+    cw.giCWFarnsworth = static_cast<std::int16_t>(std::min(ReadNumber(kSection, "Farnsworth", 0), kMaxFarnsworth));
+    cw.gsCWNummerFormat = ReadText(kSection, "N", kNumberWithZeros);
+    cw.gsCWRSTFormat = ReadText(kSection, "T", kReportInFigures);
+    for (std::size_t i = 0; i < kCwTextCount; ++i) cw.CWTekster[i] = ReadText(kSection, TextKey(i), kInitialTexts[i]);
 }
 
 void GemCWIndstillinger() {
-    StoreNumber(kSektion, "WPM", giCWWPM);
-    StoreNumber(kSektion, "Tone", giCWTone);
-    StoreNumber(kSektion, "Volume", glCWVolume);
-    StoreNumber(kSektion, "Farnsworth", giCWFarnsworth);
-    StoreText(kSektion, "N", gsCWNummerFormat);
-    StoreText(kSektion, "T", gsCWRSTFormat);
-    for (std::size_t i = 0; i < kAntalCWTekster; ++i) StoreText(kSektion, Nøgle(i), CWTekster[i]);
+    const KeyerState& cw = desk().cw;
+    StoreNumber(kSection, "WPM", cw.giCWWPM);
+    StoreNumber(kSection, "Tone", cw.giCWTone);
+    StoreNumber(kSection, "Volume", cw.glCWVolume);
+    StoreNumber(kSection, "Farnsworth", cw.giCWFarnsworth);
+    StoreText(kSection, "N", cw.gsCWNummerFormat);
+    StoreText(kSection, "T", cw.gsCWRSTFormat);
+    for (std::size_t i = 0; i < kCwTextCount; ++i) StoreText(kSection, TextKey(i), cw.CWTekster[i]);
 }
 
 }  // namespace vatro

@@ -4,6 +4,7 @@
 
 #include "codepage.h"
 #include "frame/settings.h"
+#include "front.h"
 #include "platform.h"
 #include "score/stations.h"
 
@@ -41,7 +42,7 @@ void FrmEDR::StoreState() {
 
 void FrmEDR::Form_Resize() {
     if (kButtonHeight * 3 >= Height()) SetHeight(kButtonHeight * 3);
-    const int minimum = static_cast<int>(kColumns * platform().front.TextWidth(kWideCall, kWindowFont) * kTwipsPerPoint);
+    const int minimum = static_cast<int>(kColumns * InstalledFront().TextWidth(kWideCall, kWindowFont) * kTwipsPerPoint);
     if (minimum >= Width()) SetWidth(minimum);
 }
 

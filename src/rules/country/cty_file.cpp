@@ -73,7 +73,7 @@ CtyEntry CtyEntryReader::TakeApart(std::string_view text, const CtyHeader& heade
         text.remove_prefix(1);
     }
     // The two may stand in either order.
-    for (int gang = 0; gang < 2; ++gang) {
+    for (int pass = 0; pass < 2; ++pass) {
         CutBracket(text, '(', ')');
         CutBracket(text, '[', ']');
     }

@@ -15,6 +15,6 @@ namespace vatro {
 
 /// The elements of a key: a character in upper case, a blank, or the two letters of a joined sign ("SK"). Compared exactly;
 /// empty for whatever is not in the table, so that a lower-case letter has none.
-std::string_view MorseElementer(std::string_view tegn);
+std::string_view MorseElements(std::string_view characters);
 
 }  // namespace vatro

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "entry/validation.h"
+
+#include "entry/next_contact.h"
 #include "frame/state.h"
+#include "log/ten_logs.h"
 
 #include "country/lookup.h"
 #include "frame/band_mode.h"
@@ -27,12 +30,12 @@ protected:
 TEST_F(Validation, TheDefaultReportFollowsTheQsoMode) {
     for (const char* mode : {"CW", "RTTY", "HELL", "PSK31"}) {
         desk().gsQsoMode = mode;
-        EXPECT_EQ(StandardRST(), "599");
+        EXPECT_EQ(StandardRST(desk().gsQsoMode), "599");
     }
     desk().gsQsoMode = "SSB";
-    EXPECT_EQ(StandardRST(), "59");
+    EXPECT_EQ(StandardRST(desk().gsQsoMode), "59");
     desk().gsQsoMode = "FM";
-    EXPECT_EQ(StandardRST(), "");
+    EXPECT_EQ(StandardRST(desk().gsQsoMode), "");
 }
 
 TEST_F(Validation, AnAcceptedContactGoesToFileListAndCounters) {

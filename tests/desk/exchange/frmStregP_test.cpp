@@ -9,7 +9,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-class StregP : public RunningProgram {
+class PortableCalls : public RunningProgram {
 protected:
     /// A contact of a log, by its call and serial number.
     void Worked(const std::string& log, const std::string& call, const std::string& number) {
@@ -23,7 +23,7 @@ protected:
     static Lines Items() { return frmStregP->List1.Items(); }
 };
 
-TEST_F(StregP, ShowsACallOfTwoSpellings) {
+TEST_F(PortableCalls, ShowsACallOfTwoSpellings) {
     Worked("FD40mSSB", "DL1ABC/P", "0123");
     Worked("FD80mCW", "DL1ABC", "0007");
     Open();
@@ -31,14 +31,14 @@ TEST_F(StregP, ShowsACallOfTwoSpellings) {
                               "DL1ABC         80m CW  0007 DL1ABC         "}));
 }
 
-TEST_F(StregP, LeavesOutACallOfOneSpelling) {
+TEST_F(PortableCalls, LeavesOutACallOfOneSpelling) {
     Worked("FD40mSSB", "OZ1ABC/P", "0001");
     Worked("FD80mSSB", "OZ1ABC/P", "0002");
     Open();
     EXPECT_EQ(Items(), Lines{});
 }
 
-TEST_F(StregP, LeavesOutOneLineGroupsBehindTheFirst) {
+TEST_F(PortableCalls, LeavesOutOneLineGroupsBehindTheFirst) {
     Worked("FD40mSSB", "DL1ABC", "0001");
     Worked("FD40mSSB", "DL1ABC/P", "0002");
     Worked("FD40mSSB", "OZ2DEF", "0003");
@@ -48,7 +48,7 @@ TEST_F(StregP, LeavesOutOneLineGroupsBehindTheFirst) {
                               "DL1ABC         40m SSB 0002 DL1ABC/P       "}));
 }
 
-TEST_F(StregP, NeverLooksAtTheFirstItem) {
+TEST_F(PortableCalls, NeverLooksAtTheFirstItem) {
     // It is alone with its call and has no dashes; the groups behind it have.
     Worked("FD40mSSB", "DL1ABC", "0001");
     Worked("FD40mSSB", "OZ2DEF", "0002");
@@ -59,19 +59,19 @@ TEST_F(StregP, NeverLooksAtTheFirstItem) {
     EXPECT_EQ(Items(), Lines{"DL1ABC         40m SSB 0001 DL1ABC         "});
 }
 
-TEST_F(StregP, KeepsTheOnlyContactOnView) {
+TEST_F(PortableCalls, KeepsTheOnlyContactOnView) {
     Worked("FD10mCW", "OZ1ABC", "0001");
     Open();
     EXPECT_EQ(Items(), (Lines{"OZ1ABC         ------------", "OZ1ABC         10m CW  0001 OZ1ABC         "}));
 }
 
-TEST_F(StregP, WithoutLogsHasDashesAlone) {
+TEST_F(PortableCalls, WithoutLogsHasDashesAlone) {
     Open();
     EXPECT_EQ(Items(), Lines{"------------"});
     EXPECT_FALSE(files.IsOpen());
 }
 
-TEST_F(StregP, KnowsThePrefixAndTheFigureOfAnotherCountryAsSpellings) {
+TEST_F(PortableCalls, KnowsThePrefixAndTheFigureOfAnotherCountryAsSpellings) {
     Worked("FD40mSSB", "SV9/OZ1ABC", "0001");
     Worked("FD80mSSB", "OZ1ABC", "0002");
     Worked("FD40mSSB", "OZ2DEF/3", "0003");
@@ -82,7 +82,7 @@ TEST_F(StregP, KnowsThePrefixAndTheFigureOfAnotherCountryAsSpellings) {
                               "OZ2DEF         40m SSB 0003 OZ2DEF/3       ", "OZ2DEF         80m SSB 0004 OZ2DEF         "}));
 }
 
-TEST_F(StregP, PassesOverNotesAndTakesDuplicates) {
+TEST_F(PortableCalls, PassesOverNotesAndTakesDuplicates) {
     files.files["LOG\\FD40MSSB.TXT"] = {"NOTE: OZ1ABC/P er paa vej", "note: OZ1ABC/P igen",
                                         "13:00 OZ1ABC          59 -0001 59 -0001  0 -DUPE-     OZ1DEF     SSB   05-09-26"};
     Worked("FD80mSSB", "OZ1ABC/P", "0002");
@@ -91,7 +91,7 @@ TEST_F(StregP, PassesOverNotesAndTakesDuplicates) {
                               "OZ1ABC         80m SSB 0002 OZ1ABC/P       "}));
 }
 
-TEST_F(StregP, ReadsAllTenLogs) {
+TEST_F(PortableCalls, ReadsAllTenLogs) {
     const Lines logs{"FD10mCW", "FD10mSSB", "FD15mCW", "FD15mSSB", "FD20mCW", "FD20mSSB", "FD40mCW", "FD40mSSB", "FD80mCW", "FD80mSSB"};
     for (const std::string& log : logs) Worked(log, log == "FD80mSSB" ? "OZ1ABC/P" : "OZ1ABC", "0001");
     Open();
@@ -100,7 +100,7 @@ TEST_F(StregP, ReadsAllTenLogs) {
     EXPECT_EQ(Items()[10], "OZ1ABC         80m SSB 0001 OZ1ABC/P       ");
 }
 
-TEST_F(StregP, ShortLinesMoveNoColumn) {
+TEST_F(PortableCalls, ShortLinesMoveNoColumn) {
     files.files["LOG\\FD40MSSB.TXT"] = {"13:00 OZ1ABC", "", "x"};
     Worked("FD80mSSB", "OZ1ABC/P", "0002");
     Open();
@@ -109,7 +109,7 @@ TEST_F(StregP, ShortLinesMoveNoColumn) {
                               "OZ1ABC         80m SSB 0002 OZ1ABC/P       "}));
 }
 
-TEST_F(StregP, ALogThatBreaksOffIsShownAsFarAsItWasRead) {
+TEST_F(PortableCalls, ALogThatBreaksOffIsShownAsFarAsItWasRead) {
     Worked("FD10mCW", "OZ1ABC", "0001");
     Worked("FD10mCW", "OZ1ABC/P", "0002");
     Worked("FD10mCW", "OZ1ABC/M", "0003");
@@ -120,7 +120,7 @@ TEST_F(StregP, ALogThatBreaksOffIsShownAsFarAsItWasRead) {
     EXPECT_FALSE(files.IsOpen());
 }
 
-TEST_F(StregP, OpenedAgainKeepsWhatItShows) {
+TEST_F(PortableCalls, OpenedAgainKeepsWhatItShows) {
     Worked("FD10mCW", "OZ1ABC", "0001");
     Open();
     const Lines before = Items();
@@ -134,7 +134,7 @@ TEST_F(StregP, OpenedAgainKeepsWhatItShows) {
     EXPECT_EQ(Items().size(), 3U);
 }
 
-TEST_F(StregP, HasItsPlaceInTheSettings) {
+TEST_F(PortableCalls, HasItsPlaceInTheSettings) {
     Open();
     EXPECT_EQ(frmStregP->Caption(), "Mangler nogle calls '/P'?");
     EXPECT_EQ(frmStregP->Left(), 2000);
@@ -158,7 +158,7 @@ TEST_F(StregP, HasItsPlaceInTheSettings) {
     EXPECT_EQ(settings.texts["SETTINGS/STREGPWIDTH"], "7500");
 }
 
-TEST_F(StregP, ChangesNoLogAndNoCounter) {
+TEST_F(PortableCalls, ChangesNoLogAndNoCounter) {
     Worked("FD80mSSB", "OZ1ABC", "0001");
     Worked("FD80mSSB", "OZ1ABC/P", "0002");
     const auto before = files.files;

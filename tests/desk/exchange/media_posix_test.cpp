@@ -50,14 +50,14 @@ protected:
     Media() {
         fs::create_directory(root_ / "log");
         Start();
-        InstallPlatform({front, dialogs, settings, disk_, clock, help, instance, sound, printer, {1, 2, 3}});
+        InstallPlatform(front, {dialogs, settings, disk_, clock, help, instance, sound, printer, {1, 2, 3}});
         desk().gsLogLib = (root_ / "log").string();
         desk().gsBackupLib = (root_ / "kopi").string();
     }
     void SetUp() override {
         if (!medium_.Mounted()) GTEST_SKIP() << "skipped: file systems can only be mounted by root";
     }
-    ~Media() override { InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}}); }
+    ~Media() override { InstallPlatform(front, {dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}}); }
 
     void Put(const std::string& name, std::size_t length) const {
         std::ofstream(root_ / "log" / name, std::ios::binary) << std::string(length, 'x');

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "frame/band_mode.h"
+
+#include "entry/next_contact.h"
+#include "frame/log_directory.h"
+#include "frame/log_file.h"
 #include "frame/state.h"
 
 #include "frame/log_file.h"
@@ -25,7 +29,7 @@ TEST(ChoiceOfWord, KnowsTheFiveBandsAndTheFiveModes) {
 }
 
 TEST(ChoiceOfWord, IsTheExactWordAndNothingElse) {
-    for (const char* word : {"", "XXM", "80m", "80M ", "80", "160M", "FM", "CWX"}) EXPECT_EQ(ChoiceOfWord(word), 0) << word;
+    for (const char* word : {"", "XXM", "80m", "80M ", "80", "160M", "FM", "CWX"}) EXPECT_EQ(ChoiceOfWord(word), std::nullopt) << word;
 }
 
 class BandMode : public RunningProgram {

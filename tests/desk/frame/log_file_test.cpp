@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "frame/log_file.h"
+
 #include "frame/state.h"
+#include "tables/worked.h"
 
 #include "country/lookup.h"
 #include "frame/band_mode.h"
@@ -74,11 +76,8 @@ TEST_F(LogFile, LoadThatFailsOnTheWayKeepsWhatWasRead) {
 
 TEST_F(LogFile, LoadBelievesTheMultiplierColumnAndNotTheCall) {
     StartWith({"10:10 DL1AA           59 -0007 59 -0003  3 OZ         OZ1DEF     SSB   05-09-26"});
-    std::string status;
-    LandStatusTekst("OZ7XYZ", status);
-    EXPECT_EQ(ToUtf8(status), "OZ: Denmark (EU), er kørt.");
-    LandStatusTekst("DL1AA", status);
-    EXPECT_EQ(status, "DL: Fed. Rep. of Germany (EU), er nyt land.");
+    EXPECT_EQ(ToUtf8(ShownCountry("OZ7XYZ").text), "OZ: Denmark (EU), er kørt.");
+    EXPECT_EQ(ShownCountry("DL1AA").text, "DL: Fed. Rep. of Germany (EU), er nyt land.");
 }
 
 TEST_F(LogFile, LoadTakesALineThatEndsBeforeItsPoints) {
@@ -118,7 +117,7 @@ TEST_F(LogFile, AppendThatFailsEndsTheProgramAfterOneMessage) {
 
 TEST_F(LogFile, RewriteGoesByWayOfACopy) {
     StartWith({kFirst, kSecond});
-    frmMain->List1.SetList(0, "NOTE: x");
+    desk().log.Replace(0, "NOTE: x");
     SkrivLog();
     EXPECT_EQ(files.steps, (Lines{"open LOG\\FDKOPI.TXT", "write LOG\\FDKOPI.TXT", "write LOG\\FDKOPI.TXT", "close",
                                   "delete LOG\\FD80MSSB.TXT", "rename LOG\\FDKOPI.TXT"}));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "frame/start.h"
+
 #include "frame/state.h"
+#include "frame/version.h"
 
 #include "entry/frmB4.h"
 #include "entry/frmContestCall.h"
@@ -142,10 +144,10 @@ TEST_F(ProgramStart, NothingIsStoredBeforeTheMainFormIsUp) {
         }
     } asked;
     asked.Expect("Logbibliotek er ikke angivet. Vatro standses.");
-    InstallPlatform({front, asked, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+    InstallPlatform(front, {asked, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
     Start();
     EXPECT_EQ(settings.written, Lines{"FDLib"});
-    InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+    InstallPlatform(front, {dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
 }
 
 TEST_F(ProgramStart, AFailureThatNothingCatchesEndsTheProgramWithItsNumber) {

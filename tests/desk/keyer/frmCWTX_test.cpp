@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/frmCWTX.h"
+#include "frame/state.h"
 
 #include <algorithm>
 
@@ -28,19 +29,11 @@ TEST_F(Sending, TheBufferIsOneSecondWithAnEventAtTheEndOfEachHalf) {
     Start();
     SendText("E");
     ASSERT_NE(sound.buffer, nullptr);
-    EXPECT_EQ(sound.buffer->description.flags, 0x10100);
-    EXPECT_EQ(sound.buffer->description.bytes, 88200);
-    const WaveFormat& format = sound.buffer->format;
-    EXPECT_EQ(format.formatTag, 1);
-    EXPECT_EQ(format.channels, 1);
-    EXPECT_EQ(format.samplesPerSecond, 44100);
-    EXPECT_EQ(format.bytesPerSecond, 88200);
-    EXPECT_EQ(format.blockAlign, 2);
-    EXPECT_EQ(format.bitsPerSample, 16);
-    EXPECT_EQ(format.extraSize, 0);
+    EXPECT_EQ(sound.buffer->format.samplesPerSecond, 44100);
+    EXPECT_EQ(sound.buffer->format.samples, 44100);
     ASSERT_EQ(sound.buffer->positions.size(), 2U);
-    EXPECT_EQ(sound.buffer->positions[0].offset, 44099);
-    EXPECT_EQ(sound.buffer->positions[1].offset, 88199);
+    EXPECT_EQ(sound.buffer->positions[0].sample, 22049);
+    EXPECT_EQ(sound.buffer->positions[1].sample, 44099);
     EXPECT_EQ(sound.buffer->positions[0].event, frmCWTX->CWEvent[0]);
     EXPECT_EQ(sound.buffer->positions[1].event, frmCWTX->CWEvent[1]);
     EXPECT_NE(frmCWTX->CWEvent[0], frmCWTX->CWEvent[1]);
@@ -49,7 +42,7 @@ TEST_F(Sending, TheBufferIsOneSecondWithAnEventAtTheEndOfEachHalf) {
 TEST_F(Sending, BothHalvesAreFilledBeforeThePlayBegins) {
     Start();
     SendText("PARIS");
-    EXPECT_EQ(sound.calls, (Calls{"write 0 44100", "write 44100 44100", "position 0", "play"}));
+    EXPECT_EQ(sound.calls, (Calls{"write 0 22050", "write 22050 22050", "position 0", "play"}));
     EXPECT_TRUE(Shown());
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
     EXPECT_TRUE(frmMain->Enabled());
@@ -63,18 +56,18 @@ TEST_F(Sending, AnEventFillsTheHalfThatHasJustBeenPlayed) {
     Pass(0);
     Pass(1);
     Pass(0);
-    EXPECT_EQ(sound.calls, (Calls{"write 0 44100", "write 44100 44100", "write 0 44100"}));
+    EXPECT_EQ(sound.calls, (Calls{"write 0 22050", "write 22050 22050", "write 0 22050"}));
     EXPECT_TRUE(Shown());
 }
 
 TEST_F(Sending, AShortTextStopsAtTheFirstEvent) {
     Start();
     // At 60 words a minute, "E" and its silence are 9702 samples.
-    giCWWPM = 60;
+    desk().cw.giCWWPM = 60;
     SendText("E");
     sound.calls.clear();
     Pass(0);
-    EXPECT_EQ(sound.calls, (Calls{"write 0 44100", "stop", "position 0"}));
+    EXPECT_EQ(sound.calls, (Calls{"write 0 22050", "stop", "position 0"}));
     EXPECT_FALSE(Shown());
     EXPECT_EQ(ActiveForm(), &*frmMain);
     EXPECT_TRUE(frmCWTX.Loaded());
@@ -82,7 +75,7 @@ TEST_F(Sending, AShortTextStopsAtTheFirstEvent) {
 
 TEST_F(Sending, AnEmptyTextIsHalfASecondOfSilence) {
     Start();
-    giCWWPM = 60;
+    desk().cw.giCWWPM = 60;
     Send(4);
     EXPECT_EQ(frmCWTX->Text1.Text(), " ");
     PlayOut();
@@ -97,14 +90,14 @@ TEST_F(Sending, TheNextSendUsesTheSameBuffer) {
     SendText("T");
     EXPECT_EQ(sound.buffer, first);
     EXPECT_EQ(sound.events.size(), 2U);
-    EXPECT_EQ(sound.buffer->samples[2646], CWMidte[0]);
+    EXPECT_EQ(sound.buffer->samples[2646], CurrentPieces().CWMidte[0]);
 }
 
 TEST_F(Sending, UpTo24WordsAMinuteEveryToneIsHeard) {
     Start();
     for (const int wpm : {6, 13, 20, 23, 24}) {
         Dispatch([] { frmCWTX.Unload(); });
-        giCWWPM = static_cast<std::int16_t>(wpm);
+        desk().cw.giCWWPM = static_cast<std::int16_t>(wpm);
         // Texts of so many dots up to the end of the last tone.
         for (const auto& [text, dots] :
              {std::pair{"E", 1}, {"T", 3}, {"A", 5}, {"U", 7}, {"V", 9}, {"4", 11}, {"EEEE", 13}, {"EEET", 15}}) {
@@ -123,7 +116,7 @@ TEST_F(Sending, Above24WordsAMinuteTheLastTonesCanBeCutOff) {
     Start();
     // 27 dots of 1764 samples up to the end of the last dash, and 10 of silence, are 65268 samples, in three halves. When the third one
     // begins to sound, the next one holds nothing: two halves are heard, 25 dots.
-    giCWWPM = 30;
+    desk().cw.giCWWPM = 30;
     SendText("EEEEEET");
     PlayOut();
     EXPECT_EQ(heard.size(), 2U * kHalf);
@@ -133,7 +126,7 @@ TEST_F(Sending, Above24WordsAMinuteTheLastTonesCanBeCutOff) {
 TEST_F(Sending, ATextThatEndsWithAHalfIsFollowedByOneMore) {
     Start();
     // 15 dots and 10 of silence are 44100 samples. The last slot ends with its half, which counts as one that has been cut.
-    giCWWPM = 30;
+    desk().cw.giCWWPM = 30;
     SendText("EEET");
     PlayOut();
     EXPECT_EQ(heard.size(), 2U * kHalf);
@@ -148,7 +141,7 @@ TEST_F(Sending, ALongTextIsHeardAsItIsComposed) {
     EXPECT_EQ(LastTone(), 9U * 2646);
     EXPECT_TRUE(std::all_of(heard.begin() + 2646, heard.begin() + 8 * 2646, [](std::int16_t sample) { return sample == 0; }));
     EXPECT_EQ(std::vector<std::int16_t>(heard.begin() + 8 * 2646, heard.begin() + 9 * 2646),
-              std::vector<std::int16_t>(CWPrik.begin(), CWPrik.begin() + 2646));
+              std::vector<std::int16_t>(CurrentPieces().CWPrik.begin(), CurrentPieces().CWPrik.begin() + 2646));
 }
 
 // --- Stop, and a send during a send
@@ -161,13 +154,13 @@ TEST_F(Sending, StopIsSilenceAtOnceAndTheBeginningOfTheNextText) {
     PressStop();
     EXPECT_EQ(sound.calls, (Calls{"stop", "position 0"}));
     EXPECT_FALSE(Shown());
-    EXPECT_EQ(glTegnPos, 0);
-    EXPECT_EQ(glElementPos, 0);
-    EXPECT_EQ(gscwtegn, "");
-    EXPECT_EQ(gsElement, "");
+    EXPECT_EQ(Place().glTegnPos, 0);
+    EXPECT_EQ(Place().glElementPos, 0);
+    EXPECT_EQ(Place().gscwtegn, "");
+    EXPECT_EQ(Place().gsElement, "");
     SendText("T");
-    EXPECT_EQ(sound.buffer->samples[1], CWStart[1]);
-    EXPECT_EQ(sound.buffer->samples[2646], CWMidte[0]);
+    EXPECT_EQ(sound.buffer->samples[1], CurrentPieces().CWStart[1]);
+    EXPECT_EQ(sound.buffer->samples[2646], CurrentPieces().CWMidte[0]);
 }
 
 TEST_F(Sending, StopIsDefaultAndCancelButton) {
@@ -188,34 +181,35 @@ TEST_F(Sending, AnEventThatComesAfterTheStopDoesNothing) {
     sound.calls.clear();
     Pass(0);
     EXPECT_EQ(sound.calls, Calls{});
-    EXPECT_EQ(glTegnPos, 0);
-    EXPECT_EQ(gsElement, "");
+    EXPECT_EQ(Place().glTegnPos, 0);
+    EXPECT_EQ(Place().gsElement, "");
 }
 
 TEST_F(Sending, ASecondTextComesInWhereTheFirstOneStood) {
     Start();
     SendText("EEEEEEEEEE");
     // Two halves are 16.67 dots of 2646: four times dot and gap, and the cut 17th slot is the fifth dot.
-    EXPECT_EQ(glTegnPos, 4);
-    EXPECT_EQ(gscwtegn, "4");
-    EXPECT_EQ(glElementPos, 1);
+    EXPECT_EQ(Place().glTegnPos, 4);
+    EXPECT_EQ(Place().gscwtegn, "4");
+    EXPECT_EQ(Place().glElementPos, 1);
     sound.calls.clear();
     SendText("TTTTTTTTTT");
     // Nothing stops and nothing rewinds: the fifth "E" is gone through to its gap, then come the dashes from the sixth on.
-    EXPECT_EQ(sound.calls, (Calls{"write 0 44100", "write 44100 44100", "position 0", "play"}));
+    EXPECT_EQ(sound.calls, (Calls{"write 0 22050", "write 22050 22050", "position 0", "play"}));
     const auto at = [this](int slot) { return sound.buffer->samples.begin() + static_cast<std::ptrdiff_t>(slot) * 2646; };
     EXPECT_TRUE(std::all_of(at(0), at(3), [](std::int16_t sample) { return sample == 0; }));
-    EXPECT_EQ(std::vector<std::int16_t>(at(3), at(4)), std::vector<std::int16_t>(CWStart.begin(), CWStart.begin() + 2646));
+    EXPECT_EQ(std::vector<std::int16_t>(at(3), at(4)),
+              std::vector<std::int16_t>(CurrentPieces().CWStart.begin(), CurrentPieces().CWStart.begin() + 2646));
     // Three slots of gap and twice a dash with its gap are 15 slots, of which 16.67 fit.
-    EXPECT_EQ(glTegnPos, 7);
+    EXPECT_EQ(Place().glTegnPos, 7);
 }
 
 TEST_F(Sending, ASecondTextThatIsShorterEndsAtOnce) {
     Start();
     SendText("EEEEEEEEEE");
     SendText("T");
-    EXPECT_EQ(gsElement, "0");
-    EXPECT_EQ(glTegnPos, 0);
+    EXPECT_EQ(Place().gsElement, "0");
+    EXPECT_EQ(Place().glTegnPos, 0);
     PlayOut();
     EXPECT_EQ(heard, std::vector<std::int16_t>(kHalf));
 }
@@ -226,7 +220,7 @@ TEST_F(Sending, TheButtonTXSendsTheTextOnFromWhereItStands) {
     Dispatch([] { frmCWTX->cmdTX.Press(); });
     EXPECT_EQ(frmCWTX->Text1.Text(), "EEEEEEEEEE ");
     // 16.67 slots on from the gap behind the fifth dot: three slots of gap, three times dot and gap, and a dot.
-    EXPECT_EQ(glTegnPos, 8);
+    EXPECT_EQ(Place().glTegnPos, 8);
 }
 
 // --- A new buffer
@@ -236,11 +230,11 @@ TEST_F(Sending, ANewSpeedBreaksTheTextOffAndTheWindowWaitsForStop) {
     SendText("PARIS PARIS");
     const SoundEvent first = frmCWTX->CWEvent[0];
     Dispatch([] {
-        giCWWPM = 40;
+        desk().cw.giCWWPM = 40;
         frmCWTX->DanLydBuffer();
     });
-    EXPECT_EQ(Priklen, 1323);
-    EXPECT_EQ(CWStreg.size(), 3U * 1323 + 1);
+    EXPECT_EQ(CurrentPieces().Priklen, 1323);
+    EXPECT_EQ(CurrentPieces().CWStreg.size(), 3U * 1323 + 1);
     EXPECT_TRUE(Shown());
     sound.calls.clear();
     // On its way when the old buffer went.
@@ -249,7 +243,7 @@ TEST_F(Sending, ANewSpeedBreaksTheTextOffAndTheWindowWaitsForStop) {
     PressStop();
     EXPECT_FALSE(Shown());
     SendText("T");
-    EXPECT_EQ(sound.buffer->samples[1323], CWMidte[0]);
+    EXPECT_EQ(sound.buffer->samples[1323], CurrentPieces().CWMidte[0]);
 }
 
 // --- No sound card
@@ -267,8 +261,8 @@ TEST_F(Sending, WithoutACardTheMessageComesOnceAndNothingElseHappens) {
     EXPECT_FALSE(Shown());
     EXPECT_TRUE(frmMain->Enabled());
     EXPECT_EQ(ActiveForm(), &*frmMain);
-    EXPECT_EQ(gsCWTekst, "");
-    EXPECT_EQ(gsCWCall, "");
+    EXPECT_EQ(Place().gsCWTekst, "");
+    EXPECT_EQ(desk().cw.gsCWCall, "");
     SendText("#C");
     EXPECT_EQ(dialogs.boxes.size(), 1U);
     EXPECT_FALSE(Shown());
@@ -313,12 +307,12 @@ TEST_F(Sending, ClosingTheWindowGivesTheCardBackAndKeepsThePosition) {
     EXPECT_FALSE(frmCWTX.Loaded());
     EXPECT_FALSE(frmAfslut.Loaded());
     EXPECT_EQ(ActiveForm(), &*frmMain);
-    EXPECT_EQ(glTegnPos, 4);
+    EXPECT_EQ(Place().glTegnPos, 4);
     front.pending = nullptr;
 
     SendText("EEEEEEEEEE");
     EXPECT_EQ(sound.events.size(), 2U);
-    EXPECT_EQ(glTegnPos, 8);
+    EXPECT_EQ(Place().glTegnPos, 8);
     EXPECT_TRUE(Shown());
 }
 
@@ -376,10 +370,10 @@ TEST_F(Sending, ANewRunBeginsWithNothingOfTheOldText) {
     SendText("EEEEEEEEEE");
     EndProgram();
     Start();
-    EXPECT_EQ(glTegnPos, 0);
-    EXPECT_EQ(gsCWTekst, "");
+    EXPECT_EQ(Place().glTegnPos, 0);
+    EXPECT_EQ(Place().gsCWTekst, "");
     SendText("T");
-    EXPECT_EQ(sound.buffer->samples[1], CWStart[1]);
+    EXPECT_EQ(sound.buffer->samples[1], CurrentPieces().CWStart[1]);
 }
 
 TEST_F(Sending, OutsideCWTheMenuSendsNothing) {

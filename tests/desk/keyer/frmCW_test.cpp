@@ -49,8 +49,8 @@ TEST_F(CWWindow, ShowsAVolumeBeyondTheBarAtItsEnd) {
     Open();
     EXPECT_EQ(frmCW->HScroll1.Value(), 10000);
     PressOK();
-    EXPECT_EQ(glCWVolume, 10000);
-    glCWVolume = -5;
+    EXPECT_EQ(desk().cw.glCWVolume, 10000);
+    desk().cw.glCWVolume = -5;
     Open();
     EXPECT_EQ(frmCW->HScroll1.Value(), 0);
 }
@@ -115,9 +115,9 @@ TEST_F(CWWindow, TheDefaultTextsComeIntoTheFieldsAlone) {
     EXPECT_EQ(dialogs.boxes.back().icon, Icon::Question);
     EXPECT_TRUE(dialogs.boxes.back().defaultNo);
     EXPECT_EQ(Fields(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "TU #R", "#C?", "", ""}));
-    EXPECT_EQ(CWTekster[4], "");
+    EXPECT_EQ(desk().cw.CWTekster[4], "");
     PressOK();
-    EXPECT_EQ(CWTekster[4], "TU #R");
+    EXPECT_EQ(desk().cw.CWTekster[4], "TU #R");
 }
 
 TEST_F(CWWindow, ANoKeepsTheFields) {
@@ -141,13 +141,13 @@ TEST_F(CWWindow, OKTakesEverythingOverAndStoresItWithTheEquipment) {
     frmCW->optLobenr[1].SetValue(true);
     settings.written.clear();
     PressOK();
-    EXPECT_EQ(giCWWPM, 26);
-    EXPECT_EQ(giCWTone, 700);
-    EXPECT_EQ(glCWVolume, 8000);
-    EXPECT_EQ(gsCWRSTFormat, "5nn");
-    EXPECT_EQ(gsCWNummerFormat, "--1");
-    EXPECT_EQ(CWTekster[0], "TEST #R");
-    EXPECT_EQ(CWTekster[6], "AGN?");
+    EXPECT_EQ(desk().cw.giCWWPM, 26);
+    EXPECT_EQ(desk().cw.giCWTone, 700);
+    EXPECT_EQ(desk().cw.glCWVolume, 8000);
+    EXPECT_EQ(desk().cw.gsCWRSTFormat, "5nn");
+    EXPECT_EQ(desk().cw.gsCWNummerFormat, "--1");
+    EXPECT_EQ(desk().cw.CWTekster[0], "TEST #R");
+    EXPECT_EQ(desk().cw.CWTekster[6], "AGN?");
     EXPECT_EQ(frmMain->mnuCWTXT[0].Caption(), "TEST #R");
     EXPECT_EQ(frmMain->mnuCWTXT[6].Caption(), "AGN?");
     // The keyer first, then the equipment.
@@ -169,11 +169,11 @@ TEST_F(CWWindow, OKGivesTheLongFormsBack) {
     frmCW->optRST[0].SetValue(true);
     frmCW->optLobenr[0].SetValue(true);
     PressOK();
-    EXPECT_EQ(gsCWRSTFormat, "599");
-    EXPECT_EQ(gsCWNummerFormat, "001");
+    EXPECT_EQ(desk().cw.gsCWRSTFormat, "599");
+    EXPECT_EQ(desk().cw.gsCWNummerFormat, "001");
 }
 
-TEST_F(CWWindow, AnnullerKeepsNothing) {
+TEST_F(CWWindow, CancelKeepsNothing) {
     Open();
     frmCW->Text1[0].SetText("X");
     frmCW->txtWPM.SetText("40");
@@ -181,9 +181,9 @@ TEST_F(CWWindow, AnnullerKeepsNothing) {
     settings.written.clear();
     Dispatch([] { frmCW->UserDefaultKey(kEsc); });
     EXPECT_FALSE(frmCW.Loaded());
-    EXPECT_EQ(giCWWPM, 20);
-    EXPECT_EQ(gsCWRSTFormat, "599");
-    EXPECT_EQ(CWTekster[0], "CQ TEST DE #R #R TEST K");
+    EXPECT_EQ(desk().cw.giCWWPM, 20);
+    EXPECT_EQ(desk().cw.gsCWRSTFormat, "599");
+    EXPECT_EQ(desk().cw.CWTekster[0], "CQ TEST DE #R #R TEST K");
     EXPECT_EQ(settings.written, Texts{});
     Open();
     EXPECT_EQ(frmCW->Text1[0].Text(), "CQ TEST DE #R #R TEST K");
@@ -193,7 +193,7 @@ TEST_F(CWWindow, EnterIsOK) {
     Open();
     frmCW->Text1[0].SetText("X");
     Dispatch([] { frmCW->UserDefaultKey(kEnter); });
-    EXPECT_EQ(CWTekster[0], "X");
+    EXPECT_EQ(desk().cw.CWTekster[0], "X");
 }
 
 TEST_F(CWWindow, TheNumberInFrontOfATextCounts) {
@@ -201,13 +201,13 @@ TEST_F(CWWindow, TheNumberInFrontOfATextCounts) {
     frmCW->txtWPM.SetText(" 25 wpm");
     frmCW->txtTone.SetText("612.5");
     PressOK();
-    EXPECT_EQ(giCWWPM, 25);
-    EXPECT_EQ(giCWTone, 612);
+    EXPECT_EQ(desk().cw.giCWWPM, 25);
+    EXPECT_EQ(desk().cw.giCWTone, 612);
     // Not the same as the stored 612: all three are taken over again, to the even neighbour.
     Open();
     frmCW->txtTone.SetText("613.5");
     PressOK();
-    EXPECT_EQ(giCWTone, 614);
+    EXPECT_EQ(desk().cw.giCWTone, 614);
 }
 
 TEST_F(CWWindow, NewSoundMakesNewPieces) {
@@ -217,18 +217,18 @@ TEST_F(CWWindow, NewSoundMakesNewPieces) {
     Open();
     frmCW->txtWPM.SetText("40");
     PressOK();
-    EXPECT_EQ(Priklen, 1323);
-    EXPECT_EQ(CWPrik.size(), 1324U);
+    EXPECT_EQ(CurrentPieces().Priklen, 1323);
+    EXPECT_EQ(CurrentPieces().CWPrik.size(), 1324U);
     Open();
     frmCW->txtTone.SetText("400");
     PressOK();
     // sin(2 pi 400 / 44100) is 0.05696.
-    EXPECT_EQ(CWStreg[1], -570);
+    EXPECT_EQ(CurrentPieces().CWStreg[1], -570);
     Open();
     frmCW->HScroll1.SetValue(1000);
     PressOK();
-    EXPECT_EQ(CWStreg[1], -57);
-    EXPECT_TRUE(frmCWTX->Klar());
+    EXPECT_EQ(CurrentPieces().CWStreg[1], -57);
+    EXPECT_TRUE(frmCWTX->Ready());
 }
 
 TEST_F(CWWindow, AVolumeThatWasTooLoudCanBeTurnedDown) {
@@ -238,7 +238,7 @@ TEST_F(CWWindow, AVolumeThatWasTooLoudCanBeTurnedDown) {
     SendText("E");
     Open();
     PressOK();
-    EXPECT_EQ(glCWVolume, 10000);
+    EXPECT_EQ(desk().cw.glCWVolume, 10000);
     SendText("E");
     EXPECT_TRUE(frmCWTX->Visible());
     EXPECT_EQ(sound.calls.back(), "play");
@@ -256,7 +256,7 @@ TEST_F(CWWindow, NewTextsLeaveTheBufferAlone) {
     EXPECT_EQ(sound.buffer, buffer);
     EXPECT_TRUE(Playing() || sound.calls.empty());
     Pass(0);
-    EXPECT_EQ(sound.calls, (Texts{"write 0 44100"}));
+    EXPECT_EQ(sound.calls, (Texts{"write 0 22050"}));
 }
 
 TEST_F(CWWindow, SpeedNoughtStopsAProgramThatHasSent) {

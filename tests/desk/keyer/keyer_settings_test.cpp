@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/keyer_settings.h"
 
+#include "frame/state.h"
 #include "running_program.h"
 
 namespace vatro {
@@ -10,18 +11,18 @@ using Texts = std::vector<std::string>;
 
 class CWSettings : public RunningProgram {
 protected:
-    std::vector<std::string> Tekster() { return {CWTekster.begin(), CWTekster.end()}; }
+    std::vector<std::string> AllTexts() { return {desk().cw.CWTekster.begin(), desk().cw.CWTekster.end()}; }
 };
 
 TEST_F(CWSettings, AnEmptyStoreGivesTheDefaults) {
     Start();
-    EXPECT_EQ(giCWWPM, 20);
-    EXPECT_EQ(giCWTone, 800);
-    EXPECT_EQ(glCWVolume, 10000);
-    EXPECT_EQ(giCWFarnsworth, 0);
-    EXPECT_EQ(gsCWNummerFormat, "001");
-    EXPECT_EQ(gsCWRSTFormat, "599");
-    EXPECT_EQ(Tekster(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "", "", "", ""}));
+    EXPECT_EQ(desk().cw.giCWWPM, 20);
+    EXPECT_EQ(desk().cw.giCWTone, 800);
+    EXPECT_EQ(desk().cw.glCWVolume, 10000);
+    EXPECT_EQ(desk().cw.giCWFarnsworth, 0);
+    EXPECT_EQ(desk().cw.gsCWNummerFormat, "001");
+    EXPECT_EQ(desk().cw.gsCWRSTFormat, "599");
+    EXPECT_EQ(AllTexts(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "", "", "", ""}));
 }
 
 TEST_F(CWSettings, AreReadAtTheStartAndNothingIsWritten) {
@@ -34,15 +35,15 @@ TEST_F(CWSettings, AreReadAtTheStartAndNothingIsWritten) {
                            {"CW/TEKST1", ""},
                            {"CW/TEKST8", "TU #R"}});
     HentCWIndstillinger();
-    EXPECT_EQ(giCWWPM, 32);
-    EXPECT_EQ(giCWTone, 650);
-    EXPECT_EQ(glCWVolume, 40000);
-    EXPECT_EQ(giCWFarnsworth, 3);
-    EXPECT_EQ(gsCWNummerFormat, "--1");
-    EXPECT_EQ(gsCWRSTFormat, "5nn");
-    EXPECT_EQ(CWTekster[0], "");
-    EXPECT_EQ(CWTekster[1], "CL?");
-    EXPECT_EQ(CWTekster[7], "TU #R");
+    EXPECT_EQ(desk().cw.giCWWPM, 32);
+    EXPECT_EQ(desk().cw.giCWTone, 650);
+    EXPECT_EQ(desk().cw.glCWVolume, 40000);
+    EXPECT_EQ(desk().cw.giCWFarnsworth, 3);
+    EXPECT_EQ(desk().cw.gsCWNummerFormat, "--1");
+    EXPECT_EQ(desk().cw.gsCWRSTFormat, "5nn");
+    EXPECT_EQ(desk().cw.CWTekster[0], "");
+    EXPECT_EQ(desk().cw.CWTekster[1], "CL?");
+    EXPECT_EQ(desk().cw.CWTekster[7], "TU #R");
     EXPECT_EQ(settings.written, Texts{});
 }
 
@@ -50,7 +51,7 @@ TEST_F(CWSettings, ExtraSilenceIsCutAtTwentyAndHasNoLowerEnd) {
     const auto read = [this](const char* stored) {
         settings.texts["CW/FARNSWORTH"] = stored;
         HentCWIndstillinger();
-        return giCWFarnsworth;
+        return desk().cw.giCWFarnsworth;
     };
     EXPECT_EQ(read("20"), 20);
     EXPECT_EQ(read("21"), 20);
@@ -59,10 +60,10 @@ TEST_F(CWSettings, ExtraSilenceIsCutAtTwentyAndHasNoLowerEnd) {
 
 TEST_F(CWSettings, AreWrittenWithAllTheirKeys) {
     HentCWIndstillinger();
-    giCWWPM = 26;
-    glCWVolume = 70000;
-    giCWFarnsworth = -2;
-    CWTekster[4] = "QRZ?";
+    desk().cw.giCWWPM = 26;
+    desk().cw.glCWVolume = 70000;
+    desk().cw.giCWFarnsworth = -2;
+    desk().cw.CWTekster[4] = "QRZ?";
     GemCWIndstillinger();
     EXPECT_EQ(settings.written, (Texts{"WPM", "Tone", "Volume", "Farnsworth", "N", "T", "Tekst1", "Tekst2", "Tekst3", "Tekst4", "Tekst5",
                                        "Tekst6", "Tekst7", "Tekst8"}));

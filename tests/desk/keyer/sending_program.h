@@ -6,11 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "frame/state.h"
 #include "frame/station.h"
 #include "keyer/frmCWTX.h"
-#include "keyer/keyer_settings.h"
 #include "keyer/texts.h"
-#include "morse/synthesis.h"
 #include "running_program.h"
 
 namespace vatro {
@@ -22,12 +21,16 @@ protected:
         settings.texts["SETTINGS/QSOMODE"] = "CW";
     }
 
+    /// What the keyer sends, and how far it has come.
+    static const Stepper& Place() { return desk().cw.keyer.Place(); }
+    static const Pieces& CurrentPieces() { return desk().cw.keyer.CurrentPieces(); }
+
     /// Chooses the text of F5 (0) to Shift+F8 (7).
     void Send(std::size_t text) {
         Dispatch([&] { frmMain->mnuCWTXT[text].Choose(); });
     }
     void SendText(std::string_view text) {
-        CWTekster[7] = text;
+        desk().cw.CWTekster[7] = text;
         Send(7);
     }
     /// The play position passes the end of the first (0) or second (1) half: what was heard is kept, and the event runs.

@@ -5,14 +5,10 @@
 
 #include <algorithm>
 
-#include "country/lookup.h"
-#include "country/tables.h"
 #include "frame/log_file.h"
-#include "log/duplicates.h"
+#include "frame/state.h"
 #include "paper_program.h"
-#include "papers/error_list.h"
-#include "score/points.h"
-#include "tables/load_tables.h"
+#include "tables/worked.h"
 
 namespace vatro {
 namespace {
@@ -23,7 +19,7 @@ const std::string kFaultless = "       - Der er ikke fundet fejl i denne log.";
 const std::string kMissing = "       - Log ikke fundet.";
 const std::string kColumns = "         Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode";
 
-class ErrorList : public PaperProgram {
+class ErrorListRun : public PaperProgram {
 protected:
     Lines List() {
         Choose(frmMain->mnuFilerDanFejlliste);
@@ -40,21 +36,11 @@ protected:
         ++from;
         return {from, std::find_if(from, list.end(), [](const std::string& line) { return line.starts_with("       ===="); })};
     }
-    /// The messages for the lines of the CW or SSB log of 80 metres.
-    Lines FaultsIn(const std::string& mode, const Lines& log) {
-        Log("80m" + mode, log);
-        Lines faults;
-        for (const std::string& line : SectionOf("80m", mode))
-            if (line.starts_with("       - ") && line != kFaultless) faults.push_back(line.substr(9));
-        return faults;
-    }
-    Lines FaultsOf(const Told& told) { return FaultsIn("CW", {Contact(told)}); }
-    /// A faultless contact but for the field told.
     static Told Good() { return {.call = "DL1AA", .points = 3, .mult = "DL"}; }
     static Told GoodSsb() { return {.call = "DL1AA", .points = 3, .mult = "DL", .mode = "SSB", .sent = "59", .received = "57"}; }
 };
 
-TEST_F(ErrorList, WithoutALogTellsSoTenTimes) {
+TEST_F(ErrorListRun, WithoutALogTellsSoTenTimes) {
     Lines wanted{"       Vatro fejlliste for OZ1AB/P. Dannet d. 05.09.2026", " "};
     for (const char* log : {"80m CW ", "80m SSB", "40m CW ", "40m SSB", "20m CW ", "20m SSB", "15m CW ", "15m SSB", "10m CW ", "10m SSB"}) {
         wanted.push_back("       ================================   " + std::string(log) + "   ==================================");
@@ -67,237 +53,18 @@ TEST_F(ErrorList, WithoutALogTellsSoTenTimes) {
     EXPECT_TRUE(IsFree(2));
 }
 
-TEST_F(ErrorList, TakesAnEmptyLogForAMissingOne) {
+TEST_F(ErrorListRun, TakesAnEmptyLogForAMissingOne) {
     Log("80mCW", {});
     EXPECT_THAT(SectionOf("80m", "CW"), ElementsAre(" ", kMissing, " "));
     EXPECT_TRUE(IsFree(1));
 }
 
-TEST_F(ErrorList, SaysThatALogIsFaultless) {
+TEST_F(ErrorListRun, SaysThatALogIsFaultless) {
     Log("80mCW", {Contact(Good())});
     EXPECT_THAT(SectionOf("80m", "CW"), ElementsAre(" ", kFaultless, " "));
 }
 
-TEST_F(ErrorList, ShowsNotesAndJudgesThemNot) {
-    Log("80mCW", {"NOTE: pause", "NOTE: " + std::string(90, 'x')});
-    EXPECT_THAT(SectionOf("80m", "CW"),
-                ElementsAre(" ", "       NOTE: pause", " ", "       NOTE: " + std::string(90, 'x'), " ", kFaultless, " "));
-}
-
-TEST_F(ErrorList, ShowsAFaultyContactAsInTheWorkedExample) {
-    // England has been worked before, and a Danish station is worth one point.
-    Log("80mCW", {Contact({.call = "G3AA", .points = 3, .mult = "G"}), Contact({.call = "OZ8AA", .points = 1, .mult = "OZ"}),
-                  "13:05 OZ9XYZ/P        599-0012 579-0034 10 G          OZ1AB  QSL CW    05-09-26"});
-    EXPECT_THAT(SectionOf("80m", "CW"),
-                ElementsAre(" ", kColumns, "       05-09-26 13:05 OZ9XYZ/P        599-0012 579-0034 10 G          OZ1AB  QSL CW   ", " ",
-                            "       - OZ station giver 1 point.",
-                            "       - QSO er ikke første qso for land: G. Flyt markeringen til den første QSO for landet.", " "));
-}
-
-TEST_F(ErrorList, ShowsALineOnceForAllItsErrors) {
-    WrittenLines list;
-    EXPECT_TRUE(DanFejlQSO(list, "abc", false));
-    EXPECT_TRUE(DanFejlQSO(list, "abc", true));
-    EXPECT_EQ(list.lines, Lines({" ", kColumns, "        abc", " "}));
-}
-
-TEST_F(ErrorList, RunsAllRulesInTheirOrder) {
-    EXPECT_EQ(FaultsIn("CW", {Contact(Good()), "25x00 0               67 -abcd 0  -x     1 G                     SSB"}),
-              Lines({"Fejl i tidspunkt. Tidspunkt skal angives som: '15:00'.", "Et kaldesignal skal være på mindst 3 tegn.",
-                     "Der skal være både tal og bogstaver i et kaldesignal.", "Første tegn i call'et er et nul.",
-                     "Sendt RST skal være på 3 cifre.", "Første ciffer i sendt sendt RST skal være mellem 1 og 5.",
-                     "Sendt QSOnr skal være numerisk.", "Modtaget RST skal være på 3 cifre.",
-                     "Første ciffer i modtaget RST skal være mellem 1 og 5.", "Modtaget QSOnr er nul.", "EU station giver 3 point.",
-                     "QSO er ikke første qso for land: G. Flyt markeringen til den første QSO for landet.", "Operatør skal udfyldes.",
-                     "Mode skal være CW, PSK31, RTTY eller HELL i CW-log.", "Dato skal være i formatet dd-mm-åå."}));
-}
-
-TEST_F(ErrorList, ChecksTheTime) {
-    const Lines fault{"Fejl i tidspunkt. Tidspunkt skal angives som: '15:00'."};
-    for (const char* good : {"13:05", "13.05", "13x05", "00:00", "23:59"}) {
-        Told told = Good();
-        told.time = good;
-        EXPECT_EQ(FaultsOf(told), Lines{}) << good;
-    }
-    for (const char* bad : {"25:00", "13:60", "ab:cd", "1305", " 1:05", ""}) {
-        Told told = Good();
-        told.time = bad;
-        EXPECT_EQ(FaultsOf(told), fault) << bad;
-    }
-    const DateTime now{2026, 9, 5, 7, 9, 0, 0};
-    EXPECT_FALSE(ValiderTid("12345", now));
-    EXPECT_EQ(ToUtf8(ValiderTid("12 7x", now).value_or("")), "Fejl i tidspunkt. Tidspunkt skal angives som: '07:09'.");
-}
-
-TEST_F(ErrorList, ChecksTheBaseCall) {
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL/P", .points = 5, .mult = "DL"})}),
-              Lines({"Et kaldesignal skal være på mindst 3 tegn.", "Der skal være både tal og bogstaver i et kaldesignal."}));
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DLABC", .points = 3, .mult = "DL"})}),
-              Lines({"Der skal være både tal og bogstaver i et kaldesignal."}));
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "0L1AA", .points = 3})}), Lines({"Første tegn i call'et er et nul."}));
-    // Æ lies above Å and is no letter here.
-    std::string line = Contact({.call = "1*23", .points = 3});
-    EXPECT_EQ(FaultsIn("CW", {line.replace(7, 1, "Æ")}), Lines({"Der skal være både tal og bogstaver i et kaldesignal."}));
-    line = Contact({.call = "1*23", .points = 3});
-    EXPECT_EQ(FaultsIn("CW", {line.replace(7, 1, "Å")}), Lines{});
-}
-
-TEST_F(ErrorList, FindsDuplicatesByTheBaseCallEvenIfTheyAreMarked) {
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1AA/P", .points = 5, .mult = "DL"}),
-                              Contact({.call = "DL1AA", .points = 0, .mult = "-DUPE-"})}),
-              Lines{"DL1AA er en dublet!"});
-    EXPECT_EQ(FaultsIn("CW", {Contact(Good()), Contact({.call = "DL1AA", .points = 3})}),
-              Lines({"DL1AA er en dublet!", "Dublet station giver 0 point."}));
-}
-
-TEST_F(ErrorList, NeverFindsACallOfElevenCharactersAgain) {
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1ABCDEFGH", .points = 3, .mult = "DL"}), Contact({.call = "DL1ABCDEFGH", .points = 3})}),
-              Lines{});
-    // But its first ten characters are taken for another station's call.
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1ABCDEFGH", .points = 3, .mult = "DL"}), Contact({.call = "DL1ABCDEFG", .points = 0})}),
-              Lines{"DL1ABCDEFG er en dublet!"});
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1ABCDEFG", .points = 3, .mult = "DL"}), Contact({.call = "DL1ABCDEFG", .points = 0})}),
-              Lines{"DL1ABCDEFG er en dublet!"});
-}
-
-TEST_F(ErrorList, ForgetsCallsAndCountriesBetweenLogs) {
-    Log("80mCW", {Contact(Good())});
-    Log("80mSSB", {Contact(GoodSsb())});
-    EXPECT_EQ(SectionOf("80m", "SSB"), Lines({" ", kFaultless, " "}));
-}
-
-TEST_F(ErrorList, ChecksReportsInACwLog) {
-    struct Case {
-        const char* sent;
-        Lines faults;
-    };
-    for (const Case& told :
-         {Case{"599", {}},
-          {"111", {}},
-          {"59", {"Sendt RST skal være på 3 cifre."}},
-          {"", {"Sendt RST skal være på 3 cifre."}},
-          {"699", {"Første ciffer i sendt sendt RST skal være mellem 1 og 5."}},
-          {"509", {"Andet ciffer i sendt RST skal være mellem 1 og 9."}},
-          {"590", {"Sidste ciffer i sendt RST skal være mellem 1 og 9."}},
-          {"0", {"Sendt RST skal være på 3 cifre.", "Første ciffer i sendt sendt RST skal være mellem 1 og 5."}},
-          {"abc",
-           {"Første ciffer i sendt sendt RST skal være mellem 1 og 5.", "Andet ciffer i sendt RST skal være mellem 1 og 9.",
-            "Sidste ciffer i sendt RST skal være mellem 1 og 9."}}}) {
-        Told line = Good();
-        line.sent = told.sent;
-        EXPECT_EQ(FaultsOf(line), told.faults) << told.sent;
-    }
-    for (const Case& told :
-         {Case{"579", {}},
-          {"57", {"Modtaget RST skal være på 3 cifre."}},
-          {"0", {"Modtaget RST skal være på 3 cifre.", "Første ciffer i modtaget RST skal være mellem 1 og 5.", "Modtaget QSOnr er nul."}},
-          {"", {"Modtaget RST skal være på 3 cifre.", "Modtaget QSOnr er nul.", "Modtaget QSOnr skal være numerisk."}},
-          {"5x9", {"Andet ciffer i modtaget RST skal være mellem 1 og 9.", "Modtaget QSOnr skal være numerisk."}},
-          {"57x", {"Sidste ciffer i modtaget RST skal være mellem 1 og 9.", "Modtaget QSOnr skal være numerisk."}}}) {
-        Told line = Good();
-        line.received = told.sent;
-        EXPECT_EQ(FaultsOf(line), told.faults) << told.sent;
-    }
-}
-
-TEST_F(ErrorList, ChecksReportsInAnSsbLog) {
-    const auto faults = [this](const char* sent, const char* received) {
-        Told line = GoodSsb();
-        line.sent = sent;
-        line.received = received;
-        return FaultsIn("SSB", {Contact(line)});
-    };
-    EXPECT_EQ(faults("59", "57"), Lines{});
-    EXPECT_EQ(faults("", "57"), Lines{"Sendt RST skal være på 2 cifre."});
-    EXPECT_EQ(faults("590", "57"), Lines{"Sendt RST skal være på 2 cifre."});
-    EXPECT_EQ(faults("50", "57"), Lines{"Andet ciffer i sendt RST skal være mellem 1 og 9."});
-    EXPECT_EQ(faults("59", "599"), Lines{"Modtaget RST skal være på 2 cifre."});
-    EXPECT_EQ(faults("59", "00"), Lines({"Første ciffer i modtaget RST skal være mellem 1 og 5.",
-                                         "Andet ciffer i modtaget RST skal være mellem 1 og 9.", "Modtaget QSOnr er nul."}));
-}
-
-TEST_F(ErrorList, ChecksTheSentNumberAndNeverReadsTheReceivedOne) {
-    std::string line = Contact(Good());
-    line.replace(35, 4, "abcd");
-    EXPECT_EQ(FaultsIn("CW", {line}), Lines{});
-    line = Contact(Good());
-    line.replace(26, 4, "abcd");
-    EXPECT_EQ(FaultsIn("CW", {line}), Lines{"Sendt QSOnr skal være numerisk."});
-    line.replace(26, 4, "    ");
-    EXPECT_EQ(FaultsIn("CW", {line}), Lines{"Sendt QSOnr skal være numerisk."});
-    line.replace(26, 4, " 12 ");
-    EXPECT_EQ(FaultsIn("CW", {line}), Lines{});
-}
-
-TEST_F(ErrorList, ChecksThePointsOfEachKindOfStation) {
-    struct Case {
-        const char* call;
-        const char* mult;
-        int points;
-        const char* fault;
-    };
-    for (const Case& told : {Case{"DL1AA", "DL", 3, "EU station giver 3 point."},
-                             {"DL1AA/P", "DL", 5, "EU/P station giver 5 point."},
-                             {"OZ9AA", "OZ", 1, "OZ station giver 1 point."},
-                             {"OZ9AA/P", "OZ", 1, "OZ station giver 1 point."},
-                             {"VK2AA", "VK", 6, "DX station giver 6 point."},
-                             {"VK2AA/P", "VK", 6, "DX station giver 6 point."},
-                             {"OZ1ABC", "OZ", 10, "EDR station giver 10 point."},
-                             {"OZ1ABC/P", "OZ", 10, "EDR station giver 10 point."},
-                             // The society's list goes by the base call, the country by the call as logged.
-                             {"DL/OZ1ABC", "DL", 10, "EDR station giver 10 point."},
-                             // An unknown prefix counts as any European station.
-                             {"QQ1AA", "", 3, "EU station giver 3 point."},
-                             {"QQ1AA/P", "", 5, "EU/P station giver 5 point."}}) {
-        EXPECT_EQ(FaultsIn("CW", {Contact({.call = told.call, .points = told.points, .mult = told.mult})}), Lines{}) << told.call;
-        EXPECT_EQ(FaultsIn("CW", {Contact({.call = told.call, .points = 0, .mult = told.mult})}), Lines{told.fault}) << told.call;
-    }
-}
-
-TEST_F(ErrorList, ChecksMultipliersAgainstTheLogSoFar) {
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1AA", .points = 3, .mult = ""}), Contact({.call = "DL2AA", .points = 3, .mult = "DL"})}),
-              Lines({"QSO er første multiplier for land: DL, men er ikke markeret.",
-                     "QSO er ikke første qso for land: DL. Flyt markeringen til den første QSO for landet."}));
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1AA", .points = 3, .mult = "G"})}),
-              Lines{"QSO er første multiplier for land: DL, men er ikke markeret."});
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "QQ1AA", .points = 3, .mult = "QQ"})}),
-              Lines{"QSO er ikke første qso for land: QQ. Flyt markeringen til den første QSO for landet."});
-    // The mark of a duplicate is no claim, wherever it stands.
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1AA", .points = 3, .mult = "-DUPE-"})}), Lines{});
-}
-
-TEST_F(ErrorList, ChecksOperatorModeAndDate) {
-    Told told = Good();
-    told.op = "";
-    EXPECT_EQ(FaultsOf(told), Lines{"Operatør skal udfyldes."});
-    for (const char* mode : {"CW", "PSK31", "RTTY", "HELL"}) {
-        told = Good();
-        told.mode = mode;
-        EXPECT_EQ(FaultsOf(told), Lines{}) << mode;
-        Told ssb = GoodSsb();
-        ssb.mode = mode;
-        EXPECT_EQ(FaultsIn("SSB", {Contact(ssb)}), Lines{"Mode skal være SSB i SSB-log."}) << mode;
-    }
-    for (const char* mode : {"SSB", "", "cw"}) {
-        told = Good();
-        told.mode = mode;
-        EXPECT_EQ(FaultsOf(told), Lines{"Mode skal være CW, PSK31, RTTY eller HELL i CW-log."}) << mode;
-    }
-    for (const char* date : {"31-02-26", "", "abc", "05-13-26"}) {
-        told = Good();
-        told.date = date;
-        EXPECT_EQ(FaultsOf(told), Lines{"Dato skal være i formatet dd-mm-åå."}) << date;
-    }
-    EXPECT_TRUE(GyldigDato("05-09-26"));
-    EXPECT_TRUE(GyldigDato("29-02-96"));
-    EXPECT_FALSE(GyldigDato("29-02-97"));
-}
-
-TEST_F(ErrorList, PassesAContactWithTheOwnCall) {
-    EXPECT_EQ(FaultsIn("CW", {Contact({.call = "OZ1AB/P", .points = 1, .mult = "OZ"})}), Lines{});
-}
-
-TEST_F(ErrorList, EndsALogAtALineWithoutACall) {
+TEST_F(ErrorListRun, EndsALogAtALineWithoutACall) {
     Log("80mCW", {Contact(Good()), "13:05", Contact({.call = "bad"})});
     const Lines section = SectionOf("80m", "CW");
     ASSERT_GE(section.size(), 3U);
@@ -306,7 +73,7 @@ TEST_F(ErrorList, EndsALogAtALineWithoutACall) {
     EXPECT_TRUE(IsFree(1));
 }
 
-TEST_F(ErrorList, LoadsTheCurrentLogAgainAndResetsTheEntry) {
+TEST_F(ErrorListRun, LoadsTheCurrentLogAgainAndResetsTheEntry) {
     // The log of the entry desk is that of 80 metres SSB.
     Log("80mSSB", {Contact(GoodSsb())});
     Log("10mCW", {Contact({.call = "VK2AA", .points = 6, .mult = "VK"})});
@@ -315,21 +82,19 @@ TEST_F(ErrorList, LoadsTheCurrentLogAgainAndResetsTheEntry) {
         frmMain->Text1[1].SetText("DL9XX");
     });
     List();
-    EXPECT_EQ(glPoint, 3);
-    EXPECT_EQ(giMult, 1);
-    EXPECT_EQ(giQSOnr, 13);
+    EXPECT_EQ(desk().log.glPoint, 3);
+    EXPECT_EQ(desk().giMult, 1);
+    EXPECT_EQ(desk().log.giQSOnr, 13);
     EXPECT_EQ(frmMain->Text1[1].Text(), "");
     EXPECT_EQ(frmMain->Text1[3].Text(), "0013");
-    std::string status;
-    LandStatusTekst("VK2AA", status);
-    EXPECT_EQ(status, "VK: Australia (OC), er nyt land.");
+    EXPECT_EQ(ShownCountry("VK2AA").text, "VK: Australia (OC), er nyt land.");
     EXPECT_TRUE(frmMain->Enabled());
     EXPECT_FALSE(frmMain->Hourglass());
     EXPECT_EQ(ActiveForm(), &*frmInfo);
     EXPECT_EQ(LinesOf("log\\FD80mSSB.txt"), Lines{Contact(GoodSsb())});
 }
 
-TEST_F(ErrorList, DisablesTheMainFormWhileItRuns) {
+TEST_F(ErrorListRun, DisablesTheMainFormWhileItRuns) {
     struct Watch : public FakeFront {
         void Refresh(Form&) override { seen.push_back(frmMain->Enabled() || !frmMain->Hourglass()); }
         std::vector<bool> seen;
@@ -340,25 +105,36 @@ TEST_F(ErrorList, DisablesTheMainFormWhileItRuns) {
     InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
 }
 
-TEST_F(ErrorList, StopsTheProgramIfItCannotBeCreated) {
+TEST_F(ErrorListRun, StopsTheProgramIfItCannotBeCreated) {
     files.FailFrom("open", 1, Failure::PathNotFound);
     Choose(frmMain->mnuFilerDanFejlliste);
     EXPECT_EQ(dialogs.failures, std::vector<int>{76});
 }
 
-TEST_F(ErrorList, StopsTheProgramIfItCannotBeWritten) {
+TEST_F(ErrorListRun, StopsTheProgramIfItCannotBeWritten) {
     files.FailFrom("write", 4, Failure::DiskFull);
     Choose(frmMain->mnuFilerDanFejlliste);
     EXPECT_EQ(dialogs.failures, std::vector<int>{61});
 }
 
-TEST_F(ErrorList, GoesOnWithTheNextLogWhenOneCannotBeRead) {
+TEST_F(ErrorListRun, GoesOnWithTheNextLogWhenOneCannotBeRead) {
     Log("80mCW", {Contact(Good()), Contact({.call = "DL2AA"})});
     files.FailFrom("read", 2, Failure::DiskNotReady);
     EXPECT_EQ(SectionOf("80m", "CW"), Lines({" ", kMissing, " "}));
     EXPECT_TRUE(ProgramRuns());
     EXPECT_TRUE(IsFree(1));
     EXPECT_EQ(Paper("Fejllist.txt").size(), 2U + 10 * 4);
+}
+
+TEST_F(ErrorListRun, LeavesTheLastContactBehindAlsoWhenItStopsTheProgram) {
+    Log("80mCW", {Contact({.call = "VK2AA", .points = 6, .mult = "VK"}), Contact({.call = "DL1AA", .points = 0, .mult = "DL"})});
+    // Head, blank line and heading are written; the first line with an error is not.
+    files.FailFrom("write", 4, Failure::DiskFull);
+    Choose(frmMain->mnuFilerDanFejlliste);
+    EXPECT_EQ(dialogs.failures, std::vector<int>{61});
+    EXPECT_EQ(desk().gsCall, "DL1AA ");
+    EXPECT_EQ(desk().giQSOPoint, 3);
+    EXPECT_EQ(desk().giMult, 2);
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ const std::string kLogNought = "       Ialt akkumuleret:                        
 /// The papers on pages of 595 by 842 points; a character is 0.6 times as wide and 1.2 times as high as its size.
 class Printing : public PaperProgram {
 protected:
-    Printing() { InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, surface, {1, 2, 3}}); }
+    Printing() { InstallPlatform(front, {dialogs, settings, files, clock, help, instance, sound, surface, {1, 2, 3}}); }
 
     /// What a menu entry prints, with place, font, size and style.
     Lines Placed(MenuItem& item) {
@@ -160,11 +160,11 @@ TEST_F(Printing, OfTheMultiplierSheetPutsTheTableOnPages) {
     for (int i = 0; i < 52; ++i) log.push_back(Contact({.mult = i < 26 ? "DL" : "G"}));
     Log("10mCW", log);
     const std::string modes = "       CW     SSB    CW     SSB    CW     SSB    CW     SSB    CW     SSB    ";
-    const std::string dl = "       DL     " + std::string(63, ' ');
+    const std::string germanRow = "       DL     " + std::string(63, ' ');
     const std::string g = "       G      " + std::string(63, ' ');
     const Lines first = Head("page 1", "Multiplier Checksheet") +
                         Lines{" ", "       10m    10m    15m    15m    20m    20m    40m    40m    80m    80m    ", modes, " "} +
-                        Times(26, dl) + Times(25, g) + Lines{Foot(1)};
+                        Times(26, germanRow) + Times(25, g) + Lines{Foot(1)};
     const Lines second = Head("page 2", "Multiplier Checksheet") +
                          Lines{" ", "       10m           15m           20m           40m           80m           ", modes, g, Foot(2)};
     EXPECT_EQ(Printed(frmMain->mnuFilerUdskrivMult), Lines{"job"} + first + second);

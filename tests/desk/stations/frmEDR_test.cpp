@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "stations/frmEDR.h"
 
-#include "frame/station.h"
+#include "frame/state.h"
 #include "running_program.h"
 #include "score/stations.h"
 
@@ -16,7 +16,7 @@ protected:
         Start();
         Mark("OZ7XY", MarkAction::Mark);
     }
-    static void Mark(std::string call, MarkAction handling) { EDRstnWkd(call, handling); }
+    static void Mark(std::string call, MarkAction handling) { desk().stations.EDRstnWkd(call, handling); }
 };
 
 TEST_F(StationWindow, KeepsThePlaceOfEveryStation) {

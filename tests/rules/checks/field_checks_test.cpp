@@ -1,68 +1,46 @@
 // SPDX-License-Identifier: MIT
 #include "checks/field_checks.h"
-#include "frame/state.h"
 
-#include "frame/band_mode.h"
-#include "running_program.h"
+#include <gtest/gtest.h>
+
+#include "codepage.h"
 
 namespace vatro {
 namespace {
 
 using namespace literals;
 
-class Checks : public RunningProgram {};
-
-TEST_F(Checks, AnOperatorOfBlanksIsNone) {
-    EXPECT_TRUE(CheckOperator("OZ1AB "));
-    for (const char* blank : {"", "      "}) {
-        dialogs.Expect("Operatørcall skal angives");
-        EXPECT_FALSE(CheckOperator(blank));
-    }
+/// The words of an objection, in UTF-8; "fine" for none.
+std::string Said(const std::optional<Objection>& objection) {
+    return objection ? ToUtf8(objection->text) : "fine";
 }
 
-TEST_F(Checks, ATimeHasFiveCharactersAndAColonInTheMiddle) {
-    Start();
-    TextBox& field = frmMain->Text1[0];
-    for (const char* typed : {"12.30", "12:30", "12 30", "12130"}) {
-        std::string time;
-        field.SetText(typed);
-        EXPECT_TRUE(CheckTime(field, time)) << typed;
-        EXPECT_EQ(field.Text(), "12:30");
-        EXPECT_EQ(time, "12:30");
-    }
+TEST(Checks, AnOperatorOfBlanksIsNone) {
+    EXPECT_EQ(Said(CheckOperator("OZ1AB ")), "fine");
+    for (const char* blank : {"", "      "}) EXPECT_EQ(Said(CheckOperator(blank)), "Operatørcall skal angives");
 }
 
-TEST_F(Checks, ATimeThatIsNoneIsToldWithThePresentTime) {
-    Start();
-    TextBox& field = frmMain->Text1[0];
-    for (const auto& [typed, left] : {std::pair{"1230", "1230"}, {"", ""}, {"25:00", "25:00"}, {"12.60", "12:60"}, {"a2:30", "a2:30"}}) {
-        std::string time;
-        field.SetText(typed);
-        dialogs.Expect("Indtast tid i formatet: 13:00");
-        EXPECT_FALSE(CheckTime(field, time)) << typed;
-        EXPECT_EQ(field.Text(), left);
-    }
+TEST(Checks, ATimeHasFiveCharactersAndAColonInTheMiddle) {
+    for (const char* typed : {"12.30", "12:30", "12 30", "12130"}) EXPECT_EQ(WithColon(typed), "12:30") << typed;
+    for (const char* typed : {"", "1230", "12:300"}) EXPECT_EQ(WithColon(typed), std::nullopt) << typed;
+    EXPECT_EQ(CheckTime("12:30"), "12:30");
+    for (const char* none : {"25:00", "12:60", "a2:30", ""}) EXPECT_EQ(CheckTime(none), std::nullopt) << none;
 }
 
-TEST_F(Checks, ACallHasThreeCharactersWithFigureAndLetter) {
-    EXPECT_TRUE(CheckCall("A1A"));
-    EXPECT_TRUE(CheckCall("1Å2"_t));
-    dialogs.Expect("Et kaldesignal skal være på mindst 3 tegn");
-    EXPECT_FALSE(CheckCall("A1"));
-    for (const auto call : {"123"_t, "ABC"_t, "1ÆØ"_t}) {
-        dialogs.Expect("Der skal være både tal og bogstaver i et kaldesignal");
-        EXPECT_FALSE(CheckCall(call));
-    }
+TEST(Checks, ACallHasThreeCharactersWithFigureAndLetter) {
+    EXPECT_EQ(Said(CheckCall("A1A")), "fine");
+    EXPECT_EQ(Said(CheckCall("1Å2"_t)), "fine");
+    EXPECT_EQ(Said(CheckCall("A1")), "Et kaldesignal skal være på mindst 3 tegn");
+    for (const auto call : {"123"_t, "ABC"_t, "1ÆØ"_t})
+        EXPECT_EQ(Said(CheckCall(call)), "Der skal være både tal og bogstaver i et kaldesignal");
 }
 
-TEST_F(Checks, ANoughtInFrontIsAskedForWithNoAsDefault) {
-    dialogs.Expect("Skal det være et nul?", Answer::Yes);
-    EXPECT_TRUE(CheckCall("0Z1AB"));
-    EXPECT_EQ(dialogs.boxes.back().title, "Første tegn i call'et er et nul."_t);
-    EXPECT_TRUE(dialogs.boxes.back().defaultNo);
-    dialogs.Expect("Skal det være et nul?", Answer::No);
-    EXPECT_FALSE(CheckCall("0Z1AB"));
-    EXPECT_TRUE(CheckCall("OZ0AB"));
+TEST(Checks, ANoughtInFrontIsAskedFor) {
+    const auto objection = CheckCall("0Z1AB");
+    EXPECT_EQ(Said(objection), "Skal det være et nul?");
+    EXPECT_TRUE(objection->isQuestion);
+    EXPECT_EQ(objection->title, "Første tegn i call'et er et nul."_t);
+    EXPECT_EQ(Said(CheckCall("OZ0AB")), "fine");
 }
 
 struct Report {
@@ -71,54 +49,43 @@ struct Report {
     const char* message;
 };
 
-class Reports : public RunningProgram, public ::testing::WithParamInterface<Report> {};
+class Reports : public ::testing::TestWithParam<Report> {};
 
 TEST_P(Reports, AreJudgedFigureByFigure) {
     const auto& [mode, text, message] = GetParam();
-    desk().gsMode = mode;
-    if (*message != 0) dialogs.Expect(message);
-    EXPECT_EQ(CheckReport(text), *message == 0);
+    EXPECT_EQ(Said(CheckReport(text, mode)), message);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Checks, Reports,
-    ::testing::Values(Report{"SSB", "59", ""}, Report{"SSB", "11", ""}, Report{"SSB", "", "Modtaget RST skal være på 2 cifre."},
+    ::testing::Values(Report{"SSB", "59", "fine"}, Report{"SSB", "11", "fine"}, Report{"SSB", "", "Modtaget RST skal være på 2 cifre."},
                       Report{"SSB", "5", "Modtaget RST skal være på 2 cifre."}, Report{"SSB", "599", "Modtaget RST skal være på 2 cifre."},
                       Report{"SSB", "09", "Første ciffer i RST skal være mellem 1 og 5."},
                       Report{"SSB", "60", "Første ciffer i RST skal være mellem 1 og 5."},
-                      Report{"SSB", "50", "Andet ciffer i RST skal være mellem 1 og 9."}, Report{"CW", "599", ""}, Report{"CW", "519", ""},
-                      Report{"CW", "111", ""}, Report{"CW", "59", "Modtaget RST skal være på 3 cifre."},
+                      Report{"SSB", "50", "Andet ciffer i RST skal være mellem 1 og 9."}, Report{"CW", "599", "fine"},
+                      Report{"CW", "519", "fine"}, Report{"CW", "111", "fine"}, Report{"CW", "59", "Modtaget RST skal være på 3 cifre."},
                       Report{"CW", "699", "Første ciffer i RST skal være mellem 1 og 5."},
                       Report{"CW", "509", "Andet ciffer i RST skal være mellem 1 og 9."},
                       Report{"CW", "500", "Andet ciffer i RST skal være mellem 1 og 9."},
                       Report{"CW", "510", "Sidste ciffer i RST skal være mellem 1 og 9."}));
 
-TEST_F(Checks, ANumberOfNoughtIsAskedForAndBecomesFourOfThem) {
-    Start();
-    TextBox& field = frmMain->Text1[5];
-    for (const char* typed : {"", "0", "0000", "AB"}) {
-        field.SetText(typed);
-        dialogs.Expect("Skal modtaget rapportnummer være nul?", Answer::No);
-        EXPECT_FALSE(CheckReceivedNumber(field));
-        EXPECT_EQ(field.Text(), typed);
-        dialogs.Expect("Skal modtaget rapportnummer være nul?", Answer::Yes);
-        EXPECT_TRUE(CheckReceivedNumber(field));
-        EXPECT_EQ(field.Text(), "0000");
+TEST(Checks, NumbersAreNumericAsAWhole) {
+    for (const char* number : {"345", "1e3", "1"}) {
+        EXPECT_EQ(Said(CheckNumberReceived(number)), "fine") << number;
+        EXPECT_EQ(Said(CheckNumberSent(number)), "fine") << number;
     }
-    EXPECT_EQ(dialogs.boxes.back().title, "Modtaget rapport");
-    EXPECT_TRUE(dialogs.boxes.back().defaultNo);
+    EXPECT_EQ(Said(CheckNumberReceived("12A")), "Modtaget rapport skal være numerisk");
+    EXPECT_EQ(Said(CheckNumberSent("")), "Sendt rapport skal være numerisk");
 }
 
-TEST_F(Checks, ANumberIsNumericAsAWhole) {
-    Start();
-    TextBox& field = frmMain->Text1[5];
-    for (const char* number : {"345", "1e3", "1"}) {
-        field.SetText(number);
-        EXPECT_TRUE(CheckReceivedNumber(field)) << number;
+TEST(Checks, ANumberReceivedOfNoughtIsAskedFor) {
+    for (const char* typed : {"", "0", "0000", "AB"}) {
+        const auto objection = CheckZeroNumber(typed);
+        EXPECT_EQ(Said(objection), "Skal modtaget rapportnummer være nul?") << typed;
+        EXPECT_TRUE(objection->isQuestion);
+        EXPECT_EQ(objection->title, "Modtaget rapport");
     }
-    field.SetText("12A");
-    dialogs.Expect("Modtaget rapport skal være numerisk");
-    EXPECT_FALSE(CheckReceivedNumber(field));
+    EXPECT_EQ(Said(CheckZeroNumber("12A")), "fine");
 }
 
 }  // namespace

@@ -11,8 +11,8 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-std::string Header(const std::string& pfx) {
-    return "Fantasia:                 14:  27:  EU:   56.00:   -10.00:    -1.0:  " + pfx + ":";
+std::string Header(const std::string& prefix) {
+    return "Fantasia:                 14:  27:  EU:   56.00:   -10.00:    -1.0:  " + prefix + ":";
 }
 
 const Texts kTwo{Header("QA"), "    QA,QA1,QA2(15),=QA5AB,=QB7XY;", Header("QB"), "    QB,=QB1AB;"};

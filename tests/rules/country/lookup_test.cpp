@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "country/lookup.h"
-#include "frame/state.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 
-#include "call/call_analysis.h"
 #include "codepage.h"
-#include "country/tables.h"
 #include "errors.h"
-#include "score/points.h"
-#include "tables/unknown.h"
 
 namespace vatro {
 namespace {
@@ -21,10 +16,6 @@ using namespace literals;
 class Lookup : public ::testing::Test {
 protected:
     void SetUp() override {
-        ResetTables();
-        desk().gbVisLand = true;
-        desk().giMult = 0;
-        desk().giQSOPoint = 0;
         // Countries in ascending order, longer prefixes before the shorter ones they begin with.
         Country("DL", "Fed. Rep. of Germany", "EU");
         Country("G", "England", "EU");
@@ -33,72 +24,74 @@ protected:
         Country("TA", "Turkey", "AS");
         Country("VP8", "Falkland Islands", "SA");
         Country("VP8/H", "South Shetland Islands", "SA");
-        for (auto [pfx, land] : {std::pair{"2E", "G"},
-                                 {"DL", "DL"},
-                                 {"GM", "GM"},
-                                 {"G", "G"},
-                                 {"K", "K"},
-                                 {"TA", "TA"},
-                                 {"VP8ADE/H", "VP8/H"},
-                                 {"VP8", "VP8"}})
-            Prefix(pfx, land);
-        IndexPrefixes();
+        for (auto [prefix, country] : {std::pair{"2E", "G"},
+                                       {"DL", "DL"},
+                                       {"GM", "GM"},
+                                       {"G", "G"},
+                                       {"K", "K"},
+                                       {"TA", "TA"},
+                                       {"VP8ADE/H", "VP8/H"},
+                                       {"VP8", "VP8"}})
+            Prefix(prefix, country);
+        tables.IndexPrefixes();
     }
-    void TearDown() override { ResetTables(); }
 
-    static void Country(std::string_view pfx, std::string_view name, std::string_view continent) {
-        LandRec& row = desk().tables.Lande[static_cast<std::size_t>(++desk().tables.giLande)];
-        row.Pfx = pfx;
+    void Country(std::string_view prefix, std::string_view name, std::string_view continent) {
+        LandRec& row = tables.Lande[static_cast<std::size_t>(++tables.giLande)];
+        row.Pfx = prefix;
         row.Navn = name;
         row.Kontinent = continent;
     }
-    static void Prefix(std::string_view pfx, std::string_view country) {
-        PfxRec& row = desk().tables.RefPfx[static_cast<std::size_t>(++desk().tables.giRefPfx)];
-        row.Pfx = pfx;
+    void Prefix(std::string_view prefix, std::string_view country) {
+        PfxRec& row = tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)];
+        row.Pfx = prefix;
         row.Land = country;
-        auto& start = desk().tables.gaPfxStart[static_cast<unsigned char>(pfx.front())];
-        if (start == 0) start = desk().tables.giRefPfx;
+        auto& start = tables.gaPfxStart[static_cast<unsigned char>(prefix.front())];
+        if (start == 0) start = tables.giRefPfx;
     }
-    static std::string Result(std::string_view call, MarkAction handling) {
-        std::string result = "left from before";
-        LandWkd(call, result, handling);
-        return result;
+    std::string Result(std::string_view call, MarkAction action) { return std::string(countries.LandWkd(call, action).resultat); }
+    std::optional<std::int32_t> PointsOf(std::string_view call, MarkAction action) { return countries.LandWkd(call, action).points; }
+    std::string Status(std::string_view call) const { return countries.LandStatusTekst(call).text; }
+    bool Unknown(std::string_view call) const { return countries.LandStatusTekst(call).unknown; }
+    int Marked() const {
+        int marked = 0;
+        for (int row = 1; row <= tables.giLande; ++row) marked += countries.Wkd(row) ? 1 : 0;
+        return marked;
     }
-    static std::string Status(std::string_view call) {
-        std::string text = "as the caller had it";
-        LandStatusTekst(call, text);
-        return text;
-    }
+
+    CountryTables tables;
+    WorkedCountries countries{tables};
 };
 
 TEST_F(Lookup, MarkingTellsTheCountryOnce) {
     EXPECT_EQ(Result("DL1ABC", MarkAction::Mark), "DL        ");
-    EXPECT_EQ(desk().giMult, 1);
+    EXPECT_EQ(Marked(), 1);
     EXPECT_EQ(Result("DL2ABC", MarkAction::Mark), "");
-    EXPECT_EQ(desk().giMult, 1);
+    EXPECT_EQ(Marked(), 1);
 }
 
 TEST_F(Lookup, TakingTheMarkAwayTellsTheCountryOnce) {
     Result("GM3ABC", MarkAction::Mark);
     EXPECT_EQ(Result("GM3ABC", MarkAction::Unmark), "GM        ");
-    EXPECT_EQ(desk().giMult, 0);
+    EXPECT_EQ(Marked(), 0);
     EXPECT_EQ(Result("GM3ABC", MarkAction::Unmark), "");
-    EXPECT_EQ(desk().giMult, 0);
+    EXPECT_EQ(Marked(), 0);
 }
 
 TEST_F(Lookup, AskingChangesNothing) {
     EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
     EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
-    EXPECT_EQ(desk().giMult, 0);
+    EXPECT_EQ(Marked(), 0);
     Result("DL1ABC", MarkAction::Mark);
     EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "");
 }
 
 TEST_F(Lookup, AnUnknownPrefixChangesNothing) {
-    desk().giQSOPoint = 77;
-    for (const MarkAction handling : {MarkAction::Mark, MarkAction::Unmark, MarkAction::Test}) EXPECT_EQ(Result("XZ9XYZ", handling), "");
-    EXPECT_EQ(desk().giMult, 0);
-    EXPECT_EQ(desk().giQSOPoint, 77);
+    for (const MarkAction action : {MarkAction::Mark, MarkAction::Unmark, MarkAction::Test}) {
+        EXPECT_EQ(Result("XZ9XYZ", action), "");
+        EXPECT_EQ(PointsOf("XZ9XYZ", action), std::nullopt);
+    }
+    EXPECT_EQ(Marked(), 0);
 }
 
 TEST_F(Lookup, AMultiplierColumnIsFoundWithItsBlanks) {
@@ -106,43 +99,31 @@ TEST_F(Lookup, AMultiplierColumnIsFoundWithItsBlanks) {
     EXPECT_EQ(Result("-DUPE-    ", MarkAction::Mark), "");
     // The text before the slash decides: the country of the shorter prefix, not the one named.
     EXPECT_EQ(Result("VP8/H     ", MarkAction::Mark), "VP8       ");
-    EXPECT_EQ(desk().giMult, 2);
+    EXPECT_EQ(Marked(), 2);
 }
 
 TEST_F(Lookup, OutsideEuropeSetsSixPointsWithEveryAction) {
-    for (const MarkAction handling : {MarkAction::Mark, MarkAction::Mark, MarkAction::Test, MarkAction::Unmark, MarkAction::Unmark}) {
-        desk().giQSOPoint = 3;
-        Result("K1ABC", handling);
-        EXPECT_EQ(desk().giQSOPoint, 6);
-    }
-    desk().giQSOPoint = 3;
-    Result("DL1ABC", MarkAction::Mark);
-    EXPECT_EQ(desk().giQSOPoint, 3);
+    for (const MarkAction action : {MarkAction::Mark, MarkAction::Mark, MarkAction::Test, MarkAction::Unmark, MarkAction::Unmark})
+        EXPECT_EQ(PointsOf("K1ABC", action), 6);
+    EXPECT_EQ(PointsOf("DL1ABC", MarkAction::Mark), std::nullopt);
 }
 
 TEST_F(Lookup, TheEuropeanAreasOfAnAsianCountryKeepTheirPoints) {
-    desk().giQSOPoint = 3;
-    Result("TA1ABC", MarkAction::Mark);
-    EXPECT_EQ(desk().giQSOPoint, 3);
-    Result("TA0ABC", MarkAction::Test);
-    EXPECT_EQ(desk().giQSOPoint, 3);
-    Result("TA2ABC", MarkAction::Test);
-    EXPECT_EQ(desk().giQSOPoint, 6);
+    EXPECT_EQ(PointsOf("TA1ABC", MarkAction::Mark), std::nullopt);
+    EXPECT_EQ(PointsOf("TA0ABC", MarkAction::Test), std::nullopt);
+    EXPECT_EQ(PointsOf("TA2ABC", MarkAction::Test), 6);
 }
 
 TEST_F(Lookup, TheEuropeanAreaIsReadFromTheCallAsGiven) {
     // The country text is TA1ABC, but the call begins TA2.
-    desk().giQSOPoint = 3;
-    Result("TA2ABC/1", MarkAction::Test);
-    EXPECT_EQ(desk().giQSOPoint, 6);
+    EXPECT_EQ(PointsOf("TA2ABC/1", MarkAction::Test), 6);
 }
 
 TEST_F(Lookup, ACallOfOneFigureCountsAsEuropean) {
     Prefix("1", "K");
-    IndexPrefixes();
-    desk().giQSOPoint = 3;
+    tables.IndexPrefixes();
     EXPECT_EQ(Result("1", MarkAction::Test), "K         ");
-    EXPECT_EQ(desk().giQSOPoint, 3);
+    EXPECT_EQ(PointsOf("1", MarkAction::Test), std::nullopt);
 }
 
 TEST_F(Lookup, TheStatusTellsNewAndWorked) {
@@ -155,8 +136,8 @@ TEST_F(Lookup, TheStatusOfAnUnknownPrefixNamesWhatWasLookedUp) {
     constexpr std::string_view told = ": er ukendt præfix. Call'et bliver gemt i filen 'ukendt.txt', hvis QSOen logges. Kør den!"_t;
     EXPECT_EQ(Status("XZ9XYZ"), "XZ9XYZ" + std::string(told));
     EXPECT_EQ(Status("K1ABC/AM"), "AM" + std::string(told));
-    EXPECT_TRUE(IsUnknown(Status("XZ9XYZ")));
-    EXPECT_FALSE(IsUnknown(Status("DL1ABC")));
+    EXPECT_TRUE(Unknown("XZ9XYZ"));
+    EXPECT_FALSE(Unknown("DL1ABC"));
 }
 
 TEST_F(Lookup, ASingleCharacterIsNotReported) {
@@ -165,10 +146,21 @@ TEST_F(Lookup, ASingleCharacterIsNotReported) {
     EXPECT_EQ(Status("G"), "G: England (EU), er nyt land.");
 }
 
-TEST_F(Lookup, SwitchedOffTheStatusIsLeftAsItWas) {
-    desk().gbVisLand = false;
-    EXPECT_EQ(Status("DL1ABC"), "as the caller had it");
-    EXPECT_EQ(Status("XZ9XYZ"), "as the caller had it");
+TEST_F(Lookup, ACountryNamedUnknownCountsAsOne) {
+    Country("ZZ", "ukendt land", "EU");
+    Prefix("ZZ", "ZZ");
+    tables.IndexPrefixes();
+    EXPECT_EQ(Status("ZZ1ABC"), "ZZ: ukendt land (EU), er nyt land.");
+    EXPECT_TRUE(Unknown("ZZ1ABC"));
+    EXPECT_TRUE(IsUnknown(tables, FindCountry(tables, "ZZ1ABC")));
+    EXPECT_FALSE(IsUnknown(tables, FindCountry(tables, "DL1ABC")));
+    EXPECT_TRUE(IsUnknown(tables, FindCountry(tables, "XZ9XYZ")));
+    EXPECT_FALSE(IsUnknown(tables, FindCountry(tables, "X"))) << "a single character is no prefix yet";
+}
+
+TEST_F(Lookup, AnEmptyCallFails) {
+    EXPECT_THROW(Result("", MarkAction::Test), RunTimeError);
+    EXPECT_THROW(Status(""), RunTimeError);
 }
 
 TEST_F(Lookup, AWholeCallOfTheTableComesBeforeItsPrefix) {
@@ -177,63 +169,60 @@ TEST_F(Lookup, AWholeCallOfTheTableComesBeforeItsPrefix) {
 }
 
 TEST_F(Lookup, EmptyTablesKnowNoCall) {
-    ResetTables();
+    tables = {};
     EXPECT_EQ(Result("DL1ABC", MarkAction::Mark), "");
-    EXPECT_TRUE(IsUnknown(Status("DL")));
+    EXPECT_TRUE(Unknown("DL"));
     EXPECT_EQ(Status("D"), "");
 }
 
 TEST_F(Lookup, ACountryNotInTheTableGivesItsNeighbour) {
     Prefix("F", "F");
     Prefix("ZL", "ZL");
-    IndexPrefixes();
+    tables.IndexPrefixes();
     EXPECT_EQ(Result("F5ABC", MarkAction::Test), "G         ");
     EXPECT_EQ(Result("ZL1ABC", MarkAction::Test), "VP8/H     ");
 }
 
-TEST_F(Lookup, ClearingTheMarksLeavesTheCountToTheCaller) {
+TEST_F(Lookup, ClearingTheMarksForgetsEveryCountry) {
     Result("DL1ABC", MarkAction::Mark);
     Result("K1ABC", MarkAction::Mark);
-    ResetLande();
-    EXPECT_EQ(desk().giMult, 2);
+    countries.ResetLande();
+    EXPECT_EQ(Marked(), 0);
     EXPECT_EQ(Result("DL1ABC", MarkAction::Test), "DL        ");
     EXPECT_EQ(Result("K1ABC", MarkAction::Test), "K         ");
 }
 
 TEST_F(Lookup, InAFullTableOnlyAWholeRowIsFound) {
-    while (desk().tables.giRefPfx < kPrefixRows) Prefix("YY", "K");
-    IndexPrefixes();
+    while (tables.giRefPfx < kPrefixRows) Prefix("YY", "K");
+    tables.IndexPrefixes();
     EXPECT_EQ(Result("YY", MarkAction::Test), "K         ");
     // Looking for the whole call comes first and has run beyond the table before the prefix is tried.
     EXPECT_THROW(Result("YY1ABC", MarkAction::Test), RunTimeError);
     EXPECT_THROW(Status("YY1ABC"), RunTimeError);
 }
 
-TEST_F(Lookup, CountNeverLeavesTheMarks) {
+TEST_F(Lookup, AnActionTakesEffectWhenItChangesAMark) {
     std::mt19937 random(7);
     const std::vector<std::string> calls{"DL1ABC", "G3ABC",    "GM3ABC", "K1ABC",     "TA1ABC",
                                          "VP8LP",  "VP8ADE/H", "XZ9XYZ", "OZ/DL1ABC", "2E0ABC/3"};
     std::uniform_int_distribution<std::size_t> call(0, calls.size() - 1);
-    std::uniform_int_distribution<int> action(0, 2);
+    std::uniform_int_distribution<int> which(0, 2);
     for (int round = 0; round < 5000; ++round) {
-        const auto handling = static_cast<MarkAction>(action(random));
-        const int before = desk().giMult;
-        const std::string result = Result(calls[call(random)], handling);
-        int marked = 0;
-        for (int row = 1; row <= desk().tables.giLande; ++row) marked += desk().tables.Lande[static_cast<std::size_t>(row)].Wkd ? 1 : 0;
-        ASSERT_EQ(desk().giMult, marked);
-        const int moved = handling == MarkAction::Mark ? 1 : handling == MarkAction::Unmark ? -1 : 0;
-        ASSERT_EQ(desk().giMult - before, result.empty() ? 0 : moved);
+        const auto action = static_cast<MarkAction>(which(random));
+        const int before = Marked();
+        const bool changed = countries.LandWkd(calls[call(random)], action).changed;
+        const int moved = action == MarkAction::Mark ? 1 : action == MarkAction::Unmark ? -1 : 0;
+        ASSERT_EQ(Marked() - before, changed ? moved : 0);
     }
 }
 
 /// The search as a scan, row by row.
-int Scanned(std::string_view s, int start, bool whole) {
-    for (int i = std::max(start, 1); i <= desk().tables.giRefPfx; ++i) {
-        const std::string_view pfx = desk().tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed();
-        if (whole ? pfx == s : s.substr(0, pfx.size()) == pfx) return i;
+std::optional<int> Scanned(const CountryTables& tables, std::string_view s, int start, bool whole) {
+    for (int i = std::max(start, 1); i <= tables.giRefPfx; ++i) {
+        const std::string_view prefix = tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed();
+        if (whole ? prefix == s : s.substr(0, prefix.size()) == prefix) return i;
     }
-    return 0;
+    return std::nullopt;
 }
 
 TEST(PrefixSearch, FindsTheRowThatAScanFinds) {
@@ -246,47 +235,41 @@ TEST(PrefixSearch, FindsTheRowThatAScanFinds) {
         return t;
     };
     for (int table = 0; table < 60; ++table) {
-        ResetTables();
+        CountryTables tables;
         const int rows = std::uniform_int_distribution<int>(0, 80)(random);
-        for (desk().tables.giRefPfx = 0; desk().tables.giRefPfx < rows;)
-            desk().tables.RefPfx[static_cast<std::size_t>(++desk().tables.giRefPfx)].Pfx = text(5);
-        IndexPrefixes();
+        for (tables.giRefPfx = 0; tables.giRefPfx < rows;) tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)].Pfx = text(5);
+        tables.IndexPrefixes();
         for (int round = 0; round < 200; ++round) {
             const std::string call = text(8);
             const int start = std::uniform_int_distribution<int>(0, rows)(random);
-            ASSERT_EQ(FindWholeCall(call, start), Scanned(call, start, true)) << call << " from " << start;
-            ASSERT_EQ(FindPrefix(call, start), Scanned(call, start, false)) << call << " from " << start;
+            ASSERT_EQ(tables.FindWholeCall(call, start), Scanned(tables, call, start, true)) << call << " from " << start;
+            ASSERT_EQ(tables.FindPrefix(call, start), Scanned(tables, call, start, false)) << call << " from " << start;
         }
     }
-    ResetTables();
 }
 
 TEST(PrefixSearch, RunsOneRowBeyondAFullTable) {
-    ResetTables();
-    for (desk().tables.giRefPfx = 0; desk().tables.giRefPfx < kPrefixRows;)
-        desk().tables.RefPfx[static_cast<std::size_t>(++desk().tables.giRefPfx)].Pfx = "DL";
-    IndexPrefixes();
-    EXPECT_EQ(FindPrefix("DL1ABC", 1), 1);
-    EXPECT_EQ(FindPrefix("DL1ABC", 6000), 6000);
-    for (const auto search : {FindWholeCall, FindPrefix}) {
+    CountryTables tables;
+    for (tables.giRefPfx = 0; tables.giRefPfx < kPrefixRows;) tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)].Pfx = "DL";
+    tables.IndexPrefixes();
+    EXPECT_EQ(tables.FindPrefix("DL1ABC", 1), 1);
+    EXPECT_EQ(tables.FindPrefix("DL1ABC", 6000), 6000);
+    for (const auto search : {&CountryTables::FindWholeCall, &CountryTables::FindPrefix}) {
         try {
-            search("XZ9XYZ", 1);
+            (tables.*search)("XZ9XYZ", 1);
             ADD_FAILURE() << "the search came to an end";
         } catch (const RunTimeError& failure) {
             EXPECT_EQ(failure.Number(), 9);
         }
     }
-    ResetTables();
 }
 
 TEST(PrefixSearch, OneRowLessThanFullFindsNothingAndIsNoFailure) {
-    ResetTables();
-    for (desk().tables.giRefPfx = 0; desk().tables.giRefPfx < kPrefixRows - 1;)
-        desk().tables.RefPfx[static_cast<std::size_t>(++desk().tables.giRefPfx)].Pfx = "DL";
-    IndexPrefixes();
-    EXPECT_EQ(FindWholeCall("XZ9XYZ", 0), 0);
-    EXPECT_EQ(FindPrefix("XZ9XYZ", 0), 0);
-    ResetTables();
+    CountryTables tables;
+    for (tables.giRefPfx = 0; tables.giRefPfx < kPrefixRows - 1;) tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)].Pfx = "DL";
+    tables.IndexPrefixes();
+    EXPECT_EQ(tables.FindWholeCall("XZ9XYZ", 0), std::nullopt);
+    EXPECT_EQ(tables.FindPrefix("XZ9XYZ", 0), std::nullopt);
 }
 
 }  // namespace

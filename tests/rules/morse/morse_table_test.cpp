@@ -39,15 +39,15 @@ const std::vector<std::pair<std::string_view, std::string_view>> kSigns{
 };
 
 TEST(MorseTable, HasTheSignsOfMorse) {
-    for (const auto& [key, sign] : kSigns) EXPECT_EQ(MorseElementer(key), Elements(sign)) << ToUtf8(key);
+    for (const auto& [key, sign] : kSigns) EXPECT_EQ(MorseElements(key), Elements(sign)) << ToUtf8(key);
 }
 
 TEST(MorseTable, PlaysTheSecondDashOfÑWithItsEndBeforeItsMiddle) {
-    EXPECT_EQ(MorseElementer("Ñ"_t), "123 132 4 123 123");
+    EXPECT_EQ(MorseElements("Ñ"_t), "123 132 4 123 123");
 }
 
 TEST(MorseTable, GivesABlankOneSilentSlot) {
-    EXPECT_EQ(MorseElementer(" "), " ");
+    EXPECT_EQ(MorseElements(" "), " ");
 }
 
 TEST(MorseTable, KnowsNoOtherCharacter) {
@@ -55,7 +55,7 @@ TEST(MorseTable, KnowsNoOtherCharacter) {
     for (const auto& [key, sign] : kSigns) known.emplace(key);
     for (int code = 0; code < 256; ++code) {
         const std::string key(1, static_cast<char>(code));
-        EXPECT_EQ(!MorseElementer(key).empty(), known.contains(key)) << code;
+        EXPECT_EQ(!MorseElements(key).empty(), known.contains(key)) << code;
     }
 }
 
@@ -65,10 +65,10 @@ TEST(MorseTable, KnowsNoOtherPair) {
     for (char first = ' '; first < 127; ++first)
         for (char second = ' '; second < 127; ++second) {
             const std::string pair{first, second};
-            EXPECT_EQ(!MorseElementer(pair).empty(), known.contains(pair)) << pair;
+            EXPECT_EQ(!MorseElements(pair).empty(), known.contains(pair)) << pair;
         }
-    EXPECT_EQ(MorseElementer(""), "");
-    EXPECT_EQ(MorseElementer("SOS"), "");
+    EXPECT_EQ(MorseElements(""), "");
+    EXPECT_EQ(MorseElements("SOS"), "");
 }
 
 }  // namespace

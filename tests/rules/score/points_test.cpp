@@ -1,45 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "score/points.h"
-#include "frame/state.h"
 
-#include "country/lookup.h"
-#include "country/tables.h"
-#include "frame/station.h"
-#include "running_program.h"
-#include "score/stations.h"
+#include <gtest/gtest.h>
 
 namespace vatro {
 namespace {
 
-class Points : public RunningProgram {
+class Points : public ::testing::Test {
 protected:
     void SetUp() override {
-        BeginProgram();
-        desk().gsFDLib = "data";
-        desk().gbVisLand = true;
-        desk().giMult = 0;
-        ResetTables();
-        files.files["DATA\\LANDE.TXT"] = {"DL        Fed. Rep. of Germany     EU -1 ", "K         United States            NA  5 ",
-                                          "OZ        Denmark                  EU -1 ", "TA        Turkey                   AS -2 "};
-        files.files["DATA\\REFPFX.TXT"] = {"DL        DL        14 28", "K         K         05 08", "OZ        OZ        14 18",
-                                           "TA        TA        20 39", "W         K         05 08"};
-        IndlæsLande();
-        IndlæsRefPfx();
-        Stations({"OZ1ABC Test, formand"});
+        CountryReader countries(tables);
+        for (const char* line : {"DL        Fed. Rep. of Germany     EU -1 ", "K         United States            NA  5 ",
+                                 "OZ        Denmark                  EU -1 ", "TA        Turkey                   AS -2 "})
+            countries.Read(line);
+        PrefixReader prefixes(tables);
+        for (const char* line : {"DL        DL        14 28", "K         K         05 08", "OZ        OZ        14 18",
+                                 "TA        TA        20 39", "W         K         05 08"})
+            prefixes.Read(line);
+        tables.IndexPrefixes();
+        List({"OZ1ABC Test, formand"});
     }
-    void TearDown() override {
-        ResetTables();
-        ClearStations();
+    void List(const std::vector<std::string>& lines) {
+        stations.BeginReading();
+        for (const std::string& line : lines) stations.Read(line);
     }
-    void Stations(std::vector<std::string> lines) {
-        files.files["DATA\\EDR.TXT"] = std::move(lines);
-        IndlæsEDR();
-    }
-    static int Of(const std::string& call) {
-        desk().giQSOPoint = 99;
-        BeregnPoint(call);
-        return desk().giQSOPoint;
-    }
+    int Of(std::string_view call) const { return BeregnPoint(call, tables, stations, shown); }
+
+    CountryTables tables;
+    Stations stations;
+    /// Whether the operator is shown the countries.
+    bool shown = true;
 };
 
 TEST_F(Points, OfDanishStationsDependOnTheList) {
@@ -86,16 +76,16 @@ TEST_F(Points, OfALongerCallAreThoseOfItsFirstSixCharacters) {
 }
 
 TEST_F(Points, OfAListedStationBeatTheContinent) {
-    Stations({"W1ABC  Test, medlem"});
+    List({"W1ABC  Test, medlem"});
     EXPECT_EQ(Of("W1ABC"), 10);
 }
 
 TEST_F(Points, OfAnUnknownPrefixAreNoneWhileCountriesAreShown) {
-    Stations({"XZ9XYZ Test, rejsende"});
+    List({"XZ9XYZ Test, rejsende"});
     EXPECT_EQ(Of("XZ9XYZ"), 0);
     EXPECT_EQ(Of("XZ9ABC"), 0);
     EXPECT_EQ(Of("OU1ABC"), 0);
-    desk().gbVisLand = false;
+    shown = false;
     EXPECT_EQ(Of("XZ9XYZ"), 10);
     EXPECT_EQ(Of("XZ9ABC"), 3);
     EXPECT_EQ(Of("XZ9ABC/P"), 5);
@@ -104,23 +94,15 @@ TEST_F(Points, OfAnUnknownPrefixAreNoneWhileCountriesAreShown) {
 
 TEST_F(Points, OfASuffixWithoutACallAreThreeAndNothingIsLookedUp) {
     // A blank line of the list would match a call of six blanks.
-    Stations({""});
+    List({""});
     for (const char* call : {"", "/3", "9/", "/QRP", "/QRP/3"}) EXPECT_EQ(Of(call), 3) << call;
     EXPECT_EQ(Of("/P"), 10);
 }
 
-TEST_F(Points, ChangeNoMarks) {
-    Of("DL1ABC");
-    Of("OZ1ABC");
-    EXPECT_EQ(desk().giMult, 0);
-    EXPECT_FALSE(desk().tables.Lande[1].Wkd);
-    EXPECT_FALSE(desk().stations.EDRstn[1].Wkd);
-}
-
-TEST_F(Points, DoNotDependOnWhatWasWorkedBefore) {
-    std::string result;
-    LandWkd("DL1ABC", result, MarkAction::Mark);
-    EXPECT_EQ(Of("DL1ABC"), 3);
+TEST_F(Points, ThatCountryAndListLeaveAreThoseOfEurope) {
+    EXPECT_EQ(EuropeanPoints("OZ7XYZ/P"), 1);
+    EXPECT_EQ(EuropeanPoints("W1ABC/P"), 5);
+    EXPECT_EQ(EuropeanPoints(""), 3);
 }
 
 TEST(Danish, AreSevenPrefixes) {

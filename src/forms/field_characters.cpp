@@ -1,30 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "field_characters.h"
 
-#include <algorithm>
 #include <string>
 
-#include "forms.h"
-
 namespace vatro {
-
-namespace {
-
-/// Whether arrows beside the field count its number.
-bool Counted(const TextControl& field) {
-    const auto& controls = field.Parent().Controls();
-    return std::any_of(controls.begin(), controls.end(), [&field](const Control* control) {
-        const auto* arrows = dynamic_cast<const UpDown*>(control);
-        return arrows != nullptr && &arrows->Buddy() == &field;
-    });
-}
-
-}  // namespace
 
 KeyCode CharacterInto(const TextControl& field, KeyCode key) {
     if (key < kSpace) return key;
     if (field.KeyFilter) field.KeyFilter(key);
-    if (Counted(field) && (key < '0' || key > '9')) return kNoKey;
+    if (field.Counted() && (key < '0' || key > '9')) return kNoKey;
     return key;
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "front.h"
+#include "qt_front.h"
 
 #include <QApplication>
 #include <QFontMetricsF>
@@ -26,12 +26,6 @@ int held = 0;
 
 bool TicksHeld() {
     return held > 0;
-}
-
-void FollowFocusSoon(Form& form) {
-    const auto* front = dynamic_cast<QtFront*>(&platform().front);
-    FormWindow* window = front != nullptr ? front->WindowOf(form) : nullptr;
-    if (window != nullptr) QTimer::singleShot(0, &window->Scope(), [window] { window->FollowFocus(); });
 }
 
 QtFront::QtFront() : waitModal([](const std::function<bool()>& over) { WaitLoop(over).Run(); }) {}
@@ -183,11 +177,6 @@ void QtFront::DoEvents() {
 double QtFront::TextWidth(std::string_view text, const Font& font) {
     const QFontMetricsF metrics(MeasureFont(ToQt(font.name), font.bold));
     return metrics.horizontalAdvance(ToQt(text)) / kMeasurePixels * font.size;
-}
-
-double QtFront::TextHeight(const Font& font) {
-    const QFontMetricsF metrics(MeasureFont(ToQt(font.name), font.bold));
-    return metrics.height() / kMeasurePixels * font.size;
 }
 
 void QtFront::Ended() {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "program.h"
+#include "started_program.h"
 
 #include <stdexcept>
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "forms.h"
+#include "form.h"
 
 #include <algorithm>
 
-#include "platform.h"
+#include "errors.h"
+#include "front.h"
 #include "program.h"
 
 namespace vatro {
@@ -32,7 +33,7 @@ void Activate(Form& form) {
     if (ActiveForm() == &form) return;
     Remove(activation, &form);
     activation.push_back(&form);
-    platform().front.Activated(form);
+    InstalledFront().Activated(form);
 }
 
 /// The form is no longer shown: the one that was active before it is it again.
@@ -40,7 +41,7 @@ void Deactivate(Form& form) {
     const bool wasActive = ActiveForm() == &form;
     Remove(activation, &form);
     Remove(modals, &form);
-    if (wasActive && ActiveForm() != nullptr) platform().front.Activated(*ActiveForm());
+    if (wasActive && ActiveForm() != nullptr) InstalledFront().Activated(*ActiveForm());
 }
 
 }  // namespace
@@ -49,7 +50,7 @@ Form::Form(std::string_view name, FormKind kind, std::string_view caption) : nam
 
 void Form::SetCaption(std::string_view caption) {
     caption_ = caption;
-    platform().front.Changed(*this);
+    InstalledFront().Changed(*this);
 }
 
 void Form::Place(int left, int top, int width, int height) {
@@ -60,24 +61,24 @@ void Form::Place(int left, int top, int width, int height) {
     top_ = top;
     width_ = width;
     height_ = height;
-    platform().front.Changed(*this);
+    InstalledFront().Changed(*this);
     if (resized) Form_Resize();
 }
 
 void Form::SetEnabled(bool enabled) {
     enabled_ = enabled;
-    platform().front.Changed(*this);
+    InstalledFront().Changed(*this);
 }
 
 void Form::SetHourglass(bool on) {
     hourglass_ = on;
-    platform().front.Changed(*this);
+    InstalledFront().Changed(*this);
 }
 
 void Form::Show() {
     if (!visible_) {
         visible_ = true;
-        platform().front.Changed(*this);
+        InstalledFront().Changed(*this);
     }
     Activate(*this);
     FocusFirst();
@@ -88,7 +89,7 @@ void Form::ShowModal() {
     modal_ = true;
     modals.push_back(this);
     Show();
-    platform().front.RunModal(*this);
+    InstalledFront().RunModal(*this);
     LeaveIfEnding();
 }
 
@@ -102,7 +103,7 @@ void Form::Hide() {
     }
     modal_ = false;
     Deactivate(*this);
-    platform().front.Changed(*this);
+    InstalledFront().Changed(*this);
 }
 
 void Form::Unload() {
@@ -114,12 +115,11 @@ void Form::Unload() {
     Form_Unload();
     // The handlers may have unloaded it themselves.
     if (slot->Peek() != this) return;
-    for (Control* control : controls_)
-        if (auto* timer = dynamic_cast<Timer*>(control)) timer->SetRunning(false);
+    for (Control* control : controls_) control->FormUnloaded();
     visible_ = false;
     modal_ = false;
     Deactivate(*this);
-    platform().front.Destroyed(*this);
+    InstalledFront().Destroyed(*this);
     Remove(loaded, this);
     unloaded.push_back(std::move(slot->form_));
 }
@@ -130,7 +130,7 @@ void Form::SetFocus() {
 }
 
 void Form::Refresh() {
-    platform().front.Refresh(*this);
+    InstalledFront().Refresh(*this);
 }
 
 Control* Form::Find(std::string_view name, int index) const {
@@ -150,7 +150,7 @@ void Form::MoveFocus(Control& control, FocusWay way) {
     active_ = &control;
     entered_ = false;
     // The focus has moved already where LostFocus shows a box.
-    platform().front.Changed(*this);
+    InstalledFront().Changed(*this);
     if (left != nullptr && owed && left->LostFocus) left->LostFocus();
     // The handler may have moved the focus elsewhere, or brought it here itself.
     if (active_ != &control || entered_) return;
@@ -190,16 +190,8 @@ void Form::UserTab(bool back) {
 }
 
 bool Form::UserDefaultKey(KeyCode key) {
-    if (key == kEnter && dynamic_cast<Button*>(active_) != nullptr) return false;
-    for (Control* control : controls_) {
-        auto* button = dynamic_cast<Button*>(control);
-        if (button == nullptr || !button->Enabled() || !button->Visible()) continue;
-        if ((key == kEnter && button->isDefault) || (key == kEsc && button->isCancel)) {
-            button->Press();
-            return true;
-        }
-    }
-    return false;
+    if (key == kEnter && active_ != nullptr && active_->KeepsEnter()) return false;
+    return std::ranges::any_of(controls_, [key](Control* control) { return control->UseDefaultKey(key); });
 }
 
 bool Form::UserAccessKey(char letter) {
@@ -229,7 +221,7 @@ void Form::UserPlaced(int left, int top, int width, int height) {
 void Form::UserState(WindowState state) {
     if (state_ == state) return;
     state_ = state;
-    platform().front.Changed(*this);
+    InstalledFront().Changed(*this);
     Form_Resize();
 }
 
@@ -250,7 +242,7 @@ void FormSlotBase::Load() {
     form_ = make_();
     Form& form = *form_;
     loaded.push_back(&form);
-    platform().front.Created(form);
+    InstalledFront().Created(form);
     form.Form_Load();
 }
 
@@ -286,7 +278,7 @@ void DropForms() {
     modals.clear();
     while (!loaded.empty()) {
         Form& form = *loaded.back();
-        platform().front.Destroyed(form);
+        InstalledFront().Destroyed(form);
         loaded.pop_back();
         FindFormSlot(form.Name())->form_.reset();
     }

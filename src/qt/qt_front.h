@@ -10,7 +10,7 @@
 #include <set>
 
 #include "forms.h"
-#include "platform.h"
+#include "front.h"
 
 class QWidget;
 
@@ -33,7 +33,6 @@ public:
     void Refresh(Form& form) override;
     void DoEvents() override;
     double TextWidth(std::string_view text, const Font& font) override;
-    double TextHeight(const Font& font) override;
     void Ended() override;
 
     /// The window of a loaded form, or nothing.
@@ -84,9 +83,6 @@ private:
     /// Shown by the program and not active since: some window systems make every new window the active one.
     std::set<const QWidget*> fresh_;
 };
-
-/// Gives the focus to the widget of the form's active control when the present event of Qt is over.
-void FollowFocusSoon(Form& form);
 
 /// Whether events wait, by which a tick of the clock must not come between the steps of a handler.
 bool TicksHeld();
