@@ -20,7 +20,6 @@
 #include "frame/state.h"
 #include "keyer/texts.h"
 #include "log/duplicates.h"
-#include "papers/weekend.h"
 #include "platform.h"
 #include "tables/worked.h"
 
@@ -129,7 +128,6 @@ void EntryForm::Form_Load() {
     mnuCW.SetEnabled(desk().gsQsoMode == "CW");
 
     if (desk().gsLogLib.empty()) mnuFilerSætLogbibliotek.Click();
-    Find1Weekend();
     IndlæsLogfil();
     LæsOperatører(Combo1, desk().gsOperatør.Padded());
     ResetQSO();

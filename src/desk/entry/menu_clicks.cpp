@@ -31,13 +31,10 @@
 #include "frame/station.h"
 #include "keyer/frmCW.h"
 #include "keyer/texts.h"
-#include "papers/adif.h"
-#include "papers/error_list.h"
-#include "papers/html_page.h"
-#include "papers/log_sheets.h"
-#include "papers/mult_check.h"
-#include "papers/printing.h"
-#include "papers/summary.h"
+#include "printing/error_list_run.h"
+#include "printing/exports.h"
+#include "printing/printer.h"
+#include "printing/sheets.h"
 #include "stations/frmEDR.h"
 #include "tables/import_country_file.h"
 #include "tables/unknown.h"
@@ -71,20 +68,20 @@ void BindPapers(FrmMain& main) {
         &main.mnuUdskriv20mSSB, &main.mnuUdskriv40mCW,  &main.mnuUdskriv40mSSB, &main.mnuUdskriv80mCW,  &main.mnuUdskriv80mSSB};
     for (std::size_t i = 0; i < kTenLogs.size(); ++i) {
         sheets[i]->Click = [log = kTenLogs[i]] { Danlog(log); };
-        print[i]->Click = [log = kTenLogs[i]] { Udskriv([&log](PageSurface& surface) { PrintLog(surface, log); }); };
+        print[i]->Click = [log = kTenLogs[i]] { RunPrintJob([&log](PageSurface& surface) { PrintLog(surface, log); }); };
     }
     main.mnuFilerDanMult.Click = DanMultCheck;
     main.mnuEfterSummary.Click = DanSummary;
-    main.mnuEfterAlt.Click = DanAlt;
-    main.mnuFilerDanFejlliste.Click = DanFejlliste;
-    main.mnuFilerDanHtml.Click = DanHtml;
-    main.mnuFilerEksportAdif.Click = EksporterAdif;
+    main.mnuEfterAlt.Click = MakeAllPapers;
+    main.mnuFilerDanFejlliste.Click = MakeErrorList;
+    main.mnuFilerDanHtml.Click = MakeHtmlPage;
+    main.mnuFilerEksportAdif.Click = ExportAdif;
 
-    main.mnuFilePageSetup.Click = VælgPrinter;
-    main.mnuUdskrivUkendt.Click = [] { Udskriv(PrintUkendt); };
-    main.mnuFilerUdskrivMult.Click = [] { Udskriv(PrintMultCheck); };
-    main.mnuUdskrivSummary.Click = [] { Udskriv(PrintSummary); };
-    main.mnuUdskrivAlt.Click = [] { Udskriv(PrintAlt); };
+    main.mnuFilePageSetup.Click = ChoosePrinter;
+    main.mnuUdskrivUkendt.Click = [] { RunPrintJob(PrintUkendt); };
+    main.mnuFilerUdskrivMult.Click = [] { RunPrintJob(PrintMultCheck); };
+    main.mnuUdskrivSummary.Click = [] { RunPrintJob(PrintSummary); };
+    main.mnuUdskrivAlt.Click = [] { RunPrintJob(PrintAll); };
 }
 
 }  // namespace

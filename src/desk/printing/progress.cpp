@@ -7,13 +7,13 @@
 
 namespace vatro {
 
-void VisForløb(std::string_view titel) {
-    frmInfo->SetCaption(titel);
+void ShowProgress(std::string_view title) {
+    frmInfo->SetCaption(title);
     frmInfo->Show();
 }
 
-void TilføjForløb(std::string_view trin) {
-    frmInfo->List1.AddItem(std::string(trin));
+void AddProgress(std::string_view step) {
+    frmInfo->List1.AddItem(std::string(step));
     frmInfo->Refresh();
 }
 

@@ -8,8 +8,8 @@
 namespace vatro {
 
 /// Shows the window under this title.
-void VisForløb(std::string_view titel);
+void ShowProgress(std::string_view title);
 /// Adds a step to its list and paints it.
-void TilføjForløb(std::string_view trin);
+void AddProgress(std::string_view step);
 
 }  // namespace vatro

@@ -8,7 +8,7 @@
 #include "country/import.h"
 #include "entry/frmMain.h"
 #include "entry/next_contact.h"
-#include "frame/file_lines.h"
+#include "file_lines.h"
 #include "frame/log_file.h"
 #include "frame/state.h"
 #include "frame/station.h"

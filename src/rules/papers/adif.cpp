@@ -1,118 +1,99 @@
 // SPDX-License-Identifier: MIT
 #include "papers/adif.h"
 
+#include <utility>
+
 #include "codepage.h"
 #include "datetime.h"
-#include "frame/band_mode.h"
 #include "log/contact_line.h"
-#include "papers/layout.h"
-#include "papers/weekend.h"
-#include "platform.h"
-#include "printing/progress.h"
 
 namespace vatro {
 
 namespace {
 
-constexpr std::string_view kLinjeskift = "\r\n";
+constexpr std::string_view kLineEnd = "\r\n";
 
-void TilføjToCifre(std::string& post, int tal) {
-    post += static_cast<char>('0' + tal / 10);
-    post += static_cast<char>('0' + tal % 10);
-}
+/// A record as it grows.
+class Record {
+public:
+    Record() { text_.reserve(kUsualLength); }
 
-/// `værdi` has at most as many characters as the widest field of a line.
-void TilføjFelt(std::string& post, std::string_view mærke, std::string_view værdi) {
-    const int længde = static_cast<int>(værdi.size());
-    post.append(mærke);
-    if (længde < 10)
-        post += static_cast<char>('0' + længde);
-    else
-        TilføjToCifre(post, længde);
-    post += '>';
-    post.append(værdi).append(kLinjeskift);
-}
+    /// A date that is none adds nothing.
+    void AddDate(std::string_view date) {
+        const auto day = ParseDate(date);
+        if (!day) return;
+        text_.append("<QSO_DATE:8:d>");
+        for (const int number : {day->year / 100, day->year % 100, day->month, day->day}) AddTwoDigits(number);
+        text_.append(kLineEnd);
+    }
 
-void TilføjDato(std::string& post, std::string_view dato) {
-    const auto dag = ParseDate(dato);
-    if (!dag) return;
-    post.append("<QSO_DATE:8:d>");
-    for (const int tal : {dag->year / 100, dag->year % 100, dag->month, dag->day}) TilføjToCifre(post, tal);
-    post.append(kLinjeskift);
-}
+    /// The time of a contact line; one that is none adds nothing.
+    void AddTime(std::string_view line) {
+        const auto timeOfDay = ParseTime(std::string(Columns(line, 1, 2)).append(1, ':').append(Columns(line, 4, 2)));
+        if (!timeOfDay) return;
+        text_.append("<TIME_ON:4>");
+        AddTwoDigits(timeOfDay->hour);
+        AddTwoDigits(timeOfDay->minute);
+        text_.append(kLineEnd);
+    }
 
-void TilføjTid(std::string& post, std::string_view linje) {
-    const auto klokken = ParseTime(std::string(Columns(linje, 1, 2)).append(1, ':').append(Columns(linje, 4, 2)));
-    if (!klokken) return;
-    post.append("<TIME_ON:4>");
-    TilføjToCifre(post, klokken->hour);
-    TilføjToCifre(post, klokken->minute);
-    post.append(kLinjeskift);
-}
+    /// `value` has at most as many characters as the widest field of a line.
+    void AddField(std::string_view tag, std::string_view value) {
+        const int length = static_cast<int>(value.size());
+        text_.append(tag);
+        if (length < 10)
+            text_ += static_cast<char>('0' + length);
+        else
+            AddTwoDigits(length);
+        text_ += '>';
+        text_.append(value).append(kLineEnd);
+    }
 
-void EksporterAlle() {
-    ÅbnPapir("vatro" + Årstal() + ".adi");
-    Skriv("Genereret af QQ9ZZZ's Logprogram (RT60)<EOH>\r\n");
-    VisForløb("Dan ADIF");
-    for (const LogId& log : kPapirOrden) DanAdif(log);
-    platform().files.Close(kPapirFil);
-}
+    std::string End() && {
+        text_.append("<EOR>").append(kLineEnd);
+        return std::move(text_);
+    }
+
+private:
+    /// Of the longest record, and of the line end that separates it from the next one.
+    static constexpr std::size_t kUsualLength = 300;
+
+    void AddTwoDigits(int number) {
+        text_ += static_cast<char>('0' + number / 10);
+        text_ += static_cast<char>('0' + number % 10);
+    }
+
+    std::string text_;
+};
 
 }  // namespace
 
-void EksporterAdif() {
-    try {
-        EksporterAlle();
-    } catch (const RunTimeError& fejl) {
-        if (fejl.Which() == Failure::PathNotFound) TjekLogLib();
+void WriteAdifHead(LineSink& file) {
+    file.Write("Genereret af QQ9ZZZ's Logprogram (RT60)<EOH>\r\n");
+}
+
+void DanAdifKrop(LineSource& lines, LineSink& file, const LogId& log) {
+    while (!lines.AtEnd()) {
+        const std::string line = lines.Next();
+        if (!IsNoteLine(line)) file.Write(AdifRecord(line, log.band).append(kLineEnd));
     }
 }
 
-void DanAdif(const LogId& log) {
-    Find1Weekend();
-    TilføjForløb(BåndOgMode(log.band, log.mode));
-    try {
-        ÅbnLog(log);
-    } catch (const RunTimeError&) {
-        return;
-    }
-    try {
-        DanAdifKrop(log);
-    } catch (const RunTimeError&) {
-        // The next contact needs the number.
-        platform().files.Close(kLogFil);
-        throw;
-    }
-    platform().files.Close(kLogFil);
-}
-
-void DanAdifKrop(const LogId& log) {
-    Files& filer = platform().files;
-    std::string post;
-    while (!filer.EndOfFile(kLogFil)) {
-        const std::string linje = filer.LineInput(kLogFil);
-        if (ErNotelinje(linje)) continue;
-        post.clear();
-        TilføjPost(post, linje, log.band);
-        post.append(kLinjeskift);
-        Skriv(post);
-    }
-}
-
-void TilføjPost(std::string& post, std::string_view linje, std::string_view bånd) {
-    TilføjDato(post, kDate.Of(linje));
-    TilføjTid(post, linje);
-    TilføjFelt(post, "<BAND:", UpperText(bånd));
-    TilføjFelt(post, "<MODE:", kQsoMode.TrimmedOf(linje));
-    TilføjFelt(post, "<CALL:", kCall.TrimmedOf(linje));
-    TilføjFelt(post, "<RST_SENT:", kReportSent.TrimmedOf(linje));
-    TilføjFelt(post, "<SRL_SENT:", kNumberSent.TrimmedOf(linje));
-    TilføjFelt(post, "<RST_RCVD:", kReportReceived.TrimmedOf(linje));
-    TilføjFelt(post, "<SRL_RCVD:", kNumberReceived.TrimmedOf(linje));
-    TilføjFelt(post, "<POINTS:", kPoint.TrimmedOf(linje));
-    TilføjFelt(post, "<MULT:", kMultiplier.TrimmedOf(linje));
-    TilføjFelt(post, "<OPERATOR:", kOperatorAsRead.TrimmedOf(linje));
-    post.append("<EOR>").append(kLinjeskift);
+std::string AdifRecord(std::string_view line, std::string_view band) {
+    Record record;
+    record.AddDate(kDate.Of(line));
+    record.AddTime(line);
+    record.AddField("<BAND:", UpperText(band));
+    record.AddField("<MODE:", kQsoMode.TrimmedOf(line));
+    record.AddField("<CALL:", kCall.TrimmedOf(line));
+    record.AddField("<RST_SENT:", kReportSent.TrimmedOf(line));
+    record.AddField("<SRL_SENT:", kNumberSent.TrimmedOf(line));
+    record.AddField("<RST_RCVD:", kReportReceived.TrimmedOf(line));
+    record.AddField("<SRL_RCVD:", kNumberReceived.TrimmedOf(line));
+    record.AddField("<POINTS:", kPoint.TrimmedOf(line));
+    record.AddField("<MULT:", kMultiplier.TrimmedOf(line));
+    record.AddField("<OPERATOR:", kOperatorAsRead.TrimmedOf(line));
+    return std::move(record).End();
 }
 
 }  // namespace vatro

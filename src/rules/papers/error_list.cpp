@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "papers/error_list.h"
-#include "frame/state.h"
 
 #include <memory_resource>
 #include <unordered_set>
@@ -9,54 +8,44 @@
 #include "checks/field_checks.h"
 #include "columns.h"
 #include "datetime.h"
-#include "entry/frmMain.h"
-#include "entry/next_contact.h"
-#include "frame/log_file.h"
-#include "frame/station.h"
 #include "log/contact_line.h"
 #include "numbers.h"
 #include "papers/layout.h"
-#include "papers/weekend.h"
-#include "platform.h"
-#include "printing/frmInfo.h"
-#include "printing/progress.h"
 #include "score/points.h"
-#include "score/stations.h"
-#include "tables/worked.h"
 
 namespace vatro {
 
 namespace {
 
 /// Calls seen in a log are texts of ten characters, cut or filled up with blanks: a longer call is never found again.
-constexpr std::size_t kHusketCall = 10;
+constexpr std::size_t kRememberedCall = 10;
 
-void SkrivFejl(std::string_view besked) {
-    Skriv(std::string(kIndryk).append("- ").append(besked));
+void WriteError(LineSink& list, std::string_view message) {
+    list.Write(std::string(kIndent).append("- ").append(message));
 }
 
 /// Whether a figure of a report lies between 1 and this one. A figure that is missing counts as good.
-bool GodtCiffer(std::string_view rst, std::size_t nr, char højeste) {
-    return rst.size() < nr || (rst[nr - 1] >= '1' && rst[nr - 1] <= højeste);
+bool IsGoodDigit(std::string_view report, std::size_t number, char highest) {
+    return report.size() < number || (report[number - 1] >= '1' && report[number - 1] <= highest);
 }
 
-struct RapportBeskeder {
-    std::string_view treCifre;
-    std::string_view toCifre;
-    std::string_view første;
-    std::string_view andet;
-    std::string_view sidste;
+struct ReportMessages {
+    std::string_view threeDigits;
+    std::string_view twoDigits;
+    std::string_view first;
+    std::string_view second;
+    std::string_view last;
 };
-constexpr RapportBeskeder kSendt{
+constexpr ReportMessages kSent{
     "Sendt RST skal være på 3 cifre."_t, "Sendt RST skal være på 2 cifre."_t, "Første ciffer i sendt sendt RST skal være mellem 1 og 5."_t,
     "Andet ciffer i sendt RST skal være mellem 1 og 9."_t, "Sidste ciffer i sendt RST skal være mellem 1 og 9."_t};
-constexpr RapportBeskeder kModtaget{"Modtaget RST skal være på 3 cifre."_t, "Modtaget RST skal være på 2 cifre."_t,
-                                    "Første ciffer i modtaget RST skal være mellem 1 og 5."_t,
-                                    "Andet ciffer i modtaget RST skal være mellem 1 og 9."_t,
-                                    "Sidste ciffer i modtaget RST skal være mellem 1 og 9."_t};
+constexpr ReportMessages kReceived{"Modtaget RST skal være på 3 cifre."_t, "Modtaget RST skal være på 2 cifre."_t,
+                                   "Første ciffer i modtaget RST skal være mellem 1 og 5."_t,
+                                   "Andet ciffer i modtaget RST skal være mellem 1 og 9."_t,
+                                   "Sidste ciffer i modtaget RST skal være mellem 1 og 9."_t};
 
-std::string_view PointBesked(std::int32_t point) {
-    switch (point) {
+std::string_view PointsMessage(std::int32_t points) {
+    switch (points) {
         case 10:
             return "EDR station giver 10 point.";
         case 1:
@@ -70,201 +59,180 @@ std::string_view PointBesked(std::int32_t point) {
     }
 }
 
-/// The rules, in their order, each without regard to the others.
-class Kontrol {
+}  // namespace
+
+/// The check of one log: the rules, in their order, each without regard to the others.
+class ErrorList::Check {
 public:
-    explicit Kontrol(std::string_view logMode) : cw_(logMode == "CW"), ssb_(logMode == "SSB") {}
+    Check(ErrorList& of, LineSink& list, const DateTime& now, std::string_view logMode)
+        : countries_(of.countries_), stations_(of.stations_), left_(of.left_), list_(list), now_(now), cw_(logMode == "CW"),
+          ssb_(logMode == "SSB") {
+        countries_.ResetLande();
+        stations_.ResetEDR();
+        left_.giMult = 0;
+    }
 
     /// Checks a contact line. Gives whether it has an error. Fails with 5 if it has no call, behind the errors found so far.
-    bool Tjek(std::string_view linje) {
-        linje_ = linje;
-        vist_ = false;
-        TjekTidspunkt();
-        TjekCall();
-        TjekRapport(kReportSent.TrimmedOf(linje_), kSendt);
-        if (!IsNumeric(kNumberSent.TrimmedOf(linje_))) Fejl("Sendt QSOnr skal være numerisk."_t);
-        TjekRapport(kReportReceived.TrimmedOf(linje_), kModtaget);
-        TjekRapportSomNummer(kReportReceived.TrimmedOf(linje_));
-        TjekPoint();
-        TjekMultiplier();
-        TjekResten();
-        return vist_;
+    bool HasError(std::string_view line) {
+        line_ = line;
+        shown_ = false;
+        CheckTime();
+        CheckCall();
+        CheckReport(kReportSent.TrimmedOf(line_), kSent);
+        if (!IsNumeric(kNumberSent.TrimmedOf(line_))) Complain("Sendt QSOnr skal være numerisk."_t);
+        CheckReport(kReportReceived.TrimmedOf(line_), kReceived);
+        CheckReportAsNumber(kReportReceived.TrimmedOf(line_));
+        CheckPoints();
+        CheckMultiplier();
+        CheckRest();
+        return shown_;
     }
 
 private:
-    void Fejl(std::string_view besked) {
-        DanFejlQSO(linje_, vist_);
-        SkrivFejl(besked);
+    void Complain(std::string_view message) {
+        shown_ = DanFejlQSO(list_, line_, shown_);
+        WriteError(list_, message);
     }
 
-    void TjekTidspunkt() {
-        std::string tid(kTime.TrimmedOf(linje_));
-        ValiderTid(tid);
-        if (!tid.empty()) Fejl(tid);
+    void CheckTime() {
+        if (const auto message = ValiderTid(kTime.TrimmedOf(line_), now_)) Complain(*message);
     }
 
-    void TjekCall() {
-        desk().gsCall = StripCall(kCall.TrimmedOf(linje_));
-        if (desk().gsCall.size() < 3) Fejl("Et kaldesignal skal være på mindst 3 tegn."_t);
-        if (!HasDigitsAndLetters(desk().gsCall)) Fejl("Der skal være både tal og bogstaver i et kaldesignal."_t);
-        if (desk().gsCall.starts_with('0')) Fejl("Første tegn i call'et er et nul."_t);
-        const bool husket = !sete_.insert(LeftAligned(desk().gsCall, kHusketCall)).second;
-        dublet_ = husket && desk().gsCall.size() <= kHusketCall;
-        if (dublet_) Fejl(desk().gsCall + " er en dublet!");
+    void CheckCall() {
+        const std::string call = StripCall(kCall.TrimmedOf(line_));
+        left_.gsCall = call;
+        if (call.size() < 3) Complain("Et kaldesignal skal være på mindst 3 tegn."_t);
+        if (!HasDigitsAndLetters(call)) Complain("Der skal være både tal og bogstaver i et kaldesignal."_t);
+        if (call.starts_with('0')) Complain("Første tegn i call'et er et nul."_t);
+        const bool remembered = !seen_.insert(LeftAligned(call, kRememberedCall)).second;
+        duplicate_ = remembered && call.size() <= kRememberedCall;
+        if (duplicate_) Complain(call + " er en dublet!");
     }
 
-    void TjekRapport(std::string_view rst, const RapportBeskeder& beskeder) {
-        if (cw_ && rst.size() != 3) Fejl(beskeder.treCifre);
-        if (!cw_ && rst.size() != 2) Fejl(beskeder.toCifre);
-        if (!GodtCiffer(rst, 1, '5')) Fejl(beskeder.første);
-        if (!GodtCiffer(rst, 2, '9')) Fejl(beskeder.andet);
-        if (cw_ && !GodtCiffer(rst, 3, '9')) Fejl(beskeder.sidste);
+    void CheckReport(std::string_view report, const ReportMessages& messages) {
+        if (cw_ && report.size() != 3) Complain(messages.threeDigits);
+        if (!cw_ && report.size() != 2) Complain(messages.twoDigits);
+        if (!IsGoodDigit(report, 1, '5')) Complain(messages.first);
+        if (!IsGoodDigit(report, 2, '9')) Complain(messages.second);
+        if (cw_ && !IsGoodDigit(report, 3, '9')) Complain(messages.last);
     }
 
-    /// The messages tell of the received number, but the report is tested once more: meant so.
-    void TjekRapportSomNummer(std::string_view rst) {
-        if (NumericValue(rst) == 0) Fejl("Modtaget QSOnr er nul.");
-        if (!IsNumeric(rst)) Fejl("Modtaget QSOnr skal være numerisk."_t);
+    /// The messages tell of the received number, but the report is tested once more.
+    void CheckReportAsNumber(std::string_view report) {
+        if (NumericValue(report) == 0) Complain("Modtaget QSOnr er nul.");
+        if (!IsNumeric(report)) Complain("Modtaget QSOnr skal være numerisk."_t);
     }
 
-    void TjekPoint() {
-        const std::string_view call = kCall.TrimmedOf(linje_);
-        desk().giQSOPoint = 3;
-        if (ErDansk(call))
-            desk().giQSOPoint = 1;
-        else if (call.ends_with("/P"))
-            desk().giQSOPoint = 5;
-        nytLand_ = NoteCountry(call, MarkAction::Mark);
-        const double point = NumericValue(kPoint.TrimmedOf(linje_));
-        if (dublet_) {
-            if (point != 0) Fejl("Dublet station giver 0 point.");
+    void CheckPoints() {
+        const std::string_view call = kCall.TrimmedOf(line_);
+        std::int32_t& worth = left_.giQSOPoint.emplace(EuropeanPoints(call));
+        const WorkedCountries::Result country = countries_.LandWkd(call, MarkAction::Mark);
+        newMultiplier_ = Trim(country.resultat);
+        if (country.changed) ++*left_.giMult;
+        worth = country.points.value_or(worth);
+        const double points = NumericValue(kPoint.TrimmedOf(line_));
+        if (duplicate_) {
+            if (points != 0) Complain("Dublet station giver 0 point.");
             return;
         }
-        NoteStation(desk().gsCall, MarkAction::Mark);
-        desk().gsCall = StationCall(desk().gsCall);
-        if (point != desk().giQSOPoint) Fejl(PointBesked(desk().giQSOPoint));
+        worth = stations_.EDRstnWkd(*left_.gsCall, MarkAction::Mark).value_or(worth);
+        left_.gsCall = StationCall(*left_.gsCall);
+        if (points != worth) Complain(PointsMessage(worth));
     }
 
-    void TjekMultiplier() {
-        const std::string_view mult = kMultiplier.TrimmedOf(linje_);
-        const std::string_view nyt = Trim(nytLand_);
-        if (mult == nyt || mult == kDupeMark) return;
-        if (nyt.empty())
-            Fejl(std::string("QSO er ikke første qso for land: "_t)
-                     .append(mult)
-                     .append(". Flyt markeringen til den første QSO for landet."_t));
+    void CheckMultiplier() {
+        const std::string_view multiplier = kMultiplier.TrimmedOf(line_);
+        if (multiplier == newMultiplier_ || multiplier == kDupeMark) return;
+        if (newMultiplier_.empty())
+            Complain(std::string("QSO er ikke første qso for land: "_t)
+                         .append(multiplier)
+                         .append(". Flyt markeringen til den første QSO for landet."_t));
         else
-            Fejl(std::string("QSO er første multiplier for land: "_t).append(nyt).append(", men er ikke markeret."));
+            Complain(std::string("QSO er første multiplier for land: "_t).append(newMultiplier_).append(", men er ikke markeret."));
     }
 
-    void TjekResten() {
-        if (kOperatorAsRead.TrimmedOf(linje_).empty()) Fejl("Operatør skal udfyldes."_t);
-        const std::string_view mode = kQsoMode.TrimmedOf(linje_);
-        if (ssb_ && mode != "SSB") Fejl("Mode skal være SSB i SSB-log."_t);
+    void CheckRest() {
+        if (kOperatorAsRead.TrimmedOf(line_).empty()) Complain("Operatør skal udfyldes."_t);
+        const std::string_view mode = kQsoMode.TrimmedOf(line_);
+        if (ssb_ && mode != "SSB") Complain("Mode skal være SSB i SSB-log."_t);
         if (cw_ && mode != "PSK31" && mode != "CW" && mode != "RTTY" && mode != "HELL")
-            Fejl("Mode skal være CW, PSK31, RTTY eller HELL i CW-log."_t);
-        if (!GyldigDato(kDate.TrimmedOf(linje_))) Fejl("Dato skal være i formatet dd-mm-åå."_t);
+            Complain("Mode skal være CW, PSK31, RTTY eller HELL i CW-log."_t);
+        if (!GyldigDato(kDate.TrimmedOf(line_))) Complain("Dato skal være i formatet dd-mm-åå."_t);
     }
 
+    WorkedCountries& countries_;
+    Stations& stations_;
+    Leftovers& left_;
+    LineSink& list_;
+    DateTime now_;
     bool cw_;
     bool ssb_;
     /// The calls so far, one behind the other in memory: a log has thousands, and all of them go at once.
-    std::pmr::monotonic_buffer_resource lager_;
-    std::pmr::unordered_set<std::string> sete_{&lager_};
-    std::string_view linje_;
+    std::pmr::monotonic_buffer_resource memory_;
+    std::pmr::unordered_set<std::string> seen_{&memory_};
+    std::string_view line_;
     /// The line has been shown above its first error.
-    bool vist_ = false;
+    bool shown_ = false;
     /// It holds a call that an earlier line has.
-    bool dublet_ = false;
+    bool duplicate_ = false;
     /// The multiplier that the contact is by the tables, or nothing.
-    std::string nytLand_;
+    std::string_view newMultiplier_;
 };
 
-}  // namespace
-
-void DanFejlliste() {
-    frmMain->SetHourglass(true);
-    frmMain->SetEnabled(false);
-    VisForløb("Dan fejlliste");
-    ÅbnPapir("Fejllist.txt");
-    Skriv(Indrykket("Vatro fejlliste for " + desk().gsMyCall + ". Dannet d. " + FormatDate(platform().clock.Now(), "dd.mm.yyyy")));
-    SkrivBlank();
-    for (const LogId& log : kPapirOrden) DanFejlList(log);
-    platform().files.Close(kPapirFil);
-
-    IndlæsLogfil();
-    frmMain->SetEnabled(true);
-    ResetQSO();
-    frmInfo->Show();
-    frmMain->SetHourglass(false);
+void WriteErrorListHead(LineSink& list, const PaperContext& context) {
+    list.Write(Indented("Vatro fejlliste for " + context.call + ". Dannet d. " + FormatDate(context.now, "dd.mm.yyyy")));
+    WriteBlank(list);
 }
 
-void DanFejlList(const LogId& log) {
-    Find1Weekend();
-    TilføjForløb(BåndOgMode(log.band, log.mode));
-    DanFejlListHoved(log);
-    try {
-        ÅbnLog(log);
-        DanFejlListKrop(log);
-        SkrivBlank();
-        platform().files.Close(kLogFil);
-    } catch (const RunTimeError&) {
-        SkrivBlank();
-        SkrivFejl("Log ikke fundet.");
-        SkrivBlank();
-        platform().files.Close(kLogFil);
-    }
+void DanFejlListHoved(LineSink& list, const LogId& log) {
+    list.Write(Indented("================================   " + BandAndMode(log.band, LeftAligned(log.mode, 3)) +
+                        "   =================================="));
 }
 
-void DanFejlListHoved(const LogId& log) {
-    Skriv(Indrykket("================================   " + BåndOgMode(log.band, LeftAligned(log.mode, 3)) +
-                    "   =================================="));
-}
-
-void DanFejlListKrop(const LogId& log) {
-    Files& filer = platform().files;
-    desk().countries.ResetLande();
-    desk().stations.ResetEDR();
-    Kontrol kontrol(log.mode);
+void ErrorList::DanFejlListKrop(LineSource& lines, LineSink& list, const PaperContext& context, const LogId& log) {
+    Check check(*this, list, context.now, log.mode);
     bool FileHasErrors = false;
     do {
-        const std::string linje = filer.LineInput(kLogFil);
-        if (ErNotelinje(linje)) {
-            SkrivBlank();
-            Skriv(Indrykket(linje));
-        } else if (kontrol.Tjek(linje)) {
+        const std::string line = lines.Next();
+        if (IsNoteLine(line)) {
+            WriteBlank(list);
+            list.Write(Indented(line));
+        } else if (check.HasError(line)) {
             FileHasErrors = true;
         }
-    } while (!filer.EndOfFile(kLogFil));
+    } while (!lines.AtEnd());
     if (FileHasErrors) return;
-    SkrivBlank();
-    SkrivFejl("Der er ikke fundet fejl i denne log.");
+    WriteBlank(list);
+    WriteError(list, "Der er ikke fundet fejl i denne log.");
 }
 
-void DanFejlQSO(std::string_view linje, bool& QSOShown) {
-    if (QSOShown) return;
-    SkrivBlank();
-    Skriv(Indrykket(kKolonner));
-    Skriv(Kontaktrække(linje));
-    SkrivBlank();
-    QSOShown = true;
+void WriteLogNotFound(LineSink& list) {
+    WriteBlank(list);
+    WriteError(list, "Log ikke fundet.");
+    WriteBlank(list);
 }
 
-void ValiderTid(std::string& tekst) {
-    constexpr std::size_t kLængde = 5;
-    if (tekst.size() == kLængde) {
-        tekst[2] = ':';
-        if (ParseTime(tekst)) {
-            tekst.clear();
-            return;
-        }
+bool DanFejlQSO(LineSink& list, std::string_view line, bool QSOShown) {
+    if (QSOShown) return true;
+    WriteBlank(list);
+    list.Write(Indented(kColumnNames));
+    list.Write(ContactRow(line));
+    WriteBlank(list);
+    return true;
+}
+
+std::optional<std::string> ValiderTid(std::string_view text, const DateTime& now) {
+    constexpr std::size_t kLength = 5;
+    if (text.size() == kLength) {
+        std::string time(text);
+        time[2] = ':';
+        if (ParseTime(time)) return std::nullopt;
     }
-    const DateTime nu = platform().clock.Now();
-    tekst = std::string("Fejl i tidspunkt. Tidspunkt skal angives som: '").append(FormatTime(nu.hour, nu.minute)).append("'.");
+    return std::string("Fejl i tidspunkt. Tidspunkt skal angives som: '").append(FormatTime(now.hour, now.minute)).append("'.");
 }
 
-bool GyldigDato(std::string_view tekst) {
-    return ParseDate(tekst).has_value();
+bool GyldigDato(std::string_view text) {
+    return ParseDate(text).has_value();
 }
 
 }  // namespace vatro

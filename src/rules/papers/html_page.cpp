@@ -1,129 +1,105 @@
 // SPDX-License-Identifier: MIT
 #include "papers/html_page.h"
-#include "frame/state.h"
 
 #include <string>
 
 #include "columns.h"
-#include "frame/station.h"
 #include "numbers.h"
 #include "papers/layout.h"
-#include "papers/summary.h"
-#include "papers/weekend.h"
-#include "platform.h"
-#include "printing/progress.h"
 
 namespace vatro {
 
 namespace {
 
 /// Behind the comma and the first letter of the first operator.
-constexpr std::size_t kOperatørerFra = 3;
+constexpr std::size_t kOperatorsFrom = 3;
 
-std::string Anker(const LogId& log) {
+std::string Anchor(const LogId& log) {
     return std::string(log.band).append(log.mode);
 }
 
 /// A number with one blank, or its sign, before it and one blank behind.
-std::string FriForm(std::int32_t tal) {
-    return NumberText(tal) + " ";
+std::string FreeForm(std::int32_t number) {
+    return NumberText(number) + " ";
 }
 
-std::string Celle(std::int32_t tal) {
-    return "<TD>" + FriForm(tal);
+std::string Cell(std::int32_t number) {
+    return "<TD>" + FreeForm(number);
 }
 
-std::string Celler(std::int32_t QSOs, const LogSum& sum) {
-    return Celle(QSOs) + Celle(sum.Mults) + Celle(sum.Points) + Celle(sum.Score);
+std::string Cells(std::int32_t QSOs, const LogSum& sum) {
+    return Cell(QSOs) + Cell(sum.Mults) + Cell(sum.Points) + Cell(sum.Score);
 }
 
-void SkrivTop() {
-    const std::string titel = LogTitel();
-    Skriv("<html>");
-    Skriv("<head><title>" + titel + "</title></head>");
-    Skriv("<body>");
-    Skriv(std::string("<a name=\"Top\"></a><h1 align=\"Center\">(foreløbig) "_t) + titel + "</h1>");
-    std::string links = "<p>";
-    for (const LogId& log : kTenLogs) links += "<a href=\"#" + Anker(log) + "\">" + BåndOgMode(log.band, log.mode) + "</a>, ";
-    Skriv(links + "<a href=\"#Summary\">Summary</a></p>");
-}
-
-void SkrivBåndsum(const Sammentælling& alt, std::size_t båndNr) {
-    const std::string meter(Trim(kTenLogs[2 * båndNr].band.substr(0, 2)));
-    Skriv("<TR ALIGN=\"Center\"><TD ROWSPAN=\"2\">" + meter + " Meter<TD>CW  " + Celler(alt.CW(båndNr).QSOs, alt.CW(båndNr)) +
-          "<TD ROWSPAN=\"2\">" + FriForm(alt.band[båndNr].Score) + "<BR>");
-    Skriv("<TR ALIGN=\"Center\">                          <TD>SSB " + Celler(alt.SSB(båndNr).QSOs, alt.SSB(båndNr)));
+void WriteBandSum(LineSink& page, const Tally& tally, std::size_t bandNumber) {
+    const std::string metres(Trim(kTenLogs[2 * bandNumber].band.substr(0, 2)));
+    page.Write("<TR ALIGN=\"Center\"><TD ROWSPAN=\"2\">" + metres + " Meter<TD>CW  " +
+               Cells(tally.CW(bandNumber).QSOs, tally.CW(bandNumber)) + "<TD ROWSPAN=\"2\">" + FreeForm(tally.band[bandNumber].Score) +
+               "<BR>");
+    page.Write("<TR ALIGN=\"Center\">                          <TD>SSB " + Cells(tally.SSB(bandNumber).QSOs, tally.SSB(bandNumber)));
 }
 
 }  // namespace
 
-void DanHtml() {
-    ÅbnPapir("vatro" + Årstal() + ".htm");
-    SkrivTop();
-    VisForløb("Dan html");
-    for (const LogId& log : kPapirOrden) DanHtm(log);
-    DanHtmSummary();
-    Skriv("</body>");
-    Skriv("</html>");
-    platform().files.Close(kPapirFil);
+void WriteHtmlTop(LineSink& page, const PaperContext& context) {
+    const std::string title = LogTitle(context);
+    page.Write("<html>");
+    page.Write("<head><title>" + title + "</title></head>");
+    page.Write("<body>");
+    page.Write(std::string("<a name=\"Top\"></a><h1 align=\"Center\">(foreløbig) "_t) + title + "</h1>");
+    std::string links = "<p>";
+    for (const LogId& log : kTenLogs) links += "<a href=\"#" + Anchor(log) + "\">" + BandAndMode(log.band, log.mode) + "</a>, ";
+    page.Write(links + "<a href=\"#Summary\">Summary</a></p>");
 }
 
-void DanHtm(const LogId& log) {
-    Find1Weekend();
-    TilføjForløb(BåndOgMode(log.band, log.mode));
-    DanHtmHoved(log);
-    bool åben = true;
-    try {
-        ÅbnLog(log);
-    } catch (const RunTimeError&) {
-        åben = false;
+void DanHtmHoved(LineSink& page, const LogId& log) {
+    page.Write("<a name=\"" + Anchor(log) + "\"></a><a href=\"#top\">Top</a>");
+    page.Write("<h3 align=\"center\">" + BandAndMode(log.band, log.mode) + "</h3>");
+    page.Write("<pre>");
+    WriteBlank(page);
+    if (log.band != "ukendt") page.Write(Indented("<B>" + std::string(kColumnNames) + "</B>"));
+}
+
+void DanHtmKrop(LineSource& lines, LineSink& page) {
+    LogSum total;
+    while (!lines.AtEnd()) {
+        const std::string line = lines.Next();
+        page.Write(ContactRow(line));
+        total.CountLine(line);
     }
-    if (åben) DanHtmKrop();
-    Skriv("</pre>");
-    platform().files.Close(kLogFil);
+    total.ComputeScore();
+    WriteBlank(page);
+    page.Write(TotalRow(kFileTotals, kAccumulated, total));
 }
 
-void DanHtmHoved(const LogId& log) {
-    Skriv("<a name=\"" + Anker(log) + "\"></a><a href=\"#top\">Top</a>");
-    Skriv("<h3 align=\"center\">" + BåndOgMode(log.band, log.mode) + "</h3>");
-    Skriv("<pre>");
-    SkrivBlank();
-    if (log.band != "ukendt") Skriv(Indrykket("<B>" + std::string(kKolonner) + "</B>"));
+void WriteHtmlSectionEnd(LineSink& page) {
+    page.Write("</pre>");
 }
 
-void DanHtmKrop() {
-    Files& filer = platform().files;
-    LogSum ialt;
-    while (!filer.EndOfFile(kLogFil)) {
-        const std::string linje = filer.LineInput(kLogFil);
-        Skriv(Kontaktrække(linje));
-        ialt.Tæl(linje);
-    }
-    ialt.BeregnScore();
-    SkrivBlank();
-    Skriv(Ialtrække(kIaltFil, kAkkumuleret, ialt));
-}
-
-void DanHtmSummary() {
-    const Sammentælling alt = Sammentæl();
-    Skriv("<a name=\"Summary\"></a><a href=\"#top\">Top</a>");
-    Skriv("<h3 align=\"center\">Summary for " + desk().gsMyCall + "</a></h3>");
-    Skriv("<table width=90% border=1 align=\"center\" bgcolor=\"#F1F1F1\">");
-    Skriv("<tr align=\"center\"><td>Kaldesignal: <b>" + desk().gsMyCall + "</B><td>Kategori: " + desk().gsKlasse);
-    Skriv("<tr align=\"center\"><td colspan=2>" + alt.name);
-    Skriv("<tr align=\"center\"><td colspan=2><b>Operatører:</B>"_t);
-    Skriv("<tr align=\"center\"><td colspan=2>" + std::string(Columns(alt.Operators, kOperatørerFra)) + "</tr>");
-    Skriv("</table>");
-    Skriv("<table width=90% border=1 align=\"center\">");
-    Skriv("<TABLE BORDER WIDTH=\"90%\" Align = \"Center\" BGCOLOR = \"#F0F0F0\"> ");
-    Skriv(
+void DanHtmSummary(LineSink& page, const PaperContext& context, const Tally& tally) {
+    page.Write("<a name=\"Summary\"></a><a href=\"#top\">Top</a>");
+    page.Write("<h3 align=\"center\">Summary for " + context.call + "</a></h3>");
+    page.Write("<table width=90% border=1 align=\"center\" bgcolor=\"#F1F1F1\">");
+    page.Write("<tr align=\"center\"><td>Kaldesignal: <b>" + context.call + "</B><td>Kategori: " + context.contestClass);
+    page.Write("<tr align=\"center\"><td colspan=2>" + tally.name);
+    page.Write("<tr align=\"center\"><td colspan=2><b>Operatører:</B>"_t);
+    page.Write("<tr align=\"center\"><td colspan=2>" + std::string(Columns(tally.Operators, kOperatorsFrom)) + "</tr>");
+    page.Write("</table>");
+    page.Write("<table width=90% border=1 align=\"center\">");
+    page.Write("<TABLE BORDER WIDTH=\"90%\" Align = \"Center\" BGCOLOR = \"#F0F0F0\"> ");
+    page.Write(
         "<TR BGCOLOR=\"#E0E0E0\">           <TH>B&aring;nd<TH>Mode<TH>QSO'er            <TH>Multiplier          <TH>Points"
         "               <TH>Score  <TH>B&aring;nd Score");
-    for (std::size_t båndNr = kAntalBånd; båndNr-- > 0;) SkrivBåndsum(alt, båndNr);
-    Skriv("<TR ALIGN=\"Center\" BGCOLOR=\"#E0E0E0\"> ");
-    Skriv("<TD COLSPAN=\"2\">Alle b&aring;nd og modes                  " + Celler(alt.TotalQSOs, alt.Total) + "<TD><B>" +
-          FriForm(alt.Total.Score) + "</B>");
-    Skriv("</table>");
+    for (std::size_t bandNumber = kBandCount; bandNumber-- > 0;) WriteBandSum(page, tally, bandNumber);
+    page.Write("<TR ALIGN=\"Center\" BGCOLOR=\"#E0E0E0\"> ");
+    page.Write("<TD COLSPAN=\"2\">Alle b&aring;nd og modes                  " + Cells(tally.TotalQSOs, tally.Total) + "<TD><B>" +
+               FreeForm(tally.Total.Score) + "</B>");
+    page.Write("</table>");
+}
+
+void WriteHtmlEnd(LineSink& page) {
+    page.Write("</body>");
+    page.Write("</html>");
 }
 
 }  // namespace vatro

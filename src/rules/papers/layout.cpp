@@ -1,84 +1,87 @@
 // SPDX-License-Identifier: MIT
 #include "papers/layout.h"
-#include "frame/state.h"
 
 #include "columns.h"
-#include "frame/station.h"
-#include "frame/version.h"
 #include "log/contact_line.h"
 #include "numbers.h"
-#include "platform.h"
 
 namespace vatro {
 
 namespace {
 
 /// Columns of a log line that a paper shows; the date stands in front of them.
-constexpr std::size_t kVistBredde = 70;
+constexpr std::size_t kShownWidth = 70;
+
+std::string YearText(const PaperContext& context) {
+    return FormatDate(context.now, "yyyy");
+}
 
 }  // namespace
 
-std::string Indrykket(std::string_view tekst) {
-    std::string række;
-    række.reserve(kIndryk.size() + tekst.size());
-    return række.append(kIndryk).append(tekst);
+std::string Indented(std::string_view text) {
+    std::string row;
+    row.reserve(kIndent.size() + text.size());
+    return row.append(kIndent).append(text);
 }
 
-std::string Kontaktrække(std::string_view linje) {
-    std::string række;
-    række.reserve(kIndryk.size() + kDate.width + 1 + kVistBredde);
-    return række.append(kIndryk).append(kDate.Of(linje)).append(1, ' ').append(Columns(linje, 1, kVistBredde));
+std::string ContactRow(std::string_view line) {
+    std::string row;
+    row.reserve(kIndent.size() + kDate.width + 1 + kShownWidth);
+    return row.append(kIndent).append(kDate.Of(line)).append(1, ' ').append(Columns(line, 1, kShownWidth));
 }
 
-std::string Ialtrække(const IaltForm& form, std::string_view label, const LogSum& sum) {
-    std::string række = Indrykket(LeftAligned(label, form.label));
-    return række.append(InTemplate(form.point, sum.Points))
-        .append(InTemplate(form.mult, sum.Mults))
+std::string TotalRow(const TotalForm& form, std::string_view label, const LogSum& sum) {
+    std::string row = Indented(LeftAligned(label, form.label));
+    return row.append(InTemplate(form.points, sum.Points))
+        .append(InTemplate(form.mults, sum.Mults))
         .append(InTemplate(form.score, sum.Score));
 }
 
-std::string Årstal() {
-    return FormatDate(platform().clock.Now(), "yyyy");
+std::string LogTitle(const PaperContext& context) {
+    return "Fieldday log for " + context.call + " " + YearText(context);
 }
 
-std::string LogTitel() {
-    return "Fieldday log for " + desk().gsMyCall + " " + Årstal();
+std::string VersionMark(const PaperContext& context) {
+    return ", (Vatro version " + context.version + ")";
 }
 
-std::string VersionMærke() {
-    return ", (Vatro version " + VersionText() + ")";
+std::string BandAndMode(std::string_view band, std::string_view mode) {
+    return std::string(band).append(1, ' ').append(mode);
 }
 
-std::string BåndOgMode(std::string_view bånd, std::string_view mode) {
-    return std::string(bånd).append(1, ' ').append(mode);
+std::string NameWithYear(const PaperContext& context, std::string_view extension) {
+    return ("vatro" + YearText(context)).append(extension);
 }
 
-void LogPapir::Krop() {
-    Files& filer = platform().files;
-    LogSum side;
-    LogSum ialt;
-    for (int LineCount = 0; !filer.EndOfFile(kLogFil); ++LineCount) {
-        FørLinje(LineCount);
-        const std::string linje = filer.LineInput(kLogFil);
-        if (!ErNotelinje(linje)) Række(Kontaktrække(linje));
-        side.Tæl(linje);
-        if (LineCount % kLinjerPrSide == kLinjerPrSide - 1) {
-            LukSide(side, ialt);
-            NySide();
+void LogPaper::LayOut(LineSource& log) {
+    LogSum page;
+    LogSum total;
+    for (int lineCount = 0; !log.AtEnd(); ++lineCount) {
+        BeforeLine(lineCount);
+        const std::string line = log.Next();
+        if (!IsNoteLine(line)) Row(ContactRow(line));
+        page.CountLine(line);
+        if (lineCount % kLinesPerPage == kLinesPerPage - 1) {
+            total = ClosePage(page, total);
+            page = {};
+            BeginPage();
         }
     }
-    LukSide(side, ialt);
+    ClosePage(page, total);
 }
 
-void LogPapir::LukSide(LogSum& side, LogSum& ialt) {
-    side.BeregnScore();
-    Række(" ");
-    Række(Ialtrække(Ialt(), kDenneSide, side));
-    ialt.LægTil(side);
-    ialt.BeregnScore();
-    side = {};
-    Række(" ");
-    Række(Ialtrække(Ialt(), kAkkumuleret, ialt));
+void LogPaper::WriteTotals(std::string_view label, const LogSum& sum) {
+    Row(" ");
+    Row(TotalRow(Totals(), label, sum));
+}
+
+LogSum LogPaper::ClosePage(LogSum page, LogSum total) {
+    page.ComputeScore();
+    WriteTotals(kThisPage, page);
+    total.Add(page);
+    total.ComputeScore();
+    WriteTotals(kAccumulated, total);
+    return total;
 }
 
 }  // namespace vatro

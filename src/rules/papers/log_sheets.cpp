@@ -2,11 +2,6 @@
 #include "papers/log_sheets.h"
 
 #include "papers/layout.h"
-#include "papers/mult_check.h"
-#include "papers/summary.h"
-#include "papers/weekend.h"
-#include "platform.h"
-#include "printing/progress.h"
 
 namespace vatro {
 
@@ -15,54 +10,37 @@ namespace {
 /// A page ends with a line of its own that the printer takes as one.
 constexpr std::string_view kFormFeed = "\f";
 
-class LogArk : public LogPapir {
+class LogSheets : public LogPaper {
 public:
-    explicit LogArk(const LogId& log) : log_(log) {}
+    LogSheets(LineSink& paper, const PaperContext& context, const LogId& log) : paper_(paper), context_(context), log_(log) {}
 
 private:
-    void Række(std::string_view tekst) override { Skriv(tekst); }
-    const IaltForm& Ialt() const override { return kIaltFil; }
-    void NySide() override {
-        Skriv(kFormFeed);
-        DanHoved(log_.band, log_.mode);
+    void Row(std::string_view text) override { paper_.Write(text); }
+    const TotalForm& Totals() const override { return kFileTotals; }
+    void BeginPage() override {
+        paper_.Write(kFormFeed);
+        DanHoved(paper_, context_, log_.band, log_.mode);
     }
+    LineSink& paper_;
+    const PaperContext& context_;
     LogId log_;
 };
 
 }  // namespace
 
-void Danlog(const LogId& log) {
-    Find1Weekend();
-    VisForløb("Dan log");
-    TilføjForløb(BåndOgMode(log.band, log.mode));
-    try {
-        // The log first: without one an earlier sheet stays as it is.
-        ÅbnLog(log);
-        ÅbnPapir(std::string("SM").append(log.band).append(log.mode).append(".txt"));
-        DanHoved(log.band, log.mode);
-        DanKrop(log);
-        platform().files.Close(kLogFil);
-        platform().files.Close(kPapirFil);
-    } catch (const RunTimeError&) {
-        return;
-    }
+std::string LogSheetName(const LogId& log) {
+    return std::string("SM").append(log.band).append(log.mode).append(".txt");
 }
 
-void DanHoved(std::string_view bånd, std::string_view mode) {
-    Skriv(Indrykket(LogTitel() + VersionMærke()));
-    Skriv(Indrykket(BåndOgMode(bånd, mode)));
-    SkrivBlank();
-    if (bånd != "Multiplier" && bånd != "ukendt") Skriv(Indrykket(kKolonner));
+void DanHoved(LineSink& paper, const PaperContext& context, std::string_view band, std::string_view mode) {
+    paper.Write(Indented(LogTitle(context) + VersionMark(context)));
+    paper.Write(Indented(BandAndMode(band, mode)));
+    WriteBlank(paper);
+    if (band != "Multiplier" && band != "ukendt") paper.Write(Indented(kColumnNames));
 }
 
-void DanKrop(const LogId& log) {
-    LogArk(log).Krop();
-}
-
-void DanAlt() {
-    for (const LogId& log : kPapirOrden) Danlog(log);
-    DanMultCheck();
-    DanSummary();
+void DanKrop(LineSource& lines, LineSink& paper, const PaperContext& context, const LogId& log) {
+    LogSheets(paper, context, log).LayOut(lines);
 }
 
 }  // namespace vatro

@@ -1,26 +1,23 @@
 // SPDX-License-Identifier: MIT
 //
-// The log sheets: the paper form of each log, as text files SM + band + mode + ".txt" in the log directory, cut into pages with
-// a heading and two rows of totals. They go in with the summary.
+// The log sheets: the paper form of a log, cut into pages with a heading and two rows of totals. They go in with the summary.
 #pragma once
 
+#include <string>
 #include <string_view>
 
+#include "papers/context.h"
 #include "papers/logs.h"
 
 namespace vatro {
 
-/// Makes the sheets of one log. A log that cannot be opened makes none, leaves earlier ones and says nothing. Any failure
-/// ends it in silence, with the files left open: the next log that is opened finds their numbers in use.
-void Danlog(const LogId& log);
+/// "SM80mCW.txt".
+std::string LogSheetName(const LogId& log);
 
-/// The heading of a page of the open sheet file. `bånd` may also be "Multiplier" or "ukendt", without the columns' names.
-void DanHoved(std::string_view bånd, std::string_view mode);
+/// Writes the heading of a page. `band` may also be "Multiplier" or "ukendt", without the columns' names.
+void DanHoved(LineSink& paper, const PaperContext& context, std::string_view band, std::string_view mode);
 
-/// The pages of the open log file, into the open sheet file.
-void DanKrop(const LogId& log);
-
-/// All sheets, the multiplier check sheet and the summary.
-void DanAlt();
+/// Writes the pages of a log, which is read to its end, behind the heading of the first page.
+void DanKrop(LineSource& lines, LineSink& paper, const PaperContext& context, const LogId& log);
 
 }  // namespace vatro

@@ -1,59 +1,38 @@
 // SPDX-License-Identifier: MIT
 #include "papers/logs.h"
-#include "frame/state.h"
 
-#include "frame/band_mode.h"
-#include "frame/log_file.h"
-#include "frame/station.h"
 #include "log/contact_line.h"
 #include "numbers.h"
-#include "platform.h"
 
 namespace vatro {
 
-void ÅbnLog(const LogId& log) {
-    platform().files.Open(kLogFil, LogPath(log.band, log.mode), FileMode::Input);
+void WriteBlank(LineSink& paper) {
+    paper.Write(" ");
 }
 
-void ÅbnPapir(std::string_view navn) {
-    platform().files.Open(kPapirFil, PathIn(desk().gsLogLib, navn), FileMode::Output);
+bool IsNoteLine(std::string_view line) {
+    return line.starts_with(kNoteMark);
 }
 
-void Skriv(std::string_view linje) {
-    platform().files.PrintLine(kPapirFil, linje);
+bool CountsAsContact(std::string_view line) {
+    return !kMultiplier.Of(line).starts_with(kDupeMark) && !IsNoteLine(line);
 }
 
-void SkrivBlank() {
-    Skriv(" ");
+bool CountsAsMultiplier(std::string_view line) {
+    return !kMultiplier.Of(line).starts_with(' ') && CountsAsContact(line);
 }
 
-bool ErNotelinje(std::string_view linje) {
-    return linje.starts_with(kNoteMark);
+void LogSum::CountLine(std::string_view line) {
+    if (CountsAsMultiplier(line)) ++Mults;
+    Points = ToInt32(Points + NumericValue(kPoint.Of(line)));
 }
 
-bool TællerSomQSO(std::string_view linje) {
-    return !kMultiplier.Of(linje).starts_with(kDupeMark) && !ErNotelinje(linje);
+void LogSum::Add(const LogSum& other) {
+    Points = ToInt32(static_cast<double>(Points) + other.Points);
+    Mults += other.Mults;
 }
 
-bool TællerSomMult(std::string_view linje) {
-    return !kMultiplier.Of(linje).starts_with(' ') && TællerSomQSO(linje);
-}
-
-void LogSum::Tæl(std::string_view linje) {
-    if (TællerSomMult(linje)) ++Mults;
-    TælPoint(linje);
-}
-
-void LogSum::TælPoint(std::string_view linje) {
-    Points = ToInt32(Points + NumericValue(kPoint.Of(linje)));
-}
-
-void LogSum::LægTil(const LogSum& andre) {
-    Points = ToInt32(static_cast<double>(Points) + andre.Points);
-    Mults += andre.Mults;
-}
-
-void LogSum::BeregnScore() {
+void LogSum::ComputeScore() {
     Score = ToInt32(static_cast<double>(Mults) * Points);
 }
 

@@ -1,23 +1,20 @@
 // SPDX-License-Identifier: MIT
 //
-// The ten logs as papers read them: each anew from its file, a line at a time, and never changed. What is in memory of the
-// log being worked on plays no part.
+// The ten logs as papers read them: each anew from its first line, and never changed. What is in memory of the log being worked
+// on plays no part.
 #pragma once
 
 #include <array>
 #include <cstdint>
 #include <string_view>
 
-#include "frame/log_file.h"
+#include "lines.h"
+#include "log/ten_logs.h"
 
 namespace vatro {
 
-/// File numbers: of the log being read, and of the paper being written.
-inline constexpr int kLogFil = 1;
-inline constexpr int kPapirFil = 2;
-
-/// The order in which papers set them out.
-inline constexpr std::array<LogId, 10> kPapirOrden{{{"80m", "CW"},
+/// The order in which papers set the logs out.
+inline constexpr std::array<LogId, 10> kPaperOrder{{{"80m", "CW"},
                                                     {"80m", "SSB"},
                                                     {"40m", "CW"},
                                                     {"40m", "SSB"},
@@ -28,20 +25,27 @@ inline constexpr std::array<LogId, 10> kPapirOrden{{{"80m", "CW"},
                                                     {"10m", "CW"},
                                                     {"10m", "SSB"}}};
 
-/// Opens a log for reading under its number. Fails as Files::Open does.
-void ÅbnLog(const LogId& log);
-/// Opens a file of the log directory for a paper, which replaces it.
-void ÅbnPapir(std::string_view navn);
-/// Prints to the paper: a line, or a blank line, which holds one blank.
-void Skriv(std::string_view linje);
-void SkrivBlank();
+/// Opens the logs for papers that count several of them. One log at a time is open.
+class LogReader {
+public:
+    virtual ~LogReader() = default;
+    /// The log from its first line on; good until the log is closed. Fails if there is no such log, and with 55 while another
+    /// one is still open.
+    virtual LineSource& Open(const LogId& log) = 0;
+    /// Closes the open log.
+    virtual void Close() = 0;
+};
 
-/// Whether the line is a note. Unlike the load of a log, papers know the mark only in upper case.
-bool ErNotelinje(std::string_view linje);
+/// Writes a blank line, which holds one blank.
+void WriteBlank(LineSink& paper);
+
+/// Whether the line is a note. Unlike the load of a log, papers know the mark only in upper case: a line that an editor has
+/// turned into "Note: " counts as a contact on every paper.
+bool IsNoteLine(std::string_view line);
 /// Whether the line counts as a contact: neither a note nor marked as a duplicate.
-bool TællerSomQSO(std::string_view linje);
+bool CountsAsContact(std::string_view line);
 /// Whether the line counts as a multiplier: a contact whose column 44 is not a blank. A line that ends before it counts.
-bool TællerSomMult(std::string_view linje);
+bool CountsAsMultiplier(std::string_view line);
 
 /// Sums of lines. A sum over 32 bits fails with 6.
 struct LogSum {
@@ -49,12 +53,13 @@ struct LogSum {
     std::int32_t Mults = 0;
     std::int32_t Score = 0;
 
-    /// Every line counts with the value of its points columns, notes and duplicates too: meant so, they hold 0.
-    void Tæl(std::string_view linje);
-    void TælPoint(std::string_view linje);
-    void LægTil(const LogSum& andre);
+    /// Counts a line. The value of the points columns counts for every line, also of a duplicate, which holds 0 there, and of a
+    /// note: digits that a note has at these columns raise the points of its log.
+    void CountLine(std::string_view line);
+    /// Adds points and multipliers of other lines.
+    void Add(const LogSum& other);
     /// Multipliers times points.
-    void BeregnScore();
+    void ComputeScore();
 };
 
 }  // namespace vatro

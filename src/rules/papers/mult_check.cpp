@@ -2,104 +2,100 @@
 #include "papers/mult_check.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
+#include "errors.h"
 #include "log/contact_line.h"
 #include "papers/layout.h"
 #include "papers/log_sheets.h"
-#include "platform.h"
-#include "printing/progress.h"
 
 namespace vatro {
 
 namespace {
 
-constexpr std::size_t kCelle = 7;
-constexpr int kRækkerPrSide = 50;
+constexpr std::size_t kCellWidth = 7;
+constexpr int kRowsPerPage = 50;
 constexpr std::string_view kModes = "CW     SSB    CW     SSB    CW     SSB    CW     SSB    CW     SSB    ";
 
-std::string& Celle(MultTable& table, std::size_t kolonne, std::size_t række) {
-    if (række > kMultRækker) throw RunTimeError(Failure::IndexOutOfRange);
-    return table[kolonne][række];
-}
-
 /// The cells of a row side by side, or nothing below the last row of all columns.
-bool Multrække(const MultTable& table, const MultCount& count, std::size_t række, std::string& tekst) {
-    tekst.clear();
-    bool nogen = false;
-    for (std::size_t kolonne = 0; kolonne < table.size(); ++kolonne) {
-        const bool brugt = række <= count[kolonne];
-        nogen |= brugt;
-        if (brugt)
-            tekst.append(table[kolonne][række]);
+std::optional<std::string> MultiplierRow(const Multipliers& multipliers, std::size_t row) {
+    std::string text;
+    bool any = false;
+    for (std::size_t column = 0; column < multipliers.table.size(); ++column) {
+        const bool used = row <= multipliers.count[column];
+        any |= used;
+        if (used)
+            text.append(multipliers.table[column][row]);
         else
-            tekst.append(kCelle, ' ');
+            text.append(kCellWidth, ' ');
     }
-    return nogen;
+    if (!any) return std::nullopt;
+    return text;
 }
 
 }  // namespace
 
-void SamlMult(const LogId& log, MultTable& table, MultCount& count, std::size_t kolonne) {
-    Files& filer = platform().files;
+MultColumn SamlMult(LogReader& logs, const LogId& log) {
+    MultColumn column;
     try {
-        ÅbnLog(log);
-        while (!filer.EndOfFile(kLogFil)) {
-            const std::string linje = filer.LineInput(kLogFil);
-            if (!TællerSomMult(linje)) continue;
-            ++count[kolonne];
-            Celle(table, kolonne, count[kolonne]) = kMultiplier.Of(linje).substr(0, kCelle);
+        LineSource& lines = logs.Open(log);
+        while (!lines.AtEnd()) {
+            const std::string line = lines.Next();
+            if (!CountsAsMultiplier(line)) continue;
+            ++column.count;
+            if (column.count > kMultiplierRows) throw RunTimeError(Failure::IndexOutOfRange);
+            column.cells[column.count] = kMultiplier.Of(line).substr(0, kCellWidth);
         }
-        filer.Close(kLogFil);
+        logs.Close();
     } catch (const RunTimeError&) {
-        return;
+        // With what was collected; the log stays open.
+    }
+    return column;
+}
+
+Multipliers SortMult(Multipliers multipliers) {
+    for (std::size_t column = 0; column < multipliers.table.size(); ++column) {
+        if (multipliers.count[column] > kMultiplierRows) throw RunTimeError(Failure::IndexOutOfRange);
+        const auto first = multipliers.table[column].begin() + 1;
+        std::sort(first, first + static_cast<std::ptrdiff_t>(multipliers.count[column]));
+    }
+    return multipliers;
+}
+
+Multipliers CollectAllMultipliers(LogReader& logs) {
+    Multipliers all;
+    for (std::size_t i = 0; i < kTenLogs.size(); ++i) {
+        MultColumn column = SamlMult(logs, kTenLogs[i]);
+        all.table[i] = std::move(column.cells);
+        all.count[i] = column.count;
+    }
+    return SortMult(std::move(all));
+}
+
+void LayOutMultipliers(const Multipliers& multipliers, const MultiplierPaper& paper) {
+    paper.line(" ");
+    paper.line(Indented("10m    10m    15m    15m    20m    20m    40m    40m    80m    80m    "));
+    paper.line(Indented(kModes));
+    paper.line(" ");
+    int onPage = 0;
+    for (std::size_t row = 1; row <= kMultiplierRows; ++row) {
+        const auto text = MultiplierRow(multipliers, row);
+        if (!text) break;
+        paper.line(Indented(*text));
+        if (++onPage <= kRowsPerPage) continue;
+        paper.newPage();
+        onPage = 1;
+        paper.line(" ");
+        paper.line(Indented("10m           15m           20m           40m           80m           "));
+        paper.line(Indented(kModes));
     }
 }
 
-void SortMult(MultTable& table, const MultCount& count) {
-    for (std::size_t kolonne = 0; kolonne < table.size(); ++kolonne) {
-        if (count[kolonne] > kMultRækker) throw RunTimeError(Failure::IndexOutOfRange);
-        const auto første = table[kolonne].begin() + 1;
-        std::sort(første, første + static_cast<std::ptrdiff_t>(count[kolonne]));
-    }
-}
-
-void SamlAlleMult(MultTable& table, MultCount& count) {
-    for (std::size_t kolonne = 0; kolonne < kTenLogs.size(); ++kolonne) SamlMult(kTenLogs[kolonne], table, count, kolonne);
-    SortMult(table, count);
-}
-
-void OpsætMult(const MultTable& table, const MultCount& count, const MultPapir& papir) {
-    papir.linje(" ");
-    papir.linje(Indrykket("10m    10m    15m    15m    20m    20m    40m    40m    80m    80m    "));
-    papir.linje(Indrykket(kModes));
-    papir.linje(" ");
-    int påSiden = 0;
-    std::string tekst;
-    for (std::size_t række = 1; række <= kMultRækker && Multrække(table, count, række, tekst); ++række) {
-        papir.linje(Indrykket(tekst));
-        if (++påSiden <= kRækkerPrSide) continue;
-        papir.nySide();
-        påSiden = 1;
-        papir.linje(" ");
-        papir.linje(Indrykket("10m           15m           20m           40m           80m           "));
-        papir.linje(Indrykket(kModes));
-    }
-}
-
-void DanMult(const MultTable& table, const MultCount& count) {
-    OpsætMult(table, count, {Skriv, [] { DanHoved(kMultHoved.band, kMultHoved.mode); }});
-}
-
-void DanMultCheck() {
-    VisForløb("Dan log");
-    TilføjForløb(kMultTrin);
-    ÅbnPapir("Mult.txt");
-    DanHoved(kMultHoved.band, kMultHoved.mode);
-    MultTable table;
-    MultCount count{};
-    SamlAlleMult(table, count);
-    DanMult(table, count);
-    platform().files.Close(kPapirFil);
+void DanMult(LineSink& paper, const PaperContext& context, const Multipliers& multipliers) {
+    LayOutMultipliers(multipliers,
+                      {[&paper](std::string_view line) { paper.Write(line); },
+                       [&paper, &context] { DanHoved(paper, context, kMultiplierHeading.band, kMultiplierHeading.mode); }});
 }
 
 }  // namespace vatro

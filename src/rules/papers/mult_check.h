@@ -9,44 +9,55 @@
 #include <string>
 #include <string_view>
 
+#include "papers/context.h"
 #include "papers/logs.h"
 
 namespace vatro {
 
-inline constexpr std::size_t kMultRækker = 100;
+inline constexpr std::size_t kMultiplierRows = 100;
 
-/// By column, in the order of kTenLogs, and row from 1. A cell has at most 7 characters; that of a line which ends before the
-/// multiplier is shorter and moves the columns to its right: meant so.
-using MultTable = std::array<std::array<std::string, kMultRækker + 1>, kTenLogs.size()>;
-/// Cells in use.
+/// Cells of a column, from 1. A cell has at most 7 characters. That of a line which ends before the multiplier is shorter and
+/// moves the columns to its right on the sheet, which shows the operator that the log holds such a line.
+using MultCells = std::array<std::string, kMultiplierRows + 1>;
+/// By column, in the order of kTenLogs.
+using MultTable = std::array<MultCells, kTenLogs.size()>;
+/// Cells in use, by column. One more than there are if a log has more multipliers than the table has rows.
 using MultCount = std::array<std::size_t, kTenLogs.size()>;
 
-/// Collects a log in a column. A log that cannot be opened is passed over. One cell too many ends it in silence, with the cell
-/// counted and the file left open, so that the logs after it are passed over too.
-void SamlMult(const LogId& log, MultTable& table, MultCount& count, std::size_t kolonne);
+/// One log's column.
+struct MultColumn {
+    MultCells cells;
+    std::size_t count = 0;
+};
 
-/// Sorts each column. Fails with 9 if one has a cell too many.
-void SortMult(MultTable& table, const MultCount& count);
+struct Multipliers {
+    MultTable table;
+    MultCount count{};
+};
 
-/// SamlMult of the ten logs and SortMult.
-void SamlAlleMult(MultTable& table, MultCount& count);
+/// Collects the multipliers of a log. A log that cannot be opened gives an empty column. One cell too many, or any failure on the
+/// way, ends the column in silence, with that cell counted, and leaves the log open, so that the logs after it give nothing.
+MultColumn SamlMult(LogReader& logs, const LogId& log);
+
+/// Sorts each column by character code. Fails with 9 if one has a cell too many.
+Multipliers SortMult(Multipliers multipliers);
+
+/// SamlMult of the ten logs, in their order, and SortMult.
+Multipliers CollectAllMultipliers(LogReader& logs);
 
 /// What a form of the check sheet does with it: prints a line as it stands, begins a page with its heading.
-struct MultPapir {
-    std::function<void(std::string_view)> linje;
-    std::function<void()> nySide;
+struct MultiplierPaper {
+    std::function<void(std::string_view)> line;
+    std::function<void()> newPage;
 };
-/// Lays the table out. The first page holds 51 rows and each later one 50, under a shorter heading: meant so.
-void OpsætMult(const MultTable& table, const MultCount& count, const MultPapir& papir);
+/// Lays the table out. The first page holds 51 rows and each later one 50, under a heading that names each band once. This is
+/// kept on purpose: the pages break where they always have.
+void LayOutMultipliers(const Multipliers& multipliers, const MultiplierPaper& paper);
 
-/// The table into the open paper.
-void DanMult(const MultTable& table, const MultCount& count);
+/// Writes the table, behind the heading of the first page.
+void DanMult(LineSink& paper, const PaperContext& context, const Multipliers& multipliers);
 
-/// Makes Mult.txt. A file that cannot be created is a failure.
-void DanMultCheck();
-
-inline constexpr std::string_view kMultTrin = "Multiplier checksheet";
 /// Band and mode of the sheet's heading.
-inline constexpr LogId kMultHoved{"Multiplier", "Checksheet"};
+inline constexpr LogId kMultiplierHeading{"Multiplier", "Checksheet"};
 
 }  // namespace vatro

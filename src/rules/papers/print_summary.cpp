@@ -1,82 +1,69 @@
 // SPDX-License-Identifier: MIT
 #include <string>
 
-#include "frame/state.h"
-#include "frame/station.h"
 #include "numbers.h"
-#include "page.h"
 #include "papers/layout.h"
 #include "papers/printing.h"
-#include "papers/summary.h"
-#include "printing/progress.h"
 
 namespace vatro {
 
 namespace {
 
-void Række(PageSurface& surface, std::string_view tekst) {
-    surface.Print(Indrykket(tekst));
+void Row(PageSink& pages, std::string_view text) {
+    pages.PrintLine(Indented(text));
 }
 
-void BlankRække(PageSurface& surface) {
-    Række(surface, " ");
+void BlankRow(PageSink& pages) {
+    Row(pages, " ");
 }
 
-std::string Blanke(std::size_t antal) {
-    return std::string(antal, ' ');
+std::string Blanks(std::size_t count) {
+    return std::string(count, ' ');
 }
 
-constexpr Båndsøjler kSøjler{"  @@@@@ x ", " @@@@@@@@"};
+constexpr BandColumns kColumns{"  @@@@@ x ", " @@@@@@@@"};
 
 /// Radio and antenna stand one above the other.
-void PrintBånd(PageSurface& surface, const Sammentælling& alt, std::size_t båndNr) {
-    Række(surface, Båndrække(kSøjler, båndNr, " CW  ", alt.CW(båndNr)) + Blanke(29) + RigAf(båndNr));
-    const LogSum& bånd = alt.band[båndNr];
-    Række(surface, Båndrække(kSøjler, båndNr, " SSB ", alt.SSB(båndNr)) + InTemplate("  @@@@@ x ", bånd.Mults) +
-                       InTemplate("@@@@@@ = ", bånd.Points) + InTemplate("@@@@@@@@@", bånd.Score) + " " + AntAf(båndNr));
-    BlankRække(surface);
+void PrintBand(PageSink& pages, const PaperContext& context, const Tally& tally, std::size_t bandNumber) {
+    const Equipment& equipment = context.equipment[bandNumber];
+    Row(pages, BandRow(kColumns, bandNumber, " CW  ", tally.CW(bandNumber)) + Blanks(29) + equipment.radio);
+    const LogSum& band = tally.band[bandNumber];
+    Row(pages, BandRow(kColumns, bandNumber, " SSB ", tally.SSB(bandNumber)) + InTemplate("  @@@@@ x ", band.Mults) +
+                   InTemplate("@@@@@@ = ", band.Points) + InTemplate("@@@@@@@@@", band.Score) + " " + equipment.antenna);
+    BlankRow(pages);
 }
 
-void PrintTelefon(PageSurface& surface) {
-    surface.PrintPart(Indrykket(kTelefonSpørgsmål));
+void PrintPhone(PageSink& pages, const PaperContext& context) {
+    pages.PrintPart(Indented(kPhoneLabel));
     // Without a number this only ends the line.
-    surface.Print(OplystTelefon());
-}
-
-void PrintBlad(PageSurface& surface, const Sammentælling& alt) {
-    Række(surface, kSammentællingsblad);
-    BlankRække(surface);
-    Række(surface, "Kaldesignal: " + desk().gsMyCall + Blanke(10) + "Kategori: " + desk().gsKlasse + Blanke(14) +
-                       "Antal logsider: " + NumberText(surface.Page()));
-    BlankRække(surface);
-    Række(surface, "Navn: " + alt.name);
-    BlankRække(surface);
-    Række(surface, kOperatørerne);
-    BlankRække(surface);
-    Række(surface, alt.Operatører());
-    BlankRække(surface);
-    Række(surface, "            QSOs                        Band   Total   Total    Total     Stn/Ant");
-    Række(surface, "Bånd        -dubs  Mults x Points =     score  Mult  x Points = Bandscore"_t);
-    BlankRække(surface);
-    for (std::size_t båndNr = kAntalBånd; båndNr-- > 0;) PrintBånd(surface, alt, båndNr);
-    Række(surface, "Total:     " + InTemplate("@@@@@", alt.TotalQSOs) + Blanke(30) + InTemplate("@@@@@@ x ", alt.Total.Mults) +
-                       InTemplate("@@@@@@ = ", alt.Total.Points) + InTemplate("@@@@@@@@@", alt.Total.Score));
-    BlankRække(surface);
-    Række(surface, "Ansvarshavende/Formand:");
-    BlankRække(surface);
-    BlankRække(surface);
-    PrintTelefon(surface);
+    pages.PrintLine(GivenPhone(context));
 }
 
 }  // namespace
 
-void PrintSummary(PageSurface& surface) {
-    VisForløb(kPrintTitel);
-    TilføjForløb("Summary");
-    const Sammentælling alt = Sammentæl();
-    PrintHoved(surface, "Summary", {});
-    PrintBlad(surface, alt);
-    PrintFod(surface);
+void PrintSheet(PageSink& pages, const PaperContext& context, const Tally& tally) {
+    Row(pages, kSheetTitle);
+    BlankRow(pages);
+    Row(pages, "Kaldesignal: " + context.call + Blanks(10) + "Kategori: " + context.contestClass + Blanks(14) +
+                   "Antal logsider: " + NumberText(pages.Page()));
+    BlankRow(pages);
+    Row(pages, "Navn: " + tally.name);
+    BlankRow(pages);
+    Row(pages, kOperatorsLabel);
+    BlankRow(pages);
+    Row(pages, tally.SortedOperators());
+    BlankRow(pages);
+    Row(pages, "            QSOs                        Band   Total   Total    Total     Stn/Ant");
+    Row(pages, "Bånd        -dubs  Mults x Points =     score  Mult  x Points = Bandscore"_t);
+    BlankRow(pages);
+    for (std::size_t bandNumber = kBandCount; bandNumber-- > 0;) PrintBand(pages, context, tally, bandNumber);
+    Row(pages, "Total:     " + InTemplate("@@@@@", tally.TotalQSOs) + Blanks(30) + InTemplate("@@@@@@ x ", tally.Total.Mults) +
+                   InTemplate("@@@@@@ = ", tally.Total.Points) + InTemplate("@@@@@@@@@", tally.Total.Score));
+    BlankRow(pages);
+    Row(pages, "Ansvarshavende/Formand:");
+    BlankRow(pages);
+    BlankRow(pages);
+    PrintPhone(pages, context);
 }
 
 }  // namespace vatro

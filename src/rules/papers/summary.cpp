@@ -1,172 +1,158 @@
 // SPDX-License-Identifier: MIT
 #include "papers/summary.h"
-#include "frame/state.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "columns.h"
-#include "exchange/equipment.h"
-#include "frame/station.h"
+#include "errors.h"
 #include "log/contact_line.h"
 #include "numbers.h"
-#include "platform.h"
-#include "printing/progress.h"
-#include "score/stations.h"
 
 namespace vatro {
 
 namespace {
 
-constexpr std::string_view kImporteret = "CT-IMP";
-constexpr std::string_view kTelefonStandard = "12345678";
+constexpr std::string_view kImported = "CT-IMP";
+constexpr std::string_view kDefaultPhone = "12345678";
 constexpr std::size_t kZone = 14;
 
-constexpr std::string_view UdenBlankeEfter(std::string_view tekst) {
-    return tekst.substr(0, tekst.find_last_not_of(' ') + 1);
+constexpr std::string_view WithoutTrailingBlanks(std::string_view text) {
+    return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
-void TilføjOperatør(std::string& Operators, std::string_view op) {
-    if (op == kImporteret) return;
+bool IsNewOperator(std::string_view Operators, std::string_view operatorCall) {
+    if (operatorCall == kImported) return false;
     // Nothing is found in an empty list, not even the empty text.
-    if (!Operators.empty() && Operators.find(op) != std::string::npos) return;
-    Operators.append(1, ',').append(op);
+    return Operators.empty() || Operators.find(operatorCall) == std::string_view::npos;
 }
 
-std::string StationsNavn() {
-    for (int i = 1; i <= desk().stations.StationsInUse(); ++i) {
-        const std::string_view linje = desk().stations.EDRstn[static_cast<std::size_t>(i)].Linje.Padded();
-        const std::string call = std::string(UdenBlankeEfter(linje.substr(0, kEdrCall))) + "/P";
-        if (call == desk().gsMyCall) return std::string(linje.substr(kEdrCall + 1));
+std::string StationName(const Stations& stations, std::string_view ownCall) {
+    for (int i = 1; i <= stations.StationsInUse(); ++i) {
+        const std::string_view line = stations.EDRstn[static_cast<std::size_t>(i)].Linje.Padded();
+        const std::string call = std::string(WithoutTrailingBlanks(line.substr(0, kEdrCall))) + "/P";
+        if (call == ownCall) return std::string(line.substr(kEdrCall + 1));
     }
     return {};
 }
 
 /// Goes to the next print zone: at least one blank.
-std::string TilNæsteZone(std::string linje) {
-    linje.resize((linje.size() / kZone + 1) * kZone, ' ');
-    return linje;
+std::string ToNextZone(std::string line) {
+    line.resize((line.size() / kZone + 1) * kZone, ' ');
+    return line;
 }
 
-constexpr Båndsøjler kSøjler{"       @@@@@ x ", "@@@@@@@@"};
+constexpr BandColumns kColumns{"       @@@@@ x ", "@@@@@@@@"};
 
-void SkrivBånd(const Sammentælling& alt, std::size_t båndNr) {
-    constexpr std::size_t kTilUdstyr = 49;
-    Skriv(Båndrække(kSøjler, båndNr, " CW   ", alt.CW(båndNr)).append(kTilUdstyr, ' ') + RigAf(båndNr) + "/" + AntAf(båndNr));
-    const LogSum& bånd = alt.band[båndNr];
-    Skriv(Båndrække(kSøjler, båndNr, " SSB  ", alt.SSB(båndNr)) + InTemplate("         @@@@@ x ", bånd.Mults) +
-          InTemplate("      @@@@@@ = ", bånd.Points) + InTemplate("      @@@@@@@@@", bånd.Score));
+void WriteBand(LineSink& paper, const PaperContext& context, const Tally& tally, std::size_t bandNumber) {
+    constexpr std::size_t kBlanksToEquipment = 49;
+    const Equipment& equipment = context.equipment[bandNumber];
+    paper.Write(BandRow(kColumns, bandNumber, " CW   ", tally.CW(bandNumber)).append(kBlanksToEquipment, ' ') + equipment.radio + "/" +
+                equipment.antenna);
+    const LogSum& band = tally.band[bandNumber];
+    paper.Write(BandRow(kColumns, bandNumber, " SSB  ", tally.SSB(bandNumber)) + InTemplate("         @@@@@ x ", band.Mults) +
+                InTemplate("      @@@@@@ = ", band.Points) + InTemplate("      @@@@@@@@@", band.Score));
 }
 
-void SkrivTotal(const Sammentælling& alt) {
-    constexpr std::size_t kTilTotaler = 40;
-    Skriv(("Total:       " + InTemplate("@@@@@", alt.TotalQSOs)).append(kTilTotaler, ' ') + InTemplate("@@@@@@ x ", alt.Total.Mults) +
-          InTemplate("     @@@@@@@ = ", alt.Total.Points) + InTemplate("      @@@@@@@@@", alt.Total.Score));
-}
-
-void SkrivBlad(const Sammentælling& alt) {
-    Skriv(kSammentællingsblad);
-    SkrivBlank();
-    Skriv(TilNæsteZone(TilNæsteZone("Kaldesignal: " + desk().gsMyCall) + "Kategori: " + desk().gsKlasse) + "Antal logsider: ");
-    SkrivBlank();
-    Skriv("Navn: " + alt.name);
-    SkrivBlank();
-    Skriv(std::string(kOperatørerne) + alt.Operatører());
-    SkrivBlank();
-    Skriv("Bånd        QSOs - Dubs  Mults x Points = Band score  Mult total x Points total = Bandscore total  Stn/Ant"_t);
-    for (std::size_t båndNr = kAntalBånd; båndNr-- > 0;) SkrivBånd(alt, båndNr);
-    SkrivBlank();
-    SkrivTotal(alt);
-    SkrivBlank();
-    Skriv("Ansvarshavende/Formand");
-    SkrivBlank();
-    SkrivBlank();
-    Skriv(std::string(kTelefonSpørgsmål).append(OplystTelefon()));
+void WriteTotal(LineSink& paper, const Tally& tally) {
+    constexpr std::size_t kBlanksToTotals = 40;
+    paper.Write(("Total:       " + InTemplate("@@@@@", tally.TotalQSOs)).append(kBlanksToTotals, ' ') +
+                InTemplate("@@@@@@ x ", tally.Total.Mults) + InTemplate("     @@@@@@@ = ", tally.Total.Points) +
+                InTemplate("      @@@@@@@@@", tally.Total.Score));
 }
 
 }  // namespace
 
-std::string Båndrække(const Båndsøjler& søjler, std::size_t båndNr, std::string_view mode, const BandSum& sum) {
-    return std::string(kMegahertz[båndNr])
+std::string BandRow(const BandColumns& columns, std::size_t bandNumber, std::string_view mode, const BandSum& sum) {
+    return std::string(kMegahertz[bandNumber])
         .append(mode)
         .append(InTemplate("@@@@@", sum.QSOs))
-        .append(InTemplate(søjler.mults, sum.Mults))
+        .append(InTemplate(columns.mults, sum.Mults))
         .append(InTemplate("@@@@@@ = ", sum.Points))
-        .append(InTemplate(søjler.score, sum.Score));
+        .append(InTemplate(columns.score, sum.Score));
 }
 
-void SumLog(const LogId& log, BandSum& sum, std::string& Operators) {
-    Files& filer = platform().files;
+LogCount SumLog(LogReader& logs, const LogId& log, std::string Operators) {
+    LogCount count{{}, std::move(Operators)};
     try {
-        ÅbnLog(log);
-        while (!filer.EndOfFile(kLogFil)) {
-            const std::string linje = filer.LineInput(kLogFil);
-            if (TællerSomQSO(linje)) ++sum.QSOs;
-            sum.Tæl(linje);
-            TilføjOperatør(Operators, UdenBlankeEfter(kOperator.Of(linje)));
+        LineSource& lines = logs.Open(log);
+        while (!lines.AtEnd()) {
+            const std::string line = lines.Next();
+            if (CountsAsContact(line)) ++count.sum.QSOs;
+            count.sum.CountLine(line);
+            const std::string_view operatorCall = WithoutTrailingBlanks(kOperator.Of(line));
+            if (IsNewOperator(count.Operators, operatorCall)) count.Operators.append(1, ',').append(operatorCall);
         }
-        filer.Close(kLogFil);
+        logs.Close();
     } catch (const RunTimeError&) {
-        return;
+        // With what was counted; the log stays open.
     }
+    return count;
 }
 
-void SortOper(std::string& Operators) {
-    std::vector<std::string> stykker;
-    std::size_t fra = 0;
-    for (std::size_t skel = Operators.find(','); skel != std::string::npos; skel = Operators.find(',', fra)) {
-        stykker.push_back(Operators.substr(fra, skel - fra));
-        fra = skel + 1;
+std::string SortOper(std::string_view Operators) {
+    std::vector<std::string_view> pieces;
+    std::size_t from = 0;
+    for (std::size_t comma = Operators.find(','); comma != std::string_view::npos; comma = Operators.find(',', from)) {
+        pieces.push_back(Operators.substr(from, comma - from));
+        from = comma + 1;
     }
-    stykker.push_back(Operators.substr(fra));
-    std::sort(stykker.begin(), stykker.end());
-    Operators = stykker.front();
-    for (std::size_t i = 1; i < stykker.size(); ++i) Operators.append(", ").append(stykker[i]);
+    pieces.push_back(Operators.substr(from));
+    std::sort(pieces.begin(), pieces.end());
+    std::string sorted(pieces.front());
+    for (std::size_t i = 1; i < pieces.size(); ++i) sorted.append(", ").append(pieces[i]);
+    return sorted;
 }
 
-std::string Sammentælling::Operatører() const {
-    std::string liste(Columns(Operators, 2));
-    SortOper(liste);
-    return liste;
+std::string Tally::SortedOperators() const {
+    return SortOper(Columns(Operators, 2));
 }
 
-Sammentælling Sammentæl() {
-    Sammentælling alt;
-    alt.name = StationsNavn();
-    for (std::size_t i = 0; i < kTenLogs.size(); ++i) SumLog(kTenLogs[i], alt.rækker[i], alt.Operators);
-    for (BandSum& række : alt.rækker) {
-        række.BeregnScore();
-        alt.TotalQSOs += række.QSOs;
+Tally TallyLogs(LogReader& logs, const Stations& stations, std::string_view call) {
+    Tally tally;
+    tally.name = StationName(stations, call);
+    for (std::size_t i = 0; i < kTenLogs.size(); ++i) {
+        LogCount count = SumLog(logs, kTenLogs[i], std::move(tally.Operators));
+        tally.rows[i] = count.sum;
+        tally.Operators = std::move(count.Operators);
     }
-    for (std::size_t båndNr = 0; båndNr < kAntalBånd; ++båndNr) {
-        alt.band[båndNr].LægTil(alt.CW(båndNr));
-        alt.band[båndNr].LægTil(alt.SSB(båndNr));
-        alt.band[båndNr].BeregnScore();
-        alt.Total.LægTil(alt.band[båndNr]);
+    for (BandSum& row : tally.rows) {
+        row.ComputeScore();
+        tally.TotalQSOs += row.QSOs;
     }
-    alt.Total.BeregnScore();
-    return alt;
+    for (std::size_t bandNumber = 0; bandNumber < kBandCount; ++bandNumber) {
+        tally.band[bandNumber].Add(tally.CW(bandNumber));
+        tally.band[bandNumber].Add(tally.SSB(bandNumber));
+        tally.band[bandNumber].ComputeScore();
+        tally.Total.Add(tally.band[bandNumber]);
+    }
+    tally.Total.ComputeScore();
+    return tally;
 }
 
-const std::string& RigAf(std::size_t båndNr) {
-    return desk().rigs[kEquipmentBands.size() - 1 - båndNr];
+std::string_view GivenPhone(const PaperContext& context) {
+    return context.phone == kDefaultPhone ? std::string_view{} : context.phone;
 }
 
-const std::string& AntAf(std::size_t båndNr) {
-    return desk().antennas[kEquipmentBands.size() - 1 - båndNr];
-}
-
-std::string_view OplystTelefon() {
-    return desk().gsTelefon == kTelefonStandard ? std::string_view{} : desk().gsTelefon;
-}
-
-void DanSummary() {
-    VisForløb("Dan log");
-    TilføjForløb("Summary");
-    const Sammentælling alt = Sammentæl();
-    ÅbnPapir("Summary.txt");
-    SkrivBlad(alt);
-    platform().files.Close(kPapirFil);
+void WriteSummary(LineSink& paper, const PaperContext& context, const Tally& tally) {
+    paper.Write(kSheetTitle);
+    WriteBlank(paper);
+    paper.Write(ToNextZone(ToNextZone("Kaldesignal: " + context.call) + "Kategori: " + context.contestClass) + "Antal logsider: ");
+    WriteBlank(paper);
+    paper.Write("Navn: " + tally.name);
+    WriteBlank(paper);
+    paper.Write(std::string(kOperatorsLabel) + tally.SortedOperators());
+    WriteBlank(paper);
+    paper.Write("Bånd        QSOs - Dubs  Mults x Points = Band score  Mult total x Points total = Bandscore total  Stn/Ant"_t);
+    for (std::size_t bandNumber = kBandCount; bandNumber-- > 0;) WriteBand(paper, context, tally, bandNumber);
+    WriteBlank(paper);
+    WriteTotal(paper, tally);
+    WriteBlank(paper);
+    paper.Write("Ansvarshavende/Formand");
+    WriteBlank(paper);
+    WriteBlank(paper);
+    paper.Write(std::string(kPhoneLabel).append(GivenPhone(context)));
 }
 
 }  // namespace vatro

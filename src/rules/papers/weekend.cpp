@@ -1,43 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "papers/weekend.h"
 
-#include "platform.h"
-
 namespace vatro {
-
-DateTime gdFirstDay;
-DateTime gdSecondDay;
-std::string gsFirstDay;
-std::string gsSecondDay;
 
 namespace {
 
-constexpr int kLørdag = 5;
+constexpr int kSaturday = 5;
 
-DateTime NæsteDag(const DateTime& dag) {
-    return AddHours(dag, 24);
+DateTime NextDay(const DateTime& day) {
+    return AddHours(day, 24);
 }
 
-DateTime GennemTekst(const DateTime& dag) {
-    return ParseDate(FormatDate(dag)).value_or(dag);
+DateTime ThroughText(const DateTime& day) {
+    return ParseDate(FormatDate(day)).value_or(day);
 }
 
 }  // namespace
 
-void Find1Weekend() {
-    DateTime lørdag;
-    lørdag.year = platform().clock.Now().year;
-    lørdag.month = 8;
-    lørdag.day = 31;
+ContestWeekend Find1Weekend(int year) {
+    DateTime saturday;
+    saturday.year = year;
+    saturday.month = 8;
+    saturday.day = 31;
     do {
-        lørdag = NæsteDag(lørdag);
-    } while (Weekday(lørdag) != kLørdag);
-    const DateTime søndag = NæsteDag(lørdag);
-
-    gdFirstDay = GennemTekst(lørdag);
-    gsFirstDay = FormatDate(lørdag, "yyyy-mm-dd");
-    gdSecondDay = GennemTekst(søndag);
-    gsSecondDay = FormatDate(søndag, "yyyy-mm-dd");
+        saturday = NextDay(saturday);
+    } while (Weekday(saturday) != kSaturday);
+    const DateTime sunday = NextDay(saturday);
+    return {ThroughText(saturday), ThroughText(sunday), FormatDate(saturday, "yyyy-mm-dd"), FormatDate(sunday, "yyyy-mm-dd")};
 }
 
 }  // namespace vatro

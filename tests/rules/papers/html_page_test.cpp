@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "papers/html_page.h"
-#include "frame/state.h"
-
-#include <gmock/gmock.h>
 
 #include <algorithm>
 
-#include "frame/station.h"
-#include "paper_program.h"
+#include "paper_lines.h"
 
 namespace vatro {
 namespace {
-
-using ::testing::ElementsAre;
 
 const Lines kTop{"<html>", "<head><title>Fieldday log for OZ1AB/P 2026</title></head>", "<body>",
                  "<a name=\"Top\"></a><h1 align=\"Center\">(foreløbig) Fieldday log for OZ1AB/P 2026</h1>",
@@ -49,11 +43,23 @@ const std::string kBand = "<TR ALIGN=\"Center\"><TD ROWSPAN=\"2\">";
 const std::string kAll = "<TD COLSPAN=\"2\">Alle b&aring;nd og modes                  ";
 const std::string kTotalRow = "<TR ALIGN=\"Center\" BGCOLOR=\"#E0E0E0\"> ";
 
-class HtmlPage : public PaperProgram {
+class HtmlPage : public Papers {
 protected:
     Lines Page() {
-        Choose(frmMain->mnuFilerDanHtml);
-        return Paper("vatro2026.htm");
+        WrittenLines page;
+        WriteHtmlTop(page, context);
+        for (const LogId& log : kPaperOrder) {
+            DanHtmHoved(page, log);
+            const auto found = logs.logs.find(std::string(log.band).append(log.mode));
+            if (found != logs.logs.end()) {
+                ListedLines lines(found->second);
+                DanHtmKrop(lines, page);
+            }
+            WriteHtmlSectionEnd(page);
+        }
+        DanHtmSummary(page, context, TallyLogs(logs, stations, context.call));
+        WriteHtmlEnd(page);
+        return page.lines;
     }
 };
 
@@ -64,10 +70,6 @@ TEST_F(HtmlPage, WithoutALogHasEmptySectionsAndASummaryOfNoughts) {
     for (const char* band : {"80", "40", "20", "15", "10"}) table = table + Lines{kBand + band + kCwNought, kSsbNought};
     table = table + Lines{kTotalRow, kAll + "<TD> 0 <TD> 0 <TD> 0 <TD> 0 <TD><B> 0 </B>"};
     EXPECT_EQ(Page(), page + SummaryOf("", "", table));
-    EXPECT_THAT(Progress(), ElementsAre("Dan html", "80m CW", "80m SSB", "40m CW", "40m SSB", "20m CW", "20m SSB", "15m CW", "15m SSB",
-                                        "10m CW", "10m SSB"));
-    EXPECT_TRUE(IsFree(1));
-    EXPECT_TRUE(IsFree(2));
 }
 
 TEST_F(HtmlPage, ShowsEveryLineAndTheSumsBelow) {
@@ -113,31 +115,6 @@ TEST_F(HtmlPage, SumsUpInATable) {
     const Lines page = Page();
     ASSERT_GE(page.size(), wanted.size());
     EXPECT_EQ(Lines(page.end() - static_cast<std::ptrdiff_t>(wanted.size()), page.end()), wanted);
-}
-
-TEST_F(HtmlPage, NamesTheStationWithItsBlanks) {
-    desk().gsMyCall = "OZ1ABC/P";
-    const Lines page = Page();
-    EXPECT_EQ(page[1], "<head><title>Fieldday log for OZ1ABC/P 2026</title></head>");
-    EXPECT_EQ(page[5 + 60 + 4], "<tr align=\"center\"><td colspan=2>Test, formand" + std::string(73 - 13, ' '));
-}
-
-TEST_F(HtmlPage, IsNamedAfterTheYearOfTheClock) {
-    clock.now.year = 2031;
-    Choose(frmMain->mnuFilerDanHtml);
-    EXPECT_TRUE(HasPaper("vatro2031.htm"));
-}
-
-TEST_F(HtmlPage, StopsTheProgramIfItCannotBeCreated) {
-    files.FailFrom("open", 1, Failure::PathNotFound);
-    Choose(frmMain->mnuFilerDanHtml);
-    EXPECT_EQ(dialogs.failures, std::vector<int>{76});
-}
-
-TEST_F(HtmlPage, StopsTheProgramIfItCannotBeWritten) {
-    files.FailFrom("write", 20, Failure::DiskFull);
-    Choose(frmMain->mnuFilerDanHtml);
-    EXPECT_EQ(dialogs.failures, std::vector<int>{61});
 }
 
 }  // namespace

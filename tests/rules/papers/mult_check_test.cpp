@@ -1,22 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "papers/mult_check.h"
 
-#include <gmock/gmock.h>
-
 #include "columns.h"
-#include "paper_program.h"
+#include "paper_lines.h"
+#include "papers/log_sheets.h"
 
 namespace vatro {
 namespace {
-
-using ::testing::ElementsAre;
 
 const Lines kHead{"       Fieldday log for OZ1AB/P 2026, (Vatro version 1.2.3)", "       Multiplier Checksheet", " "};
 const std::string kModes = "       CW     SSB    CW     SSB    CW     SSB    CW     SSB    CW     SSB    ";
 const Lines kTop = kHead + Lines{" ", "       10m    10m    15m    15m    20m    20m    40m    40m    80m    80m    ", kModes, " "};
 const Lines kLaterTop = kHead + Lines{" ", "       10m           15m           20m           40m           80m           ", kModes};
 
-Lines Multipliers(const std::vector<const char*>& mults) {
+Lines LogOf(const std::vector<const char*>& mults) {
     Lines log;
     for (const char* mult : mults) log.push_back(Contact({.mult = mult}));
     return log;
@@ -33,31 +30,31 @@ Lines Numbered(int n) {
     return log;
 }
 
-class MultCheck : public PaperProgram {
+class MultCheck : public Papers {
 protected:
     Lines Sheet() {
-        Choose(frmMain->mnuFilerDanMult);
-        return Paper("Mult.txt");
+        WrittenLines sheet;
+        DanHoved(sheet, context, kMultiplierHeading.band, kMultiplierHeading.mode);
+        DanMult(sheet, context, CollectAllMultipliers(logs));
+        EXPECT_FALSE(logs.open);
+        return sheet.lines;
     }
 };
 
 TEST_F(MultCheck, WithoutALogHasItsHeadingsAlone) {
     EXPECT_EQ(Sheet(), kTop);
-    EXPECT_THAT(Progress(), ElementsAre("Dan log", "Multiplier checksheet"));
-    EXPECT_TRUE(IsFree(1));
-    EXPECT_TRUE(IsFree(2));
 }
 
 TEST_F(MultCheck, ShowsTheWorkedTable) {
-    Log("10mCW", Multipliers({"F", "DL"}));
-    Log("10mSSB", Multipliers({"DL"}));
-    Log("15mCW", Multipliers({"DL", "G"}));
-    Log("20mCW", Multipliers({"OH", "G"}));
-    Log("20mSSB", Multipliers({"F", "G"}));
-    Log("40mCW", Multipliers({"DL", "F"}));
-    Log("40mSSB", Multipliers({"F", "DL"}));
-    Log("80mCW", Multipliers({"F", "DL"}));
-    Log("80mSSB", Multipliers({"DL"}));
+    Log("10mCW", LogOf({"F", "DL"}));
+    Log("10mSSB", LogOf({"DL"}));
+    Log("15mCW", LogOf({"DL", "G"}));
+    Log("20mCW", LogOf({"OH", "G"}));
+    Log("20mSSB", LogOf({"F", "G"}));
+    Log("40mCW", LogOf({"DL", "F"}));
+    Log("40mSSB", LogOf({"F", "DL"}));
+    Log("80mCW", LogOf({"F", "DL"}));
+    Log("80mSSB", LogOf({"DL"}));
     const Lines rows{"       DL     DL     DL            G      F      DL     DL     DL     DL     ",
                      "       F             G             OH     G      F      F      F             "};
     EXPECT_EQ(Sheet(), kTop + rows);
@@ -70,7 +67,7 @@ TEST_F(MultCheck, TakesContactsWithAMultiplierOnly) {
 }
 
 TEST_F(MultCheck, SortsByCharacter) {
-    Log("10mCW", Multipliers({"a", "9A", "PA", "A", "3A", "PA0", "PA"}));
+    Log("10mCW", LogOf({"a", "9A", "PA", "A", "3A", "PA0", "PA"}));
     const Lines sheet = Sheet();
     ASSERT_EQ(sheet.size(), kTop.size() + 7);
     std::string column;
@@ -79,15 +76,15 @@ TEST_F(MultCheck, SortsByCharacter) {
 }
 
 TEST_F(MultCheck, CutsAMultiplierAtSevenCharacters) {
-    Log("10mCW", Multipliers({"ABCDEFGZZ", "ABCDEFGAA"}));
-    Log("10mSSB", Multipliers({"X"}));
+    Log("10mCW", LogOf({"ABCDEFGZZ", "ABCDEFGAA"}));
+    Log("10mSSB", LogOf({"X"}));
     const Lines rows{"       ABCDEFGX      " + std::string(56, ' '), "       ABCDEFG" + std::string(63, ' ')};
     EXPECT_EQ(Sheet(), kTop + rows);
 }
 
 TEST_F(MultCheck, LetsAShortLineMoveTheColumnsToItsRight) {
     Log("10mCW", {Contact({.mult = "DL"}), ""});
-    Log("10mSSB", Multipliers({"G", "F"}));
+    Log("10mSSB", LogOf({"G", "F"}));
     // The empty cell sorts first and adds no width.
     const Lines rows{"       F      " + std::string(56, ' '), "       DL     G      " + std::string(56, ' ')};
     EXPECT_EQ(Sheet(), kTop + rows);
@@ -120,30 +117,25 @@ TEST_F(MultCheck, HoldsOneHundredRows) {
     EXPECT_EQ(Trim(sheet[kTop.size() + 51 + kLaterTop.size()]), "M051");
 }
 
-TEST_F(MultCheck, WithAHundredAndOneStopsTheProgram) {
+TEST_F(MultCheck, HasNoPlaceForAHundredAndOne) {
     Log("15mCW", Numbered(101));
-    Log("80mSSB", Multipliers({"DL"}));
-    MultTable table;
-    MultCount count{};
-    SamlMult({"15m", "CW"}, table, count, 2);
-    EXPECT_EQ(count[2], 101U);
-    EXPECT_EQ(table[2][100], "M099   ");
-    // The file is left open, so that later logs cannot be opened.
-    EXPECT_FALSE(IsFree(1));
-    SamlMult({"80m", "SSB"}, table, count, 9);
-    EXPECT_EQ(count[9], 0U);
-    files.Close(1);
-
-    Choose(frmMain->mnuFilerDanMult);
-    EXPECT_EQ(dialogs.failures, std::vector<int>{9});
-    EXPECT_FALSE(ProgramRuns());
-    EXPECT_EQ(Paper("Mult.txt"), kHead);
+    Log("80mSSB", LogOf({"DL"}));
+    const MultColumn full = SamlMult(logs, {"15m", "CW"});
+    EXPECT_EQ(full.count, 101U);
+    EXPECT_EQ(full.cells[100], "M099   ");
+    // The log is left open, so that later ones cannot be opened.
+    EXPECT_TRUE(logs.open);
+    EXPECT_EQ(SamlMult(logs, {"80m", "SSB"}).count, 0U);
+    Multipliers all;
+    all.count[2] = full.count;
+    EXPECT_THROW(SortMult(all), RunTimeError);
 }
 
-TEST_F(MultCheck, StopsTheProgramIfItCannotBeCreated) {
-    files.FailFrom("open", 1, Failure::PathFileAccess);
-    Choose(frmMain->mnuFilerDanMult);
-    EXPECT_EQ(dialogs.failures, std::vector<int>{75});
+TEST_F(MultCheck, KeepsWhatWasCollectedBeforeAFailureAndLeavesTheLogOpen) {
+    Log("15mCW", Numbered(3));
+    logs.good = 2;
+    EXPECT_EQ(SamlMult(logs, {"15m", "CW"}).count, 2U);
+    EXPECT_TRUE(logs.open);
 }
 
 }  // namespace

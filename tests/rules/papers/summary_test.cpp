@@ -1,39 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "papers/summary.h"
 
-#include "frame/state.h"
-#include "tables/load_tables.h"
-
-#include <gmock/gmock.h>
-
-#include "exchange/equipment.h"
-#include "frame/station.h"
-#include "paper_program.h"
-#include "score/stations.h"
+#include "paper_lines.h"
 
 namespace vatro {
 namespace {
-
-using ::testing::ElementsAre;
-
-class Summary : public PaperProgram {
-protected:
-    Lines Sheet() {
-        Choose(frmMain->mnuEfterSummary);
-        return Paper("Summary.txt");
-    }
-    static BandSum Counted(const LogId& log, std::string operators = {}) {
-        BandSum sum;
-        SumLog(log, sum, operators);
-        return sum;
-    }
-    static std::string Sorted(std::string operators) {
-        SortOper(operators);
-        return operators;
-    }
-};
-
-constexpr LogId k80mCW{"80m", "CW"};
 
 const Lines kNothing{
     "Sammentællingsblad for EDR's HF Fieldday for lokalafdelinger",
@@ -64,11 +35,18 @@ const Lines kNothing{
     "Telefon (hvis der er spørgsmål): ",
 };
 
+class Summary : public Papers {
+protected:
+    Lines Sheet() {
+        WrittenLines sheet;
+        WriteSummary(sheet, context, TallyLogs(logs, stations, context.call));
+        EXPECT_FALSE(logs.open);
+        return sheet.lines;
+    }
+};
+
 TEST_F(Summary, WithoutALogHasAllItsLines) {
     EXPECT_EQ(Sheet(), kNothing);
-    EXPECT_THAT(Progress(), ElementsAre("Dan log", "Summary"));
-    EXPECT_TRUE(IsFree(1));
-    EXPECT_TRUE(IsFree(2));
 }
 
 TEST_F(Summary, ShowsTheRowsOfTheWorkedExample) {
@@ -79,8 +57,7 @@ TEST_F(Summary, ShowsTheRowsOfTheWorkedExample) {
     Log("20mCW", Times(162, Contact({.points = 3, .mult = "DL"})) + Times(200, Contact({.points = 3})) + Lines{Contact({.points = 10})} +
                      Times(77, Contact({.points = 1})));
     Log("10mCW", {NoteWith("37", "")});
-    desk().rigs[0] = "IC-751";
-    desk().antennas[0] = "Dipol";
+    context.equipment[4] = {"IC-751", "Dipol"};
     const Lines sheet = Sheet();
     EXPECT_EQ(sheet[8], "Bånd        QSOs - Dubs  Mults x Points = Band score  Mult total x Points total = Bandscore total  Stn/Ant");
     EXPECT_EQ(sheet[9], "3,5 MHz CW     120          31 x    240 =     7440                                                 IC-751/Dipol");
@@ -132,25 +109,12 @@ TEST_F(Summary, CountsEachKindOfLineAtItsEdges) {
     };
     for (const Case& told : cases) {
         Log("80mCW", {told.line});
-        BandSum sum;
-        std::string operators;
-        SumLog(k80mCW, sum, operators);
+        const auto [sum, operators] = SumLog(logs, k80mCW, {});
         EXPECT_EQ(sum.QSOs, told.qsos) << told.what;
         EXPECT_EQ(sum.Mults, told.mults) << told.what;
         EXPECT_EQ(sum.Points, told.points) << told.what;
         EXPECT_EQ(operators, told.operators) << told.what;
     }
-}
-
-TEST_F(Summary, AddsToWhatItIsGiven) {
-    Log("80mCW", {Contact({.points = 6, .mult = "VK"})});
-    BandSum sum{{.Points = 10, .Mults = 20}, 30};
-    std::string operators = ",OZ9Z";
-    SumLog(k80mCW, sum, operators);
-    EXPECT_EQ(sum.QSOs, 31);
-    EXPECT_EQ(sum.Mults, 21);
-    EXPECT_EQ(sum.Points, 16);
-    EXPECT_EQ(operators, ",OZ9Z,OZ1AB");
 }
 
 TEST_F(Summary, DoesNotAddAnOperatorWhoseCallIsPartOfAnother) {
@@ -179,27 +143,17 @@ TEST_F(Summary, ListsTheOperatorsOfDuplicatesAlone) {
 }
 
 TEST_F(Summary, SortsNoneOneAndManyOperators) {
-    EXPECT_EQ(Sorted(""), "");
-    EXPECT_EQ(Sorted("OZ1AB"), "OZ1AB");
-    EXPECT_EQ(Sorted("b,a,A,9,aa,\xE6"), "9, A, a, aa, b, \xE6");
-    EXPECT_EQ(Sorted(",x"), ", x");
-    EXPECT_EQ(Sorted("x,"), ", x");
-}
-
-TEST_F(Summary, NamesTheStationOfTheSocietysList) {
-    files.files["DATA\\EDR.TXT"] = {"OZ1A   Afdeling Syd", "OZ1AB  Afdeling Nord, formand", "OZ1AB  Afdeling Vest"};
-    IndlæsEDR();
-    EXPECT_EQ(Sheet()[4], "Navn: Afdeling Nord, formand" + std::string(73 - 22, ' '));
-    desk().gsMyCall = "OZ1AB";
-    EXPECT_EQ(Sheet()[4], "Navn: ");
-    desk().gsMyCall = "oz1ab/P";
-    EXPECT_EQ(Sheet()[4], "Navn: ");
+    EXPECT_EQ(SortOper(""), "");
+    EXPECT_EQ(SortOper("OZ1AB"), "OZ1AB");
+    EXPECT_EQ(SortOper("b,a,A,9,aa,\xE6"), "9, A, a, aa, b, \xE6");
+    EXPECT_EQ(SortOper(",x"), ", x");
+    EXPECT_EQ(SortOper("x,"), ", x");
 }
 
 TEST_F(Summary, FillsToTheNextPrintZone) {
-    const auto line = [this](const char* call, const char* contestClass) {
-        desk().gsMyCall = call;
-        desk().gsKlasse = contestClass;
+    const auto line = [this](const char* call, const char* klasse) {
+        context.call = call;
+        context.contestClass = klasse;
         return Sheet()[2];
     };
     EXPECT_EQ(line("", "B"), "Kaldesignal:  Kategori: B   Antal logsider: ");
@@ -209,19 +163,16 @@ TEST_F(Summary, FillsToTheNextPrintZone) {
 }
 
 TEST_F(Summary, TellsTheTelephoneUnlessItIsTheDefault) {
-    desk().gsTelefon = "87654321";
+    context.phone = "87654321";
     EXPECT_EQ(Sheet()[25], "Telefon (hvis der er spørgsmål): 87654321");
-    desk().gsTelefon = "12345678";
+    context.phone = "12345678";
     EXPECT_EQ(Sheet()[25], "Telefon (hvis der er spørgsmål): ");
-    desk().gsTelefon = "";
+    context.phone = "";
     EXPECT_EQ(Sheet()[25], "Telefon (hvis der er spørgsmål): ");
 }
 
 TEST_F(Summary, PutsTheEquipmentOnTheCwRowOfItsBand) {
-    for (std::size_t i = 0; i < 5; ++i) {
-        desk().rigs[i] = "R" + std::string(kEquipmentBands[i]);
-        desk().antennas[i] = "A" + std::string(kEquipmentBands[i]);
-    }
+    context.equipment = {{{"R10", "A10"}, {"R15", "A15"}, {"R20", "A20"}, {"R40", "A40"}, {"R80", "A80"}}};
     const Lines sheet = Sheet();
     EXPECT_EQ(sheet[9].substr(99), "R80/A80");
     EXPECT_EQ(sheet[11].substr(99), "R40/A40");
@@ -231,44 +182,44 @@ TEST_F(Summary, PutsTheEquipmentOnTheCwRowOfItsBand) {
     EXPECT_EQ(sheet[10].size(), 97U);
 }
 
+TEST_F(Summary, AddsToTheOperatorsOfEarlierLogs) {
+    Log("80mCW", {Contact({.points = 6, .mult = "VK"})});
+    const LogCount count = SumLog(logs, k80mCW, ",OZ9Z");
+    EXPECT_EQ(count.sum.QSOs, 1);
+    EXPECT_EQ(count.sum.Mults, 1);
+    EXPECT_EQ(count.sum.Points, 6);
+    EXPECT_EQ(count.Operators, ",OZ9Z,OZ1AB");
+}
+
 TEST_F(Summary, PassesOverALogThatCannotBeOpened) {
     Log("80mCW", {Contact({})});
-    files.Open(1, "data\\edr.txt", FileMode::Input);
-    EXPECT_EQ(Counted(k80mCW).QSOs, 0);
-    files.Close(1);
-    EXPECT_EQ(Counted(k80mCW).QSOs, 1);
+    Log("10mCW", {Contact({})});
+    logs.Open({"10m", "CW"});
+    EXPECT_EQ(SumLog(logs, k80mCW, {}).sum.QSOs, 0);
+    logs.Close();
+    EXPECT_EQ(SumLog(logs, k80mCW, {}).sum.QSOs, 1);
 }
 
-TEST_F(Summary, KeepsWhatWasCountedBeforeAFailureAndLeavesTheFileOpen) {
+TEST_F(Summary, KeepsWhatWasCountedBeforeAFailureAndLeavesTheLogOpen) {
     Log("80mCW", Times(5, Contact({})));
-    files.FailFrom("read", 3, Failure::DiskNotReady);
-    EXPECT_EQ(Counted(k80mCW).QSOs, 2);
-    files.FailFrom("read", 1000, Failure::DiskNotReady);
-    EXPECT_FALSE(IsFree(1));
+    logs.good = 2;
+    EXPECT_EQ(SumLog(logs, k80mCW, {}).sum.QSOs, 2);
+    EXPECT_TRUE(logs.open);
 }
 
-TEST_F(Summary, StopsTheProgramIfItCannotBeCreated) {
-    files.FailFrom("open", 11, Failure::PathNotFound);
-    Choose(frmMain->mnuEfterSummary);
-    EXPECT_EQ(dialogs.failures, std::vector<int>{76});
-    EXPECT_FALSE(ProgramRuns());
-}
-
-TEST_F(Summary, StopsTheProgramWhenAScoreOverflows) {
+TEST_F(Summary, FailsWhenAScoreOverflows) {
     // 4,700 multipliers times 465,300 points.
     Log("80mCW", Times(4700, Contact({.points = 99, .mult = "DL"})));
-    Choose(frmMain->mnuEfterSummary);
-    EXPECT_EQ(dialogs.failures, std::vector<int>{6});
-    EXPECT_FALSE(HasPaper("Summary.txt"));
+    EXPECT_THROW(TallyLogs(logs, stations, {}), RunTimeError);
 }
 
-TEST_F(Summary, StopsTheProgramWhenOnlyTheTotalOverflows) {
+TEST_F(Summary, FailsWhenOnlyTheTotalOverflows) {
     // 4,000 times 396,000 in each of two bands fits, 8,000 times 792,000 does not.
     const Lines log = Times(4000, Contact({.points = 99, .mult = "DL"}));
     Log("80mCW", log);
+    EXPECT_EQ(TallyLogs(logs, stations, {}).Total.Score, 1'584'000'000);
     Log("10mSSB", log);
-    Choose(frmMain->mnuEfterSummary);
-    EXPECT_EQ(dialogs.failures, std::vector<int>{6});
+    EXPECT_THROW(TallyLogs(logs, stations, {}), RunTimeError);
 }
 
 }  // namespace

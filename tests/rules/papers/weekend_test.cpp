@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "papers/weekend.h"
 
-#include "running_program.h"
+#include <gtest/gtest.h>
 
 namespace vatro {
 namespace {
@@ -14,51 +14,28 @@ DateTime Day(int year, int month, int day) {
     return moment;
 }
 
-class Weekend : public RunningProgram {
-protected:
-    void InYear(int year) {
-        clock.now.year = year;
-        Find1Weekend();
-    }
-};
-
-TEST_F(Weekend, IsTheFirstSaturdayOfSeptemberAndTheDayAfter) {
-    InYear(2026);
-    EXPECT_EQ(gdFirstDay, Day(2026, 9, 5));
-    EXPECT_EQ(gdSecondDay, Day(2026, 9, 6));
-    EXPECT_EQ(gsFirstDay, "2026-09-05");
-    EXPECT_EQ(gsSecondDay, "2026-09-06");
+TEST(Weekend, IsTheFirstSaturdayOfSeptemberAndTheDayAfter) {
+    const ContestWeekend weekend = Find1Weekend(2026);
+    EXPECT_EQ(weekend.gdFirstDay, Day(2026, 9, 5));
+    EXPECT_EQ(weekend.gdSecondDay, Day(2026, 9, 6));
+    EXPECT_EQ(weekend.gsFirstDay, "2026-09-05");
+    EXPECT_EQ(weekend.gsSecondDay, "2026-09-06");
 }
 
-TEST_F(Weekend, DoesNotBeginOnASundayTheFirst) {
-    InYear(2024);
-    EXPECT_EQ(gsFirstDay, "2024-09-07");
-    EXPECT_EQ(gsSecondDay, "2024-09-08");
+TEST(Weekend, DoesNotBeginOnASundayTheFirst) {
+    EXPECT_EQ(Find1Weekend(2024).gsFirstDay, "2024-09-07");
+    EXPECT_EQ(Find1Weekend(2024).gsSecondDay, "2024-09-08");
 }
 
-TEST_F(Weekend, CanBeginOnTheFirst) {
-    InYear(2029);
-    EXPECT_EQ(gsFirstDay, "2029-09-01");
-    EXPECT_EQ(gsSecondDay, "2029-09-02");
+TEST(Weekend, CanBeginOnTheFirst) {
+    EXPECT_EQ(Find1Weekend(2029).gsFirstDay, "2029-09-01");
+    EXPECT_EQ(Find1Weekend(2029).gsSecondDay, "2029-09-02");
 }
 
-TEST_F(Weekend, GoesByTheYearOfTheClockAlone) {
-    clock.now = {2024, 1, 1, 0, 0, 0, 0};
-    Find1Weekend();
-    EXPECT_EQ(gdFirstDay, Day(2024, 9, 7));
-}
-
-TEST_F(Weekend, OfALaterHalfCenturyIsReadBackACenturyEarlier) {
+TEST(Weekend, OfALaterHalfCenturyIsReadBackACenturyEarlier) {
     // 3 September 2050 is a Saturday.
-    InYear(2050);
-    EXPECT_EQ(gdFirstDay, Day(1950, 9, 3));
-    EXPECT_EQ(gsFirstDay, "2050-09-03");
-}
-
-TEST_F(Weekend, IsWorkedOutAtTheStart) {
-    clock.now.year = 2023;
-    Start();
-    EXPECT_EQ(gsFirstDay, "2023-09-02");
+    EXPECT_EQ(Find1Weekend(2050).gdFirstDay, Day(1950, 9, 3));
+    EXPECT_EQ(Find1Weekend(2050).gsFirstDay, "2050-09-03");
 }
 
 }  // namespace

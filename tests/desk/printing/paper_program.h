@@ -3,55 +3,16 @@
 // A started program with logs in its directory, whose papers are made from the menu.
 #pragma once
 
-#include <cstdio>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "frame/band_mode.h"
 #include "printing/frmInfo.h"
+#include "rules/papers/paper_lines.h"
 #include "running_program.h"
 
 namespace vatro {
-
-using Lines = std::vector<std::string>;
-
-/// What a test line differs in.
-struct Told {
-    const char* call = "DL1AA";
-    int points = 3;
-    const char* mult = "";
-    const char* op = "OZ1AB";
-    const char* mode = "CW";
-    const char* time = "13:05";
-    const char* date = "05-09-26";
-    const char* sent = "599";
-    const char* received = "579";
-};
-
-/// A contact line of 79 columns: 599-0012 579-0034, as far as nothing else is told.
-inline std::string Contact(const Told& told) {
-    char line[120];
-    std::snprintf(line, sizeof line, "%5s %-15s %-3s-0012 %-3s-0034 %2d %-10s %-6s     %-5s %s", told.time, told.call, told.sent,
-                  told.received, told.points, told.mult, told.op, told.mode, told.date);
-    return line;
-}
-
-/// A note that holds these texts at its points and multiplier columns.
-inline std::string NoteWith(const char* points, const char* mult) {
-    char line[120];
-    std::snprintf(line, sizeof line, "NOTE: %-34s%-2s %s", "ny antenne", points, mult);
-    return line;
-}
-
-inline Lines Times(std::size_t n, const std::string& line) {
-    return Lines(n, line);
-}
-
-inline Lines operator+(Lines a, const Lines& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
 
 class PaperProgram : public RunningProgram {
 protected:
