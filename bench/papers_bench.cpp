@@ -12,18 +12,15 @@
 #include "country/lookup.h"
 #include "disk_files.h"
 #include "entry/frmMain.h"
-#include "frame/band_mode.h"
 #include "frame/log_file.h"
 #include "frame/state.h"
 #include "frame/station.h"
 #include "log/contact_line.h"
 #include "page.h"
-#include "papers/logs.h"
 #include "program.h"
 #include "sample.h"
 #include "score/points.h"
 #include "started_program.h"
-#include "tables/unknown.h"
 
 namespace vatro::bench {
 
@@ -71,17 +68,17 @@ private:
 /// A log without an error, of calls of the sample.
 std::vector<std::string> FaultlessLog(const std::vector<std::string>& sample, std::string_view mode) {
     std::vector<std::string> log;
-    ResetLande();
-    desk().giMult = 0;
+    WorkedCountries countries(desk().tables);
+    int multipliers = 0;
     for (const std::string& line : sample) {
         if (log.size() == kContacts) break;
         Contact qso;
         qso.call = kCall.TrimmedOf(line);
-        LandWkd(qso.call, qso.multiplier, MarkAction::Test);
-        if (desk().giMult == kCountries && !qso.multiplier.empty()) continue;
-        BeregnPoint(qso.call);
-        LandWkd(qso.call, qso.multiplier, MarkAction::Mark);
-        qso.point = desk().giQSOPoint;
+        if (multipliers == kCountries && countries.LandWkd(qso.call, MarkAction::Test).changed) continue;
+        const WorkedCountries::Result country = countries.LandWkd(qso.call, MarkAction::Mark);
+        if (country.changed) ++multipliers;
+        qso.multiplier = country.resultat;
+        qso.point = BeregnPoint(qso.call, desk().tables, desk().stations, desk().gbVisLand);
         qso.time = kTime.Of(line);
         qso.reportSent = qso.reportReceived = mode == "CW" ? "599" : "59";
         qso.numberSent = kNumberSent.Of(line);
@@ -148,13 +145,12 @@ void LookUp(benchmark::State& state) {
         calls.emplace_back();
         for (const std::string& line : Lines(Station::Path(log))) calls.back().emplace_back(kCall.TrimmedOf(line));
     }
-    std::string country;
+    WorkedCountries countries(desk().tables);
     for (auto _ : state) {
         for (const std::vector<std::string>& log : calls) {
-            ResetLande();
-            for (const std::string& call : log) LandWkd(call, country, MarkAction::Mark);
+            countries.ResetLande();
+            for (const std::string& call : log) benchmark::DoNotOptimize(countries.LandWkd(call, MarkAction::Mark));
         }
-        benchmark::DoNotOptimize(country.data());
     }
 }
 

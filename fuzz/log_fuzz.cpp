@@ -18,7 +18,7 @@
 #include "frame/log_file.h"
 #include "frame/start.h"
 #include "log/contact_line.h"
-#include "papers/error_list.h"
+#include "printing/error_list_run.h"
 #include "world.h"
 
 namespace {
@@ -98,7 +98,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (loaded.size() > current.size()) __builtin_trap();
     if (!std::equal(loaded.begin(), loaded.end(), current.begin())) __builtin_trap();
     CheckSuffixes(all);
-    DanFejlliste();
+    MakeErrorList();
     if (texts["LOG\\FEJLLIST.TXT"].empty()) __builtin_trap();
     EndProgram();
     return 0;

@@ -10,10 +10,9 @@
 
 #include "entry/frmMain.h"
 #include "frame/start.h"
-#include "papers/adif.h"
-#include "papers/html_page.h"
-#include "papers/log_sheets.h"
-#include "papers/printing.h"
+#include "printing/exports.h"
+#include "printing/printer.h"
+#include "printing/sheets.h"
 #include "world.h"
 
 namespace {
@@ -58,8 +57,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FillLogs(texts, {reinterpret_cast<const char*>(data), size});
     BeginProgram();
     Dispatch(StartProgram);
-    for (void (*paper)() : {DanAlt, DanHtml, EksporterAdif}) Make(paper);
-    Make([] { Udskriv(PrintAlt); });
+    for (void (*paper)() : {MakeAllPapers, MakeHtmlPage, ExportAdif}) Make(paper);
+    Make([] { RunPrintJob(PrintAll); });
     world->pages.TakeJobs();
     for (const auto& [name, text] : texts)
         if (name.ends_with(".ADI") && !ReadsAsAdif(text)) __builtin_trap();

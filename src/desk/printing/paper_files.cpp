@@ -15,8 +15,7 @@ namespace {
 std::array<Equipment, kBandCount> CurrentEquipment() {
     static_assert(kEquipmentBands.size() == kBandCount);
     std::array<Equipment, kBandCount> equipment;
-    for (std::size_t i = 0; i < kBandCount; ++i)
-        equipment[i] = {desk().rigs[kBandCount - 1 - i], desk().antennas[kBandCount - 1 - i]};
+    for (std::size_t i = 0; i < kBandCount; ++i) equipment[i] = {desk().rigs[kBandCount - 1 - i], desk().antennas[kBandCount - 1 - i]};
     return equipment;
 }
 

@@ -65,7 +65,12 @@ std::string_view PointsMessage(std::int32_t points) {
 class ErrorList::Check {
 public:
     Check(ErrorList& of, LineSink& list, const DateTime& now, std::string_view logMode)
-        : countries_(of.countries_), stations_(of.stations_), left_(of.left_), list_(list), now_(now), cw_(logMode == "CW"),
+        : countries_(of.countries_),
+          stations_(of.stations_),
+          left_(of.left_),
+          list_(list),
+          now_(now),
+          cw_(logMode == "CW"),
           ssb_(logMode == "SSB") {
         countries_.ResetLande();
         stations_.ResetEDR();

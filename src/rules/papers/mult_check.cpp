@@ -93,9 +93,8 @@ void LayOutMultipliers(const Multipliers& multipliers, const MultiplierPaper& pa
 }
 
 void DanMult(LineSink& paper, const PaperContext& context, const Multipliers& multipliers) {
-    LayOutMultipliers(multipliers,
-                      {[&paper](std::string_view line) { paper.Write(line); },
-                       [&paper, &context] { DanHoved(paper, context, kMultiplierHeading.band, kMultiplierHeading.mode); }});
+    LayOutMultipliers(multipliers, {[&paper](std::string_view line) { paper.Write(line); },
+                                    [&paper, &context] { DanHoved(paper, context, kMultiplierHeading.band, kMultiplierHeading.mode); }});
 }
 
 }  // namespace vatro

@@ -99,10 +99,10 @@ TEST_F(ErrorListRun, DisablesTheMainFormWhileItRuns) {
         void Refresh(Form&) override { seen.push_back(frmMain->Enabled() || !frmMain->Hourglass()); }
         std::vector<bool> seen;
     } watch;
-    InstallPlatform({watch, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+    InstallPlatform(watch, {dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
     List();
     EXPECT_EQ(watch.seen, std::vector<bool>(10, false));
-    InstallPlatform({front, dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
+    InstallPlatform(front, {dialogs, settings, files, clock, help, instance, sound, printer, {1, 2, 3}});
 }
 
 TEST_F(ErrorListRun, StopsTheProgramIfItCannotBeCreated) {

@@ -111,9 +111,8 @@ TEST_F(LogSheetFiles, ChangeNoLog) {
 }
 
 const Lines kMultHead{"       Fieldday log for OZ1AB/P 2026, (Vatro version 1.2.3)", "       Multiplier Checksheet", " "};
-const Lines kMultTop =
-    kMultHead + Lines{" ", "       10m    10m    15m    15m    20m    20m    40m    40m    80m    80m    ",
-                      "       CW     SSB    CW     SSB    CW     SSB    CW     SSB    CW     SSB    ", " "};
+const Lines kMultTop = kMultHead + Lines{" ", "       10m    10m    15m    15m    20m    20m    40m    40m    80m    80m    ",
+                                         "       CW     SSB    CW     SSB    CW     SSB    CW     SSB    CW     SSB    ", " "};
 
 class MultCheckFile : public PaperProgram {
 protected:

@@ -27,22 +27,23 @@ protected:
 const std::string kHeader = "Genereret af QQ9ZZZ's Logprogram (RT60)<EOH>\r\n\r\n";
 
 TEST_F(Adif, WritesTheWorkedRecord) {
-    EXPECT_EQ(Export({"13:05 OZ9XYZ/P        599-0012 579-0034 10 G          OZ1AB  QSL CW    05-09-26"}, {"10m", "CW"}), kHeader +
-                            "<QSO_DATE:8:d>20260905\r\n"
-                            "<TIME_ON:4>1305\r\n"
-                            "<BAND:3>10M\r\n"
-                            "<MODE:2>CW\r\n"
-                            "<CALL:8>OZ9XYZ/P\r\n"
-                            "<RST_SENT:3>599\r\n"
-                            "<SRL_SENT:4>0012\r\n"
-                            "<RST_RCVD:3>579\r\n"
-                            "<SRL_RCVD:4>0034\r\n"
-                            "<POINTS:2>10\r\n"
-                            "<MULT:1>G\r\n"
-                            "<OPERATOR:5>OZ1AB\r\n"
-                            "<EOR>\r\n"
-                            "\r\n"
-                            "\r\n");
+    EXPECT_EQ(Export({"13:05 OZ9XYZ/P        599-0012 579-0034 10 G          OZ1AB  QSL CW    05-09-26"}, {"10m", "CW"}),
+              kHeader +
+                  "<QSO_DATE:8:d>20260905\r\n"
+                  "<TIME_ON:4>1305\r\n"
+                  "<BAND:3>10M\r\n"
+                  "<MODE:2>CW\r\n"
+                  "<CALL:8>OZ9XYZ/P\r\n"
+                  "<RST_SENT:3>599\r\n"
+                  "<SRL_SENT:4>0012\r\n"
+                  "<RST_RCVD:3>579\r\n"
+                  "<SRL_RCVD:4>0034\r\n"
+                  "<POINTS:2>10\r\n"
+                  "<MULT:1>G\r\n"
+                  "<OPERATOR:5>OZ1AB\r\n"
+                  "<EOR>\r\n"
+                  "\r\n"
+                  "\r\n");
 }
 
 TEST_F(Adif, TrimsValuesAndCountsTheirLength) {

@@ -23,8 +23,8 @@ protected:
                                  "OZ        Denmark                  EU -1 ", "VK        Australia                OC -10"})
             countries.Read(line);
         PrefixReader prefixes(tables);
-        for (const char* line : {"DL        DL        14 28", "G         G         14 27", "OZ        OZ        14 18",
-                                 "VK        VK        30 59"})
+        for (const char* line :
+             {"DL        DL        14 28", "G         G         14 27", "OZ        OZ        14 18", "VK        VK        30 59"})
             prefixes.Read(line);
         tables.IndexPrefixes();
         stations.Read("OZ1ABC Test, formand");

@@ -121,9 +121,9 @@ TEST_F(PrintedPapers, OfTheSummaryTellThePagesSoFarAndTheTelephone) {
     EXPECT_EQ(row(2), "       Kaldesignal: OZ1AB/P          Kategori: A              Antal logsider:  2");
     EXPECT_EQ(row(8), "       OZ1AB");
     EXPECT_EQ(row(13), "       3,5 MHz CW      1      1 x      2 =         2" + std::string(29, ' '));
-    ASSERT_EQ(pages.notes.size(), 1U + 13 + 15 + 6);
-    EXPECT_EQ(row(32), "       Telefon (hvis der er spørgsmål): ...");
-    EXPECT_EQ(row(33), "87654321");
+    ASSERT_EQ(pages.notes.size(), 1U + 13 + 15 + 7);
+    EXPECT_EQ(row(33), "       Telefon (hvis der er spørgsmål): ...");
+    EXPECT_EQ(row(34), "87654321");
 }
 
 }  // namespace
