@@ -94,9 +94,6 @@ struct DeskState {
     DuplicateSearch lastSearch;
     /// Points of the contact being built; every lookup that decides points writes it (tables/worked.h).
     std::int32_t giQSOPoint = 0;
-
-    /// Morse: the settings of the keyer, the last send, and the keyer itself.
-    KeyerState cw;
 };
 
 /// The state of this run.
