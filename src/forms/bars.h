@@ -18,7 +18,7 @@ namespace vatro {
 class Toolbar : public Control {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     struct ToolButton {
         int index = 0;
         std::string caption;
@@ -47,7 +47,7 @@ private:
 class StatusBar : public Control {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     StatusBar(Form& form, std::string_view name, std::vector<std::string> panels) : Control(form, name), panels_(std::move(panels)) {}
     const std::vector<std::string>& Panels() const { return panels_; }
     /// The panel must exist, here and below.
@@ -70,7 +70,7 @@ struct MenuLook {
 class MenuItem : public Control {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     MenuItem(Form& form, MenuItem* menu, std::string_view name, std::string_view caption, int index = -1, MenuLook look = {});
 
     const std::string& Caption() const { return caption_; }

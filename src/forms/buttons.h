@@ -17,7 +17,7 @@ class OptionButton;
 class Frame : public Control {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     Frame(Form& form, std::string_view name, std::string_view caption, Control* accessTarget = nullptr);
     const std::string& Caption() const { return caption_; }
     char AccessLetter() const override;
@@ -50,7 +50,7 @@ private:
 class Button : public CaptionedControl {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     Button(Form& form, std::string_view name, std::string_view caption) : CaptionedControl(form, name, -1, caption) {}
     bool isDefault = false;
     bool isCancel = false;
@@ -71,7 +71,7 @@ private:
 class CheckBox : public CaptionedControl {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     CheckBox(Form& form, std::string_view name, std::string_view caption) : CaptionedControl(form, name, -1, caption) {}
     bool Value() const { return value_; }
     /// Runs Click if the value has become another one.
@@ -91,7 +91,7 @@ private:
 class OptionButton : public CaptionedControl {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     /// The frame must be declared before it.
     OptionButton(Form& form, std::string_view name, int index, std::string_view caption, Frame& group);
     /// Without one that is on, Tab leads to each of them.

@@ -69,7 +69,7 @@ public:
 
     /// What it is, for those that treat the kinds of control in different ways; see by_kind.h.
     virtual ControlKind Kind() = 0;
-    virtual ConstControlKind Kind() const = 0;
+    virtual ReadOnlyControlKind Kind() const = 0;
 
     Form& Parent() const { return form_; }
     const std::string& Name() const { return name_; }

@@ -30,7 +30,7 @@ class UpDown;
 template <class... Kinds>
 struct ControlKinds {
     using Pointer = std::variant<Kinds*...>;
-    using ConstPointer = std::variant<const Kinds*...>;
+    using ReadOnlyPointer = std::variant<const Kinds*...>;
 };
 
 using AllControlKinds = ControlKinds<Button, CheckBox, ComboBox, Frame, Label, ListBox, MenuItem, OptionButton, Picture, ProgressBar,
@@ -38,6 +38,6 @@ using AllControlKinds = ControlKinds<Button, CheckBox, ComboBox, Frame, Label, L
 
 /// A control, as what it is.
 using ControlKind = AllControlKinds::Pointer;
-using ConstControlKind = AllControlKinds::ConstPointer;
+using ReadOnlyControlKind = AllControlKinds::ReadOnlyPointer;
 
 }  // namespace vatro

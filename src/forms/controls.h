@@ -22,7 +22,7 @@ namespace vatro {
 class Label : public Control {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     explicit Label(Form& form, std::string_view name, std::string_view caption = {}, Font font = {});
     /// The name of a field: the access letter in the caption leads to the field.
     Label(Form& form, std::string_view name, int index, std::string_view caption, Control* accessTarget = nullptr);
@@ -59,7 +59,7 @@ private:
 class Picture : public Control {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     Picture(Form& form, std::string_view name, std::string_view file) : Control(form, name), file_(file) {}
     /// The name of its file.
     const std::string& File() const { return file_; }
@@ -77,7 +77,7 @@ private:
 class ScrollBar : public Control {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     struct Range {
         int min = 0;
         int max = 0;
@@ -109,7 +109,7 @@ private:
 class UpDown : public Control {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     struct Range {
         int min = 0;
         int max = 0;
@@ -136,7 +136,7 @@ private:
 class Timer : public Control, public Ticker {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     Timer(Form& form, std::string_view name, int interval) : Control(form, name), interval_(interval) {}
     ~Timer() override;
     int Interval() const override { return interval_; }
@@ -162,7 +162,7 @@ class ProgressBar : public Control {
 public:
     using Control::Control;
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     int Max() const { return max_; }
     /// A value above the new maximum becomes it. A maximum below 0 is 0.
     void SetMax(int max);

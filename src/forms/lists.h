@@ -26,7 +26,7 @@ enum class ListOrder {
 class ListBox : public Control {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     explicit ListBox(Form& form, std::string_view name, Font font = {}, int columns = 0);
     ListBox(Form& form, std::string_view name, Font font, ListOrder order);
     bool TakesFocus() const override { return true; }
@@ -90,7 +90,7 @@ enum class ComboStyle { DropDown, DropDownList };
 class ComboBox : public TextControl {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     explicit ComboBox(Form& form, std::string_view name, ComboStyle style = ComboStyle::DropDown) : TextControl(form, name), style_(style) {
         SetLocked(style == ComboStyle::DropDownList);
     }

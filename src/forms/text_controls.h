@@ -81,7 +81,7 @@ class TextBox : public TextControl {
 public:
     using TextControl::TextControl;
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
 };
 
 /// Several lines of text that the user reads, scrolls and copies from, but does not edit. Lines are ended by CR LF. Keys
@@ -89,7 +89,7 @@ public:
 class TextView : public TextControl {
 public:
     ControlKind Kind() override { return this; }
-    ConstControlKind Kind() const override { return this; }
+    ReadOnlyControlKind Kind() const override { return this; }
     TextView(Form& form, std::string_view name) : TextControl(form, name) { SetLocked(true); }
 };
 

@@ -32,8 +32,8 @@ void SoundThread::Start() {
     loop_->Start([players = players_] { players->byNumber.clear(); });
 }
 
-void SoundThread::Post(std::function<void()> task) {
-    if (started_ && !ended_) loop_->Post(std::move(task));
+void SoundThread::Queue(std::function<void()> task) {
+    if (started_ && !ended_) loop_->Queue(std::move(task));
 }
 
 bool SoundThread::Await(std::function<void()> task, std::chrono::milliseconds patience) {
@@ -42,7 +42,7 @@ bool SoundThread::Await(std::function<void()> task, std::chrono::milliseconds pa
     // Whichever side is done with it last lets it go.
     const auto done = std::make_shared<std::promise<void>>();
     const std::future<void> answer = done->get_future();
-    Post([done, task = std::move(task)] {
+    Queue([done, task = std::move(task)] {
         task();
         done->set_value();
     });
@@ -52,12 +52,12 @@ bool SoundThread::Await(std::function<void()> task, std::chrono::milliseconds pa
 int SoundThread::AddPlayer(std::function<std::unique_ptr<SoundPlayer>()> make) {
     Start();
     const int player = ++lastPlayer_;
-    Post([players = players_, player, make = std::move(make)] { players->byNumber[player] = make(); });
+    Queue([players = players_, player, make = std::move(make)] { players->byNumber[player] = make(); });
     return player;
 }
 
 void SoundThread::Ask(int player, std::function<void(SoundPlayer&)> task) {
-    Post([players = players_, player, task = std::move(task)] {
+    Queue([players = players_, player, task = std::move(task)] {
         const auto found = players->byNumber.find(player);
         if (found != players->byNumber.end()) task(*found->second);
     });
@@ -65,7 +65,7 @@ void SoundThread::Ask(int player, std::function<void(SoundPlayer&)> task) {
 
 void SoundThread::RemovePlayer(int player) {
     // It is out of reach before it goes: the sound system may let other tasks run meanwhile.
-    Post([players = players_, player] { players->byNumber.extract(player); });
+    Queue([players = players_, player] { players->byNumber.extract(player); });
 }
 
 bool SoundThread::End() {

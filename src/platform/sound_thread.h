@@ -23,7 +23,7 @@ public:
     /// Begins the thread; once. `atEnd` runs there behind everything else, and nothing that was posted runs after it.
     virtual void Start(std::function<void()> atEnd) = 0;
     /// Has it done there, in the order of the calls. It is called between Start and End alone.
-    virtual void Post(std::function<void()> task) = 0;
+    virtual void Queue(std::function<void()> task) = 0;
     /// Ends the thread as soon as the task under way is done; what has not begun by then is not done. Once. False if the thread
     /// hangs for so long; it is left to itself then.
     virtual bool End(std::chrono::milliseconds patience) = 0;
@@ -52,7 +52,7 @@ private:
     struct Players;
 
     void Start();
-    void Post(std::function<void()> task);
+    void Queue(std::function<void()> task);
 
     std::unique_ptr<SoundLoop> loop_;
     /// Touched on the thread alone; who holds it besides does not look into it.

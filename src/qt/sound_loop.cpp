@@ -30,7 +30,7 @@ void QtSoundLoop::Start(std::function<void()> atEnd) {
     thread_->start(QThread::TimeCriticalPriority);
 }
 
-void QtSoundLoop::Post(std::function<void()> task) {
+void QtSoundLoop::Queue(std::function<void()> task) {
     QMetaObject::invokeMethod(home_, std::move(task), Qt::QueuedConnection);
 }
 

@@ -12,7 +12,7 @@ namespace vatro {
 class QtSoundLoop : public SoundLoop {
 public:
     void Start(std::function<void()> atEnd) override;
-    void Post(std::function<void()> task) override;
+    void Queue(std::function<void()> task) override;
     bool End(std::chrono::milliseconds patience) override;
 
 private:

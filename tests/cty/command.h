@@ -57,7 +57,7 @@ protected:
     }
     /// The primary prefix of the country that the program finds for the call, "" for none.
     static std::string CountryOf(const std::string& call) {
-        return std::string(Trim(desk().countries.LandWkd(call, MarkAction::Test).resultat));
+        return std::string(Trim(desk().countries.LandWkd(call, MarkAction::Test).prefix));
     }
 
     FakeDialogs dialogs_;

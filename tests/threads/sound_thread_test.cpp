@@ -38,7 +38,7 @@ protected:
     void MakeDevice() {
         device = std::make_unique<ThreadedSoundDevice>(
             thread, [speaker = speaker] { return std::make_unique<SpeakerStream>(speaker); },
-            [this, program = program](const SoundSignal& signal) { program->Post([this, signal] { TakeSignal(signal); }); });
+            [this, program = program](const SoundSignal& signal) { program->Queue([this, signal] { TakeSignal(signal); }); });
     }
     /// With an event at the end of each half.
     std::unique_ptr<SoundBuffer> MakeBuffer() {

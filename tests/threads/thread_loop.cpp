@@ -5,7 +5,7 @@
 
 namespace vatro {
 
-void Tasks::Post(std::function<void()> task) {
+void Tasks::Queue(std::function<void()> task) {
     const std::lock_guard lock(mutex_);
     if (closed_) return;
     waiting_.push_back(std::move(task));

@@ -17,7 +17,7 @@ namespace vatro {
 /// What has been posted to a thread and not been done.
 class Tasks {
 public:
-    void Post(std::function<void()> task);
+    void Queue(std::function<void()> task);
     /// Waits for a task and takes it; nothing if none comes in this time, or after Close.
     std::optional<std::function<void()>> Take(std::chrono::milliseconds patience);
     /// What waits is dropped, and nothing is taken any more.
@@ -35,7 +35,7 @@ private:
 class ThreadLoop : public SoundLoop {
 public:
     void Start(std::function<void()> atEnd) override;
-    void Post(std::function<void()> task) override { tasks_->Post(std::move(task)); }
+    void Queue(std::function<void()> task) override { tasks_->Queue(std::move(task)); }
     /// Waits as long as it takes: a test that hangs is ended by its runner.
     bool End(std::chrono::milliseconds patience) override;
 

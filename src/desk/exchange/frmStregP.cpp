@@ -41,7 +41,7 @@ FrmStregP::FrmStregP()
 }
 
 void FrmStregP::Form_Load() {
-    RestorePlace(*this, setting::kStregPPlace);
+    RestorePlace(*this, setting::kSuffixWindowPlace);
     Show();
     List1.Clear();
     IndlæsLogs();
@@ -52,7 +52,7 @@ void FrmStregP::Form_Load() {
 }
 
 void FrmStregP::StoreState() {
-    StorePlace(*this, setting::kStregPPlace);
+    StorePlace(*this, setting::kSuffixWindowPlace);
 }
 
 void FrmStregP::IndlæsLogs() {

@@ -12,7 +12,7 @@ std::string NoteCountry(std::string_view call, MarkAction action) {
     const WorkedCountries::Result result = desk().countries.LandWkd(call, action);
     if (result.points) desk().giQSOPoint = *result.points;
     if (result.changed && action != MarkAction::Test) desk().giMult = ToInt16(desk().giMult + (action == MarkAction::Mark ? 1 : -1));
-    return std::string(result.resultat);
+    return std::string(result.prefix);
 }
 
 void NoteStation(std::string_view call, MarkAction action) {

@@ -70,7 +70,7 @@ WorkedCountries::Result WorkedCountries::LandWkd(std::string_view call, MarkActi
     result.changed = action == MarkAction::Unmark ? mark : !mark;
     if (!result.changed) return result;
     if (action != MarkAction::Test) mark = action == MarkAction::Mark;
-    result.resultat = CountryAt(tables_, *found.row).Pfx.Padded();
+    result.prefix = CountryAt(tables_, *found.row).Pfx.Padded();
     return result;
 }
 

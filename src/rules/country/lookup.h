@@ -55,7 +55,7 @@ public:
         /// multiplier; with Unmark, it was.
         bool changed = false;
         /// The ten characters of the country's prefix where it took effect, else nothing. Lives as long as the tables' row.
-        std::string_view resultat;
+        std::string_view prefix;
         /// What the country decides, whatever the action.
         std::optional<std::int32_t> points;
     };

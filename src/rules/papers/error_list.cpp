@@ -132,7 +132,7 @@ private:
         const std::string_view call = kCall.TrimmedOf(line_);
         std::int32_t& worth = left_.giQSOPoint.emplace(EuropeanPoints(call));
         const WorkedCountries::Result country = countries_.LandWkd(call, MarkAction::Mark);
-        newMultiplier_ = Trim(country.resultat);
+        newMultiplier_ = Trim(country.prefix);
         if (country.changed) ++*left_.giMult;
         worth = country.points.value_or(worth);
         const double points = NumericValue(kPoint.TrimmedOf(line_));

@@ -47,7 +47,7 @@ std::vector<Row> Rows() {
                           RowOf(kFarnsworth),
                           RowOf(kNumberFormat),
                           RowOf(kReportFormat)};
-    for (const PlaceSetting& place : {kQsoPlace, kCallPlace, kB4Place, kEdrPlace, kStregPPlace})
+    for (const PlaceSetting& place : {kQsoPlace, kCallPlace, kB4Place, kEdrPlace, kSuffixWindowPlace})
         for (const LongSetting& twips : {place.left, place.top, place.width, place.height}) rows.push_back(RowOf(twips));
     for (const TextSetting& text : kKeyerTexts) rows.push_back(RowOf(text));
     for (const TextSetting& rig : kRigs) rows.push_back(RowOf(rig));

@@ -172,7 +172,7 @@ TEST_F(SummaryFile, TellsWhatIsSet) {
 }
 
 TEST_F(SummaryFile, OfALogThatCannotBeReadCountsNoLogBehindIt) {
-    Log("10mCW", Times(5, Contact({.op = "OZ9Z"})));
+    Log("10mCW", Times(5, Contact({.operatorCall = "OZ9Z"})));
     Log("80mCW", {Contact({})});
     files.FailFrom("read", 3, Failure::DiskNotReady);
     const Lines sheet = Sheet();

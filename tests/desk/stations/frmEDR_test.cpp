@@ -16,7 +16,7 @@ protected:
         Start();
         Mark("OZ7XY", MarkAction::Mark);
     }
-    static void Mark(std::string call, MarkAction handling) { desk().stations.EDRstnWkd(call, handling); }
+    static void Mark(std::string call, MarkAction action) { desk().stations.EDRstnWkd(call, action); }
 };
 
 TEST_F(StationWindow, KeepsThePlaceOfEveryStation) {

@@ -67,35 +67,35 @@ TEST(StripCall, IsExactAboutCase) {
     EXPECT_EQ(Base("D1A/QRP"), "D1A");
 }
 
-TEST(FindPfxCall, TakesAShortTextOrOneWithoutSlashAsItIs) {
+TEST(CountryText, TakesAShortTextOrOneWithoutSlashAsItIs) {
     EXPECT_EQ(Country(""), "");
     EXPECT_EQ(Country("/"), "/");
     EXPECT_EQ(Country("D"), "D");
     EXPECT_EQ(Country("DL1ABC"), "DL1ABC");
 }
 
-TEST(FindPfxCall, PutsTheNumberInFrontOfEveryLetter) {
+TEST(CountryText, PutsTheNumberInFrontOfEveryLetter) {
     EXPECT_EQ(Country("2E0ABC/3"), "3E3ABC");
     EXPECT_EQ(Country("DL12AB/7"), "DL17AB");
     EXPECT_EQ(Country("TA2ABC/1"), "TA1ABC");
 }
 
-TEST(FindPfxCall, LeavesAFigureAtTheEndOfTheCallAlone) {
+TEST(CountryText, LeavesAFigureAtTheEndOfTheCallAlone) {
     EXPECT_EQ(Country("K1A9/4"), "K4A9");
 }
 
-TEST(FindPfxCall, TakesASlashBehindAFigureForANumber) {
+TEST(CountryText, TakesASlashBehindAFigureForANumber) {
     // The slash goes where the figures stood, and the short side before it decides.
     EXPECT_EQ(Country("DL1ABC3/"), "DL");
 }
 
-TEST(FindPfxCall, GivesTheShorterSideAndOfEqualOnesTheFirst) {
+TEST(CountryText, GivesTheShorterSideAndOfEqualOnesTheFirst) {
     EXPECT_EQ(Country("OZ1/DL1"), "OZ1");
     EXPECT_EQ(Country("DL12/G1A"), "G1A");
     EXPECT_EQ(Country("G1A/DL12"), "G1A");
 }
 
-TEST(FindPfxCall, KeepsFirstAndThirdPieceOfThree) {
+TEST(CountryText, KeepsFirstAndThirdPieceOfThree) {
     EXPECT_EQ(Country("OZ/DL1ABC/XY"), "OZ/XY");
     EXPECT_EQ(Country("OZ/DL1ABC/XY/ZZ"), "OZ/XY");
     EXPECT_EQ(Country("OZ/DL1ABC/X/P"), "OZ/X");

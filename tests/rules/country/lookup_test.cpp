@@ -49,7 +49,7 @@ protected:
         auto& start = tables.gaPfxStart[static_cast<unsigned char>(prefix.front())];
         if (start == 0) start = tables.giRefPfx;
     }
-    std::string Result(std::string_view call, MarkAction action) { return std::string(countries.LandWkd(call, action).resultat); }
+    std::string Result(std::string_view call, MarkAction action) { return std::string(countries.LandWkd(call, action).prefix); }
     std::optional<std::int32_t> PointsOf(std::string_view call, MarkAction action) { return countries.LandWkd(call, action).points; }
     std::string Status(std::string_view call) const { return countries.LandStatusTekst(call).text; }
     bool Unknown(std::string_view call) const { return countries.LandStatusTekst(call).unknown; }

@@ -48,7 +48,7 @@ TEST_F(Adif, WritesTheWorkedRecord) {
 
 TEST_F(Adif, TrimsValuesAndCountsTheirLength) {
     const std::string file =
-        Export({Contact({.call = "DL1AA", .points = 3, .op = "OZ1ABCD", .mode = "SSB", .sent = "59", .received = "57"})});
+        Export({Contact({.call = "DL1AA", .points = 3, .operatorCall = "OZ1ABCD", .mode = "SSB", .sent = "59", .received = "57"})});
     EXPECT_THAT(file, HasSubstr("<BAND:3>80M\r\n<MODE:3>SSB\r\n<CALL:5>DL1AA\r\n<RST_SENT:2>59\r\n"));
     EXPECT_THAT(file, HasSubstr("<RST_RCVD:2>57\r\n<SRL_RCVD:4>0034\r\n<POINTS:1>3\r\n<MULT:0>\r\n<OPERATOR:7>OZ1ABCD\r\n"));
 }

@@ -257,7 +257,7 @@ TEST_F(ErrorLists, ChecksMultipliersAgainstTheLogSoFar) {
 
 TEST_F(ErrorLists, ChecksOperatorModeAndDate) {
     Told told = Good();
-    told.op = "";
+    told.operatorCall = "";
     EXPECT_EQ(FaultsOf(told), Lines{"Operatør skal udfyldes."});
     for (const char* mode : {"CW", "PSK31", "RTTY", "HELL"}) {
         told = Good();

@@ -103,8 +103,8 @@ TEST_F(HtmlPage, HasNoPages) {
 
 TEST_F(HtmlPage, SumsUpInATable) {
     Log("80mCW", {Contact({.points = 3, .mult = "DL"}), Contact({.points = 6, .mult = "VK"}), Contact({})});
-    Log("80mSSB", {Contact({.points = 10, .mult = "OZ", .op = "OZ9Z"})});
-    Log("10mSSB", {Contact({.points = 1, .op = "OZ2B"})});
+    Log("80mSSB", {Contact({.points = 10, .mult = "OZ", .operatorCall = "OZ9Z"})});
+    Log("10mSSB", {Contact({.points = 1, .operatorCall = "OZ2B"})});
     Lines table{kBand + "80 Meter<TD>CW  <TD> 3 <TD> 2 <TD> 12 <TD> 24 <TD ROWSPAN=\"2\"> 66 <BR>",
                 "<TR ALIGN=\"Center\">                          <TD>SSB <TD> 1 <TD> 1 <TD> 10 <TD> 10 "};
     for (const char* band : {"40", "20", "15"}) table = table + Lines{kBand + band + kCwNought, kSsbNought};

@@ -29,7 +29,7 @@ struct Told {
     const char* call = "DL1AA";
     int points = 3;
     const char* mult = "";
-    const char* op = "OZ1AB";
+    const char* operatorCall = "OZ1AB";
     const char* mode = "CW";
     const char* time = "13:05";
     const char* date = "05-09-26";
@@ -41,7 +41,7 @@ struct Told {
 inline std::string Contact(const Told& told) {
     char line[120];
     std::snprintf(line, sizeof line, "%5s %-15s %-3s-0012 %-3s-0034 %2d %-10s %-6s     %-5s %s", told.time, told.call, told.sent,
-                  told.received, told.points, told.mult, told.op, told.mode, told.date);
+                  told.received, told.points, told.mult, told.operatorCall, told.mode, told.date);
     return line;
 }
 

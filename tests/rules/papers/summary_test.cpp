@@ -100,12 +100,12 @@ TEST_F(Summary, CountsEachKindOfLineAtItsEdges) {
         {"note with points and a multiplier", NoteWith("17", "DL"), 0, 0, 17, ","},
         {"note that reaches column 55", "NOTE: " + std::string(48, '.') + "abcdefgh", 0, 0, 0, ",abcdef"},
         {"mark in lower case", "note: x", 1, 1, 0, ","},
-        {"imported contact", Contact({.points = 3, .mult = "DL", .op = "CT-IMP"}), 1, 1, 3, ""},
+        {"imported contact", Contact({.points = 3, .mult = "DL", .operatorCall = "CT-IMP"}), 1, 1, 3, ""},
         {"empty line", "", 1, 1, 0, ","},
         {"line that ends at column 42", Contact({.points = 5}).substr(0, 42), 1, 1, 5, ","},
         {"line that ends at column 44, a blank", Contact({.points = 5}).substr(0, 44), 1, 0, 5, ","},
         {"duplicate mark in lower case", Contact({.points = 0, .mult = "-dupe-"}), 1, 1, 0, ",OZ1AB"},
-        {"blanks before the operator", Contact({.op = " OZ1A"}), 1, 0, 3, ", OZ1A"},
+        {"blanks before the operator", Contact({.operatorCall = " OZ1A"}), 1, 0, 3, ", OZ1A"},
     };
     for (const Case& told : cases) {
         Log("80mCW", {told.line});
@@ -118,20 +118,20 @@ TEST_F(Summary, CountsEachKindOfLineAtItsEdges) {
 }
 
 TEST_F(Summary, DoesNotAddAnOperatorWhoseCallIsPartOfAnother) {
-    Log("80mCW", {Contact({.op = "OZ1AB"}), Contact({.op = "OZ1A"}), Contact({.op = "oz1a"})});
+    Log("80mCW", {Contact({.operatorCall = "OZ1AB"}), Contact({.operatorCall = "OZ1A"}), Contact({.operatorCall = "oz1a"})});
     EXPECT_EQ(Sheet()[6], "Operatørernes kaldesignaler: OZ1AB, oz1a");
-    Log("80mCW", {Contact({.op = "OZ1A"}), Contact({.op = "OZ1AB"})});
+    Log("80mCW", {Contact({.operatorCall = "OZ1A"}), Contact({.operatorCall = "OZ1AB"})});
     EXPECT_EQ(Sheet()[6], "Operatørernes kaldesignaler: OZ1A, OZ1AB");
 }
 
 TEST_F(Summary, ListsTheOperatorsOfAllLogsSortedByCharacter) {
-    Log("10mCW", {Contact({.op = "OZ9Z"}), Contact({.op = "ab1c"})});
-    Log("80mSSB", {Contact({.op = "5P1A"}), Contact({.op = "OZ1AB", .mode = "SSB"}), Contact({.op = "OZ9Z"})});
+    Log("10mCW", {Contact({.operatorCall = "OZ9Z"}), Contact({.operatorCall = "ab1c"})});
+    Log("80mSSB", {Contact({.operatorCall = "5P1A"}), Contact({.operatorCall = "OZ1AB", .mode = "SSB"}), Contact({.operatorCall = "OZ9Z"})});
     EXPECT_EQ(Sheet()[6], "Operatørernes kaldesignaler: 5P1A, OZ1AB, OZ9Z, ab1c");
 }
 
 TEST_F(Summary, BeginsTheListWithTheNobodyOfAnEmptyFirstLine) {
-    Log("80mCW", {"", Contact({.op = "OZ1AB"})});
+    Log("80mCW", {"", Contact({.operatorCall = "OZ1AB"})});
     EXPECT_EQ(Sheet()[6], "Operatørernes kaldesignaler: , OZ1AB");
 }
 
@@ -151,9 +151,9 @@ TEST_F(Summary, SortsNoneOneAndManyOperators) {
 }
 
 TEST_F(Summary, FillsToTheNextPrintZone) {
-    const auto line = [this](const char* call, const char* klasse) {
+    const auto line = [this](const char* call, const char* contestClass) {
         context.call = call;
-        context.contestClass = klasse;
+        context.contestClass = contestClass;
         return Sheet()[2];
     };
     EXPECT_EQ(line("", "B"), "Kaldesignal:  Kategori: B   Antal logsider: ");
