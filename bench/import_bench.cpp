@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "country/cty_file.h"
-#include "country/import.h"
 #include "country/tables.h"
 #include "disk_files.h"
 #include "frame/state.h"
@@ -17,6 +16,7 @@
 #include "sample.h"
 #include "started_program.h"
 #include "tables/frmCtyDat.h"
+#include "tables/import_country_file.h"
 #include "unattended.h"
 
 namespace vatro::bench {
@@ -107,7 +107,7 @@ void Import(benchmark::State& state) {
         ImporterCty();
         if (desk().tables.giRefPfx != kTableRows) return state.SkipWithError("the file was not imported");
     }
-    ResetTables();
+    ResetDesk();
 }
 
 BENCHMARK(SplitFile)->Name("country file into items")->Unit(benchmark::kMicrosecond);

@@ -7,6 +7,7 @@
 #include <fstream>
 
 #include "entry/frmMain.h"
+#include "entry/next_contact.h"
 #include "frame/band_mode.h"
 #include "frame/log_file.h"
 #include "sample.h"

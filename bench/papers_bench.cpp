@@ -77,7 +77,7 @@ std::vector<std::string> FaultlessLog(const std::vector<std::string>& sample, st
         if (multipliers == kCountries && countries.LandWkd(qso.call, MarkAction::Test).changed) continue;
         const WorkedCountries::Result country = countries.LandWkd(qso.call, MarkAction::Mark);
         if (country.changed) ++multipliers;
-        qso.multiplier = country.resultat;
+        qso.multiplier = country.prefix;
         qso.point = BeregnPoint(qso.call, desk().tables, desk().stations, desk().gbVisLand);
         qso.time = kTime.Of(line);
         qso.reportSent = qso.reportReceived = mode == "CW" ? "599" : "59";

@@ -11,6 +11,7 @@
 
 #include "entry/frmMain.h"
 #include "frame/log_file.h"
+#include "frame/state.h"
 #include "sample.h"
 #include "started_program.h"
 

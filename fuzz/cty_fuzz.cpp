@@ -13,10 +13,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace vatro;
     constexpr std::size_t kRoom = 20;
     try {
-        std::vector<CtyCountry> countries = ReadCtyFile(CtyLines({reinterpret_cast<const char*>(data), size}));
+        const std::vector<CtyCountry> countries = ReadCtyFile(CtyLines({reinterpret_cast<const char*>(data), size}));
         CheckCty(countries);
-        FitCty(countries, kRoom);
-        const std::vector<std::string> fitted = WriteCty(countries);
+        const std::vector<std::string> fitted = WriteCty(FitCty(countries, kRoom).countries);
         std::vector<CtyCountry> again = ReadCtyFile(fitted);
         std::size_t items = 0;
         for (const CtyCountry& country : again) items += country.items.size();

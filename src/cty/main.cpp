@@ -58,8 +58,8 @@ bool Check(const std::vector<CtyCountry>& countries) {
     return faults.empty();
 }
 
-int Fit(std::vector<CtyCountry>& countries, const std::string& path) {
-    const CtyOmissions omissions = FitCty(countries);
+int Fit(const std::vector<CtyCountry>& whole, const std::string& path) {
+    const auto [countries, omissions] = FitCty(whole);
     const std::vector<std::string> lines = WriteCty(countries);
     if (!Check(ReadCtyFile(lines))) return 1;
     WriteWhole(path, lines);
@@ -81,7 +81,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        std::vector<CtyCountry> countries = ReadCtyFile(CtyLines(ReadWhole(arguments[1])));
+        const std::vector<CtyCountry> countries = ReadCtyFile(CtyLines(ReadWhole(arguments[1])));
         if (arguments.size() == 3) return Fit(countries, arguments[2]);
         if (!Check(countries)) return 1;
         std::cout << countries.size() << " lande, filen kan importeres\n";

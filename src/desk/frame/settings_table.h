@@ -98,7 +98,7 @@ inline constexpr PlaceSetting kCallPlace{Twips("CallLeft", 0), Twips("CallTop", 
 inline constexpr PlaceSetting kB4Place{Twips("B4Left", 2000), Twips("B4Top", 2000), Twips("B4Width", 6000), Twips("B4Height", 6000)};
 inline constexpr PlaceSetting kEdrPlace{Twips("EDRLeft", 2000), Twips("EDRTop", 2000), Twips("EDRWidth", 6000), Twips("EDRHeight", 6000)};
 inline constexpr PlaceSetting kSuffixWindowPlace{Twips("StregPLeft", 2000), Twips("StregPTop", 2000), Twips("StregPWidth", 6000),
-                                           Twips("StregPHeight", 6000)};
+                                                 Twips("StregPHeight", 6000)};
 
 // The keyer.
 

@@ -54,23 +54,25 @@ void WriteTable(FrmCtyDat& form, std::string_view name, std::string_view stage, 
 
 void ImporterCty() {
     FrmCtyDat& form = *frmCtyDat;
-    CountryTables& tables = desk().tables;
+    CountryImport import(desk().tables);
     const auto advance = [&form](int row) { form.Advance(row); };
     form.ShowStage("Indlæser Cty.dat"_t);
     Files& files = platform().files;
     files.Open(1, PathIn(desk().gsFDLib, "cty.dat"), FileMode::Input);
     FileLines lines(files, 1);
-    ReadCountryFile(tables, lines, ShowOverflow);
+    import.Read(lines, ShowOverflow);
     files.Close(1);
 
     form.ShowStage("Sorterer Præfix-referencetabel"_t);
-    form.Begin(tables.giRefPfx);
-    SortPrefixTable(tables, advance);
+    form.Begin(import.Tables().giRefPfx);
+    import.Sort(advance);
 
     form.ShowStage("Rydder op i Præfix-referencetabel"_t);
-    form.Begin(tables.giRefPfx);
-    CleanUpPrefixTable(tables, advance);
+    form.Begin(import.Tables().giRefPfx);
+    import.CleanUp(advance);
+    desk().tables = import.Tables();
 
+    const CountryTables& tables = desk().tables;
     WriteTable(form, "lande.txt", "Skriver Lande.txt fil", tables.giLande,
                [&tables](std::size_t row) { return CountryLine(tables.Lande[row]); });
     WriteTable(form, "refpfx.txt", "Skriver RefPfx.txt fil", tables.giRefPfx,

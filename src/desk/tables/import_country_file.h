@@ -8,7 +8,7 @@
 namespace vatro {
 
 /// Imports the file, with the progress shown in frmCtyDat, which is loaded. The worked marks stay with the rows they stood in. Fails with
-/// 53 without cty.dat, and as ReadCountryFile does.
+/// 53 without cty.dat, and as CountryImport::Read does.
 void ImporterCty();
 
 /// The menu entry: asks, imports, and loads the log anew, so that the worked marks fit the tables; the latter after a No, too.

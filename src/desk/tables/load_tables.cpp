@@ -24,14 +24,14 @@ struct TableFile {
 };
 
 /// Reads every line of a data file. A failure of the file or of a line is told by the file's name.
-template <class Reader>
-void LoadTable(const TableFile& table) {
+void LoadTable(const TableFile& table, void (CountryTables::*begin)(), void (CountryTables::*read)(std::string_view)) {
     Files& files = platform().files;
     try {
         files.Open(1, PathIn(desk().gsFDLib, table.file), FileMode::Input);
         frmSplash->ShowStage(table.stage);
-        Reader reader(desk().tables);
-        while (!files.EndOfFile(1)) reader.Read(files.LineInput(1));
+        CountryTables& tables = desk().tables;
+        (tables.*begin)();
+        while (!files.EndOfFile(1)) (tables.*read)(files.LineInput(1));
         files.Close(1);
     } catch (const RunTimeError&) {
         files.Close(1);
@@ -45,11 +45,11 @@ void LoadTable(const TableFile& table) {
 }  // namespace
 
 void IndlæsLande() {
-    LoadTable<CountryReader>({"lande.txt", "Lande.txt", "Indlæser lande.txt"_t});
+    LoadTable({"lande.txt", "Lande.txt", "Indlæser lande.txt"_t}, &CountryTables::BeginCountries, &CountryTables::ReadCountry);
 }
 
 void IndlæsRefPfx() {
-    LoadTable<PrefixReader>({"refpfx.txt", "RefPfx.txt", "Indlæser refpfx.txt"_t});
+    LoadTable({"refpfx.txt", "RefPfx.txt", "Indlæser refpfx.txt"_t}, &CountryTables::BeginPrefixes, &CountryTables::ReadPrefix);
     desk().tables.IndexPrefixes();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "country/cty_file.h"
 
+#include <optional>
 #include <string>
 
 #include "errors.h"
@@ -23,17 +24,18 @@ std::string_view UpToColon(std::string_view line, std::size_t column) {
 }
 
 /// The zone between two brackets with leading zeros, its last two characters; nothing without the opening one.
-void ReadZone(std::string_view text, char from, char to, FixedText<2>& zone) {
+std::optional<std::string> ZoneIn(std::string_view text, char from, char to) {
     const std::size_t start = text.find(from);
-    if (start == std::string_view::npos) return;
+    if (start == std::string_view::npos) return std::nullopt;
     const std::size_t end = Find(text, to, start);
     std::string digits = "00";
     digits += text.substr(start + 1, end - start - 1);
-    zone = Right(digits, 2);
+    return std::string(Right(digits, 2));
 }
 
-void CutBracket(std::string_view& text, char from, char to) {
-    if (text.ends_with(to)) text = text.substr(0, Find(text, from));
+/// The text without what stands in brackets at its end.
+std::string_view WithoutBracket(std::string_view text, char from, char to) {
+    return text.ends_with(to) ? text.substr(0, Find(text, from)) : text;
 }
 
 }  // namespace
@@ -66,16 +68,16 @@ std::string_view CtyEntryReader::NextText() {
 
 CtyEntry CtyEntryReader::TakeApart(std::string_view text, const CtyHeader& header) {
     CtyEntry entry{text, header.cqZone, header.ituZone, false};
-    ReadZone(text, '(', ')', entry.cqZone);
-    ReadZone(text, '[', ']', entry.ituZone);
+    if (const auto zone = ZoneIn(text, '(', ')')) entry.cqZone = *zone;
+    if (const auto zone = ZoneIn(text, '[', ']')) entry.ituZone = *zone;
     if (text.starts_with('=')) {
         entry.isExactCall = true;
         text.remove_prefix(1);
     }
     // The two may stand in either order.
     for (int pass = 0; pass < 2; ++pass) {
-        CutBracket(text, '(', ')');
-        CutBracket(text, '[', ']');
+        text = WithoutBracket(text, '(', ')');
+        text = WithoutBracket(text, '[', ']');
     }
     entry.text = text;
     return entry;

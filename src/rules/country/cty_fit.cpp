@@ -47,9 +47,9 @@ class KeptItems {
 public:
     /// False if the prefix is there already.
     bool Add(const KeptItem& place) { return items_.emplace(place.item->prefix, place).second; }
-    void Remove(CtyItem& item) {
-        item.stays = false;
-        items_.erase(item.prefix);
+    void Remove(const KeptItem& place) {
+        place.item->stays = false;
+        items_.erase(place.item->prefix);
     }
     std::size_t Count() const { return items_.size(); }
     const KeptItem* Find(const std::string& prefix) const {
@@ -72,82 +72,143 @@ private:
     throw CtyError{"linje " + std::to_string(number) + ": " + what};
 }
 
-/// All items but those that stand twice, the shortest first; of equal length in the order of the file. What stands twice under
-/// one country goes to `repeated`, first those with the same zones.
-std::vector<KeptItem> CollectItems(std::vector<CtyCountry>& countries, KeptItems& kept, std::vector<KeptItem>& repeated,
-                                   CtyOmissions& omissions) {
-    std::vector<KeptItem> places;
-    std::vector<KeptItem> otherZones;
-    for (CtyCountry& country : countries)
-        for (CtyItem& item : country.items) {
-            const KeptItem place{&country, &item};
-            if (kept.Add(place)) {
-                places.push_back(place);
+/// Whether the other item, if there is one, belongs to the country of the first.
+bool SameCountry(const KeptItem& place, const KeptItem* other) {
+    return other != nullptr && other->country->prefix == place.country->prefix;
+}
+
+/// Whether the item is still found without its own row. A call is no support, with or without its mark: it may have to go itself.
+bool Supported(const KeptItem& place, const KeptItem* fallback) {
+    return SameCountry(place, fallback) && !fallback->item->isExactCall && fallback->item->bare.find('/') == std::string::npos;
+}
+
+/// One fitting. The places point into the countries, which must not move meanwhile.
+class Fitting {
+public:
+    Fitting(std::vector<CtyCountry> countries, std::size_t room) : countries_(std::move(countries)), room_(room) {}
+
+    FittedCty Fit() {
+        LeaveOutStarred();
+        CollectItems();
+        LeaveOutRepeated();
+        LeaveOutMisled();
+        LeaveOut(room_, [](const KeptItem& place, const KeptItem*) { return !IsReachable(*place.item); });
+        LeaveOut(room_, [](const KeptItem& place, const KeptItem* fallback) {
+            return Supported(place, fallback) && SameZones(*place.item, *fallback->item);
+        });
+        LeaveOut(room_, Supported);
+        LeaveOut(room_, [](const KeptItem& place, const KeptItem*) { return place.item->isExactCall; });
+        if (kept_.Count() > room_)
+            throw CtyError{std::to_string(kept_.Count()) + " præfixer kan ikke undværes, der er plads til " + std::to_string(room_)};
+        LeaveOutForemost();
+        // What led them home may have gone.
+        LeaveOutMisled();
+        RecordCosts();
+        return {std::move(countries_), std::move(omissions_)};
+    }
+
+private:
+    void LeaveOutStarred() {
+        for (const CtyCountry& country : countries_)
+            if (IsStarred(country)) omissions_.countries.push_back(country.prefix);
+        std::erase_if(countries_, IsStarred);
+    }
+
+    /// All items but those that stand twice, the shortest first; of equal length in the order of the file. What stands twice under
+    /// one country is kept apart, first those with the same zones.
+    void CollectItems() {
+        std::vector<KeptItem> otherZones;
+        for (CtyCountry& country : countries_)
+            for (CtyItem& item : country.items) {
+                const KeptItem place{&country, &item};
+                if (kept_.Add(place)) {
+                    places_.push_back(place);
+                    continue;
+                }
+                const KeptItem& first = *kept_.Find(item.prefix);
+                if (first.country->prefix == country.prefix) {
+                    (SameZones(*first.item, item) ? repeated_ : otherZones).push_back(place);
+                    continue;
+                }
+                item.stays = false;
+                omissions_.duplicates.push_back(item.text);
+            }
+        repeated_.insert(repeated_.end(), otherZones.begin(), otherZones.end());
+        std::stable_sort(places_.begin(), places_.end(),
+                         [](const KeptItem& a, const KeptItem& b) { return a.item->prefix.size() < b.item->prefix.size(); });
+    }
+
+    void LeaveOutRepeated() {
+        for (std::size_t i = 0; i < repeated_.size() && kept_.Count() + repeated_.size() - i > room_; ++i) repeated_[i].item->stays = false;
+    }
+
+    /// Leaves out items that may go until the rest fits into so much room.
+    template <class MayGo>
+    void LeaveOut(std::size_t room, MayGo mayGo) {
+        for (const KeptItem& place : places_) {
+            if (kept_.Count() <= room) return;
+            if (place.item->stays && mayGo(place, kept_.Fallback(*place.item))) kept_.Remove(place);
+        }
+    }
+
+    /// Leaves out calls that the program never finds, unless another prefix leads them home all the same.
+    void LeaveOutMisled() {
+        LeaveOut(
+            0, [](const KeptItem& place, const KeptItem* fallback) { return !IsReachable(*place.item) && !SameCountry(place, fallback); });
+    }
+
+    /// Leaves out calls of full length that stand before all other prefixes of their first character and that no other one
+    /// gives: until the program is started again the import's index leads past them.
+    void LeaveOutForemost() {
+        std::map<std::string, KeptItem> rows;
+        for (const KeptItem& place : places_) {
+            std::string key = place.item->prefix;
+            key.resize(kPrefixLength, kCtyFiller);
+            if (place.item->stays) rows.emplace(key, place);
+        }
+        char indexed = '\0';
+        for (const auto& [key, place] : rows) {
+            if (key.front() == indexed) continue;
+            if (key.back() == kCtyFiller) {
+                indexed = key.front();
                 continue;
             }
-            const KeptItem& first = *kept.Find(item.prefix);
-            if (first.country->prefix == country.prefix) {
-                (SameZones(*first.item, item) ? repeated : otherZones).push_back(place);
-                continue;
-            }
-            item.stays = false;
-            omissions.duplicates.push_back(item.text);
+            if (!SameCountry(place, kept_.Fallback(*place.item))) kept_.Remove(place);
         }
-    repeated.insert(repeated.end(), otherZones.begin(), otherZones.end());
-    std::stable_sort(places.begin(), places.end(),
-                     [](const KeptItem& a, const KeptItem& b) { return a.item->prefix.size() < b.item->prefix.size(); });
-    return places;
-}
-
-/// Leaves out items that may go until the rest fits.
-template <class MayGo>
-void LeaveOut(const std::vector<KeptItem>& places, KeptItems& kept, std::size_t room, MayGo mayGo) {
-    for (const KeptItem& place : places) {
-        if (kept.Count() <= room) return;
-        if (place.item->stays && mayGo(place, kept.Fallback(*place.item))) kept.Remove(*place.item);
     }
-}
 
-/// Leaves out calls that the program never finds, unless another prefix leads them home all the same.
-void LeaveOutMisled(const std::vector<KeptItem>& places, KeptItems& kept) {
-    LeaveOut(places, kept, 0, [](const KeptItem& place, const KeptItem* fallback) {
-        return !IsReachable(*place.item) && (fallback == nullptr || fallback->country->prefix != place.country->prefix);
-    });
-}
-
-/// Leaves out calls of full length that stand before all other prefixes of their first character and that no other one
-/// gives: until the program is started again the import's index leads past them.
-void LeaveOutForemost(const std::vector<KeptItem>& places, KeptItems& kept) {
-    std::map<std::string, KeptItem> rows;
-    for (const KeptItem& place : places) {
-        std::string key = place.item->prefix;
-        key.resize(kPrefixLength, kCtyFiller);
-        if (place.item->stays) rows.emplace(key, place);
-    }
-    char indexed = '\0';
-    for (const auto& [key, place] : rows) {
-        if (key.front() == indexed) continue;
-        if (key.back() == kCtyFiller) {
-            indexed = key.front();
-            continue;
+    /// What an item has lost shows only at the end: the one that gave its zones may have gone after it.
+    void RecordCosts() {
+        for (const KeptItem& place : repeated_) {
+            const KeptItem* first = kept_.Find(place.item->prefix);
+            if (first == nullptr) place.item->stays = false;
+            if (!place.item->stays) RecordCost(place, first != nullptr ? first : kept_.Fallback(*place.item));
         }
-        const KeptItem* fallback = kept.Fallback(*place.item);
-        if (fallback == nullptr || fallback->country->prefix != place.country->prefix) kept.Remove(*place.item);
+        for (const KeptItem& place : places_)
+            if (!place.item->stays) RecordCost(place, kept_.Fallback(*place.item));
     }
-}
 
-/// Enters what it costs that the item is left out, where `source` decides its country now.
-void RecordCost(CtyOmissions& omissions, const KeptItem& place, const KeptItem* source) {
-    const CtyItem& item = *place.item;
-    std::vector<std::string>* list = &omissions.nothingLost;
-    if (!IsReachable(item))
-        list = &omissions.unreachable;
-    else if (source == nullptr || source->country->prefix != place.country->prefix)
-        list = &omissions.lostCalls;
-    else if (!SameZones(*source->item, item))
-        list = &omissions.zones;
-    list->push_back(item.text);
-}
+    /// Enters what it costs that the item is left out, where `source` decides its country now.
+    void RecordCost(const KeptItem& place, const KeptItem* source) {
+        const CtyItem& item = *place.item;
+        std::vector<std::string>* list = &omissions_.nothingLost;
+        if (!IsReachable(item))
+            list = &omissions_.unreachable;
+        else if (!SameCountry(place, source))
+            list = &omissions_.lostCalls;
+        else if (!SameZones(*source->item, item))
+            list = &omissions_.zones;
+        list->push_back(item.text);
+    }
+
+    std::vector<CtyCountry> countries_;
+    std::size_t room_;
+    KeptItems kept_;
+    std::vector<KeptItem> places_;
+    /// Items that stand once more under their own country.
+    std::vector<KeptItem> repeated_;
+    CtyOmissions omissions_;
+};
 
 }  // namespace
 
@@ -231,44 +292,8 @@ std::vector<std::string> CheckCty(const std::vector<CtyCountry>& countries) {
     return errors;
 }
 
-CtyOmissions FitCty(std::vector<CtyCountry>& countries, std::size_t room) {
-    CtyOmissions omissions;
-    for (const CtyCountry& country : countries)
-        if (IsStarred(country)) omissions.countries.push_back(country.prefix);
-    std::erase_if(countries, IsStarred);
-
-    KeptItems kept;
-    std::vector<KeptItem> repeated;
-    const std::vector<KeptItem> places = CollectItems(countries, kept, repeated, omissions);
-    for (std::size_t i = 0; i < repeated.size() && kept.Count() + repeated.size() - i > room; ++i) repeated[i].item->stays = false;
-    // A call is no support, with or without its mark: it may have to go itself.
-    const auto supported = [](const KeptItem& place, const KeptItem* fallback) {
-        return fallback != nullptr && !fallback->item->isExactCall && fallback->item->bare.find('/') == std::string::npos &&
-               fallback->country->prefix == place.country->prefix;
-    };
-    LeaveOutMisled(places, kept);
-    LeaveOut(places, kept, room, [](const KeptItem& place, const KeptItem*) { return !IsReachable(*place.item); });
-    LeaveOut(places, kept, room, [&](const KeptItem& place, const KeptItem* fallback) {
-        return supported(place, fallback) && SameZones(*place.item, *fallback->item);
-    });
-    LeaveOut(places, kept, room, supported);
-    LeaveOut(places, kept, room, [](const KeptItem& place, const KeptItem*) { return place.item->isExactCall; });
-    if (kept.Count() > room)
-        throw CtyError{std::to_string(kept.Count()) + " præfixer kan ikke undværes, der er plads til " + std::to_string(room)};
-
-    LeaveOutForemost(places, kept);
-    // What led them home may have gone.
-    LeaveOutMisled(places, kept);
-
-    // What an item has lost shows only now: the one that gave its zones may have gone after it.
-    for (const KeptItem& place : repeated) {
-        const KeptItem* first = kept.Find(place.item->prefix);
-        if (first == nullptr) place.item->stays = false;
-        if (!place.item->stays) RecordCost(omissions, place, first != nullptr ? first : kept.Fallback(*place.item));
-    }
-    for (const KeptItem& place : places)
-        if (!place.item->stays) RecordCost(omissions, place, kept.Fallback(*place.item));
-    return omissions;
+FittedCty FitCty(std::vector<CtyCountry> countries, std::size_t room) {
+    return Fitting(std::move(countries), room).Fit();
 }
 
 std::vector<std::string> WriteCty(const std::vector<CtyCountry>& countries) {

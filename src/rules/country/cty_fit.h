@@ -70,11 +70,17 @@ std::vector<CtyCountry> ReadCtyFile(const std::vector<std::string>& lines);
 /// What keeps the import from taking the file as it is meant, one text for the user each; none if nothing does.
 std::vector<std::string> CheckCty(const std::vector<CtyCountry>& countries);
 
+/// A country file that fits: the items that stay, and those that do not, in the countries, and what that costs.
+struct FittedCty {
+    std::vector<CtyCountry> countries;
+    CtyOmissions omissions;
+};
+
 /// Leaves out countries marked with "*", items that stand under an earlier country, and calls that are too long to be found
 /// and that no other item leads to their country; then, until the rest fits, other calls that are never found, items without which nothing
 /// is lost, items that lose their zones, exact calls, in each case the shortest first. At last go exact calls that the import would not
 /// find before the next start. Throws CtyError if the rest does not fit.
-CtyOmissions FitCty(std::vector<CtyCountry>& countries, std::size_t room = kPrefixRoom);
+FittedCty FitCty(std::vector<CtyCountry> countries, std::size_t room = kPrefixRoom);
 
 /// The lines of a file with the items that stay.
 std::vector<std::string> WriteCty(const std::vector<CtyCountry>& countries);

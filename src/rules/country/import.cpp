@@ -24,68 +24,6 @@ std::string TableNumber(float number) {
     return (number < 0 ? "-" : " ") + std::string(digits.data(), end) + " ";
 }
 
-/// Takes the country file into the tables.
-class CtyImport {
-public:
-    CtyImport(CountryTables& tables, LineSource& file, const OverflowNotice& overflow)
-        : tables_(tables), file_(file), overflow_(overflow) {}
-
-    void Import() {
-        while (!file_.AtEnd()) ImportCountry();
-        tables_.giLande = ToInt16(countries_);
-        tables_.giRefPfx = ToInt16(prefixes_);
-    }
-
-private:
-    void ImportCountry() {
-        std::string line = file_.Next();
-        CtyHeader header = ReadCtyHeader(line);
-        if (header.IsOmitted()) {
-            do line = file_.Next();
-            while (!line.ends_with(':'));
-            // Not looked at for a mark again: of two left out one behind the other the second one is kept. Country files that were made for
-            // this import rely on it.
-            header = ReadCtyHeader(line);
-        }
-        StoreCountry(header);
-        std::string prefixLine;
-        do {
-            prefixLine = file_.Next();
-            CtyEntryReader entries(prefixLine, header);
-            while (entries.HasMore()) StorePrefix(entries.Next());
-        } while (!prefixLine.ends_with(';'));
-    }
-
-    void StoreCountry(const CtyHeader& header) {
-        if (++countries_ > kCountryRows) throw RunTimeError(Failure::IndexOutOfRange);
-        LandRec& country = tables_.Lande[static_cast<std::size_t>(countries_)];
-        country.Pfx = header.prefix;
-        country.Navn = header.name;
-        country.Kontinent = header.continent;
-        country.Bredde = ReadCtyNumber(header.latitude);
-        country.Laengde = ReadCtyNumber(header.longitude);
-        country.TidsZone = ReadCtyNumber(header.utcOffset);
-    }
-
-    void StorePrefix(const CtyEntry& entry) {
-        if (++prefixes_ > kPrefixRows) {
-            overflow_(prefixes_);
-            throw RunTimeError(Failure::IndexOutOfRange);
-        }
-        PfxRec& row = tables_.RefPfx[static_cast<std::size_t>(prefixes_)];
-        row.Land = tables_.Lande[static_cast<std::size_t>(countries_)].Pfx;
-        row.Pfx.Fill(entry.text, kCtyFiller);
-        row.ITUzone = entry.ituZone;
-        row.CQzone = entry.cqZone;
-    }
-
-    CountryTables& tables_;
-    LineSource& file_;
-    const OverflowNotice& overflow_;
-    int countries_ = 0;
-    int prefixes_ = 0;
-};
-
 /// The prefix without its filler; nothing if it has none.
 std::optional<FixedText<kPrefixLength>> WithoutFiller(const FixedText<kPrefixLength>& key) {
     const std::string_view characters = key.Padded();
@@ -95,28 +33,73 @@ std::optional<FixedText<kPrefixLength>> WithoutFiller(const FixedText<kPrefixLen
 
 }  // namespace
 
-void ReadCountryFile(CountryTables& tables, LineSource& file, const OverflowNotice& overflow) {
-    CtyImport(tables, file, overflow).Import();
+void CountryImport::Read(LineSource& file, const OverflowNotice& overflow) {
+    while (!file.AtEnd()) ReadCountry(file, overflow);
+    // Only now: the rows of a file that fails on the way are not in use.
+    tables_->giLande = ToInt16(countries_);
+    tables_->giRefPfx = ToInt16(prefixes_);
 }
 
-void SortPrefixTable(CountryTables& tables, const RowProgress& progress) {
-    SortPrefixes(tables.RefPfx, tables.giRefPfx, progress);
+void CountryImport::ReadCountry(LineSource& file, const OverflowNotice& overflow) {
+    std::string line = file.Next();
+    CtyHeader header = ReadCtyHeader(line);
+    if (header.IsOmitted()) {
+        do line = file.Next();
+        while (!line.ends_with(':'));
+        // Not looked at for a mark again: of two left out one behind the other the second one is kept. Country files that were made for
+        // this import rely on it.
+        header = ReadCtyHeader(line);
+    }
+    StoreCountry(header);
+    std::string prefixLine;
+    do {
+        prefixLine = file.Next();
+        CtyEntryReader entries(prefixLine, header);
+        while (entries.HasMore()) StorePrefix(entries.Next(), overflow);
+    } while (!prefixLine.ends_with(';'));
 }
 
-void CleanUpPrefixTable(CountryTables& tables, const RowProgress& progress) {
+void CountryImport::StoreCountry(const CtyHeader& header) {
+    if (++countries_ > kCountryRows) throw RunTimeError(Failure::IndexOutOfRange);
+    LandRec& country = tables_->Lande[static_cast<std::size_t>(countries_)];
+    country.Pfx = header.prefix;
+    country.Navn = header.name;
+    country.Kontinent = header.continent;
+    country.Bredde = ReadCtyNumber(header.latitude);
+    country.Laengde = ReadCtyNumber(header.longitude);
+    country.TidsZone = ReadCtyNumber(header.utcOffset);
+}
+
+void CountryImport::StorePrefix(const CtyEntry& entry, const OverflowNotice& overflow) {
+    if (++prefixes_ > kPrefixRows) {
+        overflow(prefixes_);
+        throw RunTimeError(Failure::IndexOutOfRange);
+    }
+    PfxRec& row = tables_->RefPfx[static_cast<std::size_t>(prefixes_)];
+    row.Land = tables_->Lande[static_cast<std::size_t>(countries_)].Pfx;
+    row.Pfx.Fill(entry.text, kCtyFiller);
+    row.ITUzone = entry.ituZone;
+    row.CQzone = entry.cqZone;
+}
+
+void CountryImport::Sort(const RowProgress& progress) {
+    SortPrefixes(tables_->RefPfx, tables_->giRefPfx, progress);
+}
+
+void CountryImport::CleanUp(const RowProgress& progress) {
     std::optional<char> last;
-    for (int i = 1; i <= tables.giRefPfx; ++i) {
+    for (int i = 1; i <= tables_->giRefPfx; ++i) {
         progress(i);
-        FixedText<kPrefixLength>& prefix = tables.RefPfx[static_cast<std::size_t>(i)].Pfx;
+        FixedText<kPrefixLength>& prefix = tables_->RefPfx[static_cast<std::size_t>(i)].Pfx;
         const auto bare = WithoutFiller(prefix);
         if (!bare) continue;
         prefix = *bare;
         const char first = prefix.Padded().front();
         if (first == last) continue;
         last = first;
-        tables.gaPfxStart[static_cast<unsigned char>(first)] = static_cast<std::int16_t>(i);
+        tables_->gaPfxStart[static_cast<unsigned char>(first)] = static_cast<std::int16_t>(i);
     }
-    tables.IndexPrefixes();
+    tables_->IndexPrefixes();
 }
 
 std::string CountryLine(const LandRec& country) {

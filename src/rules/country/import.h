@@ -7,9 +7,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
+#include "country/cty_file.h"
 #include "country/tables.h"
 #include "lines.h"
 
@@ -20,21 +22,39 @@ using RowProgress = std::function<void(int row)>;
 /// Runs with the number of prefixes when there are too many, before the import fails.
 using OverflowNotice = std::function<void(int count)>;
 
-/// Reads a country file into the tables. Countries marked with "*" are left out. The rows in use are counted when the whole file has
-/// been read. Fails with 62 if the file ends in the middle of a country, with 5 on a line that cannot be taken apart, with
-/// 6 on a number that is too large, with 9 if there are too many countries or prefixes.
-///
-/// After `overflow` has told that there are too many prefixes the import fails all the same, although the text of the message
-/// promises that the program goes on: tables cut off in the middle would count whole countries for nothing.
-void ReadCountryFile(CountryTables& tables, LineSource& file, const OverflowNotice& overflow);
+/// Makes tables anew from a country file. What the file does not touch keeps the values of the tables it begins with.
+class CountryImport {
+public:
+    explicit CountryImport(const CountryTables& before) : tables_(std::make_unique<CountryTables>(before)) {}
 
-/// Sorts the prefixes that ReadCountryFile has left; see prefix_order.h.
-void SortPrefixTable(CountryTables& tables, const RowProgress& progress);
+    /// Reads the file. Countries marked with "*" are left out. Fails with 62 if the file ends in the middle of a country, with 5 on a
+    /// line that cannot be taken apart, with 6 on a number that is too large, with 9 if there are too many countries or prefixes.
+    ///
+    /// After `overflow` has told that there are too many prefixes the import fails all the same, although the text of the message
+    /// promises that the program goes on: tables cut off in the middle would count whole countries for nothing.
+    void Read(LineSource& file, const OverflowNotice& overflow);
 
-/// Takes the filler off the sorted prefixes, finds the first row of each first character, and indexes the table. A prefix of full length
-/// has no filler and is passed over by both, so that until the next start one that stands foremost is not found; FitCty of
-/// cty_fit.h leaves such prefixes out.
-void CleanUpPrefixTable(CountryTables& tables, const RowProgress& progress);
+    /// Sorts the prefixes; see prefix_order.h.
+    void Sort(const RowProgress& progress);
+
+    /// Takes the filler off the sorted prefixes, finds the first row of each first character, and indexes the table. A prefix of full
+    /// length has no filler and is passed over by both, so that until the next start one that stands foremost is not found; FitCty of
+    /// cty_fit.h leaves such prefixes out.
+    void CleanUp(const RowProgress& progress);
+
+    const CountryTables& Tables() const { return *tables_; }
+
+private:
+    void ReadCountry(LineSource& file, const OverflowNotice& overflow);
+    void StoreCountry(const CtyHeader& header);
+    void StorePrefix(const CtyEntry& entry, const OverflowNotice& overflow);
+
+    /// Too large for the stack of every system.
+    std::unique_ptr<CountryTables> tables_;
+    /// Read so far.
+    int countries_ = 0;
+    int prefixes_ = 0;
+};
 
 /// A row of lande.txt and of refpfx.txt.
 std::string CountryLine(const LandRec& country);

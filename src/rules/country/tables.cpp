@@ -74,29 +74,34 @@ void CountryTables::IndexPrefixes() {
     }
 }
 
-void CountryReader::Read(std::string_view line) {
-    tables_.giLande = NextRow(tables_.giLande);
-    RefuseBeyond(tables_.giLande, kCountryRows);
-    LandRec& country = tables_.Lande[static_cast<std::size_t>(tables_.giLande)];
+void CountryTables::ReadCountry(std::string_view line) {
+    giLande = NextRow(giLande);
+    RefuseBeyond(giLande, kCountryRows);
+    LandRec& country = Lande[static_cast<std::size_t>(giLande)];
     country.Pfx = Trim(Columns(line, 1, kPrefixLength));
     country.Navn = Trim(Columns(line, 11, 25));
     country.Kontinent = Trim(Columns(line, 36, 2));
     country.TidsZone = ToFloat32(ToNumber(Trim(Columns(line, 39, 5))));
 }
 
-void PrefixReader::Read(std::string_view line) {
-    tables_.giRefPfx = NextRow(tables_.giRefPfx);
-    RefuseBeyond(tables_.giRefPfx, kPrefixRows);
-    const auto row = static_cast<std::size_t>(tables_.giRefPfx);
-    PfxRec& prefix = tables_.RefPfx[row];
+void CountryTables::BeginPrefixes() {
+    giRefPfx = 0;
+    lastFirst_.reset();
+}
+
+void CountryTables::ReadPrefix(std::string_view line) {
+    giRefPfx = NextRow(giRefPfx);
+    RefuseBeyond(giRefPfx, kPrefixRows);
+    const auto row = static_cast<std::size_t>(giRefPfx);
+    PfxRec& prefix = RefPfx[row];
     prefix.Pfx = Trim(Columns(line, 1, kPrefixLength));
     prefix.Land = Trim(Columns(line, 11, kPrefixLength));
     prefix.CQzone = Columns(line, 21, 2);
     prefix.ITUzone = Columns(line, 24, 2);
     const char first = prefix.Pfx.Padded().front();
-    if (first == last_) return;
-    last_ = first;
-    tables_.gaPfxStart[static_cast<unsigned char>(first)] = static_cast<std::int16_t>(row);
+    if (first == lastFirst_) return;
+    lastFirst_ = first;
+    gaPfxStart[static_cast<unsigned char>(first)] = static_cast<std::int16_t>(row);
 }
 
 }  // namespace vatro

@@ -75,6 +75,16 @@ public:
     /// Rebuilds what the two searches use.
     void IndexPrefixes();
 
+    /// No country is in use any more; ReadCountry fills the rows from the first on.
+    void BeginCountries() { giLande = 0; }
+    /// Takes the next line of lande.txt. Fails with 9 where the table is full, with the row counted, and with 13 or 6 where the
+    /// offset is no number.
+    void ReadCountry(std::string_view line);
+    /// No prefix is in use any more; ReadPrefix fills the rows from the first on, and gaPfxStart.
+    void BeginPrefixes();
+    /// Takes the next line of refpfx.txt. Fails with 9 where the table is full, with the row counted.
+    void ReadPrefix(std::string_view line);
+
 private:
     // A search of RefPfx looks from a start row to the end of the table for the first row that is met. What the rows hold is
     // found by a table of hashes, so that a search without a hit costs no more than one with a hit; `nextInBucket_` joins the
@@ -88,31 +98,8 @@ private:
 
     std::array<std::int16_t, kBuckets> buckets_{};
     std::array<std::int16_t, kPrefixRows + 1> nextInBucket_{};
-};
-
-/// Fills Lande from lande.txt, line by line.
-class CountryReader {
-public:
-    /// No row is in use any more; what stood in them is overwritten.
-    explicit CountryReader(CountryTables& tables) : tables_(tables) { tables_.giLande = 0; }
-    /// The next row. Fails with 9 where the table is full, with the row counted, and with 13 or 6 where the offset is no number.
-    void Read(std::string_view line);
-
-private:
-    CountryTables& tables_;
-};
-
-/// Fills RefPfx and gaPfxStart from refpfx.txt, line by line.
-class PrefixReader {
-public:
-    explicit PrefixReader(CountryTables& tables) : tables_(tables) { tables_.giRefPfx = 0; }
-    /// The next row. Fails with 9 where the table is full, with the row counted.
-    void Read(std::string_view line);
-
-private:
-    CountryTables& tables_;
-    /// First character of the row before; nothing before the first.
-    std::optional<char> last_;
+    /// First character of the prefix read last; nothing before the first.
+    std::optional<char> lastFirst_;
 };
 
 }  // namespace vatro

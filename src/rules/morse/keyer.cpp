@@ -25,31 +25,31 @@ void Keyer::Begin() {
 FilledHalf Keyer::Fill(Half half) {
     const int first = half == Half::First ? 0 : kHalfSamples;
     const auto samples = std::span(CWBillede).subspan(static_cast<std::size_t>(first), kHalfSamples);
-    const bool active = FyldDel(pieces_, stepper_, samples);
+    const bool active = FyldDel(samples);
     return {first, samples, active};
 }
 
-bool FyldDel(const Pieces& pieces, Stepper& stepper, std::span<std::int16_t> half) {
-    const std::int32_t dot = pieces.Priklen;
+bool Keyer::FyldDel(std::span<std::int16_t> half) {
+    const std::int32_t dot = pieces_.Priklen;
     const auto end = static_cast<std::int32_t>(half.size());
     bool active = false;
     std::int32_t i = 0;
     const auto insert = [&](std::int32_t from, std::int32_t count) {
         // At one word a minute even the rest of a piece is longer than a half.
-        if (const Piece* piece = pieces.Of(stepper.gsElement))
+        if (const Piece* piece = pieces_.Of(stepper_.gsElement))
             std::copy_n(piece->begin() + from, std::min(count, end - i), half.begin() + i);
         i += count;
-        if (!stepper.AtEnd()) active = true;
+        if (!stepper_.AtEnd()) active = true;
     };
     // The end mark stays: another text does not wake the keyer up before the next Begin.
     const auto next = [&] {
-        if (!stepper.AtEnd()) stepper.gsElement = stepper.NæsteElement();
+        if (!stepper_.AtEnd()) stepper_.gsElement = stepper_.NæsteElement();
     };
 
     // The rest of the piece that the end of the other half has cut: the tone runs on across the seam.
-    if (stepper.glCWSlat > 0) {
-        insert(stepper.glCWSlat, dot - stepper.glCWSlat);
-        stepper.glCWSlat = 0;
+    if (stepper_.glCWSlat > 0) {
+        insert(stepper_.glCWSlat, dot - stepper_.glCWSlat);
+        stepper_.glCWSlat = 0;
     }
     while (i < end - dot) {
         next();
@@ -57,8 +57,8 @@ bool FyldDel(const Pieces& pieces, Stepper& stepper, std::span<std::int16_t> hal
     }
     if (i < end) {
         next();
-        stepper.glCWSlat = end - i;
-        insert(0, stepper.glCWSlat);
+        stepper_.glCWSlat = end - i;
+        insert(0, stepper_.glCWSlat);
     }
     return active;
 }

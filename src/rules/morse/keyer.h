@@ -68,15 +68,14 @@ public:
     const Stepper& Place() const { return stepper_; }
 
 private:
+    /// Pastes the pieces of the next elements into one half, the rest of a piece that the end of the other half has cut first, and
+    /// moves the stepper on. Returns whether anything but the end mark has gone into the half.
+    bool FyldDel(std::span<std::int16_t> half);
+
     Pieces pieces_;
     Stepper stepper_;
     /// A picture of the sound buffer.
     std::vector<std::int16_t> CWBillede;
 };
-
-/// Pastes the pieces of the next elements into one half, the rest of a piece that the end of the other half has cut first, and moves
-/// the stepper on. An element without a piece leaves its samples as they are. Returns whether anything but the end mark has gone
-/// into the half.
-bool FyldDel(const Pieces& pieces, Stepper& stepper, std::span<std::int16_t> half);
 
 }  // namespace vatro

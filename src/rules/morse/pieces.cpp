@@ -20,8 +20,8 @@ std::size_t IndexOf(std::int32_t sample) {
 }
 
 /// The part `step` of 25 of a sample, rounded downwards also where it is negative.
-void Attenuate(std::int16_t& sample, int step) {
-    sample = ToInt16(std::floor(static_cast<double>(sample) / kRampSamples * step));
+std::int16_t Attenuated(std::int16_t sample, int step) {
+    return ToInt16(std::floor(static_cast<double>(sample) / kRampSamples * step));
 }
 
 }  // namespace
@@ -47,24 +47,25 @@ void Pieces::DanTone(std::int16_t pitch, std::int32_t volume) {
 }
 
 void Pieces::DanElementer() {
-    const auto cut = [this](Piece& target, std::int32_t from) {
-        target.assign(IndexOf(Priklen + 1), 0);
-        std::copy_n(CWStreg.begin() + from, Priklen, target.begin());
+    const auto cut = [this](std::int32_t from) {
+        Piece piece(IndexOf(Priklen + 1), 0);
+        std::copy_n(CWStreg.begin() + from, Priklen, piece.begin());
+        return piece;
     };
-    cut(CWPrik, 0);
-    cut(CWStart, 0);
+    CWPrik = cut(0);
+    CWStart = cut(0);
     // One sample early: a dash has the last sample of its first third twice. This is how every dash has always sounded.
-    cut(CWMidte, Priklen - 1);
-    cut(CWSlut, 2 * Priklen - 1);
+    CWMidte = cut(Priklen - 1);
+    CWSlut = cut(2 * Priklen - 1);
     CWPause.assign(IndexOf(Priklen + 1), 0);
 
     for (int i = 0; i <= kRampSamples; ++i) {
-        Attenuate(CWStart[IndexOf(i)], i);
-        Attenuate(CWPrik[IndexOf(i)], i);
+        CWStart[IndexOf(i)] = Attenuated(CWStart[IndexOf(i)], i);
+        CWPrik[IndexOf(i)] = Attenuated(CWPrik[IndexOf(i)], i);
     }
     for (std::int32_t i = Priklen - kRampSamples; i <= Priklen; ++i) {
-        Attenuate(CWSlut[IndexOf(i)], Priklen - i);
-        Attenuate(CWPrik[IndexOf(i)], Priklen - i);
+        CWSlut[IndexOf(i)] = Attenuated(CWSlut[IndexOf(i)], Priklen - i);
+        CWPrik[IndexOf(i)] = Attenuated(CWPrik[IndexOf(i)], Priklen - i);
     }
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "papers/adif.h"
 
-#include <utility>
-
 #include "codepage.h"
 #include "datetime.h"
 #include "log/contact_line.h"
@@ -13,11 +11,35 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-/// A record as it grows.
-class Record {
+/// Makes records one after the other, in the same memory: a contest has thousands.
+class RecordMaker {
 public:
-    Record() { text_.reserve(kUsualLength); }
+    /// See AdifRecord. Good until the next one.
+    const std::string& Make(std::string_view line, std::string_view band) {
+        text_.clear();
+        AddDate(kDate.Of(line));
+        AddTime(line);
+        AddField("<BAND:", UpperText(band));
+        AddField("<MODE:", kQsoMode.TrimmedOf(line));
+        AddField("<CALL:", kCall.TrimmedOf(line));
+        AddField("<RST_SENT:", kReportSent.TrimmedOf(line));
+        AddField("<SRL_SENT:", kNumberSent.TrimmedOf(line));
+        AddField("<RST_RCVD:", kReportReceived.TrimmedOf(line));
+        AddField("<SRL_RCVD:", kNumberReceived.TrimmedOf(line));
+        AddField("<POINTS:", kPoint.TrimmedOf(line));
+        AddField("<MULT:", kMultiplier.TrimmedOf(line));
+        AddField("<OPERATOR:", kOperatorAsRead.TrimmedOf(line));
+        text_.append("<EOR>").append(kLineEnd);
+        return text_;
+    }
 
+    /// The record made last, and the empty line behind it.
+    const std::string& WithGap() {
+        text_.append(kLineEnd);
+        return text_;
+    }
+
+private:
     /// A date that is none adds nothing.
     void AddDate(std::string_view date) {
         const auto day = ParseDate(date);
@@ -49,15 +71,6 @@ public:
         text_.append(value).append(kLineEnd);
     }
 
-    std::string End() && {
-        text_.append("<EOR>").append(kLineEnd);
-        return std::move(text_);
-    }
-
-private:
-    /// Of the longest record, and of the line end that separates it from the next one.
-    static constexpr std::size_t kUsualLength = 300;
-
     void AddTwoDigits(int number) {
         text_ += static_cast<char>('0' + number / 10);
         text_ += static_cast<char>('0' + number % 10);
@@ -73,27 +86,17 @@ void WriteAdifHead(LineSink& file) {
 }
 
 void DanAdifKrop(LineSource& lines, LineSink& file, const LogId& log) {
+    RecordMaker records;
     while (!lines.AtEnd()) {
         const std::string line = lines.Next();
-        if (!IsNoteLine(line)) file.Write(AdifRecord(line, log.band).append(kLineEnd));
+        if (IsNoteLine(line)) continue;
+        records.Make(line, log.band);
+        file.Write(records.WithGap());
     }
 }
 
 std::string AdifRecord(std::string_view line, std::string_view band) {
-    Record record;
-    record.AddDate(kDate.Of(line));
-    record.AddTime(line);
-    record.AddField("<BAND:", UpperText(band));
-    record.AddField("<MODE:", kQsoMode.TrimmedOf(line));
-    record.AddField("<CALL:", kCall.TrimmedOf(line));
-    record.AddField("<RST_SENT:", kReportSent.TrimmedOf(line));
-    record.AddField("<SRL_SENT:", kNumberSent.TrimmedOf(line));
-    record.AddField("<RST_RCVD:", kReportReceived.TrimmedOf(line));
-    record.AddField("<SRL_RCVD:", kNumberReceived.TrimmedOf(line));
-    record.AddField("<POINTS:", kPoint.TrimmedOf(line));
-    record.AddField("<MULT:", kMultiplier.TrimmedOf(line));
-    record.AddField("<OPERATOR:", kOperatorAsRead.TrimmedOf(line));
-    return std::move(record).End();
+    return RecordMaker().Make(line, band);
 }
 
 }  // namespace vatro

@@ -105,7 +105,8 @@ TEST_F(Printing, OfTheSummaryFillsTheSheet) {
     desk().gsTelefon = "87654321";
     desk().rigs[0] = "IC-751";
     desk().antennas[0] = "Dipol";
-    Log("80mCW", Times(31, Contact({.points = 2, .mult = "DL", .operatorCall = "OZ9Z"})) + Times(89, Contact({.points = 2, .operatorCall = "OZ1AB"})));
+    Log("80mCW", Times(31, Contact({.points = 2, .mult = "DL", .operatorCall = "OZ9Z"})) +
+                     Times(89, Contact({.points = 2, .operatorCall = "OZ1AB"})));
     Log("80mSSB", Times(22, Contact({.points = 2, .mult = "DL"})) + Times(58, Contact({.points = 2})));
     Lines wanted{"job",
                  "page 1",

@@ -16,12 +16,12 @@ class Worked : public ::testing::Test {
 protected:
     void SetUp() override {
         ResetDesk();
-        CountryReader countries(desk().tables);
-        countries.Read("DL        Fed. Rep. of Germany     EU -1 ");
-        countries.Read("K         United States            NA  5 ");
-        PrefixReader prefixes(desk().tables);
-        prefixes.Read("DL        DL        14 28");
-        prefixes.Read("K         K         05 08");
+        desk().tables.BeginCountries();
+        desk().tables.ReadCountry("DL        Fed. Rep. of Germany     EU -1 ");
+        desk().tables.ReadCountry("K         United States            NA  5 ");
+        desk().tables.BeginPrefixes();
+        desk().tables.ReadPrefix("DL        DL        14 28");
+        desk().tables.ReadPrefix("K         K         05 08");
         desk().tables.IndexPrefixes();
         desk().stations.Read("OZ1ABC Test, formand");
         desk().giQSOPoint = 77;

@@ -18,9 +18,7 @@ std::string Header(const std::string& prefix) {
 const Texts kTwo{Header("QA"), "    QA,QA1,QA2(15),=QA5AB,=QB7XY;", Header("QB"), "    QB,=QB1AB;"};
 
 Texts Fitted(const Texts& lines, std::size_t room) {
-    std::vector<CtyCountry> countries = ReadCtyFile(lines);
-    FitCty(countries, room);
-    return WriteCty(countries);
+    return WriteCty(FitCty(ReadCtyFile(lines), room).countries);
 }
 
 std::string Refused(const Texts& lines) {
@@ -55,8 +53,8 @@ TEST(CtyFit, ThenZonesAndThenExactCalls) {
 }
 
 TEST(CtyFit, TellsWhatIsLost) {
-    std::vector<CtyCountry> countries = ReadCtyFile(kTwo);
-    const CtyOmissions out = FitCty(countries, 2);
+    const std::vector<CtyCountry> countries = ReadCtyFile(kTwo);
+    const auto [fitted, out] = FitCty(countries, 2);
     EXPECT_EQ(out.nothingLost, (Texts{"QA1", "=QA5AB", "=QB1AB"}));
     EXPECT_EQ(out.zones, (Texts{"QA2(15)"}));
     EXPECT_EQ(out.lostCalls, (Texts{"=QB7XY"}));
@@ -74,16 +72,16 @@ TEST(CtyFit, APrefixOfAnotherCountryInBetweenKeepsTheLongerOne) {
 TEST(CtyFit, AnExactCallSupportsNoLongerOne) {
     // QB7XY/P is given by QB7XY alone, which goes itself in the end.
     const Texts lines{Header("QA"), "    QA,=QB7XY,=QB7XY/P;", Header("QB"), "    QB;"};
-    std::vector<CtyCountry> countries = ReadCtyFile(lines);
-    EXPECT_EQ(FitCty(countries, 2).lostCalls, (Texts{"=QB7XY", "=QB7XY/P"}));
+    const std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    EXPECT_EQ(FitCty(countries, 2).omissions.lostCalls, (Texts{"=QB7XY", "=QB7XY/P"}));
 }
 
 TEST(CtyFit, ACallWithASlashGoesWithoutLossOnlyIfItsCountryTextGivesTheSame) {
     // Of QA5AB/QB1 the program looks up QB1, of QA5AB/P it looks up QA5AB, of QA5AB/7 it looks up QA7AB.
     const Texts lines{Header("QA"), "    QA,=QA5AB/QB1,=QA5AB/P,=QA5AB/7;", Header("QB"), "    QB,QA7;"};
     EXPECT_EQ(Fitted(lines, 5), (Texts{Header("QA"), "    QA,=QA5AB/QB1,=QA5AB/7;", Header("QB"), "    QB,QA7;"}));
-    std::vector<CtyCountry> countries = ReadCtyFile(lines);
-    const CtyOmissions out = FitCty(countries, 3);
+    const std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    const auto [fitted, out] = FitCty(countries, 3);
     EXPECT_EQ(out.nothingLost, (Texts{"=QA5AB/P"}));
     EXPECT_EQ(out.lostCalls, (Texts{"=QA5AB/7", "=QA5AB/QB1"}));
 }
@@ -94,8 +92,8 @@ TEST(CtyFit, ACallThatIsTooLongToBeFoundGoesBeforeAllOthers) {
     const Texts lines{Header("QA"), "    QA,QA1,=QB1ABCD/QA1;", Header("QB"), "    QB,=QB12345678Z;"};
     EXPECT_EQ(Fitted(lines, 5), lines);
     EXPECT_EQ(Fitted(lines, 4), (Texts{Header("QA"), "    QA,QA1;", Header("QB"), "    QB,=QB12345678Z;"}));
-    std::vector<CtyCountry> countries = ReadCtyFile(lines);
-    const CtyOmissions out = FitCty(countries, 3);
+    const std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    const auto [fitted, out] = FitCty(countries, 3);
     EXPECT_EQ(out.unreachable, (Texts{"=QB1ABCD/QA1"}));
     EXPECT_EQ(out.nothingLost, (Texts{"QA1"}));
 }
@@ -103,20 +101,20 @@ TEST(CtyFit, ACallThatIsTooLongToBeFoundGoesBeforeAllOthers) {
 TEST(CtyFit, ACallThatIsNeverFoundInItsCountryAlwaysGoes) {
     // Eleven characters: the program looks up QA1 and finds the other country, in a file with room to spare as well.
     const Texts lines{Header("QA"), "    QA;", Header("QB"), "    QB,=QB12345/QA1;"};
-    std::vector<CtyCountry> countries = ReadCtyFile(lines);
-    EXPECT_EQ(FitCty(countries).unreachable, (Texts{"=QB12345/QA1"}));
-    EXPECT_EQ(WriteCty(countries), (Texts{Header("QA"), "    QA;", Header("QB"), "    QB;"}));
+    const std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    EXPECT_EQ(FitCty(countries).omissions.unreachable, (Texts{"=QB12345/QA1"}));
+    EXPECT_EQ(WriteCty(FitCty(countries).countries), (Texts{Header("QA"), "    QA;", Header("QB"), "    QB;"}));
 }
 
 TEST(CtyFit, StarredCountriesAndItemsOfAnEarlierCountryAlwaysGo) {
     const Texts lines{Header("*QA/x"), "    QA5;", Header("QA"), "    QA,QX;", Header("QB"), "    QB,QX;"};
-    std::vector<CtyCountry> countries = ReadCtyFile(lines);
-    const CtyOmissions out = FitCty(countries);
+    const std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    const auto [fitted, out] = FitCty(countries);
     EXPECT_EQ(out.countries, (Texts{"*QA/x"}));
     EXPECT_EQ(out.duplicates, (Texts{"QX"}));
-    EXPECT_EQ(WriteCty(countries), (Texts{Header("QA"), "    QA,QX;", Header("QB"), "    QB;"}));
-    EXPECT_EQ(CheckCty(countries).size(), 1U) << "the lists still hold what is not written";
-    EXPECT_EQ(CheckCty(ReadCtyFile(WriteCty(countries))), (Texts{}));
+    EXPECT_EQ(WriteCty(fitted), (Texts{Header("QA"), "    QA,QX;", Header("QB"), "    QB;"}));
+    EXPECT_EQ(CheckCty(fitted).size(), 1U) << "the lists still hold what is not written";
+    EXPECT_EQ(CheckCty(ReadCtyFile(WriteCty(fitted))), (Texts{}));
 }
 
 TEST(CtyFit, AnItemThatStandsTwiceGoesWhenRoomIsShort) {
@@ -140,9 +138,9 @@ TEST(CtyFit, ACallOfFullLengthInFrontOfItsLetterGoes) {
     EXPECT_EQ(Fitted(lines, 5999), lines) << "IA stands before it";
 
     lines = {Header("QA"), "    QA,=IB1/ABCDEF,=IB1/ABCDEF;", Header("QI"), "    I;"};
-    std::vector<CtyCountry> countries = ReadCtyFile(lines);
-    EXPECT_EQ(FitCty(countries).lostCalls, (Texts{"=IB1/ABCDEF", "=IB1/ABCDEF"})) << "wherever it stands";
-    EXPECT_EQ(WriteCty(countries), (Texts{Header("QA"), "    QA;", Header("QI"), "    I;"}));
+    const std::vector<CtyCountry> countries = ReadCtyFile(lines);
+    EXPECT_EQ(FitCty(countries).omissions.lostCalls, (Texts{"=IB1/ABCDEF", "=IB1/ABCDEF"})) << "wherever it stands";
+    EXPECT_EQ(WriteCty(FitCty(countries).countries), (Texts{Header("QA"), "    QA;", Header("QI"), "    I;"}));
 }
 
 TEST(CtyFit, ACountryWithoutItemsKeepsItsHeader) {

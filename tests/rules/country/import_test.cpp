@@ -15,40 +15,47 @@ class Import : public ::testing::Test {
 protected:
     void Run(std::vector<std::string> lines) {
         VectorSource source(std::move(lines));
-        ReadCountryFile(tables, source, [this](int count) { overflow = count; });
-        const auto note = [this](int row) { rows.push_back(row); };
-        SortPrefixTable(tables, note);
-        CleanUpPrefixTable(tables, note);
-    }
+        CountryImport import(tables);
+        import.Read(source, [this](int count) { overflow = count;
+    });
+    const auto note = [this](int row) { rows.push_back(row); };
+    import.Sort(note);
+    import.CleanUp(note);
+    tables = import.Tables();
+}
     /// The number of the failure that ends the import.
     int Failing(std::vector<std::string> lines) {
-        try {
-            Run(std::move(lines));
-        } catch (const RunTimeError& failure) {
-            return failure.Number();
-        }
-        return 0;
+    try {
+        Run(std::move(lines));
+    } catch (const RunTimeError& failure) {
+        return failure.Number();
     }
-    static std::string Number(int number) {
-        const std::string digits = std::to_string(number);
-        return std::string(4 - digits.size(), '0') + digits;
+    return 0;
+}
+static std::string Number(int number) {
+    const std::string digits = std::to_string(number);
+    return std::string(4 - digits.size(), '0') + digits;
+}
+/// An entry with the prefixes C0001 and so on, ten to a line.
+static std::vector<std::string> Entry(int prefixes) {
+    std::vector<std::string> lines{kHeader};
+    for (int i = 1; i <= prefixes; ++i) {
+        if (i % 10 == 1) lines.emplace_back("    ");
+        lines.back() += "C" + Number(i) + (i == prefixes ? ";" : ",");
     }
-    /// An entry with the prefixes C0001 and so on, ten to a line.
-    static std::vector<std::string> Entry(int prefixes) {
-        std::vector<std::string> lines{kHeader};
-        for (int i = 1; i <= prefixes; ++i) {
-            if (i % 10 == 1) lines.emplace_back("    ");
-            lines.back() += "C" + Number(i) + (i == prefixes ? ";" : ",");
-        }
-        return lines;
-    }
-    std::string Prefix(int row) const { return std::string(tables.RefPfx[static_cast<std::size_t>(row)].Pfx.Trimmed()); }
-    int Start(char c) const { return tables.gaPfxStart[static_cast<unsigned char>(c)]; }
+    return lines;
+}
+std::string Prefix(int row) const {
+    return std::string(tables.RefPfx[static_cast<std::size_t>(row)].Pfx.Trimmed());
+}
+int Start(char c) const {
+    return tables.gaPfxStart[static_cast<unsigned char>(c)];
+}
 
-    CountryTables tables;
-    std::vector<int> rows;
-    int overflow = 0;
-};
+CountryTables tables;
+std::vector<int> rows;
+int overflow = 0;
+};  // namespace
 
 TEST_F(Import, IndexesTheFirstCharactersOfPrefixesThatAreNotOfFullLength) {
     tables.gaPfxStart[static_cast<unsigned char>('Z')] = 77;
@@ -138,5 +145,5 @@ TEST_F(Import, WritesRowsInTheColumnsOfTheFiles) {
     EXPECT_EQ(PrefixLine(tables.RefPfx[1]), "QS1       QS        05 06");
 }
 
-}  // namespace
+}  // namespace vatro
 }  // namespace vatro

@@ -12,12 +12,12 @@ class Tables : public ::testing::Test {
 protected:
     using Texts = std::vector<std::string>;
     void ReadCountries(const Texts& lines) {
-        CountryReader reader(tables);
-        for (const std::string& line : lines) reader.Read(line);
+        tables.BeginCountries();
+        for (const std::string& line : lines) tables.ReadCountry(line);
     }
     void ReadPrefixes(const Texts& lines) {
-        PrefixReader reader(tables);
-        for (const std::string& line : lines) reader.Read(line);
+        tables.BeginPrefixes();
+        for (const std::string& line : lines) tables.ReadPrefix(line);
     }
     const LandRec& Country(int row) const { return tables.Lande[static_cast<std::size_t>(row)]; }
     const PfxRec& Prefix(int row) const { return tables.RefPfx[static_cast<std::size_t>(row)]; }

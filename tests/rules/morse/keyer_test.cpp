@@ -88,12 +88,12 @@ TEST(KeyerOfATone, ExtraSilenceIsThatOfTheText) {
 }
 
 TEST(KeyerOfATone, AnElementWithoutAPieceLeavesItsSamplesAsTheyAre) {
-    const Pieces pieces = PiecesAt(20);
-    Stepper stepper{.gsCWTekst = "E ", .gsElement = "x", .glCWSlat = 2600};
-    Samples half(kHalf, 7);
-    EXPECT_TRUE(FyldDel(pieces, stepper, half));
-    EXPECT_EQ(Samples(half.begin(), half.begin() + 46), Samples(46, 7));
-    EXPECT_EQ(half[46 + 1], pieces.CWPrik[1]);
+    Keyer keyer = KeyerAt(20, {.gsCWTekst = "E ", .gsElement = "x", .glCWSlat = 2600});
+    const FilledHalf filled = keyer.Fill(Half::First);
+    EXPECT_TRUE(filled.active);
+    const Samples half = SamplesOf(filled);
+    EXPECT_EQ(Samples(half.begin(), half.begin() + 46), Samples(46, 0));
+    EXPECT_EQ(half[46 + 1], keyer.CurrentPieces().CWPrik[1]);
 }
 
 TEST(KeyerOfATone, TheBareToneCanBeAnElement) {

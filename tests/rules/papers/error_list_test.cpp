@@ -18,14 +18,14 @@ const std::string kColumns = "         Dato    UTC  Call            Sendt    Mod
 class ErrorLists : public Papers {
 protected:
     ErrorLists() {
-        CountryReader countries(tables);
+        tables.BeginCountries();
         for (const char* line : {"DL        Fed. Rep. of Germany     EU -1 ", "G         England                  EU 0  ",
                                  "OZ        Denmark                  EU -1 ", "VK        Australia                OC -10"})
-            countries.Read(line);
-        PrefixReader prefixes(tables);
+            tables.ReadCountry(line);
+        tables.BeginPrefixes();
         for (const char* line :
              {"DL        DL        14 28", "G         G         14 27", "OZ        OZ        14 18", "VK        VK        30 59"})
-            prefixes.Read(line);
+            tables.ReadPrefix(line);
         tables.IndexPrefixes();
         stations.Read("OZ1ABC Test, formand");
     }

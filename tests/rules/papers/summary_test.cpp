@@ -126,7 +126,8 @@ TEST_F(Summary, DoesNotAddAnOperatorWhoseCallIsPartOfAnother) {
 
 TEST_F(Summary, ListsTheOperatorsOfAllLogsSortedByCharacter) {
     Log("10mCW", {Contact({.operatorCall = "OZ9Z"}), Contact({.operatorCall = "ab1c"})});
-    Log("80mSSB", {Contact({.operatorCall = "5P1A"}), Contact({.operatorCall = "OZ1AB", .mode = "SSB"}), Contact({.operatorCall = "OZ9Z"})});
+    Log("80mSSB",
+        {Contact({.operatorCall = "5P1A"}), Contact({.operatorCall = "OZ1AB", .mode = "SSB"}), Contact({.operatorCall = "OZ9Z"})});
     EXPECT_EQ(Sheet()[6], "Operatørernes kaldesignaler: 5P1A, OZ1AB, OZ9Z, ab1c");
 }
 

@@ -9,14 +9,14 @@ namespace {
 class Points : public ::testing::Test {
 protected:
     void SetUp() override {
-        CountryReader countries(tables);
+        tables.BeginCountries();
         for (const char* line : {"DL        Fed. Rep. of Germany     EU -1 ", "K         United States            NA  5 ",
                                  "OZ        Denmark                  EU -1 ", "TA        Turkey                   AS -2 "})
-            countries.Read(line);
-        PrefixReader prefixes(tables);
+            tables.ReadCountry(line);
+        tables.BeginPrefixes();
         for (const char* line : {"DL        DL        14 28", "K         K         05 08", "OZ        OZ        14 18",
                                  "TA        TA        20 39", "W         K         05 08"})
-            prefixes.Read(line);
+            tables.ReadPrefix(line);
         tables.IndexPrefixes();
         List({"OZ1ABC Test, formand"});
     }
