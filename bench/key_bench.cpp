@@ -19,7 +19,7 @@ namespace {
 
 void ScanForKey(benchmark::State& state) {
     const Program program(SampleLog());
-    const std::vector<std::string>& lines = frmMain->List1.Items();
+    const std::vector<std::string>& lines = frmMain->log.Items();
     for (auto _ : state) {
         for (const char sought : {'Q', 'Z'}) {
             benchmark::DoNotOptimize(ScanLog(lines, sought));

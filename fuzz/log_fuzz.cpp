@@ -94,7 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     BeginProgram();
     Dispatch(StartProgram);
     // A value too large for a counter ends the load with that line.
-    const std::vector<std::string>& loaded = frmMain->List1.Items();
+    const std::vector<std::string>& loaded = frmMain->log.Items();
     if (loaded.size() > current.size()) __builtin_trap();
     if (!std::equal(loaded.begin(), loaded.end(), current.begin())) __builtin_trap();
     CheckSuffixes(all);

@@ -25,31 +25,31 @@ protected:
 };
 
 TEST_F(Pasting, ANumberReceivedTakesFiguresOnly) {
-    EXPECT_EQ(Pasted(frmMain->Text1[5], "1E9"), "19");
-    EXPECT_EQ(Pasted(frmMain->Text1[5], " 12,3 "), "123");
+    EXPECT_EQ(Pasted(frmMain->fields[5], "1E9"), "19");
+    EXPECT_EQ(Pasted(frmMain->fields[5], " 12,3 "), "123");
     EXPECT_EQ(Pasted(frmRetQSO->Text1[5], "-1e9"), "19");
 }
 
 TEST_F(Pasting, ACallIsPutInCapitals) {
-    EXPECT_EQ(Pasted(frmMain->Text1[1], " oz1abc/p\t"), "OZ1ABC/P");
-    EXPECT_EQ(Pasted(frmMain->Text1[1], "ø-z1"_t), "ØZ1");
+    EXPECT_EQ(Pasted(frmMain->fields[1], " oz1abc/p\t"), "OZ1ABC/P");
+    EXPECT_EQ(Pasted(frmMain->fields[1], "ø-z1"_t), "ØZ1");
     EXPECT_EQ(Pasted(frmRetQSO->Text1[1], "dl1we"), "DL1WE");
     EXPECT_EQ(Pasted(frmCall->cboCall, "oz1ab/p"), "OZ1AB/P");
 }
 
 TEST_F(Pasting, ABlankPastedIsNoJump) {
-    Dispatch([] { frmMain->Text1[1].SetFocus(); });
-    EXPECT_EQ(Pasted(frmMain->Text1[1], "OZ1 ABC"), "OZ1ABC");
-    EXPECT_TRUE(frmMain->Text1[1].HasFocus());
+    Dispatch([] { frmMain->fields[1].SetFocus(); });
+    EXPECT_EQ(Pasted(frmMain->fields[1], "OZ1 ABC"), "OZ1ABC");
+    EXPECT_TRUE(frmMain->fields[1].HasFocus());
 }
 
 TEST_F(Pasting, ATimeTakesFiguresColonAndPoint) {
-    EXPECT_EQ(Pasted(frmMain->Text1[0], "kl. 12:30"), ".12:3");
+    EXPECT_EQ(Pasted(frmMain->fields[0], "kl. 12:30"), ".12:3");
 }
 
 TEST_F(Pasting, AReportTakesWhatItsKeysTake) {
-    EXPECT_EQ(Pasted(frmMain->Text1[4], "5 9"), "59");
-    EXPECT_EQ(Pasted(frmMain->Text1[4], "5n"), "5n");
+    EXPECT_EQ(Pasted(frmMain->fields[4], "5 9"), "59");
+    EXPECT_EQ(Pasted(frmMain->fields[4], "5n"), "5n");
 }
 
 TEST_F(Pasting, FieldsWithArrowsTakeFiguresOnly) {
@@ -73,19 +73,19 @@ TEST_F(Pasting, ANoteTakesEverything) {
 }
 
 TEST_F(Pasting, AnOperatorTakesASeventhCharacterAndNoMoreAsByKey) {
-    EXPECT_EQ(Pasted(frmMain->Combo1, "oz1abcdef"), "OZ1ABCD");
+    EXPECT_EQ(Pasted(frmMain->operatorBox, "oz1abcdef"), "OZ1ABCD");
 }
 
 TEST_F(Pasting, TheRoomOfAFieldIsForWhatItTakes) {
-    EXPECT_EQ(Pasted(frmMain->Text1[5], "1 2 3 4 5"), "1234");
+    EXPECT_EQ(Pasted(frmMain->fields[5], "1 2 3 4 5"), "1234");
 }
 
 TEST_F(Pasting, TheFirstLineCounts) {
-    EXPECT_EQ(Pasted(frmMain->Text1[1], "OZ1AB\r\nOZ2CD"), "OZ1AB");
+    EXPECT_EQ(Pasted(frmMain->fields[1], "OZ1AB\r\nOZ2CD"), "OZ1AB");
 }
 
 TEST_F(Pasting, TheSelectionGoesIfTheFieldTakesAnything) {
-    TextBox& call = frmMain->Text1[1];
+    TextBox& call = frmMain->fields[1];
     call.SetText("OZ1AB");
     call.Select(2, 3);
     PasteInto(call, "?!");

@@ -111,8 +111,8 @@ TEST_F(Accessibility, TellsWhatKindEachControlIs) {
 }
 
 TEST_F(Accessibility, ComboBoxTellsItsNameAndItsText) {
-    Dispatch([] { frmMain->Combo1.SetText("OZ7XYZ"); });
-    const QAccessibleInterface& combo = Of(frmMain->Combo1);
+    Dispatch([] { frmMain->operatorBox.SetText("OZ7XYZ"); });
+    const QAccessibleInterface& combo = Of(frmMain->operatorBox);
     EXPECT_EQ(NameOf(combo), "Operatør Call");
     EXPECT_EQ(combo.text(QAccessible::Value), QStringLiteral("OZ7XYZ"));
     EXPECT_TRUE(combo.state().editable);
@@ -134,8 +134,8 @@ TEST_F(Accessibility, OptionIsTurnedOnByTheReader) {
 }
 
 TEST_F(Accessibility, ReadOnlyFieldsSaySo) {
-    EXPECT_TRUE(Of(frmMain->Text1[3]).state().readOnly);
-    EXPECT_FALSE(Of(frmMain->Text1[1]).state().readOnly);
+    EXPECT_TRUE(Of(frmMain->fields[3]).state().readOnly);
+    EXPECT_FALSE(Of(frmMain->fields[1]).state().readOnly);
 }
 
 }  // namespace

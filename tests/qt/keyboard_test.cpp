@@ -160,7 +160,7 @@ TEST_F(Keyboard, WhateverTakesTheFocusIsReached) {
             if (!Usable(*control) || (order.contains(control) && control->TabStop())) continue;
             // The arrow keys lead to the options that are off; the sent number is only to be read.
             const bool option = As<OptionButton>(control) != nullptr && order.contains(control);
-            EXPECT_TRUE(option || control == &frmMain->Text1[3]) << form.Name() << "." << control->FullName();
+            EXPECT_TRUE(option || control == &frmMain->fields[3]) << form.Name() << "." << control->FullName();
         }
         Leave(*slot);
     }
@@ -240,8 +240,8 @@ TEST_F(Keyboard, EveryMenuOfTheBarOpensByItsLetterAndClosesByEsc) {
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << caption;
     }
     EXPECT_TRUE(main.isActiveWindow());
-    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->Text1[1]);
-    EXPECT_TRUE(WidgetOf<QWidget>(frmMain->Text1[1]).hasFocus());
+    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->fields[1]);
+    EXPECT_TRUE(WidgetOf<QWidget>(frmMain->fields[1]).hasFocus());
 }
 
 }  // namespace

@@ -81,7 +81,7 @@ TEST_F(Room, FieldWithTheFocusIsInSightOfASmallWindow) {
     EXPECT_EQ(Main().width(), 512);
     EXPECT_GT(Inside().horizontalScrollBar()->maximum(), 0);
     for (Control* control : frmMain->TabOrder()) {
-        if (!control->TabStop() || control == &frmMain->List1) continue;
+        if (!control->TabStop() || control == &frmMain->log) continue;
         Dispatch([&] { control->SetFocus(); });
         driver.Settle();
         EXPECT_TRUE(InSight(WidgetOf<QWidget>(*control))) << control->FullName();
@@ -95,7 +95,7 @@ TEST_F(Room, MainWindowOfItsOwnSizeNeedsNoScrolling) {
 
 TEST_F(Room, PageAndArrowKeysDoNotScrollTheWindow) {
     Dispatch([] { frmMain->Place(0, 0, 400 * kTwipsPerPixel, 200 * kTwipsPerPixel); });
-    Dispatch([] { frmMain->Text1[0].SetFocus(); });
+    Dispatch([] { frmMain->fields[0].SetFocus(); });
     driver.Settle();
     const int across = Inside().horizontalScrollBar()->value();
     const int down = Inside().verticalScrollBar()->value();

@@ -41,14 +41,14 @@ void InsertNote() {
 }
 
 void CorrectNote() {
-    const ListBox& list = frmMain->List1;
+    const ListBox& list = frmMain->log;
     frmNote->Text1.SetText(Columns(list.List(list.ListIndex()), kNoteMark.size() + 1));
     frmNote->ShowModal();
     if (!frmNote->Text1.Text().empty()) {
         desk().log.Replace(static_cast<std::size_t>(list.ListIndex()), NoteLine());
         SkrivLog();
     }
-    frmMain->Text1[1].SetFocus();
+    frmMain->fields[1].SetFocus();
 }
 
 }  // namespace vatro

@@ -102,7 +102,7 @@ void FrmRetQSO::Fill(std::string_view line) {
 
 void FrmRetQSO::NoteDuplicateAbove() {
     const std::span<const std::string> lines = desk().log.Lines();
-    const auto above = static_cast<std::size_t>(std::max(frmMain->List1.ListIndex(), 0));
+    const auto above = static_cast<std::size_t>(std::max(frmMain->log.ListIndex(), 0));
     desk().gbDupe = CheckDupQSO(lines.first(std::min(above, lines.size())), desk().gsCall);
 }
 
@@ -208,7 +208,7 @@ void FrmRetQSO::LogCorrection(const std::string& time) {
     const std::string line = QsoLine(contact, desk().gsMode);
 
     if (ShownCountry(call).unknown) GemUkendt(line);
-    desk().log.Replace(static_cast<std::size_t>(frmMain->List1.ListIndex()), line);
+    desk().log.Replace(static_cast<std::size_t>(frmMain->log.ListIndex()), line);
     desk().log.AddPoints(desk().giQSOPoint);
     ShowScore();
     Unload();
@@ -227,7 +227,7 @@ void Withdraw(FrmRetQSO& form) {
 }  // namespace
 
 void CorrectLine() {
-    const ListBox& list = frmMain->List1;
+    const ListBox& list = frmMain->log;
     if (list.ListCount() == 0 || list.ListIndex() < 0) return;
     const std::string line = list.List(list.ListIndex());
     if (line.starts_with(kNoteMark)) return CorrectNote();
@@ -235,9 +235,9 @@ void CorrectLine() {
     Withdraw(*frmRetQSO);
     frmRetQSO->ShowModal();
     // Whatever way the window was closed.
-    LæsOperatører(frmMain->Combo1, desk().gsOperatør.Padded());
+    LæsOperatører(frmMain->operatorBox, desk().gsOperatør.Padded());
     SkrivLog();
-    frmMain->Text1[kCallField].SetFocus();
+    frmMain->fields[kCallField].SetFocus();
 }
 
 }  // namespace vatro

@@ -16,20 +16,20 @@ class FrmMain : public MainMenu {
 public:
     FrmMain();
 
-    Toolbar Toolbar1;
-    Label Label1;
+    Toolbar toolbar;
+    Label columnHeads;
     /// Shows the lines of DeskState::log.
-    ListBox List1;
-    Frame Frame1;
+    ListBox log;
+    Frame contactFrame;
     /// Time, call, report sent, number sent, report received, number received.
-    TextBox Text1[6];
-    CheckBox Check1;
-    Button Command1;
-    Frame Frame2;
+    TextBox fields[6];
+    CheckBox qsl;
+    Button logButton;
+    Frame operatorFrame;
     /// Operator.
-    ComboBox Combo1;
-    Timer Timer1;
-    StatusBar sbStatusBar;
+    ComboBox operatorBox;
+    Timer minuteTimer;
+    StatusBar statusBar;
 
     /// Whether the start has come so far that all settings are read: before that there is nothing to store.
     bool up = false;

@@ -43,7 +43,7 @@ void FrmNytQSOnr::Command1_Click() {
 
 void ChangeNextNumber() {
     frmNytQSOnr->ShowModal();
-    frmMain->Text1[3].SetText(ZeroPadded(desk().log.giQSOnr, 4));
+    frmMain->fields[3].SetText(ZeroPadded(desk().log.giQSOnr, 4));
     frmQSOnr->visQSOnr();
 }
 

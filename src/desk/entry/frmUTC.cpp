@@ -38,7 +38,7 @@ void FrmUTC::Form_Load() {
 
 void ChangeUtcOffset() {
     frmUTC->ShowModal();
-    frmMain->Text1[0].SetText(UtcTimeText());
+    frmMain->fields[0].SetText(UtcTimeText());
 }
 
 }  // namespace vatro

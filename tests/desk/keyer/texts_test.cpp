@@ -20,9 +20,9 @@ protected:
     }
     /// Types a contact in progress.
     void Fill(std::string_view call, std::string_view report, std::string_view number) {
-        Type(frmMain->Text1[1], call);
-        Type(frmMain->Text1[2], report);
-        Type(frmMain->Text1[3], number);
+        Type(frmMain->fields[1], call);
+        Type(frmMain->fields[2], report);
+        Type(frmMain->fields[3], number);
     }
     static void PressTX() {
         Dispatch([] { frmCWTX->cmdTX.Press(); });
@@ -76,15 +76,15 @@ TEST_F(CWTexts, TheExtraSilenceOfTheSettingsIsSent) {
 
 TEST_F(CWTexts, AddressTheStationInTheFields) {
     StartWithLast(kFirstLine);
-    Type(frmMain->Text1[1], "DL9XYZ");
-    Type(frmMain->Text1[2], "569");
+    Type(frmMain->fields[1], "DL9XYZ");
+    Type(frmMain->fields[2], "569");
     SendText("#C #T");
     EXPECT_EQ(Place().gsCWTekst, "DL9XYZ 569 ");
 }
 
 TEST_F(CWTexts, TakeTheNumberOfTheField) {
     Start();
-    Type(frmMain->Text1[1], "DL9XYZ");
+    Type(frmMain->fields[1], "DL9XYZ");
     SendText("#N");
     EXPECT_EQ(Place().gsCWTekst, "001 ");
     EXPECT_EQ(desk().cw.gsCWNummer, "0001");
@@ -98,9 +98,9 @@ TEST_F(CWTexts, WithNothingAtAllTheCodesAreEmpty) {
 
 TEST_F(CWTexts, WithNoLogTheLastStationIsAddressedAgain) {
     Start();
-    Type(frmMain->Text1[1], "DL9XYZ");
+    Type(frmMain->fields[1], "DL9XYZ");
     SendText("#C");
-    Type(frmMain->Text1[1], "");
+    Type(frmMain->fields[1], "");
     SendText("#C #C");
     EXPECT_EQ(Place().gsCWTekst, "DL9XYZ DL9XYZ ");
 }
