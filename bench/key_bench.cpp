@@ -31,7 +31,7 @@ void ScanForKey(benchmark::State& state) {
 void Key(benchmark::State& state, std::string_view call) {
     Program program(SampleLog());
     program.Type(call);
-    if (frmB4->List1.ListCount() != 0) return state.SkipWithError("the call stands in the log");
+    if (frmB4->earlierContacts.ListCount() != 0) return state.SkipWithError("the call stands in the log");
     state.SetLabel("vs scan of calls and prefixes, at most 2");
     for (auto _ : state) {
         program.Type("Q");

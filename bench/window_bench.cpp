@@ -219,10 +219,10 @@ void KeyToPainted(benchmark::State& state) {
     QWidget* const field = windows.WidgetOf(frmMain->fields[1]);
     PressKey(*field, Qt::Key_1, QStringLiteral("1"));
     PressKey(*field, Qt::Key_L, QStringLiteral("L"));
-    if (frmB4->List1.ListCount() != Found()) return state.SkipWithError("the list is not as long as the bare one");
+    if (frmB4->earlierContacts.ListCount() != Found()) return state.SkipWithError("the list is not as long as the bare one");
     PressKey(*field, Qt::Key_Backspace, QStringLiteral("\b"));
     state.SetLabel("vs key in a bare field over a list");
-    Keys(state, *field, Surface(windows.WidgetOf(frmB4->List1)));
+    Keys(state, *field, Surface(windows.WidgetOf(frmB4->earlierContacts)));
 }
 
 BENCHMARK(EmptyWindow)->Name("process to an empty painted window")->Unit(benchmark::kMillisecond)->UseRealTime();

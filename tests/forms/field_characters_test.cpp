@@ -34,7 +34,7 @@ TEST_F(Pasting, ACallIsPutInCapitals) {
     EXPECT_EQ(Pasted(frmMain->fields[1], " oz1abc/p\t"), "OZ1ABC/P");
     EXPECT_EQ(Pasted(frmMain->fields[1], "ø-z1"_t), "ØZ1");
     EXPECT_EQ(Pasted(frmRetQSO->Text1[1], "dl1we"), "DL1WE");
-    EXPECT_EQ(Pasted(frmCall->cboCall, "oz1ab/p"), "OZ1AB/P");
+    EXPECT_EQ(Pasted(frmCall->callBox, "oz1ab/p"), "OZ1AB/P");
 }
 
 TEST_F(Pasting, ABlankPastedIsNoJump) {
@@ -53,15 +53,15 @@ TEST_F(Pasting, AReportTakesWhatItsKeysTake) {
 }
 
 TEST_F(Pasting, FieldsWithArrowsTakeFiguresOnly) {
-    EXPECT_EQ(Pasted(frmNytQSOnr->Text1, "9E4"), "94");
+    EXPECT_EQ(Pasted(frmNytQSOnr->number, "9E4"), "94");
     EXPECT_EQ(Pasted(frmCW->txtWPM, "2e3 WPM"), "23");
     EXPECT_EQ(Pasted(frmCW->txtTone, "-800"), "800");
 }
 
 TEST_F(Pasting, AFieldWithArrowsTakesNoLetterByKeyEither) {
-    EXPECT_EQ(CharacterInto(frmNytQSOnr->Text1, 'E'), kNoKey);
-    EXPECT_EQ(CharacterInto(frmNytQSOnr->Text1, '9'), '9');
-    EXPECT_EQ(CharacterInto(frmNytQSOnr->Text1, kBackspace), kBackspace);
+    EXPECT_EQ(CharacterInto(frmNytQSOnr->number, 'E'), kNoKey);
+    EXPECT_EQ(CharacterInto(frmNytQSOnr->number, '9'), '9');
+    EXPECT_EQ(CharacterInto(frmNytQSOnr->number, kBackspace), kBackspace);
 }
 
 TEST_F(Pasting, AMorseTextKeepsItsBlanks) {

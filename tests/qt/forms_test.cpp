@@ -173,7 +173,7 @@ TEST_F(MainWindow, OutOfUseLeavesTheOtherWindowsAsTheyAre) {
         Dispatch([&] { frmMain->SetEnabled(enabled); });
         EXPECT_EQ(Top().isEnabled(), enabled);
         EXPECT_TRUE(WindowOf(*frmB4).Top()->isEnabled());
-        EXPECT_TRUE(WidgetOf<QWidget>(frmB4->List1).isEnabled());
+        EXPECT_TRUE(WidgetOf<QWidget>(frmB4->earlierContacts).isEnabled());
         EXPECT_FALSE(WindowOf(*frmQSOnr).Top()->isEnabled());
     }
 }

@@ -81,11 +81,11 @@ TEST_F(DesktopPaste, IntoANewNumberTakesFiguresByKeyToo) {
         QTest::keyClick(window, Qt::Key_A, Qt::ControlModifier);
         QApplication::clipboard()->setText(QStringLiteral("9E4"));
         QTest::keyClick(window, Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(frmNytQSOnr->Text1.Text(), "94");
+        EXPECT_EQ(frmNytQSOnr->number.Text(), "94");
         QTest::keyClick(window, Qt::Key_E);
-        EXPECT_EQ(frmNytQSOnr->Text1.Text(), "94");
+        EXPECT_EQ(frmNytQSOnr->number.Text(), "94");
         QTest::keyClick(window, Qt::Key_2);
-        EXPECT_EQ(frmNytQSOnr->Text1.Text(), "942");
+        EXPECT_EQ(frmNytQSOnr->number.Text(), "942");
         QTest::keyClick(window, Qt::Key_Return);
     };
     Dispatch([] { ChangeNextNumber(); });

@@ -105,17 +105,17 @@ TEST_F(Room, PageAndArrowKeysDoNotScrollTheWindow) {
 }
 
 TEST_F(Room, ListScrollsToTheEndOfItsLongestRowButNotToBlanks) {
-    auto& list = WidgetOf<ItemList>(frmB4->List1);
+    auto& list = WidgetOf<ItemList>(frmB4->earlierContacts);
     Shown(*frmB4).resize(list.ColumnLeft(30), 200);
     Dispatch([] {
-        frmB4->List1.AddItem(std::string(20, 'X') + std::string(40, ' '));
-        frmB4->List1.AddItem("X");
+        frmB4->earlierContacts.AddItem(std::string(20, 'X') + std::string(40, ' '));
+        frmB4->earlierContacts.AddItem("X");
     });
     driver.Settle();
     EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
     Dispatch([] {
-        frmB4->List1.AddItem(std::string(60, 'X'));
-        frmB4->List1.AddItem("X");
+        frmB4->earlierContacts.AddItem(std::string(60, 'X'));
+        frmB4->earlierContacts.AddItem("X");
     });
     driver.Settle();
     EXPECT_GE(list.horizontalScrollBar()->maximum() + list.viewport()->width(), list.ColumnLeft(61));

@@ -187,7 +187,7 @@ void EntryForm::StoreState() {
 void EntryForm::FieldChanged(int Index) {
     if (Index != kCallField) return;
     const TextBox& field = fields[kCallField];
-    if (field.Text().size() < 2) frmB4->List1.Clear();
+    if (field.Text().size() < 2) frmB4->earlierContacts.Clear();
     if (!field.Text().empty()) {
         statusBar.SetPanel(1, ShownCountry(field.Text()).text);
     }
