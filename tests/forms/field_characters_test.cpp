@@ -27,13 +27,13 @@ protected:
 TEST_F(Pasting, ANumberReceivedTakesFiguresOnly) {
     EXPECT_EQ(Pasted(frmMain->fields[5], "1E9"), "19");
     EXPECT_EQ(Pasted(frmMain->fields[5], " 12,3 "), "123");
-    EXPECT_EQ(Pasted(frmRetQSO->Text1[5], "-1e9"), "19");
+    EXPECT_EQ(Pasted(frmRetQSO->fields[5], "-1e9"), "19");
 }
 
 TEST_F(Pasting, ACallIsPutInCapitals) {
     EXPECT_EQ(Pasted(frmMain->fields[1], " oz1abc/p\t"), "OZ1ABC/P");
     EXPECT_EQ(Pasted(frmMain->fields[1], "ø-z1"_t), "ØZ1");
-    EXPECT_EQ(Pasted(frmRetQSO->Text1[1], "dl1we"), "DL1WE");
+    EXPECT_EQ(Pasted(frmRetQSO->fields[1], "dl1we"), "DL1WE");
     EXPECT_EQ(Pasted(frmCall->callBox, "oz1ab/p"), "OZ1AB/P");
 }
 
@@ -69,7 +69,7 @@ TEST_F(Pasting, AMorseTextKeepsItsBlanks) {
 }
 
 TEST_F(Pasting, ANoteTakesEverything) {
-    EXPECT_EQ(Pasted(frmNote->Text1, "Pause 14-15, æble; #1!"_t), "Pause 14-15, æble; #1!");
+    EXPECT_EQ(Pasted(frmNote->note, "Pause 14-15, æble; #1!"_t), "Pause 14-15, æble; #1!");
 }
 
 TEST_F(Pasting, AnOperatorTakesASeventhCharacterAndNoMoreAsByKey) {

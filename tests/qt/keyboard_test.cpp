@@ -96,7 +96,7 @@ protected:
     Form& Open(FormSlotBase& slot) {
         Dispatch([&] {
             slot.Load();
-            if (slot.Name() == "frmRetQSO") frmRetQSO->Text1[1].SetText("DL1ABC");
+            if (slot.Name() == "frmRetQSO") frmRetQSO->fields[1].SetText("DL1ABC");
             slot.Peek()->Show();
         });
         driver.Settle();
