@@ -54,8 +54,8 @@ TEST_F(Pasting, AReportTakesWhatItsKeysTake) {
 
 TEST_F(Pasting, FieldsWithArrowsTakeFiguresOnly) {
     EXPECT_EQ(Pasted(frmNytQSOnr->number, "9E4"), "94");
-    EXPECT_EQ(Pasted(frmCW->txtWPM, "2e3 WPM"), "23");
-    EXPECT_EQ(Pasted(frmCW->txtTone, "-800"), "800");
+    EXPECT_EQ(Pasted(frmCW->speed, "2e3 WPM"), "23");
+    EXPECT_EQ(Pasted(frmCW->pitch, "-800"), "800");
 }
 
 TEST_F(Pasting, AFieldWithArrowsTakesNoLetterByKeyEither) {
@@ -65,7 +65,7 @@ TEST_F(Pasting, AFieldWithArrowsTakesNoLetterByKeyEither) {
 }
 
 TEST_F(Pasting, AMorseTextKeepsItsBlanks) {
-    EXPECT_EQ(Pasted(frmCW->Text1[0], "cq test <de> #r"), "CQ TEST DE #R");
+    EXPECT_EQ(Pasted(frmCW->texts[0], "cq test <de> #r"), "CQ TEST DE #R");
 }
 
 TEST_F(Pasting, ANoteTakesEverything) {

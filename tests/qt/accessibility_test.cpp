@@ -124,13 +124,13 @@ TEST_F(Accessibility, ComboBoxTellsItsNameAndItsText) {
 
 TEST_F(Accessibility, OptionIsTurnedOnByTheReader) {
     Dispatch([] { frmCW->Show(); });
-    EXPECT_TRUE(Of(frmCW->optRST[0]).state().checked);
-    QAccessibleInterface& other = Of(frmCW->optRST[1]);
+    EXPECT_TRUE(Of(frmCW->reportOptions[0]).state().checked);
+    QAccessibleInterface& other = Of(frmCW->reportOptions[1]);
     EXPECT_FALSE(other.state().checked);
     other.actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-    EXPECT_TRUE(frmCW->optRST[1].Value());
+    EXPECT_TRUE(frmCW->reportOptions[1].Value());
     EXPECT_TRUE(other.state().checked);
-    EXPECT_FALSE(Of(frmCW->optRST[0]).state().checked);
+    EXPECT_FALSE(Of(frmCW->reportOptions[0]).state().checked);
 }
 
 TEST_F(Accessibility, ReadOnlyFieldsSaySo) {

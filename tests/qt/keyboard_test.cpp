@@ -168,13 +168,13 @@ TEST_F(Keyboard, WhateverTakesTheFocusIsReached) {
 
 TEST_F(Keyboard, ArrowsLeadToTheOptionsThatAreOff) {
     Open(*FindFormSlot("frmCW"));
-    Dispatch([] { frmCW->optRST[0].SetFocus(); });
+    Dispatch([] { frmCW->reportOptions[0].SetFocus(); });
     driver.Settle();
     Press({.name = "Down"});
-    EXPECT_EQ(frmCW->ActiveControl(), &frmCW->optRST[1]);
-    EXPECT_TRUE(frmCW->optRST[1].Value());
+    EXPECT_EQ(frmCW->ActiveControl(), &frmCW->reportOptions[1]);
+    EXPECT_TRUE(frmCW->reportOptions[1].Value());
     Press({.name = "Up"});
-    EXPECT_EQ(frmCW->ActiveControl(), &frmCW->optRST[0]);
+    EXPECT_EQ(frmCW->ActiveControl(), &frmCW->reportOptions[0]);
 }
 
 TEST_F(Keyboard, EscLeavesWhereItShould) {

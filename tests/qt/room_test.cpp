@@ -123,20 +123,20 @@ TEST_F(Room, ListScrollsToTheEndOfItsLongestRowButNotToBlanks) {
 
 TEST_F(Room, ArrowsAreAsHighAsTheirField) {
     Shown(*frmCW);
-    EXPECT_EQ(WidgetOf<SpinArrows>(frmCW->UpDown1).height(), WidgetOf<QLineEdit>(frmCW->txtTone).height());
-    EXPECT_EQ(WidgetOf<SpinArrows>(frmCW->UpDown2).height(), WidgetOf<QLineEdit>(frmCW->txtWPM).height());
+    EXPECT_EQ(WidgetOf<SpinArrows>(frmCW->pitchArrows).height(), WidgetOf<QLineEdit>(frmCW->pitch).height());
+    EXPECT_EQ(WidgetOf<SpinArrows>(frmCW->speedArrows).height(), WidgetOf<QLineEdit>(frmCW->speed).height());
 }
 
 TEST_F(Room, VolumeScaleEndsOverTheEndsOfItsBar) {
     Shown(*frmCW);
-    const auto& head = WidgetOf<ColumnHead>(frmCW->Label11);
+    const auto& head = WidgetOf<ColumnHead>(frmCW->volumeLabel);
     const auto pieces = head.Pieces();
     ASSERT_EQ(pieces.size(), 3);
     EXPECT_EQ(pieces[0].text, QStringLiteral("Min"));
     EXPECT_EQ(pieces[0].x, 0);
     EXPECT_EQ(pieces[2].text, QStringLiteral("Max"));
     EXPECT_NEAR(pieces[2].x + head.fontMetrics().horizontalAdvance(pieces[2].text), head.width(), 2);
-    EXPECT_EQ(head.width(), WidgetOf<QWidget>(frmCW->HScroll1).width());
+    EXPECT_EQ(head.width(), WidgetOf<QWidget>(frmCW->volume).width());
 }
 
 TEST_F(Room, ButtonsKeepTheirCaptionsOffTheirEdges) {

@@ -220,7 +220,7 @@ TEST_F(SafeTyping, TheNextCallIsTypedWhileTheTextPlays) {
     EXPECT_EQ(Field(kCallField), "DL9XYZ");
     EXPECT_EQ(Field(kNumberReceivedField), "12");
     EXPECT_TRUE(Playing());
-    EXPECT_EQ(frmCWTX->Text1.Text(), "PARIS ");
+    EXPECT_EQ(frmCWTX->text.Text(), "PARIS ");
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
     EXPECT_EQ(QApplication::activeWindow(), WindowOf(*frmCWTX).Top());
 }
@@ -287,7 +287,7 @@ TEST_F(SafeTyping, FunctionKeysSendWhileATextPlays) {
     Send();
     desk().cw.CWTekster[1] = "EE";
     Key({.name = "F6"});
-    EXPECT_EQ(frmCWTX->Text1.Text(), "EE ");
+    EXPECT_EQ(frmCWTX->text.Text(), "EE ");
     EXPECT_TRUE(Playing());
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
 }

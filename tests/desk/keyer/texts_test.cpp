@@ -25,7 +25,7 @@ protected:
         Type(frmMain->fields[3], number);
     }
     static void PressTX() {
-        Dispatch([] { frmCWTX->cmdTX.Press(); });
+        Dispatch([] { frmCWTX->sendButton.Press(); });
     }
 };
 
@@ -59,7 +59,7 @@ TEST_F(CWTexts, TheTextShownIsTheTextSent) {
     Fill("DL9XYZ", "599", "0012");
     SendText("de #r");
     EXPECT_EQ(desk().cw.gsCWRaa, "de #r");
-    EXPECT_EQ(frmCWTX->Text1.Text(), "DE OZ1AB/P ");
+    EXPECT_EQ(frmCWTX->text.Text(), "DE OZ1AB/P ");
     EXPECT_EQ(Place().gsCWTekst, "DE OZ1AB/P ");
 }
 
