@@ -55,7 +55,7 @@ bool Plain(const Spellings& spellings) {
 
 void CheckSuffixes(const std::vector<std::string>& lines) {
     frmStregP.Load();
-    const std::vector<std::string>& items = frmStregP->List1.Items();
+    const std::vector<std::string>& items = frmStregP->contacts.Items();
     for (std::size_t i = 1; i < items.size(); ++i)
         if (items[i] < items[i - 1]) __builtin_trap();
     const Spellings spellings = SpellingsOf(lines);

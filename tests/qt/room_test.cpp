@@ -52,7 +52,7 @@ TEST_F(Room, QuickInfoStandsInTheMiddleOfTheScreenAndIsNotSizedByTheUser) {
 
 TEST_F(Room, QuickInfoKeepsTheShapeOfItsPicture) {
     Shown(*formQuickInfo);
-    const auto& picture = WidgetOf<PictureView>(formQuickInfo->Image1);
+    const auto& picture = WidgetOf<PictureView>(formQuickInfo->picture);
     // 1400 by 990, as make-quickinfo draws it.
     EXPECT_NEAR(picture.width() * 990.0 / 1400, picture.height(), 1);
 }

@@ -20,7 +20,7 @@ protected:
         if (!ProgramRuns()) Start();
         Dispatch([] { frmMain->mnuFunktionerStregP.Choose(); });
     }
-    static Lines Items() { return frmStregP->List1.Items(); }
+    static Lines Items() { return frmStregP->contacts.Items(); }
 };
 
 TEST_F(PortableCalls, ShowsACallOfTwoSpellings) {
