@@ -216,7 +216,7 @@ void KeyToPainted(benchmark::State& state) {
     const Station station;
     Windows windows(station.SettingsFile());
     windows.Start();
-    QWidget* const field = windows.WidgetOf(frmMain->fields[1]);
+    QWidget* const field = windows.WidgetOf(frmMain->fields[kCallField]);
     PressKey(*field, Qt::Key_1, QStringLiteral("1"));
     PressKey(*field, Qt::Key_L, QStringLiteral("L"));
     if (frmB4->earlierContacts.ListCount() != Found()) return state.SkipWithError("the list is not as long as the bare one");

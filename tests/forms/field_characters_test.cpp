@@ -25,31 +25,31 @@ protected:
 };
 
 TEST_F(Pasting, ANumberReceivedTakesFiguresOnly) {
-    EXPECT_EQ(Pasted(frmMain->fields[5], "1E9"), "19");
-    EXPECT_EQ(Pasted(frmMain->fields[5], " 12,3 "), "123");
-    EXPECT_EQ(Pasted(frmRetQSO->fields[5], "-1e9"), "19");
+    EXPECT_EQ(Pasted(frmMain->fields[kNumberReceivedField], "1E9"), "19");
+    EXPECT_EQ(Pasted(frmMain->fields[kNumberReceivedField], " 12,3 "), "123");
+    EXPECT_EQ(Pasted(frmRetQSO->fields[kNumberReceivedField], "-1e9"), "19");
 }
 
 TEST_F(Pasting, ACallIsPutInCapitals) {
-    EXPECT_EQ(Pasted(frmMain->fields[1], " oz1abc/p\t"), "OZ1ABC/P");
-    EXPECT_EQ(Pasted(frmMain->fields[1], "ø-z1"_t), "ØZ1");
-    EXPECT_EQ(Pasted(frmRetQSO->fields[1], "dl1we"), "DL1WE");
+    EXPECT_EQ(Pasted(frmMain->fields[kCallField], " oz1abc/p\t"), "OZ1ABC/P");
+    EXPECT_EQ(Pasted(frmMain->fields[kCallField], "ø-z1"_t), "ØZ1");
+    EXPECT_EQ(Pasted(frmRetQSO->fields[kCallField], "dl1we"), "DL1WE");
     EXPECT_EQ(Pasted(frmCall->callBox, "oz1ab/p"), "OZ1AB/P");
 }
 
 TEST_F(Pasting, ABlankPastedIsNoJump) {
-    Dispatch([] { frmMain->fields[1].SetFocus(); });
-    EXPECT_EQ(Pasted(frmMain->fields[1], "OZ1 ABC"), "OZ1ABC");
-    EXPECT_TRUE(frmMain->fields[1].HasFocus());
+    Dispatch([] { frmMain->fields[kCallField].SetFocus(); });
+    EXPECT_EQ(Pasted(frmMain->fields[kCallField], "OZ1 ABC"), "OZ1ABC");
+    EXPECT_TRUE(frmMain->fields[kCallField].HasFocus());
 }
 
 TEST_F(Pasting, ATimeTakesFiguresColonAndPoint) {
-    EXPECT_EQ(Pasted(frmMain->fields[0], "kl. 12:30"), ".12:3");
+    EXPECT_EQ(Pasted(frmMain->fields[kUtcField], "kl. 12:30"), ".12:3");
 }
 
 TEST_F(Pasting, AReportTakesWhatItsKeysTake) {
-    EXPECT_EQ(Pasted(frmMain->fields[4], "5 9"), "59");
-    EXPECT_EQ(Pasted(frmMain->fields[4], "5n"), "5n");
+    EXPECT_EQ(Pasted(frmMain->fields[kReportReceivedField], "5 9"), "59");
+    EXPECT_EQ(Pasted(frmMain->fields[kReportReceivedField], "5n"), "5n");
 }
 
 TEST_F(Pasting, FieldsWithArrowsTakeFiguresOnly) {
@@ -77,15 +77,15 @@ TEST_F(Pasting, AnOperatorTakesASeventhCharacterAndNoMoreAsByKey) {
 }
 
 TEST_F(Pasting, TheRoomOfAFieldIsForWhatItTakes) {
-    EXPECT_EQ(Pasted(frmMain->fields[5], "1 2 3 4 5"), "1234");
+    EXPECT_EQ(Pasted(frmMain->fields[kNumberReceivedField], "1 2 3 4 5"), "1234");
 }
 
 TEST_F(Pasting, TheFirstLineCounts) {
-    EXPECT_EQ(Pasted(frmMain->fields[1], "OZ1AB\r\nOZ2CD"), "OZ1AB");
+    EXPECT_EQ(Pasted(frmMain->fields[kCallField], "OZ1AB\r\nOZ2CD"), "OZ1AB");
 }
 
 TEST_F(Pasting, TheSelectionGoesIfTheFieldTakesAnything) {
-    TextBox& call = frmMain->fields[1];
+    TextBox& call = frmMain->fields[kCallField];
     call.SetText("OZ1AB");
     call.Select(2, 3);
     PasteInto(call, "?!");

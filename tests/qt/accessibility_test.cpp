@@ -134,8 +134,8 @@ TEST_F(Accessibility, OptionIsTurnedOnByTheReader) {
 }
 
 TEST_F(Accessibility, ReadOnlyFieldsSaySo) {
-    EXPECT_TRUE(Of(frmMain->fields[3]).state().readOnly);
-    EXPECT_FALSE(Of(frmMain->fields[1]).state().readOnly);
+    EXPECT_TRUE(Of(frmMain->fields[kNumberSentField]).state().readOnly);
+    EXPECT_FALSE(Of(frmMain->fields[kCallField]).state().readOnly);
 }
 
 }  // namespace

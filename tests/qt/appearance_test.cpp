@@ -19,7 +19,7 @@ protected:
     ~AppearanceOfTheWindow() override { QApplication::setPalette(QPalette()); }
     QMainWindow& Window() { return dynamic_cast<QMainWindow&>(*WindowOf(*frmMain).Top()); }
     QAction& Sun() { return *Window().findChild<QAction*>(QStringLiteral("appearanceSun")); }
-    QWidget& Call() { return WidgetOf<QWidget>(frmMain->fields[1]); }
+    QWidget& Call() { return WidgetOf<QWidget>(frmMain->fields[kCallField]); }
     /// The size of the text of the call field.
     double Points() { return Call().font().pointSizeF(); }
     void Press(Qt::Key key) {

@@ -96,7 +96,7 @@ protected:
     Form& Open(FormSlotBase& slot) {
         Dispatch([&] {
             slot.Load();
-            if (slot.Name() == "frmRetQSO") frmRetQSO->fields[1].SetText("DL1ABC");
+            if (slot.Name() == "frmRetQSO") frmRetQSO->fields[kCallField].SetText("DL1ABC");
             slot.Peek()->Show();
         });
         driver.Settle();
@@ -160,7 +160,7 @@ TEST_F(Keyboard, WhateverTakesTheFocusIsReached) {
             if (!Usable(*control) || (order.contains(control) && control->TabStop())) continue;
             // The arrow keys lead to the options that are off; the sent number is only to be read.
             const bool option = As<OptionButton>(control) != nullptr && order.contains(control);
-            EXPECT_TRUE(option || control == &frmMain->fields[3]) << form.Name() << "." << control->FullName();
+            EXPECT_TRUE(option || control == &frmMain->fields[kNumberSentField]) << form.Name() << "." << control->FullName();
         }
         Leave(*slot);
     }
@@ -240,8 +240,8 @@ TEST_F(Keyboard, EveryMenuOfTheBarOpensByItsLetterAndClosesByEsc) {
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << caption;
     }
     EXPECT_TRUE(main.isActiveWindow());
-    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->fields[1]);
-    EXPECT_TRUE(WidgetOf<QWidget>(frmMain->fields[1]).hasFocus());
+    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->fields[kCallField]);
+    EXPECT_TRUE(WidgetOf<QWidget>(frmMain->fields[kCallField]).hasFocus());
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ protected:
         driver.Settle();
         QApplication::clipboard()->setText(QStringLiteral("1E9"));
     }
-    static TextBox& Number() { return frmMain->fields[5]; }
+    static TextBox& Number() { return frmMain->fields[kNumberReceivedField]; }
     QLineEdit& Field() const { return WidgetOf<QLineEdit>(Number()); }
     QWindow* Window() const { return WindowOf(*frmMain).Top()->windowHandle(); }
 
@@ -89,17 +89,17 @@ TEST_F(DesktopPaste, IntoANewNumberTakesFiguresByKeyToo) {
         QTest::keyClick(window, Qt::Key_Return);
     };
     Dispatch([] { ChangeNextNumber(); });
-    EXPECT_EQ(frmMain->fields[3].Text(), "0942");
+    EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0942");
 }
 
 class RulesPaste : public WindowProgram {};
 
 TEST_F(RulesPaste, PassesTheFilters) {
     StartVatro();
-    driver.Focus(frmMain->fields[5]);
+    driver.Focus(frmMain->fields[kNumberReceivedField]);
     QApplication::clipboard()->setText(QStringLiteral("1E9"));
     QTest::keyClick(WindowOf(*frmMain).Top()->windowHandle(), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(frmMain->fields[5].Text(), "1E9");
+    EXPECT_EQ(frmMain->fields[kNumberReceivedField].Text(), "1E9");
 }
 
 }  // namespace

@@ -95,7 +95,7 @@ TEST_F(Room, MainWindowOfItsOwnSizeNeedsNoScrolling) {
 
 TEST_F(Room, PageAndArrowKeysDoNotScrollTheWindow) {
     Dispatch([] { frmMain->Place(0, 0, 400 * kTwipsPerPixel, 200 * kTwipsPerPixel); });
-    Dispatch([] { frmMain->fields[0].SetFocus(); });
+    Dispatch([] { frmMain->fields[kUtcField].SetFocus(); });
     driver.Settle();
     const int across = Inside().horizontalScrollBar()->value();
     const int down = Inside().verticalScrollBar()->value();

@@ -48,7 +48,7 @@ void CorrectNote() {
         desk().log.Replace(static_cast<std::size_t>(list.ListIndex()), NoteLine());
         SkrivLog();
     }
-    frmMain->fields[1].SetFocus();
+    frmMain->fields[kCallField].SetFocus();
 }
 
 }  // namespace vatro

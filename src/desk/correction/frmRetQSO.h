@@ -5,6 +5,7 @@
 // at the next load, as operators who look at a contact and leave it have always seen.
 #pragma once
 
+#include "entry/qso_fields.h"
 #include "forms.h"
 
 namespace vatro {
@@ -12,8 +13,8 @@ namespace vatro {
 class FrmRetQSO : public Form {
 public:
     FrmRetQSO();
-    /// Time, call, report sent, number sent, report received, number received.
-    TextBox fields[6];
+    /// The fields of the contact; ContactField gives the index of each.
+    ContactFields fields;
     /// Points; disabled for a duplicate.
     ComboBox pointBox;
     /// The multiplier as computed last; "&Log" computes it again.

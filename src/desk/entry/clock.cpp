@@ -31,7 +31,7 @@ void TimerStop() {
 
 void TimerTick() {
     if (frmMain->minuteTimer.Interval() != kMinute) frmMain->minuteTimer.SetInterval(kMinute);
-    frmMain->fields[0].SetText(UtcTimeText());
+    frmMain->fields[kUtcField].SetText(UtcTimeText());
 }
 
 void ToggleAutoTime() {

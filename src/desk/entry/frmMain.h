@@ -8,6 +8,7 @@
 #pragma once
 
 #include "entry/main_menu.h"
+#include "entry/qso_fields.h"
 #include "forms.h"
 
 namespace vatro {
@@ -21,8 +22,8 @@ public:
     /// Shows the lines of DeskState::log.
     ListBox log;
     Frame contactFrame;
-    /// Time, call, report sent, number sent, report received, number received.
-    TextBox fields[6];
+    /// The fields of the contact; ContactField gives the index of each.
+    ContactFields fields;
     CheckBox qsl;
     Button logButton;
     Frame operatorFrame;

@@ -43,7 +43,7 @@ void FrmNytQSOnr::TakeNumber() {
 
 void ChangeNextNumber() {
     frmNytQSOnr->ShowModal();
-    frmMain->fields[3].SetText(ZeroPadded(desk().log.giQSOnr, 4));
+    frmMain->fields[kNumberSentField].SetText(ZeroPadded(desk().log.giQSOnr, 4));
     frmQSOnr->visQSOnr();
 }
 

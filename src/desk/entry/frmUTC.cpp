@@ -38,7 +38,7 @@ void FrmUTC::Form_Load() {
 
 void ChangeUtcOffset() {
     frmUTC->ShowModal();
-    frmMain->fields[0].SetText(UtcTimeText());
+    frmMain->fields[kUtcField].SetText(UtcTimeText());
 }
 
 }  // namespace vatro

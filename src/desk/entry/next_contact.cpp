@@ -31,21 +31,21 @@ void ResetReport(TextBox& field) {
 void ResetQSO() {
     FrmMain& main = *frmMain;
     std::int16_t& number = desk().log.giQSOnr;
-    if (desk().gbAutoTid == 1) main.fields[0].SetText(UtcTimeText());
-    main.fields[1].SetText({});
-    ResetReport(main.fields[2]);
-    ResetReport(main.fields[4]);
+    if (desk().gbAutoTid == 1) main.fields[kUtcField].SetText(UtcTimeText());
+    main.fields[kCallField].SetText({});
+    ResetReport(main.fields[kReportSentField]);
+    ResetReport(main.fields[kReportReceivedField]);
     number = ToInt16(number + 1);
-    main.fields[3].SetText(ZeroPadded(number, 4));
-    main.fields[5].SetText({});
+    main.fields[kNumberSentField].SetText(ZeroPadded(number, 4));
+    main.fields[kNumberReceivedField].SetText({});
     main.qsl.SetValue(false);
     frmQSOnr->visQSOnr();
     if (desk().gbAutoTid != 1) {
-        main.fields[0].SetFocus();
-        main.fields[0].SelectAll();
+        main.fields[kUtcField].SetFocus();
+        main.fields[kUtcField].SelectAll();
         TimerStop();
     } else {
-        main.fields[1].SetFocus();
+        main.fields[kCallField].SetFocus();
         TimerStart();
     }
 }

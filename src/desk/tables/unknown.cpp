@@ -19,7 +19,7 @@ void GemUkendt(std::string_view line) {
 }
 
 void ShowCountryNow() {
-    std::string call = frmMain->fields[1].Text();
+    std::string call = frmMain->fields[kCallField].Text();
     if (call.empty()) {
         const auto& lines = desk().log.Lines();
         if (lines.empty()) return;

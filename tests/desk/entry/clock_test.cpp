@@ -25,7 +25,7 @@ TEST_F(EntryClock, TicksEveryMinuteFromTheFirstTickOn) {
     clock.now.millisecond = 100;
     TimerTick();
     EXPECT_EQ(frmMain->minuteTimer.Interval(), 60000);
-    EXPECT_EQ(frmMain->fields[0].Text(), "13:01");
+    EXPECT_EQ(frmMain->fields[kUtcField].Text(), "13:01");
 }
 
 TEST_F(EntryClock, StopsWithoutForgettingThatItIsAutomatic) {

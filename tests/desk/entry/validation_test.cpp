@@ -21,8 +21,8 @@ using Lines = std::vector<std::string>;
 class Validation : public RunningProgram {
 protected:
     void Enter(std::string_view call, std::string_view number) {
-        frmMain->fields[1].SetText(call);
-        frmMain->fields[5].SetText(number);
+        frmMain->fields[kCallField].SetText(call);
+        frmMain->fields[kNumberReceivedField].SetText(number);
         ValiderQSO();
     }
 };
@@ -55,20 +55,20 @@ TEST_F(Validation, AnAcceptedContactGoesToFileListAndCounters) {
 
 TEST_F(Validation, ASentNumberThatIsNoNumberIsRefused) {
     Start();
-    frmMain->fields[3].SetText("12A");
+    frmMain->fields[kNumberSentField].SetText("12A");
     dialogs.Expect("Sendt rapport skal være numerisk");
     Enter("DL9XYZ", "345");
-    EXPECT_TRUE(frmMain->fields[3].HasFocus());
+    EXPECT_TRUE(frmMain->fields[kNumberSentField].HasFocus());
     EXPECT_EQ(frmMain->log.ListCount(), 0);
 }
 
 TEST_F(Validation, TheSentReportIsJudgedBeforeTheNumbers) {
     Start();
-    frmMain->fields[2].SetText("5");
-    frmMain->fields[3].SetText("x");
+    frmMain->fields[kReportSentField].SetText("5");
+    frmMain->fields[kNumberSentField].SetText("x");
     dialogs.Expect("Modtaget RST skal være på 2 cifre.");
     Enter("DL9XYZ", "");
-    EXPECT_TRUE(frmMain->fields[2].HasFocus());
+    EXPECT_TRUE(frmMain->fields[kReportSentField].HasFocus());
 }
 
 TEST_F(Validation, TheStationOfTheSocietyLeavesItsCallInSixColumns) {
@@ -102,30 +102,30 @@ TEST_F(Validation, TheUnknownCallIsNotedBeforeTheLogIsWritten) {
 TEST_F(Validation, ResetKeepsTimeAndOperatorWithTheClockOff) {
     settings.texts["SETTINGS/AUTOTID"] = "0";
     Start();
-    frmMain->fields[0].SetText("10:15");
+    frmMain->fields[kUtcField].SetText("10:15");
     ResetQSO();
-    EXPECT_EQ(frmMain->fields[0].Text(), "10:15");
-    EXPECT_TRUE(frmMain->fields[0].HasFocus());
-    EXPECT_EQ(frmMain->fields[0].SelLength(), 5);
+    EXPECT_EQ(frmMain->fields[kUtcField].Text(), "10:15");
+    EXPECT_TRUE(frmMain->fields[kUtcField].HasFocus());
+    EXPECT_EQ(frmMain->fields[kUtcField].SelLength(), 5);
     EXPECT_FALSE(frmMain->minuteTimer.Running());
     EXPECT_EQ(frmMain->operatorBox.Text(), "OZ1DEF");
 }
 
 TEST_F(Validation, ResetMovesTheNumberOnAndClearsTheEntry) {
     Start();
-    frmMain->fields[1].SetText("DL");
-    frmMain->fields[2].SetText("11");
-    frmMain->fields[5].SetText("7");
+    frmMain->fields[kCallField].SetText("DL");
+    frmMain->fields[kReportSentField].SetText("11");
+    frmMain->fields[kNumberReceivedField].SetText("7");
     frmMain->qsl.SetValue(true);
     desk().log.giQSOnr = 998;
     ResetQSO();
     EXPECT_EQ(desk().log.giQSOnr, 999);
-    EXPECT_EQ(frmMain->fields[1].Text(), "");
-    EXPECT_EQ(frmMain->fields[2].Text(), "59");
-    EXPECT_EQ(frmMain->fields[2].MaxLength(), 2);
-    EXPECT_EQ(frmMain->fields[3].Text(), "0999");
-    EXPECT_EQ(frmMain->fields[4].Text(), "59");
-    EXPECT_EQ(frmMain->fields[5].Text(), "");
+    EXPECT_EQ(frmMain->fields[kCallField].Text(), "");
+    EXPECT_EQ(frmMain->fields[kReportSentField].Text(), "59");
+    EXPECT_EQ(frmMain->fields[kReportSentField].MaxLength(), 2);
+    EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0999");
+    EXPECT_EQ(frmMain->fields[kReportReceivedField].Text(), "59");
+    EXPECT_EQ(frmMain->fields[kNumberReceivedField].Text(), "");
     EXPECT_FALSE(frmMain->qsl.Value());
 }
 

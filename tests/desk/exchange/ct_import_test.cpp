@@ -75,8 +75,8 @@ TEST_F(CtImport, TheSystemIsOnTheImportedLogAfterwards) {
     EXPECT_EQ(bar.Panel(6), "8");
     // ResetQSO has moved it on from the last line's.
     EXPECT_EQ(desk().log.giQSOnr, 13);
-    EXPECT_EQ(frmMain->fields[3].Text(), "0013");
-    EXPECT_EQ(frmMain->fields[2].Text(), "599");
+    EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0013");
+    EXPECT_EQ(frmMain->fields[kReportSentField].Text(), "599");
     EXPECT_FALSE(files.IsOpen());
     for (const Toolbar::ToolButton& button : frmMain->toolbar.ToolButtons())
         EXPECT_EQ(button.pressed, button.index == 4 || button.index == 9) << button.index;
@@ -248,7 +248,7 @@ TEST_F(CtImport, AFileOfThreeLinesIsToldToBeEmptyOnItsOwnBand) {
     EXPECT_EQ(desk().gsBand, "40m");
     EXPECT_EQ(desk().gsMode, "SSB");
     EXPECT_FALSE(files.files.contains("LOG\\FD40MSSB.TXT"));
-    EXPECT_EQ(frmMain->fields[3].Text(), "0001");
+    EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0001");
 }
 
 TEST_F(CtImport, AFileThatCannotBeOpenedStopsTheProgram) {

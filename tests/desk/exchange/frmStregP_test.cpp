@@ -164,7 +164,7 @@ TEST_F(PortableCalls, ChangesNoLogAndNoCounter) {
     const auto before = files.files;
     Open();
     EXPECT_EQ(files.files, before);
-    EXPECT_EQ(frmMain->fields[3].Text(), "0003");
+    EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0003");
 }
 
 }  // namespace

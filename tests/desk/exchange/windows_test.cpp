@@ -27,7 +27,7 @@ TEST_F(Windows, StartInformationComesAtTheStartUntilItIsUnticked) {
         EXPECT_EQ(form.Caption(), "Information til Fieldday 2004");
         EXPECT_TRUE(frmVisTekst->showAgain.Value());
         // All the rest of the start has been done.
-        EXPECT_EQ(frmMain->fields[3].Text(), "0001");
+        EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0001");
         frmVisTekst->showAgain.Flip();
         frmVisTekst->closeButton.Press();
     };

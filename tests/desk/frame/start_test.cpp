@@ -52,7 +52,7 @@ TEST_F(ProgramStart, ShowsTheSideWindowsAndPutsTheCursorInTheCallField) {
     EXPECT_TRUE(frmContestCall->Visible());
     EXPECT_FALSE(frmSplash.Loaded());
     EXPECT_EQ(ActiveForm(), frmMain.Peek());
-    EXPECT_TRUE(frmMain->fields[1].HasFocus());
+    EXPECT_TRUE(frmMain->fields[kCallField].HasFocus());
 }
 
 TEST_F(ProgramStart, JoinsTheVersionNumbersByPoints) {

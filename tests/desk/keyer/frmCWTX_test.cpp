@@ -251,7 +251,7 @@ TEST_F(Sending, ANewSpeedBreaksTheTextOffAndTheWindowWaitsForStop) {
 TEST_F(Sending, WithoutACardTheMessageComesOnceAndNothingElseHappens) {
     sound.there = false;
     Start();
-    Type(frmMain->fields[1], "DL9XYZ");
+    Type(frmMain->fields[kCallField], "DL9XYZ");
     dialogs.Expect("Lydkort findes ikke.");
     SendText("#C");
     ASSERT_EQ(dialogs.boxes.size(), 1U);

@@ -20,9 +20,9 @@ protected:
     }
     /// Types a contact in progress.
     void Fill(std::string_view call, std::string_view report, std::string_view number) {
-        Type(frmMain->fields[1], call);
-        Type(frmMain->fields[2], report);
-        Type(frmMain->fields[3], number);
+        Type(frmMain->fields[kCallField], call);
+        Type(frmMain->fields[kReportSentField], report);
+        Type(frmMain->fields[kNumberSentField], number);
     }
     static void PressTX() {
         Dispatch([] { frmCWTX->sendButton.Press(); });
@@ -76,15 +76,15 @@ TEST_F(CWTexts, TheExtraSilenceOfTheSettingsIsSent) {
 
 TEST_F(CWTexts, AddressTheStationInTheFields) {
     StartWithLast(kFirstLine);
-    Type(frmMain->fields[1], "DL9XYZ");
-    Type(frmMain->fields[2], "569");
+    Type(frmMain->fields[kCallField], "DL9XYZ");
+    Type(frmMain->fields[kReportSentField], "569");
     SendText("#C #T");
     EXPECT_EQ(Place().gsCWTekst, "DL9XYZ 569 ");
 }
 
 TEST_F(CWTexts, TakeTheNumberOfTheField) {
     Start();
-    Type(frmMain->fields[1], "DL9XYZ");
+    Type(frmMain->fields[kCallField], "DL9XYZ");
     SendText("#N");
     EXPECT_EQ(Place().gsCWTekst, "001 ");
     EXPECT_EQ(desk().cw.gsCWNummer, "0001");
@@ -98,9 +98,9 @@ TEST_F(CWTexts, WithNothingAtAllTheCodesAreEmpty) {
 
 TEST_F(CWTexts, WithNoLogTheLastStationIsAddressedAgain) {
     Start();
-    Type(frmMain->fields[1], "DL9XYZ");
+    Type(frmMain->fields[kCallField], "DL9XYZ");
     SendText("#C");
-    Type(frmMain->fields[1], "");
+    Type(frmMain->fields[kCallField], "");
     SendText("#C #C");
     EXPECT_EQ(Place().gsCWTekst, "DL9XYZ DL9XYZ ");
 }
