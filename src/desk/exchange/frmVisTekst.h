@@ -11,7 +11,7 @@ class FrmVisTekst : public Form {
 public:
     FrmVisTekst();
     TextView text;
-    /// Whether the text comes at the next start; taken over into gbVisInfo by closeButton alone.
+    /// Whether the text comes at the next start; closeButton takes it over into gbVisInfo, nothing else does.
     CheckBox showAgain;
     Button closeButton;
 
