@@ -69,7 +69,7 @@ void Contact(benchmark::State& state, Counted counted) {
         ++first;
     }
     if (!written) state.SkipWithError("a line was not written");
-    if (frmMain->List1.ListCount() != kLogLines + static_cast<int>(state.iterations())) state.SkipWithError("a contact is missing");
+    if (frmMain->log.ListCount() != kLogLines + static_cast<int>(state.iterations())) state.SkipWithError("a contact is missing");
 }
 
 void InRounds(benchmark::internal::Benchmark* measured) {

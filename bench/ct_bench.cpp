@@ -62,7 +62,7 @@ void Import(benchmark::State& state) {
     state.SetLabel("vs 5000 lines appended and synced, at most 20");
     for (auto _ : state) {
         ImporterCt(NativeText(file));
-        if (frmMain->List1.ListCount() != static_cast<int>(kContacts)) return state.SkipWithError("contacts are missing");
+        if (frmMain->log.ListCount() != static_cast<int>(kContacts)) return state.SkipWithError("contacts are missing");
     }
 }
 

@@ -19,7 +19,7 @@ namespace {
 
 void ScanForKey(benchmark::State& state) {
     const Program program(SampleLog());
-    const std::vector<std::string>& lines = frmMain->List1.Items();
+    const std::vector<std::string>& lines = frmMain->log.Items();
     for (auto _ : state) {
         for (const char sought : {'Q', 'Z'}) {
             benchmark::DoNotOptimize(ScanLog(lines, sought));
@@ -31,7 +31,7 @@ void ScanForKey(benchmark::State& state) {
 void Key(benchmark::State& state, std::string_view call) {
     Program program(SampleLog());
     program.Type(call);
-    if (frmB4->List1.ListCount() != 0) return state.SkipWithError("the call stands in the log");
+    if (frmB4->earlierContacts.ListCount() != 0) return state.SkipWithError("the call stands in the log");
     state.SetLabel("vs scan of calls and prefixes, at most 2");
     for (auto _ : state) {
         program.Type("Q");

@@ -32,7 +32,7 @@ void LoadLog(benchmark::State& state) {
     state.SetLabel("vs file into lines, at most 3");
     for (auto _ : state) {
         IndlæsLogfil();
-        if (frmMain->List1.ListCount() != kLogLines) return state.SkipWithError("the log was not read");
+        if (frmMain->log.ListCount() != kLogLines) return state.SkipWithError("the log was not read");
     }
 }
 
@@ -43,7 +43,7 @@ void ChangeBand(benchmark::State& state) {
     state.SetLabel("vs file into lines, at most 3");
     for (auto _ : state) {
         ChangeBandMode(k80m);
-        if (frmMain->List1.ListCount() != kLogLines) return state.SkipWithError("the log was not read");
+        if (frmMain->log.ListCount() != kLogLines) return state.SkipWithError("the log was not read");
     }
 }
 

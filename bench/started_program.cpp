@@ -65,7 +65,7 @@ Program::Program(const std::vector<std::string>& log) : services_(std::make_uniq
     with.files.TakeDirectory(NativeText(workplace_.Path("log")));
     BeginProgram();
     Dispatch(StartProgram);
-    if (frmMain->List1.ListCount() != static_cast<int>(log.size())) throw std::runtime_error("the log was not read");
+    if (frmMain->log.ListCount() != static_cast<int>(log.size())) throw std::runtime_error("the log was not read");
 }
 
 Program::~Program() {

@@ -95,8 +95,8 @@ public:
         InstallPlatform(front_, {unattended_, settings_, files_, clock_, unattended_, unattended_, sound_, printer_, Version{}});
         BeginProgram();
         Deliver([] { StartProgram(); });
-        if (frmMain->List1.ListCount() != kLogLines) throw std::runtime_error("the log was not read");
-        UntilPainted(Surface(WidgetOf(frmMain->List1))).Wait();
+        if (frmMain->log.ListCount() != kLogLines) throw std::runtime_error("the log was not read");
+        UntilPainted(Surface(WidgetOf(frmMain->log))).Wait();
     }
     QWidget* WidgetOf(const Control& control) const { return front_.WidgetOf(control); }
 
@@ -216,13 +216,13 @@ void KeyToPainted(benchmark::State& state) {
     const Station station;
     Windows windows(station.SettingsFile());
     windows.Start();
-    QWidget* const field = windows.WidgetOf(frmMain->Text1[1]);
+    QWidget* const field = windows.WidgetOf(frmMain->fields[kCallField]);
     PressKey(*field, Qt::Key_1, QStringLiteral("1"));
     PressKey(*field, Qt::Key_L, QStringLiteral("L"));
-    if (frmB4->List1.ListCount() != Found()) return state.SkipWithError("the list is not as long as the bare one");
+    if (frmB4->earlierContacts.ListCount() != Found()) return state.SkipWithError("the list is not as long as the bare one");
     PressKey(*field, Qt::Key_Backspace, QStringLiteral("\b"));
     state.SetLabel("vs key in a bare field over a list");
-    Keys(state, *field, Surface(windows.WidgetOf(frmB4->List1)));
+    Keys(state, *field, Surface(windows.WidgetOf(frmB4->earlierContacts)));
 }
 
 BENCHMARK(EmptyWindow)->Name("process to an empty painted window")->Unit(benchmark::kMillisecond)->UseRealTime();

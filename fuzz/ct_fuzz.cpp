@@ -49,7 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!Expected(failure.Which())) __builtin_trap();
     }
     std::string file;
-    for (const std::string& line : frmMain->List1.Items()) {
+    for (const std::string& line : frmMain->log.Items()) {
         if (!InItsColumns(line)) __builtin_trap();
         file += line + "\r\n";
     }
@@ -57,12 +57,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (file != (written == texts.end() ? std::string() : written->second)) __builtin_trap();
 
     const std::int32_t points = desk().log.glPoint;
-    const int count = frmMain->List1.ListCount();
+    const int count = frmMain->log.ListCount();
     const bool whole = file.size() == static_cast<std::size_t>(count) * 81;
     world->files.Close(2);
     IndlæsLogfil();
     // A number that is too long stands where the points are looked for.
-    if (whole && (desk().log.glPoint != points || frmMain->List1.ListCount() != count)) __builtin_trap();
+    if (whole && (desk().log.glPoint != points || frmMain->log.ListCount() != count)) __builtin_trap();
     EndProgram();
     return 0;
 }

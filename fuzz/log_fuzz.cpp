@@ -55,7 +55,7 @@ bool Plain(const Spellings& spellings) {
 
 void CheckSuffixes(const std::vector<std::string>& lines) {
     frmStregP.Load();
-    const std::vector<std::string>& items = frmStregP->List1.Items();
+    const std::vector<std::string>& items = frmStregP->contacts.Items();
     for (std::size_t i = 1; i < items.size(); ++i)
         if (items[i] < items[i - 1]) __builtin_trap();
     const Spellings spellings = SpellingsOf(lines);
@@ -94,7 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     BeginProgram();
     Dispatch(StartProgram);
     // A value too large for a counter ends the load with that line.
-    const std::vector<std::string>& loaded = frmMain->List1.Items();
+    const std::vector<std::string>& loaded = frmMain->log.Items();
     if (loaded.size() > current.size()) __builtin_trap();
     if (!std::equal(loaded.begin(), loaded.end(), current.begin())) __builtin_trap();
     CheckSuffixes(all);

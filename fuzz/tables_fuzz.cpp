@@ -32,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (CountriesInUse() > kCountryRows || desk().tables.giRefPfx > kPrefixRows + 1 || StationsInUse() > kEdrRows) __builtin_trap();
     for (const char* call : {"OZ1ABC", "OZ1ABC/P", "W1AW", "SV9/DL1XYZ", "Q"}) {
         Dispatch([&] {
-            frmMain->Text1[kCallField].SetText(call);
+            frmMain->fields[kCallField].SetText(call);
             std::string points(call);
             BeregnPoint(points);
         });

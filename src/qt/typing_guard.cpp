@@ -174,7 +174,7 @@ bool TypingGuard::TakeOnForm(const Form& form, const PressedKey& key) {
     // In the list Enter corrects, in the box it takes the operator.
     const Control* active = form.ActiveControl();
     if (As<ListBox>(active) != nullptr || As<ComboBox>(active) != nullptr) return false;
-    return entry_.Swallows(key, frmMain->Text1[kCallField].Text().empty(), now());
+    return entry_.Swallows(key, frmMain->fields[kCallField].Text().empty(), now());
 }
 
 void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {
@@ -244,7 +244,7 @@ void TypingGuard::SendingOver() {
 
 void TypingGuard::WatchLog() {
     if (!frmMain.Loaded()) return;
-    const auto* list = qobject_cast<const ItemList*>(front_.WidgetOf(frmMain->List1));
+    const auto* list = qobject_cast<const ItemList*>(front_.WidgetOf(frmMain->log));
     if (list == nullptr || list->model() == log_) return;
     log_ = list->model();
     // A log that is read comes as a whole; a row by itself has just been logged.

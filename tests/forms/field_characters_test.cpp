@@ -25,67 +25,67 @@ protected:
 };
 
 TEST_F(Pasting, ANumberReceivedTakesFiguresOnly) {
-    EXPECT_EQ(Pasted(frmMain->Text1[5], "1E9"), "19");
-    EXPECT_EQ(Pasted(frmMain->Text1[5], " 12,3 "), "123");
-    EXPECT_EQ(Pasted(frmRetQSO->Text1[5], "-1e9"), "19");
+    EXPECT_EQ(Pasted(frmMain->fields[kNumberReceivedField], "1E9"), "19");
+    EXPECT_EQ(Pasted(frmMain->fields[kNumberReceivedField], " 12,3 "), "123");
+    EXPECT_EQ(Pasted(frmRetQSO->fields[kNumberReceivedField], "-1e9"), "19");
 }
 
 TEST_F(Pasting, ACallIsPutInCapitals) {
-    EXPECT_EQ(Pasted(frmMain->Text1[1], " oz1abc/p\t"), "OZ1ABC/P");
-    EXPECT_EQ(Pasted(frmMain->Text1[1], "ø-z1"_t), "ØZ1");
-    EXPECT_EQ(Pasted(frmRetQSO->Text1[1], "dl1we"), "DL1WE");
-    EXPECT_EQ(Pasted(frmCall->cboCall, "oz1ab/p"), "OZ1AB/P");
+    EXPECT_EQ(Pasted(frmMain->fields[kCallField], " oz1abc/p\t"), "OZ1ABC/P");
+    EXPECT_EQ(Pasted(frmMain->fields[kCallField], "ø-z1"_t), "ØZ1");
+    EXPECT_EQ(Pasted(frmRetQSO->fields[kCallField], "dl1we"), "DL1WE");
+    EXPECT_EQ(Pasted(frmCall->callBox, "oz1ab/p"), "OZ1AB/P");
 }
 
 TEST_F(Pasting, ABlankPastedIsNoJump) {
-    Dispatch([] { frmMain->Text1[1].SetFocus(); });
-    EXPECT_EQ(Pasted(frmMain->Text1[1], "OZ1 ABC"), "OZ1ABC");
-    EXPECT_TRUE(frmMain->Text1[1].HasFocus());
+    Dispatch([] { frmMain->fields[kCallField].SetFocus(); });
+    EXPECT_EQ(Pasted(frmMain->fields[kCallField], "OZ1 ABC"), "OZ1ABC");
+    EXPECT_TRUE(frmMain->fields[kCallField].HasFocus());
 }
 
 TEST_F(Pasting, ATimeTakesFiguresColonAndPoint) {
-    EXPECT_EQ(Pasted(frmMain->Text1[0], "kl. 12:30"), ".12:3");
+    EXPECT_EQ(Pasted(frmMain->fields[kUtcField], "kl. 12:30"), ".12:3");
 }
 
 TEST_F(Pasting, AReportTakesWhatItsKeysTake) {
-    EXPECT_EQ(Pasted(frmMain->Text1[4], "5 9"), "59");
-    EXPECT_EQ(Pasted(frmMain->Text1[4], "5n"), "5n");
+    EXPECT_EQ(Pasted(frmMain->fields[kReportReceivedField], "5 9"), "59");
+    EXPECT_EQ(Pasted(frmMain->fields[kReportReceivedField], "5n"), "5n");
 }
 
 TEST_F(Pasting, FieldsWithArrowsTakeFiguresOnly) {
-    EXPECT_EQ(Pasted(frmNytQSOnr->Text1, "9E4"), "94");
-    EXPECT_EQ(Pasted(frmCW->txtWPM, "2e3 WPM"), "23");
-    EXPECT_EQ(Pasted(frmCW->txtTone, "-800"), "800");
+    EXPECT_EQ(Pasted(frmNytQSOnr->number, "9E4"), "94");
+    EXPECT_EQ(Pasted(frmCW->speed, "2e3 WPM"), "23");
+    EXPECT_EQ(Pasted(frmCW->pitch, "-800"), "800");
 }
 
 TEST_F(Pasting, AFieldWithArrowsTakesNoLetterByKeyEither) {
-    EXPECT_EQ(CharacterInto(frmNytQSOnr->Text1, 'E'), kNoKey);
-    EXPECT_EQ(CharacterInto(frmNytQSOnr->Text1, '9'), '9');
-    EXPECT_EQ(CharacterInto(frmNytQSOnr->Text1, kBackspace), kBackspace);
+    EXPECT_EQ(CharacterInto(frmNytQSOnr->number, 'E'), kNoKey);
+    EXPECT_EQ(CharacterInto(frmNytQSOnr->number, '9'), '9');
+    EXPECT_EQ(CharacterInto(frmNytQSOnr->number, kBackspace), kBackspace);
 }
 
 TEST_F(Pasting, AMorseTextKeepsItsBlanks) {
-    EXPECT_EQ(Pasted(frmCW->Text1[0], "cq test <de> #r"), "CQ TEST DE #R");
+    EXPECT_EQ(Pasted(frmCW->texts[0], "cq test <de> #r"), "CQ TEST DE #R");
 }
 
 TEST_F(Pasting, ANoteTakesEverything) {
-    EXPECT_EQ(Pasted(frmNote->Text1, "Pause 14-15, æble; #1!"_t), "Pause 14-15, æble; #1!");
+    EXPECT_EQ(Pasted(frmNote->note, "Pause 14-15, æble; #1!"_t), "Pause 14-15, æble; #1!");
 }
 
 TEST_F(Pasting, AnOperatorTakesASeventhCharacterAndNoMoreAsByKey) {
-    EXPECT_EQ(Pasted(frmMain->Combo1, "oz1abcdef"), "OZ1ABCD");
+    EXPECT_EQ(Pasted(frmMain->operatorBox, "oz1abcdef"), "OZ1ABCD");
 }
 
 TEST_F(Pasting, TheRoomOfAFieldIsForWhatItTakes) {
-    EXPECT_EQ(Pasted(frmMain->Text1[5], "1 2 3 4 5"), "1234");
+    EXPECT_EQ(Pasted(frmMain->fields[kNumberReceivedField], "1 2 3 4 5"), "1234");
 }
 
 TEST_F(Pasting, TheFirstLineCounts) {
-    EXPECT_EQ(Pasted(frmMain->Text1[1], "OZ1AB\r\nOZ2CD"), "OZ1AB");
+    EXPECT_EQ(Pasted(frmMain->fields[kCallField], "OZ1AB\r\nOZ2CD"), "OZ1AB");
 }
 
 TEST_F(Pasting, TheSelectionGoesIfTheFieldTakesAnything) {
-    TextBox& call = frmMain->Text1[1];
+    TextBox& call = frmMain->fields[kCallField];
     call.SetText("OZ1AB");
     call.Select(2, 3);
     PasteInto(call, "?!");

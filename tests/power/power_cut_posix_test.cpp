@@ -181,7 +181,7 @@ public:
 
 private:
     static void Rewrite(char mark) {
-        ListBox& list = frmMain->List1;
+        ListBox& list = frmMain->log;
         for (int i = 0; i < list.ListCount(); ++i) {
             std::string line = list.List(i);
             line[50] = mark;

@@ -111,8 +111,8 @@ TEST_F(Accessibility, TellsWhatKindEachControlIs) {
 }
 
 TEST_F(Accessibility, ComboBoxTellsItsNameAndItsText) {
-    Dispatch([] { frmMain->Combo1.SetText("OZ7XYZ"); });
-    const QAccessibleInterface& combo = Of(frmMain->Combo1);
+    Dispatch([] { frmMain->operatorBox.SetText("OZ7XYZ"); });
+    const QAccessibleInterface& combo = Of(frmMain->operatorBox);
     EXPECT_EQ(NameOf(combo), "Operatør Call");
     EXPECT_EQ(combo.text(QAccessible::Value), QStringLiteral("OZ7XYZ"));
     EXPECT_TRUE(combo.state().editable);
@@ -124,18 +124,18 @@ TEST_F(Accessibility, ComboBoxTellsItsNameAndItsText) {
 
 TEST_F(Accessibility, OptionIsTurnedOnByTheReader) {
     Dispatch([] { frmCW->Show(); });
-    EXPECT_TRUE(Of(frmCW->optRST[0]).state().checked);
-    QAccessibleInterface& other = Of(frmCW->optRST[1]);
+    EXPECT_TRUE(Of(frmCW->reportOptions[0]).state().checked);
+    QAccessibleInterface& other = Of(frmCW->reportOptions[1]);
     EXPECT_FALSE(other.state().checked);
     other.actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-    EXPECT_TRUE(frmCW->optRST[1].Value());
+    EXPECT_TRUE(frmCW->reportOptions[1].Value());
     EXPECT_TRUE(other.state().checked);
-    EXPECT_FALSE(Of(frmCW->optRST[0]).state().checked);
+    EXPECT_FALSE(Of(frmCW->reportOptions[0]).state().checked);
 }
 
 TEST_F(Accessibility, ReadOnlyFieldsSaySo) {
-    EXPECT_TRUE(Of(frmMain->Text1[3]).state().readOnly);
-    EXPECT_FALSE(Of(frmMain->Text1[1]).state().readOnly);
+    EXPECT_TRUE(Of(frmMain->fields[kNumberSentField]).state().readOnly);
+    EXPECT_FALSE(Of(frmMain->fields[kCallField]).state().readOnly);
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ protected:
     ~AppearanceOfTheWindow() override { QApplication::setPalette(QPalette()); }
     QMainWindow& Window() { return dynamic_cast<QMainWindow&>(*WindowOf(*frmMain).Top()); }
     QAction& Sun() { return *Window().findChild<QAction*>(QStringLiteral("appearanceSun")); }
-    QWidget& Call() { return WidgetOf<QWidget>(frmMain->Text1[1]); }
+    QWidget& Call() { return WidgetOf<QWidget>(frmMain->fields[kCallField]); }
     /// The size of the text of the call field.
     double Points() { return Call().font().pointSizeF(); }
     void Press(Qt::Key key) {
@@ -35,12 +35,12 @@ TEST_F(AppearanceOfTheWindow, SunIsBlackOnWhiteAndBoldAndIsRemembered) {
     driver.Settle();
     EXPECT_EQ(Window().palette().color(QPalette::Window), QColor(Qt::white));
     EXPECT_EQ(Call().palette().color(QPalette::Text), QColor(Qt::black));
-    EXPECT_TRUE(WidgetOf<QWidget>(frmMain->List1).font().bold());
+    EXPECT_TRUE(WidgetOf<QWidget>(frmMain->log).font().bold());
     EXPECT_EQ(settings.Read("Settings", "Solskin"), "True");
     Sun().trigger();
     driver.Settle();
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), usual.color(QPalette::Window));
-    EXPECT_FALSE(WidgetOf<QWidget>(frmMain->List1).font().bold());
+    EXPECT_FALSE(WidgetOf<QWidget>(frmMain->log).font().bold());
     EXPECT_EQ(settings.Read("Settings", "Solskin"), "False");
 }
 

@@ -113,13 +113,13 @@ TEST_F(MainWindow, HasTheSizeThatTheFrontInMemoryGivesIt) {
 }
 
 TEST_F(MainWindow, ShowsAllColumnsOfAContact) {
-    auto& list = WidgetOf<ItemList>(frmMain->List1);
+    auto& list = WidgetOf<ItemList>(frmMain->log);
     EXPECT_LE(list.ColumnLeft(80), list.viewport()->width());
 }
 
 TEST_F(MainWindow, PutsEachHeadOverItsColumn) {
     const ColumnHead& head = Head("Label1");
-    const auto& list = WidgetOf<ItemList>(frmMain->List1);
+    const auto& list = WidgetOf<ItemList>(frmMain->log);
     const int columns[]{1, 7, 23, 32, 41, 44, 55, 62, 66, 72};
     const auto pieces = head.Pieces();
     ASSERT_EQ(pieces.size(), 10);
@@ -139,7 +139,7 @@ TEST_F(MainWindow, PutsEachCaptionOverItsField) {
     ASSERT_EQ(pieces.size(), 4);
     const int fields[]{0, 1, 2, 4};
     for (qsizetype i = 0; i < 4; ++i) {
-        const auto& field = WidgetOf<QLineEdit>(frmMain->Text1[static_cast<std::size_t>(fields[i])]);
+        const auto& field = WidgetOf<QLineEdit>(frmMain->fields[static_cast<std::size_t>(fields[i])]);
         EXPECT_NEAR(pieces[i].x, head.mapFromGlobal(field.mapToGlobal(QPoint())).x(), 4) << i;
     }
 }
@@ -150,19 +150,19 @@ TEST_F(MainWindow, HasRoomForEveryCharacterOfAField) {
         const char* text;
     } widest[]{{0, "23:59"}, {2, "599"}, {3, "9999"}, {4, "599"}, {5, "9999"}, {1, "OZ7ABC/QRP/MM44"}};
     for (const auto& [index, text] : widest) {
-        const auto& field = WidgetOf<QLineEdit>(frmMain->Text1[index]);
+        const auto& field = WidgetOf<QLineEdit>(frmMain->fields[index]);
         EXPECT_LE(field.fontMetrics().horizontalAdvance(QLatin1String(text)) + 8, field.width()) << text;
     }
 }
 
 TEST_F(MainWindow, ShowsTheTextOfTheStatusBarInFullOrInItsTooltip) {
     const std::string longText(300, 'W');
-    Dispatch([&] { frmMain->sbStatusBar.SetPanel(1, longText); });
+    Dispatch([&] { frmMain->statusBar.SetPanel(1, longText); });
     driver.Settle();
     const auto* panel = Top().findChild<StatusPanel*>(QStringLiteral("sbStatusBar_1"));
     EXPECT_NE(panel->text().size(), 300);
     EXPECT_TRUE(panel->toolTip().contains(QString(300, u'W')));
-    Dispatch([] { frmMain->sbStatusBar.SetPanel(1, "short"); });
+    Dispatch([] { frmMain->statusBar.SetPanel(1, "short"); });
     driver.Settle();
     EXPECT_EQ(panel->text(), QStringLiteral("short"));
 }
@@ -173,7 +173,7 @@ TEST_F(MainWindow, OutOfUseLeavesTheOtherWindowsAsTheyAre) {
         Dispatch([&] { frmMain->SetEnabled(enabled); });
         EXPECT_EQ(Top().isEnabled(), enabled);
         EXPECT_TRUE(WindowOf(*frmB4).Top()->isEnabled());
-        EXPECT_TRUE(WidgetOf<QWidget>(frmB4->List1).isEnabled());
+        EXPECT_TRUE(WidgetOf<QWidget>(frmB4->earlierContacts).isEnabled());
         EXPECT_FALSE(WindowOf(*frmQSOnr).Top()->isEnabled());
     }
 }

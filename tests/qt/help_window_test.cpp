@@ -140,7 +140,7 @@ TEST_F(HelpViewer, EscClosesIt) {
 TEST_F(WindowProgram, QuickInfoShowsItsPictureOnAnyScreen) {
     StartVatro();
     Dispatch([] { formQuickInfo.Load(); });
-    const auto& picture = WidgetOf<PictureView>(formQuickInfo->Image1);
+    const auto& picture = WidgetOf<PictureView>(formQuickInfo->picture);
     ASSERT_FALSE(picture.Picture().isNull());
     const QSize screen = picture.screen()->availableSize();
     EXPECT_LE(picture.sizeHint().width(), screen.width());

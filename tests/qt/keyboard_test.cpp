@@ -96,7 +96,7 @@ protected:
     Form& Open(FormSlotBase& slot) {
         Dispatch([&] {
             slot.Load();
-            if (slot.Name() == "frmRetQSO") frmRetQSO->Text1[1].SetText("DL1ABC");
+            if (slot.Name() == "frmRetQSO") frmRetQSO->fields[kCallField].SetText("DL1ABC");
             slot.Peek()->Show();
         });
         driver.Settle();
@@ -160,7 +160,7 @@ TEST_F(Keyboard, WhateverTakesTheFocusIsReached) {
             if (!Usable(*control) || (order.contains(control) && control->TabStop())) continue;
             // The arrow keys lead to the options that are off; the sent number is only to be read.
             const bool option = As<OptionButton>(control) != nullptr && order.contains(control);
-            EXPECT_TRUE(option || control == &frmMain->Text1[3]) << form.Name() << "." << control->FullName();
+            EXPECT_TRUE(option || control == &frmMain->fields[kNumberSentField]) << form.Name() << "." << control->FullName();
         }
         Leave(*slot);
     }
@@ -168,13 +168,13 @@ TEST_F(Keyboard, WhateverTakesTheFocusIsReached) {
 
 TEST_F(Keyboard, ArrowsLeadToTheOptionsThatAreOff) {
     Open(*FindFormSlot("frmCW"));
-    Dispatch([] { frmCW->optRST[0].SetFocus(); });
+    Dispatch([] { frmCW->reportOptions[0].SetFocus(); });
     driver.Settle();
     Press({.name = "Down"});
-    EXPECT_EQ(frmCW->ActiveControl(), &frmCW->optRST[1]);
-    EXPECT_TRUE(frmCW->optRST[1].Value());
+    EXPECT_EQ(frmCW->ActiveControl(), &frmCW->reportOptions[1]);
+    EXPECT_TRUE(frmCW->reportOptions[1].Value());
     Press({.name = "Up"});
-    EXPECT_EQ(frmCW->ActiveControl(), &frmCW->optRST[0]);
+    EXPECT_EQ(frmCW->ActiveControl(), &frmCW->reportOptions[0]);
 }
 
 TEST_F(Keyboard, EscLeavesWhereItShould) {
@@ -240,8 +240,8 @@ TEST_F(Keyboard, EveryMenuOfTheBarOpensByItsLetterAndClosesByEsc) {
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << caption;
     }
     EXPECT_TRUE(main.isActiveWindow());
-    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->Text1[1]);
-    EXPECT_TRUE(WidgetOf<QWidget>(frmMain->Text1[1]).hasFocus());
+    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->fields[kCallField]);
+    EXPECT_TRUE(WidgetOf<QWidget>(frmMain->fields[kCallField]).hasFocus());
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ protected:
         driver.Settle();
         QApplication::clipboard()->setText(QStringLiteral("1E9"));
     }
-    static TextBox& Number() { return frmMain->Text1[5]; }
+    static TextBox& Number() { return frmMain->fields[kNumberReceivedField]; }
     QLineEdit& Field() const { return WidgetOf<QLineEdit>(Number()); }
     QWindow* Window() const { return WindowOf(*frmMain).Top()->windowHandle(); }
 
@@ -81,25 +81,25 @@ TEST_F(DesktopPaste, IntoANewNumberTakesFiguresByKeyToo) {
         QTest::keyClick(window, Qt::Key_A, Qt::ControlModifier);
         QApplication::clipboard()->setText(QStringLiteral("9E4"));
         QTest::keyClick(window, Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(frmNytQSOnr->Text1.Text(), "94");
+        EXPECT_EQ(frmNytQSOnr->number.Text(), "94");
         QTest::keyClick(window, Qt::Key_E);
-        EXPECT_EQ(frmNytQSOnr->Text1.Text(), "94");
+        EXPECT_EQ(frmNytQSOnr->number.Text(), "94");
         QTest::keyClick(window, Qt::Key_2);
-        EXPECT_EQ(frmNytQSOnr->Text1.Text(), "942");
+        EXPECT_EQ(frmNytQSOnr->number.Text(), "942");
         QTest::keyClick(window, Qt::Key_Return);
     };
     Dispatch([] { ChangeNextNumber(); });
-    EXPECT_EQ(frmMain->Text1[3].Text(), "0942");
+    EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0942");
 }
 
 class RulesPaste : public WindowProgram {};
 
 TEST_F(RulesPaste, PassesTheFilters) {
     StartVatro();
-    driver.Focus(frmMain->Text1[5]);
+    driver.Focus(frmMain->fields[kNumberReceivedField]);
     QApplication::clipboard()->setText(QStringLiteral("1E9"));
     QTest::keyClick(WindowOf(*frmMain).Top()->windowHandle(), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(frmMain->Text1[5].Text(), "1E9");
+    EXPECT_EQ(frmMain->fields[kNumberReceivedField].Text(), "1E9");
 }
 
 }  // namespace

@@ -52,7 +52,7 @@ TEST_F(Room, QuickInfoStandsInTheMiddleOfTheScreenAndIsNotSizedByTheUser) {
 
 TEST_F(Room, QuickInfoKeepsTheShapeOfItsPicture) {
     Shown(*formQuickInfo);
-    const auto& picture = WidgetOf<PictureView>(formQuickInfo->Image1);
+    const auto& picture = WidgetOf<PictureView>(formQuickInfo->picture);
     // 1400 by 990, as make-quickinfo draws it.
     EXPECT_NEAR(picture.width() * 990.0 / 1400, picture.height(), 1);
 }
@@ -81,7 +81,7 @@ TEST_F(Room, FieldWithTheFocusIsInSightOfASmallWindow) {
     EXPECT_EQ(Main().width(), 512);
     EXPECT_GT(Inside().horizontalScrollBar()->maximum(), 0);
     for (Control* control : frmMain->TabOrder()) {
-        if (!control->TabStop() || control == &frmMain->List1) continue;
+        if (!control->TabStop() || control == &frmMain->log) continue;
         Dispatch([&] { control->SetFocus(); });
         driver.Settle();
         EXPECT_TRUE(InSight(WidgetOf<QWidget>(*control))) << control->FullName();
@@ -95,7 +95,7 @@ TEST_F(Room, MainWindowOfItsOwnSizeNeedsNoScrolling) {
 
 TEST_F(Room, PageAndArrowKeysDoNotScrollTheWindow) {
     Dispatch([] { frmMain->Place(0, 0, 400 * kTwipsPerPixel, 200 * kTwipsPerPixel); });
-    Dispatch([] { frmMain->Text1[0].SetFocus(); });
+    Dispatch([] { frmMain->fields[kUtcField].SetFocus(); });
     driver.Settle();
     const int across = Inside().horizontalScrollBar()->value();
     const int down = Inside().verticalScrollBar()->value();
@@ -105,17 +105,17 @@ TEST_F(Room, PageAndArrowKeysDoNotScrollTheWindow) {
 }
 
 TEST_F(Room, ListScrollsToTheEndOfItsLongestRowButNotToBlanks) {
-    auto& list = WidgetOf<ItemList>(frmB4->List1);
+    auto& list = WidgetOf<ItemList>(frmB4->earlierContacts);
     Shown(*frmB4).resize(list.ColumnLeft(30), 200);
     Dispatch([] {
-        frmB4->List1.AddItem(std::string(20, 'X') + std::string(40, ' '));
-        frmB4->List1.AddItem("X");
+        frmB4->earlierContacts.AddItem(std::string(20, 'X') + std::string(40, ' '));
+        frmB4->earlierContacts.AddItem("X");
     });
     driver.Settle();
     EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
     Dispatch([] {
-        frmB4->List1.AddItem(std::string(60, 'X'));
-        frmB4->List1.AddItem("X");
+        frmB4->earlierContacts.AddItem(std::string(60, 'X'));
+        frmB4->earlierContacts.AddItem("X");
     });
     driver.Settle();
     EXPECT_GE(list.horizontalScrollBar()->maximum() + list.viewport()->width(), list.ColumnLeft(61));
@@ -123,20 +123,20 @@ TEST_F(Room, ListScrollsToTheEndOfItsLongestRowButNotToBlanks) {
 
 TEST_F(Room, ArrowsAreAsHighAsTheirField) {
     Shown(*frmCW);
-    EXPECT_EQ(WidgetOf<SpinArrows>(frmCW->UpDown1).height(), WidgetOf<QLineEdit>(frmCW->txtTone).height());
-    EXPECT_EQ(WidgetOf<SpinArrows>(frmCW->UpDown2).height(), WidgetOf<QLineEdit>(frmCW->txtWPM).height());
+    EXPECT_EQ(WidgetOf<SpinArrows>(frmCW->pitchArrows).height(), WidgetOf<QLineEdit>(frmCW->pitch).height());
+    EXPECT_EQ(WidgetOf<SpinArrows>(frmCW->speedArrows).height(), WidgetOf<QLineEdit>(frmCW->speed).height());
 }
 
 TEST_F(Room, VolumeScaleEndsOverTheEndsOfItsBar) {
     Shown(*frmCW);
-    const auto& head = WidgetOf<ColumnHead>(frmCW->Label11);
+    const auto& head = WidgetOf<ColumnHead>(frmCW->volumeLabel);
     const auto pieces = head.Pieces();
     ASSERT_EQ(pieces.size(), 3);
     EXPECT_EQ(pieces[0].text, QStringLiteral("Min"));
     EXPECT_EQ(pieces[0].x, 0);
     EXPECT_EQ(pieces[2].text, QStringLiteral("Max"));
     EXPECT_NEAR(pieces[2].x + head.fontMetrics().horizontalAdvance(pieces[2].text), head.width(), 2);
-    EXPECT_EQ(head.width(), WidgetOf<QWidget>(frmCW->HScroll1).width());
+    EXPECT_EQ(head.width(), WidgetOf<QWidget>(frmCW->volume).width());
 }
 
 TEST_F(Room, ButtonsKeepTheirCaptionsOffTheirEdges) {

@@ -53,7 +53,7 @@ protected:
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text, true);
         QApplication::sendEvent(WindowOf(form).Top()->windowHandle(), &event);
     }
-    static std::string Field(int index) { return frmMain->Text1[index].Text(); }
+    static std::string Field(int index) { return frmMain->fields[index].Text(); }
     std::size_t Contacts() { return LinesOf("log\\FD80mCW.txt").size(); }
 
     /// The text of F5.
@@ -220,7 +220,7 @@ TEST_F(SafeTyping, TheNextCallIsTypedWhileTheTextPlays) {
     EXPECT_EQ(Field(kCallField), "DL9XYZ");
     EXPECT_EQ(Field(kNumberReceivedField), "12");
     EXPECT_TRUE(Playing());
-    EXPECT_EQ(frmCWTX->Text1.Text(), "PARIS ");
+    EXPECT_EQ(frmCWTX->text.Text(), "PARIS ");
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
     EXPECT_EQ(QApplication::activeWindow(), WindowOf(*frmCWTX).Top());
 }
@@ -228,7 +228,7 @@ TEST_F(SafeTyping, TheNextCallIsTypedWhileTheTextPlays) {
 TEST_F(SafeTyping, TheFieldThatGetsTheKeysIsMarkedWhileTheTextPlays) {
     const auto marked = [this](int index) {
         const auto* mark = WindowOf(*frmMain).Top()->findChild<FieldMark*>();
-        return mark != nullptr && mark->isVisible() && mark->geometry().contains(WidgetOf<QWidget>(frmMain->Text1[index]).geometry());
+        return mark != nullptr && mark->isVisible() && mark->geometry().contains(WidgetOf<QWidget>(frmMain->fields[index]).geometry());
     };
     Send();
     EXPECT_TRUE(marked(kCallField));
@@ -266,7 +266,7 @@ TEST_F(SafeTyping, AltSStopsAndAltTSendsAgain) {
     EXPECT_EQ(sound.calls.back(), "play");
     Key({.name = {}, .character = 's', .alt = true});
     EXPECT_FALSE(Playing());
-    EXPECT_FALSE(frmMain->Check1.Value());
+    EXPECT_FALSE(frmMain->qsl.Value());
 }
 
 TEST_F(SafeTyping, EditingKeysReachTheFieldWhileTheTextPlays) {
@@ -277,9 +277,9 @@ TEST_F(SafeTyping, EditingKeysReachTheFieldWhileTheTextPlays) {
     Key({.name = "Delete"});
     EXPECT_EQ(Field(kCallField), "L9XYZ");
     Key({.name = "Tab"});
-    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->Text1[kReportSentField]);
+    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->fields[kReportSentField]);
     Key({.name = {}, .character = 'c', .alt = true});
-    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->Text1[kCallField]);
+    EXPECT_EQ(frmMain->ActiveControl(), &frmMain->fields[kCallField]);
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
 }
 
@@ -287,7 +287,7 @@ TEST_F(SafeTyping, FunctionKeysSendWhileATextPlays) {
     Send();
     desk().cw.CWTekster[1] = "EE";
     Key({.name = "F6"});
-    EXPECT_EQ(frmCWTX->Text1.Text(), "EE ");
+    EXPECT_EQ(frmCWTX->text.Text(), "EE ");
     EXPECT_TRUE(Playing());
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
 }
@@ -352,7 +352,7 @@ TEST_F(SafeTyping, AKeyBehindTheEndGivesEnterToTheFields) {
 TEST_F(SafeTyping, EnterMeansTheFieldsIfTheMainWindowHadTheKeys) {
     Send();
     Type("dl9xyz 12");
-    driver.Focus(frmMain->Text1[kCallField]);
+    driver.Focus(frmMain->fields[kCallField]);
     driver.Settle();
     ASSERT_EQ(ActiveForm(), frmMain.Peek());
     PlayToTheEnd();

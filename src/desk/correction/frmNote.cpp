@@ -11,44 +11,44 @@ namespace vatro {
 namespace {
 
 std::string NoteLine() {
-    return std::string(kNoteMark) + frmNote->Text1.Text();
+    return std::string(kNoteMark) + frmNote->note.Text();
 }
 
 }  // namespace
 
 FrmNote::FrmNote()
     : Form("frmNote", FormKind::FixedDialog, "Note"),
-      Text1(*this, "Text1"),
-      Command1(*this, "Command1", "&OK"),
-      Command2(*this, "Command2", "&Annuller") {
+      note(*this, "Text1"),
+      okButton(*this, "Command1", "&OK"),
+      cancelButton(*this, "Command2", "&Annuller") {
     constexpr int kLength = 80;
-    Text1.SetMaxLength(kLength);
-    Command1.isDefault = true;
-    Command2.isCancel = true;
-    SetTabOrder({&Text1, &Command1, &Command2});
-    Command1.Click = [this] { Hide(); };
-    Command2.Click = [this] {
-        Text1.SetText({});
+    note.SetMaxLength(kLength);
+    okButton.isDefault = true;
+    cancelButton.isCancel = true;
+    SetTabOrder({&note, &okButton, &cancelButton});
+    okButton.Click = [this] { Hide(); };
+    cancelButton.Click = [this] {
+        note.SetText({});
         Hide();
     };
 }
 
 void InsertNote() {
-    frmNote->Text1.SelectAll();
+    frmNote->note.SelectAll();
     frmNote->ShowModal();
-    if (frmNote->Text1.Text().empty()) return;
+    if (frmNote->note.Text().empty()) return;
     LogLine(NoteLine());
 }
 
 void CorrectNote() {
-    const ListBox& list = frmMain->List1;
-    frmNote->Text1.SetText(Columns(list.List(list.ListIndex()), kNoteMark.size() + 1));
+    const ListBox& list = frmMain->log;
+    frmNote->note.SetText(Columns(list.List(list.ListIndex()), kNoteMark.size() + 1));
     frmNote->ShowModal();
-    if (!frmNote->Text1.Text().empty()) {
+    if (!frmNote->note.Text().empty()) {
         desk().log.Replace(static_cast<std::size_t>(list.ListIndex()), NoteLine());
         SkrivLog();
     }
-    frmMain->Text1[1].SetFocus();
+    frmMain->fields[kCallField].SetFocus();
 }
 
 }  // namespace vatro

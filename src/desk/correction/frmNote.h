@@ -13,9 +13,9 @@ class FrmNote : public Form {
 public:
     FrmNote();
     /// At most 80 characters.
-    TextBox Text1;
-    Button Command1;
-    Button Command2;
+    TextBox note;
+    Button okButton;
+    Button cancelButton;
 };
 
 inline FormSlot<FrmNote> frmNote{"frmNote"};

@@ -5,6 +5,7 @@
 // at the next load, as operators who look at a contact and leave it have always seen.
 #pragma once
 
+#include "entry/qso_fields.h"
 #include "forms.h"
 
 namespace vatro {
@@ -12,23 +13,23 @@ namespace vatro {
 class FrmRetQSO : public Form {
 public:
     FrmRetQSO();
-    /// Time, call, report sent, number sent, report received, number received.
-    TextBox Text1[6];
+    /// The fields of the contact; ContactField gives the index of each.
+    ContactFields fields;
     /// Points; disabled for a duplicate.
-    ComboBox Combo2;
+    ComboBox pointBox;
     /// The multiplier as computed last; "&Log" computes it again.
-    TextBox Text3;
+    TextBox multiplierField;
     /// Operator.
-    ComboBox Combo1;
-    CheckBox Check1;
-    ComboBox cboMode;
-    TextBox txtDato;
-    Button Command1;
-    Button Command2;
-    Button cmdBeregn;
-    StatusBar sbStatusBar;
+    ComboBox operatorBox;
+    CheckBox qsl;
+    ComboBox modeBox;
+    TextBox dateField;
+    Button logButton;
+    Button cancelButton;
+    Button calculateButton;
+    StatusBar statusBar;
     /// The names of the fields.
-    Label Label1[9];
+    Label fieldLabels[9];
 
     /// Shows the fields of a contact line.
     void Fill(std::string_view line);
@@ -38,8 +39,8 @@ public:
     void StoreState() override;
 
 private:
-    void Text1_LostFocus();
-    void Command1_Click();
+    void CallLeft();
+    void TakeCorrection();
     void Calculate();
     void ShowCalculated(std::string_view multiplier);
     void ShowDuplicate();

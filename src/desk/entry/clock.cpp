@@ -19,19 +19,19 @@ constexpr int kAfterMinute = 100;
 void TimerStart() {
     const DateTime now = platform().clock.Now();
     const double seconds = platform().clock.SecondsSinceMidnight() - now.hour * 3600 - now.minute * 60;
-    frmMain->Timer1.SetInterval(static_cast<int>((60 - seconds) * 1000) + kAfterMinute);
-    frmMain->Timer1.SetRunning(true);
+    frmMain->minuteTimer.SetInterval(static_cast<int>((60 - seconds) * 1000) + kAfterMinute);
+    frmMain->minuteTimer.SetRunning(true);
     frmMain->mnuIndstillingerKlokken.SetTicked(true);
 }
 
 void TimerStop() {
-    frmMain->Timer1.SetRunning(false);
+    frmMain->minuteTimer.SetRunning(false);
     frmMain->mnuIndstillingerKlokken.SetTicked(false);
 }
 
 void TimerTick() {
-    if (frmMain->Timer1.Interval() != kMinute) frmMain->Timer1.SetInterval(kMinute);
-    frmMain->Text1[0].SetText(UtcTimeText());
+    if (frmMain->minuteTimer.Interval() != kMinute) frmMain->minuteTimer.SetInterval(kMinute);
+    frmMain->fields[kUtcField].SetText(UtcTimeText());
 }
 
 void ToggleAutoTime() {

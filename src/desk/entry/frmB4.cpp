@@ -7,14 +7,15 @@ namespace vatro {
 
 // The caption is the column head of the list, blanks and all.
 FrmB4::FrmB4()
-    : Form("frmB4", FormKind::Tool, "Call check                         QSOnr/modt.     UTC"), List1(*this, "List1", {"Fixedsys", 9}) {
-    SetTabOrder({&List1});
+    : Form("frmB4", FormKind::Tool, "Call check                         QSOnr/modt.     UTC"),
+      earlierContacts(*this, "List1", {"Fixedsys", 9}) {
+    SetTabOrder({&earlierContacts});
 }
 
 void FrmB4::ShowContacts(std::vector<std::string> contacts) {
-    const ListBox::Filling filling(List1);
-    List1.Clear();
-    for (std::string& contact : contacts) List1.AddItem(std::move(contact));
+    const ListBox::Filling filling(earlierContacts);
+    earlierContacts.Clear();
+    for (std::string& contact : contacts) earlierContacts.AddItem(std::move(contact));
 }
 
 void FrmB4::Form_Load() {

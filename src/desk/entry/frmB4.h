@@ -14,7 +14,7 @@ class FrmB4 : public Form {
 public:
     FrmB4();
     /// Fills the window.
-    ListBox List1;
+    ListBox earlierContacts;
 
     /// Shows these contacts in place of those that were shown; see WkdB4.
     void ShowContacts(std::vector<std::string> contacts);

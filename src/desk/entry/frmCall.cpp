@@ -13,27 +13,27 @@ namespace vatro {
 
 FrmCall::FrmCall()
     : Form("frmCall", FormKind::FixedDialog, "Contest Call"),
-      cboCall(*this, "cboCall"),
-      Label1(*this, "Label1", "Tlf. nr:"),
-      Text1(*this, "Text1"),
-      Command1(*this, "Command1", "&Annuller"),
-      Command2(*this, "Command2", "&OK") {
-    Text1.SetMaxLength(8);
-    Command2.isDefault = true;
-    Command1.isCancel = true;
-    SetTabOrder({&cboCall, &Text1, &Command2, &Command1});
-    cboCall.KeyFilter = [](KeyCode& key) {
+      callBox(*this, "cboCall"),
+      telephoneLabel(*this, "Label1", "Tlf. nr:"),
+      telephone(*this, "Text1"),
+      cancelButton(*this, "Command1", "&Annuller"),
+      okButton(*this, "Command2", "&OK") {
+    telephone.SetMaxLength(8);
+    okButton.isDefault = true;
+    cancelButton.isCancel = true;
+    SetTabOrder({&callBox, &telephone, &okButton, &cancelButton});
+    callBox.KeyFilter = [](KeyCode& key) {
         key = UpperKey(key);
         FilterKey(key, kCallCharacters);
     };
-    Text1.KeyFilter = [](KeyCode& key) { FilterKey(key, kDigitCharacters); };
-    Command2.Click = [this] {
-        desk().gsTelefon = Text1.Text();
-        desk().gsMyCall = cboCall.Text();
+    telephone.KeyFilter = [](KeyCode& key) { FilterKey(key, kDigitCharacters); };
+    okButton.Click = [this] {
+        desk().gsTelefon = telephone.Text();
+        desk().gsMyCall = callBox.Text();
         StoreSetting(setting::kMyCall, desk().gsMyCall);
         Hide();
     };
-    Command1.Click = [this] {
+    cancelButton.Click = [this] {
         ShowValues();
         Hide();
     };
@@ -45,15 +45,15 @@ void FrmCall::Form_Load() {
     while (!files.EndOfFile(1)) {
         const std::string line = files.LineInput(1);
         const std::size_t blank = line.find(' ');
-        if (blank != std::string::npos) cboCall.AddItem(line.substr(0, blank) + "/P");
+        if (blank != std::string::npos) callBox.AddItem(line.substr(0, blank) + "/P");
     }
     ShowValues();
     files.Close(1);
 }
 
 void FrmCall::ShowValues() {
-    cboCall.SetText(desk().gsMyCall);
-    Text1.SetText(desk().gsTelefon);
+    callBox.SetText(desk().gsMyCall);
+    telephone.SetText(desk().gsTelefon);
 }
 
 void ChangeContestCall() {

@@ -12,11 +12,11 @@ namespace vatro {
 class FrmCall : public Form {
 public:
     FrmCall();
-    ComboBox cboCall;
-    Label Label1;
-    TextBox Text1;
-    Button Command1;
-    Button Command2;
+    ComboBox callBox;
+    Label telephoneLabel;
+    TextBox telephone;
+    Button cancelButton;
+    Button okButton;
 
     void Form_Load() override;
 

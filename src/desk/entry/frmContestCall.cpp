@@ -8,13 +8,12 @@
 
 namespace vatro {
 
-FrmContestCall::FrmContestCall()
-    : Form("frmContestCall", FormKind::Tool, "Contest Call"), Label1(*this, "Label1", "", {"Arial", 48, true}) {
-    Label1.Change = [this] { FitWidth(*this, Label1); };
+FrmContestCall::FrmContestCall() : Form("frmContestCall", FormKind::Tool, "Contest Call"), call(*this, "Label1", "", {"Arial", 48, true}) {
+    call.Change = [this] { FitWidth(*this, call); };
 }
 
 void FrmContestCall::visContestCall() {
-    ShowNormal(Label1, desk().gsMyCall);
+    ShowNormal(call, desk().gsMyCall);
 }
 
 void FrmContestCall::Form_Load() {
@@ -28,7 +27,7 @@ void FrmContestCall::StoreState() {
 }
 
 void FrmContestCall::Form_Resize() {
-    FitText(*this, Label1);
+    FitText(*this, call);
 }
 
 }  // namespace vatro

@@ -10,7 +10,7 @@ namespace vatro {
 class FrmContestCall : public Form {
 public:
     FrmContestCall();
-    Label Label1;
+    Label call;
 
     /// Shows gsMyCall.
     void visContestCall();

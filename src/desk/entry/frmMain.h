@@ -8,6 +8,7 @@
 #pragma once
 
 #include "entry/main_menu.h"
+#include "entry/qso_fields.h"
 #include "forms.h"
 
 namespace vatro {
@@ -16,20 +17,20 @@ class FrmMain : public MainMenu {
 public:
     FrmMain();
 
-    Toolbar Toolbar1;
-    Label Label1;
+    Toolbar toolbar;
+    Label columnHeads;
     /// Shows the lines of DeskState::log.
-    ListBox List1;
-    Frame Frame1;
-    /// Time, call, report sent, number sent, report received, number received.
-    TextBox Text1[6];
-    CheckBox Check1;
-    Button Command1;
-    Frame Frame2;
+    ListBox log;
+    Frame contactFrame;
+    /// The fields of the contact; ContactField gives the index of each.
+    ContactFields fields;
+    CheckBox qsl;
+    Button logButton;
+    Frame operatorFrame;
     /// Operator.
-    ComboBox Combo1;
-    Timer Timer1;
-    StatusBar sbStatusBar;
+    ComboBox operatorBox;
+    Timer minuteTimer;
+    StatusBar statusBar;
 
     /// Whether the start has come so far that all settings are read: before that there is nothing to store.
     bool up = false;

@@ -12,29 +12,29 @@ namespace vatro {
 
 FrmNytQSOnr::FrmNytQSOnr()
     : Form("frmNytQSOnr", FormKind::FixedDialog, "Nyt QSO nummer"),
-      Text1(*this, "Text1"),
-      UpDown1(*this, "UpDown1", Text1, {.min = 0, .max = 9999, .step = 1}),
-      Command1(*this, "Command1", "&OK"),
-      Command2(*this, "Command2", "&Annuller") {
-    Text1.SetMaxLength(4);
-    Command1.isDefault = true;
-    Command2.isCancel = true;
-    SetTabOrder({&Text1, &Command1, &Command2});
-    Command1.Click = [this] { Command1_Click(); };
-    Command2.Click = [this] { Hide(); };
+      number(*this, "Text1"),
+      arrows(*this, "UpDown1", number, {.min = 0, .max = 9999, .step = 1}),
+      okButton(*this, "Command1", "&OK"),
+      cancelButton(*this, "Command2", "&Annuller") {
+    number.SetMaxLength(4);
+    okButton.isDefault = true;
+    cancelButton.isCancel = true;
+    SetTabOrder({&number, &okButton, &cancelButton});
+    okButton.Click = [this] { TakeNumber(); };
+    cancelButton.Click = [this] { Hide(); };
 }
 
 void FrmNytQSOnr::Form_Load() {
-    Text1.SetText(PlainNumber(desk().log.giQSOnr));
-    UpDown1.SetMin(desk().log.giQSOnr);
+    number.SetText(PlainNumber(desk().log.giQSOnr));
+    arrows.SetMin(desk().log.giQSOnr);
 }
 
-void FrmNytQSOnr::Command1_Click() {
-    const double newNumber = NumericValue(Text1.Text());
+void FrmNytQSOnr::TakeNumber() {
+    const double newNumber = NumericValue(number.Text());
     if (newNumber < desk().log.giQSOnr) {
         MsgBox(std::string("Nyt QSOnummer skal være større end "_t) + PlainNumber(desk().log.giQSOnr));
-        Text1.SetText(PlainNumber(desk().log.giQSOnr));
-        Text1.SetFocus();
+        number.SetText(PlainNumber(desk().log.giQSOnr));
+        number.SetFocus();
         return;
     }
     desk().log.giQSOnr = ToInt16(newNumber);
@@ -43,7 +43,7 @@ void FrmNytQSOnr::Command1_Click() {
 
 void ChangeNextNumber() {
     frmNytQSOnr->ShowModal();
-    frmMain->Text1[3].SetText(ZeroPadded(desk().log.giQSOnr, 4));
+    frmMain->fields[kNumberSentField].SetText(ZeroPadded(desk().log.giQSOnr, 4));
     frmQSOnr->visQSOnr();
 }
 

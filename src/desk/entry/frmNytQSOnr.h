@@ -12,16 +12,16 @@ namespace vatro {
 class FrmNytQSOnr : public Form {
 public:
     FrmNytQSOnr();
-    TextBox Text1;
-    UpDown UpDown1;
-    Button Command1;
-    Button Command2;
+    TextBox number;
+    UpDown arrows;
+    Button okButton;
+    Button cancelButton;
 
     /// Only at the first opening of a run: the window is hidden after use, and keeps number and limit.
     void Form_Load() override;
 
 private:
-    void Command1_Click();
+    void TakeNumber();
 };
 
 inline FormSlot<FrmNytQSOnr> frmNytQSOnr{"frmNytQSOnr"};

@@ -13,20 +13,20 @@ namespace vatro {
 
 using namespace literals;
 
-FrmQSOnr::FrmQSOnr() : Form("frmQSOnr", FormKind::Tool, "Næste QSO nr"_t), label1(*this, "label1", "", {"Arial", 72, true}) {
-    label1.Change = [this] { FitWidth(*this, label1); };
+FrmQSOnr::FrmQSOnr() : Form("frmQSOnr", FormKind::Tool, "Næste QSO nr"_t), exchange(*this, "label1", "", {"Arial", 72, true}) {
+    exchange.Change = [this] { FitWidth(*this, exchange); };
 }
 
 void FrmQSOnr::visQSOnr() {
     std::string text = desk().gsQsoMode;
     text.append(" ").append(StandardRST(desk().gsQsoMode)).append(" ").append(ZeroPadded(desk().log.giQSOnr, 3));
-    ShowNormal(label1, text);
+    ShowNormal(exchange, text);
 }
 
 void FrmQSOnr::visDupe() {
-    label1.SetOpaque(true);
-    label1.SetBackColour(kRed);
-    label1.SetCaption("*** DUPE ***");
+    exchange.SetOpaque(true);
+    exchange.SetBackColour(kRed);
+    exchange.SetCaption("*** DUPE ***");
 }
 
 void FrmQSOnr::Form_Load() {
@@ -39,7 +39,7 @@ void FrmQSOnr::StoreState() {
 }
 
 void FrmQSOnr::Form_Resize() {
-    FitText(*this, label1);
+    FitText(*this, exchange);
 }
 
 }  // namespace vatro

@@ -11,7 +11,7 @@ namespace vatro {
 class FrmQSOnr : public Form {
 public:
     FrmQSOnr();
-    Label label1;
+    Label exchange;
 
     /// Shows QSO mode, default report and the number of the next contact, at least three digits.
     void visQSOnr();

@@ -18,27 +18,27 @@ constexpr int kLast = 12;
 
 FrmUTC::FrmUTC()
     : Form("frmUTC", FormKind::FixedDialog, "UTC offset"),
-      Combo1(*this, "Combo1", ComboStyle::DropDownList),
-      Command1(*this, "Command1", "&Annuller"),
-      Command2(*this, "Command2", "&OK") {
-    Command1.isCancel = true;
-    SetTabOrder({&Combo1, &Command2, &Command1});
-    Command2.Click = [this] {
-        desk().gsUTC = Combo1.Text();
+      offsetBox(*this, "Combo1", ComboStyle::DropDownList),
+      cancelButton(*this, "Command1", "&Annuller"),
+      okButton(*this, "Command2", "&OK") {
+    cancelButton.isCancel = true;
+    SetTabOrder({&offsetBox, &okButton, &cancelButton});
+    okButton.Click = [this] {
+        desk().gsUTC = offsetBox.Text();
         StoreSetting(setting::kUtc, desk().gsUTC);
         Hide();
     };
-    Command1.Click = [this] { Hide(); };
+    cancelButton.Click = [this] { Hide(); };
 }
 
 void FrmUTC::Form_Load() {
-    for (int hours = kFirst; hours <= kLast; ++hours) Combo1.AddItem(PlainNumber(hours));
-    Combo1.SetListIndex(ToInt16(NumericValue(desk().gsUTC) - kFirst));
+    for (int hours = kFirst; hours <= kLast; ++hours) offsetBox.AddItem(PlainNumber(hours));
+    offsetBox.SetListIndex(ToInt16(NumericValue(desk().gsUTC) - kFirst));
 }
 
 void ChangeUtcOffset() {
     frmUTC->ShowModal();
-    frmMain->Text1[0].SetText(UtcTimeText());
+    frmMain->fields[kUtcField].SetText(UtcTimeText());
 }
 
 }  // namespace vatro

@@ -11,9 +11,9 @@ namespace vatro {
 class FrmUTC : public Form {
 public:
     FrmUTC();
-    ComboBox Combo1;
-    Button Command1;
-    Button Command2;
+    ComboBox offsetBox;
+    Button cancelButton;
+    Button okButton;
 
     void Form_Load() override;
 };

@@ -41,7 +41,7 @@ public:
     }
 
 private:
-    static ListBox* List() { return frmMain.Loaded() ? &frmMain->List1 : nullptr; }
+    static ListBox* List() { return frmMain.Loaded() ? &frmMain->log : nullptr; }
 };
 
 class EntryForm : public FrmMain {
@@ -55,9 +55,9 @@ public:
 
 private:
     void BindFields();
-    void Text1_Change(int Index);
-    void Text1_GotFocus(int Index);
-    void Text1_LostFocus(int Index);
+    void FieldChanged(int Index);
+    void FieldEntered(int Index);
+    void FieldLeft(int Index);
 };
 
 EntryForm::EntryForm() {
@@ -69,30 +69,30 @@ EntryForm::EntryForm() {
 
 void EntryForm::BindFields() {
     for (int i = kUtcField; i <= kNumberReceivedField; ++i) {
-        TextBox& field = Text1[i];
-        field.KeyPress = [this, i](KeyCode& key) { HandleFieldKey(Text1, i, key, ValiderQSO); };
+        TextBox& field = fields[i];
+        field.KeyPress = [this, i](KeyCode& key) { HandleFieldKey(fields, i, key, ValiderQSO); };
         field.KeyFilter = [i](KeyCode& key) { FilterFieldKey(i, key); };
-        field.Change = [this, i] { Text1_Change(i); };
-        field.GotFocus = [this, i] { Text1_GotFocus(i); };
-        field.LostFocus = [this, i] { Text1_LostFocus(i); };
+        field.Change = [this, i] { FieldChanged(i); };
+        field.GotFocus = [this, i] { FieldEntered(i); };
+        field.LostFocus = [this, i] { FieldLeft(i); };
     }
-    Check1.KeyPress = [](KeyCode& key) {
+    qsl.KeyPress = [](KeyCode& key) {
         if (key == kEnter) ValiderQSO();
     };
-    Command1.Click = ValiderQSO;
-    List1.KeyPress = [](KeyCode& key) {
+    logButton.Click = ValiderQSO;
+    log.KeyPress = [](KeyCode& key) {
         if (key == kEnter) CorrectLine();
     };
-    List1.DblClick = CorrectLine;
-    Combo1.KeyPress = [this](KeyCode& key) { OperatørTast(Combo1, key); };
-    Combo1.KeyFilter = [this](KeyCode& key) { OperatorFilter(Combo1, key); };
-    Combo1.Click = [this] { OperatørValgt(Combo1); };
-    Combo1.LostFocus = [this] {
-        OperatørTjek(Combo1, true);
-        GemOperatører(Combo1);
+    log.DblClick = CorrectLine;
+    operatorBox.KeyPress = [this](KeyCode& key) { OperatørTast(operatorBox, key); };
+    operatorBox.KeyFilter = [this](KeyCode& key) { OperatorFilter(operatorBox, key); };
+    operatorBox.Click = [this] { OperatørValgt(operatorBox); };
+    operatorBox.LostFocus = [this] {
+        OperatørTjek(operatorBox, true);
+        GemOperatører(operatorBox);
     };
-    Timer1.OnTimer = TimerTick;
-    Toolbar1.ButtonClick = ChangeBandMode;
+    minuteTimer.OnTimer = TimerTick;
+    toolbar.ButtonClick = ChangeBandMode;
 }
 
 void EntryForm::Form_Load() {
@@ -129,7 +129,7 @@ void EntryForm::Form_Load() {
 
     if (desk().gsLogLib.empty()) mnuFilerSætLogbibliotek.Click();
     IndlæsLogfil();
-    LæsOperatører(Combo1, desk().gsOperatør.Padded());
+    LæsOperatører(operatorBox, desk().gsOperatør.Padded());
     ResetQSO();
     up = true;
     if (desk().gbVisInfo) VisStartInfo();
@@ -155,7 +155,7 @@ void EntryForm::Form_Unload() {
     // More than thirty values: the disk takes them in one piece.
     const SettingsBatch together(platform().settings);
     SetHourglass(true);
-    GemOperatører(Combo1);
+    GemOperatører(operatorBox);
     // The keyer lets other events run while it goes, which may close windows too.
     for (std::size_t i = LoadedForms().size(); i-- > 1;)
         if (i < LoadedForms().size()) LoadedForms()[i]->Unload();
@@ -184,32 +184,32 @@ void EntryForm::StoreState() {
     StoreSetting(setting::kShowInfo, desk().gbVisInfo);
 }
 
-void EntryForm::Text1_Change(int Index) {
+void EntryForm::FieldChanged(int Index) {
     if (Index != kCallField) return;
-    const TextBox& field = Text1[kCallField];
-    if (field.Text().size() < 2) frmB4->List1.Clear();
+    const TextBox& field = fields[kCallField];
+    if (field.Text().size() < 2) frmB4->earlierContacts.Clear();
     if (!field.Text().empty()) {
-        sbStatusBar.SetPanel(1, ShownCountry(field.Text()).text);
+        statusBar.SetPanel(1, ShownCountry(field.Text()).text);
     }
     if (field.Text().size() > 1) frmB4->ShowContacts(WkdB4(field.Text(), desk().log.Lines()));
     frmQSOnr->visQSOnr();
 }
 
-void EntryForm::Text1_GotFocus(int Index) {
+void EntryForm::FieldEntered(int Index) {
     // A time being typed is not overwritten: the clock stands still until the contact is logged.
     if (Index == kUtcField) TimerStop();
-    if (Index == kUtcField || Index == kReportSentField || Index == kReportReceivedField) Text1[Index].SelectAll();
+    if (Index == kUtcField || Index == kReportSentField || Index == kReportReceivedField) fields[Index].SelectAll();
 }
 
-void EntryForm::Text1_LostFocus(int Index) {
+void EntryForm::FieldLeft(int Index) {
     if (Index != kCallField) return;
-    desk().gsCall = StripCall(Text1[kCallField].Text());
+    desk().gsCall = StripCall(fields[kCallField].Text());
     if (desk().gsCall.size() > 1)
-        if (const auto station = desk().stations.findEDRstn(desk().gsCall)) sbStatusBar.SetPanel(1, *station);
+        if (const auto station = desk().stations.findEDRstn(desk().gsCall)) statusBar.SetPanel(1, *station);
     NoteDuplicate();
     if (desk().gbDupe) {
         frmQSOnr->visDupe();
-        sbStatusBar.SetPanel(1, kDupeWarning);
+        statusBar.SetPanel(1, kDupeWarning);
     }
 }
 

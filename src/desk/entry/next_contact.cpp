@@ -31,21 +31,21 @@ void ResetReport(TextBox& field) {
 void ResetQSO() {
     FrmMain& main = *frmMain;
     std::int16_t& number = desk().log.giQSOnr;
-    if (desk().gbAutoTid == 1) main.Text1[0].SetText(UtcTimeText());
-    main.Text1[1].SetText({});
-    ResetReport(main.Text1[2]);
-    ResetReport(main.Text1[4]);
+    if (desk().gbAutoTid == 1) main.fields[kUtcField].SetText(UtcTimeText());
+    main.fields[kCallField].SetText({});
+    ResetReport(main.fields[kReportSentField]);
+    ResetReport(main.fields[kReportReceivedField]);
     number = ToInt16(number + 1);
-    main.Text1[3].SetText(ZeroPadded(number, 4));
-    main.Text1[5].SetText({});
-    main.Check1.SetValue(false);
+    main.fields[kNumberSentField].SetText(ZeroPadded(number, 4));
+    main.fields[kNumberReceivedField].SetText({});
+    main.qsl.SetValue(false);
     frmQSOnr->visQSOnr();
     if (desk().gbAutoTid != 1) {
-        main.Text1[0].SetFocus();
-        main.Text1[0].SelectAll();
+        main.fields[kUtcField].SetFocus();
+        main.fields[kUtcField].SelectAll();
         TimerStop();
     } else {
-        main.Text1[1].SetFocus();
+        main.fields[kCallField].SetFocus();
         TimerStart();
     }
 }
@@ -70,8 +70,8 @@ void ChangeBandMode(int index) {
     question.buttons = Buttons::YesNo;
     if (MsgBox(question) == Answer::Yes) return;
 
-    frmMain->Combo1.SetText({});
-    frmMain->Combo1.SetFocus();
+    frmMain->operatorBox.SetText({});
+    frmMain->operatorBox.SetFocus();
     MessageBox instruction;
     instruction.text = "Angiv/vælg ny operatør\r\n\r\nTryk derefter Alt+C for at hoppe til Call-felt"_t;
     instruction.title = "Operatør"_t;

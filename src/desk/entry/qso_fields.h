@@ -9,7 +9,7 @@
 
 namespace vatro {
 
-/// Indices of the fields, Text1 of either form.
+/// Indices of the fields, in entry and correction alike.
 enum ContactField { kUtcField, kCallField, kReportSentField, kNumberSentField, kReportReceivedField, kNumberReceivedField, kFieldCount };
 
 using ContactFields = TextBox[kFieldCount];

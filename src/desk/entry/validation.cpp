@@ -29,20 +29,20 @@ void LogContact(const std::string& time) {
     FrmMain& main = *frmMain;
     DeskState& state = desk();
     Contact contact;
-    contact.call = main.Text1[kCallField].Text();
+    contact.call = main.fields[kCallField].Text();
     contact.multiplier = RateContact(contact.call, state.gsCall);
     // Six characters are what the station was looked up by, and what the variable shows from now on.
     state.gsCall = StationCall(state.gsCall);
     contact.time = time;
-    contact.reportSent = main.Text1[kReportSentField].Text();
-    contact.numberSent = main.Text1[kNumberSentField].Text();
-    contact.reportReceived = main.Text1[kReportReceivedField].Text();
-    contact.numberReceived = main.Text1[kNumberReceivedField].Text();
+    contact.reportSent = main.fields[kReportSentField].Text();
+    contact.numberSent = main.fields[kNumberSentField].Text();
+    contact.reportReceived = main.fields[kReportReceivedField].Text();
+    contact.numberReceived = main.fields[kNumberReceivedField].Text();
     const bool unknown = ShownCountry(contact.call).unknown;
     if (unknown) state.giQSOPoint = 0;
     contact.point = state.giQSOPoint;
-    contact.operatorCall = Trim(main.Combo1.Text());
-    contact.qsl = main.Check1.Value();
+    contact.operatorCall = Trim(main.operatorBox.Text());
+    contact.qsl = main.qsl.Value();
     contact.qsoMode = state.gsQsoMode;
     // Always today's, even if the time was set back over midnight by hand.
     contact.date = FormatDate(UtcNow());
@@ -58,7 +58,7 @@ void LogContact(const std::string& time) {
 void ValiderQSO() {
     FrmMain& main = *frmMain;
     DeskState& state = desk();
-    if (const auto choice = ChoiceOfWord(main.Text1[kCallField].Text())) {
+    if (const auto choice = ChoiceOfWord(main.fields[kCallField].Text())) {
         ChangeBandMode(*choice);
         return;
     }
@@ -70,16 +70,16 @@ void ValiderQSO() {
         MsgBox("Vælg modulationsart"_t);
         return;
     }
-    if (!Accepted(CheckOperator(main.Combo1.Text()))) return main.Combo1.SetFocus();
-    auto time = AcceptedTime(main.Text1[kUtcField]);
-    if (!time) return main.Text1[kUtcField].SetFocus();
-    state.gsCall = StripCall(main.Text1[kCallField].Text());
-    if (!Accepted(CheckCall(state.gsCall))) return main.Text1[kCallField].SetFocus();
+    if (!Accepted(CheckOperator(main.operatorBox.Text()))) return main.operatorBox.SetFocus();
+    auto time = AcceptedTime(main.fields[kUtcField]);
+    if (!time) return main.fields[kUtcField].SetFocus();
+    state.gsCall = StripCall(main.fields[kCallField].Text());
+    if (!Accepted(CheckCall(state.gsCall))) return main.fields[kCallField].SetFocus();
     // A duplicate is no fault: it only changes what is logged.
     NoteDuplicate();
-    if (const auto field = FieldAtFault(main.Text1)) return main.Text1[*field].SetFocus();
+    if (const auto field = FieldAtFault(main.fields)) return main.fields[*field].SetFocus();
     // The clock may have moved the field on while a question was open.
-    LogContact(CheckTime(main.Text1[kUtcField].Text()).value_or(*time));
+    LogContact(CheckTime(main.fields[kUtcField].Text()).value_or(*time));
 }
 
 std::string RateContact(std::string_view call, std::string_view station) {

@@ -3,8 +3,8 @@
 
 namespace vatro {
 
-FormQuickInfo::FormQuickInfo() : Form("FormQuickInfo", FormKind::FixedTool, "Quick Info"), Image1(*this, "Image1", "quickinfo.png") {
-    Image1.Click = [this] { Hide(); };
+FormQuickInfo::FormQuickInfo() : Form("FormQuickInfo", FormKind::FixedTool, "Quick Info"), picture(*this, "Image1", "quickinfo.png") {
+    picture.Click = [this] { Hide(); };
 }
 
 void FormQuickInfo::Form_KeyPress(KeyCode& KeyAscii) {

@@ -10,7 +10,7 @@ namespace vatro {
 class FormQuickInfo : public Form {
 public:
     FormQuickInfo();
-    Picture Image1;
+    Picture picture;
 
     void Form_Click() override { Hide(); }
     void Form_KeyPress(KeyCode& KeyAscii) override;

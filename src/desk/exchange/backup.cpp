@@ -25,7 +25,7 @@ void Stands(std::string_view message, bool& stop) {
 
 void CopyFile(const std::string& file, const std::string& directory, std::string_view missing, bool& stop) {
     try {
-        frmTilFloppy->List1.AddItem(file + " kopieres...");
+        frmTilFloppy->copiedFiles.AddItem(file + " kopieres...");
         frmTilFloppy->Refresh();
         platform().files.Copy(PathIn(desk().gsLogLib, file), PathIn(directory, file));
         stop = false;
@@ -53,7 +53,7 @@ void CopyFile(const std::string& file, const std::string& directory, std::string
 void CopyAll(std::string_view title, void (*copyOne)(const std::string& file, bool& stop)) {
     frmTilFloppy->SetCaption(title);
     frmTilFloppy->Show();
-    frmTilFloppy->List1.Clear();
+    frmTilFloppy->copiedFiles.Clear();
     bool stop = false;
     copyOne("Ukendt.txt", stop);
     for (const LogId& log : kTenLogs)

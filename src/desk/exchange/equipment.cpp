@@ -28,37 +28,37 @@ void GemUdstyr() {
 
 FormRigAnt::FormRigAnt()
     : Form("FormRigAnt", FormKind::FixedDialog, "Udstyr"),
-      Frame1(*this, "Frame1", "Radio + PA"),
-      TextRig{{*this, "TextRig", 0}, {*this, "TextRig", 1}, {*this, "TextRig", 2}, {*this, "TextRig", 3}, {*this, "TextRig", 4}},
-      Frame2(*this, "Frame2", "Antenner"),
-      TextAnt{{*this, "TextAnt", 0}, {*this, "TextAnt", 1}, {*this, "TextAnt", 2}, {*this, "TextAnt", 3}, {*this, "TextAnt", 4}},
-      CommandOK(*this, "CommandOK", "&OK"),
-      CommandLuk(*this, "CommandLuk", "&Annuller"),
-      Label1{{*this, "Label1", 0, "80m"}, {*this, "Label1", 1, "40m"}, {*this, "Label1", 2, "20m"}, {*this, "Label1", 3, "15m"},
-             {*this, "Label1", 4, "10m"}, {*this, "Label1", 5, "80m"}, {*this, "Label1", 6, "40m"}, {*this, "Label1", 7, "20m"},
-             {*this, "Label1", 8, "15m"}, {*this, "Label1", 9, "10m"}} {
+      rigFrame(*this, "Frame1", "Radio + PA"),
+      rigs{{*this, "TextRig", 0}, {*this, "TextRig", 1}, {*this, "TextRig", 2}, {*this, "TextRig", 3}, {*this, "TextRig", 4}},
+      antennaFrame(*this, "Frame2", "Antenner"),
+      antennas{{*this, "TextAnt", 0}, {*this, "TextAnt", 1}, {*this, "TextAnt", 2}, {*this, "TextAnt", 3}, {*this, "TextAnt", 4}},
+      okButton(*this, "CommandOK", "&OK"),
+      cancelButton(*this, "CommandLuk", "&Annuller"),
+      bandLabels{{*this, "Label1", 0, "80m"}, {*this, "Label1", 1, "40m"}, {*this, "Label1", 2, "20m"}, {*this, "Label1", 3, "15m"},
+                 {*this, "Label1", 4, "10m"}, {*this, "Label1", 5, "80m"}, {*this, "Label1", 6, "40m"}, {*this, "Label1", 7, "20m"},
+                 {*this, "Label1", 8, "15m"}, {*this, "Label1", 9, "10m"}} {
     std::vector<Control*> order;
-    for (TextBox& field : TextRig) order.push_back(&field);
-    for (TextBox& field : TextAnt) order.push_back(&field);
+    for (TextBox& field : rigs) order.push_back(&field);
+    for (TextBox& field : antennas) order.push_back(&field);
     for (Control* field : order) static_cast<TextBox*>(field)->SetMaxLength(kLength);
-    order.push_back(&CommandOK);
-    order.push_back(&CommandLuk);
+    order.push_back(&okButton);
+    order.push_back(&cancelButton);
     SetTabOrder(order);
-    CommandOK.Click = [this] { CommandOK_Click(); };
-    CommandLuk.Click = [this] { Unload(); };
+    okButton.Click = [this] { CommandOK_Click(); };
+    cancelButton.Click = [this] { Unload(); };
 }
 
 void FormRigAnt::Form_Load() {
     for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
-        TextRig[i].SetText(desk().rigs[i]);
-        TextAnt[i].SetText(desk().antennas[i]);
+        rigs[i].SetText(desk().rigs[i]);
+        antennas[i].SetText(desk().antennas[i]);
     }
 }
 
 void FormRigAnt::CommandOK_Click() {
     for (std::size_t i = 0; i < kEquipmentBands.size(); ++i) {
-        desk().antennas[i] = TextAnt[i].Text();
-        desk().rigs[i] = TextRig[i].Text();
+        desk().antennas[i] = antennas[i].Text();
+        desk().rigs[i] = rigs[i].Text();
     }
     GemUdstyr();
     Unload();

@@ -19,14 +19,14 @@ void GemUdstyr();
 class FormRigAnt : public Form {
 public:
     FormRigAnt();
-    Frame Frame1;
-    TextBox TextRig[5];
-    Frame Frame2;
-    TextBox TextAnt[5];
-    Button CommandOK;
-    Button CommandLuk;
+    Frame rigFrame;
+    TextBox rigs[5];
+    Frame antennaFrame;
+    TextBox antennas[5];
+    Button okButton;
+    Button cancelButton;
     /// The bands beside the fields, radios first.
-    Label Label1[10];
+    Label bandLabels[10];
 
     void Form_Load() override;
 

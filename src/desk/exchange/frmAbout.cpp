@@ -16,14 +16,14 @@ constexpr double kTitlePoints = 20;
 
 FrmAbout::FrmAbout()
     : Form("frmAbout", FormKind::Dialog, "Om Vatro"),
-      lblTitle(*this, "lblTitle", "Vatro", {{}, kTitlePoints, true}),
-      lblVersion(*this, "lblVersion", "Version " + VersionText()),
-      lblDescription(*this, "lblDescription", "Log til HF Field Day i EDR's lokalafdelinger.\nFri software under MIT-licensen."_t),
-      cmdOK(*this, "cmdOK", "&OK") {
-    cmdOK.isDefault = true;
-    cmdOK.isCancel = true;
-    SetTabOrder({&cmdOK});
-    cmdOK.Click = [this] { Unload(); };
+      title(*this, "lblTitle", "Vatro", {{}, kTitlePoints, true}),
+      version(*this, "lblVersion", "Version " + VersionText()),
+      description(*this, "lblDescription", "Log til HF Field Day i EDR's lokalafdelinger.\nFri software under MIT-licensen."_t),
+      okButton(*this, "cmdOK", "&OK") {
+    okButton.isDefault = true;
+    okButton.isCancel = true;
+    SetTabOrder({&okButton});
+    okButton.Click = [this] { Unload(); };
 }
 
 }  // namespace vatro

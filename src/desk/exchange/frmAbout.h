@@ -10,10 +10,10 @@ namespace vatro {
 class FrmAbout : public Form {
 public:
     FrmAbout();
-    Label lblTitle;
-    Label lblVersion;
-    Label lblDescription;
-    Button cmdOK;
+    Label title;
+    Label version;
+    Label description;
+    Button okButton;
 };
 
 inline FormSlot<FrmAbout> frmAbout{"frmAbout"};

@@ -36,14 +36,14 @@ std::string Divider(std::string_view call) {
 }  // namespace
 
 FrmStregP::FrmStregP()
-    : Form("frmStregP", FormKind::Tool, "Mangler nogle calls '/P'?"), List1(*this, "List1", {"Fixedsys", 9}, ListOrder::Sorted) {
-    SetTabOrder({&List1});
+    : Form("frmStregP", FormKind::Tool, "Mangler nogle calls '/P'?"), contacts(*this, "List1", {"Fixedsys", 9}, ListOrder::Sorted) {
+    SetTabOrder({&contacts});
 }
 
 void FrmStregP::Form_Load() {
     RestorePlace(*this, setting::kSuffixWindowPlace);
     Show();
-    List1.Clear();
+    contacts.Clear();
     IndlæsLogs();
     Refresh();
     IndsætBlanke();
@@ -56,7 +56,7 @@ void FrmStregP::StoreState() {
 }
 
 void FrmStregP::IndlæsLogs() {
-    const ListBox::Filling filling(List1);
+    const ListBox::Filling filling(contacts);
     for (const LogId& log : kTenLogs) indlæslog(log);
 }
 
@@ -66,7 +66,7 @@ void FrmStregP::indlæslog(const LogId& log) {
         files.Open(1, LogPath(log.band, log.mode), FileMode::Input);
         while (!files.EndOfFile(1)) {
             const std::string line = files.LineInput(1);
-            if (!IsNote(line)) List1.AddItem(ContactItem(log, line));
+            if (!IsNote(line)) contacts.AddItem(ContactItem(log, line));
         }
     } catch (const RunTimeError&) {
         // What has been read so far is shown.
@@ -75,29 +75,29 @@ void FrmStregP::indlæslog(const LogId& log) {
 }
 
 void FrmStregP::IndsætBlanke() {
-    const ListBox::Filling filling(List1);
-    const int count = List1.ListCount();
-    std::string last = count > 0 ? List1.List(count - 1) : std::string();
+    const ListBox::Filling filling(contacts);
+    const int count = contacts.ListCount();
+    std::string last = count > 0 ? contacts.List(count - 1) : std::string();
     std::string previous = BaseCallOf(last);
     for (int i = count - 2; i >= 1; --i) {
-        last = List1.List(i);
+        last = contacts.List(i);
         std::string current = BaseCallOf(last);
-        if (current != previous) List1.AddItem(Divider(previous));
+        if (current != previous) contacts.AddItem(Divider(previous));
         previous = std::move(current);
     }
-    List1.AddItem(std::string(kBasis.Of(last)).append(kDashes));
+    contacts.AddItem(std::string(kBasis.Of(last)).append(kDashes));
 }
 
 void FrmStregP::FjernDubletter() {
-    const ListBox::Filling filling(List1);
-    int i = List1.ListCount() - 1;
+    const ListBox::Filling filling(contacts);
+    int i = contacts.ListCount() - 1;
     while (i > 1) {
         const int last = i;
         bool alike = true;
-        for (; kDividerMark.Of(List1.List(i)) != "----"; --i)
-            if (kLogged.Of(List1.List(i)) != kLogged.Of(List1.List(last))) alike = false;
+        for (; kDividerMark.Of(contacts.List(i)) != "----"; --i)
+            if (kLogged.Of(contacts.List(i)) != kLogged.Of(contacts.List(last))) alike = false;
         if (alike)
-            for (int row = last; row >= i; --row) List1.RemoveItem(row);
+            for (int row = last; row >= i; --row) contacts.RemoveItem(row);
         --i;
     }
 }

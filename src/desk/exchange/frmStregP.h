@@ -23,7 +23,7 @@ namespace vatro {
 class FrmStregP : public Form {
 public:
     FrmStregP();
-    ListBox List1;
+    ListBox contacts;
 
     /// Fills the list in the steps below, before the eyes of the user.
     void Form_Load() override;

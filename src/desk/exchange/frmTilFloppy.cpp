@@ -4,8 +4,8 @@
 namespace vatro {
 
 FrmTilFloppy::FrmTilFloppy()
-    : Form("frmTilFloppy", FormKind::FixedDialog, "Kopierer log til diskette..."), List1(*this, "List1", {"Fixedsys", 9}) {
-    SetTabOrder({&List1});
+    : Form("frmTilFloppy", FormKind::FixedDialog, "Kopierer log til diskette..."), copiedFiles(*this, "List1", {"Fixedsys", 9}) {
+    SetTabOrder({&copiedFiles});
 }
 
 }  // namespace vatro

@@ -10,7 +10,7 @@ namespace vatro {
 class FrmTilFloppy : public Form {
 public:
     FrmTilFloppy();
-    ListBox List1;
+    ListBox copiedFiles;
 };
 
 inline FormSlot<FrmTilFloppy> frmTilFloppy{"frmTilFloppy"};

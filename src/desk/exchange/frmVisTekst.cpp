@@ -38,25 +38,25 @@ constexpr std::string_view kStartInfo =
 
 FrmVisTekst::FrmVisTekst()
     : Form("frmVisTekst", FormKind::Tool, "Vis Tekst"),
-      Text1(*this, "Text1"),
-      chkVisTekst(*this, "chkVisTekst", "&Vis denne tekst igen."),
-      cmdLuk(*this, "cmdLuk", "&Luk") {
-    cmdLuk.isDefault = true;
-    cmdLuk.isCancel = true;
-    SetTabOrder({&Text1, &chkVisTekst, &cmdLuk});
-    cmdLuk.Click = [this] {
-        desk().gbVisInfo = chkVisTekst.Value();
+      text(*this, "Text1"),
+      showAgain(*this, "chkVisTekst", "&Vis denne tekst igen."),
+      closeButton(*this, "cmdLuk", "&Luk") {
+    closeButton.isDefault = true;
+    closeButton.isCancel = true;
+    SetTabOrder({&text, &showAgain, &closeButton});
+    closeButton.Click = [this] {
+        desk().gbVisInfo = showAgain.Value();
         Unload();
     };
 }
 
 void FrmVisTekst::Form_Load() {
-    chkVisTekst.SetValue(desk().gbVisInfo);
+    showAgain.SetValue(desk().gbVisInfo);
 }
 
 void VisStartInfo() {
     frmVisTekst->SetCaption("Information til Fieldday 2004");
-    frmVisTekst->Text1.SetText(kStartInfo);
+    frmVisTekst->text.SetText(kStartInfo);
     frmVisTekst->ShowModal();
 }
 

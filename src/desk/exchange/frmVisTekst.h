@@ -10,10 +10,10 @@ namespace vatro {
 class FrmVisTekst : public Form {
 public:
     FrmVisTekst();
-    TextView Text1;
-    /// Whether the text comes at the next start; taken over into gbVisInfo by cmdLuk alone.
-    CheckBox chkVisTekst;
-    Button cmdLuk;
+    TextView text;
+    /// Whether the text comes at the next start; closeButton takes it over into gbVisInfo, nothing else does.
+    CheckBox showAgain;
+    Button closeButton;
 
     void Form_Load() override;
 };

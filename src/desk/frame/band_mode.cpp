@@ -65,8 +65,8 @@ void SetIndstillinger(int index) {
 void SetToolbar() {
     // The hidden band has no button: the buttons stay as they are.
     const auto band = BandIndex(desk().gsBand);
-    if (band && *band != kHiddenBand) frmMain->Toolbar1.Press(*band);
-    if (const auto mode = ModeIndex(desk().gsQsoMode)) frmMain->Toolbar1.Press(*mode);
+    if (band && *band != kHiddenBand) frmMain->toolbar.Press(*band);
+    if (const auto mode = ModeIndex(desk().gsQsoMode)) frmMain->toolbar.Press(*mode);
 }
 
 }  // namespace vatro

@@ -9,12 +9,12 @@ namespace vatro {
 using namespace literals;
 
 FrmSplash::FrmSplash() : Form("frmSplash", FormKind::Splash, "Vatro") {
-    lblVersion.SetCaption("Version " + VersionText());
-    lblWarning.SetCaption("Advarsel! Dette er et Windows program."_t);
+    version.SetCaption("Version " + VersionText());
+    warning.SetCaption("Advarsel! Dette er et Windows program."_t);
 }
 
 void FrmSplash::ShowStage(std::string_view stage) {
-    Label1.SetCaption(stage);
+    loadStage.SetCaption(stage);
     Refresh();
 }
 

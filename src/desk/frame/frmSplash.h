@@ -11,9 +11,9 @@ class FrmSplash : public Form {
 public:
     FrmSplash();
     /// What is being loaded.
-    Label Label1{*this, "Label1"};
-    Label lblVersion{*this, "lblVersion"};
-    Label lblWarning{*this, "lblWarning"};
+    Label loadStage{*this, "Label1"};
+    Label version{*this, "lblVersion"};
+    Label warning{*this, "lblWarning"};
 
     /// Shows the stage of the loading at once.
     void ShowStage(std::string_view stage);

@@ -18,12 +18,12 @@ using namespace literals;
 namespace {
 
 void ShowLog() {
-    frmMain->sbStatusBar.SetPanel(1, "Vatro " + desk().gsBand + " " + desk().gsMode);
+    frmMain->statusBar.SetPanel(1, "Vatro " + desk().gsBand + " " + desk().gsMode);
     ShowScore();
 }
 
 void SelectLastLine() {
-    frmMain->List1.SetListIndex(frmMain->List1.ListCount() - 1);
+    frmMain->log.SetListIndex(frmMain->log.ListCount() - 1);
 }
 
 /// Takes a contact line into marks and counters.
@@ -49,7 +49,7 @@ std::string CurrentLogPath() {
 
 void IndlæsLogfil() {
     Files& files = platform().files;
-    const ListBox::Filling filling(frmMain->List1);
+    const ListBox::Filling filling(frmMain->log);
     // Before the file is opened, so that the bar is right even if it cannot be read.
     ClearLog();
     Log& log = desk().log;
@@ -112,7 +112,7 @@ void SkrivLog() {
 }
 
 void ShowScore() {
-    StatusBar& bar = frmMain->sbStatusBar;
+    StatusBar& bar = frmMain->statusBar;
     const Log& log = desk().log;
     bar.SetPanel(2, PlainNumber(log.glPoint));
     bar.SetPanel(4, PlainNumber(desk().giMult));

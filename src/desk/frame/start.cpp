@@ -62,7 +62,7 @@ void StoreRunningProgram() noexcept {
     if (main == nullptr || !main->up) return;
     const SettingsBatch together(platform().settings);
     // Not while another handler has its file open.
-    Try([main] { GemOperatører(main->Combo1); });
+    Try([main] { GemOperatører(main->operatorBox); });
     const std::vector<Form*>& forms = LoadedForms();
     for (auto form = forms.rbegin(); form != forms.rend(); ++form)
         if (*form != main) Try([form] { (*form)->StoreState(); });

@@ -11,8 +11,8 @@ namespace vatro {
 class FrmAfslut : public Form {
 public:
     FrmAfslut() : Form("frmAfslut", FormKind::Splash, "Vatro") {}
-    Label Label1{*this, "Label1", "Vent et øjeblik..."_t};
-    Label lblAfslut{*this, "lblAfslut", "Vatro afsluttes!"};
+    Label waitNotice{*this, "Label1", "Vent et øjeblik..."_t};
+    Label endNotice{*this, "lblAfslut", "Vatro afsluttes!"};
 };
 
 inline FormSlot<FrmAfslut> frmAfslut{"frmAfslut"};

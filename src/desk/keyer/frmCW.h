@@ -12,28 +12,28 @@ namespace vatro {
 class FrmCW : public Form {
 public:
     FrmCW();
-    Frame Frame2;
-    Label Label2[kCwTextCount];
-    TextBox Text1[kCwTextCount];
-    Frame Frame1;
+    Frame textsFrame;
+    Label textLabels[kCwTextCount];
+    TextBox texts[kCwTextCount];
+    Frame codesFrame;
     /// What the #-codes stand for.
-    Label Label1[4];
-    Frame Frame3;
-    Label Label6;
-    TextBox txtWPM;
-    UpDown UpDown2;
-    Label Label7;
-    TextBox txtTone;
-    UpDown UpDown1;
-    Label Label11;
-    ScrollBar HScroll1;
-    Frame Frame4;
-    OptionButton optRST[2];
-    Frame Frame5;
-    OptionButton optLobenr[2];
-    Button cmdReset;
-    Button cmdOK;
-    Button cmdAnnuller;
+    Label codeLabels[4];
+    Frame soundFrame;
+    Label speedLabel;
+    TextBox speed;
+    UpDown speedArrows;
+    Label pitchLabel;
+    TextBox pitch;
+    UpDown pitchArrows;
+    Label volumeLabel;
+    ScrollBar volume;
+    Frame reportFrame;
+    OptionButton reportOptions[2];
+    Frame numberFrame;
+    OptionButton numberOptions[2];
+    Button resetButton;
+    Button okButton;
+    Button cancelButton;
 
     void Form_Load() override;
 

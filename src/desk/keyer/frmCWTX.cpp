@@ -12,15 +12,15 @@ namespace vatro {
 
 FrmCWTX::FrmCWTX()
     : Form("frmCWTX", FormKind::Dialog, "CW TX"),
-      Frame1(*this, "Frame1", "Sender teksten:"),
-      Text1(*this, "Text1"),
-      cmdTX(*this, "cmdTX", "&TX"),
-      cmdStop(*this, "cmdStop", "&Stop") {
-    cmdStop.isDefault = true;
-    cmdStop.isCancel = true;
-    SetTabOrder({&Text1, &cmdTX, &cmdStop});
-    cmdTX.Click = [this] { cmdTX_Click(); };
-    cmdStop.Click = [this] { cmdStop_Click(); };
+      textFrame(*this, "Frame1", "Sender teksten:"),
+      text(*this, "Text1"),
+      sendButton(*this, "cmdTX", "&TX"),
+      stopButton(*this, "cmdStop", "&Stop") {
+    stopButton.isDefault = true;
+    stopButton.isCancel = true;
+    SetTabOrder({&text, &sendButton, &stopButton});
+    sendButton.Click = [this] { cmdTX_Click(); };
+    stopButton.Click = [this] { cmdStop_Click(); };
 }
 
 FrmCWTX::~FrmCWTX() {
@@ -108,7 +108,7 @@ void FrmCWTX::cmdTX_Click() {
     cw.gsCWRST = ReportAsSent(cw.gsCWRST, cw.gsCWRSTFormat);
     const CodeValues values{.call = cw.gsCWCall, .report = cw.gsCWRST, .number = cw.gsCWNummer, .ownCall = desk().gsMyCall};
     cw.keyer.SetText(DanCWTekst(cw.gsCWRaa, values), cw.giCWFarnsworth);
-    Text1.SetText(cw.keyer.Place().gsCWTekst);
+    text.SetText(cw.keyer.Place().gsCWTekst);
     StartCW();
 }
 

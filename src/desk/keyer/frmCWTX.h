@@ -28,11 +28,11 @@ public:
     /// Gives back what a program that ends at once has left.
     ~FrmCWTX() override;
 
-    Frame Frame1;
+    Frame textFrame;
     /// The text as it is sent.
-    TextBox Text1;
-    Button cmdTX;
-    Button cmdStop;
+    TextBox text;
+    Button sendButton;
+    Button stopButton;
 
     /// Nothing before DanLydBuffer, or when it has failed before the card had made a buffer.
     std::unique_ptr<SoundBuffer> CWBuffer;

@@ -17,12 +17,12 @@ constexpr Field kCallAndNext{kCall.from, kCall.width + 1};
 /// With an empty field and an empty log the values stay those of the last send.
 void TakeValues(const FrmMain& main) {
     KeyerState& cw = desk().cw;
-    if (!main.Text1[kCallField].Text().empty()) {
-        cw.gsCWCall = main.Text1[kCallField].Text();
-        cw.gsCWRST = main.Text1[kReportSentField].Text();
-        cw.gsCWNummer = main.Text1[kNumberSentField].Text();
-    } else if (main.List1.ListCount() > 0) {
-        const std::string& last = main.List1.Items().back();
+    if (!main.fields[kCallField].Text().empty()) {
+        cw.gsCWCall = main.fields[kCallField].Text();
+        cw.gsCWRST = main.fields[kReportSentField].Text();
+        cw.gsCWNummer = main.fields[kNumberSentField].Text();
+    } else if (main.log.ListCount() > 0) {
+        const std::string& last = main.log.Items().back();
         cw.gsCWCall = kCallAndNext.TrimmedOf(last);
         cw.gsCWRST = kReportSent.TrimmedOf(last);
         cw.gsCWNummer = kNumberSent.TrimmedOf(last);

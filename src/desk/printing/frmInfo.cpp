@@ -3,11 +3,11 @@
 
 namespace vatro {
 
-FrmInfo::FrmInfo() : Form("frmInfo", FormKind::Tool, ""), List1(*this, "List1", {"Fixedsys", 9}), cmdLuk(*this, "cmdLuk", "&Luk") {
-    cmdLuk.isDefault = true;
-    cmdLuk.isCancel = true;
-    SetTabOrder({&List1, &cmdLuk});
-    cmdLuk.Click = [this] { Unload(); };
+FrmInfo::FrmInfo() : Form("frmInfo", FormKind::Tool, ""), steps(*this, "List1", {"Fixedsys", 9}), closeButton(*this, "cmdLuk", "&Luk") {
+    closeButton.isDefault = true;
+    closeButton.isCancel = true;
+    SetTabOrder({&steps, &closeButton});
+    closeButton.Click = [this] { Unload(); };
 }
 
 }  // namespace vatro

@@ -10,8 +10,8 @@ namespace vatro {
 class FrmInfo : public Form {
 public:
     FrmInfo();
-    ListBox List1;
-    Button cmdLuk;
+    ListBox steps;
+    Button closeButton;
 };
 
 inline FormSlot<FrmInfo> frmInfo{"frmInfo"};

@@ -13,7 +13,7 @@ void ShowProgress(std::string_view title) {
 }
 
 void AddProgress(std::string_view step) {
-    frmInfo->List1.AddItem(std::string(step));
+    frmInfo->steps.AddItem(std::string(step));
     frmInfo->Refresh();
 }
 

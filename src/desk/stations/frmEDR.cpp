@@ -25,9 +25,9 @@ const Font kWindowFont{"MS Sans Serif", 8.25};
 
 }  // namespace
 
-FrmEDR::FrmEDR() : Form("frmEDR", FormKind::Tool, ""), List1(*this, "List1", {}, kColumns), cmdLuk(*this, "cmdLuk", "&Luk") {
-    SetTabOrder({&List1, &cmdLuk});
-    cmdLuk.Click = [this] { Unload(); };
+FrmEDR::FrmEDR() : Form("frmEDR", FormKind::Tool, ""), stations(*this, "List1", {}, kColumns), closeButton(*this, "cmdLuk", "&Luk") {
+    SetTabOrder({&stations, &closeButton});
+    closeButton.Click = [this] { Unload(); };
 }
 
 void FrmEDR::Form_Load() {
@@ -46,12 +46,12 @@ void FrmEDR::Form_Resize() {
 }
 
 void VisEDRstns(bool worked) {
-    frmEDR->List1.Clear();
+    frmEDR->stations.Clear();
     frmEDR->SetCaption(worked ? "Kørte EDR stationer"_t : "Ikke kørte EDR stationer"_t);
     frmEDR->Show();
     for (int i = 1; i <= desk().stations.StationsInUse(); ++i) {
         const EDRRec& station = desk().stations.EDRstn[static_cast<std::size_t>(i)];
-        frmEDR->List1.AddItem(station.Wkd == worked ? std::string(station.Linje.Padded().substr(0, kEdrCall)) : "________");
+        frmEDR->stations.AddItem(station.Wkd == worked ? std::string(station.Linje.Padded().substr(0, kEdrCall)) : "________");
     }
 }
 

@@ -10,8 +10,8 @@ namespace vatro {
 class FrmEDR : public Form {
 public:
     FrmEDR();
-    ListBox List1;
-    Button cmdLuk;
+    ListBox stations;
+    Button closeButton;
 
     void Form_Load() override;
     void StoreState() override;

@@ -12,10 +12,10 @@ namespace vatro {
 class FrmCtyDat : public Form {
 public:
     FrmCtyDat();
-    ProgressBar ProgressBar1;
+    ProgressBar progress;
     /// What is being done; the two others are those of a clock that shows no time.
-    StatusBar sbStatusBar;
-    Timer Timer1;
+    StatusBar statusBar;
+    Timer minuteTimer;
 
     void Form_Load() override;
 
@@ -25,12 +25,12 @@ public:
     void Begin(int rows);
     /// Moves the bar to a row. It is painted some hundred times in a run and not for every row.
     void Advance(int row) {
-        ProgressBar1.SetValue(row);
+        progress.SetValue(row);
         if (row >= nextPaint_) PaintBar(row);
     }
 
 private:
-    void Timer1_Timer();
+    void ShowClock();
     void PaintBar(int row);
 
     /// The row at which the bar is painted next.

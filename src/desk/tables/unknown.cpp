@@ -19,7 +19,7 @@ void GemUkendt(std::string_view line) {
 }
 
 void ShowCountryNow() {
-    std::string call = frmMain->Text1[1].Text();
+    std::string call = frmMain->fields[kCallField].Text();
     if (call.empty()) {
         const auto& lines = desk().log.Lines();
         if (lines.empty()) return;
@@ -27,7 +27,7 @@ void ShowCountryNow() {
         call = Trim(Columns(lines.back(), kCall.from, kCall.width + 1));
         if (call.empty()) return;
     }
-    frmMain->sbStatusBar.SetPanel(1, desk().countries.LandStatusTekst(call).text);
+    frmMain->statusBar.SetPanel(1, desk().countries.LandStatusTekst(call).text);
 }
 
 }  // namespace vatro

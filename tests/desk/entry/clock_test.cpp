@@ -14,8 +14,8 @@ TEST_F(EntryClock, TicksATenthOfASecondAfterTheNextFullMinute) {
     clock.now.second = 45;
     clock.now.millisecond = 500;
     TimerStart();
-    EXPECT_EQ(frmMain->Timer1.Interval(), 14600);
-    EXPECT_TRUE(frmMain->Timer1.Running());
+    EXPECT_EQ(frmMain->minuteTimer.Interval(), 14600);
+    EXPECT_TRUE(frmMain->minuteTimer.Running());
     EXPECT_TRUE(frmMain->mnuIndstillingerKlokken.Ticked());
 }
 
@@ -24,14 +24,14 @@ TEST_F(EntryClock, TicksEveryMinuteFromTheFirstTickOn) {
     clock.now.minute = 1;
     clock.now.millisecond = 100;
     TimerTick();
-    EXPECT_EQ(frmMain->Timer1.Interval(), 60000);
-    EXPECT_EQ(frmMain->Text1[0].Text(), "13:01");
+    EXPECT_EQ(frmMain->minuteTimer.Interval(), 60000);
+    EXPECT_EQ(frmMain->fields[kUtcField].Text(), "13:01");
 }
 
 TEST_F(EntryClock, StopsWithoutForgettingThatItIsAutomatic) {
     Start();
     TimerStop();
-    EXPECT_FALSE(frmMain->Timer1.Running());
+    EXPECT_FALSE(frmMain->minuteTimer.Running());
     EXPECT_FALSE(frmMain->mnuIndstillingerKlokken.Ticked());
     EXPECT_EQ(desk().gbAutoTid, 1);
 }
@@ -40,10 +40,10 @@ TEST_F(EntryClock, IsSwitchedByItsMenuEntry) {
     Start();
     ToggleAutoTime();
     EXPECT_EQ(desk().gbAutoTid, 0);
-    EXPECT_FALSE(frmMain->Timer1.Running());
+    EXPECT_FALSE(frmMain->minuteTimer.Running());
     ToggleAutoTime();
     EXPECT_EQ(desk().gbAutoTid, 1);
-    EXPECT_TRUE(frmMain->Timer1.Running());
+    EXPECT_TRUE(frmMain->minuteTimer.Running());
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ using namespace literals;
 class FieldQuestions : public RunningProgram {
 protected:
     void SetUp() override { Start(); }
-    ContactFields& Fields() { return frmMain->Text1; }
+    ContactFields& Fields() { return frmMain->fields; }
     void Fill(const char* sent, const char* received, const char* number) {
         Fields()[kReportSentField].SetText(sent);
         Fields()[kNumberSentField].SetText("0001");

@@ -14,7 +14,7 @@ class Operators : public RunningProgram {
 protected:
     Operators() { files.files["DATA\\OPERATOR.TXT"] = {"OZ1DEF Anders", "", "OZ2GHI"}; }
 
-    ComboBox& Box() { return frmMain->Combo1; }
+    ComboBox& Box() { return frmMain->operatorBox; }
     /// What the box makes of the key.
     KeyCode Press(KeyCode key) { return Box().PressKey(key); }
 };

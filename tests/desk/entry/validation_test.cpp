@@ -21,8 +21,8 @@ using Lines = std::vector<std::string>;
 class Validation : public RunningProgram {
 protected:
     void Enter(std::string_view call, std::string_view number) {
-        frmMain->Text1[1].SetText(call);
-        frmMain->Text1[5].SetText(number);
+        frmMain->fields[kCallField].SetText(call);
+        frmMain->fields[kNumberReceivedField].SetText(number);
         ValiderQSO();
     }
 };
@@ -43,32 +43,32 @@ TEST_F(Validation, AnAcceptedContactGoesToFileListAndCounters) {
     Enter("DL9XYZ", "345");
     const std::string line = "13:00 DL9XYZ          59 -0001 59 -0345  3 DL         OZ1DEF     SSB   05-09-26";
     EXPECT_EQ(LinesOf("log\\FD80mSSB.txt"), Lines{line});
-    EXPECT_EQ(frmMain->List1.Items(), Lines{line});
-    EXPECT_EQ(frmMain->List1.ListIndex(), 0);
+    EXPECT_EQ(frmMain->log.Items(), Lines{line});
+    EXPECT_EQ(frmMain->log.ListIndex(), 0);
     EXPECT_EQ(desk().log.glPoint, 3);
     EXPECT_EQ(desk().giMult, 1);
     EXPECT_EQ(desk().log.giQSOnr, 2);
-    EXPECT_EQ(frmMain->sbStatusBar.Panel(2), "3");
-    EXPECT_EQ(frmMain->sbStatusBar.Panel(4), "1");
-    EXPECT_EQ(frmMain->sbStatusBar.Panel(6), "3");
+    EXPECT_EQ(frmMain->statusBar.Panel(2), "3");
+    EXPECT_EQ(frmMain->statusBar.Panel(4), "1");
+    EXPECT_EQ(frmMain->statusBar.Panel(6), "3");
 }
 
 TEST_F(Validation, ASentNumberThatIsNoNumberIsRefused) {
     Start();
-    frmMain->Text1[3].SetText("12A");
+    frmMain->fields[kNumberSentField].SetText("12A");
     dialogs.Expect("Sendt rapport skal være numerisk");
     Enter("DL9XYZ", "345");
-    EXPECT_TRUE(frmMain->Text1[3].HasFocus());
-    EXPECT_EQ(frmMain->List1.ListCount(), 0);
+    EXPECT_TRUE(frmMain->fields[kNumberSentField].HasFocus());
+    EXPECT_EQ(frmMain->log.ListCount(), 0);
 }
 
 TEST_F(Validation, TheSentReportIsJudgedBeforeTheNumbers) {
     Start();
-    frmMain->Text1[2].SetText("5");
-    frmMain->Text1[3].SetText("x");
+    frmMain->fields[kReportSentField].SetText("5");
+    frmMain->fields[kNumberSentField].SetText("x");
     dialogs.Expect("Modtaget RST skal være på 2 cifre.");
     Enter("DL9XYZ", "");
-    EXPECT_TRUE(frmMain->Text1[2].HasFocus());
+    EXPECT_TRUE(frmMain->fields[kReportSentField].HasFocus());
 }
 
 TEST_F(Validation, TheStationOfTheSocietyLeavesItsCallInSixColumns) {
@@ -102,31 +102,31 @@ TEST_F(Validation, TheUnknownCallIsNotedBeforeTheLogIsWritten) {
 TEST_F(Validation, ResetKeepsTimeAndOperatorWithTheClockOff) {
     settings.texts["SETTINGS/AUTOTID"] = "0";
     Start();
-    frmMain->Text1[0].SetText("10:15");
+    frmMain->fields[kUtcField].SetText("10:15");
     ResetQSO();
-    EXPECT_EQ(frmMain->Text1[0].Text(), "10:15");
-    EXPECT_TRUE(frmMain->Text1[0].HasFocus());
-    EXPECT_EQ(frmMain->Text1[0].SelLength(), 5);
-    EXPECT_FALSE(frmMain->Timer1.Running());
-    EXPECT_EQ(frmMain->Combo1.Text(), "OZ1DEF");
+    EXPECT_EQ(frmMain->fields[kUtcField].Text(), "10:15");
+    EXPECT_TRUE(frmMain->fields[kUtcField].HasFocus());
+    EXPECT_EQ(frmMain->fields[kUtcField].SelLength(), 5);
+    EXPECT_FALSE(frmMain->minuteTimer.Running());
+    EXPECT_EQ(frmMain->operatorBox.Text(), "OZ1DEF");
 }
 
 TEST_F(Validation, ResetMovesTheNumberOnAndClearsTheEntry) {
     Start();
-    frmMain->Text1[1].SetText("DL");
-    frmMain->Text1[2].SetText("11");
-    frmMain->Text1[5].SetText("7");
-    frmMain->Check1.SetValue(true);
+    frmMain->fields[kCallField].SetText("DL");
+    frmMain->fields[kReportSentField].SetText("11");
+    frmMain->fields[kNumberReceivedField].SetText("7");
+    frmMain->qsl.SetValue(true);
     desk().log.giQSOnr = 998;
     ResetQSO();
     EXPECT_EQ(desk().log.giQSOnr, 999);
-    EXPECT_EQ(frmMain->Text1[1].Text(), "");
-    EXPECT_EQ(frmMain->Text1[2].Text(), "59");
-    EXPECT_EQ(frmMain->Text1[2].MaxLength(), 2);
-    EXPECT_EQ(frmMain->Text1[3].Text(), "0999");
-    EXPECT_EQ(frmMain->Text1[4].Text(), "59");
-    EXPECT_EQ(frmMain->Text1[5].Text(), "");
-    EXPECT_FALSE(frmMain->Check1.Value());
+    EXPECT_EQ(frmMain->fields[kCallField].Text(), "");
+    EXPECT_EQ(frmMain->fields[kReportSentField].Text(), "59");
+    EXPECT_EQ(frmMain->fields[kReportSentField].MaxLength(), 2);
+    EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0999");
+    EXPECT_EQ(frmMain->fields[kReportReceivedField].Text(), "59");
+    EXPECT_EQ(frmMain->fields[kNumberReceivedField].Text(), "");
+    EXPECT_FALSE(frmMain->qsl.Value());
 }
 
 TEST_F(Validation, TheSerialNumberOverflowsAsAFailure) {

@@ -36,7 +36,7 @@ protected:
             if (step.starts_with("copy ")) copied.push_back(step.substr(5));
         return copied;
     }
-    static Lines Told() { return frmTilFloppy->List1.Items(); }
+    static Lines Told() { return frmTilFloppy->copiedFiles.Items(); }
 };
 
 TEST_F(Backup, CopiesTheElevenFilesInTheirOrder) {

@@ -46,8 +46,8 @@ TEST_F(CtImport, AContactBecomesALineOfTheLog) {
     Import();
     EXPECT_EQ(LinesOf("log\\FD40mCW.txt"), (Lines{"12:00 DL1ABC          599-0011 579-0001  3 DL         CT-IMP     CW    07-09-02",
                                                   "12:07 DL9XYZ          599-0012 599-0345  3            CT-IMP     CW    07-09-02"}));
-    EXPECT_EQ(frmMain->List1.Items(), files.files["LOG\\FD40MCW.TXT"]);
-    EXPECT_EQ(frmMain->List1.ListIndex(), 1);
+    EXPECT_EQ(frmMain->log.Items(), files.files["LOG\\FD40MCW.TXT"]);
+    EXPECT_EQ(frmMain->log.ListIndex(), 1);
 }
 
 TEST_F(CtImport, AnSsbLogKeepsItsColumns) {
@@ -67,7 +67,7 @@ TEST_F(CtImport, TheSystemIsOnTheImportedLogAfterwards) {
     EXPECT_EQ(desk().gsBand, "40m");
     EXPECT_EQ(desk().gsMode, "CW");
     EXPECT_EQ(desk().gsQsoMode, "CW");
-    const StatusBar& bar = frmMain->sbStatusBar;
+    const StatusBar& bar = frmMain->statusBar;
     EXPECT_EQ(bar.Panel(1), "Vatro 40m CW");
     // 3 points and 1, two countries.
     EXPECT_EQ(bar.Panel(2), "4");
@@ -75,10 +75,10 @@ TEST_F(CtImport, TheSystemIsOnTheImportedLogAfterwards) {
     EXPECT_EQ(bar.Panel(6), "8");
     // ResetQSO has moved it on from the last line's.
     EXPECT_EQ(desk().log.giQSOnr, 13);
-    EXPECT_EQ(frmMain->Text1[3].Text(), "0013");
-    EXPECT_EQ(frmMain->Text1[2].Text(), "599");
+    EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0013");
+    EXPECT_EQ(frmMain->fields[kReportSentField].Text(), "599");
     EXPECT_FALSE(files.IsOpen());
-    for (const Toolbar::ToolButton& button : frmMain->Toolbar1.ToolButtons())
+    for (const Toolbar::ToolButton& button : frmMain->toolbar.ToolButtons())
         EXPECT_EQ(button.pressed, button.index == 4 || button.index == 9) << button.index;
 }
 
@@ -98,7 +98,7 @@ TEST_F(CtImport, OnlyLinesWithADashInColumnSevenAreContacts) {
         {"", "Claimed score - 345", "123456", "123456 -8", Contact("07-Sep-02", "1200", "0001", "DL1ABC", "599", "0001"), "TOTAL  12"});
     Start();
     Import();
-    EXPECT_EQ(frmMain->List1.ListCount(), 1);
+    EXPECT_EQ(frmMain->log.ListCount(), 1);
 }
 
 TEST_F(CtImport, ACallTwiceIsADuplicateThoughPortable) {
@@ -217,7 +217,7 @@ TEST_F(CtImport, TheImportAfterARefusedOneGoesOnWithTheFirstFileInALogWithoutBan
     EXPECT_EQ(desk().gsBand, "");
     EXPECT_EQ(desk().gsMode, "CW");
     EXPECT_EQ(desk().gsQsoMode, "");
-    EXPECT_EQ(frmMain->sbStatusBar.Panel(1), "Vatro  CW");
+    EXPECT_EQ(frmMain->statusBar.Panel(1), "Vatro  CW");
     EXPECT_EQ(LinesOf("log\\FDCW.txt"), Lines{"12:00 DL1ABC          599-0001 599-0001  3 DL         CT-IMP     CW    07-09-02"});
     EXPECT_FALSE(files.files.contains("LOG\\FD20MSSB.TXT"));
     EXPECT_FALSE(files.IsOpen());
@@ -236,7 +236,7 @@ TEST_F(CtImport, AFileOfFewerThanThreeLinesIsToldToBeEmpty) {
     EXPECT_EQ(desk().gsBand, "");
     EXPECT_EQ(desk().gsMode, "CW");
     EXPECT_EQ(desk().gsQsoMode, "");
-    EXPECT_EQ(frmMain->List1.ListCount(), 0);
+    EXPECT_EQ(frmMain->log.ListCount(), 0);
     EXPECT_FALSE(files.IsOpen());
 }
 
@@ -248,7 +248,7 @@ TEST_F(CtImport, AFileOfThreeLinesIsToldToBeEmptyOnItsOwnBand) {
     EXPECT_EQ(desk().gsBand, "40m");
     EXPECT_EQ(desk().gsMode, "SSB");
     EXPECT_FALSE(files.files.contains("LOG\\FD40MSSB.TXT"));
-    EXPECT_EQ(frmMain->Text1[3].Text(), "0001");
+    EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0001");
 }
 
 TEST_F(CtImport, AFileThatCannotBeOpenedStopsTheProgram) {
@@ -267,7 +267,7 @@ TEST_F(CtImport, AnotherModeIsSoughtUnderItsNameAndLoggedAsCw) {
     EXPECT_EQ(desk().gsQsoMode, "FM");
     // To the log that is there already.
     EXPECT_EQ(LinesOf("log\\FD40mCW.txt").size(), 2U);
-    EXPECT_EQ(frmMain->List1.ListCount(), 1);
+    EXPECT_EQ(frmMain->log.ListCount(), 1);
 }
 
 TEST_F(CtImport, AFileWithoutABandInItsNameHasALogOfSuchABand) {

@@ -20,7 +20,7 @@ protected:
         if (!ProgramRuns()) Start();
         Dispatch([] { frmMain->mnuFunktionerStregP.Choose(); });
     }
-    static Lines Items() { return frmStregP->List1.Items(); }
+    static Lines Items() { return frmStregP->contacts.Items(); }
 };
 
 TEST_F(PortableCalls, ShowsACallOfTwoSpellings) {
@@ -164,7 +164,7 @@ TEST_F(PortableCalls, ChangesNoLogAndNoCounter) {
     const auto before = files.files;
     Open();
     EXPECT_EQ(files.files, before);
-    EXPECT_EQ(frmMain->Text1[3].Text(), "0003");
+    EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0003");
 }
 
 }  // namespace

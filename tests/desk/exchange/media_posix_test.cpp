@@ -91,7 +91,7 @@ TEST_F(Media, ThatAreTooSmallGetTheLogsThatFit) {
     Copy();
     EXPECT_EQ(LengthOf("FD10mCW.txt"), 100);
     EXPECT_LT(LengthOf("FD80mSSB.txt"), 200'000);
-    EXPECT_EQ(frmTilFloppy->List1.ListCount(), 11);
+    EXPECT_EQ(frmTilFloppy->copiedFiles.ListCount(), 11);
 }
 
 TEST_F(Media, ThatAreProtectedStopTheCopy) {
@@ -100,7 +100,7 @@ TEST_F(Media, ThatAreProtectedStopTheCopy) {
     ASSERT_TRUE(medium_.Protect());
     dialogs.Expect("Disketten er skrivebeskyttet. Fjern skrivebeskyttelsen og foretag Diskettekopi igen.");
     Copy();
-    EXPECT_EQ(frmTilFloppy->List1.ListCount(), 2);
+    EXPECT_EQ(frmTilFloppy->copiedFiles.ListCount(), 2);
     EXPECT_EQ(LengthOf("FD10mCW.txt"), -1);
 }
 
@@ -119,7 +119,7 @@ TEST_F(Media, ThatHaveGoneStopTheCopy) {
     medium_.TakeAway();
     dialogs.Expect("Destination ikke fundet.");
     Copy();
-    EXPECT_EQ(frmTilFloppy->List1.ListCount(), 2);
+    EXPECT_EQ(frmTilFloppy->copiedFiles.ListCount(), 2);
 }
 
 }  // namespace

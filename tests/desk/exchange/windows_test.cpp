@@ -25,11 +25,11 @@ TEST_F(Windows, StartInformationComesAtTheStartUntilItIsUnticked) {
         shown = true;
         EXPECT_TRUE(form.Modal());
         EXPECT_EQ(form.Caption(), "Information til Fieldday 2004");
-        EXPECT_TRUE(frmVisTekst->chkVisTekst.Value());
+        EXPECT_TRUE(frmVisTekst->showAgain.Value());
         // All the rest of the start has been done.
-        EXPECT_EQ(frmMain->Text1[3].Text(), "0001");
-        frmVisTekst->chkVisTekst.Flip();
-        frmVisTekst->cmdLuk.Press();
+        EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0001");
+        frmVisTekst->showAgain.Flip();
+        frmVisTekst->closeButton.Press();
     };
     Start();
     EXPECT_TRUE(shown);
@@ -44,9 +44,9 @@ TEST_F(Windows, StartInformationComesAtTheStartUntilItIsUnticked) {
 TEST_F(Windows, StartInformationOfTheMenuOffersTheBoxAgain) {
     Start();
     front.modal["frmVisTekst"] = [](Form&) {
-        EXPECT_FALSE(frmVisTekst->chkVisTekst.Value());
-        frmVisTekst->chkVisTekst.Flip();
-        frmVisTekst->cmdLuk.Press();
+        EXPECT_FALSE(frmVisTekst->showAgain.Value());
+        frmVisTekst->showAgain.Flip();
+        frmVisTekst->closeButton.Press();
     };
     Choose(frmMain->mnuHelpStartInfo);
     EXPECT_TRUE(desk().gbVisInfo);
@@ -55,7 +55,7 @@ TEST_F(Windows, StartInformationOfTheMenuOffersTheBoxAgain) {
 TEST_F(Windows, StartInformationClosedByItsFrameChangesNothing) {
     Start();
     front.modal["frmVisTekst"] = [](Form& form) {
-        frmVisTekst->chkVisTekst.Flip();
+        frmVisTekst->showAgain.Flip();
         form.UserClosed();
     };
     Choose(frmMain->mnuHelpStartInfo);
@@ -65,13 +65,13 @@ TEST_F(Windows, StartInformationClosedByItsFrameChangesNothing) {
 TEST_F(Windows, StartInformationHasTwentyLinesAndCannotBeEdited) {
     Start();
     front.modal["frmVisTekst"] = [](Form& form) {
-        const std::string& text = frmVisTekst->Text1.Text();
+        const std::string& text = frmVisTekst->text.Text();
         EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 19);
         EXPECT_TRUE(text.starts_with("Info fra FD manager:\r\n\r\nDet er tilladt at "));
         EXPECT_NE(ToUtf8(text).find("eller Hellschreiber. \r\nDet vil sige"), std::string::npos);
         EXPECT_NE(ToUtf8(text).find("efter denne regel.\r\n\r\n\r\nInfo til contestdeltagere:\r\n\r\nUdskriv"), std::string::npos);
         EXPECT_NE(ToUtf8(text).find("\r\nHjælp:\r\n   Se under 'Hurtig hjælp oversigt' i onlinedokumentationen."), std::string::npos);
-        EXPECT_TRUE(frmVisTekst->Text1.Locked());
+        EXPECT_TRUE(frmVisTekst->text.Locked());
         form.UserClosed();
     };
     Choose(frmMain->mnuHelpStartInfo);
@@ -99,7 +99,7 @@ TEST_F(Windows, QuickInfoIsHiddenByAClickAndByEscAndByNoOtherKey) {
         Choose(frmMain->mnuHjælpQuickInfo);
         EXPECT_TRUE(formQuickInfo.Loaded());
     };
-    shows([](FormQuickInfo& form) { form.Image1.UserClicked(); });
+    shows([](FormQuickInfo& form) { form.picture.UserClicked(); });
     shows([](FormQuickInfo& form) { form.UserClicked(); });
     shows([](FormQuickInfo& form) {
         form.UserKey(kEnter);
@@ -113,10 +113,10 @@ TEST_F(Windows, QuickInfoIsHiddenByAClickAndByEscAndByNoOtherKey) {
 TEST_F(Windows, AboutTellsTheVersion) {
     Start();
     front.modal["frmAbout"] = [](Form&) {
-        EXPECT_EQ(frmAbout->lblTitle.Caption(), "Vatro");
-        EXPECT_EQ(frmAbout->lblVersion.Caption(), "Version 1.2.3");
-        EXPECT_FALSE(frmAbout->lblDescription.Caption().empty());
-        frmAbout->cmdOK.Press();
+        EXPECT_EQ(frmAbout->title.Caption(), "Vatro");
+        EXPECT_EQ(frmAbout->version.Caption(), "Version 1.2.3");
+        EXPECT_FALSE(frmAbout->description.Caption().empty());
+        frmAbout->okButton.Press();
     };
     Choose(frmMain->mnuHelpAbout);
     EXPECT_FALSE(frmAbout.Loaded());

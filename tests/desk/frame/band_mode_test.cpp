@@ -43,7 +43,7 @@ protected:
     }
     static std::vector<int> Pressed() {
         std::vector<int> pressed;
-        for (const auto& button : frmMain->Toolbar1.ToolButtons())
+        for (const auto& button : frmMain->toolbar.ToolButtons())
             if (button.pressed) pressed.push_back(button.index);
         return pressed;
     }
@@ -96,7 +96,7 @@ TEST_F(BandMode, AChangeLoadsTheLogBeforeItAsks) {
     EXPECT_EQ(desk().log.giQSOnr, 8);
     EXPECT_EQ(dialogs.boxes.back().title, "Bånd/modeskift"_t);
     EXPECT_EQ(dialogs.boxes.back().buttons, Buttons::YesNo);
-    EXPECT_EQ(frmMain->Combo1.Text(), "OZ1DEF");
+    EXPECT_EQ(frmMain->operatorBox.Text(), "OZ1DEF");
 }
 
 TEST_F(BandMode, NoEmptiesTheOperatorBoxBeforeItTellsWhatToDo) {
@@ -105,9 +105,9 @@ TEST_F(BandMode, NoEmptiesTheOperatorBoxBeforeItTellsWhatToDo) {
     dialogs.Expect("Angiv/vælg ny operatør\r\n\r\nTryk derefter Alt+C for at hoppe til Call-felt");
     ChangeBandMode(4);
     EXPECT_EQ(dialogs.boxes.back().title, "Operatør"_t);
-    EXPECT_EQ(frmMain->Combo1.Text(), "");
-    EXPECT_EQ(frmMain->Combo1.ListCount(), 1);
-    EXPECT_TRUE(frmMain->Combo1.HasFocus());
+    EXPECT_EQ(frmMain->operatorBox.Text(), "");
+    EXPECT_EQ(frmMain->operatorBox.ListCount(), 1);
+    EXPECT_TRUE(frmMain->operatorBox.HasFocus());
 }
 
 TEST_F(BandMode, AnEmptyBandOrModeStopsTheChange) {

@@ -40,16 +40,16 @@ TEST_F(LogFile, LoadCountsPointsCountriesAndTakesTheLastSerialNumber) {
     EXPECT_EQ(desk().log.giQSOnr, 8);
     EXPECT_EQ(desk().log.glPoint, 13);
     EXPECT_EQ(desk().giMult, 2);
-    EXPECT_EQ(frmMain->List1.Items(), (Lines{kFirst, kSecond, kDuplicate}));
-    EXPECT_EQ(frmMain->List1.ListIndex(), 2);
-    EXPECT_EQ(frmMain->sbStatusBar.Panel(1), "Vatro 80m SSB");
-    EXPECT_EQ(frmMain->sbStatusBar.Panel(6), "26");
+    EXPECT_EQ(frmMain->log.Items(), (Lines{kFirst, kSecond, kDuplicate}));
+    EXPECT_EQ(frmMain->log.ListIndex(), 2);
+    EXPECT_EQ(frmMain->statusBar.Panel(1), "Vatro 80m SSB");
+    EXPECT_EQ(frmMain->statusBar.Panel(6), "26");
 }
 
 TEST_F(LogFile, LoadListsANoteAndCountsNothingOfIt) {
     StartWith({kFirst, "note: x                                 99 OZ"});
     IndlæsLogfil();
-    EXPECT_EQ(frmMain->List1.ListCount(), 2);
+    EXPECT_EQ(frmMain->log.ListCount(), 2);
     EXPECT_EQ(desk().log.giQSOnr, 7);
     EXPECT_EQ(desk().log.glPoint, 3);
     EXPECT_EQ(desk().giMult, 1);
@@ -58,7 +58,7 @@ TEST_F(LogFile, LoadListsANoteAndCountsNothingOfIt) {
 TEST_F(LogFile, LoadOfALogWithoutContactsSelectsNothing) {
     StartWith({});
     IndlæsLogfil();
-    EXPECT_EQ(frmMain->List1.ListIndex(), -1);
+    EXPECT_EQ(frmMain->log.ListIndex(), -1);
     EXPECT_EQ(desk().log.giQSOnr, 0);
 }
 
@@ -66,11 +66,11 @@ TEST_F(LogFile, LoadThatFailsOnTheWayKeepsWhatWasRead) {
     StartWith({kFirst, kSecond});
     files.FailFrom("read", 2, Failure::DiskNotReady);
     IndlæsLogfil();
-    EXPECT_EQ(frmMain->List1.Items(), Lines{kFirst});
+    EXPECT_EQ(frmMain->log.Items(), Lines{kFirst});
     EXPECT_EQ(desk().log.glPoint, 3);
     EXPECT_EQ(desk().log.giQSOnr, 7);
     // The panels still show the zeros from before the file was opened.
-    EXPECT_EQ(frmMain->sbStatusBar.Panel(2), "0");
+    EXPECT_EQ(frmMain->statusBar.Panel(2), "0");
     EXPECT_FALSE(files.IsOpen());
 }
 

@@ -52,7 +52,7 @@ TEST_F(ProgramStart, ShowsTheSideWindowsAndPutsTheCursorInTheCallField) {
     EXPECT_TRUE(frmContestCall->Visible());
     EXPECT_FALSE(frmSplash.Loaded());
     EXPECT_EQ(ActiveForm(), frmMain.Peek());
-    EXPECT_TRUE(frmMain->Text1[1].HasFocus());
+    EXPECT_TRUE(frmMain->fields[kCallField].HasFocus());
 }
 
 TEST_F(ProgramStart, JoinsTheVersionNumbersByPoints) {
@@ -102,7 +102,7 @@ TEST_F(ProgramStart, AnEndWithoutHandlersStoresWhatARegularOneStores) {
     Dispatch([] { frmMain->mnuFunktionerStregP.Click(); });
     desk().gsBand = "20m";
     frmB4->MoveTo(3000, 4500);
-    frmMain->Combo1.AddItem("OZ7QQ");
+    frmMain->operatorBox.AddItem("OZ7QQ");
     const auto before = settings.texts;
     settings.written.clear();
     settings.writtenAlone = 0;

@@ -16,7 +16,7 @@ class Sending : public SendingProgram {
 protected:
     static bool Shown() { return frmCWTX.Loaded() && frmCWTX.Peek()->Visible(); }
     static void PressStop() {
-        Dispatch([] { frmCWTX->cmdStop.Press(); });
+        Dispatch([] { frmCWTX->stopButton.Press(); });
     }
     /// Index behind the last sample that is heard as a tone.
     std::size_t LastTone() const {
@@ -46,7 +46,7 @@ TEST_F(Sending, BothHalvesAreFilledBeforeThePlayBegins) {
     EXPECT_TRUE(Shown());
     EXPECT_EQ(ActiveForm(), frmCWTX.Peek());
     EXPECT_TRUE(frmMain->Enabled());
-    EXPECT_EQ(frmCWTX->Text1.Text(), "PARIS ");
+    EXPECT_EQ(frmCWTX->text.Text(), "PARIS ");
 }
 
 TEST_F(Sending, AnEventFillsTheHalfThatHasJustBeenPlayed) {
@@ -77,7 +77,7 @@ TEST_F(Sending, AnEmptyTextIsHalfASecondOfSilence) {
     Start();
     desk().cw.giCWWPM = 60;
     Send(4);
-    EXPECT_EQ(frmCWTX->Text1.Text(), " ");
+    EXPECT_EQ(frmCWTX->text.Text(), " ");
     PlayOut();
     EXPECT_EQ(heard, std::vector<std::int16_t>(kHalf));
 }
@@ -166,7 +166,7 @@ TEST_F(Sending, StopIsSilenceAtOnceAndTheBeginningOfTheNextText) {
 TEST_F(Sending, StopIsDefaultAndCancelButton) {
     Start();
     SendText("PARIS");
-    EXPECT_EQ(frmCWTX->ActiveControl(), &frmCWTX->Text1);
+    EXPECT_EQ(frmCWTX->ActiveControl(), &frmCWTX->text);
     Dispatch([] { frmCWTX->UserDefaultKey(kEnter); });
     EXPECT_FALSE(Shown());
     SendText("PARIS");
@@ -217,8 +217,8 @@ TEST_F(Sending, ASecondTextThatIsShorterEndsAtOnce) {
 TEST_F(Sending, TheButtonTXSendsTheTextOnFromWhereItStands) {
     Start();
     SendText("EEEEEEEEEE");
-    Dispatch([] { frmCWTX->cmdTX.Press(); });
-    EXPECT_EQ(frmCWTX->Text1.Text(), "EEEEEEEEEE ");
+    Dispatch([] { frmCWTX->sendButton.Press(); });
+    EXPECT_EQ(frmCWTX->text.Text(), "EEEEEEEEEE ");
     // 16.67 slots on from the gap behind the fifth dot: three slots of gap, three times dot and gap, and a dot.
     EXPECT_EQ(Place().glTegnPos, 8);
 }
@@ -251,7 +251,7 @@ TEST_F(Sending, ANewSpeedBreaksTheTextOffAndTheWindowWaitsForStop) {
 TEST_F(Sending, WithoutACardTheMessageComesOnceAndNothingElseHappens) {
     sound.there = false;
     Start();
-    Type(frmMain->Text1[1], "DL9XYZ");
+    Type(frmMain->fields[kCallField], "DL9XYZ");
     dialogs.Expect("Lydkort findes ikke.");
     SendText("#C");
     ASSERT_EQ(dialogs.boxes.size(), 1U);
@@ -295,8 +295,8 @@ TEST_F(Sending, ClosingTheWindowGivesTheCardBackAndKeepsThePosition) {
         EXPECT_TRUE(frmCWTX.Peek()->Hourglass());
         ASSERT_TRUE(frmAfslut.Loaded());
         EXPECT_TRUE(frmAfslut.Peek()->Visible());
-        EXPECT_EQ(frmAfslut->Label1.Caption(), "Vent et øjeblik..."_t);
-        EXPECT_EQ(frmAfslut->lblAfslut.Caption(), "Vatro afsluttes!");
+        EXPECT_EQ(frmAfslut->waitNotice.Caption(), "Vent et øjeblik..."_t);
+        EXPECT_EQ(frmAfslut->endNotice.Caption(), "Vatro afsluttes!");
         EXPECT_EQ(sound.buffer, nullptr);
         EXPECT_EQ(sound.events.size(), 3U - static_cast<std::size_t>(rounds));
     };

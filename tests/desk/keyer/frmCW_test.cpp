@@ -18,15 +18,15 @@ protected:
         Dispatch([] { frmCW->Show(); });
     }
     static void PressOK() {
-        Dispatch([] { frmCW->cmdOK.Press(); });
+        Dispatch([] { frmCW->okButton.Press(); });
     }
     static Texts Fields() {
         Texts fields;
-        for (const TextBox& field : frmCW->Text1) fields.push_back(field.Text());
+        for (const TextBox& field : frmCW->texts) fields.push_back(field.Text());
         return fields;
     }
     /// What a field makes of the key.
-    static KeyCode Press(KeyCode key) { return frmCW->Text1[3].PressKey(key); }
+    static KeyCode Press(KeyCode key) { return frmCW->texts[3].PressKey(key); }
 };
 
 TEST_F(CWWindow, ShowsWhatIsStored) {
@@ -34,30 +34,30 @@ TEST_F(CWWindow, ShowsWhatIsStored) {
         {{"CW/WPM", "32"}, {"CW/TONE", "650"}, {"CW/VOLUME", "5000"}, {"CW/N", "--1"}, {"CW/T", "599"}, {"CW/TEKST8", "TU"}});
     Open();
     EXPECT_EQ(frmCW->Caption(), "CW indstillinger");
-    EXPECT_EQ(frmCW->txtWPM.Text(), "32");
-    EXPECT_EQ(frmCW->txtTone.Text(), "650");
-    EXPECT_EQ(frmCW->HScroll1.Value(), 5000);
-    EXPECT_FALSE(frmCW->optLobenr[0].Value());
-    EXPECT_TRUE(frmCW->optLobenr[1].Value());
-    EXPECT_TRUE(frmCW->optRST[0].Value());
-    EXPECT_FALSE(frmCW->optRST[1].Value());
+    EXPECT_EQ(frmCW->speed.Text(), "32");
+    EXPECT_EQ(frmCW->pitch.Text(), "650");
+    EXPECT_EQ(frmCW->volume.Value(), 5000);
+    EXPECT_FALSE(frmCW->numberOptions[0].Value());
+    EXPECT_TRUE(frmCW->numberOptions[1].Value());
+    EXPECT_TRUE(frmCW->reportOptions[0].Value());
+    EXPECT_FALSE(frmCW->reportOptions[1].Value());
     EXPECT_EQ(Fields(), (Texts{"CQ TEST DE #R #R TEST K", "CL?", "#R", "#C UR #T #N BK", "", "", "", "TU"}));
 }
 
 TEST_F(CWWindow, ShowsAVolumeBeyondTheBarAtItsEnd) {
     settings.texts["CW/VOLUME"] = "20000";
     Open();
-    EXPECT_EQ(frmCW->HScroll1.Value(), 10000);
+    EXPECT_EQ(frmCW->volume.Value(), 10000);
     PressOK();
     EXPECT_EQ(desk().cw.glCWVolume, 10000);
     desk().cw.glCWVolume = -5;
     Open();
-    EXPECT_EQ(frmCW->HScroll1.Value(), 0);
+    EXPECT_EQ(frmCW->volume.Value(), 0);
 }
 
 TEST_F(CWWindow, TheBarHasItsSteps) {
     Open();
-    const ScrollBar::Range& limits = frmCW->HScroll1.Limits();
+    const ScrollBar::Range& limits = frmCW->volume.Limits();
     EXPECT_EQ(limits.min, 0);
     EXPECT_EQ(limits.max, 10000);
     EXPECT_EQ(limits.smallChange, 1);
@@ -67,22 +67,22 @@ TEST_F(CWWindow, TheBarHasItsSteps) {
 TEST_F(CWWindow, TheArrowsStayInTheirRange) {
     Open();
     const auto up = [](UpDown& arrows, bool which) { Dispatch([&] { arrows.Spin(which); }); };
-    up(frmCW->UpDown2, true);
-    EXPECT_EQ(frmCW->txtWPM.Text(), "22");
-    frmCW->txtWPM.SetText("59");
-    up(frmCW->UpDown2, true);
-    EXPECT_EQ(frmCW->txtWPM.Text(), "60");
-    frmCW->txtWPM.SetText("7");
-    up(frmCW->UpDown2, false);
-    EXPECT_EQ(frmCW->txtWPM.Text(), "6");
-    up(frmCW->UpDown1, false);
-    EXPECT_EQ(frmCW->txtTone.Text(), "775");
-    frmCW->txtTone.SetText("310");
-    up(frmCW->UpDown1, false);
-    EXPECT_EQ(frmCW->txtTone.Text(), "300");
-    frmCW->txtTone.SetText("1790");
-    up(frmCW->UpDown1, true);
-    EXPECT_EQ(frmCW->txtTone.Text(), "1800");
+    up(frmCW->speedArrows, true);
+    EXPECT_EQ(frmCW->speed.Text(), "22");
+    frmCW->speed.SetText("59");
+    up(frmCW->speedArrows, true);
+    EXPECT_EQ(frmCW->speed.Text(), "60");
+    frmCW->speed.SetText("7");
+    up(frmCW->speedArrows, false);
+    EXPECT_EQ(frmCW->speed.Text(), "6");
+    up(frmCW->pitchArrows, false);
+    EXPECT_EQ(frmCW->pitch.Text(), "775");
+    frmCW->pitch.SetText("310");
+    up(frmCW->pitchArrows, false);
+    EXPECT_EQ(frmCW->pitch.Text(), "300");
+    frmCW->pitch.SetText("1790");
+    up(frmCW->pitchArrows, true);
+    EXPECT_EQ(frmCW->pitch.Text(), "1800");
 }
 
 TEST_F(CWWindow, ATextTakesOnlySomeCharactersAndInCapitals) {
@@ -101,15 +101,15 @@ TEST_F(CWWindow, ATextTakesOnlySomeCharactersAndInCapitals) {
     EXPECT_EQ(Press('+'), kNoKey);
     EXPECT_EQ(Press('<'), kNoKey);
     EXPECT_EQ(Press(kBackspace), kBackspace);
-    EXPECT_EQ(frmCW->Text1[0].MaxLength(), 0);
-    EXPECT_FALSE(frmCW->txtWPM.KeyPress);
+    EXPECT_EQ(frmCW->texts[0].MaxLength(), 0);
+    EXPECT_FALSE(frmCW->speed.KeyPress);
 }
 
 TEST_F(CWWindow, TheDefaultTextsComeIntoTheFieldsAlone) {
     Open();
-    for (TextBox& field : frmCW->Text1) field.SetText("X");
+    for (TextBox& field : frmCW->texts) field.SetText("X");
     dialogs.Expect("Er du sikker på at du vil ændre teksterne?", Answer::Yes);
-    Dispatch([] { frmCW->cmdReset.Press(); });
+    Dispatch([] { frmCW->resetButton.Press(); });
     EXPECT_EQ(dialogs.boxes.back().title, "Default tekster");
     EXPECT_EQ(dialogs.boxes.back().buttons, Buttons::YesNo);
     EXPECT_EQ(dialogs.boxes.back().icon, Icon::Question);
@@ -122,23 +122,23 @@ TEST_F(CWWindow, TheDefaultTextsComeIntoTheFieldsAlone) {
 
 TEST_F(CWWindow, ANoKeepsTheFields) {
     Open();
-    frmCW->Text1[0].SetText("X");
+    frmCW->texts[0].SetText("X");
     dialogs.Expect("Er du sikker på at du vil ændre teksterne?", Answer::No);
-    Dispatch([] { frmCW->cmdReset.Press(); });
-    EXPECT_EQ(frmCW->Text1[0].Text(), "X");
+    Dispatch([] { frmCW->resetButton.Press(); });
+    EXPECT_EQ(frmCW->texts[0].Text(), "X");
 }
 
 TEST_F(CWWindow, OKTakesEverythingOverAndStoresItWithTheEquipment) {
     desk().rigs[0] = "";
     Open();
     desk().rigs[2] = "Homebrew";
-    frmCW->Text1[0].SetText("TEST #R");
-    frmCW->Text1[6].SetText("AGN?");
-    frmCW->txtWPM.SetText("26");
-    frmCW->txtTone.SetText("700");
-    frmCW->HScroll1.SetValue(8000);
-    frmCW->optRST[1].SetValue(true);
-    frmCW->optLobenr[1].SetValue(true);
+    frmCW->texts[0].SetText("TEST #R");
+    frmCW->texts[6].SetText("AGN?");
+    frmCW->speed.SetText("26");
+    frmCW->pitch.SetText("700");
+    frmCW->volume.SetValue(8000);
+    frmCW->reportOptions[1].SetValue(true);
+    frmCW->numberOptions[1].SetValue(true);
     settings.written.clear();
     PressOK();
     EXPECT_EQ(desk().cw.giCWWPM, 26);
@@ -166,8 +166,8 @@ TEST_F(CWWindow, OKTakesEverythingOverAndStoresItWithTheEquipment) {
 TEST_F(CWWindow, OKGivesTheLongFormsBack) {
     settings.texts.insert({{"CW/N", "--1"}, {"CW/T", "5nn"}});
     Open();
-    frmCW->optRST[0].SetValue(true);
-    frmCW->optLobenr[0].SetValue(true);
+    frmCW->reportOptions[0].SetValue(true);
+    frmCW->numberOptions[0].SetValue(true);
     PressOK();
     EXPECT_EQ(desk().cw.gsCWRSTFormat, "599");
     EXPECT_EQ(desk().cw.gsCWNummerFormat, "001");
@@ -175,9 +175,9 @@ TEST_F(CWWindow, OKGivesTheLongFormsBack) {
 
 TEST_F(CWWindow, CancelKeepsNothing) {
     Open();
-    frmCW->Text1[0].SetText("X");
-    frmCW->txtWPM.SetText("40");
-    frmCW->optRST[1].SetValue(true);
+    frmCW->texts[0].SetText("X");
+    frmCW->speed.SetText("40");
+    frmCW->reportOptions[1].SetValue(true);
     settings.written.clear();
     Dispatch([] { frmCW->UserDefaultKey(kEsc); });
     EXPECT_FALSE(frmCW.Loaded());
@@ -186,26 +186,26 @@ TEST_F(CWWindow, CancelKeepsNothing) {
     EXPECT_EQ(desk().cw.CWTekster[0], "CQ TEST DE #R #R TEST K");
     EXPECT_EQ(settings.written, Texts{});
     Open();
-    EXPECT_EQ(frmCW->Text1[0].Text(), "CQ TEST DE #R #R TEST K");
+    EXPECT_EQ(frmCW->texts[0].Text(), "CQ TEST DE #R #R TEST K");
 }
 
 TEST_F(CWWindow, EnterIsOK) {
     Open();
-    frmCW->Text1[0].SetText("X");
+    frmCW->texts[0].SetText("X");
     Dispatch([] { frmCW->UserDefaultKey(kEnter); });
     EXPECT_EQ(desk().cw.CWTekster[0], "X");
 }
 
 TEST_F(CWWindow, TheNumberInFrontOfATextCounts) {
     Open();
-    frmCW->txtWPM.SetText(" 25 wpm");
-    frmCW->txtTone.SetText("612.5");
+    frmCW->speed.SetText(" 25 wpm");
+    frmCW->pitch.SetText("612.5");
     PressOK();
     EXPECT_EQ(desk().cw.giCWWPM, 25);
     EXPECT_EQ(desk().cw.giCWTone, 612);
     // Not the same as the stored 612: all three are taken over again, to the even neighbour.
     Open();
-    frmCW->txtTone.SetText("613.5");
+    frmCW->pitch.SetText("613.5");
     PressOK();
     EXPECT_EQ(desk().cw.giCWTone, 614);
 }
@@ -215,17 +215,17 @@ TEST_F(CWWindow, NewSoundMakesNewPieces) {
     SendText("E");
     PlayOut();
     Open();
-    frmCW->txtWPM.SetText("40");
+    frmCW->speed.SetText("40");
     PressOK();
     EXPECT_EQ(CurrentPieces().Priklen, 1323);
     EXPECT_EQ(CurrentPieces().CWPrik.size(), 1324U);
     Open();
-    frmCW->txtTone.SetText("400");
+    frmCW->pitch.SetText("400");
     PressOK();
     // sin(2 pi 400 / 44100) is 0.05696.
     EXPECT_EQ(CurrentPieces().CWStreg[1], -570);
     Open();
-    frmCW->HScroll1.SetValue(1000);
+    frmCW->volume.SetValue(1000);
     PressOK();
     EXPECT_EQ(CurrentPieces().CWStreg[1], -57);
     EXPECT_TRUE(frmCWTX->Ready());
@@ -250,8 +250,8 @@ TEST_F(CWWindow, NewTextsLeaveTheBufferAlone) {
     sound.calls.clear();
     const FakeSound::Buffer* const buffer = sound.buffer;
     Open();
-    frmCW->Text1[1].SetText("QRZ?");
-    frmCW->optRST[1].SetValue(true);
+    frmCW->texts[1].SetText("QRZ?");
+    frmCW->reportOptions[1].SetValue(true);
     PressOK();
     EXPECT_EQ(sound.buffer, buffer);
     EXPECT_TRUE(Playing() || sound.calls.empty());
@@ -265,7 +265,7 @@ TEST_F(CWWindow, SpeedNoughtStopsAProgramThatHasSent) {
     PlayOut();
     settings.written.clear();
     Open();
-    frmCW->txtWPM.SetText("");
+    frmCW->speed.SetText("");
     PressOK();
     EXPECT_EQ(dialogs.failures, std::vector<int>{11});
     EXPECT_FALSE(ProgramRuns());
@@ -275,7 +275,7 @@ TEST_F(CWWindow, SpeedNoughtStopsAProgramThatHasSent) {
 
 TEST_F(CWWindow, SpeedNoughtIsStoredByAProgramThatHasNotSent) {
     Open();
-    frmCW->txtWPM.SetText("0");
+    frmCW->speed.SetText("0");
     PressOK();
     EXPECT_EQ(settings.texts["CW/WPM"], "0");
     dialogs.Expect("Lydkort findes ikke.");
@@ -285,7 +285,7 @@ TEST_F(CWWindow, SpeedNoughtIsStoredByAProgramThatHasNotSent) {
 
 TEST_F(CWWindow, ASpeedOrPitchBeyondSixteenBitsStopsTheProgram) {
     Open();
-    frmCW->txtTone.SetText("32768");
+    frmCW->pitch.SetText("32768");
     PressOK();
     EXPECT_EQ(dialogs.failures, std::vector<int>{6});
     EXPECT_FALSE(ProgramRuns());
@@ -297,15 +297,15 @@ TEST_F(CWWindow, ItsAccessKeysLeadToItsFields) {
         Dispatch([&] { frmCW->UserAccessKey(letter); });
         return frmCW->ActiveControl();
     };
-    EXPECT_EQ(after('8'), &frmCW->Text1[3]);
-    EXPECT_EQ(after('W'), &frmCW->txtWPM);
-    EXPECT_EQ(after('T'), &frmCW->txtTone);
-    EXPECT_EQ(after('C'), &frmCW->txtWPM);
-    EXPECT_EQ(after('R'), &frmCW->optRST[0]);
-    EXPECT_EQ(after('N'), &frmCW->optRST[1]);
-    EXPECT_TRUE(frmCW->optRST[1].Value());
-    EXPECT_EQ(after('-'), &frmCW->optLobenr[1]);
-    EXPECT_EQ(after('0'), &frmCW->optLobenr[0]);
+    EXPECT_EQ(after('8'), &frmCW->texts[3]);
+    EXPECT_EQ(after('W'), &frmCW->speed);
+    EXPECT_EQ(after('T'), &frmCW->pitch);
+    EXPECT_EQ(after('C'), &frmCW->speed);
+    EXPECT_EQ(after('R'), &frmCW->reportOptions[0]);
+    EXPECT_EQ(after('N'), &frmCW->reportOptions[1]);
+    EXPECT_TRUE(frmCW->reportOptions[1].Value());
+    EXPECT_EQ(after('-'), &frmCW->numberOptions[1]);
+    EXPECT_EQ(after('0'), &frmCW->numberOptions[0]);
 }
 
 }  // namespace

@@ -20,12 +20,12 @@ protected:
     }
     /// Types a contact in progress.
     void Fill(std::string_view call, std::string_view report, std::string_view number) {
-        Type(frmMain->Text1[1], call);
-        Type(frmMain->Text1[2], report);
-        Type(frmMain->Text1[3], number);
+        Type(frmMain->fields[kCallField], call);
+        Type(frmMain->fields[kReportSentField], report);
+        Type(frmMain->fields[kNumberSentField], number);
     }
     static void PressTX() {
-        Dispatch([] { frmCWTX->cmdTX.Press(); });
+        Dispatch([] { frmCWTX->sendButton.Press(); });
     }
 };
 
@@ -59,7 +59,7 @@ TEST_F(CWTexts, TheTextShownIsTheTextSent) {
     Fill("DL9XYZ", "599", "0012");
     SendText("de #r");
     EXPECT_EQ(desk().cw.gsCWRaa, "de #r");
-    EXPECT_EQ(frmCWTX->Text1.Text(), "DE OZ1AB/P ");
+    EXPECT_EQ(frmCWTX->text.Text(), "DE OZ1AB/P ");
     EXPECT_EQ(Place().gsCWTekst, "DE OZ1AB/P ");
 }
 
@@ -76,15 +76,15 @@ TEST_F(CWTexts, TheExtraSilenceOfTheSettingsIsSent) {
 
 TEST_F(CWTexts, AddressTheStationInTheFields) {
     StartWithLast(kFirstLine);
-    Type(frmMain->Text1[1], "DL9XYZ");
-    Type(frmMain->Text1[2], "569");
+    Type(frmMain->fields[kCallField], "DL9XYZ");
+    Type(frmMain->fields[kReportSentField], "569");
     SendText("#C #T");
     EXPECT_EQ(Place().gsCWTekst, "DL9XYZ 569 ");
 }
 
 TEST_F(CWTexts, TakeTheNumberOfTheField) {
     Start();
-    Type(frmMain->Text1[1], "DL9XYZ");
+    Type(frmMain->fields[kCallField], "DL9XYZ");
     SendText("#N");
     EXPECT_EQ(Place().gsCWTekst, "001 ");
     EXPECT_EQ(desk().cw.gsCWNummer, "0001");
@@ -98,9 +98,9 @@ TEST_F(CWTexts, WithNothingAtAllTheCodesAreEmpty) {
 
 TEST_F(CWTexts, WithNoLogTheLastStationIsAddressedAgain) {
     Start();
-    Type(frmMain->Text1[1], "DL9XYZ");
+    Type(frmMain->fields[kCallField], "DL9XYZ");
     SendText("#C");
-    Type(frmMain->Text1[1], "");
+    Type(frmMain->fields[kCallField], "");
     SendText("#C #C");
     EXPECT_EQ(Place().gsCWTekst, "DL9XYZ DL9XYZ ");
 }

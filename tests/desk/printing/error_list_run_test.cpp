@@ -79,14 +79,14 @@ TEST_F(ErrorListRun, LoadsTheCurrentLogAgainAndResetsTheEntry) {
     Log("10mCW", {Contact({.call = "VK2AA", .points = 6, .mult = "VK"})});
     Dispatch([] {
         IndlæsLogfil();
-        frmMain->Text1[1].SetText("DL9XX");
+        frmMain->fields[kCallField].SetText("DL9XX");
     });
     List();
     EXPECT_EQ(desk().log.glPoint, 3);
     EXPECT_EQ(desk().giMult, 1);
     EXPECT_EQ(desk().log.giQSOnr, 13);
-    EXPECT_EQ(frmMain->Text1[1].Text(), "");
-    EXPECT_EQ(frmMain->Text1[3].Text(), "0013");
+    EXPECT_EQ(frmMain->fields[kCallField].Text(), "");
+    EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0013");
     EXPECT_EQ(ShownCountry("VK2AA").text, "VK: Australia (OC), er nyt land.");
     EXPECT_TRUE(frmMain->Enabled());
     EXPECT_FALSE(frmMain->Hourglass());

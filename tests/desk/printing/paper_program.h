@@ -46,7 +46,7 @@ protected:
     static Lines Progress() {
         if (!frmInfo.Loaded()) return {};
         Lines shown{ToUtf8(frmInfo->Caption())};
-        for (const std::string& item : frmInfo->List1.Items()) shown.push_back(ToUtf8(item));
+        for (const std::string& item : frmInfo->steps.Items()) shown.push_back(ToUtf8(item));
         return shown;
     }
     bool IsFree(int number) {

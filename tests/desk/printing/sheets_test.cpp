@@ -100,7 +100,7 @@ TEST_F(LogSheetFiles, LeaveTheProgressWindowOpenWithWhatItLists) {
     Choose(frmMain->mnuEfter10mSSB);
     EXPECT_THAT(Progress(), ElementsAre("Dan log", "10m CW", "10m SSB"));
     EXPECT_TRUE(frmInfo->Visible());
-    Dispatch([] { frmInfo->cmdLuk.Press(); });
+    Dispatch([] { frmInfo->closeButton.Press(); });
     EXPECT_FALSE(frmInfo.Loaded());
 }
 

@@ -21,9 +21,9 @@ protected:
 
 TEST_F(StationWindow, KeepsThePlaceOfEveryStation) {
     VisEDRstns(true);
-    EXPECT_EQ(frmEDR->List1.Items(), (Texts{"________", "OZ7XY ", "________"}));
+    EXPECT_EQ(frmEDR->stations.Items(), (Texts{"________", "OZ7XY ", "________"}));
     VisEDRstns(false);
-    EXPECT_EQ(frmEDR->List1.Items(), (Texts{"OZ1ABC", "________", "OZ9ABC"}));
+    EXPECT_EQ(frmEDR->stations.Items(), (Texts{"OZ1ABC", "________", "OZ9ABC"}));
 }
 
 TEST_F(StationWindow, SaysWhichStationsItShows) {
@@ -32,15 +32,15 @@ TEST_F(StationWindow, SaysWhichStationsItShows) {
     VisEDRstns(false);
     EXPECT_EQ(ToUtf8(frmEDR->Caption()), "Ikke kørte EDR stationer");
     EXPECT_FALSE(frmEDR->Modal());
-    EXPECT_EQ(frmEDR->List1.ColumnCount(), 4);
+    EXPECT_EQ(frmEDR->stations.ColumnCount(), 4);
 }
 
 TEST_F(StationWindow, KeepsItsContentsWhenAMarkIsTakenAway) {
     VisEDRstns(false);
     Mark("OZ7XY", MarkAction::Unmark);
-    EXPECT_EQ(frmEDR->List1.Items(), (Texts{"OZ1ABC", "________", "OZ9ABC"}));
+    EXPECT_EQ(frmEDR->stations.Items(), (Texts{"OZ1ABC", "________", "OZ9ABC"}));
     VisEDRstns(false);
-    EXPECT_EQ(frmEDR->List1.Items(), (Texts{"OZ1ABC", "OZ7XY ", "OZ9ABC"}));
+    EXPECT_EQ(frmEDR->stations.Items(), (Texts{"OZ1ABC", "OZ7XY ", "OZ9ABC"}));
 }
 
 TEST_F(StationWindow, GrowsToASmallestSizeAndNoFurther) {
@@ -61,7 +61,7 @@ TEST_F(StationWindow, GrowsToASmallestSizeAndNoFurther) {
 TEST_F(StationWindow, LeavesItsStoredPlaceAloneWhileMinimised) {
     VisEDRstns(true);
     frmEDR->UserPlaced(100, 200, 7000, 8000);
-    frmEDR->cmdLuk.Press();
+    frmEDR->closeButton.Press();
     EXPECT_FALSE(frmEDR.Loaded());
     EXPECT_EQ(settings.texts["SETTINGS/EDRLEFT"], "100");
     EXPECT_EQ(settings.texts["SETTINGS/EDRHEIGHT"], "8000");

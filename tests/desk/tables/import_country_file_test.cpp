@@ -149,9 +149,9 @@ TEST_F(ImportingCountries, AFileThatCannotBeReadFails) {
 TEST_F(ImportingCountries, TheBarPassesEveryRowOfEveryStep) {
     files.files["DATA\\CTY.DAT"] = {kHeader, "    QQ,QR,QS;"};
     std::vector<std::string> seen;
-    frmCtyDat->ProgressBar1.mirror = [&](Aspect, int) {
-        const ProgressBar& bar = frmCtyDat->ProgressBar1;
-        seen.push_back(std::string(frmCtyDat->sbStatusBar.Panel(1)).substr(0, 9) + " " + std::to_string(bar.Value()) + "/" +
+    frmCtyDat->progress.mirror = [&](Aspect, int) {
+        const ProgressBar& bar = frmCtyDat->progress;
+        seen.push_back(std::string(frmCtyDat->statusBar.Panel(1)).substr(0, 9) + " " + std::to_string(bar.Value()) + "/" +
                        std::to_string(bar.Max()));
     };
     ImporterCty();
@@ -167,8 +167,8 @@ TEST_F(ImportingCountries, TheBarPassesEveryRowOfALongTableToo) {
     constexpr int kRows = 350;
     files.files["DATA\\CTY.DAT"] = Entry(kRows);
     std::vector<int> seen;
-    frmCtyDat->ProgressBar1.mirror = [&](Aspect, int) {
-        if (frmCtyDat->sbStatusBar.Panel(1).starts_with("Sorterer")) seen.push_back(frmCtyDat->ProgressBar1.Value());
+    frmCtyDat->progress.mirror = [&](Aspect, int) {
+        if (frmCtyDat->statusBar.Panel(1).starts_with("Sorterer")) seen.push_back(frmCtyDat->progress.Value());
     };
     ImporterCty();
     std::vector<int> every(kRows + 1);
@@ -181,9 +181,9 @@ TEST_F(ImportingCountries, TheFormShowsADayBeforeAllTimeAndTicksByTheMinute) {
     clock.now.second = 20;
     frmCtyDat.Load();
     EXPECT_EQ(frmCtyDat->Caption(), "Importerer cty.dat");
-    EXPECT_EQ(frmCtyDat->sbStatusBar.Panels(), (std::vector<std::string>{"", "30.12.1899", ""}));
-    EXPECT_TRUE(frmCtyDat->Timer1.Running());
-    EXPECT_EQ(frmCtyDat->Timer1.Interval(), 60000) << "the first tick, at once, takes a minute for the next";
+    EXPECT_EQ(frmCtyDat->statusBar.Panels(), (std::vector<std::string>{"", "30.12.1899", ""}));
+    EXPECT_TRUE(frmCtyDat->minuteTimer.Running());
+    EXPECT_EQ(frmCtyDat->minuteTimer.Interval(), 60000) << "the first tick, at once, takes a minute for the next";
     frmCtyDat.Unload();
 }
 
