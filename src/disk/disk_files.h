@@ -28,6 +28,7 @@ using PathMap = std::function<std::filesystem::path(std::string_view)>;
 
 inline constexpr char kNativeSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
 
+/// The numbered files 1 and 2 on the disk. Failures are those of Files; see there for the numbers.
 class DiskFiles : public Files {
 public:
     /// Without `currentDirectory`, the current directory of the process is reported.

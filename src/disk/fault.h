@@ -17,6 +17,7 @@
 
 namespace vatro {
 
+/// Passes everything on to other files, except for the steps that are told to fail.
 class FaultyFiles : public Files {
 public:
     enum class Step { Open, Write, Close, Delete, Rename, Copy };

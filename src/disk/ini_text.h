@@ -18,6 +18,7 @@
 
 namespace vatro {
 
+/// The parsed text of a settings file. Changing a value changes only its line.
 class IniText {
 public:
     IniText() = default;

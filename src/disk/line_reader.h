@@ -12,6 +12,7 @@
 
 namespace vatro {
 
+/// Reads with a buffer of its own. Fails with the RunTimeError of the file.
 class LineReader {
 public:
     /// Starts reading another file, which must stay open while it is read.

@@ -13,8 +13,10 @@
 
 namespace vatro {
 
+/// The state of typing in front of a message box. Times are passed in, so that tests need not wait.
 class BoxKeys {
 public:
+    /// What becomes of a key.
     enum class Verdict {
         /// The key goes to the box.
         Take,

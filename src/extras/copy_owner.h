@@ -12,6 +12,7 @@
 
 namespace vatro {
 
+/// The owner of a copy.
 struct CopyOwner {
     /// Nothing if no log in the directory shares a contact with the copy.
     std::optional<std::filesystem::path> log;

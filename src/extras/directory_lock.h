@@ -19,10 +19,13 @@
 
 namespace vatro {
 
+/// The lock on one directory at a time. While it is held by pulse, a thread writes the pulse file.
 class DirectoryLock {
 public:
     enum class Result {
+        /// The directory is now held by this object.
         Won,
+        /// Another copy holds the directory.
         Taken,
         /// The directory was not released, but its holder has not been heard of for 60 seconds.
         Silent,
@@ -30,6 +33,7 @@ public:
         Unavailable,
     };
 
+    /// The kind of lock and the intervals; tests replace them.
     struct Options {
         std::function<LockResult(LockFile&, const std::filesystem::path&)> lock = [](LockFile& file, const std::filesystem::path& path) {
             return file.Acquire(path);
@@ -47,6 +51,7 @@ public:
 
     /// Acquires the directory, even from a silent holder if `evenIfSilent` is true. First releases any directory that is held.
     Result Acquire(const std::filesystem::path& directory, bool evenIfSilent = false);
+    /// Releases the directory, if one is held. Does not remove a pulse file that another copy has taken over.
     void Release() noexcept;
     /// Whether another copy has taken over the directory while this one was silent, for example while the machine slept.
     bool Lost() const { return lost_; }

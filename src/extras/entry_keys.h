@@ -12,6 +12,7 @@
 
 namespace vatro {
 
+/// Remembers when the last contact was logged.
 class EntryKeys {
 public:
     /// For this long after a contact was logged, an Enter with an empty call counts as part of the Enter that logged it.

@@ -12,6 +12,7 @@
 
 namespace vatro {
 
+/// Remembers the last release.
 class HeldKeys {
 public:
     /// Keys are identified by their keyboard scan code; times are those reported with the key events.

@@ -26,8 +26,10 @@ namespace vatro {
 
 class History {
 public:
+    /// How long a version is kept. ToMerge is kept like Always; in addition, recovery proposes to merge it into the log.
     enum class Keep { ByAge, Always, ToMerge };
 
+    /// One earlier version of a file.
     struct Version {
         std::filesystem::path path;
         int number = 0;
@@ -54,12 +56,14 @@ public:
 
     /// All versions of a file, newest first. `name` is the name of the file, such as "FD80mSSB.txt".
     std::vector<Version> Versions(std::string_view name) const;
+    /// The newest version, or nothing if there is none.
     std::optional<Version> Newest(std::string_view name) const;
 
     /// Removes those versions of a file that are kept by age and are too old. A failure is not reported.
     void Prune(std::string_view name) const;
 
 private:
+    /// How a file becomes a version.
     enum class Way { LinkOrCopy, Copy, Move };
 
     Version Take(const std::filesystem::path& file, Keep keep, Way way);

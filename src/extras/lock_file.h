@@ -9,6 +9,7 @@
 
 namespace vatro {
 
+/// The result of trying to get the lock.
 enum class LockResult {
     Won,
     /// Another process holds the lock; it may belong to another user or run on another machine.
@@ -19,6 +20,7 @@ enum class LockResult {
     Unavailable,
 };
 
+/// Holds at most one lock; the destructor releases it.
 class LockFile {
 public:
     LockFile() = default;

@@ -13,6 +13,7 @@
 
 namespace vatro {
 
+/// Remembers when the last text ended.
 class MorseKeys {
 public:
     /// For this long after the end of a text, Esc and Enter are still taken as meant for it.

@@ -10,6 +10,7 @@ namespace vatro {
 /// A time on a monotonic clock with an arbitrary origin.
 using Moment = std::chrono::milliseconds;
 
+/// The kinds of key that the guards tell apart.
 enum class KeyKind {
     /// Enter, including the one on the keypad.
     Enter,
@@ -23,6 +24,7 @@ enum class KeyKind {
     Other
 };
 
+/// One key press.
 struct PressedKey {
     KeyKind kind = KeyKind::Other;
     /// The letter of an access key, in upper case; 0 for other keys.

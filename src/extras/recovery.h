@@ -28,7 +28,9 @@ struct RecoveryPlaces {
     DateTime now;
 };
 
+/// One thing that is wrong in a directory, and what to do about it.
 struct Finding {
+    /// The proposed repair.
     enum class Action {
         /// Only informs the operator; there is nothing to repair.
         None,

@@ -34,9 +34,12 @@
 
 namespace vatro {
 
+/// Wraps the files of the disk. Used on the program's thread only.
 class SafeFiles : public Files {
 public:
+    /// What the files need from the rest of the desktop program; tests replace it.
     struct Surroundings {
+        /// Converts a path of the program to one of the file system.
         std::function<std::filesystem::path(std::string_view)> toPath = NativePath;
         /// The user's directory for program data.
         std::filesystem::path state = StateDirectory();
@@ -100,6 +103,7 @@ private:
         std::size_t sizeBefore = 0;
         std::string appended;
     };
+    /// The log directory, and the identity it had when it was locked.
     struct Place {
         std::filesystem::path directory;
         /// Nothing if the directory was missing.

@@ -19,6 +19,7 @@ class Toolbar : public Control {
 public:
     ControlKind Kind() override { return this; }
     ConstControlKind Kind() const override { return this; }
+    /// A button of the bar, or a separator.
     struct ToolButton {
         int index = 0;
         std::string caption;
@@ -53,6 +54,7 @@ public:
     const std::vector<std::string>& Panels() const { return panels_; }
     /// The panel must exist, here and in SetPanel.
     const std::string& Panel(std::size_t number) const { return panels_.at(number - 1); }
+    /// Shows a text in a panel.
     void SetPanel(std::size_t number, std::string_view text);
 
 private:
@@ -72,6 +74,7 @@ class MenuItem : public Control {
 public:
     ControlKind Kind() override { return this; }
     ConstControlKind Kind() const override { return this; }
+    /// `menu` is the entry whose menu contains this one, or null for an entry of the menu bar.
     MenuItem(Form& form, MenuItem* menu, std::string_view name, std::string_view caption, int index = -1, MenuLook look = {});
 
     const std::string& Caption() const { return caption_; }
@@ -82,6 +85,7 @@ public:
     void SetTicked(bool ticked);
     /// The menu that contains this entry, or null for an entry of the menu bar.
     MenuItem* Menu() const { return menu_; }
+    /// The entries of its menu, in order; empty if it has no menu.
     const std::vector<MenuItem*>& Entries() const { return entries_; }
     /// Whether the entry can be chosen: it and all menus above it are enabled and visible.
     bool Choosable() const;

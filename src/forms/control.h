@@ -95,6 +95,7 @@ public:
     void SetFocus();
     bool HasFocus() const;
 
+    /// Event handlers of the form; an empty one is skipped. KeyPress may replace the key, or cancel it by setting kNoKey.
     std::function<void()> GotFocus;
     std::function<void()> LostFocus;
     std::function<void(KeyCode& KeyAscii)> KeyPress;

@@ -24,6 +24,7 @@ class Label : public Control {
 public:
     ControlKind Kind() override { return this; }
     ConstControlKind Kind() const override { return this; }
+    /// A label that names no field.
     explicit Label(Form& form, std::string_view name, std::string_view caption = {}, Font font = {});
     /// A label may name a field; the access key in its caption then moves the focus to that field.
     Label(Form& form, std::string_view name, int index, std::string_view caption, Control* accessTarget = nullptr);
@@ -99,6 +100,7 @@ public:
     void UserScrolled(int value);
     /// How a key moves the slider: by a small or large step, or to either end.
     enum class Move { StepBack, StepOn, PageBack, PageOn, ToStart, ToEnd };
+    /// Moves the slider by a key, within the range.
     void UserMoved(Move move);
 
 private:
@@ -116,6 +118,7 @@ public:
         int max = 0;
         int step = 1;
     };
+    /// `buddy` is the text field with the number; it must be declared before the arrows.
     UpDown(Form& form, std::string_view name, TextBox& buddy, Range range) : Control(form, name), buddy_(buddy), range_(range) {
         buddy.counted_ = true;
     }
@@ -125,7 +128,7 @@ public:
 
     // Called by the front.
 
-    /// Steps the number in the field by one, within the range.
+    /// Steps the number in the field up or down by the step of the range, within its limits. Does nothing if disabled.
     void Spin(bool up);
 
 private:
@@ -144,8 +147,10 @@ public:
     /// The next tick is due one interval from now.
     void SetInterval(int milliseconds);
     bool Running() const override { return running_ && interval_ > 0; }
+    /// Switches the timer on or off. Its next tick is due one interval from now.
     void SetRunning(bool running);
 
+    /// Runs at each tick.
     std::function<void()> OnTimer;
 
     // Called by the clock.

@@ -105,6 +105,7 @@ public:
     void SetDesignSize(int width, int height);
     /// The user has moved or resized the window.
     void UserPlaced(int left, int top, int width, int height);
+    /// The user has minimised, maximised or restored the window.
     void UserState(WindowState state);
     /// The user has brought the window to the front.
     void UserActivated();
@@ -113,6 +114,7 @@ public:
     /// Whether the form receives user events: it is shown and enabled, and no other modal form is in front.
     bool Reachable() const;
 
+    /// Runs when the form is loaded, before it is shown.
     virtual void Form_Load() {}
     /// Setting `Cancel` to true keeps the form loaded.
     virtual void Form_QueryUnload(bool& Cancel) { static_cast<void>(Cancel); }
@@ -120,6 +122,7 @@ public:
     /// Stores what outlives the form, such as its place and its choices. Part of Form_Unload; also run on its own when the
     /// program is about to end without running its handlers. Must not call the front.
     virtual void StoreState() {}
+    /// Runs after the size has changed, by the program or by the user.
     virtual void Form_Resize() {}
     virtual void Form_Click() {}
     /// Sees each key before the control that has the focus; setting the key to kNoKey stops it here.
@@ -187,6 +190,7 @@ private:
 template <class F>
 class FormSlot : public FormSlotBase {
 public:
+    /// For a form of class F, created with its default constructor.
     explicit FormSlot(std::string_view name) : FormSlotBase(name, [] { return std::make_unique<F>(); }) {}
     /// For a form of a class derived from F, created by `make`.
     FormSlot(std::string_view name, std::function<std::unique_ptr<Form>()> make) : FormSlotBase(name, std::move(make)) {}

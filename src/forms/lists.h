@@ -28,6 +28,7 @@ public:
     ControlKind Kind() override { return this; }
     ConstControlKind Kind() const override { return this; }
     explicit ListBox(Form& form, std::string_view name, Font font = {}, int columns = 0);
+    /// A list box of one column whose new rows are inserted in this order.
     ListBox(Form& form, std::string_view name, Font font, ListOrder order);
     bool TakesFocus() const override { return true; }
     const Font& ListFont() const { return font_; }
@@ -65,6 +66,7 @@ public:
     /// there is no such row.
     void SetListIndex(int row);
 
+    /// Runs when the user double-clicks a row.
     std::function<void()> DblClick;
 
     // Called by the front.
@@ -94,6 +96,7 @@ public:
     explicit ComboBox(Form& form, std::string_view name, ComboStyle style = ComboStyle::DropDown) : TextControl(form, name), style_(style) {
         SetLocked(style == ComboStyle::DropDownList);
     }
+    /// Whether the text can be edited.
     ComboStyle Style() const { return style_; }
 
     const std::vector<std::string>& Items() const { return items_; }

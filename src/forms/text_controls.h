@@ -35,6 +35,7 @@ public:
     void Select(int start, int length);
     void SelectAll() { Select(0, static_cast<int>(text_.size())); }
 
+    /// Runs when the text changes, by key, by paste or by the program.
     std::function<void()> Change;
     /// Decides about every key that KeyPress lets through: accepts it, replaces it, or cancels it. Must have no side effects,
     /// because it is also asked about characters that nobody has typed.

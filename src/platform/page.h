@@ -17,6 +17,7 @@ public:
     /// Size of the printable area of a page.
     virtual double Width() const = 0;
     virtual double Height() const = 0;
+    /// Width of a text.
     virtual double TextWidth(std::string_view text, const Font& font) const = 0;
     /// Height of one line.
     virtual double TextHeight(const Font& font) const = 0;
@@ -24,6 +25,7 @@ public:
     virtual void BeginJob() = 0;
     /// Draws the text with its upper left corner at (x, y).
     virtual void Place(double x, double y, const Font& font, std::string_view text) = 0;
+    /// Starts the next page of the job.
     virtual void NextPage() = 0;
     /// Hands the job over to the printer. A job to which nothing was printed has no pages.
     virtual void EndJob() = 0;
@@ -40,8 +42,10 @@ public:
     double currentX = 0;
     double currentY = 0;
 
+    /// Size of the printable area of a page.
     double ScaleWidth() const { return device_.Width(); }
     double ScaleHeight() const { return device_.Height(); }
+    /// Width of a text, and height of a line, in the current font.
     double TextWidth(std::string_view text) const { return device_.TextWidth(text, font); }
     double TextHeight() const { return device_.TextHeight(font); }
     /// Number of the current page in the current job, from 1.

@@ -89,6 +89,7 @@ private:
     Settings& settings_;
 };
 
+/// How a file is opened: to read it, to replace it, or to append to it.
 enum class FileMode { Input, Output, Append };
 
 /// Sequential text files, addressed by number (1 or 2). File names are matched without regard to case. Every failure is a
@@ -131,6 +132,7 @@ public:
 class Clock {
 public:
     virtual ~Clock() = default;
+    /// Local date and time.
     virtual DateTime Now() = 0;
     /// Seconds since local midnight, including fractions.
     virtual double SecondsSinceMidnight() = 0;

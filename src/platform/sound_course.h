@@ -21,12 +21,14 @@ public:
     /// For a buffer of `samples` samples, at least 1.
     explicit SoundCourse(long long samples) : size_(samples) {}
 
+    /// Replaces the notifications set before. Of several at the same sample, only the first is reported.
     void SetPositions(std::span<const PositionNotification> positions) { positions_.assign(positions.begin(), positions.end()); }
     /// Starts a playback at this sample of the buffer; nothing has been played yet.
     void Begin(long long sample);
     /// The buffer position reached after `played` samples.
     std::size_t At(long long played) const { return static_cast<std::size_t>((start_ + played) % size_); }
 
+    /// A notification position that is passed during playback.
     struct Passing {
         /// Number of samples played when the position is passed.
         long long played = 0;

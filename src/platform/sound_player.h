@@ -45,6 +45,8 @@ public:
     virtual void TellGone() = 0;
 };
 
+/// Plays one buffer. Lives on the sound thread and is only called there. A run is the time between two calls of MoveTo or Stop;
+/// the program numbers the runs, to recognise notifications that are out of date.
 class SoundPlayer {
 public:
     using Clock = std::chrono::steady_clock;
@@ -56,11 +58,13 @@ public:
     SoundPlayer(const SoundPlayer&) = delete;
     SoundPlayer& operator=(const SoundPlayer&) = delete;
 
+    /// Replaces the notifications set before.
     void SetPositions(std::span<const PositionNotification> positions) { course_.SetPositions(positions); }
     /// Continues at this sample and drops samples that were handed over but not heard yet. Starts the run with this number.
     void MoveTo(long long sample, unsigned run);
     /// `asked` is when the program requested playback.
     void Play(Clock::time_point asked);
+    /// Stops at once; the position is kept. Starts the run with this number.
     void Stop(unsigned run);
 
 private:

@@ -45,6 +45,7 @@ public:
     /// Runs the task with this player on the sound thread, in the order of the calls. Does nothing if the player no longer
     /// exists.
     void Ask(int player, std::function<void(SoundPlayer&)> task);
+    /// Destroys the player on the sound thread, after the tasks posted before.
     void RemovePlayer(int player);
     /// Destroys all players; later tasks are ignored. Returns false if the thread hangs in the sound system and had to be
     /// abandoned.

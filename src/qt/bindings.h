@@ -42,11 +42,13 @@ public:
 
     /// Owner of the connections and models of the controls; destroyed before the form.
     QObject& Scope() const { return *scope_; }
+    /// Records which widget shows the control.
     void Enter(const Control& control, QWidget& widget) { widgets_[&control] = &widget; }
     /// Passes keys, paste and focus of the widget to the control. `editor` is the widget's line editor, or null.
     void AddInput(Control& control, QWidget& widget, QLineEdit* editor);
     /// The widget takes its accessible name from the form's caption.
     void NameByCaption(QWidget& widget) { namedByCaption_.emplace_back(&widget); }
+    /// Records a message for Problems().
     void AddProblem(const QString& problem) { problems_.append(problem); }
     /// Returns the focus to the form's active control once Qt's current event is over.
     void FollowFocusSoon() const { surroundings_.followFocusSoon(); }

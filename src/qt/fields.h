@@ -31,7 +31,9 @@ class FittedText : public QLabel {
 
 public:
     explicit FittedText(QWidget* parent = nullptr);
+    /// `points` is the largest size at which the text is drawn.
     void SetTextFont(const QString& family, double points, bool bold);
+    /// An invalid colour means that of the palette; with an invalid `ground` no background is drawn.
     void SetColours(const QColor& text, const QColor& ground);
     QSize sizeHint() const override { return {1, 1}; }
     QSize minimumSizeHint() const override { return {1, 1}; }
@@ -52,6 +54,7 @@ class StatusPanel : public QLabel {
 
 public:
     explicit StatusPanel(QWidget* parent = nullptr);
+    /// Shows the text, or the beginning of it if there is no room.
     void SetPanelText(const QString& text, const QString& toolTip);
     /// The whole text, even if it is shown shortened.
     const QString& PanelText() const { return whole_; }
@@ -77,6 +80,7 @@ public:
     QToolButton& Arrow(bool up) const { return up ? *up_ : *down_; }
 
 Q_SIGNALS:
+    /// Emitted when the user presses one of the arrows.
     void Stepped(bool up);
 
 private:
@@ -106,6 +110,7 @@ private:
 
 /// Pixel size at which all texts are measured, so that widths scale exactly with the font size.
 inline constexpr int kMeasurePixels = 200;
+/// The font in the size kMeasurePixels, without hinting.
 QFont MeasureFont(const QString& family, bool bold);
 
 }  // namespace vatro

@@ -17,6 +17,7 @@ struct HandbookEntry {
     /// The link to the page, such as "fdmanager.html#backup"; empty for a heading.
     QString link;
 };
+/// The table of contents, in order.
 QList<HandbookEntry> HandbookContents();
 
 /// The files of all pages, each once, in the order of the table of contents. The table of contents itself comes first.

@@ -22,6 +22,7 @@ public:
     void ShowPage(const QString& link);
     /// The file name of the current page.
     QString Page() const;
+    /// The text selected on the page, such as the last match.
     QString SelectedText() const;
     /// Searches for a text, ignoring case, from the last match on through the following pages, and wraps around at the end. Selects the
     /// match. If no page contains the text, returns false and shows a message in the window.

@@ -25,6 +25,7 @@ public:
     void Added(int row);
     /// The control has lost this row.
     void Removed(int row);
+    /// The text of this row has changed.
     void RowChanged(int row);
     /// To be called before the control is destroyed; shows an empty list from then on.
     void Release();

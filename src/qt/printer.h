@@ -41,6 +41,7 @@ public:
     void EndJob() override;
 
 private:
+    /// Where the current job goes. FileForWantOfAnAnswer: to a PDF file, because the print server does not answer.
     enum class Target { Unknown, Printer, File, FileForWantOfAnAnswer };
 
     Target FindTarget() const;

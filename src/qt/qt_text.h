@@ -9,6 +9,7 @@
 
 namespace vatro {
 
+/// Converts text of the code page.
 QString ToQt(std::string_view text);
 /// A character outside the code page becomes "?".
 std::string FromQt(const QString& text);

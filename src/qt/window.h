@@ -42,6 +42,7 @@ public:
     /// Deletes the window as soon as Qt permits; nothing from it reaches the form any more.
     ~FormWindow() override;
 
+    /// The top-level widget; null once Qt has deleted it.
     QWidget* Top() const { return top_; }
     QWidget* WidgetOf(const Control& control) const { return bindings_.WidgetOf(control); }
     /// Messages about controls without exactly one widget, and about widgets without a control.

@@ -10,6 +10,7 @@
 
 namespace vatro {
 
+/// Collects the lines of both texts in order.
 class UnifiedDiff {
 public:
     UnifiedDiff(std::string from, std::string to) : from_(std::move(from)), to_(std::move(to)) {}

@@ -40,21 +40,28 @@ public:
     /// The front to install for the program.
     virtual Front& ProgramFront() = 0;
 
+    /// Presses and releases a key on the active form.
     virtual void Press(const KeyStroke& key) = 0;
+    /// Pastes a text, in the code page, into the text field that has the focus.
     virtual void Paste(std::string_view text) = 0;
     /// Clicks into the control without choosing anything in it. In a text field, the caret goes to the end and nothing is selected.
     virtual void Focus(Control& control) = 0;
+    /// Clicks the control, or the surface of the form.
     virtual void Click(Control& control) = 0;
     virtual void ClickForm(Form& form) = 0;
     /// Chooses a row of a list or combo box with the mouse.
     virtual void Pick(Control& control, int row) = 0;
+    /// Double-clicks a row.
     virtual void DoubleClick(ListBox& list, int row) = 0;
     /// Presses the upper or lower arrow once. A front without arrows fails.
     virtual void Spin(UpDown& /*arrows*/, bool /*up*/) { throw CannotDeliver("the front has no arrows"); }
     /// Moves the slider to this value with the mouse. A front without scroll bars fails.
     virtual void Scroll(ScrollBar& /*bar*/, int /*value*/) { throw CannotDeliver("the front has no scroll bars"); }
+    /// Chooses a menu entry through its menus.
     virtual void Choose(MenuItem& item) = 0;
+    /// Presses a toolbar button, given its index.
     virtual void PressTool(Toolbar& toolbar, int index) = 0;
+    /// Uses the window's frame: closes, minimises, restores or moves it. Measures are in twips.
     virtual void Close(Form& form) = 0;
     virtual void Minimise(Form& form) = 0;
     virtual void Restore(Form& form) = 0;
@@ -62,6 +69,7 @@ public:
 
     /// Shows a message box, which stays open until Answer while the player waits.
     virtual void OpenBox(const MessageBox& box) = 0;
+    /// Presses a button of the message box in front.
     virtual void AnswerBox(Answer answer) = 0;
     /// Closes the box because the program ends at once, whatever is open.
     virtual void DropBox() = 0;

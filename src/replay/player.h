@@ -44,7 +44,7 @@ public:
     const std::vector<Output>& Outputs() const { return outputs_; }
 
 private:
-    /// An open box, form or dialogue that the scenario has to close.
+    /// An open box or file dialogue that the scenario has to close.
     struct Open {
         enum class Kind { Box, FileDialog };
         Kind kind;

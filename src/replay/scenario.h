@@ -26,6 +26,7 @@ private:
     std::size_t line_;
 };
 
+/// One command of a scenario.
 struct Command {
     /// Line number, counted from 1.
     std::size_t line = 0;
@@ -47,6 +48,7 @@ struct Command {
 
 using Output = std::vector<std::string>;
 
+/// A parsed scenario file.
 class Scenario {
 public:
     /// `text` is the content of the file. Fails with ScenarioError.

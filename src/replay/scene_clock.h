@@ -23,6 +23,7 @@ public:
     virtual void DeliverNext() = 0;
 };
 
+/// The clock service of a scenario, which also delivers the ticks of timers.
 class SceneClock : public Clock, public DueEvents {
 public:
     DateTime Now() override;
@@ -31,6 +32,7 @@ public:
 
     /// Sets the local time.
     void Set(const DateTime& now);
+    /// Milliseconds since the start of the scenario.
     Moment Passed() const { return passed_; }
     /// Advances the clock; time never goes back.
     void MoveTo(Moment moment);

@@ -18,6 +18,7 @@ KeyStroke KeyOf(char character);
 /// The key in the form used for menu shortcuts, such as "Shift+F5"; letters are in upper case.
 std::string ShortcutOf(const KeyStroke& key);
 
+/// Parses a whole number.
 int ReadInteger(std::string_view text);
 /// Parses a non-negative number of seconds and returns milliseconds.
 long long ReadSeconds(std::string_view text);

@@ -15,6 +15,7 @@
 
 namespace vatro {
 
+/// The directories on the real disk. Paths passed in are text of the code page.
 class World {
 public:
     /// A new temporary directory, removed at the end.

@@ -24,6 +24,7 @@ Failure FailureOf(int error);
 /// Whether the error means that no file has this name, or that the name is not allowed. The file may exist under another spelling.
 bool IsMissing(int error);
 
+/// One open file, closed by its destructor. Reading, writing and syncing fail with a RunTimeError that FailureOf chooses.
 class SystemFile {
 public:
     enum class Access {
@@ -44,6 +45,7 @@ public:
     /// Opens the file. If it is missing, creates it if `create` is true. Returns 0 or the error number.
     int Open(const std::filesystem::path& path, Access access, bool create);
     bool IsOpen() const { return handle_ != kNone; }
+    /// Whether a directory has been opened, which only some systems allow.
     bool IsDirectory() const;
     /// Whether both are the same file on the disk.
     bool IsSameFile(const SystemFile& other) const;
@@ -52,9 +54,11 @@ public:
     std::size_t Read(std::span<char> buffer);
     /// Writes all bytes, or fails.
     void Write(std::string_view bytes);
+    /// Length in bytes; 0 for a pipe, a terminal or a device. May move the position.
     std::int64_t Length();
     /// The last byte of the file, which must not be empty.
     char LastByte();
+    /// Cuts the file to `length` bytes. Does nothing on devices and file systems that cannot do this.
     void Truncate(std::int64_t length);
     /// Flushes everything written to the disk.
     void Sync();

@@ -7,6 +7,7 @@
 
 namespace vatro {
 
+/// A font as the program asks for it. The front or the printer chooses the nearest one that it has.
 struct Font {
     /// Empty for the default font of the front or the printer.
     std::string name;
