@@ -67,7 +67,7 @@ public:
     virtual void Restore(Form& form) = 0;
     virtual void Place(Form& form, int left, int top, int width, int height) = 0;
 
-    /// Shows a message box, which stays open until Answer while the player waits.
+    /// Shows a message box, which stays open until AnswerBox while the player waits.
     virtual void OpenBox(const MessageBox& box) = 0;
     /// Presses a button of the message box in front.
     virtual void AnswerBox(Answer answer) = 0;
