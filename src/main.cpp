@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The program: the logic on Qt.
+// The main program: runs the logic with the Qt front.
 #include <QApplication>
 #include <QMessageBox>
 #include <QTimer>
@@ -52,14 +52,14 @@ int main(int argc, char** argv) {
     const vatro::Desktop desktop(front);
     const vatro::Ends ends(settings);
     front.ended = [] { QCoreApplication::quit(); };
-    // The start procedure may open boxes, so it runs inside the event loop like every other event.
+    // The start procedure may open boxes, so it runs inside the event loop, like every other event.
     QTimer::singleShot(0, &front, [&front] {
         vatro::BeginProgram();
         vatro::Deliver([] { vatro::StartProgram(); });
         if (vatro::ProgramRuns() && !vatro::FrmMain::HasPlace()) vatro::SpreadWindows(front);
     });
     const int result = QApplication::exec();
-    // Nobody is at the screen to read anything if the end has come from outside.
+    // If the end was requested from outside, nobody is at the screen to read a message.
     if (ends.Asked()) return result;
     safety.TellRest();
     if (const auto loss = settings.Loss()) std::unique_ptr<QMessageBox>(vatro::MakeBox(*loss, nullptr))->exec();

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-//   vatro-cty CTY.DAT            checks a country file against the rules of the import
-//   vatro-cty CTY.DAT NY.DAT    writes one that the import takes, and tells what it has left out
+//   vatro-cty CTY.DAT            checks whether a country file can be imported
+//   vatro-cty CTY.DAT NY.DAT     writes a version that can be imported, and reports what was left out
 //
-// Exit 1 if the file cannot be taken, or not be made to fit; nothing is written then. Exit 2 for another number of arguments.
+// Exits with 1 if the file cannot be imported, or cannot be made to fit; nothing is written then. Exits with 2 for a wrong number of
+// arguments.
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -26,12 +27,12 @@ std::string ReadWhole(const std::string& path) {
     try {
         if (file) return {std::istreambuf_iterator<char>(file), {}};
     } catch (const std::ios_base::failure&) {
-        // As a directory does.
+        // For example, if the path is a directory.
     }
     throw CtyError{path + " kan ikke læses"};
 }
 
-/// Writes the file whole or not at all.
+/// Writes the file completely or not at all.
 void WriteWhole(const std::string& path, const std::vector<std::string>& lines) {
     const std::filesystem::path fresh = PathOfUtf8(path + ".ny");
     std::ofstream file(fresh, std::ios::binary);
@@ -51,7 +52,7 @@ void Tell(const char* what, const std::vector<std::string>& items) {
     std::cout << '\n';
 }
 
-/// Tells what is wrong; whether nothing is.
+/// Reports what is wrong. Returns true if nothing is.
 bool Check(const std::vector<CtyCountry>& countries) {
     const std::vector<std::string> faults = CheckCty(countries);
     for (const std::string& fault : faults) std::cerr << fault << '\n';

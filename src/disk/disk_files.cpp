@@ -23,10 +23,10 @@ bool EndsALine(char c) {
     throw RunTimeError(failure);
 }
 
-/// Opens the file, however its path is spelled, and creates it if it is missing unless it is to be read. Gives the
-/// directory in which it has been created.
+/// Opens the file, ignoring case in its path. A missing file is created unless it is opened for reading. Returns the directory in
+/// which the file has been created, if it has.
 std::optional<fs::path> OpenPath(SystemFile& file, const fs::path& spelled, SystemFile::Access access) {
-    // The directories are searched only when the path does not lead anywhere as it stands.
+    // Search the directories for another spelling only if the path does not work as given.
     int error = file.Open(spelled, access, false);
     if (error == 0) return std::nullopt;
     if (!IsMissing(error)) Fail(FailureOf(error));
@@ -40,7 +40,7 @@ std::optional<fs::path> OpenPath(SystemFile& file, const fs::path& spelled, Syst
     return found.path.parent_path();
 }
 
-/// The path of a file that must be there.
+/// Finds the existing file for a path. Fails with 76 if its directory is missing, and with 53 if the file is.
 fs::path ExistingPath(const fs::path& spelled) {
     FoundPath found = FindPath(spelled);
     if (!found.directoryExists) Fail(Failure::PathNotFound);
@@ -70,7 +70,7 @@ DiskFiles::~DiskFiles() {
         try {
             Close(number);
         } catch (const RunTimeError&) {
-            // Nobody is left to be told.
+            // The failure cannot be reported from a destructor.
             continue;
         }
     }
@@ -151,7 +151,7 @@ void DiskFiles::Save(Slot& slot) {
                 slot.file.Truncate(slot.oldLength);
                 slot.file.Sync();
             } catch (const RunTimeError&) {
-                // The first failure is the one that is told.
+                // The first failure is the one that is reported.
             }
         }
         throw;
@@ -171,7 +171,7 @@ void DiskFiles::Rename(std::string_view from, std::string_view to) {
     FoundPath target = FindPath(spelled);
     if (!target.directoryExists) Fail(Failure::PathNotFound);
     if (target.exists) {
-        // A file may be given the same name in another spelling.
+        // Renaming a file to another spelling of its own name is allowed.
         const fs::path respelled = target.path.parent_path() / spelled.filename();
         if (target.path != source || respelled == source) Fail(Failure::FileExists);
         target.path = respelled;
@@ -187,7 +187,7 @@ void DiskFiles::Copy(std::string_view from, std::string_view to) {
     try {
         OpenPath(source, ToPath(from), SystemFile::Access::Read);
     } catch (const RunTimeError& failure) {
-        // Its directory, or its drive, may be missing with it.
+        // A missing directory or drive also means that the source is missing.
         if (failure.Which() == Failure::PathNotFound) Fail(Failure::FileNotFound);
         throw;
     }

@@ -2,11 +2,10 @@
 //
 // The program's files on a real disk.
 //
-// What was appended is held back until Close, which writes and syncs it: a contact is on the disk, or it is not in the
-// file at all. A failed append cuts the file back to its old length, so that no half a line stays behind; where a power cut
-// has left one, the next append begins a line of its own behind it. Any other output is written in pieces, so that a long one
-// takes little memory, and synced by Close; one that fails leaves what has been written. The file number is free after Close
-// in every case.
+// Appended text is held back until Close, which writes and syncs it: a contact is either on disk or not in the file at all. If an
+// append fails, the file is cut back to its old length, so that no partial line is left. If a power cut has left a partial line,
+// the next append first ends that line. Other output is written in pieces, so that a large file needs little memory, and is synced
+// by Close; if it fails, the part already written stays. The file number is free after Close in every case.
 #pragma once
 
 #include <array>
@@ -24,22 +23,23 @@
 
 namespace vatro {
 
-/// Turns a path of the program into one of the file system. It may fail with a RunTimeError.
+/// Converts a path of the program to one of the file system. May fail with a RunTimeError.
 using PathMap = std::function<std::filesystem::path(std::string_view)>;
 
 inline constexpr char kNativeSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
 
+/// The numbered files 1 and 2 on the disk. Failures are those of Files; see there for the numbers.
 class DiskFiles : public Files {
 public:
-    /// Without a `currentDirectory` the one of the process is reported.
+    /// Without `currentDirectory`, the current directory of the process is reported.
     explicit DiskFiles(PathMap toPath = NativePath, char separator = kNativeSeparator,
                        std::optional<std::string> currentDirectory = std::nullopt);
-    /// Closes what is open; a failure is not told.
+    /// Closes open files; failures are not reported.
     ~DiskFiles() override;
     DiskFiles(const DiskFiles&) = delete;
     DiskFiles& operator=(const DiskFiles&) = delete;
 
-    /// Fails with 55 also if the file is open under the other number, unless both read it.
+    /// Also fails with 55 if the file is open under the other number, unless both only read it.
     void Open(int number, std::string_view path, FileMode mode) override;
     std::string LineInput(int number) override;
     /// True for a file that is open for writing.
@@ -49,8 +49,8 @@ public:
     void Close(int number) override;
     void Delete(std::string_view path) override;
     void Rename(std::string_view from, std::string_view to) override;
-    /// Fails with 53 if the source is missing, whatever the target, and with 70 if both are the same file. A copy that
-    /// fails half-way stays as it is.
+    /// Fails with 53 if the source is missing, whatever the target, and with 70 if both are the same file. If the copy fails
+    /// half-way, the partial copy is left.
     void Copy(std::string_view from, std::string_view to) override;
     std::string CurrentDirectory() override;
     char Separator() const override { return separator_; }
@@ -61,9 +61,9 @@ private:
         FileMode mode = FileMode::Input;
         LineReader reader;
         std::string unwritten;
-        /// Of an append: where the file ended before it.
+        /// Of a file opened for Append: its length when it was opened.
         std::int64_t oldLength = 0;
-        /// The directory in which opening has created the file.
+        /// The directory in which Open has created the file, if it has created it.
         std::optional<std::filesystem::path> newIn;
     };
 

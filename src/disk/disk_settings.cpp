@@ -15,7 +15,7 @@ using namespace literals;
 
 namespace {
 
-/// The file itself where `path` is a link to it.
+/// The file that `path` refers to, following links.
 std::filesystem::path BehindLinks(const std::filesystem::path& path) {
     std::error_code error;
     const std::filesystem::path real = std::filesystem::canonical(path, error);
@@ -32,7 +32,7 @@ DiskSettings::DiskSettings(std::filesystem::path file) : file_(std::move(file)) 
     try {
         text_ = ReadFile();
     } catch (const RunTimeError&) {
-        // Read as an empty file; nothing is written over it as long as it cannot be read.
+        // Start without settings. As long as the file cannot be read, it is not overwritten.
     }
 }
 
@@ -60,7 +60,7 @@ void DiskSettings::Flush() noexcept {
         text_ = std::move(text);
         changes_.clear();
     } catch (const std::exception&) {
-        // The changes stay, and so Loss tells of them.
+        // The changes stay pending, and Loss reports them.
     }
 }
 
@@ -85,7 +85,7 @@ void DiskSettings::WriteFile(const IniText& text) const {
     if (std::filesystem::create_directories(directory, error)) SyncDirectory(directory.parent_path());
     SystemFile file;
     Check(file.Open(made, SystemFile::Access::Write, true));
-    // A writing that was cut off may have left one.
+    // An interrupted write may have left such a file.
     file.Truncate(0);
     file.Write(text.Text());
     CopyRights(old, made);

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// The settings in a file on the disk.
+// The settings, stored in a file on the disk.
 //
-// Each writing, or each batch, makes a new file beside the old one, syncs it and gives it the name: a power cut leaves the old
-// values or the new ones. Values that the program has not written stay as they are in the file, also where somebody else has
-// changed them meanwhile. Values that the disk did not take are kept and tried again with the next writing.
+// Each write, or each batch, creates a new file beside the old one, syncs it and renames it over the old one, so a power cut leaves
+// either the old values or the new ones. Values that the program has not changed are kept as they are in the file, even if
+// something else has edited them in the meantime. Values that could not be written are kept in memory and retried with the next
+// write.
 #pragma once
 
 #include <filesystem>
@@ -17,7 +18,7 @@ namespace vatro {
 
 class DiskSettings : public Settings {
 public:
-    /// The file need not be there; its directory is made with it.
+    /// Neither the file nor its directory needs to exist; both are created by the first write.
     explicit DiskSettings(std::filesystem::path file);
 
     std::optional<std::string> Read(std::string_view section, std::string_view key) override;
@@ -25,9 +26,9 @@ public:
     void BeginBatch() override { ++batches_; }
     void EndBatch() override;
 
-    /// What has been written is on the disk on return, inside a batch too.
+    /// Writes all pending changes to disk, even inside a batch. A failure is not reported; see Loss.
     void Flush() noexcept;
-    /// What the user is to be told of settings that the disk has not taken; nothing if it has them all.
+    /// A message for the user about settings that could not be written, or nothing if all have been.
     std::optional<MessageBox> Loss() const;
 
 private:
@@ -41,9 +42,9 @@ private:
     void WriteFile(const IniText& text) const;
 
     std::filesystem::path file_;
-    /// As read or written last, with all changes.
+    /// The text last read or written, plus all changes since then.
     IniText text_;
-    /// Written by the program, and not on the disk yet.
+    /// Changes that are not on disk yet.
     std::vector<Change> changes_;
     int batches_ = 0;
 };

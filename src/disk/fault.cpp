@@ -10,7 +10,7 @@ namespace vatro {
 
 namespace {
 
-/// Upper case, components joined by single slashes, none at the end; "." components are left out.
+/// Converts to upper case and joins the components with single slashes; removes "." components and a trailing slash.
 std::string Normalised(std::string_view path) {
     std::string result;
     std::size_t from = 0;
@@ -28,7 +28,7 @@ std::string Normalised(std::string_view path) {
     return result;
 }
 
-/// Whether the path is `at` or lies below it; both are normalised.
+/// Whether `path` is `at` or lies below it; both must be normalised.
 bool IsAtOrBelow(std::string_view path, std::string_view at) {
     if (!path.starts_with(at)) return false;
     return path.size() == at.size() || at.ends_with('/') || path[at.size()] == '/';
@@ -65,7 +65,7 @@ void FaultyFiles::Print(int number, std::string_view text) {
 }
 
 void FaultyFiles::Take(int number, std::string_view text) {
-    // Fails where nothing can be printed.
+    // An empty print fails at once if the number cannot be printed to.
     files_.Print(number, {});
     Slot* slot = OpenSlot(number);
     if (slot == nullptr) return files_.Print(number, text);
@@ -131,7 +131,7 @@ void FaultyFiles::FailIfTold(std::string_view path, Step step) {
 }
 
 bool FaultyFiles::IsMissing(std::string_view path) {
-    // Only opening can tell. With both numbers in use it is the copying itself that fails.
+    // Opening the file is the only way to find out. If both numbers are in use, leave it to Copy itself to fail.
     for (const int number : {1, 2}) {
         if (OpenSlot(number) != nullptr) continue;
         try {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Files that fail when they are told to: what a full disk, a missing diskette or a protected file does to the program.
+// Files that fail on demand, to test what a full disk, a missing diskette or a protected file does to the program.
 //
-// Paths are compared without regard to case and to the kind of their separators; a bare name is also that of a file in
-// the current directory. A step that fails does nothing to the disk. What was printed is handed on at Close, so that a
-// failing Close can withhold it.
+// Paths are compared regardless of case and of the kind of separator. A bare file name also matches that file in the current
+// directory. A step that fails does not touch the disk. Printed text is passed on only at Close, so that a failing Close can
+// withhold it.
 #pragma once
 
 #include <array>
@@ -17,18 +17,19 @@
 
 namespace vatro {
 
+/// Passes everything on to other files, except for the steps that are told to fail.
 class FaultyFiles : public Files {
 public:
     enum class Step { Open, Write, Close, Delete, Rename, Copy };
 
-    /// `files` must outlive this.
+    /// `files` must outlive this object.
     explicit FaultyFiles(Files& files) : files_(files) {}
 
-    /// From now on what touches `path`, or a file below it, fails with this number: every opening and every copying, or
-    /// only the step told. Number 0 ends it, without a step all of it. The last that was told counts first.
+    /// From now on, operations on `path` or on a file below it fail with this number: the given step or, without a step, every Open
+    /// and Copy. Number 0 cancels this for the step or, without a step, entirely. The most recent call takes precedence.
     void Fail(std::string_view path, int number, std::optional<Step> step = std::nullopt);
 
-    /// Closes both numbers and loses what was printed since they were opened, as a power failure does.
+    /// Closes both numbers and discards what was printed since they were opened, as a power failure does.
     void Abandon();
 
     void Open(int number, std::string_view path, FileMode mode) override;
@@ -39,13 +40,13 @@ public:
     void Close(int number) override;
     void Delete(std::string_view path) override;
     void Rename(std::string_view from, std::string_view to) override;
-    /// A missing source fails with 53 before anything else.
+    /// A missing source fails with 53 before any other check.
     void Copy(std::string_view from, std::string_view to) override;
     std::string CurrentDirectory() override { return files_.CurrentDirectory(); }
     char Separator() const override { return files_.Separator(); }
 
 private:
-    /// A path as spelled and, of a bare name, in the current directory; normalised.
+    /// A normalised path: as spelled and, for a bare name, also within the current directory.
     struct Place {
         std::string asSpelled;
         std::string inDirectory;
@@ -62,7 +63,7 @@ private:
         std::string unwritten;
     };
 
-    /// The number's slot, or nothing if it is not open.
+    /// The number's slot, or null if the number is not open.
     Slot* OpenSlot(int number);
     Place PlaceOf(std::string_view path);
     void Take(int number, std::string_view text);

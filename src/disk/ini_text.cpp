@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t";
 
-/// Letter behind the backslash, and what it stands for.
+/// The letter after the backslash, and the character it stands for.
 constexpr std::array<std::pair<char, char>, 9> kEscapes{
     {{'a', '\a'}, {'b', '\b'}, {'f', '\f'}, {'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'v', '\v'}, {'"', '"'}, {'\\', '\\'}}};
 
@@ -30,7 +30,7 @@ int HexDigit(char c) {
     return -1;
 }
 
-/// Reads what stands behind the "=".
+/// Parses the text after the "=".
 class ValueReader {
 public:
     explicit ValueReader(std::string_view written) : written_(written) {}
@@ -43,7 +43,7 @@ public:
     }
 
 private:
-    /// False where the value ends before the line does.
+    /// Processes one character or escape. Returns false if a comment ends the value before the line ends.
     bool Step() {
         const char c = written_[at_++];
         if (c == '\\') {
@@ -102,9 +102,9 @@ private:
     std::size_t at_ = 0;
     bool quoted_ = false;
     std::string result_;
-    /// Where the text behind the last comma begins.
+    /// Where the text after the last comma begins in the result.
     std::size_t item_ = 0;
-    /// Blanks behind this are dropped at the end.
+    /// Unquoted blanks after this position are dropped at the end.
     std::size_t kept_ = 0;
 };
 

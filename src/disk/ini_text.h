@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// The text of a settings file: sections in brackets, and lines of key, "=" and value in each.
+// The text of a settings file: sections in brackets, each with lines of the form key=value.
 //
-// The file is UTF-8; sections, keys and values are given and taken in the code page. Lines that are not asked to change stay
-// byte for byte, comments included. A value is written as other readers of such files (Qt's among them) read it back:
+// The file is UTF-8; sections, keys and values are passed in the code page. Lines that are not changed are kept byte for byte,
+// including comments. Values are written so that other readers of such files, Qt among them, read them correctly:
 //
 //     Band=80m                    plain
-//     Tekst2="CL?, #R"            in quotes where it has , ; = or blanks at an end
-//     gsLogLib=C:\\log            \\ \" \n \r \t \a \b \f \v and \xHEX for other control characters
-//     Tekst5=@@home               an "@" in front is doubled
+//     Tekst2="CL?, #R"            quoted if it contains , ; = or has blanks at either end
+//     gsLogLib=C:\\log            escapes: \\ \" \n \r \t \a \b \f \v, and \xHEX for other control characters
+//     Tekst5=@@home               a leading "@" is doubled
 #pragma once
 
 #include <optional>
@@ -18,26 +18,28 @@
 
 namespace vatro {
 
+/// The parsed text of a settings file. Changing a value changes only its line.
 class IniText {
 public:
     IniText() = default;
-    /// Takes any text; lines that are neither a section nor a key are kept and mean nothing.
+    /// Accepts any text. Lines that are neither a section nor a key are kept and ignored.
     explicit IniText(std::string_view file);
 
-    /// The value, or nothing if the key is missing. Of a key that is there twice the last one counts. Sections and keys are compared
-    /// without regard to case. Commas outside quotes, as a hand writes them, come with one blank behind.
+    /// The value, or nothing if the key is missing. If a key occurs twice, the last one counts. Section and key names are not
+    /// case-sensitive. A comma outside quotes, as in a file edited by hand, is returned followed by one blank.
     std::optional<std::string> Value(std::string_view section, std::string_view key) const;
-    /// Changes the value where the key stands; a new key becomes the last of its section. Sections and keys are letters and figures.
+    /// Changes the value where the key stands; a new key is added at the end of its section. Section and key names consist of
+    /// letters and digits.
     void SetValue(std::string_view section, std::string_view key, std::string_view value);
 
-    /// The whole file.
+    /// The text of the whole file.
     std::string Text() const;
 
 private:
     struct Line {
-        /// As it stands in the file, without its end.
+        /// The line as in the file, without its line ending.
         std::string text;
-        /// Of a line that holds a key.
+        /// Only set for a line with a key.
         std::string section;
         std::string key;
     };

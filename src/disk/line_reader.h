@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Lines of an open file. A line ends with CR LF, LF or CR; the last one may end with the file. Every other byte,
-// zeros included, belongs to its line, and a line may have any length.
+// Reads the lines of an open file. A line ends with CR LF, LF or CR; the last line may also end with the file. All other bytes,
+// including zeros, belong to the line. A line may have any length.
 #pragma once
 
 #include <cstddef>
@@ -12,28 +12,30 @@
 
 namespace vatro {
 
+/// Reads with a buffer of its own. Fails with the RunTimeError of the file.
 class LineReader {
 public:
-    /// Begins with another file. It must stay open while it is read.
+    /// Starts reading another file, which must stay open while it is read.
     void Start(SystemFile& file);
-    /// Whether nothing is left.
+    /// Whether nothing is left to read.
     bool AtEnd();
-    /// The next line without its end. Not to be called at the end.
+    /// The next line without its line ending. Must not be called at the end.
     std::string Next();
 
 private:
     const char* FindLineEnd();
-    /// Reads on when the buffer is used up; false at the end of the file.
+    /// Refills the buffer when it is used up; false at the end of the file.
     bool Fill();
 
     SystemFile* file_ = nullptr;
     std::vector<char> buffer_;
     const char* next_ = nullptr;
     const char* end_ = nullptr;
-    /// The next LF and CR from `next_` on, `end_` if there is none; kept so that no byte is looked at once per line.
+    /// The next LF and CR from `next_` on, or `end_` if there is none. Cached so that each byte is searched only once.
     const char* lineFeed_ = nullptr;
     const char* carriageReturn_ = nullptr;
-    /// The last line ended with the CR at the end of the buffer, so that an LF in front of the next bytes is of its end.
+    /// The last line ended with a CR at the end of the buffer; an LF at the start of the next block belongs to the same line
+    /// ending.
     bool skipLineFeed_ = false;
 };
 

@@ -14,7 +14,7 @@ BoxKeys::Verdict BoxKeys::Press(const PressedKey& key, Moment now) {
         typed_ = now;
         return Verdict::DropAndFlash;
     }
-    // A box that flashed for a held key would flash until it is let go.
+    // Do not flash for a repeated key: the box would flash until the key is released.
     if (key.repeated) return Verdict::Drop;
     if (cameUp_ && now - *cameUp_ < kUnseen) return Verdict::DropAndFlash;
     if (key.kind == KeyKind::Space && typed_ && now - *typed_ < kTyping) {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Which keys answer a message box.
+// Decides which keys may answer a message box.
 //
-// A box may come up in the middle of typing: the operator looks at the paper and writes on. What was meant for a field must not
-// answer a question that nobody has read. Letters and figures never do, nor does the blank between them; nor any key that
-// comes before a box can have been seen, nor one that has been held down since before.
+// A box may come up while the operator is typing and looking at paper. A key meant for a field must not answer a question that nobody
+// has read. So letters and digits never answer a box, nor does Space while typing; nor does any key pressed before the box can have
+// been seen, nor one held down since before the box appeared.
 #pragma once
 
 #include <optional>
@@ -13,30 +13,32 @@
 
 namespace vatro {
 
+/// The state of typing in front of a message box. Times are passed in, so that tests need not wait.
 class BoxKeys {
 public:
+    /// What becomes of a key.
     enum class Verdict {
-        /// The box gets the key.
+        /// The key goes to the box.
         Take,
-        /// The key does nothing.
+        /// The key is ignored.
         Drop,
-        /// The key does nothing, and the box shows that it is waiting for an answer.
+        /// The key is ignored, and the box flashes to show that it is waiting for an answer.
         DropAndFlash
     };
 
-    /// Nobody reacts to what appears on a screen in less time.
+    /// Nobody can react to something new on the screen within this time.
     static constexpr Moment kUnseen{200};
-    /// A blank that follows a character within this time is part of what is being typed.
+    /// A Space that follows a character within this time is part of the typing.
     static constexpr Moment kTyping{250};
 
-    /// A box has come to the front.
+    /// Call when a box comes to the front.
     void CameUp(Moment now);
-    /// A key is pressed on the box in front.
+    /// Decides about a key pressed while a box is in front.
     Verdict Press(const PressedKey& key, Moment now);
 
 private:
     std::optional<Moment> cameUp_;
-    /// When a character was dropped last, or the blank behind it.
+    /// When a character, or the Space after it, was last ignored.
     std::optional<Moment> typed_;
 };
 

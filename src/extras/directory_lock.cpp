@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Plain streams: a beat that is lost is made good by the next one.
+/// Plain streams are good enough here: if one write of the pulse fails, the next one makes up for it.
 std::string Content(const fs::path& file) {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
@@ -27,7 +27,8 @@ bool Write(const fs::path& file, const std::string& content) {
     return !stream.fail();
 }
 
-/// How long ago the file was written, by the clock of the machine that has the disk: a file written now tells what that is.
+/// How long ago the file was written. The age is measured by the clock of the machine that owns the disk, by comparing with a probe
+/// file that is written now.
 std::chrono::milliseconds AgeOf(const fs::path& file, const std::string& name) {
     fs::path probe = file;
     probe += "." + name;

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// Keeps every other copy of the program away from a log directory: copies of other users, and of other machines that share the
-// directory. Two copies would give out the same serial numbers, and a correction in one would undo the other's contacts.
+// Keeps other copies of the program out of a log directory, including those of other users and of other machines that share it. Two
+// copies would give out the same serial numbers, and a correction in one would undo contacts logged in the other.
 //
-// The lock is one of the system on the file "vatro.lock". Where the file system keeps none, as some network shares, the copy that
-// has the directory writes the file "vatro.puls" every 15 seconds, and one that finds it silent for 60 seconds asks.
+// The lock is an operating system lock on the file "vatro.lock". Some file systems, such as some network shares, do not support locks.
+// There the copy that owns the directory writes the file "vatro.puls" every 15 seconds. A copy that finds this file unchanged for 60
+// seconds asks the operator whether to take the directory over.
 #pragma once
 
 #include <atomic>
@@ -18,17 +19,21 @@
 
 namespace vatro {
 
+/// The lock on one directory at a time. While it is held by pulse, a thread writes the pulse file.
 class DirectoryLock {
 public:
     enum class Result {
+        /// The directory is now held by this object.
         Won,
+        /// Another copy holds the directory.
         Taken,
-        /// Somebody has had the directory without giving it back, and has not been heard of for 60 seconds.
+        /// The directory was not released, but its holder has not been heard of for 60 seconds.
         Silent,
-        /// There is no place for a lock, as in a directory that may only be read; nobody else can have one either.
+        /// No lock can be created, for example in a read-only directory; no other copy can hold one there either.
         Unavailable,
     };
 
+    /// The kind of lock and the intervals; tests replace them.
     struct Options {
         std::function<LockResult(LockFile&, const std::filesystem::path&)> lock = [](LockFile& file, const std::filesystem::path& path) {
             return file.Acquire(path);
@@ -39,15 +44,16 @@ public:
 
     explicit DirectoryLock(Options options);
     DirectoryLock() : DirectoryLock(Options{}) {}
-    /// Releases.
+    /// Releases the directory.
     ~DirectoryLock();
     DirectoryLock(const DirectoryLock&) = delete;
     DirectoryLock& operator=(const DirectoryLock&) = delete;
 
-    /// Takes the directory; with `evenIfSilent` also one whose holder is silent. What is held is released first.
+    /// Acquires the directory, even from a silent holder if `evenIfSilent` is true. First releases any directory that is held.
     Result Acquire(const std::filesystem::path& directory, bool evenIfSilent = false);
+    /// Releases the directory, if one is held. Does not remove a pulse file that another copy has taken over.
     void Release() noexcept;
-    /// Whether another copy has taken the directory over while this one was silent, as a machine that slept.
+    /// Whether another copy has taken over the directory while this one was silent, for example while the machine slept.
     bool Lost() const { return lost_; }
 
 private:
@@ -57,7 +63,7 @@ private:
     Options options_;
     LockFile file_;
     std::filesystem::path pulse_;
-    /// What this copy writes, unlike any other.
+    /// Unique text that this copy writes into "vatro.puls".
     std::string name_;
     std::atomic<bool> lost_{false};
     std::jthread beating_;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Keys in the entry fields, and in every other form, that do something although the operator did not mean them to.
+// Recognises unintended key presses in the entry fields and in all other forms.
 //
-// A key that bounces, or a finger that strikes twice, gives a second Enter right behind the one that has logged a contact. The
-// fields are empty then, a box tells that the call is too short, and the next call is typed under it.
+// A bouncing key, or a finger that strikes twice, produces a second Enter right after the one that has logged a contact. The fields are
+// empty by then, so a box would complain that the call is too short, and the operator would type the next call while the box is open.
 #pragma once
 
 #include <optional>
@@ -12,17 +12,18 @@
 
 namespace vatro {
 
+/// Remembers when the last contact was logged.
 class EntryKeys {
 public:
-    /// For this long after a contact an Enter with an empty call belongs to the one that has logged it.
+    /// For this long after a contact was logged, an Enter with an empty call counts as part of the Enter that logged it.
     static constexpr Moment kSecondEnter{500};
 
-    /// A contact has been logged.
+    /// Call when a contact has been logged.
     void Logged(Moment now) { logged_ = now; }
-    /// Whether the entry form does not get this key. `callEmpty`: nothing of the next contact stands in the call field.
+    /// Whether to keep this key from the entry form. `callEmpty`: nothing has been typed into the call field for the next contact.
     bool Swallows(const PressedKey& key, bool callEmpty, Moment now) const;
-    /// Whether no form gets this key: Enter and Esc of a key that is held down. Each of them acts once a press; the press may have
-    /// closed a box or stopped the Morse, and what comes behind it would log or wipe.
+    /// Whether to keep this key from every form: an auto-repeated Enter or Esc. Each press of these keys may act only once. The first
+    /// press may have closed a box or stopped the Morse, and the repeats would then log or clear the contact.
     static bool Held(const PressedKey& key);
 
 private:

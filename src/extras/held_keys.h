@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Whether a key is pressed anew or held down.
+// Tells a new key press from auto-repeat.
 //
-// X11 has no mark for it: a held key is let go and pressed again, both at the same millisecond. Qt looks for the press when it gets
-// the release, and often looks too early.
+// X11 does not mark auto-repeat: a held key is reported as released and pressed again in the same millisecond. Qt checks for the
+// following press when it receives the release, but often too early.
 #pragma once
 
 #include <optional>
@@ -12,11 +12,12 @@
 
 namespace vatro {
 
+/// Remembers the last release.
 class HeldKeys {
 public:
-    /// Keys are known by a number of the keyboard's own, and times are those of the keyboard.
+    /// Keys are identified by their keyboard scan code; times are those reported with the key events.
     void Released(unsigned key, Moment at) { last_ = Release{key, at}; }
-    /// Whether a key that is pressed has not really been let go: its release is the last one, and came at the very same time.
+    /// Whether a pressed key is an auto-repeat: the last release was of the same key, at exactly the same time.
     bool Repeats(unsigned key, Moment at) const { return last_ && last_->key == key && last_->at == at; }
 
 private:

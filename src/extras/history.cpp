@@ -38,14 +38,14 @@ constexpr std::array<std::pair<History::Keep, std::string_view>, 3> kMarks{
 
 constexpr std::size_t kYoung = 20;
 constexpr std::string_view kEnding = ".txt";
-/// "-0012 2026-09-05 14.05.30"
+/// Looks like "-0012 2026-09-05 14.05.30".
 constexpr std::string_view kPattern = "-0000 0000-00-00 00.00.00";
 
 std::string_view MarkOf(History::Keep keep) {
     return std::find_if(kMarks.begin(), kMarks.end(), [keep](const auto& mark) { return mark.first == keep; })->second;
 }
 
-/// The name without its ending.
+/// The file name without its extension.
 std::string Stem(std::string_view name) {
     return NativeText(fs::path(PathOf(name)).stem());
 }
@@ -63,11 +63,11 @@ int Number(std::string_view text) {
     return value;
 }
 
-/// What the name of a version tells; nothing if it is none of the file `stem`.
+/// Parses the name of a version. Returns nothing if it is not a version of the file `stem`.
 std::optional<History::Version> ReadName(std::string_view stem, std::string_view name) {
     if (!name.starts_with(stem) || !name.ends_with(kEnding)) return std::nullopt;
     std::string_view rest = name.substr(stem.size(), name.size() - stem.size() - kEnding.size());
-    // A number of more than four digits shifts what is behind it.
+    // The number may have more than four digits, so find where it ends.
     const std::size_t space = rest.find(' ');
     if (!rest.starts_with('-') || space == std::string_view::npos || space < 5) return std::nullopt;
     History::Version version;
@@ -92,7 +92,7 @@ void Require(int error) {
     if (error != 0) throw RunTimeError(FailureOf(error));
 }
 
-/// `elsewhere` is told to whoever looks into the folder and misses something.
+/// Creates the folder with a readme that mentions `elsewhere`, for people who look for a version there and do not find it.
 void MakeFolder(const fs::path& folder, const fs::path& elsewhere) {
     std::error_code error;
     if (fs::is_directory(folder, error)) return;
@@ -101,7 +101,7 @@ void MakeFolder(const fs::path& folder, const fs::path& elsewhere) {
     try {
         WriteWhole(folder / PathOf(kReadMe), ToUtf8(Joined({kReadMeText, NativeText(elsewhere), "\r\n"})));
     } catch (const RunTimeError&) {
-        // It only explains.
+        // The readme only explains the folder, so do without it.
         return;
     }
 }
@@ -170,7 +170,7 @@ bool History::TakeBeside(const fs::path& file, Version& version, Way way) const 
 
 History::Version History::Take(const fs::path& file, Keep keep, Way way) {
     Version version = Next(file, keep);
-    // A copy beside the file would have to be written to the same stick or share; the computer is the safer place for it.
+    // Never copy into the folder beside the file: the copy would be on the same stick or share. The computer is the safer place.
     if (way != Way::Copy && TakeBeside(file, version, way)) return version;
     MakeFolder(elsewhere_, elsewhere_);
     version.path = elsewhere_ / PathOf(VersionName(NativeText(file.stem()), version));
@@ -218,7 +218,7 @@ fs::path HistoryElsewhere(const fs::path& state, const fs::path& directory) {
     std::error_code error;
     const fs::path whole = fs::absolute(directory, error);
     std::string name = ToUtf8(NativeText(whole));
-    // One name of all components, which a person still reads.
+    // Joins all components into one name that people can still read.
     for (char& c : name)
         if (c == '/' || c == '\\' || c == ':') c = '-';
     while (name.starts_with('-')) name.erase(0, 1);

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
-// Earlier versions of the files that the program replaces, so that nothing that was ever in a log is gone.
+// Earlier versions of the files that the program replaces, so that nothing that was ever in a log is lost.
 //
-// A version lies in the folder "historik" beside the file, as another name of the same content where the file system can give
-// one; otherwise, as on most USB sticks, it is a copy in a directory of the user's computer. Its name tells which file it was,
-// its number in the order of all versions, when it was replaced, and why it is kept:
+// A version is stored in the folder "historik" beside the file, as a hard link to the old content if the file system supports that.
+// Otherwise, as on most USB sticks, it is a copy in a directory on the user's computer. Its name shows which file it was, its number in
+// the sequence of versions, when it was replaced, and why it is kept:
 //
 //     FD80mSSB-0012 2026-09-05 14.05.30.txt            by age
 //     FD80mSSB-0012 2026-09-05 14.05.30 behold.txt     always: it holds a contact that its successor lacks
 //     FD80mSSB-0012 2026-09-05 14.05.30 samles.txt     always: the program had not seen all of it when it was replaced
 //
-// By age the newest 20 versions of a file are kept, and of those before them the newest of each hour.
+// Versions kept by age are the newest 20 of a file and, among older ones, the newest of each hour.
 #pragma once
 
 #include <filesystem>
@@ -26,8 +26,10 @@ namespace vatro {
 
 class History {
 public:
+    /// How long a version is kept. ToMerge is kept like Always; in addition, recovery proposes to merge it into the log.
     enum class Keep { ByAge, Always, ToMerge };
 
+    /// One earlier version of a file.
     struct Version {
         std::filesystem::path path;
         int number = 0;
@@ -35,30 +37,33 @@ public:
         DateTime when;
     };
 
-    /// Of the files in `directory`. `elsewhere` is the directory on the computer for what cannot lie beside them; it is created
-    /// when it is needed. `now` gives the local time.
+    /// The history of the files in `directory`. `elsewhere` is the directory on the computer for versions that cannot be stored beside
+    /// their file; it is created when needed. `now` returns the local time.
     History(std::filesystem::path directory, std::filesystem::path elsewhere, std::function<DateTime()> now);
 
-    /// Makes the file the newest version of its name; the name stays. It is on the disk on return. Fails with what the disk says.
+    /// Adds the file as the newest version; the file itself stays in place. The version is on disk on return. Fails with the disk's
+    /// failure.
     Version Add(const std::filesystem::path& file, Keep keep);
-    /// As Add, but always a copy: the file will be changed in its place.
+    /// Like Add, but always makes a copy, for a file that will be changed in place.
     Version AddCopy(const std::filesystem::path& file, Keep keep);
-    /// As Add, but the file loses its own name.
+    /// Like Add, but moves the file: it no longer exists under its own name.
     Version Move(const std::filesystem::path& file, Keep keep);
-    /// Writes `text` in a file beside the version, under its name with "note" behind it. A failure is not reported.
+    /// Writes `text` to a file beside the version, with the version's name followed by "note". A failure is not reported.
     static void AddNote(const Version& version, std::string_view text);
 
-    /// A version that was kept to be merged has been; it is kept all the same. A failure is not reported: it is proposed again.
+    /// Marks a version as merged; it is still kept always. A failure is not reported: the merge is then proposed again.
     static void MarkMerged(const std::filesystem::path& version);
 
-    /// All versions of a file, given by its name such as "FD80mSSB.txt", the newest first.
+    /// All versions of a file, newest first. `name` is the name of the file, such as "FD80mSSB.txt".
     std::vector<Version> Versions(std::string_view name) const;
+    /// The newest version, or nothing if there is none.
     std::optional<Version> Newest(std::string_view name) const;
 
-    /// Removes the versions of a file that are neither young nor marked. A failure is not reported.
+    /// Removes those versions of a file that are kept by age and are too old. A failure is not reported.
     void Prune(std::string_view name) const;
 
 private:
+    /// How a file becomes a version.
     enum class Way { LinkOrCopy, Copy, Move };
 
     Version Take(const std::filesystem::path& file, Keep keep, Way way);
@@ -70,12 +75,12 @@ private:
     std::function<DateTime()> now_;
 };
 
-/// Where versions go that cannot lie beside their file: a directory for each `directory`, below `state`, which is the user's
-/// directory for what programs keep.
+/// The directory for versions of files in `directory` that cannot be stored beside them. It lies below `state`, the user's directory
+/// for program data; each `directory` has its own.
 std::filesystem::path HistoryElsewhere(const std::filesystem::path& state, const std::filesystem::path& directory);
 
-/// The user's directory for what the program keeps: $XDG_STATE_HOME/vatro or ~/.local/state/vatro, %LOCALAPPDATA%\vatro on
-/// Windows. history_posix.cpp and history_windows.cpp have it.
+/// The user's directory for program data: $XDG_STATE_HOME/vatro or ~/.local/state/vatro; on Windows %LOCALAPPDATA%\vatro. Defined in
+/// history_posix.cpp and history_windows.cpp.
 std::filesystem::path StateDirectory();
 
 }  // namespace vatro

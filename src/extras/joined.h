@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Texts put together from pieces.
+// Concatenation of texts.
 #pragma once
 
 #include <initializer_list>
@@ -9,7 +9,7 @@
 
 namespace vatro {
 
-/// The pieces one behind the other.
+/// Concatenates the pieces.
 inline std::string Joined(std::initializer_list<std::string_view> parts) {
     std::string text;
     for (const std::string_view part : parts) text.append(part);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A lock that the system keeps on an open file and gives up by itself when the process ends, however it ends. What is in the
-// file says nothing. lock_file_posix.cpp and lock_file_windows.cpp are the two systems.
+// An operating system lock on an open file. The system releases it when the process ends, however it ends. The content of the file is
+// irrelevant. Implemented by lock_file_posix.cpp and lock_file_windows.cpp.
 #pragma once
 
 #include <cstdint>
@@ -9,16 +9,18 @@
 
 namespace vatro {
 
+/// The result of trying to get the lock.
 enum class LockResult {
     Won,
-    /// Another process has it, of this user or of another, here or on another machine.
+    /// Another process holds the lock; it may belong to another user or run on another machine.
     Taken,
-    /// The file system keeps no locks.
+    /// The file system does not support locks.
     NotSupported,
-    /// The file can be neither created nor opened, as in a directory that may only be read.
+    /// The file can be neither created nor opened, for example in a read-only directory.
     Unavailable,
 };
 
+/// Holds at most one lock; the destructor releases it.
 class LockFile {
 public:
     LockFile() = default;
@@ -26,8 +28,8 @@ public:
     LockFile(const LockFile&) = delete;
     LockFile& operator=(const LockFile&) = delete;
 
-    /// Creates the file if it is missing, for every user to open, and locks it. It stays when the lock is released: removing it
-    /// could let two processes lock two files of the same name.
+    /// Creates the file if it is missing, so that every user may open it, and locks it. The file is not removed when the lock is
+    /// released, because then two processes could lock two different files of the same name.
     LockResult Acquire(const std::filesystem::path& file);
     void Release() noexcept;
 

@@ -17,14 +17,15 @@ namespace {
 
 constexpr int kFlags = O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY;
 
-/// Opens the file to lock it, for writing if that is allowed. -1 with errno if it cannot be opened.
+/// Opens the file for locking, for writing if permitted; `writable` tells which. Returns -1 and sets errno on failure.
 int OpenToLock(const std::filesystem::path& file, bool& writable) {
     writable = true;
-    // A file that is there is opened without O_CREAT: in a directory like /tmp the system refuses to create what another user has.
+    // Open an existing file without O_CREAT: in a directory like /tmp the system refuses O_CREAT on a file that belongs to another
+    // user.
     int handle = open(file.c_str(), O_RDWR | kFlags);
     if (handle < 0 && errno == ENOENT) {
         handle = open(file.c_str(), O_RDWR | O_CREAT | O_EXCL | kFlags, 0666);
-        // Another user must be able to lock it too, whatever this one's umask is.
+        // Allow other users to lock the file too, regardless of this user's umask.
         if (handle >= 0 && fchmod(handle, 0666) != 0) errno = 0;
         if (handle < 0 && errno == EEXIST) handle = open(file.c_str(), O_RDWR | kFlags);
     }
@@ -38,7 +39,7 @@ int OpenToLock(const std::filesystem::path& file, bool& writable) {
 int Lock(int handle, bool writable) {
 #ifdef F_OFD_SETLK
     struct flock lock {};
-    // A lock for reading still meets one for writing.
+    // A read lock still conflicts with another copy's write lock.
     lock.l_type = static_cast<short>(writable ? F_WRLCK : F_RDLCK);
     lock.l_whence = SEEK_SET;
     return fcntl(handle, F_OFD_SETLK, &lock);

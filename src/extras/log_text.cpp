@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::size_t kLineWidth = 79;
 
-/// A line where it stands, with the way it ends.
+/// A line with its position, and whether it has a line ending.
 struct Piece {
     std::size_t begin;
     std::string_view text;
@@ -31,7 +31,7 @@ std::vector<Piece> Split(std::string_view content) {
     std::size_t begin = 0;
     while (begin < content.size()) {
         const std::size_t lineFeed = std::min(content.find('\n', begin), content.size());
-        // A CR ends a line too; as a rule it stands just before the LF.
+        // A CR ends a line, too; usually it is directly followed by an LF.
         const std::size_t end = begin + std::min(content.substr(begin, lineFeed - begin).find('\r'), lineFeed - begin);
         pieces.push_back({begin, content.substr(begin, end - begin), end < content.size()});
         begin = end + (content.substr(end, 2) == "\r\n" ? 2 : 1);
@@ -56,7 +56,7 @@ bool IsDamaged(const Piece& piece) {
     return HasControlCharacter(piece.text) || !LooksLikeALine(piece.text) || (!piece.ended && piece.text.size() < kLineWidth);
 }
 
-/// Time and number sent.
+/// Time and sent number, which together identify a contact.
 std::string Key(std::string_view line) {
     std::string key(kTime.Of(line));
     key.append("/").append(kNumberSent.Of(line));
@@ -65,7 +65,7 @@ std::string Key(std::string_view line) {
 
 constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
 
-/// In how many columns two lines differ.
+/// The number of columns in which two lines differ.
 std::size_t Difference(std::string_view a, std::string_view b) {
     const std::size_t common = std::min(a.size(), b.size());
     std::size_t difference = std::max(a.size(), b.size()) - common;
@@ -74,8 +74,8 @@ std::size_t Difference(std::string_view a, std::string_view b) {
     return difference;
 }
 
-/// Matches the contacts that are left under their time and number. Where several have the same, those that differ least belong
-/// together: a correction changes little of a line.
+/// Matches the remaining contacts by time and number. If several have the same, the most similar ones are paired, because a correction
+/// changes little of a line.
 void MatchCorrected(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now, std::vector<std::size_t>& matched,
                     const std::vector<bool>& taken) {
     struct Group {
@@ -105,7 +105,7 @@ void MatchCorrected(const std::vector<std::string_view>& old, const std::vector<
     }
 }
 
-/// For each line of `old` the line of `now` that is the same, each of them once; kNone where there is none.
+/// For each line of `old`, the index of the same line in `now`, or kNone. Each line of `now` is used at most once.
 std::vector<std::size_t> Match(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
     std::vector<std::size_t> matched(old.size(), kNone);
     std::vector<bool> taken(now.size(), false);
@@ -122,7 +122,7 @@ std::vector<std::size_t> Match(const std::vector<std::string_view>& old, const s
     return matched;
 }
 
-/// The first `old.size()` lines of `now` differ from `old` in one at most.
+/// Whether the first `old.size()` lines of `now` differ from `old` in at most one line.
 bool BeginsAs(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
     if (now.size() < old.size()) return false;
     const auto end = now.begin() + static_cast<std::ptrdiff_t>(old.size());
@@ -172,7 +172,7 @@ bool IsContact(std::string_view line) {
 std::vector<std::string_view> MissingContacts(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
     std::vector<std::string_view> missing;
     if (GoesOn(old, now)) {
-        // One line at most is another one.
+        // At most one line has changed.
         const auto [changed, other] = std::mismatch(old.begin(), old.end(), now.begin());
         if (changed != old.end() && IsContact(*changed) && Key(*changed) != Key(*other)) missing.push_back(*changed);
         return missing;
@@ -193,7 +193,7 @@ bool GoesOn(const std::vector<std::string_view>& old, const std::vector<std::str
 
 std::vector<std::string_view> Merged(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now) {
     const std::vector<std::size_t> matched = Match(old, now);
-    // What goes in front of all lines of `now`, and behind each of them.
+    // Element 0 goes before all lines of `now`; element i goes after its line i, counted from 1.
     std::vector<std::vector<std::string_view>> behind(now.size() + 1);
     std::size_t place = 0;
     for (std::size_t i = 0; i < old.size(); ++i) {
@@ -245,7 +245,7 @@ std::size_t UnreadableLine(const std::vector<std::string_view>& lines) {
 }
 
 std::size_t ContentHash(std::string_view content, std::size_t before) {
-    // FNV-1a.
+    // FNV-1a hash.
     std::uint64_t hash = before == 0 ? 14695981039346656037U : before;
     for (const char c : content) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
     return static_cast<std::size_t>(hash);

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Keys while a Morse text is sent, and right after it.
+// Handles keys while a Morse text is being sent, and just after it.
 //
-// The window that sends has the keys until the text is over: Esc and Enter stop it. The operator types the next call meanwhile.
-// A text may end by itself just before Esc or Enter is pressed to stop it: the key would wipe or log what has been typed.
+// The sending window has the focus until the text ends; Esc and Enter stop the text. Meanwhile the operator types the next call. A text
+// may end on its own just before the operator presses Esc or Enter to stop it. Without this guard, that key would clear or log what has
+// been typed.
 #pragma once
 
 #include <optional>
@@ -12,20 +13,21 @@
 
 namespace vatro {
 
+/// Remembers when the last text ended.
 class MorseKeys {
 public:
-    /// For this long after its end Esc and Enter still mean the text.
+    /// For this long after the end of a text, Esc and Enter are still taken as meant for it.
     static constexpr Moment kAfterwards{400};
 
-    /// Whether the key is one of the window that sends: Esc, Enter, Alt+S, Alt+T. Every other one is for the entry fields.
+    /// Whether the key belongs to the sending window: Esc, Enter, Alt+S or Alt+T. All other keys go to the entry fields.
     static bool Own(const PressedKey& key);
 
-    /// A text is over without anybody having stopped it, and the window that sends had the keys.
+    /// Call when a text has ended on its own while the sending window had the focus.
     void EndedByItself(Moment now) { ended_ = now; }
-    /// A text begins, or is stopped by the operator: nothing is left to stop.
+    /// Call when a text begins or is stopped by the operator: no later key is meant for the previous text.
     void Forget() { ended_.reset(); }
-    /// A key is pressed while no text is sent. True if it still means the text that has just ended, and does nothing: only the
-    /// first key behind the text can.
+    /// Call for each key pressed while no text is being sent. Returns true if the key was still meant to stop the text that has just
+    /// ended, and so must be ignored. Only the first key after a text can be.
     bool StillMeansText(const PressedKey& key, Moment now);
 
 private:

@@ -1,33 +1,35 @@
 // SPDX-License-Identifier: MIT
 //
-// A key as those see it that guard the operator's typing: what kind of key it is, not where it goes.
+// A key press as seen by the guards of the operator's typing: what kind of key it is, not where it goes.
 #pragma once
 
 #include <chrono>
 
 namespace vatro {
 
-/// A time of a clock that never goes back; where it begins does not matter.
+/// A time on a monotonic clock with an arbitrary origin.
 using Moment = std::chrono::milliseconds;
 
+/// The kinds of key that the guards tell apart.
 enum class KeyKind {
-    /// Also that of the keypad.
+    /// Enter, including the one on the keypad.
     Enter,
     Esc,
     Space,
-    /// Anything else that writes a character: letters, figures, signs.
+    /// Any other key that produces a character: letters, digits, punctuation.
     Character,
-    /// A letter together with Alt.
+    /// A letter pressed together with Alt.
     AccessLetter,
-    /// Arrows, Tab, function keys, keys with Ctrl.
+    /// Arrows, Tab, function keys, and keys pressed with Ctrl.
     Other
 };
 
+/// One key press.
 struct PressedKey {
     KeyKind kind = KeyKind::Other;
-    /// Of an access letter, in upper case; 0 otherwise.
+    /// The letter of an access key, in upper case; 0 for other keys.
     char letter = 0;
-    /// It comes from a key that is held down, not from a new press.
+    /// Whether this is an auto-repeat of a held key, not a new press.
     bool repeated = false;
 };
 

@@ -26,7 +26,7 @@ namespace {
 
 constexpr std::string_view kCopy = "FDkopi.txt";
 constexpr std::size_t kMostStations = 200;
-/// A log that is missing altogether was most likely put away after its contest; only a young one is missed.
+/// A log that is missing altogether was most likely archived after its contest; only a recent one is reported.
 constexpr long long kYoungDays = 3;
 
 struct Log {
@@ -75,7 +75,7 @@ private:
             log.path = FindPath(places_.logs / log.name).path;
             Read(log);
             logs_.push_back(std::move(log));
-            // The views of the text lead into the content, which a short string takes along when it moves.
+            // Parse the content only at its final place: the views refer to it, and moving a short string moves its characters.
             logs_.back().text = ReadLogText(logs_.back().content);
         }
     }
@@ -140,7 +140,7 @@ private:
         const std::vector<std::string_view> missing = MissingContacts(copy.lines, log.text.lines);
         const bool oneCorrection = IsCorrection(log.text.lines, copy.lines);
         if (missing.empty() || oneCorrection) {
-            // The same lines, or the beginning of them: nothing to be told.
+            // The copy equals the log or its beginning: nothing to report.
             if (GoesOn(copy.lines, log.text.lines) && IsPrefix(copy.lines, log.text.lines)) return;
             Finding& finding = Add(Finding::Action::KeepCopy, log.name);
             finding.what = Joined({"En rettelse blev afbrudt, før den var gemt. Loggen er, som den var før rettelsen."_t});
@@ -185,8 +185,8 @@ private:
             if (log != likely) finding.candidates.push_back(log->name);
     }
 
-    /// The log whose earlier version shares contacts with the copy; otherwise the log that the program begins with, or the only one
-    /// of its mode that is missing.
+    /// The log that most likely belongs to the copy: one whose newest version shares contacts with it, or else the log that the program
+    /// starts with, or else the only missing log of the same mode. Null if none of these exists.
     const Log* Likely(const LogText& copy, const std::vector<const Log*>& fitting) const {
         for (const Log* log : fitting) {
             const auto newest = history_.Newest(log->name);
@@ -209,7 +209,7 @@ private:
         }
     }
 
-    /// Whether its last contact is of another contest than the one that is on.
+    /// Whether the last contact of the copy is from an earlier contest than the current one.
     bool IsOld(const LogText& copy) const {
         for (auto line = copy.lines.rbegin(); line != copy.lines.rend(); ++line) {
             if (!IsContact(*line)) continue;
@@ -221,7 +221,7 @@ private:
 
     static std::string_view ModeOf(const LogText& copy) {
         for (const std::string_view line : copy.lines)
-            // A report of an SSB log has two figures and a blank.
+            // The report in an SSB log has two digits and a blank.
             if (IsContact(line)) return kReportSent.Of(line).ends_with(' ') ? "SSB" : "CW";
         return "SSB";
     }
@@ -265,13 +265,13 @@ private:
     void CompareWithHistory(const Log& log) {
         if (Mentioned(log.name)) return;
         const std::vector<History::Version> versions = history_.Versions(log.name);
-        // What was to be merged stays to be merged until it has been, however many corrections have been made since.
+        // A version marked for merging stays marked until it has been merged, no matter how many corrections have been made since.
         for (const History::Version& version : versions)
             if (version.keep == History::Keep::ToMerge && CompareWith(log, version)) return;
         if (!versions.empty() && versions.front().keep != History::Keep::ToMerge) CompareWith(log, versions.front());
     }
 
-    /// Whether something is to be told of it.
+    /// Adds a finding if the version has contacts that the log lacks. Returns whether it has added one.
     bool CompareWith(const Log& log, const History::Version& version) {
         if (!log.exists && !IsYoung(version.when)) return false;
         std::string content;
@@ -316,7 +316,7 @@ private:
         return Milliseconds(places_.now) - Milliseconds(when) < kYoungDays * kDay;
     }
 
-    // What the program needs beside its logs ------------------------------------------------------------------------------------
+    // Other files that the program needs -----------------------------------------------------------------------------------------
 
     void LookAtTables() {
         for (const std::string_view table : {"lande.txt", "refpfx.txt"}) {
@@ -334,7 +334,7 @@ private:
                  "Giv brugeren ret til at skrive i filen."_t);
     }
 
-    /// Up to one more than there may be stations.
+    /// Counts lines, stopping at one more than the maximum number of stations.
     std::size_t CountLines(std::string_view name) const {
         try {
             const std::string content = ReadWhole(FindPath(places_.tables / name).path);

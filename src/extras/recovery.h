@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Looks through the log directory before the program reads it, for what a power cut, an older edition of the program or a hand has
-// left there, and puts it right as the operator chooses.
+// Checks the log directory before the program reads it, for damage left by a power cut, by an older version of the program or by manual
+// editing, and repairs it as the operator chooses.
 //
-// Looking changes nothing. A repair deletes nothing either: every file that it replaces goes into the history first. What a repair
-// proposes is what cannot take a contact away: contacts are put together, or what is there stays.
+// The search changes nothing. A repair deletes nothing either: every file that it replaces is first added to the history. A proposed
+// repair can never lose a contact: it merges contacts, or keeps what is there.
 #pragma once
 
 #include <filesystem>
@@ -17,56 +17,59 @@
 
 namespace vatro {
 
-/// Where to look.
+/// The directories to check.
 struct RecoveryPlaces {
     std::filesystem::path logs;
-    /// With the tables and the list of operators.
+    /// The directory with the tables and the list of operators.
     std::filesystem::path tables;
-    /// "80mSSB": the log with which the program will begin, for a copy that could be of several logs. May be empty.
+    /// The log that the program will start with, such as "80mSSB". Used to guess the owner of a copy that could belong to several logs.
+    /// May be empty.
     std::string firstLog;
     DateTime now;
 };
 
+/// One thing that is wrong in a directory, and what to do about it.
 struct Finding {
+    /// The proposed repair.
     enum class Action {
-        /// The operator is told; nothing can be repaired here.
+        /// Only informs the operator; there is nothing to repair.
         None,
-        /// FDkopi.txt becomes the log, which is missing.
+        /// The log is missing, and FDkopi.txt becomes the log.
         CopyBecomesLog,
-        /// The contacts of FDkopi.txt that the log lacks join it.
+        /// Contacts in FDkopi.txt that the log lacks are merged into it.
         MergeCopy,
-        /// FDkopi.txt goes into the history.
+        /// FDkopi.txt is moved to the history.
         KeepCopy,
         /// The damaged end of the log is cut off.
         CutEnd,
-        /// The contacts of the newest version in the history that the log lacks join it.
+        /// Contacts in a version of the history that the log lacks are merged into it.
         MergeVersion,
-        /// The log stays as it is; the newest version of the history is put beside it under a name of its own.
+        /// The log stays as it is, and the newest version in the history is stored beside it under another name.
         PutBeside,
-        /// The newest version of the history becomes the log, which is missing.
+        /// The log is missing, and the newest version in the history becomes the log.
         Restore,
     };
 
     Action action = Action::None;
-    /// The name of the file that it is about, such as "FD80mSSB.txt".
+    /// Name of the file concerned, such as "FD80mSSB.txt".
     std::string file;
-    /// What is there, in a sentence or two; what the repair does; both in the code page.
+    /// What was found, in a sentence or two, and what the repair would do; both in the code page.
     std::string what;
     std::string proposal;
-    /// Of what was found, which may be more than the log has.
+    /// Summary of the copy or version that was found, which may have more contacts than the log.
     LogSummary found;
     std::filesystem::path log;
-    /// The copy or the version.
+    /// The file that a repair takes contacts from: the copy or the version.
     std::filesystem::path source;
-    /// The logs that an FDkopi.txt may belong to where its contacts do not tell; the first one is proposed.
+    /// The logs that an FDkopi.txt may belong to if its contacts do not decide; the first one is proposed.
     std::vector<std::string> candidates;
 };
 
-/// What there is to be told, the gravest first. Empty on a sound directory.
+/// Returns what was found, most serious first. Empty if the directory is in order.
 std::vector<Finding> LookForDamage(const RecoveryPlaces& places, const History& history);
 
-/// Does what the finding proposes; `candidate` is the log chosen for a copy whose owner is not certain. Gives what the operator
-/// should know about the outcome, which may be nothing. Fails with what the disk says, and has then changed nothing.
+/// Performs the repair that the finding proposes. `candidate` is the log chosen for a copy whose owner is uncertain. Returns a message
+/// for the operator about the outcome, which may be empty. Fails with the disk's failure, and has then changed nothing.
 std::string Repair(const Finding& finding, History& history, std::string_view candidate = {});
 
 }  // namespace vatro

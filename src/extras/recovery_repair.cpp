@@ -17,7 +17,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The highest number is told where the last line, which decides the next number, has a lower one.
+/// A message for the case that the last line, which decides the next serial number, has a lower number than another line. Empty
+/// otherwise.
 std::string NumberToSet(const std::vector<std::string_view>& lines) {
     int last = 0;
     for (const std::string_view line : lines)
@@ -28,7 +29,7 @@ std::string NumberToSet(const std::vector<std::string_view>& lines) {
                    ". Sæt det næste med Indstillinger, Nyt QSO nummer..."_t});
 }
 
-/// Puts the content in the place of the log, whose present one goes into the history.
+/// Replaces the log by this content after adding the present log to the history.
 void Rewrite(const fs::path& log, std::string_view content, History& history) {
     std::error_code error;
     if (fs::exists(log, error)) history.Add(log, History::Keep::Always);
@@ -46,7 +47,7 @@ std::string Merge(const Finding& finding, const fs::path& log, History& history)
     return NumberToSet(merged);
 }
 
-/// A name that nothing has yet.
+/// A file name that is not used yet.
 fs::path FreeName(const fs::path& log, std::string_view addition) {
     std::error_code error;
     for (int i = 1;; ++i) {
@@ -88,7 +89,7 @@ std::string Repair(const Finding& finding, History& history, std::string_view ca
         case Finding::Action::CutEnd: {
             const std::string content = ReadWhole(log);
             const std::size_t end = ReadLogText(content).damagedFrom;
-            // A repair before this one may have written the log anew.
+            // An earlier repair may already have rewritten the log without the damaged end.
             if (end < content.size()) Rewrite(log, std::string_view(content).substr(0, end), history);
             return {};
         }
@@ -103,7 +104,7 @@ std::string Repair(const Finding& finding, History& history, std::string_view ca
         case Finding::Action::PutBeside: {
             const fs::path beside = FreeName(log, "fra historikken");
             WriteWhole(beside, ReadWhole(finding.source));
-            // The log as it is becomes the newest version, so that this is asked once.
+            // Make the present log the newest version, so that this question is not asked again.
             history.AddCopy(log, History::Keep::ByAge);
             return Joined({"Den længere udgave ligger som "_t, NativeText(beside.filename()), "."});
         }

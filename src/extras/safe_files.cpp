@@ -22,7 +22,7 @@ namespace {
 constexpr std::string_view kCopyName = "FDkopi.txt";
 constexpr std::string_view kMarkerName = "setlog.txt";
 constexpr std::string_view kLineEnd = "\r\n";
-/// A size that no file has.
+/// A size that no file can have.
 constexpr std::size_t kUnlike = static_cast<std::size_t>(-1);
 
 [[noreturn]] void Fail(Failure failure) {
@@ -33,7 +33,7 @@ bool HasName(const fs::path& file, std::string_view name) {
     return EqualNoCase(NativeText(file.filename()), name);
 }
 
-/// A table that its own load leaves open when it is too long. The load was the last to want it.
+/// Whether the file is a table. Loading a table that is too long leaves it open on purpose, and nothing reads it after that.
 bool IsTable(const fs::path& file) {
     return HasName(file, "lande.txt") || HasName(file, "refpfx.txt") || HasName(file, "edr.txt");
 }
@@ -44,7 +44,7 @@ std::size_t SizeOf(const fs::path& file) {
     return error ? 0 : static_cast<std::size_t>(size);
 }
 
-/// One spelling of a directory, whether a separator ends it or not.
+/// The normal form of a directory, with or without a trailing separator.
 fs::path Normal(const fs::path& directory) {
     fs::path normal = directory.lexically_normal();
     return normal.has_filename() || !normal.has_relative_path() ? normal : normal.parent_path();
@@ -74,7 +74,7 @@ SafeFiles::Slot* SafeFiles::SlotOf(int number) {
     return slot ? &*slot : nullptr;
 }
 
-/// Where the path leads on the disk; nothing if that fails, which the disk then tells by itself.
+/// Where the path leads on the disk. Nothing if it cannot be converted; the disk then reports the failure itself.
 std::optional<fs::path> SafeFiles::PathTo(std::string_view path) const {
     if (path.empty() || path.find('\0') != std::string_view::npos) return std::nullopt;
     try {
@@ -110,7 +110,7 @@ void SafeFiles::Tell(Matter matter, const fs::path& about, std::string text) {
     if (told_.emplace(matter, about).second) notices_.push_back(std::move(text));
 }
 
-/// Each time, as long as the operator has not read it.
+/// Like Tell, but repeats a message that the operator has already read.
 void SafeFiles::TellAgain(std::string text) {
     if (std::find(notices_.begin(), notices_.end(), text) == notices_.end()) notices_.push_back(std::move(text));
 }
@@ -129,15 +129,15 @@ void SafeFiles::CloseLeftovers() noexcept {
         try {
             Close(number);
         } catch (const RunTimeError&) {
-            // Whoever left it open has told of its own failure.
+            // The handler that left the file open has reported its own failure.
             continue;
         }
     }
 }
 
-// What the place must be --------------------------------------------------------------------------------------------------------
+// The log directory -------------------------------------------------------------------------------------------------------------
 
-/// A file of the log directory is written only where the directory was when it was won.
+/// Fails with 76 if `file` is in the log directory and that is no longer the directory that was locked.
 void SafeFiles::CheckPlace(const fs::path& file) const {
     if (!place_ || Normal(file.parent_path()) != place_->directory) return;
     if (IdentityOf(place_->directory) != place_->identity || !place_->identity) Fail(Failure::PathNotFound);
@@ -187,7 +187,7 @@ void SafeFiles::Open(int number, std::string_view path, FileMode mode) {
 }
 
 void SafeFiles::OpenLogToRead(int number, std::string_view path, const fs::path& file) {
-    // The number is taken, and the failures are those of the disk.
+    // Open the file on the disk, too, so that the number is taken and failures are the disk's own.
     try {
         disk_.Open(number, path, FileMode::Input);
     } catch (const RunTimeError& failure) {
@@ -236,7 +236,7 @@ void SafeFiles::OpenLogToRead(int number, std::string_view path, const fs::path&
                  KeepDamaged(file, *slot.content)}));
 }
 
-/// The whole file as it is, before its end is cut off by the next contact. Tells where it lies.
+/// Keeps the whole file in the history before the next contact cuts off its damaged end. Returns a sentence that says where it is.
 std::string SafeFiles::KeepDamaged(const fs::path& log, std::string_view content) {
     try {
         History history = HistoryOf(log.parent_path());
@@ -244,7 +244,7 @@ std::string SafeFiles::KeepDamaged(const fs::path& log, std::string_view content
         const bool kept = newest && ReadWhole(newest->path) == content;
         return Joined({"Hele filen ligger som\r\n", TextOf(kept ? newest->path : history.AddCopy(log, History::Keep::Always).path)});
     } catch (const RunTimeError&) {
-        // What cannot be kept elsewhere stays where it is.
+        // If it cannot be kept elsewhere, the damaged end stays in the file.
         damaged_.erase(log);
         return std::string("De bliver stående i filen."_t);
     }
@@ -268,7 +268,7 @@ void SafeFiles::OpenToWrite(int number, std::string_view path, const fs::path& f
     disk_.Open(number, path, FileMode::Output);
 }
 
-/// A copy that an interrupted rewrite has left may be all there is of a log.
+/// Saves a copy left by an interrupted rewrite, because it may be all that is left of a log.
 void SafeFiles::SetAside(const fs::path& copy) {
     const std::string content = ReadWhole(copy);
     const LogText text = ReadLogText(content);
@@ -281,7 +281,7 @@ void SafeFiles::SetAside(const fs::path& copy) {
     HistoryOf(copy.parent_path()).Prune(kCopyName);
 }
 
-/// The history has had it since the log was read. What has changed since then is somebody's, and stays.
+/// Cuts off the damaged end, which is in the history, unless somebody has changed the file since the log was read.
 void SafeFiles::CutDamagedEnd(const fs::path& log) {
     const auto found = damaged_.find(log);
     if (found == damaged_.end()) return;
@@ -342,7 +342,7 @@ void SafeFiles::LearnAppended(const Slot& slot) {
     const auto known = known_.find(slot.path);
     if (known == known_.end()) return;
     if (known->second.size != slot.sizeBefore) {
-        // Somebody else has written to it: it is no longer what the program has read, whatever it is.
+        // Somebody else has written to the file, so it can no longer count as known.
         known->second.size = kUnlike;
         return;
     }
@@ -392,7 +392,7 @@ void SafeFiles::Replace(std::string_view copy, std::string_view name) {
         try {
             where = TextOf(history.Add(*log, keep).path);
         } catch (const RunTimeError&) {
-            // Nothing is lost by a correction that the program has made itself; anything else must not happen unkept.
+            // A correction by this program loses nothing else; anything else must not replace a file that was not kept.
             if (!correction) throw;
             Tell(Matter::Room, log->parent_path(),
                  std::string("Der er ikke plads til tidligere udgaver af loggen. Rettelsen er gemt, den gamle udgave er ikke.\r\n\r\n"
@@ -421,7 +421,7 @@ void SafeFiles::Copy(std::string_view from, std::string_view to) {
     disk_.Copy(from, to);
 }
 
-/// On the computer: the target may be a stick that fails in the next moment. It is kept only if there is room for it.
+/// Keeps the older copy on the computer, because the target may be a stick that is about to fail. Does so only if there is room.
 void SafeFiles::KeepOlderCopy(const fs::path& source, const fs::path& target) {
     try {
         std::error_code error;

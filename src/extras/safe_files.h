@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
-// The files of the desktop program: as on any disk, and nothing that was ever in a log is lost.
+// The files of the desktop program: like the files on any disk, but nothing that was ever in a log is lost.
 //
-// - A rewritten log takes the place of the old one in one step, and the old one goes into the history first.
-// - What the program has not seen of a log, it does not drop: if the file is another one than the list shows, the history keeps it
-//   whole and the operator is told.
-// - The damaged end of a log, as a power cut leaves it, is not shown to the program.
-// - A log directory that has gone, or has become another one (a stick that was pulled), is never written to: the write fails with 76.
-// - The log directory is locked against other copies of the program, and looked at for damage before it is first read.
-// - A pipe, device or directory in place of a file is a failed opening, not a wait.
-// - A file that a handler has left open is closed when the handler is over.
+// - A rewritten log replaces the old one in one step, and the old one is added to the history first.
+// - What the program has not seen of a log is not dropped: if the file differs from what the list shows, the history keeps the whole
+//   file and the operator is told.
+// - The damaged end of a log, as left by a power cut, is hidden from the program.
+// - A log directory that has disappeared or been replaced by another (such as a USB stick that was pulled out) is never written to:
+//   the write fails with 76.
+// - The log directory is locked against other copies of the program, and checked for damage before it is first read.
+// - If a pipe, device or directory stands in place of a file, opening it fails instead of blocking.
+// - A file that a handler has left open is closed when the handler has ended.
 #pragma once
 
 #include <array>
@@ -33,37 +34,40 @@
 
 namespace vatro {
 
+/// Wraps the files of the disk. Used on the program's thread only.
 class SafeFiles : public Files {
 public:
+    /// What the files need from the rest of the desktop program; tests replace it.
     struct Surroundings {
+        /// Converts a path of the program to one of the file system.
         std::function<std::filesystem::path(std::string_view)> toPath = NativePath;
-        /// The user's directory for what programs keep.
+        /// The user's directory for program data.
         std::filesystem::path state = StateDirectory();
-        /// Local time.
+        /// Returns the local time.
         std::function<DateTime()> now;
-        /// Tells that another copy of the program has a directory that the operator has chosen.
+        /// Tells the operator that another copy of the program is using the directory that was just chosen.
         std::function<void()> tellTaken = [] {};
-        /// Whether to go on in a directory whose holder is silent.
+        /// Asks whether to go on in a directory whose holder is silent.
         std::function<bool()> askSilent = [] { return false; };
-        /// A directory has been won and not been read yet.
+        /// Called when a directory has been locked, before it is first read.
         std::function<void(const std::filesystem::path&)> directoryWon = [](const std::filesystem::path&) {};
         DirectoryLock::Options lock{};
     };
 
-    /// `disk` must outlive this.
+    /// `disk` must outlive this object.
     SafeFiles(Files& disk, Surroundings surroundings);
 
-    /// Takes the log directory that the settings name, at the start; empty: none is known yet. False if another copy has it. A
-    /// directory that is missing, or may only be read, is no hindrance.
+    /// At the start: takes the log directory named in the settings; an empty name means that none is known yet. Returns false if
+    /// another copy has it. A missing or read-only directory counts as success.
     bool TakeDirectory(std::string_view directory);
     /// The history of the logs in a directory.
     History HistoryOf(const std::filesystem::path& directory) const;
 
-    /// To be called when no handler runs any more: closes what they have left open.
+    /// Call when no handler is running: closes the files that handlers have left open.
     void CloseLeftovers() noexcept;
-    /// What the operator has to be told, once each, in the order in which it happened.
+    /// Messages for the operator since the last call, in the order of the events. Each message is given once.
     std::vector<std::string> TakeNotices();
-    /// The operator knows of the damaged end of this log.
+    /// Call when the operator has already been told of the damaged end of this log.
     void ToldOfDamage(const std::filesystem::path& log) { told_.emplace(Matter::Damage, log); }
 
     void Open(int number, std::string_view path, FileMode mode) override;
@@ -80,32 +84,33 @@ public:
     char Separator() const override { return disk_.Separator(); }
 
 private:
-    /// The content of a log as this program last read or left it.
+    /// The content of a log as this program last read or wrote it.
     struct Known {
         std::size_t size = 0;
         std::size_t hash = 0;
         bool endsALine = true;
     };
-    /// What is open under a number, beside the number's file on the disk.
+    /// What is open under a number, in addition to the file that the disk has open under it.
     struct Slot {
         std::filesystem::path path;
         FileMode mode = FileMode::Input;
-        /// Of a log that is read: its content, of which the lines are handed out.
+        /// Of a log that is being read: its content, whose lines are handed out.
         std::optional<std::string> content;
         LogText text;
         std::size_t next = 0;
         bool whole = true;
-        /// Of a log that is appended to.
+        /// Of a log that is being appended to: its size before.
         std::size_t sizeBefore = 0;
         std::string appended;
     };
+    /// The log directory, and the identity it had when it was locked.
     struct Place {
         std::filesystem::path directory;
-        /// Nothing if it was missing.
+        /// Nothing if the directory was missing.
         std::optional<FileIdentity> identity;
     };
 
-    /// What the operator is told of, once for each file or directory.
+    /// Subjects of messages. Each is reported once for each file or directory.
     enum class Matter { Damage, Inside, Unseen, Room, Lock };
 
     Slot* SlotOf(int number);
@@ -131,7 +136,7 @@ private:
     std::optional<Place> place_;
     std::unique_ptr<DirectoryLock> lock_;
     std::map<std::filesystem::path, Known> known_;
-    /// The damaged end of a log that was not shown: where it begins, and what it is.
+    /// The damaged end of a log, which was hidden from the program: where it begins, and its bytes.
     struct DamagedEnd {
         std::size_t from = 0;
         std::string bytes;
@@ -141,7 +146,7 @@ private:
     std::vector<std::string> notices_;
 };
 
-/// Whether a file of this name, case aside, is a log: "FD", band, mode, ".txt".
+/// Whether the file name is that of a log: "FD", band, mode, ".txt", ignoring case.
 bool IsLogName(const std::filesystem::path& file);
 
 }  // namespace vatro

@@ -17,7 +17,7 @@ namespace {
 constexpr int kTries = 3;
 constexpr std::size_t kPiece = 1U << 18U;
 
-/// All of the file, or what was read before a failure.
+/// The whole file, or what was read before a failure.
 ReadResult ReadOnce(const fs::path& path) {
     SystemFile file;
     if (const int error = file.Open(path, SystemFile::Access::Read, false); error != 0) throw RunTimeError(FailureOf(error));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Files read and written in one piece.
+// Reads and writes files as a whole.
 #pragma once
 
 #include <filesystem>
@@ -9,22 +9,22 @@
 
 namespace vatro {
 
-/// All bytes of the file. A read that fails is tried again: the cable of a disk may have been touched. Fails with what the disk
-/// says in the end, and with 75 if it is no regular file.
+/// Reads all bytes of the file. A failed read is retried, because the cause may be a loose cable. Fails with the disk's failure if the
+/// file cannot be opened, with 71 if it cannot be read to its end, and with 75 if the path is not a regular file.
 std::string ReadWhole(const std::filesystem::path& file);
 
-/// As ReadWhole, but gives what could be read before the failure, and whether that is all.
+/// Like ReadWhole, but returns what could be read before a failure, and whether that is all.
 struct ReadResult {
     std::string content;
     bool whole = false;
 };
 ReadResult ReadWhatIsThere(const std::filesystem::path& file);
 
-/// Writes the file whole or not at all: under another name first, synced, then renamed. It is on the disk on return, with
-/// the owner and the rights of a file that it replaces.
+/// Writes the file completely or not at all: writes it under another name, syncs it, then renames it. It is on disk on return. If it
+/// replaces a file, it takes over that file's owner and permissions.
 void WriteWhole(const std::filesystem::path& file, std::string_view content);
 
-/// Whether something has this name that is no regular file: a pipe, a device or a directory, which may never answer.
+/// Whether the path exists but is not a regular file: a pipe, a device or a directory. Opening such a thing could block for ever.
 bool IsNoFile(const std::filesystem::path& path);
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Menu, toolbar and status bar of a form.
+// The menu, toolbar and status bar of a form.
 #pragma once
 
 #include <cstddef>
@@ -14,15 +14,16 @@
 
 namespace vatro {
 
-/// Buttons in groups, of which at most one is pressed in each. Buttons are known by their index, from 1.
+/// Buttons in groups; at most one button of a group is pressed. Buttons are identified by their index, from 1.
 class Toolbar : public Control {
 public:
     ControlKind Kind() override { return this; }
     ReadOnlyControlKind Kind() const override { return this; }
+    /// A button of the bar, or a separator.
     struct ToolButton {
         int index = 0;
         std::string caption;
-        /// Buttons of one group release each other; group 0 is a separator.
+        /// Pressing a button releases the others of its group. Group 0 marks a separator.
         int group = 0;
         std::string toolTip;
         bool visible = true;
@@ -30,47 +31,50 @@ public:
     };
     Toolbar(Form& form, std::string_view name, std::vector<ToolButton> buttons) : Control(form, name), buttons_(std::move(buttons)) {}
     const std::vector<ToolButton>& ToolButtons() const { return buttons_; }
-    /// Shows the button of this index as pressed and the others of its group as released. No such button: nothing.
+    /// Shows the button with this index as pressed and the others of its group as released. Does nothing if there is no such
+    /// button.
     void Press(int index);
 
-    /// Runs with the button shown as pressed.
+    /// Runs after the button is shown as pressed.
     std::function<void(int index)> ButtonClick;
 
-    // From the front.
+    // Called by the front.
     void UserPressed(int index);
 
 private:
     std::vector<ToolButton> buttons_;
 };
 
-/// Panels of text at the foot of a form, numbered from 1.
+/// Text panels along the bottom of a form, numbered from 1.
 class StatusBar : public Control {
 public:
     ControlKind Kind() override { return this; }
     ReadOnlyControlKind Kind() const override { return this; }
     StatusBar(Form& form, std::string_view name, std::vector<std::string> panels) : Control(form, name), panels_(std::move(panels)) {}
     const std::vector<std::string>& Panels() const { return panels_; }
-    /// The panel must exist, here and below.
+    /// The panel must exist, here and in SetPanel.
     const std::string& Panel(std::size_t number) const { return panels_.at(number - 1); }
+    /// Shows a text in a panel.
     void SetPanel(std::size_t number, std::string_view text);
 
 private:
     std::vector<std::string> panels_;
 };
 
-/// What a menu entry has beside its caption.
+/// Properties of a menu entry besides its caption.
 struct MenuLook {
-    /// As "Ctrl+F1"; empty for none.
+    /// For example "Ctrl+F1"; empty if there is none.
     std::string_view shortcut = {};
     bool hidden = false;
     bool separator = false;
 };
 
-/// An entry of the menu bar or of a menu. Entries form a tree that the form describes.
+/// An entry of the menu bar or of a menu. The form builds its entries into a tree.
 class MenuItem : public Control {
 public:
     ControlKind Kind() override { return this; }
     ReadOnlyControlKind Kind() const override { return this; }
+    /// `menu` is the entry whose menu contains this one, or null for an entry of the menu bar.
     MenuItem(Form& form, MenuItem* menu, std::string_view name, std::string_view caption, int index = -1, MenuLook look = {});
 
     const std::string& Caption() const { return caption_; }
@@ -79,13 +83,14 @@ public:
     bool Separator() const { return separator_; }
     bool Ticked() const { return ticked_; }
     void SetTicked(bool ticked);
-    /// Its menu, or nothing for an entry of the menu bar.
+    /// The menu that contains this entry, or null for an entry of the menu bar.
     MenuItem* Menu() const { return menu_; }
+    /// The entries of its menu, in order; empty if it has no menu.
     const std::vector<MenuItem*>& Entries() const { return entries_; }
-    /// Whether it can be chosen: enabled, shown, and all menus above it too.
+    /// Whether the entry can be chosen: it and all menus above it are enabled and visible.
     bool Choosable() const;
 
-    // From the front.
+    // Called by the front.
 
     /// Runs Click if the entry can be chosen.
     void Choose();

@@ -16,7 +16,7 @@ char Frame::AccessLetter() const {
 
 void Frame::UseAccessLetter() {
     for (OptionButton* option : options_) {
-        // Of a choice the one that is on.
+        // Skips the options that are off while another one is on.
         if (!option->TabStop()) continue;
         Parent().UserFocus(*option);
         return;
@@ -61,7 +61,7 @@ void OptionButton::SetValue(bool value) {
 
 void OptionButton::UserChosen(FocusWay way) {
     Parent().UserFocus(*this, way);
-    // A handler of the change of focus may have taken it out of use.
+    // A focus handler may have disabled or hidden the control.
     if (Enabled() && Visible()) SetValue(true);
 }
 

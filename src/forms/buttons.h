@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What is pressed, ticked or chosen, and the frame that holds the choices together.
+// Buttons, check boxes and option buttons, and the frame that groups option buttons.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ namespace vatro {
 
 class OptionButton;
 
-/// A frame round other controls, with a caption. The access key in the caption leads to `accessTarget`.
+/// A frame around other controls, with a caption. The access key in the caption moves the focus to `accessTarget`.
 class Frame : public Control {
 public:
     ControlKind Kind() override { return this; }
@@ -28,11 +28,11 @@ private:
 
     std::string caption_;
     Control* accessTarget_;
-    /// The choices in it, in the order of their declaration.
+    /// The option buttons in the frame, in the order of their declaration.
     std::vector<OptionButton*> options_;
 };
 
-/// A control that the focus stands in, with a caption whose access letter is its own.
+/// A control that takes the focus and has its own access key in its caption.
 class CaptionedControl : public Control {
 public:
     CaptionedControl(Form& form, std::string_view name, int index, std::string_view caption)
@@ -45,8 +45,8 @@ private:
     std::string caption_;
 };
 
-/// A button. As default button it is pressed by Enter in any control of the form but another button, as cancel button
-/// by Esc.
+/// A push button. The default button is pressed by Enter in any control of the form except another button, the cancel button by
+/// Esc.
 class Button : public CaptionedControl {
 public:
     ControlKind Kind() override { return this; }
@@ -55,7 +55,7 @@ public:
     bool isDefault = false;
     bool isCancel = false;
 
-    // From the front.
+    // Called by the front.
 
     /// Runs Click if the button is enabled.
     void Press();
@@ -67,17 +67,17 @@ private:
     bool UseDefaultKey(KeyCode key) override;
 };
 
-/// A box that is ticked or not.
+/// A check box.
 class CheckBox : public CaptionedControl {
 public:
     ControlKind Kind() override { return this; }
     ReadOnlyControlKind Kind() const override { return this; }
     CheckBox(Form& form, std::string_view name, std::string_view caption) : CaptionedControl(form, name, -1, caption) {}
     bool Value() const { return value_; }
-    /// Runs Click if the value has become another one.
+    /// Runs Click if the value changes.
     void SetValue(bool value);
 
-    // From the front.
+    // Called by the front.
     void Flip() { SetValue(!value_); }
     void UseAccessLetter() override { Flip(); }
     void UserClicked() override { Flip(); }
@@ -86,27 +86,27 @@ private:
     bool value_ = false;
 };
 
-/// One of several choices in a frame, of which one is on at most. Tab leads to the one that is on, the arrow keys from one to
-/// the next.
+/// One of several options in a frame, of which at most one is on. Tab moves to the option that is on, and the arrow keys move
+/// between the options.
 class OptionButton : public CaptionedControl {
 public:
     ControlKind Kind() override { return this; }
     ReadOnlyControlKind Kind() const override { return this; }
-    /// The frame must be declared before it.
+    /// The frame must be declared before its options.
     OptionButton(Form& form, std::string_view name, int index, std::string_view caption, Frame& group);
-    /// Without one that is on, Tab leads to each of them.
+    /// If no option of the frame is on, every one of them is a tab stop.
     bool TabStop() const override;
     bool Value() const { return value_; }
-    /// Turning it on turns the others of its frame off and runs Click, if it was off.
+    /// Turning an option on turns the others of its frame off, then runs Click. Does nothing if the value does not change.
     void SetValue(bool value);
 
-    // From the front.
+    // Called by the front.
 
-    /// By the mouse, the blank or an arrow key: takes the focus and is turned on.
+    /// Chosen by mouse, Space or arrow key: takes the focus and is turned on.
     void UserChosen(FocusWay way);
     void UseAccessLetter() override { UserChosen(FocusWay::Key); }
     void UserClicked() override { UserChosen(FocusWay::Mouse); }
-    /// The next one of the frame that can take the focus, round at the end, is chosen.
+    /// Chooses the next option of the frame that can take the focus (the previous one if `back`), wrapping around at the end.
     void UserArrow(bool back);
 
 private:

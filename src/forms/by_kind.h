@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// What is done differently for each kind of control.
+// Code that differs for each kind of control:
 //
 //   ByKind(control, [](Button& button) { button.Press(); },
 //                   [](TextControl& text) { text.SelectAll(); },
 //                   [](Control&) {});
 //
-// The control tells its kind by a virtual call, and the overloads are chosen when this is compiled: the case of the kind itself, or
-// else that of the nearest class it is derived from. Without a case for Control every kind must have one, so a new kind of control
-// does not compile before somebody has decided what becomes of it.
+// The control reports its kind through a virtual call, and the overload is chosen at compile time: the case for the kind itself,
+// or else the case for its nearest base class. Without a case for Control, every kind needs a case. A new kind of control then
+// does not compile until somebody has decided how to handle it.
 #pragma once
 
 #include <utility>
@@ -22,7 +22,7 @@ struct Cases : Case... {
     using Case::operator()...;
 };
 
-/// Calls the case for the control's kind and returns what it returns. All cases return the same type.
+/// Calls the case for the control's kind and returns its result. All cases must return the same type.
 template <class... Case>
 decltype(auto) ByKind(Control& control, Case... cases) {
     return std::visit([all = Cases<Case...>{std::move(cases)...}](auto* own) -> decltype(auto) { return all(*own); }, control.Kind());
@@ -33,7 +33,7 @@ decltype(auto) ByKind(const Control& control, Case... cases) {
     return std::visit([all = Cases<Case...>{std::move(cases)...}](const auto* own) -> decltype(auto) { return all(*own); }, control.Kind());
 }
 
-/// The control as a C, or nothing if it is none (or there is no control). For the one question whether it is of this kind.
+/// The control as a C, or null if it is of another kind or `control` is null. Use it where only this one kind matters.
 template <class C>
 C* As(Control* control) {
     if (control == nullptr) return nullptr;

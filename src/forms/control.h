@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// What all controls of a form have; the form owns them as values.
+// The properties and events that all controls share. A form owns its controls as values.
 //
-// A control holds properties and calls handlers. Setting a property tells the mirror, by which the front shows it;
-// the handlers run at once and to their end. What comes from the user enters through the procedures under "From the
-// front", in both fronts alike: they keep the rules that the logic leans on.
+// A control holds properties and calls handlers. Setting a property notifies the mirror, through which the front updates what is
+// shown. Handlers run at once and to completion. User input enters through the procedures marked "Called by the front", which are
+// the same for both fronts and enforce the rules that the logic relies on:
 //
-//   A key reaches KeyPress first; the handler may change it or make it nothing (0); then the control's own editing
-//   takes it. Change runs when the text has become another one, by key, by paste or by the program; setting the text
-//   it already has is no change. Paste does not pass KeyPress; the length limit holds for it and for keys, not for
-//   the program.
+//   A key goes to KeyPress first. The handler may replace it or cancel it (0); the control's own editing then processes the
+//   result. Change runs whenever the text changes, by key, by paste or by the program, but not when the program sets the text that
+//   is already there. Pasted text does not go through KeyPress. The length limit applies to keys and paste, not to the program.
 #pragma once
 
 #include <functional>
@@ -22,7 +21,7 @@ namespace vatro {
 
 class Form;
 
-/// Keys as KeyPress gets them: the character's code, or one of these.
+/// A key as passed to KeyPress: the code of the character, or one of these constants.
 using KeyCode = short;
 inline constexpr KeyCode kNoKey = 0;
 inline constexpr KeyCode kBackspace = 8;
@@ -30,15 +29,15 @@ inline constexpr KeyCode kEnter = 13;
 inline constexpr KeyCode kEsc = 27;
 inline constexpr KeyCode kSpace = 32;
 
-/// A colour, 0xBBGGRR.
+/// A colour, as 0xBBGGRR.
 using Colour = int;
 inline constexpr Colour kBlack = 0;
 inline constexpr Colour kRed = 255;
 
-/// How the focus comes to a control: with the mouse, or by key or program.
+/// How the focus reaches a control: by mouse, or by key or program.
 enum class FocusWay { Key, Mouse };
 
-/// What of a control has changed, as its mirror is told it.
+/// What has changed in a control, as passed to its mirror.
 enum class Aspect {
     Text,
     Selection,
@@ -61,20 +60,21 @@ enum class Aspect {
 /// Anything with a name on a form.
 class Control {
 public:
-    /// The name is text of the code page, as all text of the logic; `index` is that of an indexed array, or -1.
+    /// The name is text of the code page, like all text of the logic. `index` is the position in an indexed array of controls, or
+    /// -1.
     Control(Form& form, std::string_view name, int index = -1);
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
-    /// What it is, for those that treat the kinds of control in different ways; see by_kind.h.
+    /// The control's concrete type, for code that handles the kinds of control differently; see by_kind.h.
     virtual ControlKind Kind() = 0;
     virtual ReadOnlyControlKind Kind() const = 0;
 
     Form& Parent() const { return form_; }
     const std::string& Name() const { return name_; }
     int Index() const { return index_; }
-    /// "Text1(1)", or "List1" without an index.
+    /// For example "Text1(1)", or "List1" for a control without an index.
     std::string FullName() const;
 
     bool Enabled() const { return enabled_; }
@@ -84,36 +84,38 @@ public:
     const std::string& ToolTip() const { return toolTip_; }
     void SetToolTip(std::string_view text);
 
-    /// Whether the focus can stand in it at all, and whether Tab comes by.
+    /// Whether the control can take the focus at all, and whether Tab stops at it.
     virtual bool TakesFocus() const { return false; }
     virtual bool TabStop() const { return TakesFocus() && tabStop_; }
     void SetTabStop(bool stop) { tabStop_ = stop; }
 
-    /// Moves the focus here: runs LostFocus of the control that had it, then GotFocus of this one, at once. Runs
-    /// nothing if this control has it. Makes its form the active one. Fails with 5 if the control or its form cannot
-    /// be used (disabled, not shown).
+    /// Moves the focus here: at once runs LostFocus of the control that had it, then GotFocus of this one. Runs neither if this
+    /// control already has the focus. Makes its form the active one. Fails with 5 if the control or its form is disabled or not
+    /// shown.
     void SetFocus();
     bool HasFocus() const;
 
+    /// Event handlers of the form; an empty one is skipped. KeyPress may replace the key, or cancel it by setting kNoKey.
     std::function<void()> GotFocus;
     std::function<void()> LostFocus;
     std::function<void(KeyCode& KeyAscii)> KeyPress;
     std::function<void()> Click;
 
-    /// The upper-case letter that reaches the control together with Alt, or 0.
+    /// The upper-case letter that activates the control together with Alt, or 0.
     virtual char AccessLetter() const { return 0; }
 
-    /// Set by the front that shows the control; gets what has changed, and the row of a list where one is meant.
+    /// Set by the front that shows the control. Called with what has changed and, where it concerns one row of a list, the row.
     std::function<void(Aspect, int row)> mirror;
 
-    // From the front.
+    // Called by the front.
 
-    /// Runs the form's KeyPress, then its own and its filter, and gives what they have made of the key; kNoKey if the control is disabled.
+    /// Passes the key to the form's KeyPress, then to the control's KeyPress and filter, and returns the resulting key. Returns
+    /// kNoKey if the control is disabled.
     KeyCode PressKey(KeyCode key);
-    /// The access letter was pressed: a button is pressed, a check box flipped, a frame leads to its target. The focus
-    /// stays where it is unless the control only leads to it.
+    /// Handles the access key: presses a button, flips a check box, chooses an option, or moves the focus from a label or frame to
+    /// its target. A button or check box does not take the focus by this.
     virtual void UseAccessLetter() {}
-    /// The mouse has been clicked on it, and the focus has come with it where it takes any.
+    /// The user has clicked the control. If it can take the focus, it already has it.
     virtual void UserClicked() {
         if (Click) Click();
     }
@@ -122,7 +124,7 @@ protected:
     void Tell(Aspect aspect, int row = -1) const {
         if (mirror) mirror(aspect, row);
     }
-    /// Sets a property and tells the mirror. False, and nothing done, if it has the value already.
+    /// Sets a property and notifies the mirror. Returns false and does nothing if the property already has this value.
     template <class T, class Value>
     bool Put(T& property, const Value& value, Aspect aspect) {
         if (property == value) return false;
@@ -133,15 +135,15 @@ protected:
 
 private:
     friend class Form;
-    /// Behind KeyPress.
+    /// Filters the key after KeyPress.
     virtual void Filter(KeyCode& /*key*/) const {}
-    /// The control has got the focus; runs before GotFocus.
+    /// The control has received the focus; runs before GotFocus.
     virtual void Entered(FocusWay /*way*/) {}
-    /// Whether Enter is its own while it has the focus, so that it does not press the form's default button.
+    /// Whether the control handles Enter itself while it has the focus, so that Enter does not press the form's default button.
     virtual bool KeepsEnter() const { return false; }
-    /// Enter or Esc was pressed somewhere in the form: whether the control has acted on it.
+    /// Enter or Esc was pressed somewhere in the form. Returns whether the control has acted on it.
     virtual bool UseDefaultKey(KeyCode /*key*/) { return false; }
-    /// The form has been unloaded and is not freed yet.
+    /// The form has been unloaded but not freed yet.
     virtual void FormUnloaded() {}
 
     Form& form_;
@@ -153,7 +155,7 @@ private:
     std::string toolTip_;
 };
 
-/// The access letter of a caption, upper case: the character behind its "&", or 0 if it has none.
+/// The access letter of a caption in upper case: the character after its "&", or 0 if there is none.
 char AccessKey(std::string_view caption);
 
 }  // namespace vatro

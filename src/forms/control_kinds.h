@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The kinds of control that there are.
+// The list of all kinds of control.
 //
-// Code that treats each kind in a way of its own, as a front does, is told the kind by the control itself: see by_kind.h.
+// Code that handles each kind differently, as a front does, asks the control for its kind; see by_kind.h.
 #pragma once
 
 #include <variant>
@@ -36,7 +36,7 @@ struct ControlKinds {
 using AllControlKinds = ControlKinds<Button, CheckBox, ComboBox, Frame, Label, ListBox, MenuItem, OptionButton, Picture, ProgressBar,
                                      ScrollBar, StatusBar, TextBox, TextView, Timer, Toolbar, UpDown>;
 
-/// A control, as what it is.
+/// A pointer to a control as its concrete type.
 using ControlKind = AllControlKinds::Pointer;
 using ReadOnlyControlKind = AllControlKinds::ReadOnlyPointer;
 

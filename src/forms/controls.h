@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// All controls that a form can own: the small ones here, those with text, rows, bars or choices in headers of their own.
+// All controls that a form can own. The small ones are declared here; text fields, lists, bars and buttons have their own
+// headers.
 #pragma once
 
 #include <algorithm>
@@ -23,8 +24,9 @@ class Label : public Control {
 public:
     ControlKind Kind() override { return this; }
     ReadOnlyControlKind Kind() const override { return this; }
+    /// A label that names no field.
     explicit Label(Form& form, std::string_view name, std::string_view caption = {}, Font font = {});
-    /// The name of a field: the access letter in the caption leads to the field.
+    /// A label may name a field; the access key in its caption then moves the focus to that field.
     Label(Form& form, std::string_view name, int index, std::string_view caption, Control* accessTarget = nullptr);
 
     const std::string& Caption() const { return caption_; }
@@ -37,11 +39,11 @@ public:
     void SetBackColour(Colour colour);
     bool Opaque() const { return opaque_; }
     void SetOpaque(bool opaque);
-    /// Runs when the caption has become another one.
+    /// Runs when the caption changes.
     std::function<void()> Change;
-    /// Width of the caption in the font, in points.
+    /// Width of the caption in the label's font, in points.
     double TextWidth() const;
-    /// The field that it names, or nothing.
+    /// The field that the label names, or null.
     const Control* AccessTarget() const { return accessTarget_; }
     char AccessLetter() const override;
     void UseAccessLetter() override;
@@ -55,16 +57,16 @@ private:
     bool opaque_ = false;
 };
 
-/// A picture of the handbook, stretched to the size of its place. Keys pass it by.
+/// A picture of the handbook, stretched to the size of the control. It takes no keys.
 class Picture : public Control {
 public:
     ControlKind Kind() override { return this; }
     ReadOnlyControlKind Kind() const override { return this; }
     Picture(Form& form, std::string_view name, std::string_view file) : Control(form, name), file_(file) {}
-    /// The name of its file.
+    /// Name of the picture file.
     const std::string& File() const { return file_; }
 
-    // From the front.
+    // Called by the front.
 
     /// Runs Click if the picture is enabled.
     void UserClicked() override;
@@ -73,7 +75,7 @@ private:
     std::string file_;
 };
 
-/// A bar whose slide stands at a number.
+/// A bar whose slider stands for a number.
 class ScrollBar : public Control {
 public:
     ControlKind Kind() override { return this; }
@@ -88,16 +90,17 @@ public:
     bool TakesFocus() const override { return true; }
     const Range& Limits() const { return range_; }
     int Value() const { return value_; }
-    /// Fails with 5 outside the range. Runs Change if the value has become another one.
+    /// Fails with 5 outside the range. Runs Change if the value changes.
     void SetValue(int value);
     std::function<void()> Change;
 
-    // From the front.
+    // Called by the front.
 
-    /// Is cut to the range.
+    /// Sets the value, limited to the range.
     void UserScrolled(int value);
-    /// What a key does to the slide: small and large changes, and the ends of the bar.
+    /// How a key moves the slider: by a small or large step, or to either end.
     enum class Move { StepBack, StepOn, PageBack, PageOn, ToStart, ToEnd };
+    /// Moves the slider by a key, within the range.
     void UserMoved(Move move);
 
 private:
@@ -105,7 +108,7 @@ private:
     int value_;
 };
 
-/// A pair of arrows that counts the number in a text field up and down.
+/// A pair of arrow buttons that step the number in a text field up and down.
 class UpDown : public Control {
 public:
     ControlKind Kind() override { return this; }
@@ -115,6 +118,7 @@ public:
         int max = 0;
         int step = 1;
     };
+    /// `buddy` is the text field with the number; it must be declared before the arrows.
     UpDown(Form& form, std::string_view name, TextBox& buddy, Range range) : Control(form, name), buddy_(buddy), range_(range) {
         buddy.counted_ = true;
     }
@@ -122,9 +126,9 @@ public:
     const TextBox& Buddy() const { return buddy_; }
     void SetMin(int min) { range_.min = min; }
 
-    // From the front.
+    // Called by the front.
 
-    /// One step from the number in the field, within the range.
+    /// Steps the number in the field up or down by the step of the range, within its limits. Does nothing if disabled.
     void Spin(bool up);
 
 private:
@@ -132,7 +136,7 @@ private:
     Range range_;
 };
 
-/// Ticks on the clock service: every Interval milliseconds while it is enabled and its interval is above 0.
+/// Ticks through the clock service: every Interval milliseconds while the timer is enabled and its interval is above 0.
 class Timer : public Control, public Ticker {
 public:
     ControlKind Kind() override { return this; }
@@ -140,14 +144,16 @@ public:
     Timer(Form& form, std::string_view name, int interval) : Control(form, name), interval_(interval) {}
     ~Timer() override;
     int Interval() const override { return interval_; }
-    /// The next tick falls due one interval from now.
+    /// The next tick is due one interval from now.
     void SetInterval(int milliseconds);
     bool Running() const override { return running_ && interval_ > 0; }
+    /// Switches the timer on or off. Its next tick is due one interval from now.
     void SetRunning(bool running);
 
+    /// Runs at each tick.
     std::function<void()> OnTimer;
 
-    // From the clock.
+    // Called by the clock.
     void Tick() override;
 
 private:
@@ -164,10 +170,10 @@ public:
     ControlKind Kind() override { return this; }
     ReadOnlyControlKind Kind() const override { return this; }
     int Max() const { return max_; }
-    /// A value above the new maximum becomes it. A maximum below 0 is 0.
+    /// A negative maximum counts as 0. A value above the new maximum is reduced to it.
     void SetMax(int max);
     int Value() const { return value_; }
-    /// Is cut to the bar.
+    /// The value is limited to 0 to Max.
     void SetValue(int value) { Put(value_, std::clamp(value, 0, max_), Aspect::Value); }
 
 private:

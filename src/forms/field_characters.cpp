@@ -15,7 +15,7 @@ KeyCode CharacterInto(const TextControl& field, KeyCode key) {
 void PasteInto(TextControl& field, std::string_view text) {
     for (const char c : text.substr(0, text.find_first_of("\r\n"))) {
         const KeyCode key = CharacterInto(field, static_cast<unsigned char>(c));
-        // One by one: a filter may look at what is in the field already.
+        // Insert the characters one by one, because a filter may look at what is already in the field.
         if (key >= kSpace) field.Insert(std::string(1, static_cast<char>(static_cast<unsigned char>(key))));
     }
 }

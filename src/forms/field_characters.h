@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The characters that a field takes from the user, whichever way they come.
+// Which characters a field accepts from the user, by key or by paste.
 //
-// Under the rules only keys go through a field's filter. On the desktop a pasted text does too: "1E9" as received number is a
-// thousand millions to the log, and shifts its columns.
+// The forms themselves filter keys only. On the desktop, pasted text goes through the filter too, because the log would read a
+// pasted received number "1E9" as a thousand million and shift the columns of its line.
 #pragma once
 
 #include <string_view>
@@ -12,13 +12,13 @@
 
 namespace vatro {
 
-/// What becomes of a character on its way into the field: itself, another one (a capital letter), or kNoKey. It is what the
-/// field's key filter says; and a field with arrows that count its number takes figures only, which it has no filter for. Keys
-/// below the blank are given back as they are.
+/// What a typed character becomes in the field: itself, another character (such as a capital letter), or kNoKey. The field's key
+/// filter decides. A field whose number is stepped by arrows has no filter and accepts only digits. Keys below Space are returned
+/// unchanged.
 KeyCode CharacterInto(const TextControl& field, KeyCode key);
 
-/// Puts the first line of a text over the selection as if it were typed: each character as CharacterInto says, as far as there is
-/// room. Nothing if the field takes none of it.
+/// Replaces the selection by the first line of the text as if it were typed: each character goes through CharacterInto, as far as
+/// there is room. Changes nothing if the field accepts none of it.
 void PasteInto(TextControl& field, std::string_view text);
 
 }  // namespace vatro

@@ -16,11 +16,11 @@ std::vector<FormSlotBase*>& Slots() {
     return slots;
 }
 
-/// Loaded forms in load order.
+/// Loaded forms, in load order.
 std::vector<Form*> loaded;
-/// Shown forms, the one activated last at the end.
+/// Shown forms, in order of activation; the most recent is last.
 std::vector<Form*> activation;
-/// Modal forms, the one in front at the end.
+/// Modal forms; the one in front is last.
 std::vector<Form*> modals;
 /// Unloaded forms whose handlers may still be running; freed after the outermost event.
 std::vector<std::unique_ptr<Form>> unloaded;
@@ -36,7 +36,7 @@ void Activate(Form& form) {
     InstalledFront().Activated(form);
 }
 
-/// The form is no longer shown: the one that was active before it is it again.
+/// Removes a form that is no longer shown; the previously active form becomes active again.
 void Deactivate(Form& form) {
     const bool wasActive = ActiveForm() == &form;
     Remove(activation, &form);
@@ -97,7 +97,7 @@ void Form::Hide() {
     if (!visible_) return;
     visible_ = false;
     if (modal_) {
-        // The next showing begins at the first control.
+        // When the form is shown again, the focus starts at the first control.
         active_ = nullptr;
         entered_ = false;
     }
@@ -113,7 +113,7 @@ void Form::Unload() {
     Form_QueryUnload(cancel);
     if (cancel) return;
     Form_Unload();
-    // The handlers may have unloaded it themselves.
+    // The handlers may have unloaded the form themselves.
     if (slot->Peek() != this) return;
     for (Control* control : controls_) control->FormUnloaded();
     visible_ = false;
@@ -149,10 +149,10 @@ void Form::MoveFocus(Control& control, FocusWay way) {
     const bool owed = entered_;
     active_ = &control;
     entered_ = false;
-    // The focus has moved already where LostFocus shows a box.
+    // Move the focus before LostFocus runs, so that a box shown by LostFocus finds it at the new control.
     InstalledFront().Changed(*this);
     if (left != nullptr && owed && left->LostFocus) left->LostFocus();
-    // The handler may have moved the focus elsewhere, or brought it here itself.
+    // LostFocus may have moved the focus elsewhere, or may already have completed the move to this control.
     if (active_ != &control || entered_) return;
     entered_ = true;
     control.Entered(way);
@@ -272,7 +272,7 @@ void FreeUnloadedForms() {
     unloaded.clear();
 }
 
-/// The program has ended: all forms go, without their handlers.
+/// The program has ended: drops all forms without running their handlers.
 void DropForms() {
     activation.clear();
     modals.clear();

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// Form, the base of the program's windows, each a class that owns its controls as values; forms.h has it with all controls.
+// Form, the base class of the program's windows. Each form is a class that owns its controls as values. Include forms.h to get
+// all controls as well.
 //
-// A form is unloaded, hidden or shown. Using a form that is unloaded loads it, without showing it. A modal form holds
-// its caller until it is hidden or unloaded. Geometry is in twips (1/1440 inch).
+// A form is unloaded, hidden or shown. Using an unloaded form loads it without showing it. A modal form blocks its caller until
+// it is hidden or unloaded. Geometry is in twips (1/1440 inch).
 //
-// Focus moves between the controls of a form. A message box, a menu, another window or another program in front is no
-// loss of focus.
+// The focus moves between the controls of a form. A control does not lose the focus when a message box, a menu, another window or
+// another program comes to the front.
 #pragma once
 
 #include <functional>
@@ -22,11 +23,11 @@ namespace vatro {
 
 enum class WindowState { Normal, Minimised, Maximised };
 
-/// What kind of window a form is; the front draws it accordingly. The user does not size a fixed one; a fixed tool stands in the
-/// middle of the screen, a dialogue in that of its owner.
+/// The kind of window, which decides how the front draws it. The user cannot resize a fixed one. A fixed tool window is centred
+/// on the screen, a dialogue on its owner.
 enum class FormKind { Main, Tool, FixedTool, Dialog, FixedDialog, Splash };
 
-/// A window of the program; the base of each form.
+/// A window of the program; the base class of all forms.
 class Form {
 public:
     Form(std::string_view name, FormKind kind, std::string_view caption);
@@ -39,20 +40,20 @@ public:
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string_view caption);
 
-    /// Nothing but noughts until somebody has placed the form; a main form has the size of its layout from the beginning.
+    /// Position and size are 0 until somebody places the form; only a main form has the size of its layout from the start.
     int Left() const { return left_; }
     int Top() const { return top_; }
     int Width() const { return width_; }
     int Height() const { return height_; }
-    /// Sets the place; a front may not let a window become as small as asked. Form_Resize runs if the size has become
-    /// another one.
+    /// Moves and resizes the form; a front may not allow a window to become as small as requested. Runs Form_Resize if the size
+    /// changes.
     void Place(int left, int top, int width, int height);
-    /// Whether the program or the user has ever placed the form. Where it has not, the front puts the window where it likes.
+    /// Whether the program or the user has ever placed the form. If not, the front chooses the position.
     bool Placed() const { return placed_; }
     void MoveTo(int left, int top) { Place(left, top, width_, height_); }
     void SetWidth(int width) { Place(left_, top_, width, height_); }
     void SetHeight(int height) { Place(left_, top_, width_, height); }
-    /// The room inside the frame. The stored size of a window is the size of this room, so both are the same.
+    /// Size of the area inside the frame. A window's stored size is the size of this area, so both are equal.
     int ScaleWidth() const { return width_; }
     int ScaleHeight() const { return height_; }
     WindowState State() const { return state_; }
@@ -64,65 +65,67 @@ public:
 
     bool Visible() const { return visible_; }
     bool Modal() const { return modal_; }
-    /// Shows the form and makes it the active one; it does not hold the caller.
+    /// Shows the form and makes it the active one; returns at once.
     void Show();
-    /// Shows the form and holds the caller until it is hidden or unloaded. Fails with 5 if it is shown.
+    /// Shows the form and blocks the caller until it is hidden or unloaded. Fails with 5 if the form is already shown.
     void ShowModal();
-    /// The form keeps what stands in it. A modal one has its focus at the first control when it is shown again.
+    /// Hides the form but keeps its contents. When a modal form is shown again, the focus starts at its first control.
     void Hide();
-    /// Runs Form_QueryUnload and Form_Unload and removes the form; its next use loads it anew.
+    /// Runs Form_QueryUnload and Form_Unload and removes the form; its next use loads it again.
     void Unload();
-    /// Makes a shown form the active one, with the focus where it was in it. Fails with 5 if it is not shown.
+    /// Makes a shown form the active one; the focus returns to the control that had it. Fails with 5 if the form is not shown.
     void SetFocus();
-    /// Paints the form now.
+    /// Repaints the form now.
     void Refresh();
 
-    /// In the order of their declaration.
+    /// All controls, in the order of their declaration.
     const std::vector<Control*>& Controls() const { return controls_; }
-    /// The control of this name and index (-1 without one), or nothing.
+    /// The control with this name and index (-1 for none), or null.
     Control* Find(std::string_view name, int index) const;
-    /// The control that has the focus of this form, or nothing.
+    /// The control that has this form's focus, or null.
     Control* ActiveControl() const { return active_; }
-    /// The controls that Tab walks through, in its order.
+    /// The controls that Tab visits, in order.
     const std::vector<Control*>& TabOrder() const { return tabOrder_; }
 
-    // From the front.
+    // Called by the front.
 
-    /// The user has moved the focus to this control, with the mouse or by key.
+    /// The user has moved the focus to this control, by mouse or by key.
     void UserFocus(Control& control, FocusWay way = FocusWay::Key);
-    /// Tab or Shift+Tab: the next control that can take the focus; round at the end.
+    /// Tab or Shift+Tab: moves to the next (previous) control that can take the focus, wrapping around at the end.
     void UserTab(bool back);
-    /// Enter and Esc: presses the default button (unless the focus is on a button) or the cancel button; false if the
-    /// form has none.
+    /// Enter or Esc: presses the default button (unless a button has the focus) or the cancel button. False if the form has none.
     bool UserDefaultKey(KeyCode key);
-    /// Alt and a letter: presses, flips or focuses the control with that access letter; false if there is none.
+    /// Alt and a letter: presses, flips or focuses the control with that access letter. False if there is none.
     bool UserAccessKey(char letter);
-    /// A key: the form sees it first, then the control that has the focus, if any. Gives what they have made of it.
+    /// A key: goes to the form first, then to the control that has the focus, if any. Returns the resulting key.
     KeyCode UserKey(KeyCode key);
     /// A click on the form's own surface.
     void UserClicked() { Form_Click(); }
-    /// The size that the layout of the front gives a main form, told while it is created; no Form_Resize.
+    /// Sets the size that the front's layout gives a main form. Called while the form is created; does not run Form_Resize.
     void SetDesignSize(int width, int height);
-    /// The user has moved or sized the window.
+    /// The user has moved or resized the window.
     void UserPlaced(int left, int top, int width, int height);
+    /// The user has minimised, maximised or restored the window.
     void UserState(WindowState state);
     /// The user has brought the window to the front.
     void UserActivated();
     /// The user closes the window by its frame.
     void UserClosed() { Unload(); }
-    /// Whether events of the user reach it: shown, enabled, and no other modal form in front.
+    /// Whether the form receives user events: it is shown and enabled, and no other modal form is in front.
     bool Reachable() const;
 
+    /// Runs when the form is loaded, before it is shown.
     virtual void Form_Load() {}
-    /// `Cancel` made true keeps the form.
+    /// Setting `Cancel` to true keeps the form loaded.
     virtual void Form_QueryUnload(bool& Cancel) { static_cast<void>(Cancel); }
     virtual void Form_Unload() { StoreState(); }
-    /// Writes down what of the form outlives it: its place, its choices. Part of Form_Unload, and also run, without the rest, where
-    /// the program is about to end without its handlers. Asks nothing of the front.
+    /// Stores what outlives the form, such as its place and its choices. Part of Form_Unload; also run on its own when the
+    /// program is about to end without running its handlers. Must not call the front.
     virtual void StoreState() {}
+    /// Runs after the size has changed, by the program or by the user.
     virtual void Form_Resize() {}
     virtual void Form_Click() {}
-    /// A key before the control that has the focus gets it; made kNoKey it ends here.
+    /// Sees each key before the control that has the focus; setting the key to kNoKey stops it here.
     virtual void Form_KeyPress(KeyCode& KeyAscii) { static_cast<void>(KeyAscii); }
 
 protected:
@@ -152,11 +155,11 @@ private:
     std::vector<Control*> controls_;
     std::vector<Control*> tabOrder_;
     Control* active_ = nullptr;
-    /// GotFocus of the active control has run, so its LostFocus is owed.
+    /// GotFocus of the active control has run, so its LostFocus must run when the focus leaves.
     bool entered_ = false;
 };
 
-/// The place of one form of the program, loaded or not. Named after the form; used like a pointer to it.
+/// Holds one form of the program, loaded or not. It has the form's name and is used like a pointer to the form.
 class FormSlotBase {
 public:
     FormSlotBase(std::string_view name, std::function<std::unique_ptr<Form>()> make);
@@ -165,9 +168,9 @@ public:
 
     const std::string& Name() const { return name_; }
     bool Loaded() const { return form_ != nullptr; }
-    /// The form if it is loaded, or nothing; loads nothing.
+    /// The form if it is loaded, or null. Never loads it.
     Form* Peek() const { return form_.get(); }
-    /// Loads the form if it is not: creates it, runs Form_Load.
+    /// Loads the form unless it is loaded: creates it and runs Form_Load.
     void Load();
     void Unload() {
         if (form_) form_->Unload();
@@ -183,14 +186,15 @@ private:
     std::function<std::unique_ptr<Form>()> make_;
 };
 
-/// The slot of a form of the class F, declared behind it as one variable of the program.
+/// The slot of a form of class F. Declared after the class, as the program's single variable for this form.
 template <class F>
 class FormSlot : public FormSlotBase {
 public:
+    /// For a form of class F, created with its default constructor.
     explicit FormSlot(std::string_view name) : FormSlotBase(name, [] { return std::make_unique<F>(); }) {}
-    /// Of a class derived from F, made by `make`.
+    /// For a form of a class derived from F, created by `make`.
     FormSlot(std::string_view name, std::function<std::unique_ptr<Form>()> make) : FormSlotBase(name, std::move(make)) {}
-    /// The form, loaded by this if it is not.
+    /// The form, loaded on first use.
     F* operator->() {
         Load();
         return static_cast<F*>(form_.get());
@@ -198,15 +202,15 @@ public:
     F& operator*() { return *operator->(); }
 };
 
-/// All forms that the program has, loaded or not.
+/// All forms of the program, loaded or not.
 const std::vector<FormSlotBase*>& FormSlots();
-/// The slot of this name, or nothing.
+/// The slot with this name, or null.
 FormSlotBase* FindFormSlot(std::string_view name);
 /// The loaded forms, in the order in which they were loaded.
 const std::vector<Form*>& LoadedForms();
-/// The form that gets the keys, or nothing.
+/// The form that receives keys, or null.
 Form* ActiveForm();
-/// The modal form in front, or nothing.
+/// The modal form in front, or null.
 Form* ModalForm();
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// All that a form of the program is made of: the form itself and every control.
+// Everything that a form is made of: the Form class and all controls.
 #pragma once
 
 #include "controls.h"

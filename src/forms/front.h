@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// What a front must be: the part of the program that shows the forms, as windows or only in memory.
+// The interface of a front: the part of the program that shows the forms, as windows or only in memory.
 //
-// A front mirrors what the forms and controls tell it and decides nothing. What the user does enters through the procedures
-// that forms and controls list under "From the front". Every call is made on the program's one thread.
+// A front mirrors the forms and controls and decides nothing. It passes user input on by calling the procedures of forms and
+// controls that are marked "Called by the front". All calls are made on the program's one thread.
 #pragma once
 
 #include <string_view>
@@ -18,29 +18,29 @@ struct Platform;
 class Front {
 public:
     virtual ~Front() = default;
-    /// The form has been created with the values of its design and has not run its load handler yet.
+    /// The form has been created with the values of its design. Its load handler has not run yet.
     virtual void Created(Form& form) = 0;
-    /// The form is about to go; nothing of it may be used after this call.
+    /// The form is about to be destroyed and must not be used after this call.
     virtual void Destroyed(Form& form) = 0;
-    /// A property of the form's frame has changed: caption, place, visibility, window state, enabled, pointer.
+    /// A property of the form's frame has changed: caption, place, visibility, window state, enabled state or pointer.
     virtual void Changed(Form& form) = 0;
     /// The form has become the active one.
     virtual void Activated(Form& form) = 0;
     /// Delivers events until the form is hidden or unloaded, or the program has ended.
     virtual void RunModal(Form& form) = 0;
-    /// Lets the window be painted now.
+    /// Repaints the window now.
     virtual void Refresh(Form& form) = 0;
-    /// Lets pending events run.
+    /// Delivers pending events.
     virtual void DoEvents() = 0;
-    /// Width of a text in a font of the windows, in points.
+    /// Width of a text in points, in one of the fonts used in windows.
     virtual double TextWidth(std::string_view text, const Font& font) = 0;
-    /// The program has ended, regularly or at once.
+    /// The program has ended, either regularly or by EndProgram.
     virtual void Ended() = 0;
 };
 
-/// The front installed. Must not be called before InstallPlatform.
+/// The installed front. Must not be called before InstallPlatform.
 Front& InstalledFront();
-/// Installs the front and the services of one run. Both replace any installed earlier and must outlive the run.
+/// Installs the front and the services for one run, replacing any installed earlier. Both must outlive the run.
 void InstallPlatform(Front& front, const Platform& services);
 
 }  // namespace vatro

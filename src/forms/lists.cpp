@@ -34,7 +34,7 @@ void ListBox::SetList(int row, std::string_view text) {
 }
 
 void ListBox::AddItem(std::string text) {
-    // std::string compares characters as unsigned.
+    // std::string compares characters as unsigned values.
     const auto place = order_ == ListOrder::Sorted ? std::upper_bound(items_.begin(), items_.end(), text) : items_.end();
     const int row = static_cast<int>(place - items_.begin());
     items_.insert(place, std::move(text));

@@ -14,40 +14,41 @@
 
 namespace vatro {
 
-/// Where an added row of a list box goes.
+/// Where a list box inserts a new row.
 enum class ListOrder {
-    /// To the end.
+    /// At the end.
     AsAdded,
     /// Before the first row that is greater by character code.
     Sorted
 };
 
-/// Rows of text of which one may be selected. Row numbers start at 0; no selection is -1.
+/// Rows of text, of which one may be selected. Rows are numbered from 0; -1 means no selection.
 class ListBox : public Control {
 public:
     ControlKind Kind() override { return this; }
     ReadOnlyControlKind Kind() const override { return this; }
     explicit ListBox(Form& form, std::string_view name, Font font = {}, int columns = 0);
+    /// A list box of one column whose new rows are inserted in this order.
     ListBox(Form& form, std::string_view name, Font font, ListOrder order);
     bool TakesFocus() const override { return true; }
     const Font& ListFont() const { return font_; }
-    /// Number of columns in which the rows run on, 0 for one row under the other.
+    /// Number of columns over which the rows are distributed; 0 for a plain list with one row per line.
     int ColumnCount() const { return columns_; }
 
     const std::vector<std::string>& Items() const { return items_; }
     int ListCount() const { return static_cast<int>(items_.size()); }
     /// Fails with 5 if there is no such row.
     const std::string& List(int row) const;
-    /// Another number after every change of the rows; no two lists ever have the same.
+    /// Changes with every edit; unique across lists.
     unsigned Revision() const { return revision_; }
-    /// Fails with 5 if there is no such row. It stays in its place, in a sorted list too.
+    /// Changes the text of a row, which keeps its position even in a sorted list. Fails with 5 if there is no such row.
     void SetList(int row, std::string_view text);
-    /// The selection stays on its item.
+    /// The selection stays on the same item.
     void AddItem(std::string text);
-    /// Fails with 5 if there is no such row. The selection stays on its item; it is gone if its item is.
+    /// Fails with 5 if there is no such row. The selection stays on the same item, or is cleared if that item is removed.
     void RemoveItem(int row);
     void Clear();
-    /// Keeps the mirror still until the end of a run of changes; a guard object of one procedure.
+    /// Suspends the mirror during a series of changes; a guard object for use inside one procedure.
     class Filling {
     public:
         explicit Filling(ListBox& list);
@@ -61,13 +62,14 @@ public:
     };
 
     int ListIndex() const { return listIndex_; }
-    /// Fails with 5 if there is no such row; -1 is no selection. Brings the row into view; runs Click if the selection has
-    /// become another one.
+    /// Selects the row and brings it into view; -1 clears the selection. Runs Click if the selection changes. Fails with 5 if
+    /// there is no such row.
     void SetListIndex(int row);
 
+    /// Runs when the user double-clicks a row.
     std::function<void()> DblClick;
 
-    // From the front.
+    // Called by the front.
     void UserSelected(int row);
     void UserDoubleClicked(int row);
 
@@ -83,7 +85,7 @@ private:
     bool filling_ = false;
 };
 
-/// Whether the text of a combo box can be edited or only be chosen.
+/// Whether the text of a combo box can be edited, or only chosen from the list.
 enum class ComboStyle { DropDown, DropDownList };
 
 /// A text field with a list of texts to choose from.
@@ -94,23 +96,25 @@ public:
     explicit ComboBox(Form& form, std::string_view name, ComboStyle style = ComboStyle::DropDown) : TextControl(form, name), style_(style) {
         SetLocked(style == ComboStyle::DropDownList);
     }
+    /// Whether the text can be edited.
     ComboStyle Style() const { return style_; }
 
     const std::vector<std::string>& Items() const { return items_; }
     int ListCount() const { return static_cast<int>(items_.size()); }
     const std::string& List(int row) const;
     void AddItem(std::string text);
-    /// Removes the items and the text; Change runs if there was one.
+    /// Removes the items and the text; runs Change if there was any text.
     void Clear();
     int ListIndex() const { return listIndex_; }
-    /// Fails with 5 if there is no such row; -1 leaves the text. Takes the item over as the text without a Change and runs Click.
+    /// Takes the item as the text without running Change, then runs Click; -1 keeps the text. Fails with 5 if there is no such
+    /// row.
     void SetListIndex(int row);
 
-    // From the front.
+    // Called by the front.
     void UserPicked(int row) { SetListIndex(row); }
 
 private:
-    /// Its text is selected, so that what is typed takes its place; a click only sets the caret.
+    /// Entering by key selects the text, so that typing replaces it; a click only sets the caret.
     void Entered(FocusWay way) override {
         if (way == FocusWay::Key) SelectAll();
     }

@@ -12,7 +12,7 @@ void FreeUnloadedForms();
 
 namespace {
 
-/// Unwinds the logic to the dispatcher when the program ends at once.
+/// Thrown to unwind the logic to the dispatcher when the program ends at once.
 struct Unwinding {};
 
 int depth = 0;
@@ -54,7 +54,7 @@ void Dispatch(const std::function<void()>& event) {
         platform().dialogs.ShowFailure(failure);
         ending = true;
     } catch (const Unwinding&) {
-        // The program is ending; the loop around this event leaves by itself.
+        // The program is ending; the loop around this event leaves on its own.
     }
     --depth;
     if (depth > 0) return;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Controls that hold text: a line of it under editing, or several lines to read.
+// Controls that hold text: a single line to edit, or several lines to read.
 #pragma once
 
 #include <cstddef>
@@ -12,53 +12,54 @@
 
 namespace vatro {
 
-/// A control that holds text with a caret in it: a text field, the field of a combo box, or a text to read.
+/// A control that holds text with a caret: a text field, the field of a combo box, or a read-only text.
 class TextControl : public Control {
 public:
     using Control::Control;
     bool TakesFocus() const override { return true; }
 
     const std::string& Text() const { return text_; }
-    /// Puts the caret at the start with nothing selected, whatever the length limit; runs Change if the text has
-    /// become another one.
+    /// Sets the text, ignoring the length limit, and puts the caret at the start with nothing selected. Runs Change if the text
+    /// changes.
     void SetText(std::string_view text);
-    /// At most so many characters by key and paste; 0 is no limit.
+    /// The maximum number of characters when typing or pasting; 0 means no limit.
     int MaxLength() const { return maxLength_; }
     void SetMaxLength(int length);
-    /// Keys and paste do not change the text.
+    /// Whether the text is protected against keys and paste.
     bool Locked() const { return locked_; }
     void SetLocked(bool locked);
 
     int SelStart() const { return selStart_; }
     int SelLength() const { return selLength_; }
-    /// Both are cut to the text.
+    /// Both values are limited to the text.
     void Select(int start, int length);
     void SelectAll() { Select(0, static_cast<int>(text_.size())); }
 
+    /// Runs when the text changes, by key, by paste or by the program.
     std::function<void()> Change;
-    /// Decides on every key that KeyPress leaves: lets it pass, changes it, or makes it nothing. It does nothing else, so that it may be
-    /// asked about a character that nobody has pressed.
+    /// Decides about every key that KeyPress lets through: accepts it, replaces it, or cancels it. Must have no side effects,
+    /// because it is also asked about characters that nobody has typed.
     std::function<void(KeyCode& KeyAscii)> KeyFilter;
-    /// Whether arrows beside it count its number.
+    /// Whether arrow buttons step the number in this field.
     bool Counted() const { return counted_; }
 
-    // From the front.
+    // Called by the front.
 
-    /// How many characters a key or a paste may still put in over the selection; never below 0.
+    /// How many characters a key or a paste may still insert in place of the selection; never below 0.
     std::size_t Room() const;
-    /// Puts text over the selection, as far as there is room, with the caret behind it, as a key or a paste does. A
-    /// field is one line: what stands behind a line end is left out.
+    /// Replaces the selection by the text, as far as there is room, and puts the caret after it, as a key or a paste does. Only
+    /// the first line of the text is used, because a field has one line.
     void Insert(std::string_view text);
-    /// Removes the selection, or the character before (after) the caret.
+    /// Delete the selection or, if there is none, the character before (DeleteBack) or after (DeleteForward) the caret.
     void DeleteBack();
     void DeleteForward();
-    /// The user has edited the text in a widget of its own, or moved the caret.
+    /// The user has edited the text or moved the caret in a widget that does its own editing.
     void UserEdited(std::string_view text, int selStart, int selLength);
-    /// As UserEdited, caret and selection alone.
+    /// Like UserEdited, for caret and selection only.
     void UserSelected(int selStart, int selLength);
 
 protected:
-    /// Takes the text over without a Change.
+    /// Sets the text without running Change.
     void TakeText(std::string_view text);
 
 private:
@@ -76,7 +77,7 @@ private:
     bool counted_ = false;
 };
 
-/// A field of one line.
+/// A text field of one line.
 class TextBox : public TextControl {
 public:
     using TextControl::TextControl;
@@ -84,8 +85,8 @@ public:
     ReadOnlyControlKind Kind() const override { return this; }
 };
 
-/// Several lines of text that the user reads, scrolls and copies from, but does not edit. Lines are ended by CR LF. Keys
-/// scroll and leave the caret where it is.
+/// Read-only text of several lines that the user can scroll and copy from. Lines end with CR LF. Keys scroll and do not move the
+/// caret.
 class TextView : public TextControl {
 public:
     ControlKind Kind() override { return this; }

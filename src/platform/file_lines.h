@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The lines of a numbered file as a stream. The number must be open, and stays open: opening and closing are the caller's.
+// Adapters that read and write a numbered file as a stream of lines. The caller opens the number beforehand and closes it
+// afterwards; the adapters do neither.
 #pragma once
 
 #include <string>
@@ -11,7 +12,7 @@
 
 namespace vatro {
 
-/// Reads the file that is open under a number. Fails as Files::LineInput and Files::EndOfFile do.
+/// Reads the file that is open under `number`. Fails like Files::LineInput and Files::EndOfFile.
 class FileLines : public LineSource {
 public:
     FileLines(Files& files, int number) : files_(files), number_(number) {}
@@ -23,7 +24,7 @@ private:
     int number_;
 };
 
-/// Writes to the file that is open under a number. Fails as Files::PrintLine does.
+/// Writes to the file that is open under `number`. Fails like Files::PrintLine.
 class FileSink : public LineSink {
 public:
     FileSink(Files& files, int number) : files_(files), number_(number) {}

@@ -19,7 +19,7 @@ void PageSurface::PrintPart(std::string_view text) {
     if (text.empty()) return;
     Begin();
     if (currentY > ScaleHeight() - TextHeight()) {
-        // The text keeps its place in the line.
+        // The text keeps its horizontal position on the new page.
         const double x = currentX;
         NewPage();
         currentX = x;

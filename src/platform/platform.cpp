@@ -16,7 +16,7 @@ const Platform& platform() {
 }
 
 void InstallPlatform(const Platform& services) {
-    // They may be those installed already.
+    // The argument may refer to the services that are installed now.
     const Platform copy = services;
     installed.emplace(copy);
 }

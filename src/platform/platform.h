@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// What the logic needs of the world, as interfaces. The program's main or the scenario player installs the services
-// before anything runs; every service lives until the program has stopped. All calls are made on the one thread of
-// the program, and all texts are in the code page.
+// The services that the logic needs from the outside world, as interfaces. The program's main function or the scenario player
+// installs them before anything else runs, and each service lives until the program has ended. All calls are made on the
+// program's one thread, and all text is in the code page.
 #pragma once
 
 #include <optional>
@@ -22,61 +22,62 @@ enum class Buttons { Ok, YesNo };
 enum class Icon { None, Information, Question, Exclamation, Critical };
 enum class Answer { Ok, Yes, No };
 
-/// A modal box that tells or asks something.
+/// A modal message or question.
 struct MessageBox {
     std::string text;
-    /// Empty: the program's own title.
+    /// If empty, the program's own title is shown.
     std::string title;
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
-    /// Of a Yes/No box: whether No is the default button. The first button is it otherwise.
+    /// In a Yes/No box: whether No is the default button. Otherwise the first button is the default.
     bool defaultNo = false;
 };
 
-/// A file dialogue.
+/// What to show in a file dialogue.
 struct FileDialog {
     std::string title;
     std::string fileName;
-    /// Pairs of description and patterns, all joined by "|", patterns by ";".
+    /// Pairs of a description and its patterns. Everything is separated by "|", several patterns of one pair by ";".
     std::string filter;
     std::string defaultExtension;
-    /// A file dialogue to write asks before it overwrites an existing file.
+    /// In a dialogue for saving: ask before overwriting an existing file.
     bool overwritePrompt = false;
     bool fileMustExist = false;
-    /// The file only marks the directory that is wanted. A front may let the user choose a directory instead, and gives back the
-    /// path of a file of this name in it; there is nothing to ask about then, whatever the file holds.
+    /// The file only marks the directory that is wanted. A front may let the user choose a directory instead and return the path
+    /// of a file of this name in it. It does not ask about overwriting then, whatever the file contains.
     bool markerFile = false;
 };
 
-/// The dialogues of the system. Time, timers and sound go on while one is open.
+/// The system's dialogues. Time, timers and sound keep running while one is open.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
-    /// Returns when the box has been answered; closing it is No, or OK where there is no No.
+    /// Returns the answer once the box is closed. Closing it without an answer counts as No, or as OK if there is no No.
     virtual Answer Show(const MessageBox& box) = 0;
-    /// The full path chosen. Fails with Failure::Cancelled.
+    /// Returns the full path that the user chose. Fails with Failure::Cancelled.
     virtual std::string SaveFile(const FileDialog& dialog) = 0;
     virtual std::string OpenFile(const FileDialog& dialog) = 0;
-    /// The choice of the printer and its paper, for all jobs to come. Fails with Failure::Cancelled.
+    /// Lets the user choose the printer and its paper, for all later jobs. Fails with Failure::Cancelled.
     virtual void SetUpPrinter() = 0;
-    /// The system's box for a run-time failure that nothing has caught; the program ends after it.
+    /// Shows the system's box for an uncaught run-time failure; the program ends after it.
     virtual void ShowFailure(const RunTimeError& failure) = 0;
 };
 
-/// The per-user store of settings, under the application's name. Keys and sections are compared without regard to case.
+/// The user's settings of this application. Section and key names are not case-sensitive.
 class Settings {
 public:
     virtual ~Settings() = default;
-    /// Nothing if the key is missing. Writes nothing.
+    /// The value, or nothing if the key is missing. Never writes.
     virtual std::optional<std::string> Read(std::string_view section, std::string_view key) = 0;
-    /// The value is on disk on return, or at the end of the batch that this stands in. Write failures are not reported.
+    /// Stores a value. It is on disk on return or, inside a batch, at the end of the batch. Write failures are not reported.
     virtual void Write(std::string_view section, std::string_view key, std::string_view text) = 0;
-    /// A batch of writes goes to the disk at its end, in one piece. Batches may lie in each other; the outermost one counts.
+    /// Groups writes: they go to disk together when the batch ends. Batches may be nested; only the end of the outermost one
+    /// writes.
     virtual void BeginBatch() {}
     virtual void EndBatch() {}
 };
 
-/// A batch of writes, as long as this lives.
+/// Holds a batch of writes open for as long as this object lives.
 class SettingsBatch {
 public:
     explicit SettingsBatch(Settings& settings) : settings_(settings) { settings_.BeginBatch(); }
@@ -88,41 +89,42 @@ private:
     Settings& settings_;
 };
 
+/// How a file is opened: to read it, to replace it, or to append to it.
 enum class FileMode { Input, Output, Append };
 
-/// Sequential text files by number, 1 and 2. Names in a path are found without regard to case. Every failure is a
-/// RunTimeError: 52 for a number that is not open, 54 for reading what is written or the other way round, else what the disk
-/// says.
+/// Sequential text files, addressed by number (1 or 2). File names are matched without regard to case. Every failure is a
+/// RunTimeError: 52 if the number is not open, 54 for reading a file opened for writing or the reverse, and otherwise the disk's
+/// own failure.
 class Files {
 public:
     virtual ~Files() = default;
-    /// Output replaces the file, Append creates it if it is missing. Fails with 55 if the number is in use.
+    /// Opens a file. Output replaces an existing file; Append creates a missing one. Fails with 55 if the number is in use.
     virtual void Open(int number, std::string_view path, FileMode mode) = 0;
-    /// The next line without its end, which is CR LF, LF or CR. Fails with 62 at the end of the file.
+    /// Reads the next line, without its line ending (CR LF, LF or CR). Fails with 62 at the end of the file.
     virtual std::string LineInput(int number) = 0;
-    /// Whether no line is left.
+    /// Whether no line is left to read.
     virtual bool EndOfFile(int number) = 0;
-    /// Writes the text and CR LF.
+    /// Writes the text followed by CR LF.
     virtual void PrintLine(int number, std::string_view text) = 0;
-    /// Writes the text alone.
+    /// Writes the text without a line ending.
     virtual void Print(int number, std::string_view text) = 0;
-    /// What was written is on the disk on return. A number that is not open is no failure.
+    /// Closes the file; everything written is on disk on return. Closing a number that is not open is not a failure.
     virtual void Close(int number) = 0;
-    /// Fails with 53 if there is no such file.
+    /// Deletes the file. Fails with 53 if it does not exist.
     virtual void Delete(std::string_view path) = 0;
-    /// Fails with 58 if `to` exists. The directory is on the disk on return.
+    /// Renames the file. Fails with 58 if `to` exists. The new name is on disk on return.
     virtual void Rename(std::string_view from, std::string_view to) = 0;
-    /// Gives the file `copy` the name of `name`, which it replaces. As a deletion and a renaming, with the failures of both: the
-    /// file of that name must exist. A disk that can do it in one step may override this.
+    /// Replaces the file `name` by the file `copy`. Works as a deletion followed by a renaming, and fails like both, so `name`
+    /// must exist. A disk that can do this in one step may override it.
     virtual void Replace(std::string_view copy, std::string_view name) {
         Delete(name);
         Rename(copy, name);
     }
-    /// Replaces `to`. The copy is on the disk on return.
+    /// Copies the file, replacing `to` if it exists. The copy is on disk on return.
     virtual void Copy(std::string_view from, std::string_view to) = 0;
-    /// The current directory, without a final separator.
+    /// The current directory, without a trailing separator.
     virtual std::string CurrentDirectory() = 0;
-    /// Backslash on Windows, slash elsewhere.
+    /// The path separator: a backslash on Windows, a slash elsewhere.
     virtual char Separator() const = 0;
 };
 
@@ -130,37 +132,38 @@ public:
 class Clock {
 public:
     virtual ~Clock() = default;
+    /// Local date and time.
     virtual DateTime Now() = 0;
-    /// Seconds since local midnight, with fractions.
+    /// Seconds since local midnight, including fractions.
     virtual double SecondsSinceMidnight() = 0;
-    /// The ticker was switched on or off, or its interval was set: its next tick falls due one interval from now, or
-    /// never if it is off. A ticker must be off before it goes.
+    /// To be called when the ticker has been switched on or off or its interval has changed. Its next tick is due one interval
+    /// from now, or never if it is off. A ticker must be switched off before it is destroyed.
     virtual void Schedule(Ticker& ticker) = 0;
 };
 
-/// The help viewer of the program.
+/// The program's help viewer.
 class Help {
 public:
     virtual ~Help() = default;
-    /// Opens the viewer on the help file and does not wait for it. Fails with 53 if there is no help.
+    /// Opens the viewer on the help file and returns without waiting for it to close. Fails with 53 if there is no help.
     virtual void Show(std::string_view path) = 0;
 };
 
-/// Whether another copy of the program is running for this user.
+/// Tells whether another copy of the program is running for this user.
 class Instance {
 public:
     virtual ~Instance() = default;
     virtual bool AnotherCopyRuns() = 0;
 };
 
-/// The program's version numbers, set at build time.
+/// The program's version number, set at build time.
 struct Version {
     int major = 0;
     int minor = 0;
     int revision = 0;
 };
 
-/// All services of one run. The front is installed with them, by the storey of the forms.
+/// All services of one run. The front is installed together with them; see forms/front.h.
 struct Platform {
     Dialogs& dialogs;
     Settings& settings;
@@ -173,14 +176,14 @@ struct Platform {
     Version version;
 };
 
-/// The services installed. Must not be called before InstallPlatform.
+/// The installed services. Must not be called before InstallPlatform.
 const Platform& platform();
 /// Replaces any services installed earlier.
 void InstallPlatform(const Platform& services);
 
-/// A box with an OK button and the program's title.
+/// Shows a box with an OK button and the program's title.
 void MsgBox(std::string_view text);
-/// Any other box.
+/// Shows any other box and returns the answer.
 Answer MsgBox(const MessageBox& box);
 
 }  // namespace vatro

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// What the program needs of a sound card: one looping buffer of 16-bit samples, one channel, that is refilled while it plays.
+// What the program needs from a sound card: a looping mono buffer of 16-bit samples that is refilled while it plays.
 //
-// The program writes into the buffer anywhere at any time. Samples of it are tied to events: when one of them has been played,
-// its event runs on the program's thread, like every other event of the user. A refill that comes too late is not reported; the
-// old samples are then heard once more. All places are counted in samples from the start of the buffer.
+// The program may write anywhere into the buffer at any time. Events can be attached to samples of the buffer: once such a sample
+// has been played, its event runs on the program's thread, like any user event. A late refill is not reported; the old samples
+// are simply heard again. All positions are counted in samples from the start of the buffer.
 #pragma once
 
 #include <cstdint>
@@ -14,36 +14,36 @@
 
 namespace vatro {
 
-/// What a buffer is created with.
+/// How to create a buffer.
 struct SoundFormat {
     int samplesPerSecond = 0;
-    /// Length of the buffer.
+    /// Length of the buffer in samples.
     int samples = 0;
 };
 
-/// An event by its handle; 0 is none.
+/// Handle of an event; 0 means none.
 using SoundEvent = int;
 
-/// The event that runs each time this sample has been played to its end.
+/// An event that runs each time this sample has been played to its end.
 struct PositionNotification {
     int sample = 0;
     SoundEvent event = 0;
 };
 
-/// A looping buffer. It falls silent when it is destroyed.
+/// A looping buffer. Destroying it stops the sound.
 class SoundBuffer {
 public:
     virtual ~SoundBuffer() = default;
-    /// Replaces the notifications set before.
+    /// Replaces any notifications set earlier.
     virtual void SetNotificationPositions(std::span<const PositionNotification> positions) = 0;
-    /// Puts the samples into the buffer, the first of them at `first`. Fails with 5 where they do not lie within the buffer.
+    /// Copies the samples into the buffer, starting at position `first`. Fails with 5 if they do not fit inside the buffer.
     virtual void Write(int first, std::span<const std::int16_t> samples) = 0;
-    /// The sample from which PlayLooping starts; a buffer that plays goes on from there at once. An event of the old position
-    /// that has not run yet does not run any more.
+    /// Sets the sample at which PlayLooping starts. A playing buffer jumps there at once. Events of the old position that have
+    /// not run yet are cancelled.
     virtual void SetCurrentPosition(int sample) = 0;
-    /// Plays round and round until Stop. A buffer that plays already goes on.
+    /// Plays in a loop until Stop. Does nothing if the buffer is already playing.
     virtual void PlayLooping() = 0;
-    /// Silent at once, with no ramp. The position stays. An event that has not run yet does not run any more.
+    /// Stops at once, without fading out. The position is kept. Events that have not run yet are cancelled.
     virtual void Stop() = 0;
 };
 
@@ -51,7 +51,7 @@ public:
 class SoundDevice {
 public:
     virtual ~SoundDevice() = default;
-    /// A silent buffer at position 0. Fails with 5 unless rate and length are above 0.
+    /// Creates a silent buffer at position 0. Fails with 5 unless the sample rate and the length are above 0.
     virtual std::unique_ptr<SoundBuffer> CreateBuffer(const SoundFormat& format) = 0;
 };
 
@@ -59,11 +59,11 @@ public:
 class Sound {
 public:
     virtual ~Sound() = default;
-    /// The callback gets the handle of its event, as an event of its own on the program's thread.
+    /// Creates an event. The callback receives the handle and runs on the program's thread, as an event of its own.
     virtual SoundEvent CreateEvent(std::function<void(SoundEvent)> callback) = 0;
-    /// The event does not run any more, even if it has been signalled.
+    /// Cancels the event: it no longer runs, even if it has already been signalled.
     virtual void DestroyEvent(SoundEvent event) = 0;
-    /// The default device. Fails with Failure::DeviceUnavailable when there is no sound card.
+    /// Opens the default device. Fails with Failure::DeviceUnavailable if there is no sound card.
     virtual std::unique_ptr<SoundDevice> CreateDevice() = 0;
 };
 

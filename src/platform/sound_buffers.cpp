@@ -8,7 +8,7 @@
 
 namespace vatro {
 
-/// The program's end of a buffer. Its player lives on the sound thread.
+/// The program's side of a buffer; its player lives on the sound thread.
 class ThreadedSoundDevice::Buffer : public SoundBuffer {
 public:
     Buffer(const ThreadedSoundDevice& device, const std::shared_ptr<SoundRing>& ring, int samplesPerSecond)
@@ -47,7 +47,7 @@ private:
     std::shared_ptr<SoundThread> thread_;
     std::shared_ptr<SoundRing> ring_;
     int player_ = 0;
-    /// Another number after each Stop and each move; used on the program's thread alone.
+    /// Changes with each Stop and each move. Only used on the program's thread.
     std::shared_ptr<unsigned> run_ = std::make_shared<unsigned>(0);
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A sound card whose buffers are played on the sound thread. What the program calls returns at once; notifications come back
-// as signals.
+// A sound card whose buffers are played on the sound thread. Calls from the program return at once; notifications come back as
+// signals.
 #pragma once
 
 #include <functional>
@@ -13,21 +13,21 @@
 
 namespace vatro {
 
-/// An event that has been signalled on the sound thread.
+/// A signal from the sound thread that an event is due.
 struct SoundSignal {
     SoundEvent event = 0;
     unsigned run = 0;
-    /// The run of the buffer now; looked at on the program's thread alone.
+    /// The buffer's current run number. Only read on the program's thread.
     std::shared_ptr<const unsigned> presentRun;
 
-    /// Whether the buffer has been stopped, moved or destroyed since. To be asked on the program's thread.
+    /// Whether the buffer has been stopped, moved or destroyed since the signal was sent. Call only on the program's thread.
     bool OutOfDate() const { return run != *presentRun; }
 };
 
-/// All of it is called on the program's thread alone. Buffers may outlive it.
+/// All members are called on the program's thread only. Buffers may outlive the device.
 class ThreadedSoundDevice : public SoundDevice {
 public:
-    /// `makeStream` and `signalled` are called on the sound thread, also after the device and its buffers have gone.
+    /// `makeStream` and `signalled` are called on the sound thread, even after the device and its buffers have been destroyed.
     ThreadedSoundDevice(std::shared_ptr<SoundThread> thread, std::function<std::unique_ptr<SoundStream>()> makeStream,
                         std::function<void(const SoundSignal&)> signalled);
     std::unique_ptr<SoundBuffer> CreateBuffer(const SoundFormat& format) override;

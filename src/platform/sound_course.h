@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Where a play round a looping buffer stands, and which of its notifications comes next.
+// Tracks how far a looping buffer has been played, and which of its notifications comes next.
 //
-// Every sound card of the platform counts by this, so that all of them notify at the same sample. Counts are in samples, from
-// where the play began.
+// Every sound card of the platform uses this class, so that all of them notify at the same sample. Counts are in samples since
+// playback began.
 #pragma once
 
 #include <cstddef>
@@ -15,33 +15,35 @@
 
 namespace vatro {
 
-/// One play, from Begin on.
+/// One playback, from Begin on.
 class SoundCourse {
 public:
-    /// A buffer of so many samples, at least one.
+    /// For a buffer of `samples` samples, at least 1.
     explicit SoundCourse(long long samples) : size_(samples) {}
 
+    /// Replaces the notifications set before. Of several at the same sample, only the first is reported.
     void SetPositions(std::span<const PositionNotification> positions) { positions_.assign(positions.begin(), positions.end()); }
-    /// The play begins at this sample of the buffer, and nothing has been played.
+    /// Starts a playback at this sample of the buffer; nothing has been played yet.
     void Begin(long long sample);
-    /// The sample of the buffer that stands behind so many played ones.
+    /// The buffer position reached after `played` samples.
     std::size_t At(long long played) const { return static_cast<std::size_t>((start_ + played) % size_); }
 
+    /// A notification position that is passed during playback.
     struct Passing {
-        /// Samples played until then.
+        /// Number of samples played when the position is passed.
         long long played = 0;
         SoundEvent event = 0;
     };
-    /// The first passing that has not been told yet, or nothing without positions. A sample is passed when it has been played to
-    /// its end.
+    /// The next notification that has not been delivered, or nothing if no positions are set. A sample counts as passed once it
+    /// has been played to its end.
     std::optional<Passing> Next() const;
-    /// The passing that Next gives has been told.
+    /// Marks the notification returned by Next as delivered.
     void Tell(const Passing& passing) { told_ = passing.played; }
 
 private:
     long long size_;
     long long start_ = 0;
-    /// The count of the passing told last.
+    /// Sample count of the last delivered notification.
     long long told_ = 0;
     std::vector<PositionNotification> positions_;
 };

@@ -9,7 +9,7 @@ namespace vatro {
 
 namespace {
 
-/// Between two tries to find a device again.
+/// Pause between two attempts to find a device again.
 constexpr std::chrono::milliseconds kRetry{1000};
 constexpr long long kMillisecondsPerSecond = 1000;
 constexpr long long kMicrosecondsPerSecond = 1'000'000;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Plays one looping buffer. Lives on the sound thread; what the program writes comes in through the ring.
+// Plays one looping buffer. Lives on the sound thread; the program's samples arrive through a SoundRing.
 //
-// The sound system gets a little ahead of what is heard. Notifications go by what is heard. An underrun
-// delays the sound and nothing else. A device that goes away while it plays is replaced by the default device of the
-// moment as soon as there is one; meanwhile the play goes on unheard, in time, so that a text comes to its end.
+// Samples are handed to the sound system a little ahead of what is heard, but notifications follow what is heard. An underrun
+// delays the sound and has no other effect. If the device disappears during playback, the player switches to the current default
+// device as soon as there is one. Until then it keeps counting time silently, so that a Morse text still comes to its end.
 #pragma once
 
 #include <chrono>
@@ -19,58 +19,63 @@
 
 namespace vatro {
 
-/// What a player asks of the sound system. Made, used and destroyed on the sound thread; falls silent when it goes.
+/// What a player needs from the sound system. Created, used and destroyed on the sound thread; destroying it stops the sound.
 class SoundStream {
 public:
     virtual ~SoundStream() = default;
-    /// Opens the default device for samples of 16 bits of one channel; false if there is none. What is still open has been
-    /// dropped before.
+    /// Opens the default device for 16-bit mono samples; false if there is none. The caller must have dropped a stream that is
+    /// open.
     virtual bool Open(int samplesPerSecond) = 0;
-    /// Silent at once. Nothing happens if it is not open.
+    /// Stops the sound at once and closes the stream. Does nothing if it is not open.
     virtual void Drop() = 0;
-    /// From an Open that succeeded to the next Drop.
+    /// True from a successful Open to the next Drop.
     virtual bool IsOpen() const = 0;
-    /// How many samples it takes now, or nothing if the device has gone. It is open.
+    /// How many samples the stream accepts now, or nothing if the device has disappeared. The stream must be open.
     virtual std::optional<std::size_t> Room() = 0;
-    /// How many of these it has taken, or nothing if the device has gone. It is open.
+    /// Writes samples and returns how many were accepted, or nothing if the device has disappeared. The stream must be open.
     virtual std::optional<std::size_t> Write(std::span<const std::int16_t> samples) = 0;
-    /// How much has been heard since it was opened, in microseconds. It is open.
+    /// How much sound has been heard since Open, in microseconds. The stream must be open.
     virtual long long HeardMicroseconds() const = 0;
     /// Calls `feed` every few milliseconds until StopFeeding.
     virtual void StartFeeding(std::function<void()> feed) = 0;
     virtual void StopFeeding() = 0;
-    /// For its log: the first samples have been handed over so long after the program asked for them.
+    /// For the stream's log: how long after the program's request the first samples were handed over.
     virtual void TellStarted(std::chrono::nanoseconds sinceAsked) = 0;
-    /// For its log: the device has gone while it played.
+    /// For the stream's log: the device disappeared during playback.
     virtual void TellGone() = 0;
 };
 
+/// Plays one buffer. Lives on the sound thread and is only called there. A run is the time between two calls of MoveTo or Stop;
+/// the program numbers the runs, to recognise notifications that are out of date.
 class SoundPlayer {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// `passed` is called on the sound thread when the sound heard has passed an offset, with the run it belongs to.
+    /// `passed` is called on the sound thread when the audible sound has passed a notification position, with the event and the
+    /// number of the run it belongs to.
     SoundPlayer(std::shared_ptr<SoundRing> ring, int samplesPerSecond, std::unique_ptr<SoundStream> stream,
                 std::function<void(SoundEvent event, unsigned run)> passed);
     SoundPlayer(const SoundPlayer&) = delete;
     SoundPlayer& operator=(const SoundPlayer&) = delete;
 
+    /// Replaces the notifications set before.
     void SetPositions(std::span<const PositionNotification> positions) { course_.SetPositions(positions); }
-    /// Goes to this sample; what is under way to the ear is dropped. A run begins.
+    /// Continues at this sample and drops samples that were handed over but not heard yet. Starts the run with this number.
     void MoveTo(long long sample, unsigned run);
-    /// `asked` is when the program asked for it.
+    /// `asked` is when the program requested playback.
     void Play(Clock::time_point asked);
+    /// Stops at once; the position is kept. Starts the run with this number.
     void Stop(unsigned run);
 
 private:
     void Begin(long long sample);
-    /// Hands over as many samples as the sound system takes; false if the device has gone.
+    /// Hands over as many samples as the sound system accepts; false if the device has disappeared.
     bool FillStream();
     void Feed();
     void TellPassings();
-    /// Samples heard since the play began.
+    /// Samples heard since playback began.
     long long Heard();
-    /// How long the play has gone on unheard.
+    /// How long playback has been running without a device.
     std::chrono::milliseconds Unheard() const;
 
     std::shared_ptr<SoundRing> ring_;
@@ -80,10 +85,10 @@ private:
     SoundCourse course_;
     unsigned run_ = 0;
     bool playing_ = false;
-    /// Handed over since the play began, and heard of it as far as is known.
+    /// Samples handed over since playback began, and how many of them are known to have been heard.
     long long handed_ = 0;
     long long heard_ = 0;
-    /// When the play began, or went on without a device.
+    /// When playback began, or when it continued without a device.
     Clock::time_point unheardSince_;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The samples of a looping buffer, between the thread that fills it and the one that plays it.
+// The samples of a looping buffer, shared by the thread that fills it and the thread that plays it.
 #pragma once
 
 #include <cstddef>
@@ -11,16 +11,16 @@
 
 namespace vatro {
 
-/// Any thread may call any of these at any time.
+/// All members may be called on any thread at any time.
 class SoundRing {
 public:
-    /// Silent.
+    /// Creates a silent buffer of `samples` samples.
     explicit SoundRing(int samples) : samples_(static_cast<std::size_t>(samples)) {}
-    /// In samples.
+    /// Length in samples.
     long long Size() const { return static_cast<long long>(samples_.size()); }
-    /// As SoundBuffer::Write, with its failure.
+    /// Same as SoundBuffer::Write, including its failure.
     void Write(int first, std::span<const std::int16_t> samples);
-    /// Copies from this sample on, round at the end.
+    /// Fills `to` with samples starting at `from`, wrapping around at the end of the buffer.
     void Read(std::size_t from, std::span<std::int16_t> to) const;
 
 private:

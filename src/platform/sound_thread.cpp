@@ -11,7 +11,7 @@ namespace vatro {
 
 namespace {
 
-/// Until the thread has ended.
+/// How long to wait for the thread to end.
 constexpr std::chrono::milliseconds kPatience{2000};
 
 }  // namespace
@@ -39,7 +39,7 @@ void SoundThread::Queue(std::function<void()> task) {
 bool SoundThread::Await(std::function<void()> task, std::chrono::milliseconds patience) {
     Start();
     if (ended_) return false;
-    // Whichever side is done with it last lets it go.
+    // Shared, because either side may be the last to use it.
     const auto done = std::make_shared<std::promise<void>>();
     const std::future<void> answer = done->get_future();
     Queue([done, task = std::move(task)] {
@@ -64,7 +64,7 @@ void SoundThread::Ask(int player, std::function<void(SoundPlayer&)> task) {
 }
 
 void SoundThread::RemovePlayer(int player) {
-    // It is out of reach before it goes: the sound system may let other tasks run meanwhile.
+    // Take the player out of the map before it is destroyed: the sound system may run other tasks during destruction.
     Queue([players = players_, player] { players->byNumber.extract(player); });
 }
 

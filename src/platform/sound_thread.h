@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// The thread on which the sound system is spoken to, and the players that live there.
+// The thread on which all calls to the sound system are made, and the players that live on it.
 //
-// Everything of the sound system is created and used there and nowhere else: its link belongs to the thread that has made it
-// first, and falls apart under another one when the sound system goes away. The thread itself is a port: it has to wait for the
-// sound system too, so it is the toolkit's on the desktop.
+// Everything in the sound system is created and used on this thread only. The connection to the sound system belongs to the
+// thread that first created it, and breaks if the sound system disappears while another thread uses it. The thread itself is a
+// port (SoundLoop), because it must also wait for events of the sound system; on the desktop it is a thread of the toolkit.
 #pragma once
 
 #include <chrono>
@@ -15,37 +15,40 @@ namespace vatro {
 
 class SoundPlayer;
 
-/// A thread that does what is posted to it. All of it is called on the program's thread alone.
+/// A thread that runs posted tasks. All members are called on the program's thread only.
 class SoundLoop {
 public:
-    /// The thread has ended, or is left to itself.
+    /// By now the thread has ended or has been abandoned.
     virtual ~SoundLoop() = default;
-    /// Begins the thread; once. `atEnd` runs there behind everything else, and nothing that was posted runs after it.
+    /// Starts the thread; call once. `atEnd` runs on the thread after all other tasks, and no posted task runs after it.
     virtual void Start(std::function<void()> atEnd) = 0;
-    /// Has it done there, in the order of the calls. It is called between Start and End alone.
+    /// Runs the task on the thread; tasks run in the order of the calls. Call only between Start and End.
     virtual void Queue(std::function<void()> task) = 0;
-    /// Ends the thread as soon as the task under way is done; what has not begun by then is not done. Once. False if the thread
-    /// hangs for so long; it is left to itself then.
+    /// Ends the thread once its current task is done; tasks that have not started are dropped. Call once. Returns false if the
+    /// thread has not ended within `patience`; it is then abandoned.
     virtual bool End(std::chrono::milliseconds patience) = 0;
 };
 
-/// Used on the program's thread alone.
+/// All members are called on the program's thread only.
 class SoundThread {
 public:
     explicit SoundThread(std::unique_ptr<SoundLoop> loop);
-    /// Ends it.
+    /// Calls End.
     ~SoundThread();
     SoundThread(const SoundThread&) = delete;
     SoundThread& operator=(const SoundThread&) = delete;
 
-    /// Has it done there and waits for it; false if it has not been done in this time.
+    /// Runs the task on the sound thread and waits for it; false if it has not finished within `patience`.
     bool Await(std::function<void()> task, std::chrono::milliseconds patience);
-    /// Has a player made there. Its number is never 0.
+    /// Creates a player on the sound thread. Returns its number, which is never 0.
     int AddPlayer(std::function<std::unique_ptr<SoundPlayer>()> make);
-    /// Has it done there, in the order asked; nothing if there is no such player any more.
+    /// Runs the task with this player on the sound thread, in the order of the calls. Does nothing if the player no longer
+    /// exists.
     void Ask(int player, std::function<void(SoundPlayer&)> task);
+    /// Destroys the player on the sound thread, after the tasks posted before.
     void RemovePlayer(int player);
-    /// All players go; nothing is done from now on. False if the thread hangs in the sound system and is left to itself.
+    /// Destroys all players; later tasks are ignored. Returns false if the thread hangs in the sound system and had to be
+    /// abandoned.
     bool End();
 
 private:
@@ -55,10 +58,10 @@ private:
     void Queue(std::function<void()> task);
 
     std::unique_ptr<SoundLoop> loop_;
-    /// Touched on the thread alone; who holds it besides does not look into it.
+    /// Accessed on the sound thread only. Other owners keep it alive but never look inside.
     std::shared_ptr<Players> players_;
     int lastPlayer_ = 0;
-    /// The loop runs from the first task to End.
+    /// The loop runs from the first task until End.
     bool started_ = false;
     bool ended_ = false;
 };

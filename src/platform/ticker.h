@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// What the clock lets tick.
+// The interface through which the clock ticks.
 #pragma once
 
 namespace vatro {
 
-/// Something that ticks at an interval: a timer of a form.
+/// Something that ticks at an interval, such as a form's timer.
 class Ticker {
 public:
     virtual ~Ticker() = default;
@@ -13,7 +13,7 @@ public:
     virtual int Interval() const = 0;
     /// Whether it ticks at all.
     virtual bool Running() const = 0;
-    /// One interval has passed. Called by the clock inside an event of its own.
+    /// Called by the clock, as an event of its own, each time one interval has passed.
     virtual void Tick() = 0;
 };
 

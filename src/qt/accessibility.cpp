@@ -18,7 +18,7 @@ class AccessibleCombo : public QAccessibleWidget {
 public:
     explicit AccessibleCombo(QComboBox& combo) : QAccessibleWidget(&combo, QAccessible::ComboBox), combo_(combo) {}
 
-    /// The list, and the field if there is one.
+    /// The list and, if the combo box is editable, the text field.
     int childCount() const override { return combo_.isEditable() ? 2 : 1; }
     QAccessibleInterface* child(int index) const override {
         if (index == 0) return QAccessible::queryAccessibleInterface(combo_.view());

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// How the widgets present themselves to a screen reader where Qt's own way would mislead it: a combo box by its name and not by
-// its text alone, an option as one of several although its control turns the others off, a caption as text.
+// Corrects how some widgets present themselves to screen readers, where Qt's default would be misleading: a combo box is announced by
+// its name, not only by its text; an option is announced as one of several, although the control, not Qt, turns the others off; a
+// caption is announced as text.
 #pragma once
 
 namespace vatro {
 
-/// Once, after QApplication has been made.
+/// Call once, after QApplication has been created.
 void InstallAccessibility();
 
 }  // namespace vatro

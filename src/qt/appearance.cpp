@@ -23,9 +23,9 @@ constexpr std::string_view kSection = "Settings";
 constexpr std::string_view kSun = "Solskin";
 constexpr std::string_view kTextSize = "TekstStr";
 
-/// A step makes the text so much larger.
+/// Each step changes the text size by this fraction.
 constexpr double kStep = 0.1;
-/// The font of a widget as its layout gives it.
+/// Property that stores a widget's font as its layout sets it.
 constexpr const char* kOwnFont = "vatroOwnFont";
 
 QPalette SunPalette() {
@@ -82,13 +82,13 @@ void Appearance::SetTextSize(int step) {
 }
 
 void Appearance::Apply() {
-    // An empty palette is that of the desktop, light or dark.
+    // An empty palette means the desktop's own, light or dark.
     QApplication::setPalette(Sun() ? SunPalette() : QPalette());
     QList<QWidget*> widgets{&window_};
     for (QWidget* widget : window_.findChildren<QWidget*>())
-        // Other windows above this one keep their text.
+        // Other windows that belong to this one keep their text size.
         if (widget->window() == &window_ || qobject_cast<QMenu*>(widget) != nullptr) widgets.append(widget);
-    // All of them before the first is changed: a font is handed down.
+    // Store all fonts before changing the first, because widgets inherit their parent's font.
     for (QWidget* widget : widgets)
         if (!widget->property(kOwnFont).isValid()) widget->setProperty(kOwnFont, widget->font());
     for (QWidget* widget : widgets) {
@@ -104,7 +104,8 @@ void Appearance::Apply() {
 void Appearance::GrowToContent() {
     const auto* room = qobject_cast<ScrollRoom*>(window_.centralWidget());
     if (room == nullptr || window_.isMaximized()) return;
-    // What the new fonts ask for goes up from layout to layout by this, also before the window is shown.
+    // Activate the layouts from the innermost outwards, so that the new font sizes reach the window's layout even before the window is
+    // shown.
     const QList<QWidget*> inside = room->findChildren<QWidget*>();
     for (auto widget = inside.crbegin(); widget != inside.crend(); ++widget)
         if ((*widget)->layout() != nullptr) (*widget)->layout()->activate();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// How the main window looks to its user: black on white and bold for bright sun, and the size of its text. Kept among the
-// settings; no text, order or rule of the program depends on it.
+// The user's display options for the main window: bold black on white for bright sunlight, and the text size. They are stored with the
+// settings; nothing else in the program depends on them.
 #pragma once
 
 #include <QObject>
@@ -16,10 +16,10 @@ class Appearance : public QObject {
     Q_OBJECT
 
 public:
-    /// Adds its entries to the menu, and looks as it did when the program was last used. The window must have all its widgets.
+    /// Adds the entries to the menu and applies the stored options. The window must already contain all its widgets.
     Appearance(QMainWindow& window, QMenu& menu);
 
-    /// Steps from the size of the layout, from kSmallest to kLargest.
+    /// Text size in steps from the size of the layout, from kSmallest to kLargest.
     static constexpr int kSmallest = -3;
     static constexpr int kLargest = 10;
     int TextSize() const { return step_; }

@@ -9,7 +9,7 @@
 
 #include "accessibility.h"
 
-// Outside every namespace, as Qt asks.
+// Must be outside of every namespace, because Qt's resource macro requires it.
 static void UseIcon() {
     Q_INIT_RESOURCE(icon);
 }
@@ -31,7 +31,7 @@ void PrepareApplication() {
     QApplication::setQuitOnLastWindowClosed(false);
     UseIcon();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icon/dk.vatro.Vatro.svg")));
-    // Qt's own words, of its file dialogue and context menus, where they are installed.
+    // Qt's own texts, for example in its file dialogue and context menus, if the translation is installed.
     auto* danish = new QTranslator(qApp);
     if (danish->load(QStringLiteral("qtbase_da"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(danish);

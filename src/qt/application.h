@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// What both window programs set up before anything is shown.
+// Preparations that both window programs make before anything is shown.
 #pragma once
 
 namespace vatro {
 
-/// Names, icon, Danish words of Qt, fonts readable at arm's length, and that the program, not its last window, ends it. After QApplication.
+/// Sets the names, the icon, Qt's Danish translation and fonts readable at arm's length, and prevents Qt from quitting when the last
+/// window closes. Call after creating QApplication.
 void PrepareApplication();
 
 }  // namespace vatro

@@ -25,7 +25,7 @@ namespace {
 constexpr const char* kToolIndex = "vatroIndex";
 
 void PushTick(const MenuItem& item, QAction& action) {
-    // An entry has room for a tick only while it has one.
+    // Checkable entries reserve space for a tick, so make an entry checkable only while it is ticked.
     action.setCheckable(item.Ticked());
     action.setChecked(item.Ticked());
 }
@@ -58,7 +58,7 @@ QAction* AddEntry(MenuItem& item, QMenu& menu, QObject& scope) {
         if (aspect == Aspect::Value) PushTick(item, *action);
     };
     QObject::connect(action, &QAction::triggered, &scope, [&item, action] {
-        // Qt has flipped the tick by itself.
+        // Undo the toggle that Qt has made; the control decides about the tick.
         PushTick(item, *action);
         Deliver([&] {
             if (item.Parent().Reachable()) item.Choose();
@@ -80,7 +80,7 @@ QString ObjectName(const Control& control) {
 }
 
 void AddBars(const Form& form, QMainWindow& window) {
-    // Qt's menu of a main window hides toolbars, which the form knows nothing of.
+    // Qt's default context menu of a main window would let the user hide toolbars without the form knowing.
     window.setContextMenuPolicy(Qt::NoContextMenu);
     for (const Control* control : form.Controls()) {
         ByKind(
@@ -102,7 +102,7 @@ void BindMenu(Form& form, QMainWindow& window, Bindings& bindings) {
         if (item == nullptr || item->Menu() != nullptr) continue;
         QMenu* menu = window.menuBar()->addMenu(ToQt(item->Caption()));
         QAction* action = AddMenu(*item, *menu, scope);
-        // A menu left without a choice gives the keys back at once; Qt would keep them in the menu bar.
+        // When a menu is closed without a choice, return the focus to the form at once; Qt would leave it in the menu bar.
         QObject::connect(menu, &QMenu::aboutToHide, &scope, [&bindings] {
             QTimer::singleShot(0, &bindings.Scope(), [&bindings] {
                 if (QApplication::activePopupWidget() == nullptr) bindings.FollowFocusSoon();
@@ -133,7 +133,7 @@ void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings) {
         action->setVisible(button.visible);
         action->setToolTip(button.toolTip.empty() ? tip : ToQt(button.toolTip));
         QObject::connect(action, &QAction::triggered, &bindings.Scope(), [&control, &widget, index = button.index] {
-            // Qt has flipped the button by itself; the control says which are pressed.
+            // Undo the toggle that Qt has made; the control decides which buttons are pressed.
             PushPressed(control, widget);
             Deliver([&] {
                 if (control.Parent().Reachable()) control.UserPressed(index);
@@ -142,7 +142,8 @@ void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings) {
         if (auto* face = qobject_cast<QToolButton*>(widget.widgetForAction(action))) {
             face->setFocusPolicy(Qt::NoFocus);
             face->setAccessibleName(ToQt(button.caption));
-            // The pressed button stands out by its letters too, and no button changes its width by that.
+            // The pressed button has a bold caption as well. Reserve the width of the bold text, so that buttons do not change their
+            // width.
             QFont bold = face->font();
             bold.setBold(true);
             face->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(ToQt(button.caption)) + 2 * face->fontMetrics().averageCharWidth());
@@ -169,7 +170,7 @@ void Bind(StatusBar& control, QStatusBar& widget, Bindings& /*bindings*/) {
     for (std::size_t number = 1; number <= control.Panels().size(); ++number) {
         auto* panel = new StatusPanel(&widget);
         panel->setObjectName(ObjectName(control) + u'_' + QString::number(number));
-        // The first panel takes the room that the others leave.
+        // The first panel takes the space that the others do not need.
         if (number == 1) {
             panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
             QFont bold = panel->font();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Menu, toolbar and status bar of a main form, built from the form's own description.
+// The menu, toolbar and status bar of a main form, built from the form's description.
 #pragma once
 
 #include <QList>
@@ -18,7 +18,7 @@ namespace vatro {
 class Bindings;
 class StatusPanel;
 
-/// Adds empty bars, named after the controls that will fill them.
+/// Adds empty bars to the window, named after the controls that they will show.
 void AddBars(const Form& form, QMainWindow& window);
 
 /// Fills the menu bar with the form's entries.
@@ -26,14 +26,14 @@ void BindMenu(Form& form, QMainWindow& window, Bindings& bindings);
 void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings);
 void Bind(StatusBar& control, QStatusBar& widget, Bindings& bindings);
 
-/// The action of a menu entry in its window.
+/// The action of a menu entry, or null.
 QAction* ActionOf(const MenuItem& item, const QMainWindow& window);
-/// The action of a toolbar's button.
+/// The action of a toolbar button by its index, or null.
 QAction* ActionOf(int index, const QToolBar& bar);
-/// The panels of a status bar, from the first on.
+/// The panels of a status bar, in order.
 QList<StatusPanel*> PanelsOf(const QStatusBar& bar);
 
-/// The object name that belongs to a control: "Text1_0", "List1".
+/// The object name of the widget for a control, such as "Text1_0" or "List1".
 QString ObjectName(const Control& control);
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What all pairs of control and widget have in common.
+// What the bindings of all kinds of control share.
 #pragma once
 
 #include <QWidget>
@@ -11,15 +11,15 @@ class QPushButton;
 
 namespace vatro {
 
-/// Shows whether the control can be used, is shown, takes the focus, and its tooltip.
+/// Shows the control's common state: enabled, visible, whether it takes the focus, and its tooltip.
 void PushState(const Control& control, QWidget& widget);
-/// Takes over one of these that has changed.
+/// Updates the part of the common state that has changed.
 void FollowState(const Control& control, QWidget& widget, Aspect aspect);
-/// The font that the program names, as it is drawn here: the list's font of old is the system's fixed-pitch one.
+/// Converts a font of the program to a font of the desktop. The classic list font becomes the system's fixed-pitch font.
 QFont ToQt(const Font& font, const QFont& otherwise);
-/// A long caption keeps its distance from the edges of its button, as a short one does.
+/// Widens a button with a long caption, so that the caption keeps its distance from the edges.
 void WidenButton(QPushButton& button);
-/// The fixed-pitch font of lists and fields, readable at arm's length.
+/// The fixed-pitch font for lists and fields, readable at arm's length.
 QFont FixedPitchFont();
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Text fields, combo boxes and texts to read.
+// Bindings of text fields, combo boxes and read-only texts.
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -20,12 +20,12 @@ namespace {
 
 constexpr int kNoLimit = 32767;
 
-/// The limit holds for the user; a text that the program has put in may be longer.
+/// The limit applies to the user only; the program may have set a longer text, so raise the widget's limit to its length.
 void PushLimit(const TextControl& control, QLineEdit& editor) {
     const int length = static_cast<int>(control.Text().size());
     const int limit = control.MaxLength() > 0 ? qMax(control.MaxLength(), length) : kNoLimit;
     if (editor.maxLength() == limit) return;
-    // Qt puts the text in anew, with the caret at its end.
+    // setMaxLength sets the text again and moves the caret to the end.
     const QSignalBlocker quiet(editor);
     editor.setMaxLength(limit);
     PushSelection(control, editor);
@@ -39,7 +39,7 @@ void PushText(const TextControl& control, QLineEdit& editor) {
         editor.setText(text);
         PushSelection(control, editor);
     }
-    // A text that came from the editor leaves its caret where it is; the selection follows by itself.
+    // If the text came from the editor, leave the caret alone; the selection is updated separately.
     PushLimit(control, editor);
 }
 
@@ -50,7 +50,7 @@ void FollowEditor(const TextControl& control, QLineEdit& editor, Aspect aspect) 
     if (aspect == Aspect::Locked) editor.setReadOnly(control.Locked());
 }
 
-/// What the user does in the editor by key, paste, drop or undo, and where the caret goes.
+/// Passes the user's edits (by key, paste, drop or undo) and caret movements to the control.
 void ConnectEditor(TextControl& control, QLineEdit& editor, QObject& scope) {
     const auto selection = [&editor] {
         return editor.hasSelectedText() ? std::pair(editor.selectionStart(), static_cast<int>(editor.selectionLength()))
@@ -61,7 +61,7 @@ void ConnectEditor(TextControl& control, QLineEdit& editor, QObject& scope) {
         Deliver([&, start = start, length = length] { control.UserEdited(FromQt(text), start, length); });
     });
     const auto moved = [&control, &editor, selection] {
-        // A field that loses the focus shows no selection any more; it still has it.
+        // A field without the focus shows no selection, but the control keeps it.
         const QWidget* focused = editor.window()->focusWidget();
         if (focused == nullptr || (focused != &editor && focused != editor.focusProxy())) return;
         const auto [start, length] = selection();
@@ -102,7 +102,7 @@ void Bind(TextBox& control, QLineEdit& widget, Bindings& bindings) {
 
 namespace {
 
-/// Qt's document has one character for a line end, the program's text two.
+/// Converts a position in the program's text, where a line end is two characters, to Qt's document, where it is one.
 int InDocument(std::string_view text, int at) {
     return at - static_cast<int>(std::count(text.begin(), text.begin() + at, '\n'));
 }
@@ -129,7 +129,7 @@ void PushText(const TextView& control, QPlainTextEdit& widget) {
 }  // namespace
 
 void Bind(TextView& control, QPlainTextEdit& widget, Bindings& bindings) {
-    // Keys scroll, and the mouse selects what is to be copied.
+    // Keys only scroll; the mouse selects text for copying.
     widget.setTextInteractionFlags(Qt::TextSelectableByMouse);
     widget.setTabChangesFocus(true);
     PushState(control, widget);
@@ -165,7 +165,7 @@ void Bind(ComboBox& control, QComboBox& widget, Bindings& bindings) {
     editor.setReadOnly(control.Style() == ComboStyle::DropDownList);
     bindings.AddInput(control, widget, &editor);
     ConnectEditor(control, editor, bindings.Scope());
-    // Qt would choose the item whose text has been typed, when the field is left.
+    // Prevent Qt from choosing the item that matches the typed text when the field is left.
     QObject::disconnect(&editor, &QLineEdit::editingFinished, &widget, nullptr);
     QObject::connect(&widget, &QComboBox::activated, &bindings.Scope(), [&control](int row) {
         Deliver([&] {

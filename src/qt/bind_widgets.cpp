@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Lists, buttons, boxes, labels, pictures and frames.
+// Bindings of lists, buttons, check boxes, labels, pictures and frames.
 #include <QCheckBox>
 #include <QFontDatabase>
 #include <QFrame>
@@ -34,7 +34,7 @@ QColor ColourOf(Colour colour) {
     return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
 }
 
-/// Black on no ground of its own is whatever the desktop writes in.
+/// Black text without a background of its own uses the desktop's text colour.
 QColor TextColour(const Label& label) {
     return label.ForeColour() == kBlack && !label.Opaque() ? QColor() : ColourOf(label.ForeColour());
 }
@@ -67,12 +67,12 @@ void BindText(Label& control, W& widget) {
 }
 
 void PushProgress(const ProgressBar& control, QProgressBar& widget) {
-    // A bar from 0 to 0 would be drawn as one whose end is not known.
+    // Qt draws a range of 0 to 0 as a busy indicator.
     widget.setRange(0, std::max(control.Max(), 1));
     widget.setValue(control.Value());
 }
 
-/// The form owns the access key; the button only shows it.
+/// The form handles the access key; the button only shows it.
 void PushCaption(const std::string& caption, QAbstractButton& widget) {
     widget.setText(ToQt(caption));
     widget.setShortcut(QKeySequence());
@@ -89,8 +89,8 @@ void PushRow(const ListBox& control, ItemList& widget) {
     if (index.isValid()) widget.scrollTo(index);
 }
 
-/// On the way the selected row has a number that the program does not know, and of one that goes Qt selects the neighbour:
-/// none of that is the user's choice.
+/// Changes rows while selection signals are blocked. During the change, the selected row may have a number that the program does not
+/// know yet, and Qt selects a neighbour of a removed row; neither is the user's choice.
 template <class Change>
 void ChangeRows(const ListBox& control, ItemList& widget, Change change) {
     const QSignalBlocker quiet(widget.selectionModel());
@@ -164,7 +164,7 @@ void Bind(ListBox& control, ItemList& widget, Bindings& bindings) {
     widget.setModel(model);
     PushRow(control, widget);
     bindings.AddInput(control, widget, nullptr);
-    // Goes with the window's connections, before the rows do.
+    // Runs when the window's connections are closed, before the rows are gone.
     QObject::connect(&bindings.Scope(), &QObject::destroyed, model, &ItemModel::Release);
     QObject::connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, &bindings.Scope(), [&control, &widget] {
         const QModelIndexList rows = widget.selectionModel()->selectedIndexes();
@@ -224,7 +224,7 @@ void Bind(CheckBox& control, QCheckBox& widget, Bindings& bindings) {
     widget.setChecked(control.Value());
     bindings.AddInput(control, widget, nullptr);
     QObject::connect(&widget, &QAbstractButton::clicked, &bindings.Scope(), [&control, &widget] {
-        // Qt has flipped the box by itself; the control decides.
+        // Undo the toggle that Qt has made; the control decides.
         widget.setChecked(control.Value());
         Deliver([&] {
             if (control.Parent().Reachable()) control.Flip();
@@ -239,12 +239,12 @@ void Bind(CheckBox& control, QCheckBox& widget, Bindings& bindings) {
 void Bind(OptionButton& control, QRadioButton& widget, Bindings& bindings) {
     PushState(control, widget);
     PushCaption(control.Caption(), widget);
-    // The frame's other options are turned off by the control.
+    // The control, not Qt, turns off the other options of the frame.
     widget.setAutoExclusive(false);
     widget.setChecked(control.Value());
     bindings.AddInput(control, widget, nullptr);
     QObject::connect(&widget, &QAbstractButton::clicked, &bindings.Scope(), [&control, &widget] {
-        // Qt has flipped the button by itself; the control decides.
+        // Undo the toggle that Qt has made; the control decides.
         widget.setChecked(control.Value());
         Deliver([&] {
             if (control.Parent().Reachable()) control.UserChosen(FocusWay::Mouse);
@@ -263,7 +263,7 @@ void Bind(ScrollBar& control, QScrollBar& widget, Bindings& bindings) {
     widget.setSingleStep(limits.smallChange);
     widget.setPageStep(limits.largeChange);
     widget.setValue(control.Value());
-    // One change for a slide that is drawn, when it is let go.
+    // Report one change when the slider is released, not many while it is dragged.
     widget.setTracking(false);
     widget.setContextMenuPolicy(Qt::PreventContextMenu);
     bindings.AddInput(control, widget, nullptr);

@@ -31,7 +31,7 @@ namespace vatro {
 
 namespace {
 
-/// Binds the control if the widget is of one of these classes; a class stands before the one that it is derived from.
+/// Binds the control if the widget is of one of these classes. List a class before its base class.
 template <class... W, class C>
 bool BindAs(C& control, QWidget& widget, Bindings& bindings) {
     const auto bind = [&](auto* own) {
@@ -42,7 +42,7 @@ bool BindAs(C& control, QWidget& widget, Bindings& bindings) {
     return (bind(qobject_cast<W*>(&widget)) || ...);
 }
 
-/// The pairs of control and widget that there are.
+/// All supported pairs of control and widget.
 bool BindPair(Control& control, QWidget& widget, Bindings& bindings) {
     return ByKind(
         control, [&](TextBox& c) { return BindAs<QLineEdit>(c, widget, bindings); },
@@ -59,7 +59,7 @@ bool BindPair(Control& control, QWidget& widget, Bindings& bindings) {
         [&](StatusBar& c) { return BindAs<QStatusBar>(c, widget, bindings); },
         [&](UpDown& c) { return BindAs<SpinArrows>(c, widget, bindings); },
         [&](ProgressBar& c) { return BindAs<QProgressBar>(c, widget, bindings); },
-        // The one shows nothing, the other is an action of the menu bar.
+        // A timer has no widget, and a menu item is an action of the menu bar.
         [](Timer&) { return false; }, [](MenuItem&) { return false; });
 }
 
@@ -67,20 +67,20 @@ bool HasWidget(const Control& control) {
     return As<Timer>(&control) == nullptr && As<MenuItem>(&control) == nullptr;
 }
 
-/// The widgets of the window itself, without those of windows above it.
+/// The widgets of the window itself, without those of windows that belong to it.
 QList<QWidget*> WidgetsOf(const QWidget& top, const QString& name = {}) {
     QList<QWidget*> widgets = top.findChildren<QWidget*>(name);
     widgets.removeIf([&](const QWidget* widget) { return widget->window() != &top; });
     return widgets;
 }
 
-/// A caption as it is spoken.
+/// A caption as a screen reader should speak it.
 QString Spoken(const std::string& caption) {
     const QString plain = PlainCaption(caption);
     return plain.endsWith(u':') ? plain.chopped(1) : plain;
 }
 
-/// What the control is called where it is not seen.
+/// The name of the control for screen readers.
 QString SpokenName(const Control& control) {
     if (const auto* captioned = As<CaptionedControl>(&control)) return Spoken(captioned->Caption());
     for (const Control* other : control.Parent().Controls()) {
@@ -98,7 +98,7 @@ void NameWidget(const Control& control, QWidget& widget, Bindings& bindings) {
     if (const auto* combo = qobject_cast<QComboBox*>(&widget)) named.append(combo->lineEdit());
     for (QWidget* one : named) {
         one->setAccessibleName(name);
-        // What fills its window is called as the window is.
+        // A widget without a name of its own is named after its window.
         if (name.isEmpty()) bindings.NameByCaption(*one);
     }
 }
@@ -127,7 +127,7 @@ bool Bindable(const QWidget& widget) {
            qobject_cast<const QPlainTextEdit*>(&widget) != nullptr || qobject_cast<const PictureView*>(&widget) != nullptr;
 }
 
-/// What a widget has inside itself is its own.
+/// Whether `widget` is an internal part of `owner`.
 bool Inside(const QWidget& widget, const QWidget& owner) {
     if (const auto* room = qobject_cast<const ScrollRoom*>(&owner)) return !room->widget()->isAncestorOf(&widget);
     return qobject_cast<const QComboBox*>(&owner) != nullptr || qobject_cast<const QAbstractScrollArea*>(&owner) != nullptr ||
@@ -135,7 +135,7 @@ bool Inside(const QWidget& widget, const QWidget& owner) {
            owner.inherits("QMenuBar");
 }
 
-/// Widgets of the layout that no control owns.
+/// Reports bindable widgets of the layout that no control owns.
 void FindOrphans(const Form& form, const QWidget& top, Bindings& bindings) {
     std::set<QString> known{QStringLiteral("FormCaption")};
     for (const Control* control : form.Controls()) {

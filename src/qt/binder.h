@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Ties each control of a form to the widget of its name: Text1(1) to Text1_1.
+// Binds each control of a form to the widget with its name: Text1(1) to Text1_1.
 //
-// There is one function Bind for each pair of control and widget. It shows what the control holds, then connects: only
-// what the user does travels from the widget to the control, and the control's mirror brings back what has changed. A
-// control without exactly one widget, or a named widget of a class that could be bound and is nobody's, is a problem that
-// the window tells.
+// There is one Bind function for each pair of control and widget. It first shows the control's state and then makes the connections.
+// Only user actions go from the widget to the control; changes in the control come back through its mirror. Two kinds of problem are
+// reported: a control that does not have exactly one widget, and a named widget of a bindable class that no control owns.
 #pragma once
 
 class QCheckBox;
@@ -43,7 +42,7 @@ class TextBox;
 class TextView;
 class UpDown;
 
-/// Ties all controls of the form to the widgets of its window `top`, and sets the order of Tab.
+/// Binds all controls of the form to the widgets of its window `top`, and sets the tab order.
 void BindForm(Form& form, QWidget& top, Bindings& bindings);
 
 void Bind(TextBox& control, QLineEdit& widget, Bindings& bindings);
@@ -60,7 +59,7 @@ void Bind(ScrollBar& control, QScrollBar& widget, Bindings& bindings);
 void Bind(Label& control, QLabel& widget, Bindings& bindings);
 void Bind(Label& control, FittedText& widget, Bindings& bindings);
 void Bind(Label& control, ColumnHead& widget, Bindings& bindings);
-/// The caption goes to the head named after the frame, Frame1Caption.
+/// The caption is shown by the ColumnHead named after the frame, such as Frame1Caption.
 void Bind(Frame& control, QFrame& widget, Bindings& bindings);
 
 }  // namespace vatro

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// What ties the widgets of one form's window to its controls: which widget is whose, the connections, the inputs.
+// The bindings of one form's window: which widget belongs to which control, the connections, and the inputs.
 //
-// The functions Bind fill it; the window owns it and lets it go before the form goes.
+// The Bind functions fill this object. The window owns it and closes it before the form is destroyed.
 #pragma once
 
 #include <QObject>
@@ -24,31 +24,33 @@ class Control;
 class Bindings {
 public:
     explicit Bindings(InputSurroundings surroundings);
-    /// Closes.
+    /// Calls Close.
     ~Bindings();
     Bindings(const Bindings&) = delete;
     Bindings& operator=(const Bindings&) = delete;
 
-    /// The widget of a control, or nothing if it has none.
+    /// The widget of a control, or null if it has none.
     QWidget* WidgetOf(const Control& control) const;
-    /// Controls without exactly one widget, and widgets without a control.
+    /// Messages about controls without exactly one widget, and about widgets without a control.
     const QStringList& Problems() const { return problems_; }
-    /// Gives the widgets that are called as their window is this name.
+    /// Gives the caption as accessible name to the widgets that are named after their window.
     void NameWidgets(const QString& caption) const;
-    /// Nothing of the widgets reaches the controls any more.
+    /// Disconnects everything: from now on, nothing from the widgets reaches the controls.
     void Close();
 
-    // Of the binder.
+    // For the binder.
 
-    /// Connections and models of the controls; gone before the form is.
+    /// Owner of the connections and models of the controls; destroyed before the form.
     QObject& Scope() const { return *scope_; }
+    /// Records which widget shows the control.
     void Enter(const Control& control, QWidget& widget) { widgets_[&control] = &widget; }
-    /// Keys, paste and focus of the widget go into the control. `editor` is its line under editing, or nothing.
+    /// Passes keys, paste and focus of the widget to the control. `editor` is the widget's line editor, or null.
     void AddInput(Control& control, QWidget& widget, QLineEdit* editor);
-    /// The widget is called as the form's caption says.
+    /// The widget takes its accessible name from the form's caption.
     void NameByCaption(QWidget& widget) { namedByCaption_.emplace_back(&widget); }
+    /// Records a message for Problems().
     void AddProblem(const QString& problem) { problems_.append(problem); }
-    /// Gives the focus back to the form's active control when the present event of Qt is over.
+    /// Returns the focus to the form's active control once Qt's current event is over.
     void FollowFocusSoon() const { surroundings_.followFocusSoon(); }
 
 private:

@@ -12,10 +12,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Lit, dark, lit, and gone.
+/// Durations of the steps: on, off, on; then the frame disappears.
 constexpr std::chrono::milliseconds kSteps[]{200ms, 150ms, 500ms};
 constexpr int kLast = 2;
-/// How much of the first light lies over text and buttons.
+/// Opacity of the layer over text and buttons in the first step.
 constexpr float kVeil = 0.4F;
 
 }  // namespace
@@ -37,7 +37,7 @@ BoxFlash::BoxFlash(QWidget& box) : QWidget(&box) {
 }
 
 void BoxFlash::Begin() {
-    // Under way: it only lasts longer.
+    // If already flashing, only extend the last step.
     step_ = timer_.isActive() ? kLast : 0;
     setGeometry(parentWidget()->rect());
     raise();
@@ -54,7 +54,7 @@ void BoxFlash::Step() {
 void BoxFlash::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     QColor colour = palette().color(QPalette::WindowText);
-    // As broad as the margin of the box: text and buttons stay readable.
+    // As wide as the margin of the box, so that text and buttons stay readable.
     const QLayout* layout = parentWidget()->layout();
     const int broad = layout != nullptr ? layout->contentsMargins().left() : fontMetrics().height() / 2;
     const QRegion frame = QRegion(rect()) - rect().adjusted(broad, broad, -broad, -broad);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Shows that a box waits for an answer and has not taken the key that was pressed.
+// Shows that a box is waiting for an answer and has ignored the key that was pressed.
 #pragma once
 
 #include <QTimer>
@@ -8,14 +8,14 @@
 
 namespace vatro {
 
-/// A broad frame in the colour of the text that comes, goes and comes once more, the first time with a veil over all of the box: it
-/// is seen at arm's length, in sunshine and without telling colours apart. Keys that follow each other keep it lit rather than make it
-/// flicker, so that it never flashes more than three times a second.
+/// A wide frame in the text colour that appears, disappears and appears again; the first time, a translucent layer covers the whole box
+/// as well. It can be seen at arm's length, in sunlight, and without telling colours apart. Further keys extend the flash instead of
+/// restarting it, so that it never flashes more than three times a second.
 class BoxFlash : public QWidget {
     Q_OBJECT
 
 public:
-    /// Flashes the box, or goes on flashing it. A screen reader says once more where the focus is. Makes no sound.
+    /// Flashes the box, or extends a running flash. Also makes a screen reader announce the focused control again. Makes no sound.
     static void Flash(QWidget& box);
 
 protected:

@@ -23,7 +23,7 @@ double QtClock::SecondsSinceMidnight() {
 void QtClock::Schedule(Ticker& ticker) {
     const auto found = ticking_.find(&ticker);
     if (!ticker.Running()) {
-        // The ticker may be switched off from its own tick.
+        // The ticker may be switched off in its own tick, so delete the timer later.
         if (found != ticking_.end()) {
             found->second->stop();
             found->second.release()->deleteLater();
@@ -44,7 +44,7 @@ void QtClock::Schedule(Ticker& ticker) {
 
 void QtClock::Tick(Ticker& ticker) {
     if (TicksHeld()) {
-        // A window is being painted inside a handler: the tick waits until the handler has ended.
+        // A window is being painted inside a handler: delay the tick until the handler has ended.
         const auto found = ticking_.find(&ticker);
         QTimer::singleShot(1, found->second.get(), [this, &ticker] { Tick(ticker); });
         return;

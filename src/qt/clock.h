@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The computer's local time, and the timers of the forms.
+// The computer's local time, and the forms' timers.
 #pragma once
 
 #include <QTimer>

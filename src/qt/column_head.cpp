@@ -25,7 +25,7 @@ void ColumnHead::SetCaption(const QString& caption) {
 }
 
 QSize ColumnHead::sizeHint() const {
-    // Over a list or fields it takes the width that they have; beside a field it needs its own.
+    // Over a list or several fields the width is given by them; beside a single field the caption needs its own width.
     const bool alone = columns_.isEmpty() && !fields_.contains(u' ');
     const int width = alone ? fontMetrics().size(Qt::TextShowMnemonic, caption_).width() + 2 : fontMetrics().averageCharWidth() * 4;
     return {width, fontMetrics().height() + fontMetrics().leading() + 2};
@@ -68,7 +68,7 @@ QList<ColumnHead::Piece> ColumnHead::Pieces() const {
     QList<Piece> pieces;
     int end = 0;
     for (qsizetype i = 0; i < texts.size(); ++i) {
-        // A piece without a place of its own, or pushed on by a long one before it, follows at a distance.
+        // A piece that has no place of its own, or whose place is taken by a long piece before it, follows after a blank.
         const int x = i < places.size() ? qMax(places[i], end) : end;
         pieces.append({texts[i], x});
         end = x + fontMetrics().size(Qt::TextShowMnemonic, texts[i]).width() + fontMetrics().horizontalAdvance(u' ');
@@ -96,7 +96,7 @@ void ColumnHead::showEvent(QShowEvent* event) {
     if (watching_) return;
     watching_ = true;
     if (auto* list = qobject_cast<ItemList*>(Sibling(list_))) {
-        // A little smaller than the rest, so that no word pushes the next one off its column.
+        // Use a slightly smaller font, so that no word pushes the next one off its column.
         constexpr double kSmaller = 0.9;
         QFont smaller = font();
         smaller.setPointSizeF(smaller.pointSizeF() * kSmaller);

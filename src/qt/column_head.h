@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A caption that is the head of several columns: its pieces are placed over the columns of a list or over fields,
-// because the blanks between them were counted in another font.
+// A caption that heads several columns. Its pieces are placed over the columns of a list or over fields, because the blanks between the
+// pieces were meant for another font.
 #pragma once
 
 #include <QList>
@@ -12,26 +12,26 @@ namespace vatro {
 
 class ColumnHead : public QWidget {
     Q_OBJECT
-    /// Columns of the list, from 1, at which the pieces stand, and the list's object name.
+    /// The columns of the list, from 1, over which the pieces are placed; `list` is the object name of that list.
     Q_PROPERTY(QString columns MEMBER columns_)
     Q_PROPERTY(QString list MEMBER list_)
-    /// Object names of the fields over which the pieces stand, where there is no list.
+    /// Without a list: the object names of the fields over which the pieces are placed.
     Q_PROPERTY(QString fields MEMBER fields_)
-    /// Pieces end at every blank, not at two or more.
+    /// Whether every blank separates pieces; otherwise only two or more blanks do.
     Q_PROPERTY(bool words MEMBER words_)
-    /// Pieces stand at equal distances from one end to the other, as over a scale.
+    /// Whether the pieces are spread evenly over the whole width, as above a scale.
     Q_PROPERTY(bool spread MEMBER spread_)
 
 public:
     explicit ColumnHead(QWidget* parent = nullptr);
 
-    /// With its access key, which is drawn underlined.
+    /// Sets the caption. An access key in it is drawn underlined.
     void SetCaption(const QString& caption);
     const QString& Caption() const { return caption_; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
-    /// The pieces of the caption and where each begins, in this widget's coordinates.
+    /// A piece of the caption, and where it begins in this widget's coordinates.
     struct Piece {
         QString text;
         int x = 0;

@@ -10,10 +10,10 @@ namespace vatro {
 
 namespace {
 
-/// The loops that run, the innermost at the end.
+/// The loops that are running; the innermost is last.
 std::vector<WaitLoop*> waiting;
 
-/// How many events are under way, one inside the other.
+/// Number of nested events that are running.
 int depth = 0;
 std::function<void()> afterHandlers;
 

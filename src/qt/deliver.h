@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// How what happens in Qt enters the program: every signal and filtered event goes through Deliver, so that no exception
-// passes Qt's frames and the loops that wait inside an event see at once that they are over.
+// How Qt's events enter the program. Every signal and filtered event goes through Deliver, so that no exception passes through Qt's
+// code and loops that wait inside an event notice at once when they should end.
 #pragma once
 
 #include <QEventLoop>
@@ -9,19 +9,19 @@
 
 namespace vatro {
 
-/// Runs one event to its end. The form and the control that it belongs to may be gone afterwards.
+/// Runs one event to completion. Afterwards the form and control it belongs to may no longer exist.
 void Deliver(const std::function<void()>& event);
 
-/// What is to be done whenever the outermost event has come to its end: then no handler, box, dialogue or modal form is open.
+/// Sets a callback that runs whenever the outermost event has ended; no handler, box, dialogue or modal form is open then.
 void SetAfterHandlers(std::function<void()> what);
 
-/// Waits inside an event, with all events delivered, for an open modal form or box.
+/// Waits inside an event for an open modal form or box, while all events are delivered.
 class WaitLoop {
 public:
     explicit WaitLoop(std::function<bool()> over) : over_(std::move(over)) {}
-    /// Returns when `over` holds or the program is ending.
+    /// Returns when `over` returns true or the program is ending.
     void Run();
-    /// Leaves every loop that is over.
+    /// Lets every loop that is over return.
     static void Look();
 
 private:

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// What the desktop program has beyond the rules: the one switch for all of it.
+// Everything that the desktop program has in addition to the rules, switched on by one object.
 //
-// The program makes one such object beside its front. The worlds of scenarios have none, so that they see the rules alone.
+// The program creates this object beside its front. Scenario players do not, so scenarios see only the rules.
 #pragma once
 
 #include "typing_guard.h"
@@ -13,7 +13,7 @@ class QtFront;
 
 class Desktop {
 public:
-    /// The front outlives it.
+    /// `front` must outlive this object.
     explicit Desktop(QtFront& front);
     TypingGuard& Typing() { return typing_; }
 

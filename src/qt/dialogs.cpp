@@ -41,20 +41,20 @@ QMessageBox::Icon QtIcon(Icon icon) {
     return QMessageBox::NoIcon;
 }
 
-/// Where users look for their files. The current directory is none such: it holds the tables, somewhere hidden.
+/// The directory where users look for their files. Not the current directory, which holds the program's tables and may be hidden.
 QString OwnFiles() {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QFileInfo::exists(documents) ? documents : QDir::homePath();
 }
 
-/// "Logs|*.txt;*.log|All|*.*" as Qt writes it.
+/// Converts a filter such as "Logs|*.txt;*.log|All|*.*" to Qt's form.
 QStringList NameFilters(const std::string& filter) {
     const QStringList parts = ToQt(filter).split(u'|', Qt::SkipEmptyParts);
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         QString patterns = parts[i + 1];
         patterns.replace(u';', u' ').replace(QStringLiteral("*.*"), QStringLiteral("*"));
-        // What the description says in brackets of its own stands for the patterns otherwise.
+        // Qt would take a part of the description in brackets for the patterns, so remove it.
         filters.append(parts[i].section(u'(', 0, 0).trimmed() + QStringLiteral(" (") + patterns + u')');
     }
     return filters;
@@ -64,7 +64,7 @@ const QtFront* FrontOnQt() {
     return dynamic_cast<const QtFront*>(&InstalledFront());
 }
 
-/// Hands the keys over before it goes.
+/// A message box that hands pending keys over before it closes.
 class Box : public QMessageBox {
 public:
     using QMessageBox::QMessageBox;
@@ -74,7 +74,7 @@ public:
     }
 };
 
-/// Without an icon the text of a box needs no distance from one.
+/// Removes the space that Qt reserves for an icon from a box without one.
 void CloseUp(QMessageBox& box) {
     if (auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
         text->setIndent(0);
@@ -84,11 +84,11 @@ void CloseUp(QMessageBox& box) {
     QLayoutItem* first = grid != nullptr ? grid->itemAtPosition(0, 0) : nullptr;
     if (first == nullptr || first->spacerItem() == nullptr) return;
     first->spacerItem()->changeSize(0, 0);
-    // Room that a wrapped text leaves goes to it.
+    // Give the free space to the text column, where a wrapped text can use it.
     grid->setColumnStretch(1, 1);
 }
 
-/// Qt gives the keys back to the window that had them; the active form may be another one by now.
+/// Returns the focus to the active form. Qt would return it to the window that had it before, but the active form may have changed.
 void GiveKeysBack() {
     if (Form* form = ActiveForm()) InstalledFront().Activated(*form);
 }
@@ -97,7 +97,7 @@ void GiveKeysBack() {
 
 QWidget* DialogOwner() {
     const QtFront* front = FrontOnQt();
-    // A side window may go while the box is open; the main window and a modal one stay.
+    // Only the main window or a modal one may own a dialogue; a side window may disappear while the dialogue is open.
     const Form* form = ModalForm();
     for (const Form* loaded : LoadedForms())
         if (form == nullptr && loaded->Kind() == FormKind::Main) form = loaded;
@@ -166,7 +166,7 @@ std::string QtDialogs::OpenFile(const FileDialog& dialog) {
     return ChooseFile(dialog, false);
 }
 
-/// Runs the dialogue; the first path chosen. Fails with Failure::Cancelled.
+/// Runs the dialogue and returns the first path chosen. Fails with Failure::Cancelled.
 QString QtDialogs::Choose(QFileDialog& chooser) {
     chooser.setLabelText(QFileDialog::LookIn, QStringLiteral("Søg i:"));
     chooser.setLabelText(QFileDialog::Reject, QStringLiteral("Annuller"));
@@ -210,7 +210,7 @@ std::string QtDialogs::ChooseDirectory(const FileDialog& dialog) {
             folder_ = chosen;
             return FromQt(QDir::toNativeSeparators(QDir(chosen).filePath(ToQt(dialog.fileName))));
         }
-        // The path would come back with "?" in it, and with luck lead elsewhere.
+        // Converting this path would put "?" in place of some characters, so it would at best lead nowhere.
         folder_ = QFileInfo(chosen).absolutePath();
         const std::unique_ptr<QMessageBox> refused(MakeBox(MessageBox{}, DialogOwner()));
         refused->setIcon(QMessageBox::Warning);

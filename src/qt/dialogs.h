@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Message boxes and file dialogues of the desktop, with Danish buttons.
+// The desktop's message boxes and file dialogues, with Danish buttons.
 #pragma once
 
 #include <QPointer>
@@ -20,7 +20,7 @@ class QtPrinter;
 
 class QtDialogs : public Dialogs {
 public:
-    /// Without a printer its dialogue is always cancelled.
+    /// Without a printer, the printer dialogue always counts as cancelled.
     explicit QtDialogs(QtPrinter* printer = nullptr) : printer_(printer) {}
     Answer Show(const MessageBox& box) override;
     std::string SaveFile(const FileDialog& dialog) override;
@@ -31,21 +31,22 @@ public:
 private:
     QString Choose(QFileDialog& chooser);
     std::string ChooseFile(const FileDialog& dialog, bool save);
-    /// The path of the marker file in the directory that the user chooses. A directory whose name is not in the code page is refused.
+    /// Lets the user choose a directory, and returns the path of the marker file in it. Refuses a directory whose path has characters
+    /// outside the code page.
     std::string ChooseDirectory(const FileDialog& dialog);
 
     QtPrinter* printer_;
-    /// Of the file chosen last, or the directory.
+    /// The directory last used.
     QString folder_;
 };
 
-/// A box that is not open yet. The caller owns it.
+/// Creates a message box without opening it. The caller owns it.
 QMessageBox* MakeBox(const MessageBox& box, QWidget* owner);
-/// The answer of its buttons. Esc and the window's frame say No, or OK if there is nothing else.
+/// The answer that the user gave. Esc or closing the window means No, or OK if there is no other button.
 Answer AnswerOf(const QMessageBox& box);
-/// The window above which a dialogue opens.
+/// The window that dialogues belong to, or null.
 QWidget* DialogOwner();
-/// Opens the dialogue and waits until it is closed; false if the program ends meanwhile.
+/// Opens the dialogue and waits until it is closed. Returns false if the program ends in the meantime.
 bool RunDialog(QDialog& dialog);
 
 }  // namespace vatro

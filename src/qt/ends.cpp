@@ -22,35 +22,36 @@ namespace vatro {
 
 namespace {
 
-/// A form may refuse to close for a moment, and a handler be on its way.
+/// Milliseconds between two steps. A step may have to be repeated, because a form may refuse to close for a moment or a handler may be
+/// running.
 constexpr int kBetweenSteps = 20;
-/// What storing may take.
+/// Milliseconds to wait for the settings to be stored.
 constexpr unsigned long kPatience = 2000;
 
-/// Where the settings are stored if the process ends now; nothing while no program runs.
+/// The settings to store if the process ends now; null while no program runs.
 DiskSettings* atExit = nullptr;
 
-/// Run by exit(), which Qt calls when the connection to the screen is lost, in the middle of whatever the program does.
+/// Run by exit(). Qt calls exit() when the connection to the screen is lost, possibly in the middle of a handler.
 void StoreAtExit() {
     if (atExit == nullptr) return;
     DiskSettings& settings = *std::exchange(atExit, nullptr);
     if (ProgramRuns()) {
         try {
-            // The handler that has the file open does not go on.
+            // Close the file that an interrupted handler may have open; the handler will not continue.
             platform().files.Close(1);
         } catch (const RunTimeError&) {
-            // Nobody is left to be told.
+            // Nobody can be told any more.
         }
         StoreRunningProgram();
     }
-    // Also what stands in a batch that does not come to its end.
+    // Also stores the changes of a batch that will not be completed.
     settings.Flush();
 }
 
 QtMessageHandler before = nullptr;
 
-/// Qt leaves by _exit() when it has lost a Wayland compositor, mostly from a thread of its own. What it says just before is the only
-/// sign of it.
+/// When Qt loses a Wayland compositor, it calls _exit(), mostly on another thread. The message that it prints just before is the only
+/// sign.
 void StoreBeforeLeaving(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     if (before != nullptr) before(type, context, text);
     if (type == QtDebugMsg || !text.startsWith(QStringLiteral("The Wayland connection"))) return;
@@ -62,7 +63,7 @@ void StoreBeforeLeaving(QtMsgType type, const QMessageLogContext& context, const
             std::_Exit(EXIT_FAILURE);
         },
         Qt::QueuedConnection);
-    // The process ends while this thread sleeps, unless the program hangs.
+    // Normally the process ends during this sleep; the limit applies if the program hangs.
     QThread::msleep(kPatience);
 }
 
@@ -70,7 +71,7 @@ void StoreBeforeLeaving(QtMsgType type, const QMessageLogContext& context, const
 
 Ends::Ends(DiskSettings& settings) : signals_(*this, [this] { Close(); }) {
     qApp->installEventFilter(this);
-    // The session may go on after all: the program closes when it is told to quit.
+    // Only store the settings here: the session may continue after all. The program closes when it receives the quit event.
     connect(
         qApp, &QGuiApplication::commitDataRequest, this, [] { StoreRunningProgram(); }, Qt::DirectConnection);
     connect(qApp, &QCoreApplication::aboutToQuit, this, [] {
@@ -92,15 +93,15 @@ void Ends::Close() {
 }
 
 void Ends::CloseNext() {
-    // A timer of its own for each step: closing a form may open a box, and wait for the next step to answer it.
+    // Schedule the next step first: closing a form may open a box, which waits until the next step answers it.
     QTimer::singleShot(kBetweenSteps, this, &Ends::CloseNext);
-    // A handler that has its window painted is not at a place where its form may go.
+    // A handler that is repainting its window must not lose its form now.
     if (TicksHeld()) return;
     if (QWidget* popup = QApplication::activePopupWidget()) {
         popup->close();
         return;
     }
-    // Boxes, dialogues and modal forms, as by the button of their frame.
+    // Close boxes, dialogues and modal forms, as the button in their frame would.
     if (QWidget* modal = QApplication::activeModalWidget()) {
         modal->close();
         return;
@@ -114,8 +115,8 @@ void Ends::CloseNext() {
 }
 
 bool Ends::eventFilter(QObject* watched, QEvent* event) {
-    // The session manager, or the desktop's dock. Qt would close the windows one by one, and stop at the first that only tells
-    // its form.
+    // Sent by the session manager or the desktop's dock. Qt's default would close the windows one by one and stop at the first form
+    // window, because that ignores the event and only notifies its form.
     if (event->type() != QEvent::Quit || watched != qApp || !ProgramRuns()) return false;
     event->ignore();
     Close();

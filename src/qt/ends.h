@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// The ends that come from outside: a signal of the system, the end of the session, a lost screen.
+// Ends of the program that are requested from outside: a signal of the system, the end of the session, or the loss of the screen.
 //
-// A signal (SIGTERM, SIGINT, SIGHUP; on Windows the closed console) and the session's end close the program as its user would
-// with Alt+F4: open boxes are answered with "Nej" or "OK", modal forms close by their frame, then the main form does.
-// When the screen is lost, an X server or a Wayland compositor, Qt ends the process from within; the settings are stored on its way
-// out, without Qt.
+// A signal (SIGTERM, SIGINT, SIGHUP; on Windows, closing the console) and the end of the session close the program as Alt+F4 would:
+// open boxes are answered with "Nej" or "OK", modal forms are closed by their frame, and then the main form is closed. If the screen
+// (an X server or a Wayland compositor) is lost, Qt ends the process itself; the settings are stored on the way out, without using Qt.
 #pragma once
 
 #include <QObject>
@@ -16,7 +15,8 @@ namespace vatro {
 
 class DiskSettings;
 
-/// Tells of the signals as long as it lives. ends_posix.cpp and ends_windows.cpp have it. One at a time.
+/// Reports signals of the system for as long as this object lives. Only one may exist at a time. Defined in ends_posix.cpp and
+/// ends_windows.cpp.
 class EndSignals {
 public:
     /// `told` runs on the thread of `context`, in its event loop.
@@ -30,18 +30,18 @@ private:
     std::unique_ptr<System> system_;
 };
 
-/// One at a time, on the thread of the program, as long as the services are installed.
+/// Only one may exist at a time. Must be used on the program's thread, while the services are installed.
 class Ends : public QObject {
     Q_OBJECT
 
 public:
-    /// `settings` is what the logic stores in.
+    /// `settings` is the store that the logic writes to.
     explicit Ends(DiskSettings& settings);
     ~Ends() override;
 
-    /// Closes the program; returns at once, it takes some turns of the event loop.
+    /// Starts to close the program and returns at once; closing takes several turns of the event loop.
     void Close();
-    /// Somebody outside has asked for the end: nobody is at the screen to read a message.
+    /// Whether the end was requested from outside, in which case nobody is at the screen to read a message.
     bool Asked() const { return asked_; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -15,14 +15,14 @@ namespace {
 
 constexpr std::array kSignals{SIGTERM, SIGINT, SIGHUP};
 
-/// The end of the pipe that the handler writes to.
+/// The end of the pipe that the signal handler writes to.
 int told = -1;
 
-/// Only what is safe in the middle of anything.
+/// The signal handler; may only use async-signal-safe functions.
 void Tell(int /*signal*/) {
     const int error = errno;
     const char byte = 0;
-    // A full pipe has told already.
+    // If the pipe is full, the signal has already been reported.
     static_cast<void>(write(told, &byte, 1) == 1);
     errno = error;
 }
@@ -53,7 +53,7 @@ EndSignals::EndSignals(QObject& context, std::function<void()> told_) : system_(
     action.sa_flags = SA_RESTART;
     for (std::size_t i = 0; i < kSignals.size(); ++i) {
         sigaction(kSignals[i], nullptr, &system_->before[i]);
-        // Whoever started the program with nohup wants it to go on.
+        // An ignored signal stays ignored: a program started with nohup is meant to go on.
         if (system_->before[i].sa_handler != SIG_IGN) sigaction(kSignals[i], &action, nullptr);
     }
 }

@@ -12,13 +12,13 @@ namespace vatro {
 
 namespace {
 
-/// The system ends the process when the handler returns, or after some seconds.
+/// Milliseconds to wait. The system ends the process when the handler returns, or after some seconds.
 constexpr DWORD kPatience = 5000;
 
 QPointer<QObject> context;
 std::function<void()> told;
 
-/// Runs on a thread of the system's own.
+/// Runs on a thread that the system creates.
 BOOL WINAPI Tell(DWORD event) {
     QMetaObject::invokeMethod(
         context.data(),

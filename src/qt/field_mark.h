@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 //
-// Shows where the keys go while another window is in front: Qt draws no caret in a window that is not active.
+// Marks the field that receives the keys while another window is active, because Qt draws no caret in an inactive window.
 #pragma once
 
 #include <QWidget>
 
 namespace vatro {
 
-/// A frame in the colour of the text round one widget.
+/// A frame in the text colour around one widget.
 class FieldMark : public QWidget {
     Q_OBJECT
 
 public:
-    /// Shown round this widget from now on, until it is hidden. Belongs to the widget's window.
+    /// Shows the frame around this widget until it is hidden. It becomes a child of the widget's window.
     void Surround(QWidget& widget);
 
     FieldMark();

@@ -16,9 +16,9 @@ namespace vatro {
 namespace {
 
 constexpr double kEntryPoints = 14.25;
-/// Pixels that stay in sight round a widget that has been brought there.
+/// Margin in pixels around a widget that is scrolled into view.
 constexpr int kSightMargin = 6;
-/// Device independent pixels of a point, at 96 to the inch.
+/// Device-independent pixels per point, at 96 dpi.
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 
 }  // namespace
@@ -31,7 +31,7 @@ EntryField::EntryField(QWidget* parent) : QLineEdit(parent) {
 }
 
 QSize EntryField::sizeHint() const {
-    // Between a figure and the widest letter: calls are a mixture of both.
+    // A width between that of a digit and of the widest letter, because calls contain both.
     const int wide = fontMetrics().horizontalAdvance(u'0') * 6 / 5;
     QStyleOptionFrame option;
     initStyleOption(&option);
@@ -52,7 +52,7 @@ QSize SpinArrows::sizeHint() const {
     QStyleOptionFrame option;
     option.initFrom(this);
     option.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, this);
-    // As QLineEdit counts.
+    // The same calculation as in QLineEdit.
     const QSize text(0, qMax(fontMetrics().height(), 14) + 2);
     return {up_->sizeHint().width(), style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, this).height()};
 }
@@ -79,7 +79,7 @@ ScrollRoom::ScrollRoom(QWidget& content) {
 }
 
 void ScrollRoom::BringIntoSight(const QWidget& inside) {
-    // All of it, not the caret alone; where there is not room for all, its beginning.
+    // Show the whole widget, not only its caret; if there is not enough room, show its top left corner.
     const QRect place(inside.mapTo(widget(), QPoint()), inside.size());
     for (const QPoint& corner : {place.bottomRight(), place.topLeft()}) ensureVisible(corner.x(), corner.y(), kSightMargin, kSightMargin);
 }
@@ -154,7 +154,7 @@ void StatusPanel::resizeEvent(QResizeEvent* event) {
 }
 
 void StatusPanel::Show() {
-    // A panel that gives way to the window's width has no width of its own to ask for.
+    // A panel that shrinks with the window does not ask for a width of its own.
     const bool elastic = sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
     const QString shown = elastic ? fontMetrics().elidedText(whole_, Qt::ElideRight, contentsRect().width() - 2 * margin()) : whole_;
     setToolTip(shown == whole_ ? toolTip_ : whole_ + u'\n' + toolTip_);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Small widgets that the layouts use.
+// Small widgets used by the layouts.
 #pragma once
 
 #include <QLabel>
@@ -11,7 +11,7 @@ class QToolButton;
 
 namespace vatro {
 
-/// A field of the entry, in letters that are read at arm's length, wide enough for so many of them.
+/// A field of the entry form with text readable at arm's length, wide enough for the given number of characters.
 class EntryField : public QLineEdit {
     Q_OBJECT
     Q_PROPERTY(int chars MEMBER chars_)
@@ -25,13 +25,15 @@ private:
     int chars_ = 4;
 };
 
-/// A text as high as it is told, in the middle of the widget, and never cut: drawn smaller where it would not fit.
+/// A text of a given size, centred in the widget and never cut off: it is drawn smaller if it does not fit.
 class FittedText : public QLabel {
     Q_OBJECT
 
 public:
     explicit FittedText(QWidget* parent = nullptr);
+    /// `points` is the largest size at which the text is drawn.
     void SetTextFont(const QString& family, double points, bool bold);
+    /// An invalid colour means that of the palette; with an invalid `ground` no background is drawn.
     void SetColours(const QColor& text, const QColor& ground);
     QSize sizeHint() const override { return {1, 1}; }
     QSize minimumSizeHint() const override { return {1, 1}; }
@@ -46,14 +48,15 @@ private:
     QColor ground_;
 };
 
-/// One panel of a status bar: a text too long for it ends in dots, and the tooltip has all of it.
+/// One panel of a status bar. A text that is too long is shortened with an ellipsis; the tooltip shows all of it.
 class StatusPanel : public QLabel {
     Q_OBJECT
 
 public:
     explicit StatusPanel(QWidget* parent = nullptr);
+    /// Shows the text, or the beginning of it if there is no room.
     void SetPanelText(const QString& text, const QString& toolTip);
-    /// All of the text, shown or not.
+    /// The whole text, even if it is shown shortened.
     const QString& PanelText() const { return whole_; }
 
 protected:
@@ -66,7 +69,7 @@ private:
     QString toolTip_;
 };
 
-/// Two arrows that count the number in a field up and down, together as high as the field.
+/// Two arrow buttons that step the number in a field up and down, together as high as the field.
 class SpinArrows : public QWidget {
     Q_OBJECT
 
@@ -77,6 +80,7 @@ public:
     QToolButton& Arrow(bool up) const { return up ? *up_ : *down_; }
 
 Q_SIGNALS:
+    /// Emitted when the user presses one of the arrows.
     void Stepped(bool up);
 
 private:
@@ -86,14 +90,14 @@ private:
     QToolButton* down_;
 };
 
-/// The inside of a window that may be smaller than what is in it, as on a small screen at twice the size: it scrolls, and the
-/// widget with the focus is always in sight. Keys pass it by.
+/// A scrolling container for a window that may be smaller than its content, for example on a small screen at double scale. The widget
+/// with the focus is always scrolled into view. Does not handle keys itself.
 class ScrollRoom : public QScrollArea {
     Q_OBJECT
 
 public:
     explicit ScrollRoom(QWidget& content);
-    /// What the content lacks to be seen whole.
+    /// How much larger the container would have to be to show all of its content.
     QSize Missing() const;
 
 protected:
@@ -104,8 +108,9 @@ private:
     void BringIntoSight(const QWidget& inside);
 };
 
-/// The font at a size that every measure is taken from, so that widths are in the ratio of the sizes.
+/// Pixel size at which all texts are measured, so that widths scale exactly with the font size.
 inline constexpr int kMeasurePixels = 200;
+/// The font in the size kMeasurePixels, without hinting.
 QFont MeasureFont(const QString& family, bool bold);
 
 }  // namespace vatro

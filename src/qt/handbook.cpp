@@ -5,7 +5,7 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
-// Outside every namespace, as Qt asks.
+// Must be outside of every namespace, because Qt's resource macro requires it.
 static void UseHandbook() {
     Q_INIT_RESOURCE(handbook);
 }
@@ -16,7 +16,7 @@ namespace {
 
 const QString kContents = QStringLiteral("indhold.html");
 
-/// What stands before the ":" of a line of the contents; the rest tells more than a narrow list has room for.
+/// The part of a contents line before the ":". The rest is too long for a narrow list.
 QString ShortTitle(const QString& text) {
     return text.section(u':', 0, 0).trimmed();
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The handbook, which is built into the program: its pages and pictures, and its table of contents.
+// The handbook that is built into the program: its pages, pictures and table of contents.
 #pragma once
 
 #include <QList>
@@ -8,18 +8,19 @@
 
 namespace vatro {
 
-/// The resource of a page or picture by the name of its file.
+/// The resource of a page or picture, given its file name.
 QString HandbookFile(const QString& name);
 
-/// An entry of the table of contents: a heading, or a page below it.
+/// An entry of the table of contents: a heading, or a page below a heading.
 struct HandbookEntry {
     QString title;
-    /// As the page is linked to, "fdmanager.html#backup"; empty for a heading.
+    /// The link to the page, such as "fdmanager.html#backup"; empty for a heading.
     QString link;
 };
+/// The table of contents, in order.
 QList<HandbookEntry> HandbookContents();
 
-/// All pages of the handbook by their files, each once, in the order of the table of contents, which comes first.
+/// The files of all pages, each once, in the order of the table of contents. The table of contents itself comes first.
 QStringList HandbookPages();
 
 }  // namespace vatro

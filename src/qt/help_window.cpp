@@ -22,7 +22,7 @@ namespace {
 
 constexpr QSize kSize(1000, 700);
 constexpr int kContentsWidth = 280;
-/// Where an entry of the contents keeps its link.
+/// Role under which an entry of the contents stores its link.
 constexpr int kLinkRole = Qt::UserRole;
 
 QUrl UrlOf(const QString& link) {
@@ -75,7 +75,7 @@ void HelpWindow::AddContents() {
         if (!link.isEmpty()) browser_->setSource(UrlOf(link));
     };
     connect(contents_, &QTreeWidget::currentItemChanged, this, go);
-    // The page of the current entry may have been left by a link.
+    // Clicking the current entry goes to its page again, because the user may have left that page by a link.
     connect(contents_, &QTreeWidget::itemClicked, this, go);
 }
 

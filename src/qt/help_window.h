@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The help viewer: the pages of the handbook, its table of contents beside them, the way back, search and print.
+// The help viewer: shows a page of the handbook beside the table of contents, with buttons to go back, search and print.
 #pragma once
 
 #include <QMainWindow>
@@ -18,13 +18,14 @@ class HelpWindow : public QMainWindow {
 
 public:
     HelpWindow();
-    /// Goes to a page, as "fdmanager.html#backup", and comes to the front.
+    /// Opens a page, such as "fdmanager.html#backup", and brings the window to the front.
     void ShowPage(const QString& link);
-    /// The page shown, by its file.
+    /// The file name of the current page.
     QString Page() const;
+    /// The text selected on the page, such as the last match.
     QString SelectedText() const;
-    /// Looks for a text from the place of the last find on, through the pages that follow, and round at the end; without regard
-    /// to case. The text found is selected. False, which the window tells too, if no page has it.
+    /// Searches for a text, ignoring case, from the last match on through the following pages, and wraps around at the end. Selects the
+    /// match. If no page contains the text, returns false and shows a message in the window.
     bool FindNext(const QString& text);
 
 private:

@@ -23,7 +23,7 @@ namespace vatro {
 
 namespace {
 
-/// The byte of a key as KeyPress takes it, above 127 too.
+/// A byte as a key code for KeyPress; never negative, even above 127.
 KeyCode Code(char byte) {
     return static_cast<KeyCode>(static_cast<unsigned char>(byte));
 }
@@ -32,7 +32,7 @@ bool IsArrow(int key) {
     return key >= Qt::Key_Left && key <= Qt::Key_Down;
 }
 
-/// What a key does to a scroll bar, or nothing.
+/// How the key moves a scroll bar, or nothing.
 std::optional<ScrollBar::Move> MoveOf(int key) {
     using enum ScrollBar::Move;
     switch (key) {
@@ -55,7 +55,7 @@ std::optional<ScrollBar::Move> MoveOf(int key) {
     }
 }
 
-/// Qt gives the focus back to where it was; nobody has moved it in the form.
+/// Whether Qt is only restoring the focus, so that nobody has moved it within the form.
 bool OnlyReturns(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
 }
@@ -72,7 +72,7 @@ std::optional<KeyCode> CodeOf(const QKeyEvent& event) {
         if (event.key() == Qt::Key_Escape) return kEsc;
         if (event.key() == Qt::Key_Backspace) return kBackspace;
     }
-    // Both together are AltGr on some systems.
+    // On some systems, Ctrl and Alt together mean AltGr.
     if (ctrl != alt) return std::nullopt;
     const QString text = event.text();
     if (text.isEmpty() || !text.at(0).isPrint()) return std::nullopt;
@@ -128,7 +128,7 @@ bool Input::eventFilter(QObject* watched, QEvent* event) {
             TakeFocus(static_cast<QFocusEvent&>(*event));
             return true;
         case QEvent::Wheel:
-            // A wheel over a combo box would choose without a click.
+            // Ignore the wheel over a combo box: it would choose an item without a click.
             return editor_ != nullptr && editor_ != widget_;
         case QEvent::MouseButtonPress:
             TakeEarlyClick();
@@ -155,7 +155,7 @@ bool Input::TakeKeyEvent(QKeyEvent& event) {
     if (const char letter = AccessLetterOf(event); letter != 0) {
         bool used = false;
         Deliver([&] { used = form.Reachable() && form.UserAccessKey(letter); });
-        // A field would take the letter of a key that leads nowhere, past the filter of its keys.
+        // Keep an unused letter away from a text field, which would insert it without asking the key filter.
         return used || editor_ != nullptr;
     }
     if (editor_ != nullptr && event.modifiers().testFlag(Qt::MetaModifier) && !event.text().isEmpty()) return true;
@@ -166,7 +166,7 @@ bool Input::TakeKeyEvent(QKeyEvent& event) {
     const std::optional<KeyCode> key = CodeOf(event);
     if (key) return !TakeKey(*key);
     if (plain && TakeMove(event.key())) return true;
-    // Qt walks from button to button with the arrows; the form knows only Tab.
+    // Qt moves between buttons with the arrow keys, but in a form only Tab does that.
     const bool own = As<ListBox>(control_) != nullptr || As<TextView>(control_) != nullptr;
     return IsArrow(event.key()) && editor_ == nullptr && !own;
 }
@@ -241,7 +241,7 @@ bool Input::TakeForeignText(QEvent& event) {
     if (Text() == nullptr || !surroundings_.filtersPaste()) return false;
     const QClipboard& clipboard = *QGuiApplication::clipboard();
     if (event.type() == QEvent::MouseButtonRelease) {
-        // Its press has put the caret there.
+        // The press of the middle button has already placed the caret.
         if (static_cast<QMouseEvent&>(event).button() != Qt::MiddleButton || !clipboard.supportsSelection()) return false;
         editor_->deselect();
         Paste(clipboard.text(QClipboard::Selection));
@@ -249,7 +249,7 @@ bool Input::TakeForeignText(QEvent& event) {
     }
     if (event.type() == QEvent::Drop) {
         auto& drop = static_cast<QDropEvent&>(event);
-        // A text that is moved within its field is not new to it.
+        // Moving text within the same field brings in nothing new.
         if (drop.source() == editor_ || !drop.mimeData()->hasText()) return false;
         editor_->setCursorPosition(editor_->cursorPositionAt(drop.position().toPoint()));
         Deliver([&] { Text()->UserSelected(editor_->cursorPosition(), 0); });
@@ -267,7 +267,7 @@ bool Input::TakeForeignText(QEvent& event) {
 void Input::OpenContextMenu(const QPoint& at) {
     QMenu* menu = editor_->createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    // Qt names the entry in newer editions only; its text has the key behind it.
+    // Only newer versions of Qt give this entry a name; in older ones, recognise it by its text, which is followed by its shortcut.
     const QString paste = QLineEdit::tr("&Paste");
     for (QAction* action : menu->actions()) {
         if (action->objectName() != QStringLiteral("edit-paste") && action->text().section(u'\t', 0, 0) != paste) continue;
@@ -284,7 +284,7 @@ bool Input::TakeInputMethod(QInputMethodEvent& event) {
     const std::string commit = FromQt(event.commitString());
     const QString preedit = event.preeditString();
     const QList<QInputMethodEvent::Attribute> attributes = event.attributes();
-    // The widget ends the composition before the characters come in as keys.
+    // Let the widget end the composition before the characters come in as keys.
     QInputMethodEvent rest(preedit, attributes);
     static_cast<QObject*>(widget)->event(&rest);
     for (const char byte : commit)

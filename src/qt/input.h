@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Keys, input methods, paste and focus of one control's widget, on their way into the control.
+// Passes keys, input methods, paste and focus of a widget to its control.
 //
-// A key that gives a character, and Enter, Esc and Backspace, goes through the control's KeyPress before the widget's
-// own editing takes what has become of it. Tab walks through the form's controls. A focus that Qt moves by itself, to
-// a window or back from a menu or popup, is no event of the form.
+// A key that produces a character, and Enter, Esc and Backspace, goes through the control's KeyPress first; the widget then edits with
+// the resulting key. Tab moves through the form's controls. When Qt itself moves the focus, to a window or back from a menu or popup,
+// this is not an event of the form.
 #pragma once
 
 #include <QLineEdit>
@@ -22,11 +22,11 @@ class QFocusEvent;
 
 namespace vatro {
 
-/// What the inputs of a window ask of its front.
+/// What the inputs of a window need from its front.
 struct InputSurroundings {
-    /// Gives the focus back to the form's active control when the present event of Qt is over.
+    /// Returns the focus to the form's active control once Qt's current event is over.
     std::function<void()> followFocusSoon;
-    /// Whether only what keys can bring gets into a field.
+    /// Whether pasted text goes through the field's key filter.
     std::function<bool()> filtersPaste;
 };
 
@@ -34,10 +34,9 @@ class Input : public QObject {
     Q_OBJECT
 
 public:
-    /// `editor` is the line under editing: the widget itself, the one in a combo box, or nothing. `surroundings` must live until
-    /// Release.
+    /// `editor` is the line editor: the widget itself, the one inside a combo box, or null. `surroundings` must live until Release.
     Input(Control& control, QWidget& widget, QLineEdit* editor, const InputSurroundings& surroundings);
-    /// The control is going away.
+    /// To be called before the control is destroyed.
     void Release() { control_ = nullptr; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,19 +45,21 @@ private:
     bool TakeKeyEvent(QKeyEvent& event);
     bool TakeInputMethod(QInputMethodEvent& event);
     void TakeFocus(QFocusEvent& event);
-    /// What was selected when the focus came is not for the click that brought it to undo.
+    /// Protects a selection made when the control got the focus from the click that gave it the focus.
     void KeepSelection();
-    /// A window that is not active yet takes a click without its focus, and later tells only that the focus is back.
+    /// Handles a click into an inactive window. Qt does not report the click as a focus change; it only reports later that the focus is
+    /// back.
     void TakeEarlyClick();
     bool TakeMouse(QObject& watched, const QEvent& event);
-    /// A key that gives no character: whether the control has taken it.
+    /// Handles a key that produces no character. Returns whether the control has used it.
     bool TakeMove(int key);
-    /// Runs the key through form and control; true if the widget's own handling of it is still wanted.
+    /// Passes the key through form and control. Returns true if the widget should still handle it.
     bool TakeKey(KeyCode key);
     void Edit(KeyCode key);
-    /// Puts the text over the selection, as the user has brought it in from outside.
+    /// Replaces the selection by text that the user brings in from outside.
     void Paste(const QString& text);
-    /// The ways to paste that Qt would go by itself: middle button, drop, context menu. True if the event is done with.
+    /// Handles the kinds of paste that Qt would do on its own: middle button, drop and context menu. Returns true if the event has been
+    /// handled.
     bool TakeForeignText(QEvent& event);
     void OpenContextMenu(const QPoint& at);
     TextControl* Text() const { return As<TextControl>(control_); }
@@ -67,20 +68,20 @@ private:
     const InputSurroundings& surroundings_;
     QPointer<QWidget> widget_;
     QPointer<QLineEdit> editor_;
-    /// The click that brought the focus must not take away what the control's handler has selected.
+    /// Whether the click that brought the focus must leave the selection made by the control's handler.
     bool keepSelection_ = false;
 };
 
-/// The code of a key press as KeyPress gets it; nothing for a key that gives no character.
+/// The code of a key press as passed to KeyPress; nothing for a key that produces no character.
 std::optional<KeyCode> CodeOf(const QKeyEvent& event);
 
-/// The letter that is pressed with Alt, upper case, or 0.
+/// The upper-case letter pressed together with Alt, or 0.
 char AccessLetterOf(const QKeyEvent& event);
-/// Whether the form gets the key before the menu's shortcuts are looked up, which then take no notice of it: an access
-/// key of its own, and every key of a window without a menu, for which Qt would ask the main window's.
+/// Whether the form gets the key before the menu's shortcuts are looked up, which then ignore it. This applies to the form's own access
+/// keys, and to all keys of a window without a menu, because Qt would search the main window's shortcuts for them.
 bool KeepsKey(const Form& form, QKeyEvent& shortcutOverride);
 
-/// Puts the caret and the selection of the control into its widget, unless they are there.
+/// Copies the caret and selection of the control to its widget, unless they are equal.
 void PushSelection(const TextControl& control, QLineEdit& editor);
 
 }  // namespace vatro

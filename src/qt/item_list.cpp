@@ -10,10 +10,10 @@ namespace vatro {
 
 namespace {
 
-/// A line that no log has, as of a file of another kind, is shown cut: laying out a million characters takes seconds.
+/// Longer lines are shown cut off. Logs have no such lines, but other files may, and laying out a million characters takes seconds.
 constexpr std::size_t kMostShown = 4000;
 
-/// Every row is as wide as the longest one, so that none is out of reach of the scroll bar, and blanks at the end ask for none.
+/// Makes every row as wide as the longest one, so that the scroll bar reaches all of it. Trailing blanks do not count.
 class RowDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -37,8 +37,8 @@ int ItemModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant ItemModel::data(const QModelIndex& index, int role) const {
-    // While the control is being refilled it may hold fewer rows than are shown.
-    // A view without a current row asks for it all the same, as when the user copies.
+    // The row may be out of range: while the control is being refilled it may hold fewer rows than are shown, and when the user copies
+    // without a current row, the view asks for row -1.
     if (role != Qt::DisplayRole || list_ == nullptr || index.row() < 0 || index.row() >= list_->ListCount()) return {};
     const std::string_view text = list_->Items()[static_cast<std::size_t>(index.row())];
     if (text.size() <= kMostShown) return ToQt(text);
@@ -101,19 +101,19 @@ void ItemList::SetColumns(int columns) {
 }
 
 int ItemList::ColumnLeft(int column) const {
-    // The style puts a text so far into its row.
+    // The same margin as the style uses before the text of a row.
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
     const QFontMetricsF metrics(font());
     return margin - horizontalOffset() + qRound(metrics.horizontalAdvance(QString(column - 1, u'0')));
 }
 
 QItemSelectionModel::SelectionFlags ItemList::selectionCommand(const QModelIndex& index, const QEvent* /*event*/) const {
-    // A row once selected is left only for another one, with whatever key held down.
+    // Never deselect a row without selecting another one, regardless of modifier keys.
     return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
 void ItemList::focusInEvent(QFocusEvent* event) {
-    // The view's own handler would make the first row the current one.
+    // Bypass the view's own handler, which would make the first row the current one.
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
 }

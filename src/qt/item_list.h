@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The list box on the screen: a view on the control's own rows, which are never copied.
+// The widget of a list box: a view of the control's own rows, without copying them.
 #pragma once
 
 #include <QAbstractListModel>
@@ -10,7 +10,7 @@
 
 namespace vatro {
 
-/// The rows of a list box, changed row by row as the control tells it.
+/// A model of the rows of a list box; the binding updates it row by row.
 class ItemModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -19,16 +19,17 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
-    /// The control has another set of rows.
+    /// The control now has a different set of rows.
     void Reset();
-    /// The control has one row more, and this is it.
+    /// The control has gained this row.
     void Added(int row);
-    /// The control has no longer the row that was this.
+    /// The control has lost this row.
     void Removed(int row);
+    /// The text of this row has changed.
     void RowChanged(int row);
-    /// The control is going away; what is shown of it goes too.
+    /// To be called before the control is destroyed; shows an empty list from then on.
     void Release();
-    /// Characters of the longest row there has been since the last reset, without blanks at its end.
+    /// Number of characters in the longest row since the last reset, not counting trailing blanks.
     int WidestRow() const { return widest_; }
 
 private:
@@ -44,9 +45,9 @@ class ItemList : public QListView {
 
 public:
     explicit ItemList(QWidget* parent = nullptr);
-    /// Rows run on in so many columns side by side; 0 is one row under the other.
+    /// Distributes the rows over this number of columns side by side; 0 means a plain list.
     void SetColumns(int columns);
-    /// Where a column of the text begins, in the viewport, counted from 1 in characters of the list's font.
+    /// Where a column of the text begins in the viewport, in pixels. Columns are counted from 1, in characters of the list's font.
     int ColumnLeft(int column) const;
     void keyboardSearch(const QString& /*search*/) override {}
 

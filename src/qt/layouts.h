@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The list of layouts: one line for each form of the program.
+// The table of layouts, with one line for each form of the program.
 #pragma once
 
 #include <string_view>
@@ -9,12 +9,12 @@ class QWidget;
 
 namespace vatro {
 
-/// Puts the widgets of a layout into an empty widget and gives it the layout's size.
+/// Fills an empty widget with the widgets of a layout and resizes it to the layout's size.
 using LayoutMaker = void (*)(QWidget*);
 
-/// The layout of the form of this name, or nothing.
+/// The layout of the form with this name, or null.
 LayoutMaker FindLayout(std::string_view form);
-/// Adds a layout, of a form that is not part of the program.
+/// Adds a layout for a form that is not part of the program.
 void AddLayout(std::string_view form, LayoutMaker make);
 
 }  // namespace vatro

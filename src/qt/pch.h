@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What nearly every source of the window front includes, compiled once.
+// Precompiled header with what nearly every source of the window front includes.
 #pragma once
 
 #include <QtCore/QtCore>

@@ -36,7 +36,7 @@ void PictureView::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void PictureView::mousePressEvent(QMouseEvent* event) {
-    // A click on the picture is none on the window behind it.
+    // Accept the click, so that the window behind does not get it as well.
     event->setAccepted(event->button() == Qt::LeftButton);
 }
 

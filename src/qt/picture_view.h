@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A picture of the handbook, stretched to the size of the widget.
+// A picture of the handbook, scaled to the size of the widget.
 #pragma once
 
 #include <QPixmap>
@@ -13,16 +13,16 @@ class PictureView : public QWidget {
 
 public:
     using QWidget::QWidget;
-    /// The file's name without its directory. One that is not there leaves the widget empty.
+    /// `file` is the file name without a directory. If there is no such picture, the widget stays empty.
     void SetPicture(const QString& file);
     const QPixmap& Picture() const { return picture_; }
-    /// Its own size, or as much of it as the screen has room for.
+    /// The size of the picture, reduced if the screen is too small for it.
     QSize sizeHint() const override;
-    /// A window is not made so small around it that nothing can be read.
+    /// Keeps windows from becoming so small that the picture is unreadable.
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
-    /// Pressed and let go on the picture.
+    /// Emitted when the mouse is pressed and released on the picture.
     void Clicked();
 
 protected:

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 //
-// Whether the print server answers. Where printing goes through a server (CUPS), asking it for its printers waits as long as it
-// accepts and says nothing; so a small program, vatro-printers beside this one, asks first, and is ended if it takes too long.
+// Checks whether the print server answers. Where printing goes through a server (CUPS), a request for its printers blocks for as long
+// as the server accepts connections but does not answer. So a small program beside this one, vatro-printers, asks first and is ended if
+// it takes too long.
 //
-// print_server_posix.cpp and print_server_windows.cpp have it.
+// Implemented by print_server_posix.cpp and print_server_windows.cpp.
 #pragma once
 
 namespace vatro {
 
-/// Returns after two seconds at the latest. True if the server can be asked: it answers, or refuses at once because there is none.
+/// Returns within two seconds. True if the server can be asked: either it answers, or it refuses at once because there is none.
 bool PrintServerAnswers();
 
 }  // namespace vatro

@@ -20,7 +20,7 @@ bool PrintServerAnswers() {
     asking.setStandardErrorFile(QProcess::nullDevice());
     asking.start(QCoreApplication::applicationDirPath() + QStringLiteral("/vatro-printers"), {});
     if (asking.waitForFinished(kPatience)) return asking.exitStatus() == QProcess::NormalExit && asking.exitCode() == 0;
-    // Without the small program nobody can ask first: better a server that may keep the job waiting than no paper at all.
+    // vatro-printers is missing, so nothing can ask first. Risk waiting for the server rather than not printing at all.
     if (asking.error() == QProcess::FailedToStart) return true;
     asking.kill();
     asking.waitForFinished(kAfterKill);

@@ -4,7 +4,7 @@
 namespace vatro {
 
 bool PrintServerAnswers() {
-    // The system keeps the list of printers itself.
+    // Windows itself keeps the list of printers.
     return true;
 }
 

@@ -50,7 +50,7 @@ void QtPrinter::PrintToFile(const QString& pdf) {
 
 QtPrinter::Target QtPrinter::FindTarget() const {
     if (!fixedFile_.isEmpty()) return Target::File;
-    // A file chosen in the printer's dialogue needs no server.
+    // If a file was chosen in the printer dialogue, no server is needed.
     if (printer_ && !printer_->outputFileName().isEmpty()) return Target::Printer;
     if (Printer() == nullptr) return Target::FileForWantOfAnAnswer;
     return QPrinterInfo::availablePrinterNames().isEmpty() ? Target::File : Target::Printer;
@@ -60,7 +60,7 @@ QPagedPaintDevice& QtPrinter::Device() const {
     if (target_ == Target::Unknown) {
         target_ = FindTarget();
         if (target_ != Target::Printer) {
-            // The same margins as of a printer that says nothing of its own.
+            // The default margins are the same as those of a printer that does not report its own.
             pdf_ = std::make_unique<QPdfWriter>(&file_);
             pdf_->setTitle(DocumentName());
             pdf_->setPageSize(QPageSize(QPageSize::A4));
@@ -83,7 +83,7 @@ QFont QtPrinter::FontOnPaper(const Font& font) const {
     if (font.size > 0) paper.setPointSizeF(font.size);
     paper.setBold(font.bold);
     paper.setUnderline(font.underline);
-    // Rows of figures keep their columns where the named font is missing.
+    // If the named font is missing, keep columns of digits aligned with another fixed-pitch font.
     paper.setStyleHint(font.name.starts_with("Courier") ? QFont::Monospace : QFont::SansSerif);
     return {paper, &Device()};
 }
@@ -103,7 +103,7 @@ void QtPrinter::BeginJob() {
     dropped_ = false;
 }
 
-/// Empty on Cancel.
+/// Empty if the user cancels.
 QString QtPrinter::AskForFile() const {
     if (!fixedFile_.isEmpty()) return fixedFile_;
     FileDialog dialog;
@@ -127,7 +127,7 @@ void QtPrinter::TellFailure() const {
         Tell("Udskriften kan ikke skrives til " + FromQt(file_.fileName()));
 }
 
-/// Whether there is something to paint on: the job begins with its first text.
+/// Starts the job with its first text. Returns whether there is a device to paint on.
 bool QtPrinter::Start() {
     if (painter_.isActive()) return true;
     if (dropped_) return false;
@@ -166,7 +166,7 @@ void QtPrinter::EndJob() {
         file_.close();
         if (file_.error() != QFile::NoError) TellFailure();
     }
-    // The next job asks anew.
+    // Choose the target again for the next job.
     target_ = Target::Unknown;
 }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The printer of the desktop. Without any printer a job becomes a PDF file, whose place the user is asked for.
+// The desktop's printer. If there is no printer, a job becomes a PDF file, and the user is asked where to save it.
 //
-// Nothing is asked of the print server before something is printed or the printer is chosen, and then a process of its own asks
-// first: a server that does not answer costs a job two seconds, and the job becomes a PDF file too.
+// The print server is not contacted until something is printed or the user chooses a printer. Then a separate process asks it first: a
+// server that does not answer delays a job by two seconds, and the job becomes a PDF file, too.
 #pragma once
 
 #include <QFile>
@@ -20,15 +20,15 @@ namespace vatro {
 
 class QtPrinter : public PageDevice {
 public:
-    /// `answers` tells whether the print server can be asked now; it is asked itself, at most once for each job.
+    /// `answers` tells whether the print server can be asked now. It is called at most once for each job.
     explicit QtPrinter(std::function<bool()> answers = PrintServerAnswers);
     ~QtPrinter() override;
     QtPrinter(const QtPrinter&) = delete;
     QtPrinter& operator=(const QtPrinter&) = delete;
 
-    /// The printer that the jobs go to, for its dialogue; nothing if the print server does not answer.
+    /// The printer for all jobs, for use by the printer dialogue. Null if the print server does not answer.
     QPrinter* Printer() const;
-    /// All jobs go to this file, and no server is asked.
+    /// Sends all jobs to this file, without asking any server.
     void PrintToFile(const QString& pdf);
 
     double Width() const override;
@@ -41,10 +41,11 @@ public:
     void EndJob() override;
 
 private:
+    /// Where the current job goes. FileForWantOfAnAnswer: to a PDF file, because the print server does not answer.
     enum class Target { Unknown, Printer, File, FileForWantOfAnAnswer };
 
     Target FindTarget() const;
-    /// Asking for it decides where the job goes: measures are taken before the first text.
+    /// The device of the current job. The first call decides between printer and file, because text is measured before any is printed.
     QPagedPaintDevice& Device() const;
     QFont FontOnPaper(const Font& font) const;
     QString AskForFile() const;
@@ -53,17 +54,17 @@ private:
 
     std::function<bool()> answers_;
     mutable Target target_ = Target::Unknown;
-    /// Made when the server has answered for the first time.
+    /// Created when the server answers for the first time.
     mutable std::unique_ptr<QPrinter> printer_;
     mutable QFile file_;
-    /// Writes into the file.
+    /// Writes to file_.
     mutable std::unique_ptr<QPdfWriter> pdf_;
     QPainter painter_;
-    /// Pages begun before anything stood on the first one.
+    /// Number of pages begun before anything was printed on the first one.
     int pending_ = 0;
-    /// The user gave no place for the job, or nothing can be printed there, which has been told.
+    /// Whether the job is discarded: the user chose no file, or the output cannot be opened, which has been reported.
     bool dropped_ = false;
-    /// The file that all jobs go to, or nothing.
+    /// The file for all jobs, or empty.
     QString fixedFile_;
 };
 

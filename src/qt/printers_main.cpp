@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Asks the print server what the window program is about to ask it, and ends. Whoever starts it learns by its end that the
-// server answers, or ends it when that takes too long.
+// Asks the print server the same question that the window program is about to ask, and exits. If it exits in time, the server answers;
+// otherwise its parent ends it.
 #include <QCoreApplication>
 #include <QPrinter>
 #include <QPrinterInfo>

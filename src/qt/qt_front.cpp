@@ -66,7 +66,7 @@ void QtFront::Changed(Form& form) {
 }
 
 void QtFront::Activated(Form& /*form*/) {
-    // A handler may pass through several forms: only where it ends is shown.
+    // Activate later: a handler may activate several forms in turn, and only the last one matters.
     if (activationPending_) return;
     activationPending_ = true;
     QTimer::singleShot(0, this, &QtFront::FollowActivation);
@@ -76,12 +76,12 @@ void QtFront::FollowActivation() {
     activationPending_ = false;
     Form* form = ActiveForm();
     FormWindow* window = form != nullptr ? WindowOf(*form) : nullptr;
-    // A box in front keeps the keys; its form gets them back when it closes.
+    // An open box keeps the focus; the form gets it back when the box closes.
     if (window == nullptr || QApplication::activeModalWidget() != (form->Modal() ? window->Top() : nullptr)) return;
     if (!window->Top()->isVisible()) return;
     window->FollowFocus();
     if (QApplication::activeWindow() == window->Top()) {
-        // A window asked for meanwhile is wanted no more, and may never come.
+        // An earlier request for another window is obsolete, and may never be fulfilled.
         awaited_ = nullptr;
         return;
     }
@@ -135,7 +135,7 @@ void QtFront::WindowActivated(Form& form) {
         window->FollowFocus();
         return;
     }
-    // Out of date, or only because the window has been shown: the keys go where the program wants them.
+    // This activation is out of date or only results from showing the window, so return the focus to the form that the program wants.
     if (activationPending_ || awaited_ != nullptr || fresh) {
         Activated(form);
         return;
@@ -162,7 +162,7 @@ void QtFront::RunModal(Form& form) {
 void QtFront::Refresh(Form& form) {
     FormWindow* window = WindowOf(form);
     if (window == nullptr || !form.Visible()) return;
-    // The first picture of a window waits for the window system; nothing else may come between meanwhile.
+    // The first paint of a window waits for the window system. Hold ticks in the meantime.
     ++held;
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     window->Top()->repaint();

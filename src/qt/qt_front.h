@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The front on Qt: one window for each loaded form, which mirrors what form and controls tell it.
+// The Qt front: one window for each loaded form, mirroring the form and its controls.
 #pragma once
 
 #include <QObject>
@@ -35,56 +35,56 @@ public:
     double TextWidth(std::string_view text, const Font& font) override;
     void Ended() override;
 
-    /// The window of a loaded form, or nothing.
+    /// The window of a loaded form, or null.
     FormWindow* WindowOf(const Form& form) const;
-    /// The widget of a control, or nothing if it has none.
+    /// The widget of a control, or null if it has none.
     QWidget* WidgetOf(const Control& control) const;
-    /// The active form's window is, or is about to become, the active window.
+    /// Whether the active form's window has been asked to become the active window but is not active yet.
     bool ActivationPending() const { return activationPending_ || awaited_ != nullptr; }
 
-    /// Waits while a modal form is open; another wait can be put in its place.
+    /// Waits while a modal form is open; replaceable.
     std::function<void(const std::function<bool()>& over)> waitModal;
-    /// A main window does not reach beyond the screen when it is first shown.
+    /// Whether a main window is shrunk to fit the screen when it is first shown.
     bool fitToScreen = false;
-    /// Pasted text goes through the fields' filters as keys do.
+    /// Whether pasted text goes through the fields' key filters.
     bool filterPaste = false;
-    /// No key is lost that is typed while one window gives way to another.
+    /// Whether keys typed while one window gives way to another are preserved.
     bool keepKeys = false;
-    /// The program has ended.
+    /// Called when the program has ended.
     std::function<void()> ended;
 
-    // From the windows.
+    // Called by the windows.
 
-    /// The window is about to be hidden. If keys are kept, that of the active form, above which it stands, gets them first: left
-    /// to the window system they would go nowhere until it has chosen the next window.
+    /// `leaving` is about to be hidden. If keys are preserved, activates the active form's window below it first. Otherwise keys would
+    /// be lost until the window system has chosen the next window.
     void HandKeysOver(const QWidget& leaving) const;
-    /// Removes a hidden window; if keys are kept, not before those that were on their way to it have come.
+    /// Deletes a hidden window. If keys are preserved, waits until keys already on their way to it have arrived.
     void Remove(QWidget& window) const;
-    /// The window has been put on the screen by the program.
+    /// The program has put this window on the screen.
     void Shown(const FormWindow& window);
-    /// The main window is on the screen: those above it may follow.
+    /// The main window is on the screen, so show the windows above it.
     void FollowAll();
-    /// A window has been minimised or restored: the windows above the main window follow.
+    /// A window has been minimised or restored; adjust the windows above the main window.
     void FollowOwners();
     /// Whether the main window is minimised.
     bool MainMinimised() const;
     void WindowActivated(Form& form);
-    /// Keys or clicks have arrived at the window of this form.
+    /// The window of this form has received a key or click.
     void WindowUsed(Form& form);
 
 private:
     void FollowActivation();
 
     std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
-    /// The window of the active form will be activated when Qt's events run next.
+    /// The window of the active form will be activated the next time Qt processes events.
     bool activationPending_ = false;
-    /// Asked to become the active window, and not yet it: what other windows tell meanwhile is out of date.
+    /// The window that was asked to become active but is not active yet. Until then, activations of other windows are out of date.
     QWidget* awaited_ = nullptr;
-    /// Shown by the program and not active since: some window systems make every new window the active one.
+    /// Windows shown by the program that have not been active since. Some window systems activate every new window.
     std::set<const QWidget*> fresh_;
 };
 
-/// Whether events wait, by which a tick of the clock must not come between the steps of a handler.
+/// Whether events must wait because a handler is repainting its window; a tick must not run between the steps of a handler.
 bool TicksHeld();
 
 }  // namespace vatro

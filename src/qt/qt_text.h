@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Text between the program, which speaks code page 1252, and Qt, which speaks Unicode.
+// Conversion between the program's text (code page 1252) and Qt's (Unicode).
 #pragma once
 
 #include <QString>
@@ -9,14 +9,15 @@
 
 namespace vatro {
 
+/// Converts text of the code page.
 QString ToQt(std::string_view text);
 /// A character outside the code page becomes "?".
 std::string FromQt(const QString& text);
-/// Whether FromQt gives the text as it is.
+/// Whether FromQt would convert the text without loss.
 bool HasCodePageText(const QString& text);
-/// What the program takes of a text that the user brings in from outside: its first line.
+/// The part of a pasted or dropped text that the program uses: its first line.
 std::string PastedText(const QString& text);
-/// A caption without the "&" of its access key.
+/// A caption without the "&" that marks its access key.
 QString PlainCaption(std::string_view caption);
 
 }  // namespace vatro

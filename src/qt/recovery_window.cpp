@@ -29,7 +29,7 @@ using namespace literals;
 
 namespace {
 
-/// In characters of the font.
+/// Width of the window, in characters of its font.
 constexpr int kWidth = 90;
 
 QLabel* Words(const QString& text, bool bold = false) {
@@ -68,7 +68,7 @@ RecoveryWindow::RecoveryWindow(const std::filesystem::path& directory, const std
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidget(cards);
-    // The keyboard scrolls it; the buttons come first all the same.
+    // The text can be scrolled by keyboard, but the buttons get the focus first.
     scroll->setAccessibleName(QStringLiteral("Hvad der er fundet"));
     all->addWidget(scroll, 1);
 

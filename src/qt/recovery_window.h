@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The window that tells at the start what is wrong in the log directory, one card for each finding, and asks whether to put it
-// right. Enter does what it proposes, Esc changes nothing.
+// The window shown at the start if something is wrong in the log directory. It has one card for each finding and asks whether to
+// repair. Enter carries out the proposals, Esc changes nothing.
 #pragma once
 
 #include <QDialog>
@@ -17,11 +17,11 @@ namespace vatro {
 
 class RecoveryWindow : public QDialog {
 public:
-    /// `directory` is shown as the place that it is about. The findings must not be empty.
+    /// `directory` is shown as the place concerned. `findings` must not be empty.
     RecoveryWindow(const std::filesystem::path& directory, const std::vector<Finding>& findings, QWidget* owner = nullptr);
-    /// Whether there is anything to put right; otherwise the window only tells.
+    /// Whether there is anything to repair; otherwise the window only informs.
     bool HasProposals() const { return hasProposals_; }
-    /// For each finding the log chosen for a copy; empty where there was no choice.
+    /// For each finding, the log chosen for a copy; empty if there was no choice.
     std::vector<std::string> Choices() const;
 
 private:
@@ -31,8 +31,8 @@ private:
     std::vector<QComboBox*> choices_;
 };
 
-/// Looks for damage, asks, repairs and tells of the outcome. Shows nothing where nothing is found. Gives the logs whose damage the
-/// operator has seen and left as it is.
+/// Searches for damage, asks, repairs, and reports the outcome. Shows nothing if nothing is found. Returns the logs whose damage the
+/// operator has seen but not repaired.
 std::vector<std::filesystem::path> Recover(const RecoveryPlaces& places, History& history);
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Plays scenarios through the real window. A warning of Qt that is not known to be harmless is an error.
+// Plays scenarios through the real window. Any Qt warning that is not known to be harmless is an error.
 #include <QApplication>
 #include <QFontDatabase>
 #include <QLocale>
@@ -17,7 +17,7 @@ constexpr int kError = 2;
 int warnings = 0;
 
 void CountWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
-    // What windows without a screen cannot do, and need not; and what a machine without a session lacks.
+    // Warnings about things that windows without a screen, or a machine without a desktop session, cannot do and do not need.
     static const std::array kHarmless{
         QStringLiteral("This plugin does not support raise()"), QStringLiteral("This plugin does not support propagateSizeHints()"),
         QStringLiteral("This plugin does not support grabbing the keyboard"), QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR not set")};

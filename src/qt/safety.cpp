@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Before the program has read it.
+/// Reads a setting before the program has read its settings.
 std::string Read(Settings& settings, const TextSetting& row) {
     return settings.Read(row.section, row.readKey).value_or(std::string(row.fallback));
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What keeps the logs of the desktop program safe, put together: the files that lose nothing, the locks against a second copy, the
-// window that repairs, and the boxes that tell. src/main.cpp alone makes one.
+// Everything that keeps the logs of the desktop program safe: the files that lose nothing, the locks against a second copy, the
+// recovery window, and the boxes that inform the operator. Created only by src/main.cpp.
 #pragma once
 
 #include "platform.h"
@@ -11,17 +11,17 @@ namespace vatro {
 
 class Safety {
 public:
-    /// `disk` has the files, `perUser` the lock against a copy of the same user; all must outlive this.
+    /// `disk` provides the files, `perUser` the lock against another copy of the same user. All arguments must outlive this object.
     Safety(Files& disk, Clock& clock, Settings& settings, Instance& perUser);
     ~Safety();
     Safety(const Safety&) = delete;
     Safety& operator=(const Safety&) = delete;
 
     SafeFiles& ProgramFiles() { return files_; }
-    /// Another copy runs for this user, or has the log directory of the settings. Once both locks are won the directory is looked
-    /// at for damage.
+    /// Reports another copy if one runs for this user or uses the log directory of the settings. Once both locks have been acquired,
+    /// checks the directory for damage.
     Instance& ProgramInstance() { return instance_; }
-    /// Shows what has not been told yet, at the end of the program.
+    /// At the end of the program: shows the messages that have not been shown yet.
     void TellRest();
 
 private:

@@ -30,13 +30,13 @@ std::filesystem::path SettingsPath() {
 QtInstance::QtInstance() : QtInstance(LockPath()) {}
 
 QtInstance::QtInstance(const QString& lockFile) : lock_(lockFile) {
-    // A log may be open for days: only a process that is gone loses its lock.
+    // A log may be open for days, so a lock becomes stale only when its process no longer exists.
     lock_.setStaleLockTime(0);
 }
 
 bool QtInstance::AnotherCopyRuns() {
     if (lock_.isLocked() || lock_.tryLock(0)) return false;
-    // Without a place for the lock the program runs all the same.
+    // If the lock file cannot be created, let the program run anyway.
     return lock_.error() == QLockFile::LockFailedError;
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Smaller services of the desktop: where the settings lie, one running copy for each user, and the help viewer.
+// Smaller services of the desktop: the location of the settings, the lock for one running copy per user, and the help viewer.
 #pragma once
 
 #include <QLockFile>
@@ -13,10 +13,10 @@ namespace vatro {
 
 class HelpWindow;
 
-/// The settings file of this user, in the place that the desktop has for such files.
+/// This user's settings file, in the desktop's standard location.
 std::filesystem::path SettingsPath();
 
-/// A lock in the user's runtime directory. The lock of a copy that was killed is known as such and taken over.
+/// A lock in the user's runtime directory. The lock of a copy that was killed is recognised as stale and taken over.
 class QtInstance : public Instance {
 public:
     QtInstance();
@@ -27,14 +27,14 @@ private:
     QLockFile lock_;
 };
 
-/// The help viewer, a window of the program's own that stays open beside the others. Whatever file is named, it shows the
-/// handbook at its table of contents.
+/// The help viewer: a window of the program that stays open beside the others. It always shows the handbook at its table of contents,
+/// whatever file is named.
 class QtHelp : public Help {
 public:
     QtHelp();
     ~QtHelp() override;
     void Show(std::string_view path) override;
-    /// The window, if it has been opened.
+    /// The window, or null if it has not been opened.
     HelpWindow* Window() const { return window_.get(); }
 
 private:

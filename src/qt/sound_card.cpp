@@ -13,7 +13,7 @@ namespace vatro {
 
 namespace {
 
-/// Until the sound system has answered; a machine whose sound does not answer has none.
+/// How long to wait for the sound system; if it does not answer, there is no sound card.
 constexpr std::chrono::milliseconds kPatience{3000};
 
 }  // namespace
@@ -21,7 +21,7 @@ constexpr std::chrono::milliseconds kPatience{3000};
 QtSound::QtSound() : bell_(std::make_unique<QObject>()), thread_(std::make_shared<SoundThread>(std::make_unique<QtSoundLoop>())) {}
 
 QtSound::~QtSound() {
-    // A thread that hangs in the sound system may ring yet.
+    // If the thread hangs in the sound system, it may still post later, so leak the object.
     if (!thread_->End()) static_cast<void>(bell_.release());
 }
 
@@ -60,7 +60,7 @@ void QtSound::RunSignals() {
         signals_.pop_front();
         const auto found = events_.find(signal.event);
         if (found == events_.end() || signal.OutOfDate()) continue;
-        // The callback may destroy its own event.
+        // Copy the callback: it may destroy its own event.
         const auto callback = found->second;
         Deliver([&] { callback(signal.event); });
     }

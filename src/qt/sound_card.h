@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// The sound card of the desktop, by Qt Multimedia.
+// The desktop's sound card, through Qt Multimedia.
 //
-// The sound system is spoken to on a thread of its own (platform/sound_thread.h), so that a busy program does not make the sound
-// stutter and a slow sound system does not hold up the program. What the program calls returns at once; notifications come
-// back as events of the program's thread.
+// All calls to the sound system are made on a separate thread (platform/sound_thread.h), so that a busy program does not interrupt the
+// sound and a slow sound system does not block the program. Calls from the program return at once; notifications come back as events on
+// the program's thread.
 #pragma once
 
 #include <QObject>
@@ -20,7 +20,7 @@ namespace vatro {
 class QtSound : public Sound {
 public:
     QtSound();
-    /// The sound ends. Buffers and devices may outlive it, and are silent then.
+    /// Stops all sound. Buffers and devices may outlive this object; they are silent from then on.
     ~QtSound() override;
 
     SoundEvent CreateEvent(std::function<void(SoundEvent)> callback) override;
@@ -33,7 +33,7 @@ private:
     SoundEvent lastEvent_ = 0;
     std::map<SoundEvent, std::function<void(SoundEvent)>> events_;
     std::deque<SoundSignal> signals_;
-    /// What the sound thread posts to; posts that have not run go with it.
+    /// Receives the signals posted by the sound thread; signals that have not run are deleted with it.
     std::unique_ptr<QObject> bell_;
     std::shared_ptr<SoundThread> thread_;
 };

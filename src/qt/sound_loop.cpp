@@ -10,7 +10,7 @@ class QtSoundLoop::Home : public QObject {
 public:
     explicit Home(std::function<void()> atEnd) : atEnd_(std::move(atEnd)) {}
     ~Home() override {
-        // A sink lets events run when it goes.
+        // Remove pending tasks first, because destroying a sink processes events.
         QCoreApplication::removePostedEvents(this);
         atEnd_();
     }

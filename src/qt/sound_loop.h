@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The sound thread of the desktop: one of Qt's, since Qt Multimedia wants an event loop there.
+// The desktop's sound thread. It is a QThread, because Qt Multimedia needs an event loop.
 #pragma once
 
 #include <QThread>
@@ -19,7 +19,7 @@ private:
     class Home;
 
     std::unique_ptr<QThread> thread_;
-    /// What tasks are posted to. It lives on the thread and goes with it.
+    /// The object that tasks are posted to. It lives on the thread and is deleted with it.
     Home* home_ = nullptr;
 };
 

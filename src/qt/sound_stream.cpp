@@ -14,7 +14,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcSound, "vatro.sound", QtWarningMsg)
 
-/// What the sound system is ahead: long enough for a busy machine, short against the half second of a refill.
+/// How far the sound system is kept ahead of what is heard: enough for a busy machine, yet short compared with the half second between
+/// refills.
 constexpr int kAheadMilliseconds = 150;
 constexpr int kFeedMilliseconds = 10;
 constexpr int kMicrosecondsPerMillisecond = 1000;
@@ -54,12 +55,12 @@ void QtSoundStream::Drop() {
     input_ = nullptr;
     if (sink_ == nullptr) return;
     sink_->reset();
-    // It lets events run when it goes, which may be for this player.
+    // Delete the sink later, because its destructor processes events, possibly for this player.
     sink_.release()->deleteLater();
 }
 
 std::optional<std::size_t> QtSoundStream::Room() {
-    // A stream that the sound system has ended takes less than nothing, and must not be written to.
+    // If the sound system has stopped the stream, bytesFree is negative and the stream must not be written to.
     const qsizetype room = sink_->bytesFree();
     if (sink_->state() == QAudio::StoppedState || room < 0) return std::nullopt;
     return static_cast<std::size_t>(room / kSampleBytes);

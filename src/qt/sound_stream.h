@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a player gets of the desktop's sound system, by Qt Multimedia. Lives on the sound thread.
+// The stream of a player, through Qt Multimedia. Lives on the sound thread.
 #pragma once
 
 #include <QTimer>
@@ -14,7 +14,7 @@ namespace vatro {
 
 class QtSoundStream : public SoundStream {
 public:
-    /// Whether there is a device to play on; the sound system is asked, which may take its time.
+    /// Whether there is an output device. Asks the sound system, which may take some time.
     static bool DeviceThere();
 
     QtSoundStream();
@@ -34,7 +34,7 @@ public:
     void TellGone() override;
 
 private:
-    /// Nothing while there is no device to play on.
+    /// Null while no output device is open.
     std::unique_ptr<QAudioSink> sink_;
     QIODevice* input_ = nullptr;
     std::function<void()> feed_;

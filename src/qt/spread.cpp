@@ -13,21 +13,22 @@ namespace vatro {
 
 namespace {
 
-/// With less room a window is of little use.
+/// A window needs at least this much room to be useful.
 constexpr int kLeastHeight = 100;
 constexpr int kLeastWidth = 250;
 
-/// Large letters, or as narrow as can be where there are none yet. Its height decides its width.
+/// Whether the window shows one line of large letters; before it has any letters, it is as narrow as possible. The height of such a
+/// window determines its width.
 bool IsOneLine(const QRect& window) {
     return window.width() >= 2 * window.height() || 2 * window.width() <= window.height();
 }
 
-/// The width for a new height.
+/// The width for a new height, with the same aspect ratio.
 int WidthFor(const QRect& line, int height) {
     return line.width() * height / line.height();
 }
 
-/// Side by side, each in as much of the width as the others, all equally high.
+/// Places the windows side by side, with equal shares of the width and equal heights.
 void PlaceLines(const QRect& room, const std::vector<QRect*>& lines) {
     if (lines.empty()) return;
     const int width = room.width() / static_cast<int>(lines.size());
@@ -43,7 +44,7 @@ void PlaceLines(const QRect& room, const std::vector<QRect*>& lines) {
     }
 }
 
-/// One below the other, each in as much of the height as the others.
+/// Places the windows one below the other, with equal shares of the height.
 void PlaceOthers(const QRect& room, const std::vector<QRect*>& windows) {
     if (windows.empty()) return;
     const int height = room.height() / static_cast<int>(windows.size());
@@ -94,7 +95,7 @@ void SpreadWindows(const QtFront& front) {
     }
     if (main == nullptr) return;
     const QWidget* field = main->focusWidget();
-    // With the caption above it.
+    // Start above the caption of the field.
     const int entry = field != nullptr ? field->mapToGlobal(QPoint()).y() - 2 * field->height() : main->frameGeometry().bottom();
     const std::vector<QRect> places = BesideMain(main->screen()->availableGeometry(), main->frameGeometry(), entry, frames);
     for (std::size_t i = 0; i < beside.size(); ++i) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The places of the side windows before anybody has chosen them. Those that the forms begin with lie above the main window;
-// operators who see the program for the first time would have to clear the entry fields by mouse.
+// Initial places of the side windows, for users who have not moved them yet. The forms' own default places lie above the main window,
+// where they would cover the entry fields of a first-time user.
 #pragma once
 
 #include <QRect>
@@ -11,12 +11,12 @@ namespace vatro {
 
 class QtFront;
 
-/// Frames beside that of the main window, one for each of `windows`, none wider or higher than it was. Windows of one line
-/// of large letters go below the main window and keep their shape, others to its right; where the screen has no room there,
-/// above the line `entry` of the screen, from which on the main window stays free.
+/// Returns a frame for each of `windows`, none wider or higher than before, arranged around the main window. Windows with one line of
+/// large letters go below the main window and keep their aspect ratio; the others go to its right. If the screen has no room there,
+/// they go over the upper part of the main window. Everything from the screen row `entry` downwards stays uncovered.
 std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, int entry, std::vector<QRect> windows);
 
-/// Puts the side windows that are shown there, as if the user had. Nothing without a main window on the screen.
+/// Moves the visible side windows to these places, as if the user had moved them. Does nothing if no main window is on the screen.
 void SpreadWindows(const QtFront& front);
 
 }  // namespace vatro

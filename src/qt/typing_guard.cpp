@@ -44,7 +44,7 @@ PressedKey Pressed(const QKeyEvent& event) {
     return key;
 }
 
-/// Shift and its like are part of the key that they are pressed with.
+/// Shift and similar keys only modify other keys.
 bool IsModifier(int key) {
     return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
 }
@@ -55,18 +55,18 @@ QWidget* WidgetOf(const QWindow& window) {
     return nullptr;
 }
 
-/// The form of this slot if it is on the screen.
+/// The form in this slot if it is visible, or null.
 const Form* Shown(const FormSlotBase& slot) {
     const Form* form = slot.Peek();
     return form != nullptr && form->Visible() ? form : nullptr;
 }
 
-/// The window that sends has the keys.
+/// Whether the sending window has the focus.
 bool Sending() {
     return Shown(frmCWTX) != nullptr && ActiveForm() == frmCWTX.Peek() && frmMain.Loaded();
 }
 
-/// What the keys have done on the main form has made that the active one.
+/// Returns the focus to the sending window, because handling keys on the main form may have activated that form.
 void GiveKeysBackToSending() {
     Form* form = frmCWTX.Peek();
     if (Shown(frmCWTX) != nullptr && ModalForm() == nullptr && ActiveForm() != form) form->SetFocus();
@@ -93,7 +93,7 @@ bool TypingGuard::eventFilter(QObject* watched, QEvent* event) {
             if (qobject_cast<QMessageBox*>(watched) != nullptr) box_.CameUp(now());
             return false;
         case QEvent::WindowActivate:
-            // Which form has the keys is settled when all windows have been told.
+            // Wait until all windows have received their activation events; only then is it certain which form has the focus.
             if (frmCWTX.Loaded() && watched->isWidgetType()) QTimer::singleShot(0, this, &TypingGuard::MarkField);
             return false;
         case QEvent::Hide: {
@@ -117,7 +117,7 @@ Form* TypingGuard::FormOf(const QWidget* window) const {
 bool TypingGuard::TakeKey(const QWindow& window, QKeyEvent& event) {
     PressedKey key = Pressed(event);
     const bool press = event.type() == QEvent::KeyPress;
-    // Only a real key has a number.
+    // Only a key from the keyboard has a scan code.
     if (const quint32 number = event.nativeScanCode(); number != 0) {
         const Moment at(event.timestamp());
         if (press)
@@ -171,7 +171,7 @@ bool TypingGuard::TakeOnForm(const Form& form, const PressedKey& key) {
     if (EntryKeys::Held(key)) return true;
     if (&form != frmMain.Peek()) return false;
     if (morse_.StillMeansText(key, now())) return true;
-    // In the list Enter corrects, in the box it takes the operator.
+    // Enter has another meaning in these controls: in the list it corrects a contact, in the combo box it selects the operator.
     const Control* active = form.ActiveControl();
     if (As<ListBox>(active) != nullptr || As<ComboBox>(active) != nullptr) return false;
     return entry_.Swallows(key, frmMain->fields[kCallField].Text().empty(), now());
@@ -185,7 +185,7 @@ void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {
     const QKeySequence sequence(event.keyCombination());
     for (QAction* action : window->Top()->findChildren<QAction*>()) {
         if (!action->shortcuts().contains(sequence)) continue;
-        // Held down, F5 would send its text anew over and over.
+        // Ignore auto-repeat: holding F5 would restart its text again and again.
         if (press && !key.repeated) action->trigger();
         Deliver(GiveKeysBackToSending);
         MarkField();
@@ -235,7 +235,8 @@ void TypingGuard::MarkField() {
 
 void TypingGuard::SendingOver() {
     if (mark_ != nullptr) mark_->hide();
-    // Where the main form had the keys, they were for its fields all the time.
+    // Without the focus in the sending window, keys went to the fields of the main form all along, so Esc and Enter were not meant for
+    // the text.
     if (std::exchange(sending_, false) && frmCWTX->EndedByItself())
         morse_.EndedByItself(now());
     else
@@ -247,7 +248,7 @@ void TypingGuard::WatchLog() {
     const auto* list = qobject_cast<const ItemList*>(front_.WidgetOf(frmMain->log));
     if (list == nullptr || list->model() == log_) return;
     log_ = list->model();
-    // A log that is read comes as a whole; a row by itself has just been logged.
+    // Reading a log resets the model, so a single inserted row is a newly logged contact.
     connect(log_, &QAbstractItemModel::rowsInserted, this, [this] { entry_.Logged(now()); });
 }
 

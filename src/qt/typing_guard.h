@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Sees every key of the program before its window does, and keeps back what the operator did not mean. What decides stands in
-// extras/box_keys.h, extras/entry_keys.h and extras/morse_keys.h; here it is told what happens in Qt.
+// Sees every key before the program's windows do, and suppresses keys that the operator did not mean. The decisions are made in
+// extras/box_keys.h, extras/entry_keys.h and extras/morse_keys.h; this class reports Qt's events to them.
 //
-// While a Morse text is sent its window has the keys, but only its own few. The others are handed on to the main form, which
-// gets them as if it were in front, and the window that sends keeps the focus: Esc and Enter go on stopping the text.
+// While a Morse text is being sent, the sending window has the focus, but uses only a few keys. All other keys are passed to the main
+// form, which handles them as if it were in front. The sending window keeps the focus, so Esc and Enter still stop the text.
 #pragma once
 
 #include <QElapsedTimer>
@@ -34,28 +34,29 @@ class TypingGuard : public QObject {
     Q_OBJECT
 
 public:
-    /// Works from now on, for all windows of the application. The front outlives it.
+    /// Starts guarding all windows of the application. `front` must outlive this object.
     explicit TypingGuard(QtFront& front);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /// The clock of the guards; a test may put its own in its place.
+    /// The clock of the guards; tests may replace it.
     std::function<Moment()> now;
 
 private:
     bool TakeKey(const QWindow& window, QKeyEvent& event);
-    /// A key that was on its way to a window when that was hidden: for the one that has the keys now.
+    /// Passes a key that was on its way to a window that has since been hidden to the window that has the focus now.
     bool HandOn(const QKeyEvent& event, bool repeated) const;
     bool TakeOnBox(QMessageBox& box, const PressedKey& key);
-    /// Keys while a text is sent, at the window that sends or, as long as the focus is on its way there, at the main form's.
+    /// Handles keys while a text is being sent. They arrive at the sending window or, before it has received the focus, at the main
+    /// form's.
     bool TakeWhileSending(QKeyEvent& event, const PressedKey& key);
     bool TakeOnForm(const Form& form, const PressedKey& key);
-    /// What an input method brings in while a text is sent.
+    /// Handles input-method text while a Morse text is being sent.
     bool TakeInputMethod(const QWidget& widget, QInputMethodEvent& event);
     void HandToMain(QKeyEvent& event, const PressedKey& key);
-    /// Shows which field of the main form gets the keys while another window has the focus.
+    /// Marks the field of the main form that receives the keys while another window has the focus.
     void MarkField();
-    /// The window that sends has been hidden.
+    /// The sending window has been hidden.
     void SendingOver();
     void WatchLog();
     Form* FormOf(const QWidget* window) const;
@@ -66,11 +67,11 @@ private:
     BoxKeys box_;
     EntryKeys entry_;
     MorseKeys morse_;
-    /// The window that sends had the keys when it was last looked.
+    /// Whether the sending window had the focus when last checked.
     bool sending_ = false;
-    /// Made at first use; goes with the main window.
+    /// Created at first use; deleted with the main window.
     QPointer<FieldMark> mark_;
-    /// The rows of the log on the main form, once they are watched.
+    /// The model of the log list on the main form, once it is being watched.
     QPointer<const QAbstractItemModel> log_;
 };
 

@@ -42,7 +42,7 @@ Qt::WindowFlags Flags(FormKind kind) {
     return Qt::Window;
 }
 
-/// No window is without a pixel.
+/// Lengths are at least one pixel.
 int ToLength(int twips) {
     return qMax(1, ToPixels(twips));
 }
@@ -65,7 +65,7 @@ FormWindow::~FormWindow() {
     bindings_.Close();
     if (!top_) return;
     top_->removeEventFilter(this);
-    // Windows above this one are about to get another owner, or to go themselves.
+    // Windows above this one get another owner soon, or are deleted themselves; detach them so that they are not deleted with this one.
     for (QWidget* child : top_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
         if (child->isWindow() && child->property("vatroForm").toBool()) child->setParent(nullptr, child->windowFlags());
     front_.HandKeysOver(*top_);
@@ -86,7 +86,7 @@ void FormWindow::Build(QWidget* owner) {
         make(content);
     else
         bindings_.AddProblem(name + QStringLiteral(" has no layout"));
-    // The user makes a side window as small as he likes, and finds it so at the next start.
+    // The user may make a side window as small as wanted, and it keeps that size at the next start.
     if (form_.Kind() == FormKind::Tool && content->layout() != nullptr) content->layout()->setSizeConstraint(QLayout::SetNoConstraint);
     if (form_.Kind() == FormKind::Main) {
         auto* window = new QMainWindow(owner, Flags(form_.Kind()));
@@ -97,7 +97,7 @@ void FormWindow::Build(QWidget* owner) {
         top_ = window;
     } else {
         content->setParent(owner, Flags(form_.Kind()));
-        // The window has the size of its layout, whatever font the desktop comes up with.
+        // The window always has the size of its layout, whatever the desktop's font.
         if (form_.Kind() == FormKind::FixedDialog && content->layout() != nullptr)
             content->layout()->setSizeConstraint(QLayout::SetFixedSize);
         top_ = content;
@@ -108,7 +108,7 @@ void FormWindow::Build(QWidget* owner) {
     captionHead_ = top_->findChild<ColumnHead*>(QStringLiteral("FormCaption"));
 }
 
-/// The look is chosen in the menu of what is to be seen.
+/// The appearance entries are in the View menu ("mnuVis").
 void FormWindow::AddAppearance() {
     auto* window = qobject_cast<QMainWindow*>(top_.data());
     if (window == nullptr) return;
@@ -139,7 +139,7 @@ void FormWindow::Follow() {
 
 void FormWindow::FollowEnabled() {
     if (top_->isEnabled() != form_.Enabled()) {
-        // This ends in the event that comes here again.
+        // This triggers the event that calls this function again.
         top_->setEnabled(form_.Enabled());
         return;
     }
@@ -153,9 +153,9 @@ WindowPlace FormWindow::Told() const {
 
 void FormWindow::FollowPlace() {
     const WindowPlace told = Told();
-    // A window on its way to the screen is not disturbed: it would lose the place of its frame.
+    // Do not move a window that is not on the screen yet: its frame would be misplaced.
     if (!form_.Placed() || told == place_ || arriving_) return;
-    // Where the user has put the window, or the window manager is about to, is not for a new size to undo.
+    // If only the size has changed, keep the position that the user or the window manager has chosen.
     const bool moved = !place_ || told.left != place_->left || told.top != place_->top;
     place_ = told;
     if (placing_) return;
@@ -178,7 +178,7 @@ void FormWindow::FollowVisible() {
         top_->hide();
         return;
     }
-    // Window managers keep a window above another one only if they know that one already.
+    // A window manager keeps a window above another only if it already knows the other one, so wait until the owner is shown.
     if (form_.Kind() == FormKind::Tool && top_->parentWidget() != nullptr && !top_->parentWidget()->isVisible()) return;
     top_->setWindowModality(form_.Modal() ? Qt::ApplicationModal : Qt::NonModal);
     placing_ = true;
@@ -195,7 +195,7 @@ void FormWindow::PutOnScreen() {
         owned_ = !front_.MainMinimised();
         top_->windowHandle()->setTransientParent(owned_ && owner != nullptr ? owner->windowHandle() : nullptr);
     }
-    // A window minimised together with its owner and hidden then would be shown minimised, and its owner with it.
+    // A window that was minimised with its owner and then hidden would be shown minimised again, and its owner with it.
     if (form_.State() != WindowState::Minimised) top_->setWindowState(top_->windowState() & ~Qt::WindowMinimized);
     arriving_ = true;
     top_->show();
@@ -209,7 +209,7 @@ void FormWindow::FollowOwner() {
     if (form_.Kind() != FormKind::Tool || !form_.Visible() || !top_->isVisible()) return;
     const bool alone = front_.MainMinimised();
     if (alone ? !top_->isMinimized() || form_.State() == WindowState::Minimised : owned_) return;
-    // Only a window that comes anew to the screen gets another owner.
+    // The owner of a window can only be changed while the window is hidden.
     placing_ = true;
     const QPoint at = top_->pos();
     top_->hide();
@@ -235,7 +235,7 @@ void FormWindow::FitToScreen() {
 
 void FormWindow::FirstPlace() {
     const QRect screen = top_->screen()->availableGeometry();
-    // As large as its layout asks for, which nobody has told it before it is shown.
+    // Use the size that the layout asks for; Qt does not apply it before the window is shown.
     if (form_.Kind() == FormKind::Dialog || form_.Kind() == FormKind::FixedDialog || form_.Kind() == FormKind::FixedTool) {
         top_->ensurePolished();
         SetSize(top_->sizeHint().boundedTo(screen.size()));
@@ -257,13 +257,13 @@ void FormWindow::SetSize(const QSize& size) {
 
 void FormWindow::FollowFocus() {
     const Control* active = form_.ActiveControl();
-    // Setting the focus can make Qt activate the window. One that is not to have the keys gets its focus when it is.
+    // Setting the focus can make Qt activate the window. A window that should not be active gets its focus when it is activated.
     if (active == nullptr || &form_ != ActiveForm()) return;
     QWidget* widget = WidgetOf(*active);
     if (widget == nullptr) return;
     QWidget* const focused = top_->focusWidget();
     if (!widget->isEnabled() || widget->isHidden()) {
-        // Keys have nowhere to go until the form moves the focus.
+        // The active control cannot take keys, so drop the focus until the form moves it.
         if (focused != nullptr) focused->clearFocus();
     } else if (focused != widget) {
         widget->setFocus(Qt::OtherFocusReason);
@@ -279,13 +279,14 @@ void FormWindow::MoveByUser(int left, int top, int width, int height) {
 }
 
 void FormWindow::TellPlace() {
-    // Where the front has put a window that the form does not place is nothing to the form.
+    // A form without a place of its own is not told where the front has put its window.
     if (form_.Placed()) TellPlace(Told());
 }
 
 void FormWindow::TellPlace(const WindowPlace& finer) {
     if (placing_ || arriving_ || !top_->isVisible() || top_->isMinimized()) return;
-    // What the form makes of its new place is shown, but not told again: it may never be content with what it gets.
+    // If the form changes its new place, that is shown but not reported back; otherwise form and window system might correct each other
+    // for ever.
     if (telling_) return;
     const auto at = [](int pixels, int twips) { return ToPixels(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
     const auto length = [](int pixels, int twips) { return ToLength(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
@@ -303,7 +304,7 @@ void FormWindow::TellState() {
     const WindowState state = top_->isMinimized()   ? WindowState::Minimised
                               : top_->isMaximized() ? WindowState::Maximised
                                                     : WindowState::Normal;
-    // A side window has gone with the main window, not by itself.
+    // A side window that was minimised together with the main window has not changed its own state.
     const bool along = form_.Kind() == FormKind::Tool && state == WindowState::Minimised && (!top_->isVisible() || front_.MainMinimised());
     const QPointer<FormWindow> self(this);
     if (!along) Deliver([&] { form_.UserState(state); });
@@ -311,7 +312,7 @@ void FormWindow::TellState() {
 }
 
 bool FormWindow::TakeKey(const QKeyEvent& event) {
-    // Only keys that no control has taken come here.
+    // Only keys that no control has used arrive here.
     if (const char letter = AccessLetterOf(event); letter != 0) {
         Deliver([&] {
             if (form_.Reachable()) form_.UserAccessKey(letter);
@@ -330,7 +331,7 @@ bool FormWindow::TakeKey(const QKeyEvent& event) {
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched != top_) {
-        // The window itself sees keys and clicks before its widgets.
+        // The window sees keys and clicks before its widgets do.
         if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) front_.WindowUsed(form_);
         if (event->type() == QEvent::Expose && arriving_ && top_->windowHandle()->isExposed()) Arrive();
         return false;

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The window of one form, made from its layout and, for a main form, from the form's own description of menu, toolbar
-// and status bar.
+// The window of one form, built from its layout. A main form's menu, toolbar and status bar are built from the form's own description.
 //
-// 15 twips of the form are one pixel at 96 dpi; Qt scales. A number of the form that says the pixel on which the window
-// stands is left as it is, so that nothing drifts.
+// 15 twips of a form are one pixel at 96 dpi; Qt does any further scaling. A position in the form that already rounds to the window's
+// pixel position is not changed, so that windows do not drift.
 #pragma once
 
 #include <QObject>
@@ -22,10 +21,10 @@ namespace vatro {
 class QtFront;
 
 inline constexpr int kTwipsPerPixel = 15;
-/// Rounded.
+/// Converts twips to pixels, rounded.
 int ToPixels(int twips);
 
-/// In twips.
+/// Position and size in twips.
 struct WindowPlace {
     int left = 0;
     int top = 0;
@@ -40,27 +39,28 @@ class FormWindow : public QObject {
 public:
     /// `owner` is the window above which this one stays.
     FormWindow(Form& form, QWidget* owner, QtFront& front);
-    /// The window goes as soon as Qt lets it; nothing of it reaches the form any more.
+    /// Deletes the window as soon as Qt permits; nothing from it reaches the form any more.
     ~FormWindow() override;
 
+    /// The top-level widget; null once Qt has deleted it.
     QWidget* Top() const { return top_; }
     QWidget* WidgetOf(const Control& control) const { return bindings_.WidgetOf(control); }
-    /// Controls without exactly one widget, and widgets without a control.
+    /// Messages about controls without exactly one widget, and about widgets without a control.
     const QStringList& Problems() const { return bindings_.Problems(); }
 
-    /// Shown, and not on the screen yet.
+    /// Whether the window has been shown but is not on the screen yet.
     bool Arriving() const { return arriving_; }
 
-    /// Takes over what the form says of its frame.
+    /// Updates the window's frame from the form.
     void Follow();
     /// Gives Qt's focus to the form's active control, if the form is the active one.
     void FollowFocus();
-    /// The user puts the window there; in twips, which are finer than what the screen can show.
+    /// Moves the window as if the user had moved it. Measures are in twips, which are finer than pixels.
     void MoveByUser(int left, int top, int width, int height);
-    /// Window managers minimise the windows above a main window with it, though the program may want them on the screen. One that
-    /// it wants stands by itself as long as the main window is minimised, and above it again afterwards.
+    /// Handles minimising of the main window. Window managers minimise the windows above a main window together with it, although the
+    /// program may want them visible. Such a window is detached while the main window is minimised, and put above it again afterwards.
     void FollowOwner();
-    /// The size of the layout becomes that of a main form.
+    /// Reports the size of the layout to a main form.
     void TakeDesignSize();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -70,23 +70,23 @@ private:
     void Build(QWidget* owner);
     void AddAppearance();
     WindowPlace Told() const;
-    /// Qt enables and disables whatever belongs to a window together with it: windows above it, and the menus, even those that
-    /// are disabled themselves. Their own state is put back.
+    /// Restores the enabled state of each control. When Qt enables or disables a window, it does the same to everything in it,
+    /// including the windows above it and menus that are disabled on their own.
     void FollowEnabled();
     void FollowPlace();
     void FollowVisible();
     void Arrive();
-    /// In the middle of the owner or of the screen, for a form that does not say where it stands.
+    /// Centres the window on its owner or on the screen, if the form has no position of its own.
     void FirstPlace();
-    /// A fixed window gets the size for good, not the user.
+    /// Sets the window's size. A fixed tool window is fixed at this size.
     void SetSize(const class QSize& size);
     void FitToScreen();
-    /// The frame is not known before the window is on the screen.
+    /// Estimated height of the title bar; the real frame is not known before the window is on the screen.
     int TitleHeight() const;
     void TellPlace(const WindowPlace& finer);
     void TellPlace();
     void TellState();
-    /// Shows the window, which Qt may think minimised since it was hidden, or anew beside or above its owner.
+    /// Shows the window, also if Qt still considers it minimised from before it was hidden. Sets whether it stands above its owner.
     void PutOnScreen();
     bool TakeKey(const class QKeyEvent& event);
 
@@ -95,14 +95,14 @@ private:
     QPointer<QWidget> top_;
     Bindings bindings_;
     class ColumnHead* captionHead_ = nullptr;
-    /// As it was last taken over from the form, if ever.
+    /// The place last taken from the form, if any.
     std::optional<WindowPlace> place_;
     bool placing_ = false;
     bool telling_ = false;
     bool arriving_ = false;
-    /// The window stands where the form says, or where the front has put it first.
+    /// The window has been positioned, either by the form or by FirstPlace.
     bool placed_ = false;
-    /// The window system keeps the window above its owner.
+    /// Whether the window system keeps the window above its owner.
     bool owned_ = true;
 };
 

@@ -39,9 +39,9 @@ namespace vatro {
 
 namespace {
 
-/// Until the window system has moved the keys to another window, in milliseconds.
+/// Milliseconds to wait for the window system to move the focus to another window.
 constexpr int kPatience = 3000;
-/// Milliseconds between two clicks that belong to different things.
+/// Milliseconds between two clicks that must not count as a double click.
 constexpr int kShortly = 25;
 constexpr int kTries = 10;
 
@@ -83,15 +83,15 @@ void Tap(QWindow& window, Qt::Key key, const QString& text, Qt::KeyboardModifier
     if (alive != nullptr) QTest::sendKeyEvent(QTest::Release, alive, key, text, modifiers);
 }
 
-/// The release that is owed to a press. A press whose handler opens a window gets it before the scenario goes on in there,
-/// as a finger has left the button by then; otherwise the window system knows of no other press.
+/// The release that must follow a press. If the press opens a window, the release is sent before the scenario continues there, as a
+/// real user would have released the button by then; otherwise the window system would not accept another press.
 std::function<void()> owedRelease;
 
 void LetGo() {
     if (owedRelease) std::exchange(owedRelease, {})();
 }
 
-/// A press and a release, as far as the window is there for both.
+/// Presses and releases the mouse button, as long as the window exists.
 void ClickAt(QWidget& widget, const QPoint& at) {
     const QPointer<QWindow> window(widget.window()->windowHandle());
     if (window == nullptr || !widget.isVisible()) throw CannotDeliver("a widget is not shown");
@@ -103,12 +103,12 @@ void ClickAt(QWidget& widget, const QPoint& at) {
     LetGo();
 }
 
-/// Behind the last character of a field.
+/// The position after the last character of a field.
 QPoint BehindText(const QLineEdit& field) {
     return {field.width() - 3, field.height() / 2};
 }
 
-/// The middle of a scroll bar's slide.
+/// The middle of a scroll bar's slider.
 QPoint SlideOf(const QScrollBar& bar) {
     QStyleOptionSlider option;
     option.initFrom(&bar);
@@ -197,12 +197,12 @@ void WindowDriver::Focus(Control& control) {
         text->verticalScrollBar()->setValue(text->verticalScrollBar()->maximum());
         ClickAt(*text->viewport(), text->viewport()->rect().bottomRight() - QPoint(3, 3));
     } else if (qobject_cast<ItemList*>(&widget) != nullptr) {
-        // The list's frame.
+        // Click the frame of the list.
         ClickAt(widget, {0, 0});
     } else if (auto* bar = qobject_cast<QScrollBar*>(&widget)) {
         ClickAt(*bar, SlideOf(*bar));
     } else {
-        // Pressed, and let go beside it, a button does nothing.
+        // Release the button beside the widget, so that the click has no effect.
         QWindow* window = widget.window()->windowHandle();
         QTest::mousePress(window, Qt::LeftButton, {}, widget.mapTo(widget.window(), widget.rect().center()));
         QTest::mouseMove(window, widget.mapTo(widget.window(), QPoint(-4, -4)));
@@ -230,14 +230,14 @@ void WindowDriver::Pick(Control& control, int row) {
     }
     auto* combo = qobject_cast<QComboBox*>(&widget);
     if (combo == nullptr) throw CannotDeliver(control.FullName() + " is no list");
-    // For so long the open list takes a button let go for the end of the click that has opened it.
+    // During the double-click interval, an open list takes a release for the end of the click that opened it.
     const int interval = QApplication::doubleClickInterval();
     QApplication::setDoubleClickInterval(kShortly);
     QStyleOptionComboBox option;
     option.initFrom(combo);
     const QRect arrow = combo->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, combo);
     QAbstractItemView* view = combo->view();
-    // On a busy machine the click may last too long and close the list again.
+    // On a busy machine the click may take too long and close the list again.
     for (int tries = 0; tries < kTries && !view->isVisible(); ++tries) {
         ClickAt(*combo, arrow.center());
         QTest::qWait(2 * kShortly);
@@ -259,7 +259,7 @@ void WindowDriver::DoubleClick(ListBox& list, int row) {
     QWindow* const window = view.window()->windowHandle();
     owedRelease = [window, at] { QTest::mouseRelease(window, Qt::LeftButton, {}, at); };
     QTest::mouseDClick(window, Qt::LeftButton, {}, at);
-    // Its own release has come, or one before it.
+    // The release has already been sent.
     owedRelease = {};
 }
 
@@ -275,7 +275,7 @@ void WindowDriver::Scroll(ScrollBar& bar, int value) {
     const QPoint at = widget->mapTo(widget->window(), SlideOf(*widget));
     QTest::mousePress(window.data(), Qt::LeftButton, {}, at);
     if (widget == nullptr || !widget->isSliderDown()) throw CannotDeliver(bar.FullName() + " cannot be taken hold of");
-    // As drawing it there does; a bar has fewer pixels than values.
+    // Set the position directly, as dragging would: a bar has fewer pixels than values.
     widget->setSliderPosition(value);
     QTest::mouseRelease(window.data(), Qt::LeftButton, {}, at);
 }
@@ -305,7 +305,7 @@ void WindowDriver::PressTool(Toolbar& toolbar, int index) {
     QWidget* button = action != nullptr ? bar.widgetForAction(action) : nullptr;
     if (button == nullptr) throw CannotDeliver("there is no button " + std::to_string(index));
     if (button->isVisible()) return ClickAt(*button, button->rect().center());
-    // There is nothing to click on; the form knows the button all the same.
+    // The button is hidden and cannot be clicked, but the form still knows it.
     Deliver([&] {
         toolbar.Parent().UserActivated();
         toolbar.UserPressed(index);
@@ -383,7 +383,7 @@ void WindowDriver::Settle() {
     do {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        // Where there is no window manager, no window follows one that has gone.
+        // Without a window manager, no other window is activated when one closes.
         if (QApplication::activeWindow() == nullptr && boxes_.empty() && ActiveForm() != nullptr) front_.Activated(*ActiveForm());
     } while (!AtRest() && waited.elapsed() < kPatience);
 }
@@ -396,7 +396,7 @@ std::string WindowDriver::Mismatch(const Control& control) {
         if (item->Separator()) return action->isSeparator() ? "" : "a line is missing";
         if (action->text() != ToQt(item->Caption())) return "the text is another one";
         if (action->isChecked() != item->Ticked()) return "the tick is another one";
-        // An entry of a disabled menu says so itself, one that is not shown is disabled to Qt.
+        // Qt counts an invisible entry as disabled; an entry of a disabled menu still reports its own state.
         return action->isEnabled() == (item->Enabled() && item->Visible()) ? "" : "it is disabled on one side only";
     }
     const QWidget* widget = front_.WidgetOf(control);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The window front under the player of scenarios: every event is a real key or click on a real window.
+// The window front as a scenario driver: every event is a real key press or click on a real window.
 #pragma once
 
 #include <QPoint>
@@ -53,16 +53,16 @@ public:
 private:
     QWidget& WindowOf(const Form& form) const;
     QWidget& WidgetOf(const Control& control) const;
-    /// The window that has the keys, which must be the one that the program means.
+    /// The window that has the focus. It must be the one that the program expects.
     QWindow& KeyWindow() const;
     bool AtRest() const;
 
     QtFront front_;
-    /// The open message boxes, the one in front last.
+    /// The open message boxes; the one in front is last.
     std::vector<QPointer<QMessageBox>> boxes_;
 };
 
-/// The widget as a W; a scenario does not go on with anything else.
+/// The widget as a W. If it is not a W, the scenario ends with an error.
 template <class W>
 W& WidgetAs(QWidget& widget) {
     auto* own = qobject_cast<W*>(&widget);
@@ -76,9 +76,9 @@ const W& WidgetAs(const QWidget& widget) {
     return *own;
 }
 
-/// What of the control its widget shows otherwise; empty if nothing.
+/// Describes how the widget differs from its control; empty if it does not.
 std::string Difference(const Control& control, const QWidget& widget);
-/// All visible windows at their places on the screen, in one picture.
+/// Saves one picture of all visible windows at their places on the screen.
 void SaveWindows(const std::string& file);
 
 }  // namespace vatro

@@ -30,7 +30,7 @@ std::string Differs(const TextControl& control, const QLineEdit& editor) {
     if (editor.text() != ToQt(control.Text())) return "the text is \"" + editor.text().toStdString() + "\"";
     const int start = editor.hasSelectedText() ? editor.selectionStart() : editor.cursorPosition();
     const auto length = editor.hasSelectedText() ? static_cast<int>(editor.selectionLength()) : 0;
-    // A field shows no selection without the focus; it has it back with the focus.
+    // A field without the focus shows no selection; it is restored with the focus.
     if (editor.hasFocus() && (start != control.SelStart() || length != control.SelLength()))
         return "the selection is " + std::to_string(start) + " " + std::to_string(length);
     if (editor.isReadOnly() != control.Locked()) return "it is locked on one side only";
@@ -134,7 +134,7 @@ std::string Difference(const Control& control, const QWidget& widget) {
         [&](const OptionButton& option) { return Differs(option, WidgetAs<QAbstractButton>(widget)); },
         [&](const CheckBox& box) { return Differs(box, WidgetAs<QAbstractButton>(widget)); },
         [&](const Button& button) { return Differs(button, WidgetAs<QAbstractButton>(widget)); },
-        // What they show does not change, or is looked at elsewhere.
+        // The appearance of other controls never changes, or is checked elsewhere.
         [](const Control&) { return std::string(); });
 }
 
@@ -148,7 +148,7 @@ void SaveWindows(const std::string& file) {
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::darkGray);
     QPainter painter(&picture);
-    // Main windows, then those that stay above them, then the one in front.
+    // Paint main windows first, then the windows above them, then modal windows and the open popup.
     const auto layer = [](const QWidget& window) {
         if (&window == QApplication::activePopupWidget()) return 3;
         if (window.isModal()) return 2;

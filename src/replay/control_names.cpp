@@ -11,7 +11,7 @@ namespace vatro {
 
 namespace {
 
-/// Splits "Text1(1)" into name and index; false if the brackets are no index.
+/// Splits "Text1(1)" into name and index. Returns false if the text in brackets is not an index.
 bool SplitIndex(std::string_view text, std::string& name, int& index) {
     index = -1;
     const std::size_t open = text.find('(');

@@ -8,11 +8,11 @@ namespace vatro {
 namespace {
 
 constexpr std::size_t kContext = 3;
-/// Above this many pairs of lines the middle is told as changed as a whole.
+/// With more pairs of lines than this, the whole middle part is shown as changed.
 constexpr std::size_t kMostPairs = 4'000'000;
 
 std::string Range(std::size_t start, std::size_t count) {
-    // An empty range is told by the line in front of it.
+    // The position of an empty range is given by the line before it.
     const std::string from = std::to_string(count == 0 ? start : start + 1);
     return count == 1 ? from : from + "," + std::to_string(count);
 }
@@ -32,7 +32,7 @@ void UnifiedDiff::Compare(const std::vector<std::string>& before, const std::vec
         ++last;
     for (std::size_t i = 0; i < first; ++i) Add(' ', prefix, before[i]);
 
-    // The longest run of common lines of what is between, from the end backwards.
+    // Longest common subsequence of the lines in between, computed from the end backwards.
     const std::size_t m = before.size() - first - last;
     const std::size_t n = after.size() - first - last;
     const bool whole = m * n > kMostPairs;
@@ -71,7 +71,7 @@ std::string UnifiedDiff::Text() const {
         const std::size_t start = std::max(done, at < kContext ? 0 : at - kContext);
         before += start - done;
         after += start - done;
-        // A hunk goes on while the next change is so near that the contexts touch.
+        // Two changes share a hunk if their context lines would touch.
         std::size_t end = at + 1;
         for (std::size_t i = end; i < lines_.size() && i <= end + 2 * kContext; ++i)
             if (changed(lines_[i])) end = i + 1;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A unified diff of two texts that are known to agree in part.
+// A unified diff of two texts, parts of which are known to be equal.
 #pragma once
 
 #include <cstddef>
@@ -10,15 +10,16 @@
 
 namespace vatro {
 
+/// Collects the lines of both texts in order.
 class UnifiedDiff {
 public:
     UnifiedDiff(std::string from, std::string to) : from_(std::move(from)), to_(std::move(to)) {}
 
-    /// The next line, the same in both.
+    /// Adds the next line, which is the same in both texts.
     void Same(std::string_view line) { Add(' ', {}, line); }
-    /// The next lines of each, told with `prefix` in front.
+    /// Compares the next lines of both texts. `prefix` is put before each of them in the diff.
     void Compare(const std::vector<std::string>& before, const std::vector<std::string>& after, std::string_view prefix);
-    /// The diff with three lines of context; empty if nothing differs.
+    /// The diff with three lines of context, or an empty text if nothing differs.
     std::string Text() const;
 
 private:

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// What a scenario sees: the output lines of show, cat and ls, in UTF-8. Looking loads nothing and changes nothing.
+// What a scenario sees: the output lines of the commands show, cat and ls, in UTF-8. These commands load nothing and change nothing.
 //
-// Of a control or form that is shown the front is asked first whether the user sees the same; anything else fails with
-// CannotDeliver, as does what does not exist.
+// Before a control or form is shown, the front must confirm that the user sees the same; otherwise the command fails with
+// CannotDeliver. It also fails if the thing to show does not exist.
 #pragma once
 
 #include <string>
@@ -16,20 +16,22 @@
 
 namespace vatro {
 
-/// show, with all of its arguments.
+/// The command show, given all its arguments.
 Output Show(const std::vector<std::string>& arguments, Driver& driver);
 
-/// What a control holds, and its state. Fails with CannotDeliver for one that has nothing to show.
+/// The control's content and state. Fails with CannotDeliver if there is nothing to show for this kind of control.
 Output ShowControl(const Control& control);
+/// The state beside the content: enabled, visible and, depending on the kind, limit, selection, colours or font.
 Output ShowControlState(const Control& control);
 
-/// cat: each line of the content between bars, with what ends it if that is not CR LF.
+/// The output of cat: each line of the content between bars, followed by its line ending if that is not CR LF.
 Output ShowLines(std::string_view content);
-/// A file or directory that is missing is told so.
+/// Reports a missing file or directory instead of failing.
 Output Cat(const World& world, const std::string& path);
+/// The output of ls: the names in a directory. Reports a missing directory instead of failing.
 Output List(const World& world, const std::string& directory);
 
-/// The line that tells a box that opens.
+/// The output line for a message box that opens.
 std::string BoxLine(const MessageBox& box);
 
 }  // namespace vatro

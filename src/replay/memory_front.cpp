@@ -12,7 +12,7 @@ namespace vatro {
 
 namespace {
 
-/// The entry of the active form's menus with this shortcut, or nothing.
+/// The menu entry with this shortcut on the active form, or null.
 MenuItem* FindShortcut(const Form& form, const std::string& shortcut) {
     for (Control* control : form.Controls()) {
         auto* item = As<MenuItem>(control);
@@ -21,7 +21,7 @@ MenuItem* FindShortcut(const Form& form, const std::string& shortcut) {
     return nullptr;
 }
 
-/// A character alone is never a shortcut, with Shift neither.
+/// A character is no shortcut on its own or with Shift.
 bool CanBeShortcut(const KeyStroke& key) {
     return key.ctrl || key.alt || (key.name.size() > 1 && key.name[0] == 'F');
 }
@@ -86,7 +86,7 @@ void MemoryFront::PressInForm(Form& form, const KeyStroke& key) {
     }
     const KeyCode pressed = KeyCodeOf(key);
     if ((pressed == kEnter || pressed == kEsc) && form.UserDefaultKey(pressed)) return;
-    // The key is the control's that had the focus when it was pressed, wherever KeyPress moves the focus.
+    // The key belongs to the control that has the focus now, even if KeyPress moves the focus.
     Control* control = form.ActiveControl();
     const KeyCode code = pressed == kNoKey ? kNoKey : form.UserKey(pressed);
     if (control != nullptr && (pressed == kNoKey || code != kNoKey)) UseKey(*control, key, code);
@@ -98,7 +98,7 @@ void MemoryFront::Paste(std::string_view text) {
 }
 
 void MemoryFront::ByMouse(const std::function<void()>& event) {
-    // An open menu closes.
+    // A click closes an open menu.
     menu_ = nullptr;
     Dispatch(event);
 }
@@ -111,7 +111,7 @@ void MemoryFront::Focus(Control& control) {
         };
         caretToEnd();
         control.Parent().UserFocus(control, FocusWay::Mouse);
-        // The handlers of the change of focus may have set another text; what they have selected stays.
+        // A focus handler may have set another text. If it has selected text, keep that selection.
         if (field != nullptr && field->SelLength() == 0) caretToEnd();
     });
 }
@@ -121,7 +121,7 @@ void MemoryFront::Click(Control& control) {
         Form& form = control.Parent();
         form.UserActivated();
         if (control.TakesFocus()) form.UserFocus(control, FocusWay::Mouse);
-        // A handler of the change of focus may have taken the control away from under the mouse.
+        // A focus handler may have hidden or disabled the control.
         if (!form.Reachable() || !control.Enabled() || !control.Visible()) return;
         control.UserClicked();
     });

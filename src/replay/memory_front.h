@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The front without windows: events go to the controls themselves, and there is nothing to mirror.
+// The front without windows: it passes events straight to the controls, and has nothing to mirror.
 //
-// What a window system does before a key reaches a control is done here: access keys, the menu, shortcuts, Tab and the
-// default buttons; and behind KeyPress the editing of the control, see memory_keys.h.
+// It does what a window system does before a key reaches a control: access keys, the menu, shortcuts, Tab, and the default buttons.
+// What controls do after KeyPress is in memory_keys.h.
 #pragma once
 
 #include <string>
@@ -15,7 +15,7 @@ namespace vatro {
 
 class MemoryFront : public Driver, private Front {
 public:
-    /// The size of the main form's room, as its layout gives it; in twips.
+    /// Size in twips of the main form's area, as its layout would give it.
     static constexpr int kMainWidth = 13800;
     static constexpr int kMainHeight = 6900;
 
@@ -62,7 +62,7 @@ private:
     bool OpenMenu(const Form& form, char letter);
     void PressInForm(Form& form, const KeyStroke& key);
 
-    /// The menu that hangs open, or nothing.
+    /// The open menu, or null.
     MenuItem* menu_ = nullptr;
 };
 

@@ -10,10 +10,10 @@ namespace vatro {
 
 namespace {
 
-/// Rows that PageUp and PageDown move by.
+/// Number of rows by which PageUp and PageDown move.
 constexpr int kPage = 10;
 
-/// Moves the caret, and with Shift the selection's end that lies on the side of the move.
+/// Moves the caret; with Shift, also extends or shrinks the selection on that side.
 void MoveCaret(TextControl& field, const KeyStroke& key) {
     const int size = static_cast<int>(field.Text().size());
     const int start = field.SelStart();
@@ -51,7 +51,7 @@ void UseInField(TextControl& field, const KeyStroke& key, KeyCode code) {
         field.Insert(std::string(1, static_cast<char>(code)));
 }
 
-/// The row that a key leads to in a list of so many rows, or -1.
+/// The row that a key moves to in a list with `rows` rows, or -1.
 int RowBehind(const KeyStroke& key, int row, int rows) {
     if (rows == 0) return -1;
     int to = row;
@@ -74,7 +74,7 @@ int RowBehind(const KeyStroke& key, int row, int rows) {
 
 void UseInCombo(ComboBox& combo, const KeyStroke& key, KeyCode code) {
     if (key.name != "Up" && key.name != "Down") return UseInField(combo, key, code);
-    // No row is chosen: none is above.
+    // With no row chosen, there is none above.
     if (key.name == "Up" && combo.ListIndex() < 0) return;
     const int row = RowBehind(key, combo.ListIndex(), combo.ListCount());
     if (row >= 0 && row != combo.ListIndex()) combo.UserPicked(row);
@@ -93,7 +93,7 @@ void UseOnOption(OptionButton& option, const KeyStroke& key, KeyCode code) {
         option.UserChosen(FocusWay::Key);
 }
 
-/// What a key does to a scroll bar, or nothing.
+/// How the key moves a scroll bar, or nothing.
 std::optional<ScrollBar::Move> MoveOf(const KeyStroke& key) {
     using enum ScrollBar::Move;
     if (key.name == "Left" || key.name == "Up") return StepBack;

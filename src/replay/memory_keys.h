@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the controls do with a key by themselves, as the widgets of a window system do: the editing of a field, the
-// rows of a list, the press of a button. To be called inside the event of the key.
+// What controls do with a key on their own, like the widgets of a window system: edit a field, move through the rows of a list, press
+// a button. Call inside the event of the key.
 #pragma once
 
 #include "controls.h"
@@ -9,10 +9,11 @@
 
 namespace vatro {
 
-/// The key as KeyPress gets it, or kNoKey for a key that does not come there (arrows, Delete, F keys, Ctrl and Alt).
+/// The key as passed to KeyPress, or kNoKey for a key that does not go there (arrows, Delete, function keys, and keys with Ctrl or
+/// Alt).
 KeyCode KeyCodeOf(const KeyStroke& key);
 
-/// `code` is what KeyPress has made of the key, kNoKey if the key is none for KeyPress.
+/// Lets the control act on the key. `code` is the key as returned by KeyPress, or kNoKey if the key does not go to KeyPress.
 void UseKey(Control& control, const KeyStroke& key, KeyCode code);
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The program with nobody at it, for benchmarks, fuzz targets and tools: the platform in memory but for its files.
+// A program without a user, for benchmarks, fuzz targets and tools: everything in memory except the files.
 #pragma once
 
 #include <stdexcept>
@@ -18,8 +18,8 @@
 
 namespace vatro {
 
-/// Cancels every dialogue. A box or a failure would wait for an answer for ever, so it ends the run with an exception that tells
-/// of it; those who expect one derive from this. No other copy runs, and help is not shown.
+/// Cancels every dialogue. A message box or a failure would wait for an answer for ever, so it ends the run with an exception that
+/// describes it; derive from this class to handle expected boxes. Reports that no other copy runs, and does not show help.
 class NobodyThere : public Dialogs, public Help, public Instance {
 public:
     Answer Show(const MessageBox& box) override { throw std::runtime_error("a box with nobody there: " + ToUtf8(box.text)); }
@@ -33,7 +33,7 @@ public:
     bool AnotherCopyRuns() override { return false; }
 };
 
-/// The rest of the platform. It must outlive the program that runs on it.
+/// The rest of the platform. Must outlive the program that runs on it.
 struct MemoryPlatform {
     MemoryFront front;
     SettingsStore settings;

@@ -12,8 +12,9 @@
 
 namespace vatro {
 
-/// What the command line asks for, done: 0, or 1 for the first scenario that differs, or 2 for one that cannot be
-/// played. `makeDriver` makes the front anew for each scenario; the arguments are in UTF-8, the program's own name first.
+/// Carries out the command line. Returns 0 on success, 1 if a scenario's output differs, and 2 for wrong arguments or if a scenario
+/// cannot be played; it stops at the first scenario that fails. `makeDriver` creates a new front for each scenario. The arguments
+/// are in UTF-8; the first is the program's name.
 int PlayMain(const std::vector<std::string>& arguments, const std::function<std::unique_ptr<Driver>()>& makeDriver);
 
 }  // namespace vatro

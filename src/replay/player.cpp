@@ -46,7 +46,7 @@ void Player::Play() {
 void Player::PlayUntil(const std::function<bool()>& done) {
     while (!error_ && !ProgramEnding() && !done()) {
         if (keys_.empty() && !until_ && next_ == scenario_.Commands().size()) {
-            // The scenario is over, whatever is still open.
+            // The scenario is over, even if something is still open.
             EndSilently();
             return;
         }
@@ -125,7 +125,7 @@ void Player::NoteEnd() {
         try {
             files_.Close(number);
         } catch (const RunTimeError&) {
-            // Nobody is there any more to hear of it.
+            // The program has ended; nothing is left to handle the failure.
         }
     }
     if (!silentEnd_) Print("ended");
@@ -143,7 +143,7 @@ void Player::Print(const Output& lines) {
     output.insert(output.end(), lines.begin(), lines.end());
 }
 
-// --- What the program asks for
+// --- Requests from the program
 
 Answer Player::Show(const MessageBox& box) {
     Print(BoxLine(box));

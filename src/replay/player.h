@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// Plays one scenario: its commands in their order as events of a driver, with the output lines as they come.
+// Plays one scenario: delivers its commands in order as events of a driver, and collects the output lines.
 //
-// One thread. A message box, modal form or dialogue that a handler opens plays the following commands inside the
-// handler until one of them closes it; what the handler's remaining steps put out belongs to that command. Whatever of
-// a command is left when a box opens (characters to type, time to pass) comes first there, because it is the handler
-// that is held up, not the scenario.
+// Everything runs on one thread. When a handler opens a message box, modal form or dialogue, the following commands are played inside
+// that handler until one of them closes it. Output from the remaining steps of the handler belongs to that command. If the command
+// that opened the box is not finished (it has characters left to type, or time left to pass), it is finished inside the box first,
+// because only the handler is blocked, not the scenario.
 //
-// An error ends the program as kill does and leaves every open box on the way out, so that no exception of the player
-// passes a frame that is not its own.
+// An error ends the program in the same way as the command kill and leaves all open boxes, so that no exception of the player passes
+// through code of the program or the toolkit.
 #pragma once
 
 #include <cstddef>
@@ -34,31 +34,31 @@ namespace vatro {
 
 class Player : private Dialogs, private Help, private Instance {
 public:
-    /// All must outlive the player. `startProgram` is the program's start procedure.
+    /// All arguments must outlive the player. `startProgram` is the program's start procedure.
     Player(const Scenario& scenario, const World& world, Driver& driver, std::function<void()> startProgram);
     ~Player() override;
 
-    /// Plays all of it, once. Fails with ScenarioError at the command that cannot be played.
+    /// Plays the whole scenario; call once. Fails with ScenarioError at a command that cannot be played.
     void Play();
     /// The output lines of each command.
     const std::vector<Output>& Outputs() const { return outputs_; }
 
 private:
-    /// What waits for the scenario to close it.
+    /// An open box or file dialogue that the scenario has to close.
     struct Open {
         enum class Kind { Box, FileDialog };
         Kind kind;
         Buttons buttons = Buttons::Ok;
         bool closed = false;
         Answer answer = Answer::Ok;
-        /// Nothing for Cancel.
+        /// The file chosen in a dialogue; nothing means Cancel.
         std::optional<std::string> path = std::nullopt;
     };
 
     struct Verb;
     static const Verb* FindVerb(const std::string& name);
 
-    // Dialogs, Help, Instance.
+    // Implements Dialogs, Help and Instance.
     Answer Show(const MessageBox& box) override;
     std::string SaveFile(const FileDialog& dialog) override;
     std::string OpenFile(const FileDialog& dialog) override;
@@ -79,7 +79,7 @@ private:
     void Print(const std::string& line) { outputs_[current_].push_back(line); }
     void Print(const Output& lines);
 
-    // The commands, by their words.
+    // The commands, named after their words.
     void DoClock(const Command& command);
     void DoAdvance(const Command& command);
     void DoSetting(const Command& command);
@@ -123,7 +123,7 @@ private:
     SceneSound sound_{clock_};
     ScenePages pages_;
     PageSurface printer_{pages_};
-    /// The sources of events in time; of equal moments the one that stands first comes first.
+    /// Sources of timed events. Of events due at the same time, the source listed first goes first.
     std::vector<DueEvents*> dueEvents_{&clock_, &sound_};
     DiskFiles disk_;
     FaultyFiles files_;
@@ -132,14 +132,14 @@ private:
     std::vector<Output> outputs_;
     std::size_t next_ = 0;
     std::size_t current_ = 0;
-    /// Of the current command, what is still to be pressed, and until when time passes.
+    /// The rest of the current command: keys still to press, and the time until which the clock runs.
     std::deque<KeyStroke> keys_;
     std::optional<Moment> until_;
-    /// The one in front last.
+    /// The open items; the one in front is last.
     std::vector<Open*> open_;
-    /// A run has begun whose end has not been noted.
+    /// A run has begun, and its end has not been recorded yet.
     bool started_ = false;
-    /// The run has ended by kill, a failure or with the scenario, which is not told as an end.
+    /// The run was ended by kill, by a failure or by the end of the scenario, so its end is not reported in the output.
     bool silentEnd_ = false;
     std::optional<ScenarioError> error_;
 };

@@ -83,7 +83,7 @@ void Player::DoFile(const Command& command) {
 }
 
 void Player::DoRemove(const Command& command) {
-    // What is not there is removed already.
+    // A file that does not exist is not an error.
     world_.Remove(command.arguments[0]);
 }
 
@@ -167,7 +167,7 @@ int CheckRow(int row, const Control& control) {
     return row;
 }
 
-/// "#2", or the text of an item.
+/// The row for "#2", or for the text of an item.
 int RowOf(const std::string& text, const Control& control) {
     if (text.size() > 1 && text[0] == '#' && text.find_first_not_of("0123456789", 1) == std::string::npos)
         return CheckRow(ReadInteger(std::string_view(text).substr(1)), control);
@@ -183,7 +183,7 @@ void Player::DoType(const Command& command) {
     const Form* form = ActiveForm();
     if (form == nullptr || form->ActiveControl() == nullptr) throw CannotDeliver("no control has the focus");
     for (std::size_t i = 0; i < command.rest.size(); ++i) {
-        // A line end is one key.
+        // CR LF counts as one key.
         if (command.rest[i] == '\n' && i > 0 && command.rest[i - 1] == '\r') continue;
         keys_.push_back(KeyOf(command.rest[i]));
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The player's commands and what they ask before an event is delivered.
+// The player's table of commands, and the checks before an event is delivered.
 #pragma once
 
 #include <string>
@@ -11,24 +11,25 @@
 
 namespace vatro {
 
-/// One command of the language.
+/// One command of the scenario language.
 struct Player::Verb {
     enum class Kind { Setting, Event, Looking };
     std::string_view name;
     Kind kind;
-    /// How many arguments; a command that takes the rest of the line has one.
+    /// Number of arguments. The rest of a line counts as one argument.
     std::size_t fewest;
     std::size_t most;
     void (Player::*run)(const Command& command);
-    /// Allowed while a message box is open.
+    /// Whether the command is allowed while a message box is open.
     bool besideBox = false;
     bool takesRest = false;
 };
 
-/// Fails with CannotDeliver if the form cannot get events of the user: it is not loaded, hidden, disabled or blocked.
+/// Fails with CannotDeliver unless the form can receive user events: it must be loaded, shown, enabled, and not blocked by a modal
+/// form.
 void CheckReachable(const Form* form, const std::string& name);
 
-/// The control of this name; fails with CannotDeliver if it cannot get events of the user.
+/// The control with this name. Fails with CannotDeliver if it cannot receive user events.
 Control& ReachableControl(const std::string& name);
 
 }  // namespace vatro

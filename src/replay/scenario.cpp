@@ -14,7 +14,7 @@ bool IsBlank(char c) {
     return c == ' ' || c == '\t';
 }
 
-/// Reads the quoted text that begins at `at` and moves `at` behind it; false if its closing quote is missing.
+/// Reads the quoted text that starts at `at` and moves `at` past it. Returns false if the closing quote is missing.
 bool ReadQuoted(std::string_view line, std::size_t& at, std::string& text) {
     for (std::size_t i = at + 1; i < line.size(); ++i) {
         if (line[i] == '"') {
@@ -53,7 +53,7 @@ bool TakesRest(const std::string& command) {
     return command == "type" || command == "paste";
 }
 
-/// The arguments of a command that takes the rest of the line.
+/// The argument of a command that takes the rest of the line.
 std::string RestOf(std::string_view line, std::size_t at) {
     if (at < line.size()) ++at;
     const std::string_view rest = line.substr(at);
@@ -93,7 +93,7 @@ Scenario::Scenario(std::string_view text) {
         const std::size_t end = text.find('\n');
         std::string line(text.substr(0, end));
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-        // However many an editor has made of one.
+        // An editor may have added several.
         while (line.ends_with('\r')) line.pop_back();
         ParseLine(line);
     }
@@ -101,7 +101,7 @@ Scenario::Scenario(std::string_view text) {
 
 void Scenario::ParseLine(const std::string& line) {
     const std::size_t number = lines_.size() + 1;
-    // An editor may have cut the blank off an empty line.
+    // An editor may have removed the trailing blank of an empty output or content line.
     const bool isOutput = line.starts_with("> ") || line == ">";
     const bool isContent = line.starts_with("| ") || line == "|";
     lines_.push_back({line, isOutput});

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// A scenario file as commands with their expected output lines.
+// Parses a scenario file into commands with their expected output lines.
 //
-// Empty lines and lines that begin with "#" are comments; "> " begins an expected output line of the command above it,
-// "| " a content line of it. Everything else is a command: a word, then its arguments, split at blanks; an argument in
-// double quotes may hold blanks and the escapes \" \\ \n (CR LF) \t \f.
+// Empty lines and lines starting with "#" are comments. A line starting with "> " is an expected output line of the command above it,
+// and "| " starts a content line of that command. Every other line is a command: a word followed by arguments, separated by blanks.
+// An argument in double quotes may contain blanks and the escapes \" \\ \n (CR LF) \t \f.
 #pragma once
 
 #include <cstddef>
@@ -15,49 +15,51 @@
 
 namespace vatro {
 
-/// The scenario cannot be played on; told with file and line number.
+/// Thrown if the scenario cannot be played any further. Reported with file name and line number.
 class ScenarioError : public std::runtime_error {
 public:
     ScenarioError(std::size_t line, const std::string& what) : std::runtime_error(what), line_(line) {}
-    /// From 1; 0 for the file as a whole.
+    /// Counted from 1; 0 stands for the whole file.
     std::size_t Line() const { return line_; }
 
 private:
     std::size_t line_;
 };
 
+/// One command of a scenario.
 struct Command {
-    /// From 1.
+    /// Line number, counted from 1.
     std::size_t line = 0;
     std::string name;
-    /// Without quotes and escapes, in the code page.
+    /// Without quotes and with escapes resolved, in the code page.
     std::vector<std::string> arguments;
-    /// All arguments as one text in the code page: the rest of the line as it stands behind one blank, or what stands
-    /// in quotes if all of it does.
+    /// All arguments as one text in the code page: the rest of the line after one blank, exactly as written. If the whole rest is
+    /// quoted, the text inside the quotes.
     std::string rest;
-    /// An empty text in quotes is one, too.
+    /// Whether there is a rest; an empty text in quotes counts.
     bool hasRest = false;
     /// The content lines, in the code page.
     std::vector<std::string> content;
-    /// As they stand in the file, in UTF-8, without "> ".
+    /// The expected output as in the file, in UTF-8, without "> ".
     std::vector<std::string> expected;
-    /// The number of file lines in front of the output lines.
+    /// The number of lines in the file before the output lines.
     std::size_t outputAt = 0;
 };
 
 using Output = std::vector<std::string>;
 
+/// A parsed scenario file.
 class Scenario {
 public:
-    /// `text` is the file's content; fails with ScenarioError.
+    /// `text` is the content of the file. Fails with ScenarioError.
     explicit Scenario(std::string_view text);
 
     const std::vector<Command>& Commands() const { return commands_; }
-    /// The file's text with these output lines, one list per command, instead of its own.
+    /// The text of the file with its output lines replaced by these, given as one list per command.
     std::string WithOutput(const std::vector<Output>& output) const;
     /// Whether these are the expected output lines.
     bool Matches(const std::vector<Output>& output) const;
-    /// A unified diff from the expected to these output lines; empty if they match.
+    /// A unified diff from the expected output lines to these; empty if they match.
     std::string Diff(const std::string& fileName, const std::vector<Output>& output) const;
 
 private:
@@ -73,7 +75,7 @@ private:
     bool endsWithLineEnd_ = true;
 };
 
-/// A text in double quotes with the escapes; a single CR or LF is written as a line end too. From the code page to UTF-8.
+/// Puts a text in double quotes and escapes it; a lone CR or LF is also written as \n. Converts from the code page to UTF-8.
 std::string Quoted(std::string_view text);
 
 }  // namespace vatro

@@ -44,7 +44,7 @@ void SceneClock::DeliverNext() {
     const auto next = Next();
     if (next == waiting_.end()) return;
     Ticker& ticker = *next->ticker;
-    // The countdown begins anew before the handler runs, which may change it.
+    // Restart the interval before the handler runs, because the handler may change it.
     Schedule(ticker);
     Dispatch([&] { ticker.Tick(); });
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The clock of a scenario: it stands still until the scenario moves it, and what falls due meanwhile is delivered at its
-// moment.
+// The clock of a scenario. It stands still until the scenario advances it, and then delivers each event at the moment it is due.
 #pragma once
 
 #include <optional>
@@ -11,19 +10,20 @@
 
 namespace vatro {
 
-/// Milliseconds of the scenario's time since its beginning; setting the local time does not touch it.
+/// Milliseconds of scenario time since the start. Setting the local time does not affect it.
 using Moment = long long;
 
-/// What delivers events at their moments: the timers, the sound card.
+/// A source of timed events, such as the timers or the sound card.
 class DueEvents {
 public:
     virtual ~DueEvents() = default;
-    /// When the next event falls due, or nothing.
+    /// When the next event is due, or nothing.
     virtual std::optional<Moment> NextDue() const = 0;
-    /// Delivers it; the clock stands at its moment.
+    /// Delivers the next event. The clock must already stand at its moment.
     virtual void DeliverNext() = 0;
 };
 
+/// The clock service of a scenario, which also delivers the ticks of timers.
 class SceneClock : public Clock, public DueEvents {
 public:
     DateTime Now() override;
@@ -32,8 +32,9 @@ public:
 
     /// Sets the local time.
     void Set(const DateTime& now);
+    /// Milliseconds since the start of the scenario.
     Moment Passed() const { return passed_; }
-    /// Time never goes back.
+    /// Advances the clock; time never goes back.
     void MoveTo(Moment moment);
 
     std::optional<Moment> NextDue() const override;
@@ -45,10 +46,10 @@ private:
         Moment due;
     };
 
-    /// Of equal moments the one that was scheduled first.
+    /// The next event to deliver. Of events due at the same moment, the one scheduled first.
     std::vector<Waiting>::const_iterator Next() const;
 
-    /// The local time at the moment 0.
+    /// The local time at moment 0.
     DateTime origin_{2026, 9, 5, 15, 0, 0, 0};
     Moment passed_ = 0;
     std::vector<Waiting> waiting_;

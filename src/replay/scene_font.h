@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Fonts of a scenario: every character is as wide as the next, whatever the font.
+// The fonts of a scenario: all characters have the same width, in every font.
 #pragma once
 
 #include <string>
@@ -14,9 +14,9 @@ namespace vatro {
 double SceneTextWidth(std::string_view text, const Font& font);
 double SceneTextHeight(const Font& font);
 
-/// A number with as few decimals as it has.
+/// The number with as few decimals as needed.
 std::string Shortest(double number);
-/// "b", "u", "bu" or "-".
+/// "b", "u", "bu" or "-" for bold, underlined, both or neither.
 std::string StyleOf(const Font& font);
 
 }  // namespace vatro

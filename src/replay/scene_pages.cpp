@@ -13,7 +13,7 @@ namespace vatro {
 
 namespace {
 
-/// A page of the size A4, in points.
+/// Size of an A4 page, in points.
 constexpr double kWidth = 595;
 constexpr double kHeight = 842;
 

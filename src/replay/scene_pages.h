@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The printer of a scenario: it keeps what was printed, as the lines that the command `pages` tells.
+// The printer of a scenario: it records what is printed, as the output lines of the command `pages`.
 #pragma once
 
 #include <string>
@@ -14,7 +14,7 @@ namespace vatro {
 
 class ScenePages : public PageDevice {
 public:
-    /// The finished jobs since the last call.
+    /// The jobs finished since the last call.
     Output TakeJobs();
 
     double Width() const override;
@@ -31,7 +31,7 @@ private:
 
     Output jobs_;
     Output job_;
-    /// Of the job being printed; 0 as long as nothing stands on its first page.
+    /// The current page of the job being printed; 0 until something has been printed on its first page.
     int page_ = 0;
 };
 

@@ -16,7 +16,7 @@ constexpr Moment kMillisecondsPerSecond = 1000;
 
 }  // namespace
 
-/// Counts the samples that it has played since the play began.
+/// Counts the samples played since playback began.
 class SceneSound::Buffer : public SoundBuffer {
 public:
     Buffer(SceneSound& sound, const SoundFormat& format)
@@ -59,7 +59,7 @@ public:
         for (; played_ < due; ++played_) sound_.heard_.push_back(samples_[course_.At(played_)]);
     }
 
-    /// When the next sample that is tied to an event has been played.
+    /// When the next sample that has an event will have been played, and the event.
     std::optional<std::pair<Moment, SoundEvent>> Next() const {
         const auto passing = course_.Next();
         if (!passing) return std::nullopt;
@@ -67,7 +67,7 @@ public:
         return std::pair{began_ + due, passing->event};
     }
 
-    /// The event that Next tells is being delivered.
+    /// The event returned by Next is being delivered.
     void Pass() { course_.Tell(*course_.Next()); }
 
 private:
@@ -82,7 +82,7 @@ private:
     long long samplesPerSecond_;
     std::vector<std::int16_t> samples_;
     SoundCourse course_;
-    /// When the play began, and how much has been played since.
+    /// When playback began, and how many samples have been played since.
     Moment began_ = 0;
     long long played_ = 0;
 };
@@ -136,7 +136,7 @@ void SceneSound::DeliverNext() {
     buffer.Pass();
     const auto callback = events_.find(event);
     if (callback == events_.end()) return;
-    // The callback may destroy its own event.
+    // Copy the callback: it may destroy its own event.
     const auto run = callback->second;
     Dispatch([&] { run(event); });
 }

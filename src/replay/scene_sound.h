@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The sound card of a scenario: it plays in the scenario's time and keeps what has been heard.
+// The sound card of a scenario: it plays in scenario time and records what is heard.
 #pragma once
 
 #include <cstdint>
@@ -17,12 +17,12 @@ namespace vatro {
 
 class SceneSound : public Sound, public DueEvents {
 public:
-    /// The clock must outlive it.
+    /// The clock must outlive this object.
     explicit SceneSound(const SceneClock& clock) : clock_(clock) {}
 
-    /// Whether a device can be created from now on.
+    /// Sets whether a device can be created from now on.
     void SetCard(bool there) { card_ = there; }
-    /// What has been heard since the last call; silence while nothing plays is not counted.
+    /// The samples heard since the last call. Silence while nothing plays is not recorded.
     std::vector<std::int16_t> TakeHeard();
 
     SoundEvent CreateEvent(std::function<void(SoundEvent)> callback) override;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The settings store of a scenario's world: in memory, and in a file as well if the world stays.
+// The settings of a scenario's world: kept in memory, and also in a file if the world is kept.
 #pragma once
 
 #include <filesystem>
@@ -16,7 +16,7 @@ namespace vatro {
 
 class SettingsStore : public Settings {
 public:
-    /// Reads what the file holds, if one is told; each line is a section, a key and a text with tabs between.
+    /// Reads the file, if one is given. Each line has a section, a key and a text, separated by tabs.
     explicit SettingsStore(std::optional<std::filesystem::path> file = std::nullopt);
 
     std::optional<std::string> Read(std::string_view section, std::string_view key) override;
@@ -26,7 +26,7 @@ private:
     void Save() const;
 
     std::optional<std::filesystem::path> file_;
-    /// By section and key in upper case.
+    /// Indexed by section and key, both in upper case.
     std::map<std::pair<std::string, std::string>, std::string> texts_;
 };
 

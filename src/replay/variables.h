@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The shared variables of the program by name, as a scenario looks at them.
+// Access by name to the program's shared variables, for scenarios.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace vatro {
 
-/// The value of the variable: a text in quotes, an integer, or true or false; nothing if there is no such variable.
+/// The value of the variable: a quoted text, an integer, true or false. Nothing if there is no such variable.
 std::optional<std::string> VariableValue(std::string_view name);
 
 }  // namespace vatro

@@ -8,7 +8,7 @@ namespace {
 constexpr std::uint32_t kSamplesPerSecond = 44'100;
 constexpr std::uint32_t kBytesPerSample = 2;
 
-/// The lowest byte first, whatever the machine.
+/// Little-endian on every machine.
 void Add(std::string& bytes, std::uint32_t number, int count) {
     for (int i = 0; i < count; ++i) bytes += static_cast<char>((number >> (8 * i)) & 0xFFU);
 }

@@ -26,13 +26,13 @@ bool IsKeyName(std::string_view name) {
 }
 
 bool TakePrefix(std::string_view& text, std::string_view prefix) {
-    // "+" itself is a key.
+    // The plus sign is itself a key.
     if (text.size() <= prefix.size() || !text.starts_with(prefix)) return false;
     text.remove_prefix(prefix.size());
     return true;
 }
 
-/// Digits and nothing else.
+/// Parses a text that consists of digits only.
 bool ReadDigits(std::string_view text, int& number) {
     if (text.empty() || !std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; })) return false;
     return std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc();

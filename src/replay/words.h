@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The words of the commands as values. Each reader fails with CannotDeliver on a text that it cannot read.
+// Parses the words of commands into values. Every reader fails with CannotDeliver if it cannot read the text.
 #pragma once
 
 #include <string>
@@ -11,19 +11,20 @@
 
 namespace vatro {
 
-/// "Enter", "Shift+Tab", "Ctrl+N", or one character.
+/// Parses "Enter", "Shift+Tab", "Ctrl+N", or a single character.
 KeyStroke ReadKey(std::string_view text);
 /// The key that types this character.
 KeyStroke KeyOf(char character);
-/// "Shift+F5": the key as menu entries name their shortcuts; letters in upper case.
+/// The key in the form used for menu shortcuts, such as "Shift+F5"; letters are in upper case.
 std::string ShortcutOf(const KeyStroke& key);
 
+/// Parses a whole number.
 int ReadInteger(std::string_view text);
-/// Seconds, as milliseconds; not negative.
+/// Parses a non-negative number of seconds and returns milliseconds.
 long long ReadSeconds(std::string_view text);
-/// "2026-09-05" and "14:05:30", fractions of the second allowed.
+/// Parses "2026-09-05" and "14:05:30"; the seconds may have a fraction.
 DateTime ReadDateTime(std::string_view date, std::string_view time);
-/// "on" or "off".
+/// Parses "on" or "off".
 bool ReadSwitch(std::string_view text);
 
 }  // namespace vatro

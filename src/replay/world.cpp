@@ -19,7 +19,8 @@ namespace {
 
 constexpr std::string_view kFloppy = "floppy";
 
-/// What goes at the end needs no disk: in memory, where there is such a place, the syncing of every contact costs nothing.
+/// Where to put a directory that is deleted at the end. It need not be on disk: a place in memory, if there is one, makes the sync
+/// after every contact free.
 fs::path TemporaryPlace() {
     const fs::path memory = "/dev/shm";
     std::error_code error;
@@ -136,7 +137,7 @@ std::optional<std::vector<std::string>> World::List(std::string_view path) const
     if (!fs::is_directory(directory, error)) return std::nullopt;
     std::vector<std::string> names;
     for (const auto& entry : fs::directory_iterator(directory)) names.push_back(NativeText(entry.path().filename()));
-    // std::string compares characters as unsigned.
+    // std::string compares characters as unsigned values.
     std::sort(names.begin(), names.end());
     return names;
 }

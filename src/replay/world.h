@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// The directories in which a scenario plays: data, log, backup and floppy, which is drive a:.
+// The directories of a scenario: data, log, backup and floppy, where floppy is drive a:.
 //
-// A path of the scenario or of the program begins with one of these names or with another directory of the world; a
-// path of one component lies in the current directory, data. A drive letter is a directory of its own, created when it
-// is first used. Separators are slashes or backslashes, case does not count, and no path leads out of the world.
+// A path of the scenario or program starts with one of these names or with another directory of the world. A path of one component
+// lies in the current directory, which is data. Each other drive letter is a directory of its own, created when first used.
+// Separators are slashes or backslashes, case is ignored, and no path leads out of the world.
 #pragma once
 
 #include <filesystem>
@@ -15,11 +15,12 @@
 
 namespace vatro {
 
+/// The directories on the real disk. Paths passed in are text of the code page.
 class World {
 public:
-    /// An empty temporary directory, removed at the end.
+    /// A new temporary directory, removed at the end.
     World();
-    /// This directory with what is in it; it stays at the end.
+    /// An existing directory with its content; it is kept at the end.
     explicit World(std::filesystem::path directory);
     ~World();
     World(const World&) = delete;
@@ -28,20 +29,20 @@ public:
     static constexpr char kSeparator = '\\';
     static constexpr std::string_view kCurrentDirectory = "data";
 
-    /// Where a path of the code page leads on the disk, as spelled.
+    /// Where a path in the code page leads on the disk, spelled as given.
     std::filesystem::path Path(std::string_view path) const;
-    /// As Path, with names spelled as they are on the disk.
+    /// Like Path, but spelled as on the disk.
     std::filesystem::path Found(std::string_view path) const;
-    /// Where the settings are kept, in a world that stays.
+    /// The settings file, for a world that is kept.
     std::optional<std::filesystem::path> SettingsFile() const;
 
-    /// Creates the directories that are missing. False if the disk refuses.
+    /// Writes a file, creating missing directories. Returns false if the disk refuses.
     bool Write(std::string_view path, std::string_view content) const;
-    /// Nothing if there is no such file.
+    /// The content of the file, or nothing if it does not exist.
     std::optional<std::string> Read(std::string_view path) const;
-    /// A file, or a directory with all that is in it, if it is there.
+    /// Removes a file, or a directory with everything in it. Does nothing if it does not exist.
     void Remove(std::string_view path) const;
-    /// The names in a directory, in the code page, sorted by character code; nothing if it is missing.
+    /// The names in a directory, in the code page, sorted by character code. Nothing if the directory does not exist.
     std::optional<std::vector<std::string>> List(std::string_view path) const;
 
 private:

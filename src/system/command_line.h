@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a program without a window gets from the one who runs it, and gives back: UTF-8, and bytes as they stand.
+// Command-line arguments in UTF-8, and byte-exact standard streams, for programs without a window.
 #pragma once
 
 #include <string>
@@ -8,8 +8,8 @@
 
 namespace vatro {
 
-/// To be called once, by main, before anything is read or printed: the arguments in UTF-8, the program's own name first.
-/// Standard input, output and error then carry their bytes unchanged, and a terminal shows them as UTF-8.
+/// Call once, from main, before anything is read or printed. Returns the arguments in UTF-8; the first is the program's name. From
+/// then on standard input, output and error pass bytes unchanged, and a terminal shows them as UTF-8.
 std::vector<std::string> CommandLine(int argc, char** argv);
 
 }  // namespace vatro

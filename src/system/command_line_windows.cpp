@@ -5,7 +5,7 @@
 #include <io.h>
 #include <windows.h>
 
-// Behind windows.h, which it needs.
+// Must follow windows.h.
 #include <shellapi.h>
 
 #include <cstdio>
@@ -16,7 +16,7 @@ namespace vatro {
 std::vector<std::string> CommandLine(int, char**) {
     for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
     SetConsoleOutputCP(CP_UTF8);
-    // What main itself is given has been turned into the code page of the machine.
+    // The arguments passed to main have already been converted to the machine's code page, so fetch the originals.
     int count = 0;
     wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
     std::vector<std::string> arguments;

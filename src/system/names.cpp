@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The name of the entry of the directory that differs from `name` only in case.
+/// The name of the first entry of the directory, in sorted order, that equals `name` except for case.
 std::optional<fs::path> EntryNoCase(const fs::path& directory, const fs::path& name) {
     const std::string wanted = NativeText(name);
     std::optional<fs::path> found;

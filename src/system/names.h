@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// From the program's paths to the disk's: names without regard to case, and drive a:.
+// Converts the program's paths to paths of the file system, including case-insensitive names and drive a:.
 //
-// The program's paths are text of the code page with slashes or backslashes between their components. The logs carry
-// names of a system that knows no case, so a file is found however it is spelled.
+// The program's paths are text of the code page, with slashes or backslashes as separators. Names in the logs come from a system
+// that ignores case, so a file is found regardless of case.
 #pragma once
 
 #include <filesystem>
@@ -13,31 +13,31 @@
 
 namespace vatro {
 
-/// The file system's path of a path of the program. "a:" in front is the first removable volume mounted for the user;
-/// fails with 76 if there is none. Windows has a drive of that name.
+/// Converts a path of the program to a path of the file system. A leading "a:" stands for the first removable volume that is
+/// mounted for the user; fails with 76 if there is none. On Windows it is the drive of that name.
 std::filesystem::path NativePath(std::string_view path);
 
-/// The text of a path of the file system; "?" stands for a character that is not in the code page.
+/// Converts a path of the file system to text; a character outside the code page becomes "?".
 std::string NativeText(const std::filesystem::path& path);
 
-/// The path of the file system that is spelled like this in the code page, or in UTF-8.
+/// Converts text in the code page, or in UTF-8 (PathOfUtf8), to a path of the file system with the same spelling.
 std::filesystem::path PathOf(std::string_view text);
 std::filesystem::path PathOfUtf8(std::string_view utf8);
 
-/// Where a path leads when case does not count.
+/// The result of looking up a path without regard to case.
 struct FoundPath {
-    /// As spelled on the disk, as far as it exists.
+    /// The part that exists is spelled as on the disk.
     std::filesystem::path path;
     bool exists = false;
     bool directoryExists = false;
 };
 
-/// Finds each component as spelled or else, without regard to case, the first by name that is there. A character of
-/// a name that is not in the code page is met by the "?" that stands for it in the program.
+/// Looks up each component of the path: first exactly as spelled, then ignoring case, where the first match by name wins. A "?" in
+/// a component matches a character outside the code page, because that is how the program sees such characters.
 FoundPath FindPath(const std::filesystem::path& spelled);
 
-/// The entry of the directory that the system itself finds under this name, as spelled on the disk. names_posix.cpp and
-/// names_windows.cpp have it, and NativePath.
+/// The entry of the directory that the operating system itself finds under this name, spelled as on the disk. Defined, like
+/// NativePath, in names_posix.cpp and names_windows.cpp.
 std::optional<std::filesystem::path> SystemsEntry(const std::filesystem::path& directory, const std::filesystem::path& name);
 
 }  // namespace vatro

@@ -15,7 +15,7 @@ int Descriptor(std::intptr_t handle) {
     return static_cast<int>(handle);
 }
 
-/// Repeats a call of the system while signals interrupt it.
+/// Repeats a system call while it is interrupted by signals.
 template <class Call>
 auto Uninterrupted(Call call) {
     auto result = call();
@@ -27,7 +27,8 @@ auto Uninterrupted(Call call) {
     throw RunTimeError(FailureOf(error));
 }
 
-/// Devices and some network and USB file systems cannot sync or cut a file; there is nothing more to be done there.
+/// Whether the operation is not supported, in which case the error is ignored: devices and some network and USB file systems cannot
+/// sync or truncate a file.
 bool IsNotSupported(int error) {
     return error == EINVAL || error == ENOTSUP || error == ENOSYS;
 }
@@ -105,7 +106,7 @@ void SystemFile::Write(std::string_view bytes) {
 std::int64_t SystemFile::Length() {
     const auto length = lseek(Descriptor(handle_), 0, SEEK_END);
     if (length >= 0) return length;
-    // A pipe or a terminal has no length.
+    // A pipe or terminal has no length.
     if (errno == ESPIPE) return 0;
     Fail(errno);
 }
@@ -125,7 +126,7 @@ void SystemFile::Truncate(std::int64_t length) {
 void SystemFile::Sync() {
     const auto sync = [&] {
 #ifdef __APPLE__
-        // There fsync stops at the drive's own memory.
+        // On macOS, fsync stops at the drive's own cache.
         return fcntl(Descriptor(handle_), F_FULLFSYNC);
 #else
         return fdatasync(Descriptor(handle_));
@@ -153,14 +154,15 @@ int RenameOver(const std::filesystem::path& from, const std::filesystem::path& t
 }
 
 int LinkFile(const std::filesystem::path& from, const std::filesystem::path& to) {
-    // A symbolic link would lead to whatever has its target's name later.
+    // AT_SYMLINK_FOLLOW: a link to a symbolic link would follow whatever file gets the target's name later.
     return linkat(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), AT_SYMLINK_FOLLOW) == 0 ? 0 : errno;
 }
 
 void CopyRights(const std::filesystem::path& from, const std::filesystem::path& to) noexcept {
     struct stat status {};
     if (stat(from.c_str(), &status) != 0) return;
-    // Only root may give a file away; its group a member may choose. The rights come last: a new owner takes some of them away.
+    // Only root may change the owner; the group can be set to one of the user's own groups. Set the permissions last, because a
+    // change of owner clears some of them.
     if (chown(to.c_str(), status.st_uid, status.st_gid) != 0 && chown(to.c_str(), static_cast<uid_t>(-1), status.st_gid) != 0) errno = 0;
     if (chmod(to.c_str(), status.st_mode & 07777) != 0) errno = 0;
 }
@@ -175,7 +177,7 @@ void SyncDirectory(const std::filesystem::path& directory) {
     const std::filesystem::path& name = directory.empty() ? std::filesystem::path(".") : directory;
     const int handle = Uninterrupted([&] { return open(name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
     if (handle < 0) {
-        // A directory that may be written but not read can be synced by nobody.
+        // A directory that is writable but not readable cannot be opened, so it cannot be synced.
         if (errno == EACCES) return;
         Fail(errno);
     }

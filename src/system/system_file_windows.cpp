@@ -9,7 +9,7 @@ namespace vatro {
 
 namespace {
 
-/// Another program may read and write the file meanwhile, as it may elsewhere, but not take its name away.
+/// Other programs may read and write an open file, as on other systems, but not rename or delete it.
 constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE;
 
 HANDLE Handle(std::intptr_t handle) {
@@ -24,12 +24,13 @@ int LastError() {
     throw RunTimeError(FailureOf(LastError()));
 }
 
-/// Devices and some network and USB file systems cannot sync or cut a file; there is nothing more to be done there.
+/// Whether the operation is not supported, in which case the error is ignored: devices and some network and USB file systems cannot
+/// sync or truncate a file.
 bool IsNotSupported(int error) {
     return error == ERROR_INVALID_FUNCTION || error == ERROR_NOT_SUPPORTED || error == ERROR_INVALID_PARAMETER;
 }
 
-/// The system refuses a directory with the word that it has for a protected file.
+/// Windows reports a directory with the same error as a protected file; this tells them apart.
 int ToldOfDirectory(int error, const std::filesystem::path& path) {
     if (error != ERROR_ACCESS_DENIED) return error;
     const DWORD attributes = GetFileAttributesW(path.c_str());
@@ -37,7 +38,7 @@ int ToldOfDirectory(int error, const std::filesystem::path& path) {
     return isDirectory ? ERROR_DIRECTORY : error;
 }
 
-/// A call takes 32 bits of length.
+/// The length of one read or write is limited to 32 bits.
 DWORD Piece(std::size_t length) {
     return static_cast<DWORD>(std::min<std::size_t>(length, 1U << 30U));
 }
@@ -86,7 +87,7 @@ Failure FailureOf(int error) {
 }
 
 bool IsMissing(int error) {
-    // A "?" in a name may stand for a character that is not in the code page.
+    // A "?" in a name is invalid on Windows, but may stand for a character outside the code page.
     return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND || error == ERROR_INVALID_NAME;
 }
 
@@ -102,7 +103,7 @@ int SystemFile::Open(const std::filesystem::path& path, Access access, bool crea
 }
 
 bool SystemFile::IsDirectory() const {
-    // Open refuses it.
+    // Open already refuses directories.
     return false;
 }
 
@@ -130,7 +131,7 @@ void SystemFile::Write(std::string_view bytes) {
 }
 
 std::int64_t SystemFile::Length() {
-    // A device or a pipe has no length.
+    // A device or pipe has no length.
     if (GetFileType(Handle(handle_)) != FILE_TYPE_DISK) return 0;
     LARGE_INTEGER length;
     if (GetFileSizeEx(Handle(handle_), &length) == 0) FailWithLastError();
@@ -147,7 +148,7 @@ char SystemFile::LastByte() {
 }
 
 void SystemFile::Truncate(std::int64_t length) {
-    // The right to append alone cuts nothing.
+    // A handle with only the right to append cannot truncate, so reopen the file for writing.
     SystemFile cutting;
     cutting.handle_ = reinterpret_cast<std::intptr_t>(ReOpenFile(Handle(handle_), GENERIC_WRITE, kSharing, 0));
     LARGE_INTEGER end;
@@ -177,7 +178,7 @@ int RenameFile(const std::filesystem::path& from, const std::filesystem::path& t
 }
 
 int RenameOver(const std::filesystem::path& from, const std::filesystem::path& to) {
-    // It keeps the owner and the rights of what it replaces; without anything to replace it fails.
+    // ReplaceFile keeps the owner and permissions of the replaced file, but fails if there is no file to replace.
     constexpr DWORD kKeepContent = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
     if (GetFileAttributesW(to.c_str()) != INVALID_FILE_ATTRIBUTES &&
         ReplaceFileW(to.c_str(), from.c_str(), nullptr, kKeepContent, nullptr, nullptr) != 0)
@@ -190,7 +191,7 @@ int LinkFile(const std::filesystem::path& from, const std::filesystem::path& to)
 }
 
 void CopyRights(const std::filesystem::path&, const std::filesystem::path&) noexcept {
-    // RenameOver has done it.
+    // Nothing to do: RenameOver keeps the permissions.
 }
 
 std::optional<FileIdentity> IdentityOf(const std::filesystem::path& path) {
@@ -207,7 +208,7 @@ std::optional<FileIdentity> IdentityOf(const std::filesystem::path& path) {
 }
 
 void SyncDirectory(const std::filesystem::path&) {
-    // The system writes a new name with the file that is synced, and a changed one through.
+    // Nothing to do: a new name is flushed together with its synced file, and renaming writes through.
 }
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Removable volumes of a system that mounts them in directories.
+// Removable volumes, on systems that mount them in directories.
 #pragma once
 
 #include <filesystem>
@@ -9,10 +9,10 @@
 
 namespace vatro {
 
-/// The first volume, by name, that is mounted in one of the directories.
+/// The first volume, by name, that is mounted in one of these directories; nothing if there is none.
 std::optional<std::filesystem::path> FirstVolume(std::span<const std::filesystem::path> directories);
 
-/// The first one that is mounted for the user.
+/// The first volume that is mounted for the user; nothing if there is none.
 std::optional<std::filesystem::path> FirstVolumeOfUser();
 
 }  // namespace vatro

@@ -9,7 +9,7 @@ namespace {
 
 constexpr char32_t kFaulty = 0xFFFFFFFF;
 
-/// Takes one character off the front of `utf8`; a faulty byte is taken alone and gives kFaulty.
+/// Removes one character from the front of `utf8` and returns it. Of an invalid sequence, removes one byte and returns kFaulty.
 char32_t NextCodePoint(std::string_view& utf8) {
     const auto lead = static_cast<unsigned char>(utf8.front());
     utf8.remove_prefix(1);

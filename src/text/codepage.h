@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Single-byte text of code page 1252, the text of the logs, the tables and the whole program.
+// Single-byte text in code page 1252, as used by the logs, the tables and the whole program.
 //
-// A column is a byte and a comparison is by byte. Only the fronts convert to and from Unicode.
-// Literals with Danish letters are written in UTF-8 in the sources and turned at compile time by
-// the operator _t; a character outside the code page does not compile.
+// One column is one byte, and comparison is by byte. Only the fronts convert to and from Unicode. Literals with Danish letters are
+// written in UTF-8 in the sources and converted at compile time by the operator _t; a character outside the code page does not
+// compile.
 #pragma once
 
 #include <array>
@@ -14,13 +14,13 @@
 
 namespace vatro {
 
-/// The Unicode code point of each byte 0x80 to 0x9F of code page 1252. The five bytes that the code page leaves
-/// open stand for the control characters of the same number, so that every byte survives a round trip.
+/// The Unicode code points of bytes 0x80 to 0x9F in code page 1252. The five bytes that the code page leaves undefined map to the
+/// control characters with the same number, so that every byte survives a round trip.
 inline constexpr std::array<char16_t, 32> kCodePageUpperControls{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
     0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-/// The byte of a Unicode code point, or -1 if the code page has none.
+/// The byte for a Unicode code point, or -1 if the code page does not have the character.
 constexpr int CodePageByte(char32_t codePoint) {
     if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF)) return static_cast<int>(codePoint);
     for (std::size_t i = 0; i < kCodePageUpperControls.size(); ++i)
@@ -28,19 +28,19 @@ constexpr int CodePageByte(char32_t codePoint) {
     return -1;
 }
 
-/// The Unicode code point of a byte of the code page.
+/// The Unicode code point for a byte of the code page.
 constexpr char32_t CodePoint(char byte) {
     const auto code = static_cast<unsigned char>(byte);
     return code >= 0x80 && code < 0xA0 ? kCodePageUpperControls[code - 0x80] : code;
 }
 
-/// Text of the code page from UTF-8. A character outside the code page, and every faulty byte, becomes "?".
+/// Converts UTF-8 to the code page. Each character outside the code page, and each invalid byte, becomes "?".
 std::string FromUtf8(std::string_view utf8);
 
-/// UTF-8 from text of the code page.
+/// Converts text of the code page to UTF-8.
 std::string ToUtf8(std::string_view text);
 
-/// Upper case of one character; Danish and other accented letters of the code page are folded, "ß" and "ÿ" are not.
+/// Upper case of one character. Danish and other accented letters of the code page are converted; "ß" and "ÿ" are not.
 constexpr char Upper(char c) {
     const auto code = static_cast<unsigned char>(c);
     const bool lower = (code >= 'a' && code <= 'z') || (code >= 0xE0 && code <= 0xFE && code != 0xF7);
@@ -52,15 +52,15 @@ constexpr char Upper(char c) {
 /// Upper case of a text, character by character.
 std::string UpperText(std::string_view text);
 
-/// Whether `part` occurs anywhere in `text`, without regard to case. The empty text occurs in every text.
+/// Whether `part` occurs anywhere in `text`, ignoring case. Every text contains the empty text.
 bool ContainsNoCase(std::string_view text, std::string_view part);
 
-/// Whether two texts are equal without regard to case.
+/// Whether two texts are equal, ignoring case.
 bool EqualNoCase(std::string_view a, std::string_view b);
 
 namespace detail {
 
-/// A UTF-8 literal in the code page, as a template argument; zero-terminated.
+/// A UTF-8 literal converted to the code page, for use as a template argument; zero-terminated.
 template <std::size_t N>
 struct CodePageLiteral {
     char chars[N]{};
@@ -94,7 +94,7 @@ struct CodePageLiteral {
 
 inline namespace literals {
 
-/// "Vælg bånd"_t: the literal as text of the code page.
+/// Converts a literal to text of the code page: "Vælg bånd"_t.
 template <detail::CodePageLiteral L>
 consteval std::string_view operator""_t() {
     return {L.chars, L.length};

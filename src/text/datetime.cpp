@@ -48,12 +48,12 @@ constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// Reads numbers and words from the front of a text, blanks skipped before each of them.
+/// Reads numbers and words from the front of a text, skipping blanks before each of them.
 class Scanner {
 public:
     explicit Scanner(std::string_view text) : rest_(text) {}
 
-    /// A number of at most `most` digits; more digits, or none, give nothing.
+    /// Reads a number. Returns nothing if it has no digits or more than `most` digits.
     std::optional<int> Number(std::size_t most) {
         const std::string_view digits = Run(IsDigit);
         if (digits.empty() || digits.size() > most) return std::nullopt;
@@ -117,7 +117,7 @@ constexpr std::array<MonthWords, 12> kMonths{{
     {"DECEMBER", "DECEMBER"},
 }};
 
-/// The month from 1, or 0 if the word is none.
+/// The month from 1 to 12, or 0 if the word is not a month.
 int MonthOfWord(std::string_view word) {
     const auto is = [word](std::string_view name) { return EqualNoCase(word, name) || EqualNoCase(word, name.substr(0, 3)); };
     for (std::size_t i = 0; i < kMonths.size(); ++i)

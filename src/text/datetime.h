@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Date and time of day as the logs hold them.
+// Date and time of day, as stored in the logs.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace vatro {
 
-/// A moment of local or of universal time, to the millisecond, in the Gregorian calendar.
+/// A local or universal time in the Gregorian calendar, to the millisecond.
 struct DateTime {
     int year = 1899;
     int month = 12;
@@ -30,32 +30,32 @@ struct TimeOfDay {
     friend bool operator==(const TimeOfDay&, const TimeOfDay&) = default;
 };
 
-/// The moment `hours` later (earlier if negative), across days, months and years.
+/// The time `hours` later, or earlier if negative. Crosses days, months and years.
 DateTime AddHours(const DateTime& moment, long hours);
 
-/// The moment `milliseconds` later.
+/// The time `milliseconds` later.
 DateTime AddMilliseconds(const DateTime& moment, long long milliseconds);
 
-/// Milliseconds from a fixed day of the past to the moment: for differences and order only.
+/// Milliseconds since a fixed day in the past; use it only for differences and ordering.
 long long Milliseconds(const DateTime& moment);
 
-/// The weekday, 0 Monday to 6 Sunday.
+/// The weekday, from 0 for Monday to 6 for Sunday.
 int Weekday(const DateTime& moment);
 
-/// "Hh:Nn": two digits of the hour, a colon, two digits of the minute.
+/// "Hh:Nn": hours and minutes with two digits each.
 std::string FormatTime(int hour, int minute);
-/// "dd-mm-yy".
+/// Formats the date as "dd-mm-yy".
 std::string FormatDate(const DateTime& moment);
-/// The date through a pattern of "dd", "mm", "yy" and "yyyy"; every other character stands as it is.
+/// Formats the date by a pattern in which "dd", "mm", "yy" and "yyyy" are replaced; other characters are copied.
 std::string FormatDate(const DateTime& moment, std::string_view pattern);
 
-/// A time of day from "Hh:Nn" or "Hh:Nn:Ss", one or two digits each, blanks around the numbers allowed. Nothing if the
-/// text is no time of day, such as 25:00.
+/// Parses "Hh:Nn" or "Hh:Nn:Ss". Each number has one or two digits and may have blanks around it. Returns nothing if the text is
+/// not a valid time of day (for example 25:00).
 std::optional<TimeOfDay> ParseTime(std::string_view text);
 
-/// A date from day, month and two- or four-digit year with "-", "." or "/" between them. The month is a number or an
-/// English or Danish month word, whole or its first three letters. Years 50 to 99 are 19xx, 00 to 49 are 20xx.
-/// Nothing if the text is no date.
+/// Parses a date of day, month and year with "-", "." or "/" between them. The month is a number, or an English or Danish month
+/// name, in full or its first three letters. The year has two or four digits; 50 to 99 mean 19xx, and 00 to 49 mean 20xx. Returns
+/// nothing if the text is not a valid date.
 std::optional<DateTime> ParseDate(std::string_view text);
 
 }  // namespace vatro

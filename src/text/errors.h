@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Run-time failures by number. What a procedure catches is told by its rules; what nobody catches reaches the
-// dispatcher of events, which shows the system's error box and ends the program.
+// Run-time failures, identified by number. Each procedure catches the failures that its rules name. Any other failure reaches the
+// event dispatcher, which shows the system's error box and ends the program.
 #pragma once
 
 #include <exception>
@@ -9,7 +9,7 @@
 
 namespace vatro {
 
-/// The numbers of the failures.
+/// The failure numbers.
 enum class Failure : int {
     InvalidCall = 5,
     Overflow = 6,
@@ -28,11 +28,11 @@ enum class Failure : int {
     DiskNotReady = 71,
     PathFileAccess = 75,
     PathNotFound = 76,
-    /// A common dialogue was left with Cancel.
+    /// The user left a file or printer dialogue with Cancel.
     Cancelled = 32755,
 };
 
-/// What the number says, in a few words of Danish.
+/// A short Danish description of the failure.
 std::string_view Meaning(Failure failure);
 
 /// A failure of the platform or of arithmetic.

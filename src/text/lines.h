@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Lines as streams: where a rule reads its lines from and where it writes them to. Whoever calls the rule decides whether that
-// is a file, a list in memory or something else.
+// Streams of lines. A rule reads its lines from a LineSource and writes them to a LineSink; its caller decides whether that is a
+// file, a list in memory, or something else.
 #pragma once
 
 #include <string>
@@ -9,21 +9,22 @@
 
 namespace vatro {
 
-/// Lines to be read, one after the other.
+/// Lines to read, one after the other.
 class LineSource {
 public:
     virtual ~LineSource() = default;
     /// Whether no line is left. May fail with a RunTimeError.
     virtual bool AtEnd() = 0;
-    /// The next line, without its end. Fails with 62 if none is left, and with any other RunTimeError if it cannot be read.
+    /// The next line, without its line ending. Fails with 62 if no line is left, and with another RunTimeError if it cannot be
+    /// read.
     virtual std::string Next() = 0;
 };
 
-/// Lines to be written.
+/// Lines to write.
 class LineSink {
 public:
     virtual ~LineSink() = default;
-    /// Writes the text and ends the line. Fails with a RunTimeError if it cannot be written.
+    /// Writes the text as one line. Fails with a RunTimeError if it cannot be written.
     virtual void Write(std::string_view line) = 0;
 };
 

@@ -15,9 +15,9 @@ namespace vatro {
 
 namespace {
 
-/// Digits of which any number fits 32 bits.
+/// Any number with this many digits fits into 32 bits.
 constexpr std::size_t kSurelyFits = 9;
-/// Above all numbers of as many digits.
+/// Greater than any number with that many digits.
 constexpr double kSurelyFitting = 1e9;
 
 constexpr bool IsDigit(char c) {
@@ -33,7 +33,7 @@ constexpr bool IsBlank(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-/// Whether an unsigned number that no double can hold is too large, rather than too close to 0.
+/// Whether an unsigned number outside the range of double is too large, rather than too close to 0.
 bool IsTooLarge(std::string_view number) {
     long long places = 0;
     bool pointSeen = false;
@@ -59,11 +59,11 @@ bool IsTooLarge(std::string_view number) {
 
 struct Reading {
     double value = 0;
-    /// The text is the number and nothing else.
+    /// Whether the text contains nothing else.
     bool whole = false;
 };
 
-/// The number at the front of a text of digits, ".", "e" and signs, which begins with a digit or ".".
+/// Reads the number at the front of a text that consists of digits, ".", "e" and signs and begins with a digit or ".".
 Reading ReadUnsigned(std::string_view number) {
     Reading reading;
     const auto read = std::from_chars(number.data(), number.data() + number.size(), reading.value);
@@ -72,7 +72,7 @@ Reading ReadUnsigned(std::string_view number) {
     return reading;
 }
 
-/// The number at the front of a text, blanks skipped wherever they stand.
+/// Reads the number at the front of a text, skipping blanks wherever they stand.
 Reading Read(std::string_view text) {
     std::string number;
     bool negative = false;
@@ -100,7 +100,7 @@ Reading Read(std::string_view text) {
     return reading;
 }
 
-/// The number that the text is as a whole, or nothing.
+/// The value of a text that is a number as a whole, or nothing.
 std::optional<double> WholeNumber(std::string_view text) {
     const Reading reading = Read(text);
     if (!reading.whole || std::isinf(reading.value)) return std::nullopt;
@@ -113,17 +113,17 @@ Integer Rounded(double value) {
     const double part = value - below;
     const bool up = part > 0.5 || (part == 0.5 && std::fmod(below, 2.0) != 0);
     const double rounded = up ? below + 1 : below;
-    // Written so that what is no number fails, too.
+    // Written as a negation so that NaN fails, too.
     if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
         throw RunTimeError(Failure::Overflow);
     return static_cast<Integer>(rounded);
 }
 
-/// The value of a text of a sign, digits with a point, and blanks, as far as it surely fits; nothing for any other text.
+/// Fast path: the value of a short text of a sign, digits with at most one point, and blanks. Returns nothing for any other text.
 std::optional<double> ShortNumber(std::string_view text) {
     if (text.size() > kSurelyFits) return std::nullopt;
     int digits = 0;
-    // A quotient of two whole numbers that a double holds is the double next to it.
+    // Dividing two integers that a double holds exactly gives the double nearest to the true value.
     double unit = 1;
     char sign = 0;
     bool begun = false;
@@ -149,13 +149,13 @@ std::optional<double> ShortNumber(std::string_view text) {
 }  // namespace
 
 double NumericValue(std::string_view text) {
-    // What columns of a log and of a country file hold, thousands of times.
+    // Fast path for columns of a log or country file, which are read thousands of times.
     if (const auto value = ShortNumber(text)) return *value;
     return Read(text).value;
 }
 
 bool IsNumeric(std::string_view text) {
-    // Fields of a log, again and again: a few digits.
+    // Fast path for log fields with a few digits, which are tested again and again.
     if (!text.empty() && text.size() <= kSurelyFits && std::all_of(text.begin(), text.end(), IsDigit)) return true;
     return WholeNumber(text).has_value();
 }
@@ -217,7 +217,7 @@ std::string InTemplate(std::string_view placeholders, long long value) {
     std::string number = NumberText(value);
     const auto places = static_cast<std::size_t>(std::count(placeholders.begin(), placeholders.end(), '@'));
     if (number.size() < places) number.insert(0, places - number.size(), ' ');
-    // What has no place goes in front of the first one; without any place all of it stands at the end.
+    // Characters without a place go before the first place. A template without any place gets the number at its end.
     std::size_t extra = number.size() - places;
     std::size_t next = 0;
     std::string text;

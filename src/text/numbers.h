@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Numbers in texts: the numeric value of a text, the numeric test, and the templates in which the logs hold numbers.
+// Numbers in text: reading the numeric value of a text, testing whether a text is a number, and formatting numbers as the logs
+// store them.
 //
-// 16-bit and 32-bit values overflow as failures and never silently: what is stored goes through ToInt16 or ToInt32.
+// 16-bit and 32-bit values never overflow silently: every value to be stored goes through ToInt16 or ToInt32, which fail instead.
 #pragma once
 
 #include <cstdint>
@@ -11,39 +12,39 @@
 
 namespace vatro {
 
-/// The leading number of a text, blanks skipped wherever they stand; 0 if it has none. Sign, decimal point and an
-/// exponent count. Never fails.
+/// The number at the front of a text, or 0 if there is none. Blanks are skipped wherever they stand. Understands a sign, a decimal
+/// point and an exponent. Never fails.
 double NumericValue(std::string_view text);
 
-/// Whether the whole text is the number that NumericValue takes from its front; the empty text is not a number, nor is one
-/// too large.
+/// Whether the text consists of nothing but the number that NumericValue would read. False for an empty text, and for a number that
+/// is too large.
 bool IsNumeric(std::string_view text);
 
-/// The number that a text is as a whole. Fails with 13 (type mismatch) where IsNumeric says no.
+/// The value of a text that is a number as a whole. Fails with 13 (type mismatch) if IsNumeric is false.
 double ToNumber(std::string_view text);
 
-/// Rounded to the nearest integer, a half to the even neighbour. Fails with 6 (overflow) outside the type's range.
+/// Rounds to the nearest integer; halves are rounded to the even neighbour. Fails with 6 (overflow) outside the range of the type.
 std::int16_t ToInt16(double value);
 std::int32_t ToInt32(double value);
 
-/// As a 32-bit float. Fails with 6 (overflow) outside the type's range.
+/// Converts to a 32-bit float. Fails with 6 (overflow) outside the range of the type.
 float ToFloat32(double value);
 
-/// The value of an integer, in plain decimal digits.
+/// The integer in plain decimal digits.
 std::string PlainNumber(long long value);
 
-/// Decimal digits behind one blank, or behind the sign of a negative number.
+/// The decimal digits after one blank or, for a negative number, after its sign.
 std::string NumberText(long long value);
 
-/// At least `digits` digits with leading zeros, as "0000"; a larger number keeps all its digits. A half is rounded
-/// away from zero. Fails with 6 where the value is not finite.
+/// The value rounded to an integer, with leading zeros up to at least `digits` digits, as in "0042". A larger number keeps all its
+/// digits. Halves are rounded away from zero. Fails with 6 if the value is not finite.
 std::string ZeroPadded(double value, int digits);
 
-/// ZeroPadded of the number that the text is; a text that is no number stands as it is.
+/// ZeroPadded of the number in the text. A text that is not a number is returned unchanged.
 std::string ZeroPadded(std::string_view text, int digits);
 
-/// A number in a template of "@" places: its NumberText, right-aligned in the places from the right; every other character
-/// of the template stands as it is; what is too long for the places keeps all its characters.
+/// Puts a number into a template: each "@" is a place for one character of NumberText, aligned to the right. Other characters of
+/// the template are copied. A number with more characters than places keeps all of them.
 std::string InTemplate(std::string_view placeholders, long long value);
 
 }  // namespace vatro
