@@ -1,0 +1,60 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+#
+#   out_parameters.py SRC BUILD
+#
+# A rule returns what it finds: no procedure of the rules writes through a parameter. clang-query lists every parameter that is a
+# reference or a pointer to something that is not const; streams and observers, which are interfaces, are no results.
+# Lines of out_parameters.txt ("FILE: DECLARATION  # reason"), at most five, are let pass. BUILD holds compile_commands.json.
+import os
+import re
+import shutil
+import subprocess
+import sys
+from pathlib import Path
+
+INTERFACES = ("LineSource", "LineSink", "PageSink", "LogReader", "LogObserver")
+LIST = Path(__file__).with_suffix(".txt")
+MOST = 5
+QUERY = """set output diag
+set bind-root false
+match parmVarDecl(isExpansionInFileMatching("src/rules/"), hasType(lValueReferenceType(pointee(unless(isConstQualified()))))).bind("p")
+match parmVarDecl(isExpansionInFileMatching("src/rules/"), hasType(pointerType(pointee(unless(isConstQualified()), unless(functionType()))))).bind("p")
+"""
+FOUND = re.compile(r'^(/[^:]+):(\d+):(\d+): note: "p" binds here', re.MULTILINE)
+
+
+def main():
+    src, build = Path(sys.argv[1]).resolve(), sys.argv[2]
+    tool = shutil.which("clang-query-14") or shutil.which("clang-query")
+    if tool is None:
+        print("clang-query is not installed")
+        return 1 if os.environ.get("CI") == "true" else 77
+    sources = sorted((src / "rules").rglob("*.cpp"))
+    query = Path(build) / "out_parameters.query"
+    query.write_text(QUERY, encoding="utf-8")
+    result = subprocess.run([tool, "-p", build, "-f", query, *sources], capture_output=True, text=True)
+    found = sorted({(Path(file), int(line), int(column)) for file, line, column in FOUND.findall(result.stdout)})
+    if len(found) < 10:
+        print("clang-query finds no streams among the parameters, of which there must be many:", result.stderr[-2000:], sep="\n")
+        return 1
+    allowed = [line.split("  #")[0] for line in LIST.read_text(encoding="utf-8").splitlines() if line and not line.startswith("#")]
+    problems = [f"{LIST.name} has more than {MOST} lines"] if len(allowed) > MOST else []
+    seen = set()
+    for file, line, column in found:
+        text = file.read_text(encoding="utf-8").splitlines()[line - 1]
+        # Columns count bytes.
+        parameter = text.encode()[: column - 1].decode(errors="replace").split("(")[-1].split(",")[-1] + text.encode()[column - 1 :].decode(errors="replace")
+        if re.match(rf"\s*(const )?(vatro::)?({'|'.join(INTERFACES)})\s*[&*]", parameter):
+            continue
+        entry = f"{file.relative_to(src)}: {text.strip()}"
+        seen.add(entry)
+        if entry not in allowed:
+            problems.append(f"{file.relative_to(src)}:{line}: {text.strip()}")
+    problems += [f"{LIST.name}: not found any more: {entry}" for entry in allowed if entry not in seen]
+    print(*problems, sep="\n")
+    return 1 if problems else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
