@@ -115,14 +115,14 @@ protected:
 TEST_F(SafetyTest, ClosesWhatAHandlerHasLeftOpenWhenTheOutermostIsOver) {
     std::ofstream(directory_.Path() / "a.txt") << "x\n";
     const std::string path = NativeText(directory_.Path() / "a.txt");
-    SafeFiles& files = safety_.ProgramFiles();
+    SafeFiles& safeFiles = safety_.ProgramFiles();
     StartRules();
     Deliver([&] {
-        files.Open(2, path, FileMode::Input);
+        safeFiles.Open(2, path, FileMode::Input);
         Deliver([] {});
-        EXPECT_EQ(files.LineInput(2), "x") << "a handler inside another one closes nothing";
+        EXPECT_EQ(safeFiles.LineInput(2), "x") << "a handler inside another one closes nothing";
     });
-    EXPECT_EQ(NumberOf([&] { files.LineInput(2); }), 52);
+    EXPECT_EQ(NumberOf([&] { safeFiles.LineInput(2); }), 52);
 }
 
 TEST_F(SafetyTest, TheLogDirectoryOfTheSettingsIsLocked) {
