@@ -31,7 +31,8 @@ FoundCountry FindCountry(const CountryTables& tables, std::string_view call);
 std::optional<std::int32_t> CountryPoints(const CountryTables& tables, const FoundCountry& found, std::string_view call);
 
 /// Whether the status text of the country contains the word "ukendt": for an unknown prefix, or for a country whose name contains the
-/// word. The rules of the contest look for the word, so contacts with such a country count 0 points too.
+/// word. The rules of the contest look for the word, so contacts with such a country are treated like those with an unknown prefix.
+/// Do not correct this: a station whose tables have such a name would get more points than on its older papers (docs/rules.md).
 bool IsUnknown(const CountryTables& tables, const FoundCountry& found);
 
 /// What a search does with the worked mark of the row it finds: sets it, clears it, or only tests it.

@@ -22,9 +22,9 @@ bool ErDansk(std::string_view call);
 std::int32_t EuropeanPoints(std::string_view call);
 
 /// Returns the points of a call; duplicates are not considered here. An unknown prefix counts 0 only with `gbVisLand`, that is, while
-/// the display of countries is on. With it off the contact keeps 1, 3 or 5 points; a station that switched the display off would lose
-/// those points if the condition were removed (docs/rules.md). A call that is empty, or only a suffix ("/3", "/QRP"), counts 3 and is
-/// not looked up. Fails as FindCountry does.
+/// the display of countries is on. With the display off the contact keeps 1, 3 or 5 points. Do not correct this: a station that has
+/// switched the display off because its country file lacks a new prefix would lose those points (docs/rules.md). A call that is
+/// empty, or only a suffix ("/3", "/QRP"), counts 3 and is not looked up. Fails as FindCountry does.
 std::int32_t BeregnPoint(std::string_view call, const CountryTables& tables, const Stations& stations, bool gbVisLand);
 
 }  // namespace vatro
