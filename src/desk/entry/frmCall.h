@@ -8,7 +8,7 @@
 namespace vatro {
 
 /// Offers the calls of the society's stations with "/P". They are read once per run; a missing edr.txt is a failure. OK stores the
-/// call at once; the telephone number is stored at the end of the program.
+/// call at once; the telephone number is stored at the end of the program. Here Command1 is Cancel, while in most forms it is OK.
 class FrmCall : public Form {
 public:
     FrmCall();

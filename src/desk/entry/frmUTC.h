@@ -7,7 +7,8 @@
 
 namespace vatro {
 
-/// Offers a list of whole hours; OK stores the choice at once. If the current offset is not in the list, loading the form fails.
+/// Offers a list of whole hours; OK stores the choice at once. If the current offset is not in the list, loading the form fails. Here
+/// Command1 is Cancel, while in most forms it is OK.
 class FrmUTC : public Form {
 public:
     FrmUTC();

@@ -2,8 +2,10 @@
 //
 // The menu bar of the entry form. The click handlers are in menu_clicks.cpp.
 //
-// Many names mislead: a name often tells of another menu than the one its entry is in. Some entries of "&Indstillinger" and "&Vis"
-// are called mnuFunktioner..., because the first version of the program had them in "Fun&ktioner".
+// Many names mislead, because a name often tells of another menu than the one its entry is in. Some entries of "&Indstillinger" and
+// "&Vis" are called mnuFunktioner..., since the first version of the program had them in "Fun&ktioner". mnuFilePageSetup asks for the
+// printer and its paper, mnuFilePrint is only the submenu of printing, mnuIndstillingerBånd has modes as well as bands, and
+// mnuFunktionerImporterCtAll imports a single log.
 #pragma once
 
 #include <vector>

@@ -15,7 +15,7 @@ void HentUdstyr();
 /// Writes the ten keys: all radios, then all antennas.
 void GemUdstyr();
 
-/// The dialogue for the ten texts, each of at most 15 characters.
+/// The dialogue for the ten texts, each of at most 15 characters. CommandLuk is Cancel, although "luk" means close.
 class FormRigAnt : public Form {
 public:
     FormRigAnt();

@@ -83,6 +83,7 @@ inline constexpr TextSetting kBackupDirectory{kSettings, "gsBackupLib", "gsBacku
 /// 1 while the time field follows the clock, 0 otherwise.
 inline constexpr ShortSetting kAutoTime{kSettings, "AutoTid", "AutoTid", 1, Written::AtEnd};
 inline constexpr FlagSetting kShowCountry{kSettings, "VisLand", "VisLand", true, Written::AtEnd};
+/// The start information. The year in the key means nothing.
 inline constexpr FlagSetting kShowInfo{kSettings, "VisInfo2002", "VisInfo2002", true, Written::AtEnd};
 
 /// A coordinate or a size of a window, in twips.
