@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
 //
-// Notes: lines of free text in the log, in their place among the contacts. A note can be reworded, never removed.
+// Notes: lines of free text in the log, in their place among the contacts. A note can be reworded but not removed: an operator who
+// presses Enter in an empty box by mistake would lose it (docs/rules.md).
 #pragma once
 
 #include "forms.h"
 
 namespace vatro {
 
-/// Asks for the text. OK hides the window and leaves the text in it; Annuller empties it, by which the callers know that
-/// nothing is wanted.
+/// The dialogue for the text. OK hides the window and leaves the text in it. Annuller (Cancel) empties the text, which tells the
+/// callers to do nothing.
 class FrmNote : public Form {
 public:
     FrmNote();
-    /// At most 80 characters.
+    /// The text; at most 80 characters.
     TextBox note;
     Button okButton;
     Button cancelButton;
@@ -20,9 +21,9 @@ public:
 
 inline FormSlot<FrmNote> frmNote{"frmNote"};
 
-/// Asks for a note and appends it to the log. The text of the last one stands in the window, selected.
+/// Asks for a note and appends it to the log. The window first shows the text of the last note, selected.
 void InsertNote();
-/// Asks for another wording of the note that is selected in the log.
+/// Asks for a new text for the note that is selected in the log.
 void CorrectNote();
 
 }  // namespace vatro

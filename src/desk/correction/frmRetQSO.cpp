@@ -84,7 +84,7 @@ void FrmRetQSO::Fill(std::string_view line) {
     operatorBox.SetText(kOperatorAsRead.TrimmedOf(line));
     qsl.SetValue(kQsl.TrimmedOf(line) == "QSL");
 
-    // Lines of earlier years end before mode and date. A contact can change between the modes of its log only.
+    // Lines written by earlier versions end before mode and date. Only modes of the same log can be chosen.
     std::string mode(kQsoMode.TrimmedOf(line));
     if (mode.empty()) mode = desk().gsQsoMode;
     modeBox.Clear();
@@ -172,11 +172,11 @@ void FrmRetQSO::TakeCorrection() {
 
 void FrmRetQSO::LogCorrection(const std::string& time) {
     const std::string call = fields[kCallField].Text();
-    // As it counts now; what multiplierField shows is not used.
+    // Computes the multiplier anew; the text of multiplierField is not used.
     Contact contact;
     contact.multiplier = NoteCountry(call, MarkAction::Mark);
     NoteStation(desk().gsCall, MarkAction::Mark);
-    // Six characters are what the station was looked up by, and what the variable shows from now on.
+    // The station was looked up by six characters, and gsCall shows these six from now on.
     desk().gsCall = StationCall(desk().gsCall);
     NotePoints(call);
     const double point = NumericValue(pointBox.Text());
@@ -186,8 +186,9 @@ void FrmRetQSO::LogCorrection(const std::string& time) {
         question.title = "Point";
         question.buttons = Buttons::YesNo;
         if (MsgBox(question) == Answer::No) {
-            // The marks just set stay set: a second "&Log" then finds the country marked, and the corrected line has no multiplier
-            // until the log is checked. Logs corrected that way are in the archives of many stations.
+            // The marks just set are kept: a second "&Log" then finds the country marked already, and the corrected line loses its
+            // multiplier. Do not correct this: logs of many stations were corrected this way, and the error list reports such a line
+            // (docs/rules.md).
             if (pointBox.Enabled()) pointBox.SetFocus();
             return;
         }
@@ -216,7 +217,7 @@ void FrmRetQSO::LogCorrection(const std::string& time) {
 
 namespace {
 
-/// Takes a contact out of points and marks before it is corrected.
+/// Withdraws a contact from points and marks before it is corrected.
 void Withdraw(FrmRetQSO& form) {
     const std::string& call = form.fields[kCallField].Text();
     if (!call.empty() && !form.multiplierField.Text().empty() && form.multiplierField.Text() != kDupeMark)
@@ -235,7 +236,7 @@ void CorrectLine() {
     frmRetQSO->Fill(line);
     Withdraw(*frmRetQSO);
     frmRetQSO->ShowModal();
-    // Whatever way the window was closed.
+    // This runs however the window was closed.
     LæsOperatører(frmMain->operatorBox, desk().gsOperatør.Padded());
     SkrivLog();
     frmMain->fields[kCallField].SetFocus();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Correction of a logged contact. While the window is open the contact counts for nothing: it is withdrawn from points and
-// marks before the window opens, and "&Log" counts it again as it then stands. "&Annuller" does not: the counters come right
-// at the next load, as operators who look at a contact and leave it have always seen.
+// Correction of a logged contact. While the window is open the contact counts for nothing: it is withdrawn from points and marks
+// before the window opens, and "&Log" counts the corrected contact. "&Annuller" (Cancel) does not count it again; the next load of
+// the log does. Keep this: operators who look at a contact and leave it see the numbers that they have always seen (docs/rules.md).
 #pragma once
 
 #include "entry/qso_fields.h"
@@ -15,9 +15,9 @@ public:
     FrmRetQSO();
     /// The fields of the contact; ContactField gives the index of each.
     ContactFields fields;
-    /// Points; disabled for a duplicate.
+    /// The points to choose; disabled for a duplicate.
     ComboBox pointBox;
-    /// The multiplier as computed last; "&Log" computes it again.
+    /// Shows the multiplier computed last; "&Log" computes it again.
     TextBox multiplierField;
     /// Operator.
     ComboBox operatorBox;
@@ -28,12 +28,12 @@ public:
     Button cancelButton;
     Button calculateButton;
     StatusBar statusBar;
-    /// The names of the fields.
+    /// The labels beside the fields.
     Label fieldLabels[9];
 
-    /// Shows the fields of a contact line.
+    /// Fills the controls from a contact line.
     void Fill(std::string_view line);
-    /// Sets gbDupe for gsCall, against the lines above the one being corrected; see CheckDupQSO.
+    /// Sets gbDupe: whether gsCall is a duplicate of a line above the one being corrected; see CheckDupQSO.
     void NoteDuplicateAbove();
 
     void StoreState() override;
@@ -50,7 +50,7 @@ private:
 
 inline FormSlot<FrmRetQSO> frmRetQSO{"frmRetQSO"};
 
-/// Corrects the line that is selected in the log; a note goes to its own form. An empty log: nothing.
+/// Corrects the line that is selected in the log; a note opens the form for notes. Does nothing if the log is empty.
 void CorrectLine();
 
 }  // namespace vatro

@@ -11,7 +11,7 @@ namespace vatro {
 namespace {
 
 constexpr int kMinute = 60000;
-/// After the full minute, so that the tick never shows the minute that has just gone.
+/// Milliseconds after the full minute, so that the tick never shows the minute that has just ended.
 constexpr int kAfterMinute = 100;
 
 }  // namespace

@@ -5,13 +5,13 @@
 
 namespace vatro {
 
-/// Starts the clock so that its first tick falls 100 ms after the next full minute, and ticks its menu entry.
+/// Starts the clock and ticks its menu entry. The first tick of the clock comes 100 ms after the next full minute.
 void TimerStart();
-/// Stops the clock and unticks its menu entry.
+/// Stops the clock and removes the tick of its menu entry.
 void TimerStop();
-/// One tick: a minute until the next, and the time field shows universal time.
+/// Handles a tick of the clock: shows universal time in the time field; the next tick comes a minute later.
 void TimerTick();
-/// The menu entry: switches the automatic time.
+/// The click of the menu entry: switches the automatic time on or off.
 void ToggleAutoTime();
 
 }  // namespace vatro

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The checks of the fields of a contact with the operator at hand: messages are shown, questions asked, and fields rewritten as they
-// are to be logged. The caller puts the focus where the fault is.
+// Checks the fields of a contact with the operator present: shows messages, asks questions, and rewrites fields in the form in which
+// they are logged. The caller moves the focus to the field at fault.
 #pragma once
 
 #include <optional>
@@ -14,14 +14,16 @@
 
 namespace vatro {
 
-/// Whether the field may stay as it is: there is no objection, or the operator has confirmed it.
+/// Shows the message or question, if any. Returns whether the field may stay as it is: there is no objection, or the operator has
+/// answered Yes.
 bool Accepted(const std::optional<Objection>& objection);
 
-/// The time of the field as "Hh:Nn". The field gets a ":" in its middle. Nothing, after a message, if it is no time of day.
+/// Returns the time in the field as "Hh:Nn". Puts ":" in the middle of the field. Shows a message and returns nothing if the text is
+/// not a time of day.
 std::optional<std::string> AcceptedTime(TextBox& field);
 
-/// Checks reports and numbers in the order of the fields. Gives the field at fault, if any. A confirmed nought as number received becomes
-/// "0000".
+/// Checks reports and numbers in the order of the fields. Returns the field at fault, or nothing. If the operator confirms a nought
+/// as number received, the field becomes "0000".
 std::optional<ContactField> FieldAtFault(ContactFields& fields);
 
 }  // namespace vatro

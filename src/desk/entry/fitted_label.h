@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 //
-// The windows with one text in letters as large as the window is high.
+// Helpers for the windows that show one text in letters as high as the window.
 #pragma once
 
 #include "forms.h"
 
 namespace vatro {
 
-/// The label's font becomes as many points high as the room of the window, and the window a little wider than its text.
+/// Sets the size of the label's font so that the text fills the height of the window, then makes the window a little wider than the
+/// text.
 void FitText(Form& form, Label& label);
-/// The text has changed: the window follows it in width.
+/// Adapts the width of the window after its text has changed.
 void FitWidth(Form& form, const Label& label);
-/// Black on the window's own ground.
+/// Shows the text in black on the window's own background.
 void ShowNormal(Label& label, std::string_view text);
 
 }  // namespace vatro

@@ -5,7 +5,7 @@
 
 namespace vatro {
 
-// The caption is the column head of the list, blanks and all.
+// The caption serves as the column heading of the list, hence its blanks.
 FrmB4::FrmB4()
     : Form("frmB4", FormKind::Tool, "Call check                         QSOnr/modt.     UTC"),
       earlierContacts(*this, "List1", {"Fixedsys", 9}) {

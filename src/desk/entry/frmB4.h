@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The earlier contacts whose call contains what has been typed so far.
+// The window of the earlier contacts whose call contains what has been typed so far.
 #pragma once
 
 #include <string>
@@ -13,10 +13,10 @@ namespace vatro {
 class FrmB4 : public Form {
 public:
     FrmB4();
-    /// Fills the window.
+    /// The list; it fills the window.
     ListBox earlierContacts;
 
-    /// Shows these contacts in place of those that were shown; see WkdB4.
+    /// Replaces the contacts shown; see WkdB4.
     void ShowContacts(std::vector<std::string> contacts);
 
     void Form_Load() override;

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// The contest call and the telephone number for the summary.
+// The dialogue of the contest call and of the telephone number for the summary.
 #pragma once
 
 #include "forms.h"
 
 namespace vatro {
 
-/// Offers the society's stations as portable calls, read once per run; a missing edr.txt is a failure. OK stores the call at
-/// once; the telephone number is stored at the end of the program.
+/// Offers the calls of the society's stations with "/P". They are read once per run; a missing edr.txt is a failure. OK stores the
+/// call at once; the telephone number is stored at the end of the program. Here Command1 is Cancel, while in most forms it is OK.
 class FrmCall : public Form {
 public:
     FrmCall();
@@ -26,7 +26,7 @@ private:
 
 inline FormSlot<FrmCall> frmCall{"frmCall"};
 
-/// Asks for the contest call and shows the one that holds in the caption and the window of the call.
+/// Asks for the contest call and shows the resulting call in the caption of the main form and in the window of the call.
 void ChangeContestCall();
 
 }  // namespace vatro

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// The entry form, the operator's working place. It is driven from the keyboard: the cursor stands in the call field, Space
-// jumps to the received number and back, Enter logs, Esc clears, and function keys change band, change mode and send Morse.
+// The entry form, where the operator works. It is driven from the keyboard: the cursor stands in the call field, Space jumps to the
+// received number and back, Enter logs, Esc clears, and function keys change band, change mode and send Morse.
 //
-// This is the form alone, its controls and their texts. What its handlers do stands in main_handlers.cpp and menu_clicks.cpp; what is
-// done with the finished entry in validation.h, the clock in clock.h.
+// This header has only the form, its controls and their texts. The handlers are in main_handlers.cpp and menu_clicks.cpp, the check
+// and logging of the finished entry in validation.h, the clock in clock.h.
 #pragma once
 
 #include "entry/main_menu.h"
@@ -32,18 +32,18 @@ public:
     Timer minuteTimer;
     StatusBar statusBar;
 
-    /// Whether the start has come so far that all settings are read: before that there is nothing to store.
+    /// Whether the start has read all settings. Before that there is nothing to store.
     bool up = false;
 
-    /// Whether the settings know a place of the window: before the first regular end they do not.
+    /// Whether a position of the window is stored. None is stored before the first regular end.
     static bool HasPlace();
 
 private:
     void SetToolTips();
 };
 
-/// The form with its handlers, which main_handlers.cpp binds: everything that the form does is above it, so that whatever needs one of its
-/// controls can use this page.
+/// The form. main_handlers.cpp binds its handlers. Code that needs one of its controls can include this header without depending on
+/// the handlers.
 extern FormSlot<FrmMain> frmMain;
 
 }  // namespace vatro

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// The serial number of the next contact, set by hand: after a pause, or when two stations share a series.
+// The dialogue that sets the serial number of the next contact by hand: after a pause, or when two stations share a series.
 #pragma once
 
 #include "forms.h"
 
 namespace vatro {
 
-/// OK takes the number over into giQSOnr and hides the window; a lower number than the present one is refused, although the
-/// message says that an equal one is too.
+/// OK stores the number in giQSOnr and hides the window. A number lower than the present one is refused. An equal one is accepted,
+/// although the message says "større end" (greater than); operators know that message from the handbook.
 class FrmNytQSOnr : public Form {
 public:
     FrmNytQSOnr();
@@ -17,7 +17,7 @@ public:
     Button okButton;
     Button cancelButton;
 
-    /// Only at the first opening of a run: the window is hidden after use, and keeps number and limit.
+    /// Runs only when the window is first opened: after use it is only hidden and keeps its number and limit.
     void Form_Load() override;
 
 private:
@@ -26,7 +26,7 @@ private:
 
 inline FormSlot<FrmNytQSOnr> frmNytQSOnr{"frmNytQSOnr"};
 
-/// Asks for the number and shows the one that holds.
+/// Asks for the number and shows the resulting one.
 void ChangeNextNumber();
 
 }  // namespace vatro

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The exchange to send, in letters that fill the window: the user sets the height, the width follows the text. Red at a
-// duplicate.
+// The window of the exchange to send - mode and report besides the number, in spite of its name - in letters that fill it. The user
+// sets the height; the width follows the text. The text turns red for a duplicate.
 #pragma once
 
 #include "forms.h"
@@ -13,9 +13,9 @@ public:
     FrmQSOnr();
     Label exchange;
 
-    /// Shows QSO mode, default report and the number of the next contact, at least three digits.
+    /// Shows QSO mode, default report and the number of the next contact with at least three digits.
     void visQSOnr();
-    /// Shows that the contact being entered is a duplicate, until the next visQSOnr.
+    /// Marks the contact being entered as a duplicate, until the next visQSOnr.
     void visDupe();
 
     void Form_Load() override;

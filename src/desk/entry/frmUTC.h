@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// The offset from local to universal time.
+// The dialogue of the offset from local to universal time.
 #pragma once
 
 #include "forms.h"
 
 namespace vatro {
 
-/// A list of whole hours; OK stores the choice at once. An offset that is not in the list makes the loading fail.
+/// Offers a list of whole hours; OK stores the choice at once. If the current offset is not in the list, loading the form fails. Here
+/// Command1 is Cancel, while in most forms it is OK.
 class FrmUTC : public Form {
 public:
     FrmUTC();
@@ -20,7 +21,7 @@ public:
 
 inline FormSlot<FrmUTC> frmUTC{"frmUTC"};
 
-/// Asks for the offset and shows the time that goes with it, also after Annuller.
+/// Asks for the offset, then shows the universal time by the current offset, even after Annuller (Cancel).
 void ChangeUtcOffset();
 
 }  // namespace vatro

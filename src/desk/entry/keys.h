@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Key filters of the fields: the characters of a fixed set pass, others are made nothing. Only the keyboard goes through
-// them; pasted text does not.
+// Key filters of the fields: characters of a fixed set pass, all others are discarded. Only typed keys are filtered; pasted text is
+// not.
 #pragma once
 
 #include <string_view>
@@ -13,17 +13,17 @@ namespace vatro {
 
 using namespace literals;
 
-// The 4 stands twice and out of order in these; the set is what counts.
+// The 4 occurs twice, the first time out of order; only the set of characters matters.
 inline constexpr std::string_view kCallCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZÆØÅ12434567890/"_t;
 inline constexpr std::string_view kTimeCharacters = "12434567890:."_t;
 inline constexpr std::string_view kDigitCharacters = "12434567890"_t;
 
-/// The key in upper case.
+/// Returns the key in upper case.
 inline KeyCode UpperKey(KeyCode key) {
     return key < 0 || key > 255 ? key : static_cast<unsigned char>(Upper(static_cast<char>(static_cast<unsigned char>(key))));
 }
 
-/// Makes the key nothing unless it is backspace or in the set, without regard to case.
+/// Discards the key (sets it to kNoKey) unless it is backspace or in the set, ignoring case.
 inline void FilterKey(KeyCode& key, std::string_view characters) {
     if (key == kBackspace) return;
     const KeyCode upper = UpperKey(key);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The handlers of the entry form: its fields, its coming up and its end. The menu's stand in menu_clicks.cpp.
+// The handlers of the entry form: of its fields, of its load and its end. Those of the menu are in menu_clicks.cpp.
 #include "call/call_analysis.h"
 #include "correction/frmRetQSO.h"
 #include "entry/clock.h"
@@ -27,7 +27,7 @@ namespace vatro {
 
 namespace {
 
-/// Keeps the list of the form in step with the log.
+/// Keeps the list of the form in step with the log in memory.
 class ShownLog : public LogObserver {
 public:
     void Cleared() override {
@@ -113,7 +113,7 @@ void EntryForm::Form_Load() {
     ShowContestClass(*this);
     SetCwMenuTekster();
 
-    // All side windows come up at every start; their ticks are not kept.
+    // All side windows are shown at every start; whether one was hidden is not stored.
     frmB4->Show();
     mnuVisB4.SetTicked(true);
     Show();
@@ -133,7 +133,7 @@ void EntryForm::Form_Load() {
     ResetQSO();
     up = true;
     if (desk().gbVisInfo) VisStartInfo();
-    // Again, so that the time spent loading does not shift the clock.
+    // Started a second time, so that the time spent loading does not delay its first tick.
     if (desk().gbAutoTid == 1) TimerStart();
 }
 
@@ -152,11 +152,11 @@ void EntryForm::Form_Resize() {
 }
 
 void EntryForm::Form_Unload() {
-    // More than thirty values: the disk takes them in one piece.
+    // More than thirty values; they are written to the disk in one piece.
     const SettingsBatch together(platform().settings);
     SetHourglass(true);
     GemOperatører(operatorBox);
-    // The keyer lets other events run while it goes, which may close windows too.
+    // Backwards and by index: unloading the keyer runs other events, which may close windows too.
     for (std::size_t i = LoadedForms().size(); i-- > 1;)
         if (i < LoadedForms().size()) LoadedForms()[i]->Unload();
     StoreState();
@@ -196,7 +196,7 @@ void EntryForm::FieldChanged(int Index) {
 }
 
 void EntryForm::FieldEntered(int Index) {
-    // A time being typed is not overwritten: the clock stands still until the contact is logged.
+    // The clock must not overwrite a time that is being typed, so it is stopped until the contact is logged.
     if (Index == kUtcField) TimerStop();
     if (Index == kUtcField || Index == kReportSentField || Index == kReportReceivedField) fields[Index].SelectAll();
 }

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// The menu bar of the entry form. What the entries do stands in menu_clicks.cpp. The names follow no menu: the entries of "&Indstillinger"
-// and
-// "&Vis" are partly called mnuFunktioner..., as the first version of the program had them there.
+// The menu bar of the entry form. The click handlers are in menu_clicks.cpp.
+//
+// Many names mislead, because a name often tells of another menu than the one its entry is in. Some entries of "&Indstillinger" and
+// "&Vis" are called mnuFunktioner..., since the first version of the program had them in "Fun&ktioner". mnuFilePageSetup asks for the
+// printer and its paper, mnuFilePrint is only the submenu of printing, mnuIndstillingerBånd has modes as well as bands, and
+// mnuFunktionerImporterCtAll imports a single log.
 #pragma once
 
 #include <vector>
@@ -124,7 +127,7 @@ struct MainMenu : Form {
     MenuItem mnuHelpStartInfo{*this, &mnuHjælp, "mnuHelpStartInfo", "S&tart information..."};
     MenuItem mnuHelpAbout{*this, &mnuHjælp, "mnuHelpAbout", "O&m Vatro"};
 
-    /// The entries of bands and modes, with their index: the separator is none of them.
+    /// The entries of bands and modes, by index, without the separator.
     std::vector<MenuItem*> BandEntries();
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the entries of the menu bar do.
+// The click handlers of the menu bar.
 #include "entry/menu_clicks.h"
 #include "frame/state.h"
 
@@ -51,7 +51,7 @@ void SetContestClass(FrmMain& main, std::string_view contestClass) {
 
 void ToggleWindow(FrmMain& main, MenuItem& entry, FormSlotBase& window) {
     entry.SetTicked(!entry.Ticked());
-    // A window that was closed by its frame is not loaded, and its tick has stayed.
+    // If the user closed the window by its frame, it is not loaded any more, but its menu entry is still ticked.
     window.Load();
     if (!entry.Ticked()) return window.Peek()->Hide();
     window.Peek()->Show();
@@ -59,7 +59,7 @@ void ToggleWindow(FrmMain& main, MenuItem& entry, FormSlotBase& window) {
 }
 
 void BindPapers(FrmMain& main) {
-    // In the order of kTenLogs.
+    // The entries, in the order of kTenLogs.
     const std::array<MenuItem*, kTenLogs.size()> sheets{
         &main.mnuEfter10mCW,  &main.mnuEfter10mSSB, &main.mnuEfter15mCW,  &main.mnuEfter15mSSB, &main.mnuEfter20mCW,
         &main.mnuEfter20mSSB, &main.mnuEfter40mCW,  &main.mnuEfter40mSSB, &main.mnuEfter80mCW,  &main.mnuEfter80mSSB};

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
-// What the entries of the menu bar do. This is the one page that knows every window and paper of the program.
+// The click handlers of the menu bar. Only menu_clicks.cpp knows every window and paper of the program.
 #pragma once
 
 #include "entry/frmMain.h"
 
 namespace vatro {
 
-/// Gives every entry of the menu bar its click.
+/// Binds the click handler of every entry of the menu bar.
 void BindMenu(FrmMain& main);
 
-/// Ticks the contest class in the menu; a class that is neither A nor B leaves the ticks.
+/// Ticks the contest class in the menu. If the class is neither A nor B, the ticks stay as they are.
 void ShowContestClass(FrmMain& main);
 
 }  // namespace vatro

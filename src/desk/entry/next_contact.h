@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 //
-// The entry form made ready for the next contact, and the change of band or mode, which ends with that.
+// Prepares the entry form for the next contact, and changes band or mode, which ends with the same step.
 #pragma once
 
 namespace vatro {
 
-/// Makes the form ready for the next contact: the next serial number, default reports, an empty call. Also after every
-/// load of a log, so that each log goes on with its own numbers.
+/// Prepares the form for the next contact: moves the serial number (giQSOnr) on by one, although the name only says "reset", sets
+/// default reports and clears the call. Also runs after every load of a log, so that each log continues its own numbers.
 void ResetQSO();
 
-/// The whole change of band or mode: takes the choice over, loads the log that now is the current one, clears the entry and asks whether
-/// the operator stays the same. Does not ask before and does not test whether the choice differs.
+/// Changes band or mode: applies the choice, loads the log that is now the current one, clears the entry and asks whether the
+/// operator stays the same. It does not ask before, and it does all this even if the choice is the current one. This is deliberate: a
+/// half-typed contact is lost, but operators change band in one stroke during a pile-up (docs/rules.md).
 void ChangeBandMode(int index);
 
 }  // namespace vatro

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The operators, who take turns: a box that is a list of the known ones and a field to type a new one into. The list is
-// operator.txt in gsFDLib, one operator a line, of which the first six characters count. New names join at the end; there is no
-// way to delete one but in the file.
+// The operators, who take turns. The box lists the known operators and has a field to type a new one. The list is stored in
+// operator.txt in gsFDLib, one operator per line, of which the first six characters count. New names are added at the end; names can
+// be deleted only in the file.
 #pragma once
 
 #include <string>
@@ -12,25 +12,26 @@
 
 namespace vatro {
 
-/// Fills the box from operator.txt; a failure gives a message and leaves what was read. If `wanted` is not empty the box
-/// shows gsOperatør.
+/// Fills the box from operator.txt. On a failure shows a message and keeps the names read so far. If `wanted` is not empty, the box
+/// then shows gsOperatør.
 void LæsOperatører(ComboBox& box, std::string_view wanted);
 
 /// Writes the list of the box to operator.txt. Failures are not caught.
 void GemOperatører(const ComboBox& box);
 
-/// Adds the text of the box to its list if it is not there, by exact comparison; with `takeOver` it becomes gsOperatør. An empty
-/// text: nothing.
+/// Adds the text of the box to its list unless it is there already, by exact comparison; with `takeOver` the text also becomes
+/// gsOperatør. Does nothing if the text is empty. The name says "check", but nothing is checked.
 void OperatørTjek(ComboBox& box, bool takeOver);
 
-/// An item was chosen: it becomes gsOperatør.
+/// Handles the choice of an item: it becomes gsOperatør.
 void OperatørValgt(const ComboBox& box);
 
-/// Enter in the box takes the text over as OperatørTjek does, unless it is longer than six characters.
+/// Handles a key in the box: Enter takes the text over as OperatørTjek does, unless it is longer than six characters.
 void OperatørTast(ComboBox& box, KeyCode& KeyAscii);
 
-/// What a key becomes in the box: upper case and only the characters of a call. Once the text is longer than six characters every
-/// key is swallowed, so a seventh can be typed: meant so.
+/// Filters a key in the box: converts it to upper case and lets only the characters of a call pass. Once the text is longer than six
+/// characters every key is discarded, including Enter. A seventh character can therefore be typed. Keep this: otherwise Enter would
+/// log under a name cut short (docs/rules.md).
 void OperatorFilter(const ComboBox& box, KeyCode& KeyAscii);
 
 }  // namespace vatro

@@ -43,7 +43,7 @@ void HandleFieldKey(ContactFields& fields, int Index, KeyCode& KeyAscii, const s
 
 void FilterFieldKey(int Index, KeyCode& KeyAscii) {
     if (Index == kCallField) KeyAscii = UpperKey(KeyAscii);
-    // No field can hold a blank from the keyboard.
+    // A blank cannot be typed into any field.
     if (KeyAscii == kSpace) KeyAscii = kNoKey;
     if (Index == kUtcField) FilterKey(KeyAscii, kTimeCharacters);
     if (Index == kCallField) FilterKey(KeyAscii, kCallCharacters);

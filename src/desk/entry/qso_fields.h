@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The six text fields of a contact, which entry and correction have alike: their order, lengths and keys.
+// The six text fields of a contact: their order, lengths and keys. Entry and correction share them.
 #pragma once
 
 #include <functional>
@@ -9,7 +9,7 @@
 
 namespace vatro {
 
-/// Indices of the fields, in entry and correction alike.
+/// Indices of the fields, the same in entry and correction.
 enum ContactField { kUtcField, kCallField, kReportSentField, kNumberSentField, kReportReceivedField, kNumberReceivedField, kFieldCount };
 
 using ContactFields = TextBox[kFieldCount];
@@ -17,12 +17,13 @@ using ContactFields = TextBox[kFieldCount];
 /// Sets the length limits of the fields.
 void SetFieldLengths(ContactFields& fields);
 
-/// A key in one of the fields. Enter runs `enter`; Esc empties call and received number together, or the field alone; Space jumps
-/// between call and received number. A key that has done something becomes nothing.
+/// Handles a key in one of the fields. Enter runs `enter`. Esc in the call or the received number empties both, in another field that
+/// field; the number sent is never emptied. Space jumps between call and received number. A key that has been handled is set to
+/// kNoKey.
 void HandleFieldKey(ContactFields& fields, int Index, KeyCode& KeyAscii, const std::function<void()>& enter);
 
-/// What a key becomes in one of the fields: time, call and received number take only their own characters, the call in upper
-/// case; no field takes a blank.
+/// Filters a key in one of the fields: time, call and received number accept only their own characters, and the call is converted to
+/// upper case. No field accepts a blank.
 void FilterFieldKey(int Index, KeyCode& KeyAscii);
 
 }  // namespace vatro

@@ -23,15 +23,15 @@ using namespace literals;
 
 namespace {
 
-/// The contact is accepted: from here there is no way back and no question. The call counts as typed for country and points,
-/// as base call for the station.
+/// Logs an accepted contact. From here on nothing is asked and nothing can be cancelled. The country and its points are found by the
+/// call as typed, the station by the base call.
 void LogContact(const std::string& time) {
     FrmMain& main = *frmMain;
     DeskState& state = desk();
     Contact contact;
     contact.call = main.fields[kCallField].Text();
     contact.multiplier = RateContact(contact.call, state.gsCall);
-    // Six characters are what the station was looked up by, and what the variable shows from now on.
+    // The station was looked up by six characters, and gsCall shows these six from now on.
     state.gsCall = StationCall(state.gsCall);
     contact.time = time;
     contact.reportSent = main.fields[kReportSentField].Text();
@@ -44,7 +44,8 @@ void LogContact(const std::string& time) {
     contact.operatorCall = Trim(main.operatorBox.Text());
     contact.qsl = main.qsl.Value();
     contact.qsoMode = state.gsQsoMode;
-    // Always today's, even if the time was set back over midnight by hand.
+    // Always today's date, even if the operator has set the time back over midnight. Operators who log late by hand correct the line
+    // instead (docs/rules.md).
     contact.date = FormatDate(UtcNow());
 
     const std::string line = QsoLine(contact, state.gsMode);
@@ -75,10 +76,10 @@ void ValiderQSO() {
     if (!time) return main.fields[kUtcField].SetFocus();
     state.gsCall = StripCall(main.fields[kCallField].Text());
     if (!Accepted(CheckCall(state.gsCall))) return main.fields[kCallField].SetFocus();
-    // A duplicate is no fault: it only changes what is logged.
+    // A duplicate is not an error; it only changes what is logged.
     NoteDuplicate();
     if (const auto field = FieldAtFault(main.fields)) return main.fields[*field].SetFocus();
-    // The clock may have moved the field on while a question was open.
+    // The clock may have changed the time field while a question was open.
     LogContact(CheckTime(main.fields[kUtcField].Text()).value_or(*time));
 }
 

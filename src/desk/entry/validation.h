@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// From the entry form to the log: the checks in their fixed order, the line on disk, in the log and in the counters, and
-// the form made ready for the next contact.
+// From the entry form to the log: runs the checks in their fixed order, writes the line to the disk, the log and the counters, and
+// prepares the form for the next contact.
 #pragma once
 
 #include <string>
@@ -9,18 +9,19 @@
 
 namespace vatro {
 
-/// Checks the entry and logs it. Stops at the first fault with a message and the focus on the field at fault. A band or
-/// mode word in the call field changes band or mode instead.
+/// Checks the entry and logs it; the name only says "validate". At the first fault shows a message and moves the focus to the field
+/// at fault. A band or mode word in the call field changes band or mode instead.
 void ValiderQSO();
 
-/// What an accepted contact is worth, by its call as logged: marks its country as worked, and the society's station that the first six
-/// characters of `station` name, and sets giQSOPoint. Gives the contact's multiplier. An empty call has no country. A
-/// duplicate (gbDupe) has no points and the multiplier "-DUPE-"; its country stays marked and counted all the same.
+/// Rates an accepted contact by its call as logged: marks its country as worked, and the society's station named by the first six
+/// characters of `station`, and sets giQSOPoint. Returns the multiplier. An empty call has no country. A duplicate (gbDupe) has no
+/// points and the multiplier "-DUPE-"; its country is marked and counted all the same. Do not correct this: line and status bar would
+/// differ from another copy of the program (docs/rules.md).
 std::string RateContact(std::string_view call, std::string_view station);
-/// The line of the contact goes to file and log, giQSOPoint to the counters and the status bar.
+/// Appends the line of the contact to file and log, and adds giQSOPoint to the counters and the status bar.
 void RecordContact(const std::string& line);
 
-/// The caption of the status bar for a duplicate.
+/// The text of the status bar for a duplicate.
 inline constexpr std::string_view kDupeWarning = "* DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * DUPE * ";
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The functions of the program on one picture. A click or Esc hides it.
+// A picture with an overview of the program's functions. A click or Esc hides it.
 #pragma once
 
 #include "forms.h"

@@ -32,7 +32,7 @@ void CopyFile(const std::string& file, const std::string& directory, std::string
     } catch (const RunTimeError& error) {
         switch (error.Which()) {
             case Failure::FileNotFound:
-                // A log of a band that nobody has worked.
+                // The file does not exist: a log of a band that nobody has worked.
                 break;
             case Failure::PathNotFound:
                 Stands(missing, stop);
@@ -41,7 +41,8 @@ void CopyFile(const std::string& file, const std::string& directory, std::string
                 Stands("Indsæt diskette i drev A og foretag Diskettekopi igen."_t, stop);
                 break;
             case Failure::PermissionDenied:
-                // Of a floppy, also where the target is a directory: meant so.
+                // The message speaks of a floppy even if the target is a directory. Keep it: operators know the messages, and the
+                // handbook quotes them.
                 Stands("Disketten er skrivebeskyttet. Fjern skrivebeskyttelsen og foretag Diskettekopi igen."_t, stop);
                 break;
             default:

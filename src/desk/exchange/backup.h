@@ -1,27 +1,28 @@
 // SPDX-License-Identifier: MIT
 //
-// Copies of the logs in a directory of the operators' choice, or on a floppy. Both copy the list of unknown prefixes and the
-// ten logs, one by one, with a window that tells which one; a file that is not there is passed over. Each copy is on its medium
-// when the next one begins.
+// Copies the logs to a backup directory or to a floppy. Both copy the list of unknown prefixes and the ten logs one by one, with a
+// window that says which file is being copied; files that do not exist are skipped. Each copy is synced to its medium before the next
+// one begins.
 #pragma once
 
 #include <string>
 
 namespace vatro {
 
-/// Asks for the backup directory: the one in which the user picks or creates the marker file setBackup.txt, which proves that it
-/// can be written to. The log directory itself is refused and leaves none set. Keeps the old one on Cancel; a marker that cannot
-/// be written leaves the new one set and tells it as kept: meant so.
+/// Asks for the backup directory: the user picks or creates the marker file setBackup.txt in it. The file is empty and sets nothing;
+/// it only proves that the directory can be written to. If the user picks the log directory, it is refused and no backup directory is
+/// set. On Cancel the old directory is kept. If the marker cannot be written, the new directory is set although the message says that
+/// the old one was kept. Keep this: operators know the message from the handbook, and no log is affected (docs/rules.md).
 void SetBackupLib();
 
-/// "&Kopi af log": the eleven files to gsBackupLib, which must be set.
+/// The click of "&Kopi af log": copies the eleven files to gsBackupLib, or shows a message if it is not set.
 void BackUpLogs();
-/// "&Diskettekopi": the eleven files to drive a:.
+/// The click of "&Diskettekopi": copies the eleven files to drive a:.
 void CopyToDiskette();
 
-/// Copies a file of the log directory over the one in gsBackupLib (on drive a:). `stop` becomes true, after a message, if
-/// the medium is missing, not ready or protected, so that no other copy can succeed. Any other failure shows its number and the
-/// next file may be tried; a file that does not exist is no failure.
+/// Copies a file of the log directory over the one in gsBackupLib (on drive a:). If the medium is missing, not ready or protected,
+/// shows a message and sets `stop`, since no other copy can succeed. Any other failure shows its number, and the next file may be
+/// tried. A file that does not exist is not a failure.
 void TilBackup(const std::string& file, bool& stop);
 void TilFloppy(const std::string& file, bool& stop);
 

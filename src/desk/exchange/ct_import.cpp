@@ -31,7 +31,7 @@ constexpr Field kCtCall{36, 12};
 constexpr Field kCtReportReceived{49, 3};
 constexpr Field kCtNumberReceived{53, 4};
 
-/// The report received in the columns of a log of the current mode: two figures in SSB, three in CW.
+/// Returns the report received as a log of the current mode holds it: two figures in SSB, three in CW.
 std::string ReportReceived(std::string_view line) {
     if (desk().gsMode == "SSB") return LeftAligned(kCtReportReceived.TrimmedOf(line), 2);
     return LeftAligned(kCtReportReceived.Of(line), kReportReceived.width);
@@ -43,7 +43,7 @@ std::string DateOf(std::string_view line) {
     return FormatDate(*date);
 }
 
-/// Opens the CT file and reads its head. True if there is a log of its band and mode, which has been told.
+/// Opens the CT file and reads its head. If there is a log of its band and mode already, says so and returns true.
 bool LogExists(const std::string& path, std::string& band, std::string& mode) {
     Files& files = platform().files;
     try {
@@ -60,7 +60,7 @@ bool LogExists(const std::string& path, std::string& band, std::string& mode) {
         MsgBox(exists);
         return true;
     } catch (const RunTimeError&) {
-        // Nothing tells a missing log from any other failure.
+        // The failure may be a missing log or any other; they are not told apart.
         return false;
     }
 }
@@ -114,14 +114,14 @@ void ImportQSO(std::string_view line) {
     contact.call = kCtCall.TrimmedOf(line);
     desk().gsCall = StripCall(contact.call);
     NoteDuplicate();
-    // What CT says of the report sent is not asked.
+    // The report sent is not read from the CT line.
     contact.reportSent = desk().gsMode == "SSB" ? "59" : "599";
     const double numberSent = NumericValue(kCtNumberSent.Of(line));
     contact.numberSent = ZeroPadded(numberSent, 4);
     desk().log.giQSOnr = ToInt16(numberSent);
     contact.reportReceived = ReportReceived(line);
     contact.numberReceived = ZeroPadded(NumericValue(kCtNumberReceived.Of(line)), 4);
-    // The call as it stands: as at a load, a call with "/P" is not stripped for the society's list.
+    // Passes the call unchanged: as at the load of a log, "/P" is not stripped before the society's list is searched.
     contact.multiplier = RateContact(contact.call, contact.call);
     contact.point = desk().giQSOPoint;
     contact.qsoMode = desk().gsMode;

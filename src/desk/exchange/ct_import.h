@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Brings in the log of one band that was kept with the logger CT. It becomes a log of its own: one that exists already is
-// never added to.
+// Imports the log of one band that was kept with the logger CT. It becomes a new log; a log that exists already is never added to.
 //
-// The CT log is a text file of the code page. The last two characters of its name are the band in metres; columns 44-46 of
-// its third line are the mode. A line with "-" in column 7 is a contact, every other line is passed over:
+// The CT log is a text file in the program's code page. The last two characters of its name are the band in metres; columns 44-46 of
+// its third line are the mode. A line with "-" in column 7 is a contact; all other lines are skipped:
 //
 //    5-13  date, day-month-year, the month as a word     36-47  call
 //   17-18  hour, UTC                                     49-51  report received
@@ -17,20 +16,22 @@
 
 namespace vatro {
 
-/// Asks for the file and imports it; nothing on Cancel.
+/// Asks for the file and imports it; does nothing on Cancel. The menu entry is called mnuFunktionerImporterCtAll but imports one log,
+/// not all.
 void ImportCtFromMenu();
 
-/// Imports the file. Band and mode become its own, and the new log the current one.
+/// Imports the file. The current band and mode become those of the file, and the new log becomes the current one.
 ///
-/// Every failure before the first contact counts as "there is no such log yet", which is what it is as a rule. After a log that
-/// existed, the CT file stays open: the next import of the run cannot open its own, and goes on with the contacts of the first
-/// one, to a log without band. A file of fewer than three lines is told to be empty and leaves band and mode empty too. Both are
-/// meant so. A file that cannot be opened at all fails with 52.
+/// Every failure before the first contact is taken to mean that there is no such log yet, which is the usual cause. If the log exists
+/// already, the CT file stays open; the next import of the run cannot open its own file and continues with the contacts of the first
+/// one, into a log without band and mode. A file of fewer than three lines is reported as empty and leaves band and mode empty too.
+/// Keep both: the contacts go to a log that no paper reads, so the ten logs are safe, and a log that exists must never be added to
+/// (docs/rules.md). Fails with 52 if a file cannot be opened at all.
 void ImporterCt(const std::string& path);
 
-/// Logs one contact line with the operator "CT-IMP", without any question; giQSOnr becomes its serial number. An unknown prefix
-/// counts 0 points and is not recorded anywhere. The line has the columns of every other line, whatever the CT line has. Fails
-/// with 13 if the date is none, with 5 if there is no call; nothing has been logged then.
+/// Logs one contact line with the operator "CT-IMP", without asking anything; giQSOnr becomes its serial number. An unknown prefix
+/// counts 0 points and is not written to ukendt.txt. The line has the columns of every other log line, whatever columns the CT line
+/// has. Fails with 13 if the date is invalid, with 5 if there is no call; nothing is logged then.
 void ImportQSO(std::string_view line);
 
 }  // namespace vatro

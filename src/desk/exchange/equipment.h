@@ -10,12 +10,12 @@
 
 namespace vatro {
 
-/// Reads the ten keys of section "Equipment".
+/// Reads the ten keys of the section "Equipment".
 void HentUdstyr();
-/// Writes them: all radios, then all antennas.
+/// Writes the ten keys: all radios, then all antennas.
 void GemUdstyr();
 
-/// Asks for the ten texts of at most 15 characters.
+/// The dialogue for the ten texts, each of at most 15 characters. CommandLuk is Cancel, although "luk" means close.
 class FormRigAnt : public Form {
 public:
     FormRigAnt();
@@ -25,7 +25,7 @@ public:
     TextBox antennas[5];
     Button okButton;
     Button cancelButton;
-    /// The bands beside the fields, radios first.
+    /// The band labels beside the fields, radios first.
     Label bandLabels[10];
 
     void Form_Load() override;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Name and version of the program, and what it is.
+// The box with the name, version and purpose of the program.
 #pragma once
 
 #include "forms.h"

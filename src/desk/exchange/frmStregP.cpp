@@ -69,7 +69,7 @@ void FrmStregP::indlæslog(const LogId& log) {
             if (!IsNote(line)) contacts.AddItem(ContactItem(log, line));
         }
     } catch (const RunTimeError&) {
-        // What has been read so far is shown.
+        // The contacts read so far are shown.
     }
     files.Close(1);
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Calls that stand in the logs in more than one spelling, such as DL1ABC on one band and DL1ABC/P on another: a station with
-// "/P" counts differently, and the suffix is easily forgotten. The window only shows what the ten logs held when it was opened;
-// it changes none.
+// Calls that are in the logs in more than one spelling, such as DL1ABC on one band and DL1ABC/P on another: a station with "/P"
+// counts differently, and the suffix is easily forgotten. In spite of the window's name ("slash P") it shows any two spellings of a
+// base call. It shows the logs as they were when it was opened and changes nothing.
 //
-// Its list is sorted by itself and has two kinds of items:
+// Its list sorts itself and has two kinds of items:
 //
 //    1-15  base call                        1-15  base call
 //   16-18  band, as "40m"                  16-27  "------------"
@@ -12,7 +12,7 @@
 //   24-27  serial number sent
 //   29-43  call as logged
 //
-// "-" sorts below the figures of the bands, so the line of dashes stands before the contacts of its call.
+// "-" sorts below the figures of the bands, so the line of dashes comes before the contacts of its call.
 #pragma once
 
 #include "forms.h"
@@ -25,19 +25,20 @@ public:
     FrmStregP();
     ListBox contacts;
 
-    /// Fills the list in the steps below, before the eyes of the user.
+    /// Fills the list in the steps below, while the user watches.
     void Form_Load() override;
     void StoreState() override;
 
-    /// The contacts of all ten logs, from the files.
+    /// Adds the contacts of all ten logs, read from the files.
     void IndlæsLogs();
-    /// The contacts of one log. A log that cannot be read ends where it fails, without a word.
+    /// Adds the contacts of one log. On a failure the log ends there without a message.
     void indlæslog(const LogId& log);
-    /// Puts a line of dashes before the contacts of each base call. The first item is never looked at: a contact that stands
-    /// there alone with its call gets none and stays on view, whatever its spelling. An empty list gets dashes without a call.
-    /// Meant so.
+    /// Puts a line of dashes before the contacts of each base call; the name says "insert blanks". The first item is skipped: if it
+    /// is the only contact with its call, it gets no dashes and stays in the list whatever its spelling. An empty list gets dashes
+    /// without a call. Do not correct this: operators compare two such lists (docs/rules.md).
     void IndsætBlanke();
-    /// Removes the calls that have only one spelling, with their dashes. Needs what IndsætBlanke leaves behind.
+    /// Removes the calls that have only one spelling, with their dashes; the name says "remove duplicates" but has nothing to do with
+    /// duplicate contacts. IndsætBlanke must have run before.
     void FjernDubletter();
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Tells which file is being copied; shown while the copying lasts.
+// The window that says which file is being copied, while the copying lasts. In spite of its name it also serves the backup to a
+// directory.
 #pragma once
 
 #include "forms.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The start information: what the operators are told about rules and papers, at each start until they have enough of it.
+// The start information for the operators about rules and papers. It is shown at each start until the operator switches it off.
 #pragma once
 
 #include "forms.h"
@@ -11,7 +11,7 @@ class FrmVisTekst : public Form {
 public:
     FrmVisTekst();
     TextView text;
-    /// Whether the text comes at the next start; closeButton takes it over into gbVisInfo, nothing else does.
+    /// Whether the text is shown at the next start. Only closeButton copies this to gbVisInfo.
     CheckBox showAgain;
     Button closeButton;
 

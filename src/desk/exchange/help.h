@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// The handbook, as the program opens it.
+// Opens the handbook.
 #pragma once
 
 namespace vatro {
 
-/// Opens the handbook at its table of contents. Tells it if the program has none, or what the viewer failed at.
+/// Opens the handbook at its table of contents. Shows a message if the program has no handbook or the viewer fails.
 void ShowHelpContents();
 
 }  // namespace vatro

@@ -13,7 +13,7 @@ namespace {
 struct Choice {
     int index;
     std::string_view name;
-    /// The word of the call field; empty for the hidden band.
+    /// The word that selects it in the call field; empty for the hidden band.
     std::string_view word;
 };
 
@@ -63,7 +63,7 @@ void SetIndstillinger(int index) {
 }
 
 void SetToolbar() {
-    // The hidden band has no button: the buttons stay as they are.
+    // The hidden band has no button, so the buttons are left as they are.
     const auto band = BandIndex(desk().gsBand);
     if (band && *band != kHiddenBand) frmMain->toolbar.Press(*band);
     if (const auto mode = ModeIndex(desk().gsQsoMode)) frmMain->toolbar.Press(*mode);

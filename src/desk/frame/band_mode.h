@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The choice of band and mode, which decides the log that the program works on: there is one log per band and log mode.
+// The choice of band and mode. It decides which log the program works on: there is one log per band and log mode.
 //
 // The choices are numbered 1 to 12. The same numbers serve the menu, the toolbar and the words typed in the call field:
 //
@@ -15,17 +15,17 @@ namespace vatro {
 inline constexpr int kHiddenBand = 6;
 inline constexpr int kFirstMode = 8;
 
-/// The number of a band's or QSO mode's name, spelled exactly as above, if there is one. "XXm" has one.
+/// The number of a band or QSO mode, by its name spelled exactly as above; nothing for any other name.
 std::optional<int> BandIndex(std::string_view band);
 std::optional<int> ModeIndex(std::string_view qsoMode);
-/// The choice that a word typed in the call field asks for ("80M", "CW"), if it asks for one.
+/// The number of the choice that a word typed in the call field ("80M", "CW") selects; nothing for any other text.
 std::optional<int> ChoiceOfWord(std::string_view word);
 
-/// Takes the choice over into gsBand, or gsMode and gsQsoMode, and into the ticks of the menu; Morse can be sent only in
-/// QSO mode CW.
+/// Applies a choice: sets gsBand, or gsMode and gsQsoMode, and the ticks in the menu, and enables the sending of Morse only in QSO
+/// mode CW. The name says "set settings", but no other setting is changed.
 void SetIndstillinger(int index);
 
-/// Presses the buttons of the current band and QSO mode.
+/// Shows the toolbar buttons of the current band and QSO mode as pressed.
 void SetToolbar();
 
 }  // namespace vatro

@@ -10,12 +10,12 @@ namespace vatro {
 class FrmSplash : public Form {
 public:
     FrmSplash();
-    /// What is being loaded.
+    /// Says what is being loaded.
     Label loadStage{*this, "Label1"};
     Label version{*this, "lblVersion"};
     Label warning{*this, "lblWarning"};
 
-    /// Shows the stage of the loading at once.
+    /// Shows the current stage of loading at once.
     void ShowStage(std::string_view stage);
 };
 

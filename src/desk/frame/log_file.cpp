@@ -26,13 +26,14 @@ void SelectLastLine() {
     frmMain->log.SetListIndex(frmMain->log.ListCount() - 1);
 }
 
-/// Takes a contact line into marks and counters.
+/// Counts a contact line in worked marks and counters.
 void CountLine(std::string_view line) {
     const std::string_view multiplier = kMultiplier.Of(line);
     if (!multiplier.empty() && multiplier.front() != ' ') NoteCountry(multiplier, MarkAction::Mark);
     desk().log.AddPoints(NumericValue(kPoint.Of(line)));
-    // The first six columns of the call as they stand. A call with "/P" is not stripped, so that a loaded log marks other stations than
-    // the same contacts did when they were logged; the list of stations worked has always been so after a restart.
+    // The station is looked up by the first six columns of the call, without stripping "/P". The marks after a load can therefore
+    // differ from those set when the same contacts were logged; points do not. Do not correct this: operators know the list of worked
+    // stations as it is after a restart (docs/rules.md).
     NoteStation(kCall.Of(line).substr(0, kEdrCall), MarkAction::Mark);
     desk().log.giQSOnr = ToInt16(NumericValue(kNumberSent.Of(line)));
 }
@@ -50,7 +51,7 @@ std::string CurrentLogPath() {
 void IndlæsLogfil() {
     Files& files = platform().files;
     const ListBox::Filling filling(frmMain->log);
-    // Before the file is opened, so that the bar is right even if it cannot be read.
+    // This comes before the file is opened, so that the status bar is right even if the file cannot be read.
     ClearLog();
     Log& log = desk().log;
     try {
@@ -70,7 +71,7 @@ void IndlæsLogfil() {
 }
 
 void ClearLog() {
-    // The form that shows it: it is loaded by this if it is not.
+    // Loads the main form, which shows the log, if it is not loaded yet.
     frmMain.Load();
     Log& log = desk().log;
     log.Clear();

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// All that the program keeps from one run to the next, beside logs and tables: one row for each setting.
+// Everything that the program keeps from one run to the next, apart from logs and tables: one row for each setting.
 //
-// A row names the section of the store, the key that is read, the key that is written, the default of a missing key, the type and
-// when the setting is written. The store compares keys without regard to case; each is written exactly as its row has it, since the
-// operator meets it in the file of the settings. Reading writes nothing.
+// A row has the section in the store, the key to read, the key to write, the default for a missing key, the type, and when the
+// setting is written. The store ignores the case of keys. Each key is written exactly as its row spells it, since operators see it in
+// the settings file. Reading writes nothing.
 #pragma once
 
 #include <array>
@@ -15,19 +15,19 @@ namespace vatro {
 
 /// When a setting is written.
 enum class Written {
-    /// Where the main form stores its state: at a regular end, and when the program is ended from outside.
+    /// When the main form stores its state: at a regular end, and when the program is ended from outside.
     AtEnd,
-    /// As AtEnd, and besides as soon as the operator has changed it.
+    /// As AtEnd, and also as soon as the operator changes it.
     AtOnce,
-    /// When the form that shows the setting is confirmed, together with all others of its section.
+    /// When the form that shows the setting is confirmed, together with all other settings of its section.
     WhenConfirmed,
-    /// When the window is unloaded, unless it is minimised then.
+    /// When the window is unloaded, unless it is minimised at that moment.
     WithWindow,
-    /// At a start that finds no directory of the tables. It is never read.
+    /// At a start that finds no directory of the tables. The setting is never read.
     AtStart
 };
 
-/// One row. Value is the type in memory: std::string_view for a text, std::int16_t, std::int32_t or bool.
+/// A row of the table. Value is the type in memory: std::string_view for a text, std::int16_t, std::int32_t or bool.
 template <class Value>
 struct Setting {
     std::string_view section;
@@ -42,7 +42,7 @@ using ShortSetting = Setting<std::int16_t>;
 using LongSetting = Setting<std::int32_t>;
 using FlagSetting = Setting<bool>;
 
-/// The place of a window, in twips.
+/// The position and size of a window, in twips.
 struct PlaceSetting {
     LongSetting left;
     LongSetting top;
@@ -58,13 +58,13 @@ inline constexpr std::string_view kEquipment = "Equipment";
 
 // The contest and its operator.
 
-/// Hours to add to the computer's time, as a text.
+/// Hours to add to the computer's time to get universal time, as a text.
 inline constexpr TextSetting kUtc{kSettings, "UTC", "UTC", "-2", Written::AtOnce};
 inline constexpr TextSetting kMyCall{kSettings, "MyCall", "MyCall", "", Written::AtOnce};
 /// "A" or "B".
 inline constexpr TextSetting kContestClass{kSettings, "gsKlasse", "gsKlasse", "A", Written::AtOnce};
 inline constexpr TextSetting kTelephone{kSettings, "gsTelefon", "gsTelefon", "12345678", Written::AtEnd};
-/// Written with the blanks that fill it up to six characters.
+/// Padded with blanks to six characters when written.
 inline constexpr TextSetting kLastOperator{kSettings, "LastOP", "LastOP", "", Written::AtEnd};
 inline constexpr TextSetting kBand{kSettings, "Band", "Band", "80m", Written::AtEnd};
 inline constexpr TextSetting kMode{kSettings, "Mode", "Mode", "SSB", Written::AtEnd};
@@ -73,7 +73,7 @@ inline constexpr TextSetting kQsoMode{kSettings, "QsoMode", "QsoMode", "SSB", Wr
 // Directories.
 
 inline constexpr TextSetting kTablesDirectory{kSettings, "gsFDLib", "gsFDlib", "", Written::AtEnd};
-/// The directory of the tables once more, under another key than the one that is read.
+/// The directory of the tables, written under a second key that is never read.
 inline constexpr TextSetting kFirstTablesDirectory{kSettings, "FDLib", "FDLib", "", Written::AtStart};
 inline constexpr TextSetting kLogDirectory{kSettings, "gsLogLib", "gsLoglib", "", Written::AtEnd};
 inline constexpr TextSetting kBackupDirectory{kSettings, "gsBackupLib", "gsBackupLib", "", Written::AtEnd};
@@ -83,14 +83,15 @@ inline constexpr TextSetting kBackupDirectory{kSettings, "gsBackupLib", "gsBacku
 /// 1 while the time field follows the clock, 0 otherwise.
 inline constexpr ShortSetting kAutoTime{kSettings, "AutoTid", "AutoTid", 1, Written::AtEnd};
 inline constexpr FlagSetting kShowCountry{kSettings, "VisLand", "VisLand", true, Written::AtEnd};
+/// The start information. The year in the key means nothing.
 inline constexpr FlagSetting kShowInfo{kSettings, "VisInfo2002", "VisInfo2002", true, Written::AtEnd};
 
-/// A place or length of a window.
+/// A coordinate or a size of a window, in twips.
 constexpr LongSetting Twips(std::string_view key, std::int32_t fallback) {
     return {kSettings, key, key, fallback, Written::WithWindow};
 }
 
-/// The main form's size is not kept.
+/// Position only: the main form's size is not stored.
 inline constexpr LongSetting kMainLeft = Twips("MainLeft", 1000);
 inline constexpr LongSetting kMainTop = Twips("MainTop", 1000);
 inline constexpr PlaceSetting kQsoPlace{Twips("QSOLeft", 0), Twips("QSOTop", 0), Twips("QSOWidth", 1000), Twips("QSOHeight", 3000)};
@@ -106,11 +107,11 @@ inline constexpr ShortSetting kSpeed{kCw, "WPM", "WPM", 20, Written::WhenConfirm
 inline constexpr ShortSetting kTone{kCw, "Tone", "Tone", 800, Written::WhenConfirmed};
 inline constexpr LongSetting kVolume{kCw, "Volume", "Volume", 10000, Written::WhenConfirmed};
 inline constexpr ShortSetting kFarnsworth{kCw, "Farnsworth", "Farnsworth", 0, Written::WhenConfirmed};
-/// "001": serial numbers with zeros; otherwise with T.
+/// "001" sends serial numbers with their zeros, "--1" with a T for each leading zero.
 inline constexpr TextSetting kNumberFormat{kCw, "N", "N", "001", Written::WhenConfirmed};
-/// "599": reports in figures; otherwise with N.
+/// "599" sends the report 599 in figures, "5nn" in its short form. The key "T" is the report, not a text or a time.
 inline constexpr TextSetting kReportFormat{kCw, "T", "T", "599", Written::WhenConfirmed};
-/// The texts of the keys. The window of the keyer's settings has a set of texts of its own to offer, which knows two more.
+/// The texts of the function keys. The window of the keyer's settings offers its own set of default texts, which has two more.
 inline constexpr std::array<TextSetting, 8> kKeyerTexts{{
     {kCw, "Tekst1", "Tekst1", "CQ TEST DE #R #R TEST K", Written::WhenConfirmed},
     {kCw, "Tekst2", "Tekst2", "CL?", Written::WhenConfirmed},
@@ -122,7 +123,7 @@ inline constexpr std::array<TextSetting, 8> kKeyerTexts{{
     {kCw, "Tekst8", "Tekst8", "", Written::WhenConfirmed},
 }};
 
-// The equipment, in the order of kEquipmentBands.
+// The equipment; rows in the order of kEquipmentBands.
 
 inline constexpr std::array<TextSetting, 5> kRigs{{
     {kEquipment, "Rig80", "Rig80", "", Written::WhenConfirmed},

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The values of the program that have a name outside it: operators' notes speak of them, and scenarios look at them.
+// The program's values that are known by name outside the source: operators' notes mention them, and scenarios check them.
 #pragma once
 
 #include <cstdint>
@@ -11,10 +11,10 @@
 
 namespace vatro {
 
-/// A text of the code page, a flag or a number.
+/// A text in the program's code page, a flag or a number.
 using ShownValue = std::variant<std::string, bool, std::int32_t>;
 
-/// The value of this name, as it is now; nothing if there is none.
+/// The current value with this name; nothing if there is none.
 std::optional<ShownValue> FindShownValue(std::string_view name);
 
 }  // namespace vatro

@@ -35,12 +35,12 @@ void ReadSettings() {
     desk().gbVisInfo = ReadSetting(setting::kShowInfo);
 }
 
-/// As far as it can be done.
+/// Runs a step and ignores its failure.
 void Try(const std::function<void()>& step) noexcept {
     try {
         step();
     } catch (const std::exception&) {
-        // Nobody is left who could be told.
+        // The program is ending, so there is nobody to tell.
     }
 }
 
@@ -61,7 +61,7 @@ void StoreRunningProgram() noexcept {
     auto* main = static_cast<FrmMain*>(frmMain.Peek());
     if (main == nullptr || !main->up) return;
     const SettingsBatch together(platform().settings);
-    // Not while another handler has its file open.
+    // The operators are left out while another handler has file 1 open.
     Try([main] { GemOperatører(main->operatorBox); });
     const std::vector<Form*>& forms = LoadedForms();
     for (auto form = forms.rbegin(); form != forms.rend(); ++form)
@@ -76,7 +76,7 @@ void StartProgram() {
     HentCWIndstillinger();
     HentUdstyr();
 
-    // Before any table is loaded: two copies would write the same log.
+    // This comes before any table is loaded: two running copies would write the same log.
     if (platform().instance.AnotherCopyRuns()) {
         ShowAlreadyRunning();
         EndProgram();
@@ -87,7 +87,8 @@ void StartProgram() {
 
     if (desk().gsFDLib.empty()) {
         desk().gsFDLib = platform().files.CurrentDirectory();
-        // Another key than the one read above, which gets the value at a regular end: both are meant.
+        // Written under another key than the one read above, which gets the value at a regular end. Keep both: settings of earlier
+        // versions have them (docs/rules.md).
         StoreSetting(setting::kFirstTablesDirectory, desk().gsFDLib);
     }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// What the windows of the program share: one object, made anew at each start. A form that needs more than its own controls reads and
-// writes it here, so that this page tells who owns what. The names are those under which the operators' notes, the settings and the
-// scenarios know the values.
+// The state that the windows of the program share: one object, made anew at each start. A form that needs more than its own controls
+// reads and writes it here, so that this header tells who owns what. The Danish names are those by which operators' notes, settings
+// and scenarios know the values.
 #pragma once
 
 #include <array>
@@ -18,11 +18,11 @@
 
 namespace vatro {
 
-/// Bands of the equipment, in the order of its form and of the settings.
+/// The bands of the equipment, in the order of its form and of the settings.
 inline constexpr std::array<std::string_view, 5> kEquipmentBands{"80", "40", "20", "15", "10"};
 
 struct DeskState {
-    // The station, as the settings tell it.
+    // The station, from the settings.
 
     /// The program's own data directory, without a final separator: lande.txt, refpfx.txt, edr.txt, operator.txt, cty.dat.
     /// Set by the start procedure only.
@@ -33,12 +33,12 @@ struct DeskState {
     std::string gsKlasse;
     /// Telephone number for the summary. Changed by the dialogue of the contest call.
     std::string gsTelefon;
-    /// A whole number of hours as text, -11 to 12: what is added to local time to get universal time. Changed by the
-    /// dialogue of the offset.
+    /// Offset from local to universal time, not a time: a whole number of hours as text, -11 to 12. Changed by the dialogue of the
+    /// offset.
     std::string gsUTC;
     /// Whether the start information is shown at the next start.
     bool gbVisInfo = false;
-    /// Radio and antenna of each band, by its place in kEquipmentBands. Changed by FormRigAnt.
+    /// Radio and antenna of each band, indexed as kEquipmentBands. Changed by FormRigAnt.
     std::array<std::string, kEquipmentBands.size()> rigs;
     std::array<std::string, kEquipmentBands.size()> antennas;
 
@@ -57,12 +57,13 @@ struct DeskState {
 
     // The desk.
 
-    /// The operator at the key: written in every line.
+    /// The present operator; written in every line.
     FixedText<6> gsOperatør;
-    /// Automatic time, 1 on, 0 off. Not the same as the running clock: that one stands still while the time field is edited.
+    /// Automatic time: 1 on, 0 off. It does not tell whether the clock is running: the clock stands still while the time field is
+    /// edited.
     std::int16_t gbAutoTid = 0;
-    /// Whether the country is shown while a call is typed; the menu changes it. Also a condition of the rule of the unknown
-    /// prefix: switched off, such a contact keeps its points and is not written to ukendt.txt.
+    /// Whether the country is shown while a call is typed; changed by the menu. It also decides whether an unknown prefix counts 0
+    /// points: switched off, such a contact keeps its points and is not written to ukendt.txt.
     bool gbVisLand = false;
 
     /// The keyer, its settings and its texts.
@@ -74,32 +75,32 @@ struct DeskState {
     CountryTables tables;
     WorkedCountries countries{tables};
     Stations stations;
-    /// Countries marked as worked.
+    /// Number of countries marked as worked.
     std::int16_t giMult = 0;
 
-    // What the last look at a contact has left behind. Each has a meaning only until the next look.
+    // Results of the last lookup of a contact. They are valid only until the next lookup.
 
-    /// The call being entered, corrected, imported or checked, reduced to the base call.
+    /// The call that is being entered, corrected, imported or checked, reduced to the base call.
     std::string gsCall;
-    /// The contact of gsCall is a duplicate.
+    /// Whether the contact of gsCall is a duplicate.
     bool gbDupe = false;
-    /// The last search for a duplicate in the log, for the next one (NoteDuplicate).
+    /// The last search for a duplicate, remembered so that NoteDuplicate need not repeat it.
     struct DuplicateSearch {
         bool made = false;
         std::string call;
-        /// Of the log.
+        /// Revision of the log at that search.
         unsigned revision = 0;
         bool found = false;
     };
     DuplicateSearch lastSearch;
-    /// Points of the contact being built; every lookup that decides points writes it (tables/worked.h).
+    /// Points of the contact being built; set by every lookup that decides points (tables/worked.h).
     std::int32_t giQSOPoint = 0;
 };
 
 /// The state of this run.
 DeskState& desk();
 
-/// Everything as it is before the first start; a run begins with nothing of an earlier one.
+/// Resets everything to the state before the first start.
 void ResetDesk();
 
 }  // namespace vatro

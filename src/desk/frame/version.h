@@ -5,7 +5,7 @@
 
 namespace vatro {
 
-/// Major, minor and revision of the program, joined by ".".
+/// The version of the program: major, minor and revision, joined by ".".
 std::string VersionText();
 
 }  // namespace vatro

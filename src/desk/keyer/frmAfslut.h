@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Shown for the moment that it takes to give back the sound card.
+// The window shown while the sound card is being released.
 #pragma once
 
 #include "codepage.h"

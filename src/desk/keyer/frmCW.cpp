@@ -19,10 +19,11 @@ namespace vatro {
 
 namespace {
 
-// The 4 stands twice and out of order; the set is what counts.
+// The 4 occurs twice, the first time out of order; only the set of characters matters.
 constexpr std::string_view kTextCharacters = " ABCDEFGHIJKLMNOPQRSTUVWXYZÆØÅ12434567890/#?,.-:()="_t;
 
-/// Two more than a first start has: whoever asks for the defaults gets the full set, a new station only what every contact needs.
+/// The default texts, offered by a button. They are two more than those of a first start: a new station gets only the texts that
+/// every contact needs.
 constexpr std::array<std::string_view, kCwTextCount> kDefaultTexts{"CQ TEST DE #R #R TEST K", "CL?",   "#R",
                                                                    "#C UR #T #N BK",          "TU #R", "#C?"};
 
@@ -107,14 +108,14 @@ void FrmCW::cmdOK_Click() {
         cw.giCWWPM = ToInt16(wpm);
         cw.giCWTone = ToInt16(tone);
         cw.glCWVolume = volume.Value();
-        // Without one the first send makes it.
+        // If there is no buffer yet, the first send makes it.
         if (frmCWTX.Loaded() && frmCWTX->CWBuffer) frmCWTX->DanLydBuffer();
     }
     cw.gsCWRSTFormat = reportOptions[0].Value() ? kReportInFigures : kReportWithN;
     cw.gsCWNummerFormat = numberOptions[0].Value() ? kNumberWithZeros : kNumberWithT;
 
     GemCWIndstillinger();
-    // Nothing here has changed the equipment; it is stored with every OK all the same.
+    // The equipment cannot be changed here, but it is stored with every OK all the same.
     GemUdstyr();
     SetCwMenuTekster();
     Unload();

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The settings of the keyer and the eight texts, shown modally. OK takes everything over, makes new pieces if the sound has
-// changed, and stores it; Annuller keeps nothing.
+// The dialogue of the keyer's settings and the eight texts. OK applies and stores everything, and makes new pieces if the sound has
+// changed; Annuller (Cancel) changes nothing. The names of two controls mislead: UpDown2 are the arrows of the first field (speed),
+// UpDown1 those of the second (pitch).
 #pragma once
 
 #include "forms.h"
@@ -16,7 +17,7 @@ public:
     Label textLabels[kCwTextCount];
     TextBox texts[kCwTextCount];
     Frame codesFrame;
-    /// What the #-codes stand for.
+    /// The labels that explain the #-codes.
     Label codeLabels[4];
     Frame soundFrame;
     Label speedLabel;
@@ -39,7 +40,7 @@ public:
 
 private:
     void cmdReset_Click();
-    /// A speed or pitch beyond 16 bits fails with 6; what DanLydBuffer fails with is not caught either.
+    /// Fails with 6 if speed or pitch exceeds 16 bits; failures of DanLydBuffer are not caught either.
     void cmdOK_Click();
 };
 

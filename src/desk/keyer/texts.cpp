@@ -11,10 +11,10 @@ namespace vatro {
 
 namespace {
 
-/// One column more than the call has, which only a note can fill.
+/// The call field and one more column, which only a note can fill.
 constexpr Field kCallAndNext{kCall.from, kCall.width + 1};
 
-/// With an empty field and an empty log the values stay those of the last send.
+/// Sets the values of the contact for a send. If the call field and the log are both empty, the values of the last send are kept.
 void TakeValues(const FrmMain& main) {
     KeyerState& cw = desk().cw;
     if (!main.fields[kCallField].Text().empty()) {

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
 //
-// From a function key to Morse: the text of the key, the values of the contact for its #-codes, the send.
+// Sends the text of a function key as Morse, with the values of a contact for its #-codes.
 //
-// The values are those of the contact in the entry fields; with an empty call field those of the last line of the log, so that
-// the texts still address the station just worked.
+// The values come from the entry fields; if the call field is empty, from the last line of the log, so that the texts still address
+// the station just worked.
 #pragma once
 
 #include <string_view>
 
 namespace vatro {
 
-/// Sends the text, #-codes and all, in the window frmCWTX. The text of a send that is going on is replaced where it stands.
-/// Without a sound card: nothing, after the message of the first send.
+/// Sends a text, whose #-codes are replaced, in the window frmCWTX. If another text is being sent, this one continues at the
+/// character where it stood. Without a sound card the first send shows a message, and later sends do nothing.
 void SendCW(std::string_view text);
 
-/// The eight texts into the menu, as they are.
+/// Writes the eight texts into the menu, with their #-codes.
 void SetCwMenuTekster();
 
 }  // namespace vatro

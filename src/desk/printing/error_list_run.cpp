@@ -15,8 +15,8 @@ namespace vatro {
 
 namespace {
 
-/// The check by the tables of the desk. When it goes, also by a failure, the desk's state becomes what the last contact checked has
-/// left behind.
+/// The error list with the tables of the desk. Its destructor, which also runs after a failure, copies the values left by the last
+/// contact checked into the desk's state.
 class ErrorListOfDesk : public ErrorList {
 public:
     ErrorListOfDesk() : ErrorList(desk().tables, desk().stations) {}

@@ -14,7 +14,7 @@ namespace vatro {
 
 namespace {
 
-/// The log, or nothing if it cannot be opened.
+/// Opens the log; nothing if it cannot be opened.
 std::optional<FileLines> TryToOpen(const LogId& log) {
     try {
         return OpenLog(log);
@@ -67,7 +67,7 @@ void DanAdif(LineSink& file, const LogId& log) {
     try {
         DanAdifKrop(*lines, file, log);
     } catch (const RunTimeError&) {
-        // The next contact needs the number.
+        // Closed because logging the next contact needs the file number.
         CloseLog();
         throw;
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The logs for others: all of them on a web page, and all of them in one file for other logging programs. Both lie in the log
-// directory and are named after the year in which they are made.
+// Exports all logs: to a web page, and to one ADIF file for other logging programs. Both are written to the log directory and named
+// after the year in which they are made.
 #pragma once
 
 #include "log/ten_logs.h"
@@ -10,15 +10,16 @@ namespace vatro {
 
 class LineSink;
 
-/// Makes the web page. Fails if the file cannot be created or written, or a log not be read.
+/// Makes the web page. Fails if the file cannot be created or written, or if a log cannot be read.
 void MakeHtmlPage();
-/// The section of one log. Without its file it is empty, and the links still find it.
+/// Writes the section of one log. If the log has no file, the section is empty, so that the links still work.
 void DanHtm(LineSink& page, const LogId& log);
 
-/// Makes the ADIF file. A log directory that has gone is told, and the program goes on, whatever the box says of its end; any
-/// other failure ends the export in silence. Either way the steps left over are skipped, also the closing of the file.
+/// Makes the ADIF file. If the log directory has gone, shows the message about it, and the program goes on although the message says
+/// that it stops. Any other failure ends the export without a message. In both cases the remaining steps are skipped, including the
+/// closing of the file.
 void ExportAdif();
-/// The records of one log; a log that cannot be opened has none.
+/// Writes the records of one log; none if it cannot be opened.
 void DanAdif(LineSink& file, const LogId& log);
 
 }  // namespace vatro

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The small window in which every report shows its progress. It stays open after a run until the user closes it.
+// The small window in which every paper shows its progress. It stays open after a run until the user closes it.
 #pragma once
 
 #include "forms.h"

@@ -11,7 +11,7 @@ namespace vatro {
 
 namespace {
 
-/// Papers count the bands from 10 m to 80 m, the settings the other way round.
+/// Papers list the bands from 10 m to 80 m, the settings from 80 m to 10 m.
 std::array<Equipment, kBandCount> CurrentEquipment() {
     static_assert(kEquipmentBands.size() == kBandCount);
     std::array<Equipment, kBandCount> equipment;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Where the papers of the menu come from and go to: the log files under number 1, the paper under number 2, both in the log
-// directory, and what the settings and the clock say now.
+// The files of the papers that the menu makes: log files are read under number 1, papers are written under number 2, both in the log
+// directory. Also collects the current settings and time for them.
 #pragma once
 
 #include <optional>
@@ -14,31 +14,31 @@
 
 namespace vatro {
 
-/// File numbers: of the log being read, and of the paper being written.
+/// The file number of the log being read, and of the paper being written.
 inline constexpr int kLogFile = 1;
 inline constexpr int kPaperFile = 2;
 
-/// What a paper made now tells of the station.
+/// Returns the data of the station for a paper made now.
 PaperContext CurrentPaperContext();
 /// Counts the log files for a summary made now.
 Tally CurrentTally();
 
 /// Opens a log for reading. Fails as Files::Open does.
 FileLines OpenLog(const LogId& log);
-/// Opens a file of the log directory for reading, under the number of the logs.
+/// Opens a file of the log directory for reading, under the number of the logs. Fails as Files::Open does.
 FileLines OpenInLogLibrary(std::string_view name);
-/// Opens a file of the log directory for a paper, which replaces it. Fails as Files::Open does.
+/// Opens a paper in the log directory for writing and replaces an earlier one. Fails as Files::Open does.
 FileSink OpenPaper(std::string_view name);
 
 void CloseLog();
 void ClosePaper();
 
-/// The log files, for papers that count all of them.
+/// Opens the log files for papers that count all of them.
 ///
-/// A log that is not closed stays open on purpose, also when this object goes: its number is then in use, so that every log
-/// after it counts nothing, and the next load of the log at the entry desk finds nothing either. After a disk failure in the
-/// middle of a log the operator so sees at once that something is wrong; with the file closed, the paper would go in with half
-/// a log in it.
+/// A log that is not closed deliberately stays open, even when this object is destroyed. Its number is then in use, so every later
+/// log counts nothing, and the next load of the log at the entry desk finds nothing either. That way the operator notices a disk
+/// failure in the middle of a log at once. If the file were closed, the station would send in a paper with half a log without
+/// noticing.
 class LogFiles : public LogReader {
 public:
     LineSource& Open(const LogId& log) override { return source_.emplace(OpenLog(log)); }

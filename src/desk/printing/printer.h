@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The papers on the printer. What the menu "Udskriv log" prints.
+// Prints the papers of the menu "Udskriv log".
 //
-// Every routine prints on the surface that the menu's handler hands it, and ends with a footer at the very bottom of the page,
-// so that what is printed next begins a new page by itself. The handler ends the job.
+// Every function prints on the surface that the menu's handler passes to it and ends with a footer on the last line of the page, so
+// the next paper begins a new page by itself. The handler ends the print job.
 #pragma once
 
 #include <functional>
@@ -17,19 +17,20 @@ class PageSurface;
 /// Asks for the printer and its paper; Cancel changes nothing.
 void ChoosePrinter();
 
-/// One print job: runs `paper` on the printer and ends the job.
+/// Runs one print job: calls `paper` with the printer's surface and then ends the job.
 void RunPrintJob(const std::function<void(PageSurface&)>& paper);
 
-/// Prints a log. One that cannot be opened prints nothing and takes no page; one that fails on the way ends there, without a word.
+/// Prints a log. A log that cannot be opened prints nothing and uses no page. A failure on the way ends the log there without a
+/// message.
 void PrintLog(PageSurface& surface, const LogId& log);
 
-/// Prints the multiplier check sheet. Fails with 9 on more than a hundred multipliers of one log.
+/// Prints the multiplier check sheet. Fails with 9 if one log has more than a hundred multipliers.
 void PrintMultCheck(PageSurface& surface);
 
-/// Prints the summary. Fails with 6 if a product is over 32 bits.
+/// Prints the summary. Fails with 6 if a product overflows 32 bits.
 void PrintSummary(PageSurface& surface);
 
-/// Prints the contacts of unknown prefix. Any failure is told as if there were none.
+/// Prints the contacts with unknown prefixes. On any failure says that there are none.
 void PrintUkendt(PageSurface& surface);
 
 /// Prints all logs, the check sheet and the summary.

@@ -21,7 +21,7 @@ void Danlog(const LogId& log) {
     AddProgress(BandAndMode(log.band, log.mode));
     const PaperContext context = CurrentPaperContext();
     try {
-        // The log first: without one an earlier sheet stays as it is.
+        // The log is opened first, so that without one an earlier sheet is kept.
         FileLines lines = OpenLog(log);
         FileSink sheet = OpenPaper(LogSheetName(log));
         DanHoved(sheet, context, log.band, log.mode);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The page surface as printed papers see it.
+// Prints papers on a page surface.
 #pragma once
 
 #include "page.h"
@@ -8,7 +8,7 @@
 
 namespace vatro {
 
-/// Prints on a surface, whose font keeps what is set here.
+/// The pages of papers on a surface. Fonts set here stay set on the surface.
 class SurfacePages : public PageSink {
 public:
     explicit SurfacePages(PageSurface& surface) : surface_(surface) {}

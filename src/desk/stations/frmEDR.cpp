@@ -18,7 +18,7 @@ namespace {
 constexpr int kButtonHeight = 495;
 constexpr int kColumns = 4;
 constexpr int kTwipsPerPoint = 20;
-/// Only a measure of one column: seven characters of a wide call.
+/// Used only to measure the width of a column: seven characters of a wide call.
 constexpr std::string_view kWideCall = "QQ9MMM ";
 
 const Font kWindowFont{"MS Sans Serif", 8.25};

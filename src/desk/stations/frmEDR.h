@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The society's stations worked, or not worked, in the current log: a snapshot beside the entry.
+// The window of the society's stations worked, or not worked, in the current log. It does not follow the log: it shows the state when
+// it was opened.
 #pragma once
 
 #include "forms.h"
@@ -20,8 +21,8 @@ public:
 
 inline FormSlot<FrmEDR> frmEDR{"frmEDR"};
 
-/// Fills and shows the window. Every station keeps its place, so that the lists of worked and of not worked stations can be
-/// laid over each other: one that does not belong is a row of underscores.
+/// Fills and shows the window with the worked or the not worked stations. Every station has the same position in both lists, so that
+/// they can be compared; a station that does not belong to the list is shown as a row of underscores.
 void VisEDRstns(bool worked);
 
 }  // namespace vatro

@@ -10,7 +10,7 @@ namespace vatro {
 namespace {
 
 constexpr int kMinute = 60000;
-/// Pictures of the bar on its way from one end to the other.
+/// Number of times the bar is painted from one end to the other.
 constexpr int kRepaints = 100;
 
 }  // namespace
@@ -31,8 +31,8 @@ void FrmCtyDat::Form_Load() {
 
 void FrmCtyDat::ShowClock() {
     if (minuteTimer.Interval() != kMinute) minuteTimer.SetInterval(kMinute);
-    // The date and the time that the panels show are never set: the day from which dates are counted, and no time. That is
-    // meant so.
+    // The panels for date and time show fixed values, the day from which dates are counted and no time, since nothing ever sets them.
+    // Keep them: operators know the window as it is.
     statusBar.SetPanel(2, "30.12.1899");
     statusBar.SetPanel(3, "");
 }

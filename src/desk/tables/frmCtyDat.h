@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The progress of the import of a country file, shown over the disabled entry form.
+// The progress window of the import of a country file, shown over the disabled entry form.
 #pragma once
 
 #include <string_view>
@@ -13,17 +13,17 @@ class FrmCtyDat : public Form {
 public:
     FrmCtyDat();
     ProgressBar progress;
-    /// What is being done; the two others are those of a clock that shows no time.
+    /// Shows the current stage; the other two panels belong to a clock that shows no time.
     StatusBar statusBar;
     Timer minuteTimer;
 
     void Form_Load() override;
 
-    /// Tells what is being done, at once.
+    /// Shows the current stage at once.
     void ShowStage(std::string_view stage);
-    /// Empties the bar; it fills with so many rows.
+    /// Empties the bar; it is full at `rows` rows.
     void Begin(int rows);
-    /// Moves the bar to a row. It is painted some hundred times in a run and not for every row.
+    /// Moves the bar to a row. The bar is painted about a hundred times in a run, not for every row.
     void Advance(int row) {
         progress.SetValue(row);
         if (row >= nextPaint_) PaintBar(row);

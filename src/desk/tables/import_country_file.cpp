@@ -36,7 +36,7 @@ void ShowOverflow(int count) {
     MsgBox(message);
 }
 
-/// Writes rows 1 to `count` of a table to its file.
+/// Writes rows 1 to `count` of a table to its file, each as the text that `line` returns.
 template <class MakeLine>
 void WriteTable(FrmCtyDat& form, std::string_view name, std::string_view stage, int count, MakeLine line) {
     Files& files = platform().files;

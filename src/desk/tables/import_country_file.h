@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 //
-// The import of a country file as the operator sees it: cty.dat in gsFDLib becomes the tables and their files lande.txt and refpfx.txt.
+// The import of a country file, with its questions and progress: turns cty.dat in gsFDLib into the tables and their files lande.txt
+// and refpfx.txt.
 //
-// Nothing is caught: a country file that is missing, damaged or too large stops the program, the old files intact.
+// Failures are not caught: a missing, damaged or too large country file stops the program; the old table files are then unchanged.
 #pragma once
 
 namespace vatro {
 
-/// Imports the file, with the progress shown in frmCtyDat, which is loaded. The worked marks stay with the rows they stood in. Fails with
-/// 53 without cty.dat, and as CountryImport::Read does.
+/// Imports the file and shows the progress in frmCtyDat, which is loaded if it is not yet. The worked marks stay with their row
+/// numbers. Fails with 53 if there is no cty.dat, and as CountryImport::Read does.
 void ImporterCty();
 
-/// The menu entry: asks, imports, and loads the log anew, so that the worked marks fit the tables; the latter after a No, too.
+/// The click of the menu entry: asks, imports, and loads the log again so that the worked marks fit the tables. The log is loaded
+/// again even after the answer No.
 void ImportCtyFromMenu();
 
 }  // namespace vatro

@@ -18,12 +18,12 @@ namespace {
 
 struct TableFile {
     std::string_view file;
-    /// As the message spells it.
+    /// The file name as the message spells it.
     std::string_view name;
     std::string_view stage;
 };
 
-/// Reads every line of a data file. A failure of the file or of a line is told by the file's name.
+/// Reads every line of a data file. If the file or a line fails, a message names the file.
 void LoadTable(const TableFile& table, void (CountryTables::*begin)(), void (CountryTables::*read)(std::string_view)) {
     Files& files = platform().files;
     try {

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 //
-// The tables of the program, loaded behind the splash window at the start. Whatever goes wrong with one of them is told in a box, and
-// the program goes on with what was read.
+// Loads the tables of the program behind the splash window at the start. Any failure is shown in a box, and the program continues
+// with the rows read so far.
 #pragma once
 
 namespace vatro {
 
-/// Fills the countries from lande.txt in gsFDLib.
+/// Loads the countries from lande.txt in gsFDLib.
 void IndlæsLande();
-/// Fills the prefixes from refpfx.txt.
+/// Loads the prefixes from refpfx.txt in gsFDLib.
 void IndlæsRefPfx();
 
-/// Fills the society's stations from edr.txt. After a line beyond the table the file stays open under number 1, so that the first log
-/// load of the run finds nothing: a list that is too long is a fault that the operators are to see at once.
+/// Loads the society's stations from edr.txt in gsFDLib. If the file has more lines than the table has rows, it stays open under
+/// number 1, so the first load of a log in this run finds nothing. Keep this: operators notice at once that the list is too long.
 void IndlæsEDR();
 
 }  // namespace vatro

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the program does about an unknown prefix: ukendt.txt, in which contacts of unknown prefix are collected for later
-// care. The file is only ever appended to:
+// Handling of unknown prefixes. Contacts with an unknown prefix are collected in ukendt.txt, to be looked into later. Lines are only
+// ever appended to the file:
 //
 //    1-3   band
 //    4-8   " CW  " or " SSB "
@@ -12,11 +12,11 @@
 
 namespace vatro {
 
-/// Appends a contact line to ukendt.txt in the log directory. A failure to write ends the program after the message of
-/// the log directory that has gone, as it does for the log.
+/// Appends a contact line to ukendt.txt in the log directory. If it cannot be written, shows the message that the log directory has
+/// gone and ends the program, as for the log itself.
 void GemUkendt(std::string_view line);
 
-/// Shows the country of the call being entered, or of the last line of the log, even if the display is switched off.
+/// Shows the country of the call being entered, or else of the last line of the log, even if the display of countries is off.
 void ShowCountryNow();
 
 }  // namespace vatro

@@ -29,8 +29,8 @@ CountryStatus ShownCountry(std::string_view call) {
 }
 
 void NoteDuplicate() {
-    // A call is sought when its field is left and again at Enter: the second time the answer is still good, unless the log
-    // has become another one.
+    // A call is searched for when its field is left and again at Enter. The second time the earlier result is still valid unless the
+    // log has changed.
     DeskState::DuplicateSearch& last = desk().lastSearch;
     const Log& log = desk().log;
     if (last.revision != log.Revision() || last.call != desk().gsCall || !last.made)

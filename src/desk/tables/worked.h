@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// Lookups of country, station and points for the contact at hand. Each asks the rules and writes down in the desk's state what came
-// of it: giMult counts the marked countries, giQSOPoint keeps the points decided last, in the order in which they were decided.
+// Lookups of country, station and points for the current contact. Each asks the rules and stores the result in the desk's state:
+// giMult counts the marked countries, giQSOPoint holds the points of the last lookup that decided points.
 //
-// That order is part of what the operators see: a lookup that decides nothing leaves the points of the one before.
+// The order of the lookups therefore matters, and operators see its effect: a lookup that does not decide points leaves those of the
+// lookup before.
 #pragma once
 
 #include <string>
@@ -13,24 +14,26 @@
 
 namespace vatro {
 
-/// Looks the country of a call up in the current log. Gives its ten-character prefix if the action took effect - with Mark and Test: the
-/// contact is a new multiplier - and nothing otherwise. Mark and Unmark keep giMult in step. A country outside Europe sets
-/// giQSOPoint to 6, whatever the action. Fails as WorkedCountries::LandWkd does.
+/// Looks up the country of a call and applies the action to its mark in the current log. Returns its ten-character prefix if the
+/// action took effect (with Mark and Test: the contact is a new multiplier), otherwise an empty text. Mark and Unmark keep giMult up
+/// to date. A country outside Europe sets giQSOPoint to 6, whatever the action. Fails as WorkedCountries::LandWkd does.
 std::string NoteCountry(std::string_view call, MarkAction action);
 
-/// Looks a station of the society up by the first six characters of the call; one that is found sets giQSOPoint to 10.
+/// Looks up a station of the society by the first six characters of the call and applies the action to its mark. If it is found, sets
+/// giQSOPoint to 10.
 void NoteStation(std::string_view call, MarkAction action);
 
 /// Sets giQSOPoint to the points of a call; see BeregnPoint.
 void NotePoints(std::string_view call);
 
-/// The country of a call as the status bar shows it: nothing, and not unknown, while gbVisLand is off.
+/// Returns the country of a call as the status bar shows it. While gbVisLand is off the text is empty and the country does not count
+/// as unknown.
 CountryStatus ShownCountry(std::string_view call);
 
-/// Sets gbDupe: whether gsCall stands in the current log.
+/// Sets gbDupe: whether gsCall is in the current log already.
 void NoteDuplicate();
 
-/// Nothing is worked: no marks, giMult at 0.
+/// Clears all worked marks and sets giMult to 0.
 void ClearWorked();
 
 }  // namespace vatro

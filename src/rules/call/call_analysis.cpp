@@ -9,7 +9,7 @@ namespace vatro {
 
 namespace {
 
-/// The last two characters of a call are looked for in here as a substring.
+/// A call ends in a numbered suffix if its last two characters occur in this text. The pair "1/" occurs too; see MoveDigitSuffix.
 constexpr std::string_view kDigitSuffixes = "/1/2/3/4/5/6/7/8/9/0";
 constexpr std::string_view kDigits = "1234567890";
 
@@ -21,7 +21,7 @@ bool HasDigitSuffix(std::string_view call) {
     return call.size() >= 2 && kDigitSuffixes.find(Right(call, 2)) != std::string_view::npos;
 }
 
-/// One pass over the endings, each test on what the tests before it have left.
+/// Removes the endings in one pass: each is tested against what the earlier tests have left.
 std::string_view WithoutEndings(std::string_view call, std::initializer_list<std::string_view> endings) {
     for (const std::string_view ending : endings)
         if (call.ends_with(ending)) call.remove_suffix(ending.size());
@@ -34,12 +34,13 @@ std::string_view StrippedOnce(std::string_view call) {
     return WithoutEndings(call, {"/P", "/M", "/A", "/MM", "/AM", "/QRP", "/QRPP"});
 }
 
-/// Other endings than those of the base call, on purpose: no "/AM", and a numbered suffix counts only at the very end.
+/// Deliberately removes other endings than those of the base call: "/AM" stays, and a numbered suffix counts only at the very end.
+/// Tidying this would change countries in logs that were sent in (docs/rules.md).
 std::string_view WithoutPortableOnce(std::string_view call) {
     return WithoutEndings(call, {"/P", "/M", "/A", "/MM", "/QRP", "/QRPP", "/"});
 }
 
-/// What is left when nothing more can be cut off.
+/// Repeats the pass until nothing more can be removed.
 template <class Pass>
 std::string_view UntilNothingGoes(std::string_view call, Pass pass) {
     for (std::string_view shorter = pass(call); shorter.size() != call.size(); shorter = pass(call)) call = shorter;
@@ -53,7 +54,7 @@ std::string StripCall(std::string_view call) {
     const std::string_view base = UntilNothingGoes(call, StrippedOnce);
     const std::size_t slash = base.find('/');
     if (slash == std::string_view::npos) return std::string(base);
-    // The longer side is the base call; the text behind the slash wins where neither is.
+    // The longer side is the base call; if both are equally long, the text behind the slash.
     const std::size_t half = (base.size() + 1) / 2;
     return std::string(half >= slash + 1 ? base.substr(slash + 1) : base.substr(0, slash));
 }
@@ -65,11 +66,11 @@ std::string findPfxCall(std::string_view call) {
     const std::size_t slash = text.find('/');
     if (slash == std::string_view::npos) return std::string(text);
     if (const std::size_t second = text.find('/', slash + 1); second != std::string_view::npos) {
-        // Three pieces: the middle one goes, and whatever stands behind a third slash.
+        // With two slashes the middle part is dropped, and so is everything from a third slash on.
         const std::size_t third = text.find('/', second + 1);
         return std::string(text.substr(0, slash)).append(text.substr(second, third == std::string_view::npos ? third : third - second));
     }
-    // The shorter side carries the country's prefix; the text before the slash wins where neither is.
+    // The shorter side carries the country's prefix; if both are equally long, the text before the slash.
     const bool secondShorter = static_cast<double>(text.size() + 1) / 2 < static_cast<double>(slash + 1);
     return std::string(secondShorter ? text.substr(slash + 1) : text.substr(0, slash));
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What is right in the single fields of a contact. A check gives nothing for a good field; otherwise what is to be said of it to the
-// operator, who may confirm some oddities and must mend the rest.
+// The checks of the single fields of a contact. A check returns nothing for a good field, otherwise the message or question for the
+// operator, who may confirm some oddities and must correct the other faults.
 #pragma once
 
 #include <optional>
@@ -10,39 +10,43 @@
 
 namespace vatro {
 
-/// What a check has against a field.
+/// The message or question about a faulty field.
 struct Objection {
     std::string_view text;
-    /// Of a question.
+    /// The title of the box; set for questions only.
     std::string_view title = {};
-    /// The operator may confirm that the field is meant as it stands; No is the answer of a tired finger.
+    /// Whether the text is a question, which the operator answers with Yes to keep the field as it is. No is the default button, so
+    /// that an accidental key press keeps nothing.
     bool isQuestion = false;
 };
 
-/// The operator's call must not be blank.
+/// Checks the operator's call: it must not be blank.
 std::optional<Objection> CheckOperator(std::string_view operatorCall);
 
-/// A time of five characters with ":" in the middle, whatever stands there; nothing for another length.
+/// Puts ":" in the middle of a time of five characters, replacing whatever is there; nothing for any other length.
 std::optional<std::string> WithColon(std::string_view time);
-/// "Hh:Nn" of a time of day as WithColon gives it; nothing if it is none.
+/// Returns "Hh:Nn" for a text from WithColon that is a time of day; nothing if it is not.
 std::optional<std::string> CheckTime(std::string_view time);
 
-/// Whether a call has both figures and letters. Letters go by character code, so that Æ and Ø, which lie above Å, are none.
+/// Whether a call has both figures and letters. Letters are tested by character code; Æ and Ø, whose codes lie above that of Å, do
+/// not count as letters.
 bool HasDigitsAndLetters(std::string_view call);
 
-/// The base call: three characters, figures and letters; a nought as first character must be confirmed.
+/// Checks a base call: it must have at least three characters, with figures and letters among them. A nought as first character must
+/// be confirmed.
 std::optional<Objection> CheckCall(std::string_view call);
 
-/// A report: as many figures as the log mode has, 1-5, 1-9 and in CW 1-9. The messages say "Modtaget" for both reports.
+/// Checks a report: as many figures as the log mode asks for, the first 1-5, the second 1-9, and in CW a third, 1-9. The messages say
+/// "Modtaget" (received) for both reports.
 std::optional<Objection> CheckReport(std::string_view report, std::string_view logMode);
 
-/// The number sent must be numeric.
+/// Checks the number sent: it must be numeric.
 std::optional<Objection> CheckNumberSent(std::string_view number);
 
-/// A number received that is nought, or missing, must be confirmed; it then becomes "0000".
+/// Checks whether the number received is missing or nought. That must be confirmed; the caller then makes it "0000".
 std::optional<Objection> CheckZeroNumber(std::string_view number);
 inline constexpr std::string_view kZeroNumber = "0000";
-/// It must be numeric.
+/// Checks the number received: it must be numeric.
 std::optional<Objection> CheckNumberReceived(std::string_view number);
 
 }  // namespace vatro

@@ -11,19 +11,20 @@ namespace vatro {
 
 namespace {
 
-/// Where the character stands, from the offset `from` on; it must stand somewhere.
+/// The position of the character, searched from the offset `from` on. Fails with 5 if it is not found.
 std::size_t Find(std::string_view text, char character, std::size_t from = 0) {
     const std::size_t place = text.find(character, from);
     if (place == std::string_view::npos) throw RunTimeError(Failure::InvalidCall);
     return place;
 }
 
-/// From the column up to the first ":" at or after the next column.
+/// The text from the column up to the first ":" at or after the next column.
 std::string_view UpToColon(std::string_view line, std::size_t column) {
     return line.substr(column - 1, Find(line, ':', column) - column + 1);
 }
 
-/// The zone between two brackets with leading zeros, its last two characters; nothing without the opening one.
+/// The zone between two brackets: padded with leading zeros and cut to its last two characters; nothing if there is no opening
+/// bracket.
 std::optional<std::string> ZoneIn(std::string_view text, char from, char to) {
     const std::size_t start = text.find(from);
     if (start == std::string_view::npos) return std::nullopt;
@@ -33,7 +34,7 @@ std::optional<std::string> ZoneIn(std::string_view text, char from, char to) {
     return std::string(Right(digits, 2));
 }
 
-/// The text without what stands in brackets at its end.
+/// The text without the bracketed part at its end.
 std::string_view WithoutBracket(std::string_view text, char from, char to) {
     return text.ends_with(to) ? text.substr(0, Find(text, from)) : text;
 }
@@ -61,7 +62,7 @@ std::string_view CtyEntryReader::NextText() {
     const std::size_t start = column_ - 1;
     std::size_t end = line_.find(',', start);
     if (end == std::string_view::npos) end = Find(line_, ';', start);
-    // Just behind the separator, as a column.
+    // The column just behind the separator; columns count from 1, `end` from 0.
     column_ = end + 2;
     return line_.substr(start, end - start);
 }
@@ -74,7 +75,7 @@ CtyEntry CtyEntryReader::TakeApart(std::string_view text, const CtyHeader& heade
         entry.isExactCall = true;
         text.remove_prefix(1);
     }
-    // The two may stand in either order.
+    // The two bracketed zones may come in either order.
     for (int pass = 0; pass < 2; ++pass) {
         text = WithoutBracket(text, '(', ')');
         text = WithoutBracket(text, '[', ']');

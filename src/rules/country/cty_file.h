@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The public country file of contest loggers, cty.dat: a header line for each country, then lines with its prefixes.
+// The public country file of contest loggers, cty.dat: for each country a header line, then lines with its prefixes.
 //
 // header line                              prefix lines
 //    1-    country name, up to the ":"        5-    items with "," between them, also at the end of a line;
@@ -12,7 +12,7 @@
 //   62-66  UTC offset                          [n]  ITU zone of this item
 //   70-    primary prefix, up to the ":"
 //
-// The procedures fail with 5 where a line lacks what must be found in it.
+// The functions fail with 5 if a line lacks a required separator or bracket.
 #pragma once
 
 #include <string_view>
@@ -21,10 +21,10 @@
 
 namespace vatro {
 
-/// Fills the sort key of a prefix up to the width of its field: "å", above all digits and capital letters.
+/// Pads the sort key of a prefix to the width of its field. The character is "å", which sorts above all digits and capital letters.
 inline constexpr char kCtyFiller = '\xE5';
 
-/// A header line in its fields, which point into the line.
+/// The fields of a header line. They point into the line, which must outlive them.
 struct CtyHeader {
     std::string_view name;
     std::string_view continent;
@@ -35,34 +35,34 @@ struct CtyHeader {
     std::string_view longitude;
     std::string_view utcOffset;
 
-    /// Marked with "*": a country of one contest alone.
+    /// Whether the country is marked with "*", that is, exists in one particular contest only.
     bool IsOmitted() const { return prefix.starts_with('*'); }
 };
 
-/// An item without its marks. `text` points into the line.
+/// An item without its marks. `text` points into the line, which must outlive it.
 struct CtyEntry {
     std::string_view text;
     FixedText<2> cqZone;
     FixedText<2> ituZone;
-    /// Had "=" in front.
+    /// Whether the item had "=" in front.
     bool isExactCall = false;
 };
 
-/// Fails with 5 if a ":" is missing behind name, continent or primary prefix.
+/// Splits a header line. Fails with 5 if a ":" is missing behind name, continent or primary prefix.
 CtyHeader ReadCtyHeader(std::string_view line);
 
-/// The numeric value of latitude, longitude or UTC offset. Fails with 6 if it is too large.
+/// Converts latitude, longitude or UTC offset to a number. Fails with 6 if it is too large.
 float ReadCtyNumber(std::string_view text);
 
-/// The items of a prefix line, one after the other.
+/// Reads the items of a prefix line one by one.
 class CtyEntryReader {
 public:
     CtyEntryReader(std::string_view line, const CtyHeader& header) : line_(line), header_(header) {}
-    /// Whether another item is expected: a separator at the end of the line has none behind it.
+    /// Whether another item follows. A separator at the end of the line has no item behind it.
     bool HasMore() const { return column_ < line_.size(); }
-    /// The next item as it stands. Fails with 5 if neither "," nor ";" follows.
+    /// Returns the next item with its marks. Fails with 5 if neither "," nor ";" follows it.
     std::string_view NextText();
-    /// The next item, taken apart. Fails with 5 as above, and if a bracket of an item has no partner.
+    /// Returns the next item without its marks. Fails as NextText does, and with 5 if a bracket of the item is not closed.
     CtyEntry Next() { return TakeApart(NextText(), header_); }
 
     static CtyEntry TakeApart(std::string_view text, const CtyHeader& header);

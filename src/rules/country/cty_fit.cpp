@@ -22,7 +22,7 @@ bool IsStarred(const CtyCountry& country) {
     return country.prefix.starts_with('*');
 }
 
-/// An item that stays, and its country.
+/// An item of the file, and its country.
 struct KeptItem {
     const CtyCountry* country = nullptr;
     CtyItem* item = nullptr;
@@ -32,20 +32,20 @@ bool SameZones(const CtyItem& a, const CtyItem& b) {
     return a.cqZone == b.cqZone && a.ituZone == b.ituZone;
 }
 
-/// The text that is looked up where the call is not found whole.
+/// The country text of the item's call. It is looked up when the whole call is not in the table.
 std::string CountryText(const CtyItem& item) {
     return findPfxCall(item.bare);
 }
 
-/// Whether the row of the item is met by the item's own call.
+/// Whether looking up the item's own call can find the item's row.
 bool IsReachable(const CtyItem& item) {
     return item.bare.size() <= kPrefixLength || CountryText(item).starts_with(item.prefix);
 }
 
-/// The items that stay, by prefix.
+/// The items that stay, keyed by prefix.
 class KeptItems {
 public:
-    /// False if the prefix is there already.
+    /// Returns false, and adds nothing, if the prefix is there already.
     bool Add(const KeptItem& place) { return items_.emplace(place.item->prefix, place).second; }
     void Remove(const KeptItem& place) {
         place.item->stays = false;
@@ -56,7 +56,8 @@ public:
         const auto found = items_.find(prefix);
         return found == items_.end() ? nullptr : &found->second;
     }
-    /// What gives the item its country without its own row: the longest other one that begins the text, or nothing.
+    /// The item that decides the country of this call once its own row is gone: the longest other prefix that begins the country
+    /// text, or nullptr.
     const KeptItem* Fallback(const CtyItem& item) const {
         const std::string text = CountryText(item);
         for (std::size_t length = std::min(text.size(), kPrefixLength) + 1; length-- > 0;)
@@ -72,17 +73,18 @@ private:
     throw CtyError{"linje " + std::to_string(number) + ": " + what};
 }
 
-/// Whether the other item, if there is one, belongs to the country of the first.
+/// Whether the other item exists and belongs to the same country.
 bool SameCountry(const KeptItem& place, const KeptItem* other) {
     return other != nullptr && other->country->prefix == place.country->prefix;
 }
 
-/// Whether the item is still found without its own row. A call is no support, with or without its mark: it may have to go itself.
+/// Whether the item still gets its country without its own row. A fallback that is itself a call does not count, whether marked with
+/// "=" or recognised by its slash, since it may be removed later.
 bool Supported(const KeptItem& place, const KeptItem* fallback) {
     return SameCountry(place, fallback) && !fallback->item->isExactCall && fallback->item->bare.find('/') == std::string::npos;
 }
 
-/// One fitting. The places point into the countries, which must not move meanwhile.
+/// A single run of FitCty. KeptItem points into the countries, which must not move meanwhile.
 class Fitting {
 public:
     Fitting(std::vector<CtyCountry> countries, std::size_t room) : countries_(std::move(countries)), room_(room) {}
@@ -101,7 +103,7 @@ public:
         if (kept_.Count() > room_)
             throw CtyError{std::to_string(kept_.Count()) + " præfixer kan ikke undværes, der er plads til " + std::to_string(room_)};
         LeaveOutForemost();
-        // What led them home may have gone.
+        // Once more: the prefix that gave an overlong call its country may have been removed since.
         LeaveOutMisled();
         RecordCosts();
         return {std::move(countries_), std::move(omissions_)};
@@ -114,8 +116,9 @@ private:
         std::erase_if(countries_, IsStarred);
     }
 
-    /// All items but those that stand twice, the shortest first; of equal length in the order of the file. What stands twice under
-    /// one country is kept apart, first those with the same zones.
+    /// Collects the items, sorted by length of prefix, the shortest first; items of equal length keep the order of the file. An item
+    /// whose prefix occurred earlier under the same country goes to repeated_, items with the same zones first; one that occurred
+    /// under another country is left out.
     void CollectItems() {
         std::vector<KeptItem> otherZones;
         for (CtyCountry& country : countries_)
@@ -142,7 +145,7 @@ private:
         for (std::size_t i = 0; i < repeated_.size() && kept_.Count() + repeated_.size() - i > room_; ++i) repeated_[i].item->stays = false;
     }
 
-    /// Leaves out items that may go until the rest fits into so much room.
+    /// Removes items for which `mayGo` is true until at most `room` are left.
     template <class MayGo>
     void LeaveOut(std::size_t room, MayGo mayGo) {
         for (const KeptItem& place : places_) {
@@ -151,14 +154,14 @@ private:
         }
     }
 
-    /// Leaves out calls that the program never finds, unless another prefix leads them home all the same.
+    /// Removes calls that are too long to be found, unless another prefix gives them the right country anyway.
     void LeaveOutMisled() {
         LeaveOut(
             0, [](const KeptItem& place, const KeptItem* fallback) { return !IsReachable(*place.item) && !SameCountry(place, fallback); });
     }
 
-    /// Leaves out calls of full length that stand before all other prefixes of their first character and that no other one
-    /// gives: until the program is started again the import's index leads past them.
+    /// Removes calls of full length that sort before all other prefixes with their first character, unless another prefix gives them
+    /// their country: right after the import its index skips them, and they would not be found until the program is started again.
     void LeaveOutForemost() {
         std::map<std::string, KeptItem> rows;
         for (const KeptItem& place : places_) {
@@ -177,7 +180,8 @@ private:
         }
     }
 
-    /// What an item has lost shows only at the end: the one that gave its zones may have gone after it.
+    /// Records what each omission costs. This is done at the end, because an item that supplied the zones of another one may have
+    /// been removed after it.
     void RecordCosts() {
         for (const KeptItem& place : repeated_) {
             const KeptItem* first = kept_.Find(place.item->prefix);
@@ -188,7 +192,7 @@ private:
             if (!place.item->stays) RecordCost(place, kept_.Fallback(*place.item));
     }
 
-    /// Enters what it costs that the item is left out, where `source` decides its country now.
+    /// Records the cost of leaving out an item whose country is now decided by `source`.
     void RecordCost(const KeptItem& place, const KeptItem* source) {
         const CtyItem& item = *place.item;
         std::vector<std::string>* list = &omissions_.nothingLost;
@@ -205,7 +209,7 @@ private:
     std::size_t room_;
     KeptItems kept_;
     std::vector<KeptItem> places_;
-    /// Items that stand once more under their own country.
+    /// Items whose prefix occurs more than once under one country, without the first occurrence.
     std::vector<KeptItem> repeated_;
     CtyOmissions omissions_;
 };
@@ -240,7 +244,7 @@ std::vector<CtyCountry> ReadCtyFile(const std::vector<std::string>& lines) {
                 while (rest.HasMore()) {
                     const std::string_view text = rest.NextText();
                     if (text.empty()) FailInLine(number + 1, "en post er tom");
-                    // The import takes it for a part of the item, which at the end of a line could not be written so again.
+                    // The import takes such a ";" as part of the item. At the end of a line the item could not be written back.
                     if (text.find(';') != std::string_view::npos) FailInLine(number + 1, "';' står inde i en post");
                     const CtyEntry item = CtyEntryReader::TakeApart(text, header);
                     country.items.push_back({std::string(text), std::string(item.text), std::string(item.text.substr(0, kPrefixLength)),
@@ -269,7 +273,7 @@ std::vector<std::string> CheckCty(const std::vector<CtyCountry>& countries) {
         }
         if (omitted && IsStarred(country))
             errors.push_back("to lande med * efter hinanden: " + ToUtf8(country.prefix) + " bliver taget med");
-        // The import looks for the next header by its last character.
+        // The import recognises the header behind an omitted country by the ":" at its end.
         if (omitted && !country.header.ends_with(':'))
             errors.push_back("overskriften efter et land med * slutter ikke med ':': " + ToUtf8(country.header));
         omitted = false;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// A country file in memory, for the program vatro-cty: what the import would say to it, and which items can be left out so that
-// the table of prefixes holds the rest.
+// A country file in memory, for the program vatro-cty: finds what the import would reject, and which items can be left out so that
+// the others fit into the table of prefixes.
 //
-// The import takes every item, an exact call too, as a prefix: a call belongs to the country of the longest item that
-// begins it. So an item can go without loss if the longest shorter one that stays gives the same country and zones. An
-// item with a slash is one call, which the program finds whole or else by the text that decides its country: LU1DHL/D
-// belongs to D once its own item has gone, not to LU.
+// The import treats every item, even an exact call, as a prefix: a call belongs to the country of the longest item that begins it. An
+// item can therefore be left out without loss if the longest shorter item that stays gives the same country and zones. An item with a
+// slash is a single call. The program finds it either whole or by its country text: without its own item, LU1DHL/D belongs to D, not
+// to LU.
 #pragma once
 
 #include <string>
@@ -17,15 +17,15 @@
 
 namespace vatro {
 
-/// One more is the spare row of the import's sort, whose prefix is lost.
+/// Prefixes that the table holds safely. One more would occupy the spare row of the import's sort and be lost.
 inline constexpr std::size_t kPrefixRoom = 5999;
 
 struct CtyItem {
-    /// As it stands in the file, marks included.
+    /// The text in the file, with its marks.
     std::string text;
-    /// Without marks.
+    /// The text without marks.
     std::string bare;
-    /// Without marks, cut as the table cuts it.
+    /// The text without marks, cut to the width of the table.
     std::string prefix;
     FixedText<2> cqZone;
     FixedText<2> ituZone;
@@ -34,55 +34,56 @@ struct CtyItem {
 };
 
 struct CtyCountry {
-    /// The header line.
+    /// The header line as it is in the file.
     std::string header;
     std::string prefix;
     std::vector<CtyItem> items;
 };
 
-/// What has been left out, and what that costs.
+/// The items left out, grouped by what their omission costs.
 struct CtyOmissions {
-    /// Calls that are longer than the table is wide, and that the program therefore never finds.
+    /// Calls longer than the table is wide, which the program never finds anyway.
     std::vector<std::string> unreachable;
-    /// A shorter prefix gives the same country and zones.
+    /// No loss: a shorter prefix gives the same country and zones.
     std::vector<std::string> nothingLost;
-    /// A shorter prefix gives the same country with other zones.
+    /// The country stays, the zones change: a shorter prefix gives the same country with other zones.
     std::vector<std::string> zones;
-    /// Exact calls that are now counted for another country or none.
+    /// Exact calls that now count for another country or for none.
     std::vector<std::string> lostCalls;
-    /// Stood under an earlier country as well, which keeps them.
+    /// Items that an earlier country has as well, and keeps.
     std::vector<std::string> duplicates;
-    /// Countries marked with "*", by primary prefix. The import leaves them out, too, but for the second of two.
+    /// Primary prefixes of the countries marked with "*". The import leaves these out too, except for the second of two in a row.
     std::vector<std::string> countries;
 };
 
-/// The file could not be read as the import would, or cannot be made to fit; the text is for the user, in UTF-8.
+/// Thrown when the import could not read the file, or when the file cannot be made to fit. The text is shown to the user, in UTF-8.
 struct CtyError {
     std::string text;
 };
 
-/// The lines of a file, which end with CR LF, LF or CR.
+/// Splits a file into lines. A line ends with CR LF, LF or CR.
 std::vector<std::string> CtyLines(std::string_view content);
 
-/// Reads all countries, those marked with "*" too. Throws CtyError with the number of the line that stops the import.
+/// Reads all countries, including those marked with "*". Throws CtyError with the number of the line at which the import would stop.
 std::vector<CtyCountry> ReadCtyFile(const std::vector<std::string>& lines);
 
-/// What keeps the import from taking the file as it is meant, one text for the user each; none if nothing does.
+/// Returns one message for the user for each thing that the import would misread; an empty list if there is none.
 std::vector<std::string> CheckCty(const std::vector<CtyCountry>& countries);
 
-/// A country file that fits: the items that stay, and those that do not, in the countries, and what that costs.
+/// A country file that fits: the countries with all items, each flagged as staying or not, and the cost of the omissions.
 struct FittedCty {
     std::vector<CtyCountry> countries;
     CtyOmissions omissions;
 };
 
-/// Leaves out countries marked with "*", items that stand under an earlier country, and calls that are too long to be found
-/// and that no other item leads to their country; then, until the rest fits, other calls that are never found, items without which nothing
-/// is lost, items that lose their zones, exact calls, in each case the shortest first. At last go exact calls that the import would not
-/// find before the next start. Throws CtyError if the rest does not fit.
+/// Leaves out countries marked with "*", items that an earlier country has as well, and calls too long to be found whose country no
+/// other item gives. If the rest is more than `room`, it leaves out further items until it fits, in this order and the shortest first
+/// within each step: other calls that are never found, items that can go without loss, items that lose their zones, exact calls.
+/// Finally it leaves out exact calls that the program would not find between the import and its next start. Throws CtyError if the
+/// rest still does not fit.
 FittedCty FitCty(std::vector<CtyCountry> countries, std::size_t room = kPrefixRoom);
 
-/// The lines of a file with the items that stay.
+/// Formats the lines of a country file that has only the items that stay.
 std::vector<std::string> WriteCty(const std::vector<CtyCountry>& countries);
 
 }  // namespace vatro

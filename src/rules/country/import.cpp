@@ -16,15 +16,15 @@ namespace vatro {
 
 namespace {
 
-/// "-" or a blank, the number in its shortest form, a blank.
+/// Formats a number for the table files: "-" or a blank, the number in its shortest form, a blank.
 std::string TableNumber(float number) {
-    // The smallest float has 45 decimals.
+    // Enough for the smallest float, which has 45 decimals.
     std::array<char, 64> digits;
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), std::fabs(number), std::chars_format::fixed).ptr;
     return (number < 0 ? "-" : " ") + std::string(digits.data(), end) + " ";
 }
 
-/// The prefix without its filler; nothing if it has none.
+/// The prefix without its filler; nothing if there is no filler.
 std::optional<FixedText<kPrefixLength>> WithoutFiller(const FixedText<kPrefixLength>& key) {
     const std::string_view characters = key.Padded();
     if (characters.back() != kCtyFiller) return std::nullopt;
@@ -35,7 +35,7 @@ std::optional<FixedText<kPrefixLength>> WithoutFiller(const FixedText<kPrefixLen
 
 void CountryImport::Read(LineSource& file, const OverflowNotice& overflow) {
     while (!file.AtEnd()) ReadCountry(file, overflow);
-    // Only now: the rows of a file that fails on the way are not in use.
+    // The count is set only here, so that the rows of a file that fails on the way do not come into use.
     tables_->giLande = ToInt16(countries_);
     tables_->giRefPfx = ToInt16(prefixes_);
 }
@@ -46,8 +46,8 @@ void CountryImport::ReadCountry(LineSource& file, const OverflowNotice& overflow
     if (header.IsOmitted()) {
         do line = file.Next();
         while (!line.ends_with(':'));
-        // Not looked at for a mark again: of two left out one behind the other the second one is kept. Country files that were made for
-        // this import rely on it.
+        // This header is not tested for "*" again: of two marked countries in a row the second one is kept. Country files that were
+        // made for this import rely on it; their users would lose a country.
         header = ReadCtyHeader(line);
     }
     StoreCountry(header);

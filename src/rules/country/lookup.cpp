@@ -19,8 +19,8 @@ int PrefixStart(const CountryTables& tables, std::string_view text) {
     return tables.gaPfxStart[static_cast<unsigned char>(text.front())];
 }
 
-/// The row of Lande to which a row of RefPfx points: the first whose prefix is not below the wanted one, or the last. There
-/// is no test of equality, so a table out of order can give a neighbour: accepted.
+/// The row of Lande for a row of RefPfx: the first row whose prefix is not below the wanted one, or the last row. Equality is not
+/// tested, so an unsorted table can give a neighbouring country; this is accepted.
 int CountryOf(const CountryTables& tables, const PfxRec& prefix) {
     const int last = tables.CountriesInUse();
     int row = 1;

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// From a call to its country: the worked marks, the points outside Europe, and the words for the operator.
+// Finds the country of a call: marks it as worked, gives the points for a country outside Europe, and words the country for the
+// operator.
 //
-// Every search fails with 5 on an empty call, and with 9 as CountryTables::FindWholeCall does.
+// Every search fails with 5 on an empty call, and with 9 in the same case as CountryTables::FindWholeCall.
 #pragma once
 
 #include <bitset>
@@ -19,26 +20,27 @@ namespace vatro {
 struct FoundCountry {
     /// Row of CountryTables::Lande; nothing for an unknown prefix.
     std::optional<int> row;
-    /// The text that was looked up as a prefix; empty where the call was found whole.
+    /// The text that was looked up as a prefix; empty if the whole call was found.
     std::string prefixText;
 };
 
 FoundCountry FindCountry(const CountryTables& tables, std::string_view call);
 
-/// The points that the country decides: 6 outside Europe, but for the calls of the European areas of a country that the tables
-/// hold as Asian.
+/// The points if the country decides them: 6 for a country outside Europe, otherwise nothing. Calls from the European areas of a
+/// country that the tables hold as Asian get nothing either.
 std::optional<std::int32_t> CountryPoints(const CountryTables& tables, const FoundCountry& found, std::string_view call);
 
-/// Whether the status text of the country contains the word "ukendt": an unknown prefix, or a country of that name. The rules of
-/// the contest look for the word, so a country so called counts nothing either.
+/// Whether the status text of the country contains the word "ukendt": for an unknown prefix, or for a country whose name contains the
+/// word. The rules of the contest look for the word, so contacts with such a country are treated like those with an unknown prefix.
+/// Do not correct this: a station whose tables have such a name would get more points than on its older papers (docs/rules.md).
 bool IsUnknown(const CountryTables& tables, const FoundCountry& found);
 
-/// What a search does with the mark of what it finds: marks it as worked, takes the mark away, or only asks.
+/// What a search does with the worked mark of the row it finds: sets it, clears it, or only tests it.
 enum class MarkAction { Mark, Unmark, Test };
 
-/// A country as the operator is told of it.
+/// The status text about a country, as shown to the operator.
 struct CountryStatus {
-    /// Empty for a single character, which is no prefix yet.
+    /// Empty for a call of one character, which is too short to be a prefix.
     std::string text;
     /// Whether the text contains the word "ukendt".
     bool unknown = false;
@@ -47,22 +49,23 @@ struct CountryStatus {
 /// Which countries of the tables a log has worked.
 class WorkedCountries {
 public:
-    /// None. The tables must live as long as this; marks stay with their rows when the rows change.
+    /// Begins with no country marked. The tables must outlive this object. Marks belong to row numbers and stay there when the rows
+    /// change.
     explicit WorkedCountries(const CountryTables& tables) : tables_(tables) {}
 
     struct Result {
-        /// Whether the action took effect: with Mark and Test, the country was not marked, so that the contact is a new
-        /// multiplier; with Unmark, it was.
+        /// Whether the action took effect. With Mark and Test: the country was not marked, so the contact is a new multiplier. With
+        /// Unmark: the country was marked.
         bool changed = false;
-        /// The ten characters of the country's prefix where it took effect, else nothing. Lives as long as the tables' row.
+        /// The country's prefix, ten characters, if the action took effect; otherwise empty. Points into the row of the tables.
         std::string_view prefix;
-        /// What the country decides, whatever the action.
+        /// The points that the country decides, as CountryPoints gives them, whatever the action.
         std::optional<std::int32_t> points;
     };
-    /// Finds the country of a call and does this to its mark. No country: nothing changes.
+    /// Finds the country of a call and applies the action to its mark. If there is no country, nothing changes.
     Result LandWkd(std::string_view call, MarkAction action);
 
-    /// Words the country of a call.
+    /// Returns the status text for the country of a call.
     CountryStatus LandStatusTekst(std::string_view call) const;
 
     bool Wkd(int row) const { return marks_[static_cast<std::size_t>(row)]; }

@@ -13,17 +13,16 @@ namespace {
 
 using RowNumber = std::uint16_t;
 
-/// A row by its characters and its place.
+/// The characters of a row, and its place in the table.
 struct SortKey {
     std::array<unsigned char, kPrefixLength> characters{};
     RowNumber place = 0;
 };
 
-/// The rows 1 to `count` in ascending order: sorted by each character in turn, the last one first, every time without
-/// disturbing the order of equal ones.
+/// Returns the rows 1 to `count` in ascending order: a stable sort by each character in turn, beginning with the last.
 std::vector<SortKey> ByCharacters(std::span<const PfxRec> rows, int count) {
     std::vector<SortKey> keys(static_cast<std::size_t>(count));
-    // Which places of a character are not the same in all rows; at the end of most there is nothing but filler.
+    // Bits set where the rows differ at a character position. Most of the last positions hold only filler and are skipped.
     std::array<unsigned char, kPrefixLength> differences{};
     for (std::size_t i = 0; i < keys.size(); ++i) {
         std::ranges::copy(rows[i + 1].Pfx.Padded(), keys[i].characters.begin());
@@ -44,7 +43,7 @@ std::vector<SortKey> ByCharacters(std::span<const PfxRec> rows, int count) {
     return keys;
 }
 
-/// The selection sort itself, for a full table, in which the spare row is one of those that are sorted.
+/// The selection sort as described in the header, for a full table, where the spare row is itself one of the rows to be sorted.
 void SelectionSort(std::span<PfxRec> rows, const std::function<void(int)>& step) {
     PfxRec& reserve = rows.back();
     for (std::size_t i = 1; i < rows.size(); ++i) {
@@ -66,14 +65,15 @@ void SortPrefixes(std::span<PfxRec> rows, int count, const std::function<void(in
     if (last + 1 == rows.size()) return SelectionSort(rows, step);
 
     std::vector<SortKey> rest = ByCharacters(rows, count);
-    // Only places are swapped until the order is known: where each row has gone, and which row stands at each place.
+    // The rows themselves are moved at the end. Until then only numbers are swapped: the place of each row, and the row at each
+    // place.
     std::vector<RowNumber> placeOf(last + 1);
     std::iota(placeOf.begin(), placeOf.end(), RowNumber{0});
     std::vector<RowNumber> row = placeOf;
     RowNumber lastSwapped = 0;
     for (std::size_t i = 1; i <= last; ++i) {
         step(static_cast<int>(i));
-        // Of the rows that are left the smallest are in front. There are seldom two.
+        // The smallest rows come first among those left; two equal ones are rare.
         std::size_t chosen = i - 1;
         for (std::size_t j = i; j < last && rest[j].characters == rest[i - 1].characters; ++j)
             if (placeOf[rest[j].place] > placeOf[rest[chosen].place]) chosen = j;

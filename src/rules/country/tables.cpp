@@ -10,7 +10,7 @@ namespace vatro {
 
 namespace {
 
-/// The next row of a table that has `count` of them, counted from now on.
+/// Counts one more row of a table and returns its number; `count` rows were in use before.
 std::int16_t NextRow(std::int16_t count) {
     return static_cast<std::int16_t>(count + 1);
 }
@@ -63,7 +63,7 @@ std::optional<int> CountryTables::FindPrefix(std::string_view text, int start) c
 
 void CountryTables::IndexPrefixes() {
     buckets_.fill(0);
-    // From the end, so that each chain ascends.
+    // From the last row to the first, so that the rows of each chain ascend.
     for (int i = std::min<int>(giRefPfx, kPrefixRows); i > 0; --i) {
         const auto row = static_cast<std::size_t>(i);
         std::uint32_t hash = kHashStart;

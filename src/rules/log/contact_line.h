@@ -11,8 +11,8 @@
 //   35     "-"
 //   36-39  serial number received
 //
-// The columns between are blank. A line that begins with "NOTE: " is no contact but free text. Lines of earlier years end
-// before the mode: a column beyond the end of a line is empty.
+// All other columns are blank. A line that begins with "NOTE: " is a note, free text instead of a contact. Lines written by earlier
+// versions end before the mode; a column beyond the end of a line reads as empty.
 #pragma once
 
 #include <string>
@@ -22,7 +22,7 @@
 
 namespace vatro {
 
-/// Columns of a field.
+/// The columns of a field.
 struct Field {
     std::size_t from;
     std::size_t width;
@@ -39,7 +39,7 @@ inline constexpr Field kNumberReceived{36, 4};
 inline constexpr Field kPoint{41, 2};
 inline constexpr Field kMultiplier{44, 10};
 inline constexpr Field kOperator{55, 6};
-/// One column more than is written: what readers of the operator take.
+/// The operator field as readers take it: one column wider than the field that is written.
 inline constexpr Field kOperatorAsRead{kOperator.from, kOperator.width + 1};
 inline constexpr Field kQsl{62, 3};
 inline constexpr Field kQsoMode{66, 5};
@@ -48,10 +48,10 @@ inline constexpr Field kDate{72, 8};
 inline constexpr std::string_view kNoteMark = "NOTE: ";
 inline constexpr std::string_view kDupeMark = "-DUPE-";
 
-/// Whether the text begins with the mark of a note, in any case.
+/// Whether the text begins with the note mark "NOTE: ", without regard to case.
 bool IsNote(std::string_view text);
 
-/// What a contact line is made of, each as text of its field.
+/// The parts of a contact line, each as the text of its field.
 struct Contact {
     std::string time;
     std::string call;
@@ -67,9 +67,9 @@ struct Contact {
     std::string date;
 };
 
-/// The line of a contact in a log of this mode: in an SSB log a report has two figures and a blank. Call, multiplier, operator
-/// and QSO mode are cut at their columns or filled up to them; the others must fit theirs. A serial number above 9999 shifts all
-/// that follows.
+/// Formats a contact for a log of this mode; in an SSB log a report has two figures and a blank. Call, multiplier, operator and QSO
+/// mode are padded or cut to the width of their fields; the other texts must fit their fields. A serial number above 9999 shifts the
+/// rest of the line to the right.
 std::string QsoLine(const Contact& contact, std::string_view logMode);
 
 }  // namespace vatro

@@ -11,8 +11,7 @@ namespace {
 
 constexpr std::size_t kMostFound = 50;
 
-/// Looks for one text in many short ones without regard to case: both spellings of its first character are sought, which
-/// the rest of the text then has to follow.
+/// Searches many short texts for one text, ignoring case. Looks for either case of the first character, then compares the rest.
 class Search {
 public:
     explicit Search(std::string_view text) : text_(UpperText(text)) {
@@ -54,10 +53,10 @@ bool CheckDupe(std::span<const std::string> lines, std::string_view baseCall) {
     std::string_view call;
     std::string stripped;
     for (const std::string& line : lines) {
-        // The text of the line before, not of this one: see the header.
+        // `call` still holds the text of the previous line, not of this one: see the header.
         if (call.starts_with(kNoteMark)) continue;
         call = kCall.TrimmedOf(line);
-        // Without a slash a call is its base call.
+        // A call without a slash is its own base call.
         if (call.find('/') != std::string_view::npos) {
             stripped = StripCall(call);
             call = stripped;
@@ -70,7 +69,7 @@ bool CheckDupe(std::span<const std::string> lines, std::string_view baseCall) {
 bool CheckDupQSO(std::span<const std::string> above, std::string_view baseCall) {
     std::string call;
     for (const std::string& line : above) {
-        // The call of the line before, not this line: see the header.
+        // `call` still holds the call of the previous line, not of this one: see the header.
         if (call.starts_with(kNoteMark)) continue;
         call = StripCall(kCall.TrimmedOf(line));
         if (call == baseCall) return true;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// Searches of a log while a contact is entered or corrected: is the station logged already, and which earlier contacts hold
-// what has been typed so far. All are plain scans of the lines from the first one.
+// Searches of a log while a contact is entered or corrected: whether the station is logged already, and which earlier contacts
+// contain what has been typed so far. All searches scan the lines from the first to the last.
 //
-// Each skips a line by looking at the line before it, where a note would be expected to be skipped itself. So a note whose
-// text looks like a call counts as a contact. Logs of many contests were made by these searches; another search would find
-// other duplicates in them.
+// Each search decides whether to skip a line by looking at the previous line, not at the line itself. A note is therefore not
+// skipped, and a note whose text looks like a call counts as a contact. Do not correct this: a log of an earlier contest that is
+// loaded again would get other duplicates than when it was made (docs/rules.md).
 #pragma once
 
 #include <span>
@@ -15,15 +15,14 @@
 
 namespace vatro {
 
-/// Whether a line holds the station: its call, reduced to the base call, is the base call given, by exact comparison. Behind a
-/// note whose text itself begins with "NOTE: " nothing is found.
+/// Whether a line has the same station: its call, reduced to the base call, equals `baseCall` exactly. Lines below a note whose own
+/// text begins with "NOTE: " are not searched.
 bool CheckDupe(std::span<const std::string> lines, std::string_view baseCall);
 
-/// The same for a contact under correction, among the lines above it. A note that begins with the call counts as a contact.
+/// The same search for a contact under correction, among the lines above it. A note that begins with the call counts as a contact.
 bool CheckDupQSO(std::span<const std::string> above, std::string_view baseCall);
 
-/// The earlier contacts whose call contains the text, without regard to case; at most 50, the oldest first, as the operator is
-/// shown them:
+/// Returns the earlier contacts whose call contains the text, ignoring case: at most 50, the oldest first, formatted for display:
 ///
 ///    1-15  call                21-24  serial number received
 ///   16-19  serial number sent  26-30  UTC

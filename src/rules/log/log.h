@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A log in memory: the lines of one band and log mode in the order of its file, contacts and notes alike, and what is summed
-// up of them. The file is the record; this is its only copy.
+// A log in memory: the lines of one band and log mode, contacts and notes, in the order of the file, together with the totals. The
+// file is the record; this is the only copy of it in memory.
 #pragma once
 
 #include <cstddef>
@@ -12,7 +12,7 @@
 
 namespace vatro {
 
-/// Is told of every change of the lines, after it.
+/// Called after every change of the lines.
 class LogObserver {
 public:
     virtual ~LogObserver() = default;
@@ -24,23 +24,23 @@ public:
 class Log {
 public:
     const std::vector<std::string>& Lines() const { return lines_; }
-    /// Another number after every change of the lines.
+    /// Changes with every edit of the lines.
     unsigned Revision() const { return revision_; }
 
-    /// Removes the lines. The sums are the caller's, here and below.
+    /// Removes all lines. This function and those below leave the totals alone; the caller updates them.
     void Clear();
     void Append(std::string line);
-    /// Rows count from 0. Fails with 5 if there is no such row.
+    /// Replaces a line. Rows count from 0. Fails with 5 if there is no such row.
     void Replace(std::size_t row, std::string line);
-    /// Nobody is told when it is null. The observer must live until another one is set.
+    /// Sets the observer, which must live until another one is set; nullptr removes it.
     void Observe(LogObserver* observer) { observer_ = observer; }
 
-    /// Adds points, which may be negative. Fails with 6 beyond 32 bits, with nothing added.
+    /// Adds points to glPoint; they may be negative. Fails with 6 if the sum overflows 32 bits, and then adds nothing.
     void AddPoints(double points);
 
     /// Sum of the points of all contact lines.
     std::int32_t glPoint = 0;
-    /// Serial number of the contact being entered; while a log is loaded, that of the last contact line so far.
+    /// Serial number of the contact being entered. While a log is loaded, and right after it, that of the last contact line read.
     std::int16_t giQSOnr = 0;
 
 private:

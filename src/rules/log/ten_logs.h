@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The ten logs of a contest: one for each band and log mode. The digital modes have no log of their own: they count as CW and
-// stand in the CW log of their band, told apart by the mode column of the line.
+// The ten logs of a contest: one for each band and log mode. The digital modes have no log of their own: they count as CW and are
+// written to the CW log of their band, where the mode column tells them apart.
 #pragma once
 
 #include <array>
@@ -10,13 +10,13 @@
 
 namespace vatro {
 
-/// A log by its band, as "80m", and its log mode, "CW" or "SSB".
+/// Identifies a log by its band, such as "80m", and its log mode, "CW" or "SSB".
 struct LogId {
     std::string_view band;
     std::string_view mode;
 };
 
-/// All logs that there can be, in the order in which they are copied, searched and counted.
+/// All ten logs, in the order in which they are copied, searched and counted.
 inline constexpr std::array<LogId, 10> kTenLogs{{{"10m", "CW"},
                                                  {"10m", "SSB"},
                                                  {"15m", "CW"},
@@ -28,10 +28,10 @@ inline constexpr std::array<LogId, 10> kTenLogs{{{"10m", "CW"},
                                                  {"80m", "CW"},
                                                  {"80m", "SSB"}}};
 
-/// The name of its file: "FD80mSSB.txt".
+/// The file name of a log: "FD80mSSB.txt".
 std::string LogName(std::string_view band, std::string_view mode);
 
-/// The default report of a QSO mode: "599", "59" for SSB, empty for what is no mode.
+/// The default report of a QSO mode: "59" for SSB, "599" for the others, empty if the text is not a QSO mode.
 std::string_view StandardRST(std::string_view qsoMode);
 
 }  // namespace vatro

@@ -35,18 +35,18 @@ bool Keyer::FyldDel(std::span<std::int16_t> half) {
     bool active = false;
     std::int32_t i = 0;
     const auto insert = [&](std::int32_t from, std::int32_t count) {
-        // At one word a minute even the rest of a piece is longer than a half.
+        // At one word per minute even the rest of a piece is longer than a half.
         if (const Piece* piece = pieces_.Of(stepper_.gsElement))
             std::copy_n(piece->begin() + from, std::min(count, end - i), half.begin() + i);
         i += count;
         if (!stepper_.AtEnd()) active = true;
     };
-    // The end mark stays: another text does not wake the keyer up before the next Begin.
+    // The end mark stays the present element: a new text is not sent before the next Begin.
     const auto next = [&] {
         if (!stepper_.AtEnd()) stepper_.gsElement = stepper_.NæsteElement();
     };
 
-    // The rest of the piece that the end of the other half has cut: the tone runs on across the seam.
+    // First the rest of the piece that was cut off at the end of the other half, so that the tone continues without a gap.
     if (stepper_.glCWSlat > 0) {
         insert(stepper_.glCWSlat, dot - stepper_.glCWSlat);
         stepper_.glCWSlat = 0;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// Morse as samples.
+// Turns Morse text into sound samples.
 //
-// The sound buffer is one second of 16-bit samples that plays round and round. While one half sounds, the other one is filled: the
-// stepper walks through the text, and each element that it gives is a copy of a piece. Whoever owns the buffer asks the keyer for a
-// half and writes it.
+// The sound buffer holds one second of 16-bit samples and plays in a loop. While one half plays, the other one is filled: the stepper
+// walks through the text, and each element that it returns is a copy of a piece. The owner of the buffer asks the keyer for a half
+// and writes it into the buffer.
 //
-// What survives what:
+// What each operation keeps:
 //
 //   Begin            a new send: the text is filled in from where the stepper stands, so a new text during a send comes in at the
 //                    character where the old one stood
@@ -25,56 +25,57 @@
 
 namespace vatro {
 
-/// The buffer holds one second.
+/// Samples in the buffer: one second.
 inline constexpr int kBufferSamples = kSamplesPerSecond;
 inline constexpr int kHalfSamples = kBufferSamples / 2;
 
 enum class Half { First, Second };
 
-/// A half of the buffer, to be written.
+/// The samples for one half of the buffer.
 struct FilledHalf {
-    /// Where it begins in the buffer.
+    /// Position of the half in the buffer, in samples.
     int first = 0;
-    /// Valid until the keyer changes.
+    /// Valid until the next call that changes the keyer.
     std::span<const std::int16_t> samples;
-    /// Whether anything but the end mark has gone into it.
+    /// Whether the half holds any element other than the end mark.
     bool active = false;
 };
 
 class Keyer {
 public:
     Keyer() = default;
-    /// Goes on with a text from this place.
+    /// Continues a text at this position.
     explicit Keyer(Stepper place) : stepper_(std::move(place)) {}
 
-    /// Sets the length of a dot; MakePieces must follow before the next fill. Fails with 11 at speed 0, and nothing has changed.
+    /// Sets the length of a dot. Call MakePieces before the next Fill. Fails with 11 at speed 0 and then changes nothing.
     void SetSpeed(std::int16_t wordsPerMinute) { pieces_.ComputeDotLength(wordsPerMinute); }
-    /// Makes the pieces for the speed set, with pitch in hertz and volume as the peak of the samples. Fails with 9 at a speed too
-    /// high or below 0, with 6 where the tone is too loud for 16 bits; no half may be filled then.
+    /// Makes the pieces for the current speed. `pitch` is in hertz, `volume` is the peak of the samples. Fails with 9 if the speed is
+    /// too high or negative, with 6 if the tone is too loud for 16 bits; do not call Fill after a failure.
     void MakePieces(std::int16_t pitch, std::int32_t volume);
 
-    /// The text from now on, expanded and with a blank at its end; extraSilence in dot lengths behind each character. The place in
-    /// the text stays.
+    /// Sets the text, which must be expanded and end with a blank, and the extra silence behind each character, in dot lengths. The
+    /// position in the text is kept: a text that is started while another one is sent begins at the character where the old one
+    /// stood. Do not reset it: operators press a second key to change the rest of a text (docs/rules.md).
     void SetText(std::string text, std::int16_t extraSilence);
-    /// To be called before both halves are filled for a start: no element is under way.
+    /// Clears the present element. Call it before filling both halves for a start.
     void Begin();
-    /// The next text starts from its beginning.
+    /// Makes the next text start from its beginning.
     void ResetPosition() { stepper_.ResetPosition(); }
 
-    /// Fills a half with what comes next. There must be pieces.
+    /// Fills a half with the next samples. MakePieces must have succeeded.
     FilledHalf Fill(Half half);
 
     const Pieces& CurrentPieces() const { return pieces_; }
     const Stepper& Place() const { return stepper_; }
 
 private:
-    /// Pastes the pieces of the next elements into one half, the rest of a piece that the end of the other half has cut first, and
-    /// moves the stepper on. Returns whether anything but the end mark has gone into the half.
+    /// Copies the pieces of the next elements into a half and moves the stepper on. It begins with the rest of a piece that was cut
+    /// off at the end of the other half. Returns whether the half holds any element other than the end mark.
     bool FyldDel(std::span<std::int16_t> half);
 
     Pieces pieces_;
     Stepper stepper_;
-    /// A picture of the sound buffer.
+    /// A copy of the sound buffer's content.
     std::vector<std::int16_t> CWBillede;
 };
 

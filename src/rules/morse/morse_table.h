@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// From characters to elements: which slots of one dot length a character is made of.
+// The Morse table: the elements of each character. An element takes one dot length.
 //
 //   "4"                a dot
 //   "1" "2" "3"        first, middle and last third of a dash: "123" is a dash of three dot lengths
@@ -13,8 +13,8 @@
 
 namespace vatro {
 
-/// The elements of a key: a character in upper case, a blank, or the two letters of a joined sign ("SK"). Compared exactly;
-/// empty for whatever is not in the table, so that a lower-case letter has none.
+/// Returns the elements for a character in upper case, a blank, or the two letters of a joined sign ("SK"). Compared exactly, so a
+/// lower-case letter is not found; empty for anything not in the table.
 std::string_view MorseElements(std::string_view characters);
 
 }  // namespace vatro

@@ -12,14 +12,14 @@ namespace vatro {
 
 namespace {
 
-/// Samples of a ramp, whatever the speed.
+/// Samples in a ramp, the same at every speed.
 constexpr int kRampSamples = 25;
 
 std::size_t IndexOf(std::int32_t sample) {
     return static_cast<std::size_t>(sample);
 }
 
-/// The part `step` of 25 of a sample, rounded downwards also where it is negative.
+/// A sample times `step` / 25, rounded down (towards minus infinity).
 std::int16_t Attenuated(std::int16_t sample, int step) {
     return ToInt16(std::floor(static_cast<double>(sample) / kRampSamples * step));
 }
@@ -39,8 +39,8 @@ void Pieces::AllocateTone() {
 void Pieces::DanTone(std::int16_t pitch, std::int32_t volume) {
     const double w = std::numbers::pi * 2 * pitch / kSamplesPerSecond;
     const std::int16_t a = ToInt16(volume);
-    // Each sample comes from the two rounded ones before it, so that the peak wanders a little round A. This is how the tone is
-    // defined: a tone made of one sine per sample would be another one in its last digits.
+    // Each sample is computed from the two rounded samples before it, so the peak varies a little around the volume. Do not replace
+    // this by one sine per sample: the last digits would change, and recordings of two copies are compared sample by sample.
     CWStreg[1] = ToInt16(-std::sin(w) * a);
     const double factor = 2 * std::cos(w);
     for (std::size_t i = 2; i < CWStreg.size(); ++i) CWStreg[i] = ToInt16(factor * CWStreg[i - 1] - CWStreg[i - 2]);
@@ -54,7 +54,8 @@ void Pieces::DanElementer() {
     };
     CWPrik = cut(0);
     CWStart = cut(0);
-    // One sample early: a dash has the last sample of its first third twice. This is how every dash has always sounded.
+    // Starts one sample early, so a dash repeats the last sample of its first third. It cannot be heard. Do not correct it:
+    // recordings of two copies are compared sample by sample.
     CWMidte = cut(Priklen - 1);
     CWSlut = cut(2 * Priklen - 1);
     CWPause.assign(IndexOf(Priklen + 1), 0);

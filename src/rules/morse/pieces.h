@@ -2,8 +2,8 @@
 //
 // The tone of the keyer, cut into pieces of one dot length.
 //
-// The tone is computed once for a speed, a pitch and a volume. From then on each Morse element is a copy of a piece, so that
-// filling the sound buffer costs next to nothing and never falls behind the card. A change of speed, pitch or volume makes new
+// The tone is computed once for each combination of speed, pitch and volume. After that each Morse element is a copy of a piece, so
+// filling the sound buffer costs almost nothing and never falls behind the sound card. A change of speed, pitch or volume needs new
 // pieces.
 //
 //   element   piece
@@ -22,13 +22,13 @@ namespace vatro {
 
 inline constexpr int kSamplesPerSecond = 44100;
 
-/// Of each piece the first Priklen samples are sent; there is one more behind them.
+/// The samples of a piece. The five pieces hold Priklen + 1 samples each; only the first Priklen are sent.
 using Piece = std::vector<std::int16_t>;
 
 struct Pieces {
     /// The length of a dot in samples.
     std::int32_t Priklen = 0;
-    /// The tone, three dots long.
+    /// The tone, three dots long. The name says "dash", but dashes are made of the three thirds.
     Piece CWStreg;
     Piece CWStart;
     Piece CWMidte;
@@ -36,17 +36,18 @@ struct Pieces {
     Piece CWPrik;
     Piece CWPause;
 
-    /// Sets Priklen: 1.2 seconds divided by the words per minute. Fails with 11 at speed 0, and Priklen is left as it was. The
-    /// pieces stay those of the old speed until they are made anew.
+    /// Sets Priklen to the samples of 1.2 seconds divided by the words per minute. Fails with 11 at speed 0 and then leaves Priklen
+    /// as it was. The pieces keep the old speed until they are made anew.
     void ComputeDotLength(std::int16_t wordsPerMinute);
-    /// Makes room for the tone, all silence. Fails with 9 where a dot would be shorter than its ramp.
+    /// Allocates the tone, filled with silence. Fails with 9 if a dot would be shorter than its ramp.
     void AllocateTone();
-    /// The tone into CWStreg; pitch in hertz, volume as the peak of the samples. Fails with 6 where it is too loud for 16 bits.
+    /// Computes the tone into CWStreg. `pitch` is in hertz, `volume` is the peak of the samples. Fails with 6 if the tone is too loud
+    /// for 16 bits.
     void DanTone(std::int16_t pitch, std::int32_t volume);
-    /// Cuts CWStreg into the five pieces, with ramps at the ends of dots and dashes. To be called after DanTone.
+    /// Cuts CWStreg into the five pieces, with ramps at the ends of dots and dashes. Call DanTone first.
     void DanElementer();
 
-    /// The piece of an element; nullptr for what is none.
+    /// The piece of an element; nullptr if the text is not an element.
     const Piece* Of(std::string_view element) const;
 };
 

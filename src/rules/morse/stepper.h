@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// The text that is sent, and how far it has come.
+// The text being sent, and the position in it.
 //
-// The stepper walks through the text and gives one element for each dot length (morse_table.h). Between the elements of a
-// character there is one dot length of silence, after a character 3 + the extra silence; a blank is 4 + the extra silence, and
-// behind the last character 3 + the extra silence pass before the end mark.
+// The stepper walks through the text and returns one element for each dot length (morse_table.h). The elements of a character are
+// separated by one dot length of silence. A character is followed by 3 dot lengths plus the extra silence; a blank is 4 plus the
+// extra silence; the last character is followed by 3 plus the extra silence before the end mark.
 #pragma once
 
 #include <cstdint>
@@ -14,27 +14,27 @@
 namespace vatro {
 
 struct Stepper {
-    /// The text: expanded, in upper case, a blank at its end.
+    /// The text: expanded, in upper case, with a blank at its end.
     std::string gsCWTekst{};
-    /// Dot lengths of silence added behind each character.
+    /// Silence added behind each character, in dot lengths.
     std::int16_t extraSilence = 0;
-    /// Characters of gsCWTekst that are done with.
+    /// Number of characters of gsCWTekst that have been processed.
     std::int32_t glTegnPos = 0;
-    /// Elements of the character that is being sent; empty between two.
+    /// Elements of the character being sent; empty between two characters.
     std::string gscwtegn{};
-    /// Place in gscwtegn, from 1; 0 between two characters.
+    /// Position in gscwtegn, from 1; 0 between two characters.
     std::int32_t glElementPos = 0;
     /// The present element; empty before the first one of a text.
     std::string gsElement{};
-    /// Samples of the present element that stand at the end of the other half already; 0 if none was cut.
+    /// Number of samples of the present element that were already written at the end of the other half; 0 if it was not cut.
     std::int32_t glCWSlat = 0;
 
-    /// The element of the next dot length; "0", and the place at the beginning of the text, when the text is over. The caller makes
-    /// it the present element.
+    /// Returns the element for the next dot length. At the end of the text it returns "0" and moves the position back to the
+    /// beginning. The caller stores the result in gsElement.
     std::string NæsteElement();
-    /// Whether the present element is the end mark.
+    /// Whether the present element is the end mark "0".
     bool AtEnd() const;
-    /// The next text starts from its beginning. glCWSlat stays: it is dropped when the next text starts.
+    /// Makes the next text start from its beginning. glCWSlat is kept; it is cleared when the next text starts.
     void ResetPosition();
 
 private:

@@ -13,20 +13,21 @@ namespace vatro {
 
 namespace {
 
-/// Serial numbers below 1000 are sent with three characters.
+/// From this number on, serial numbers are sent with all four digits; below it with three characters.
 constexpr int kFourDigits = 1000;
 constexpr std::size_t kThreeCharacters = 3;
 
-/// A text that is being read: the whole text, or the value of a code in it.
+/// A text being read: the whole text, or the value of a code in it.
 struct TextPiece {
-    /// The code that this is the value of, or 0.
+    /// The code whose value this is; 0 for the whole text.
     char code = 0;
     std::string_view text;
     std::size_t read = 0;
 };
 
-/// Replaces the first code of the text until there is none. Values belong to the text: a code may stand inside a value, or begin
-/// at its end. A value that comes up again before its own end would come up for ever, so its code counts as unknown there.
+/// Replaces the first code of the text again and again until no code is left. A value becomes part of the text: a code may occur
+/// inside a value, or start at the end of one. A code that occurs inside its own value would be replaced for ever, so there it is
+/// treated as unknown.
 class Expansion {
 public:
     Expansion(std::string_view text, const CodeValues& values) : values_(values), pieces_{{0, text}} {}
@@ -44,7 +45,7 @@ public:
     }
 
 private:
-    /// What a code stands for; nothing if the letter is none.
+    /// The value of a code; nothing if the letter is not a code.
     std::optional<std::string_view> ValueOf(char code) const {
         switch (code) {
             case 'C':
@@ -60,7 +61,7 @@ private:
         }
     }
 
-    /// The character to be read next, if any. Values that have been read to their end are left only here.
+    /// The next character, or nothing at the end. This is the only place where a value that has been read to its end is left.
     std::optional<char> Next() {
         while (!pieces_.empty() && pieces_.back().read == pieces_.back().text.size()) pieces_.pop_back();
         if (pieces_.empty()) return std::nullopt;
@@ -68,7 +69,7 @@ private:
     }
     void Consume() { ++pieces_.back().read; }
 
-    /// Behind a "#": continues with the value of the code, if it is one.
+    /// Called after a "#": continues with the value of the code, if the next letter is one.
     void Insert() {
         const auto code = Next();
         const auto value = code ? ValueOf(*code) : std::nullopt;

@@ -11,10 +11,10 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-/// Makes records one after the other, in the same memory: a contest has thousands.
+/// Makes records one after the other and reuses its memory, since a contest has thousands of contacts.
 class RecordMaker {
 public:
-    /// See AdifRecord. Good until the next one.
+    /// Makes a record as AdifRecord does. Valid until the next call.
     const std::string& Make(std::string_view line, std::string_view band) {
         text_.clear();
         AddDate(kDate.Of(line));
@@ -33,14 +33,14 @@ public:
         return text_;
     }
 
-    /// The record made last, and the empty line behind it.
+    /// The record made last, with a further line end that makes an empty line behind it.
     const std::string& WithGap() {
         text_.append(kLineEnd);
         return text_;
     }
 
 private:
-    /// A date that is none adds nothing.
+    /// Adds the date field; adds nothing if the text is not a date.
     void AddDate(std::string_view date) {
         const auto day = ParseDate(date);
         if (!day) return;
@@ -49,7 +49,7 @@ private:
         text_.append(kLineEnd);
     }
 
-    /// The time of a contact line; one that is none adds nothing.
+    /// Adds the time field of a contact line; adds nothing if the text is not a time.
     void AddTime(std::string_view line) {
         const auto timeOfDay = ParseTime(std::string(Columns(line, 1, 2)).append(1, ':').append(Columns(line, 4, 2)));
         if (!timeOfDay) return;
@@ -59,7 +59,7 @@ private:
         text_.append(kLineEnd);
     }
 
-    /// `value` has at most as many characters as the widest field of a line.
+    /// Adds a field. `value` is at most as long as the widest field of a line.
     void AddField(std::string_view tag, std::string_view value) {
         const int length = static_cast<int>(value.size());
         text_.append(tag);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What a paper tells of the station and of the moment at which it is made. The caller hands it in: papers know no settings and
-// no clock.
+// What a paper says about the station and about the time at which it is made. The caller provides it: papers read no settings and no
+// clock.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@ namespace vatro {
 
 inline constexpr std::size_t kBandCount = kTenLogs.size() / 2;
 
-/// What a band is worked with.
+/// Radio and antenna of a band.
 struct Equipment {
     std::string radio;
     std::string antenna;
@@ -25,13 +25,13 @@ struct PaperContext {
     std::string call;
     /// "A" or "B".
     std::string contestClass;
-    /// The telephone number as it is set, the default number included.
+    /// The telephone number from the settings, which may be the default number.
     std::string phone;
-    /// 10, 15, 20, 40, 80 m.
+    /// By band: 10, 15, 20, 40, 80 m.
     std::array<Equipment, kBandCount> equipment;
-    /// Local time. Papers are headed with its year, which need not be that of the logs.
+    /// Local time. Its year goes into the headings of papers and need not be that of the logs.
     DateTime now;
-    /// Version of the program: "1.0.0".
+    /// Version of the program, such as "1.0.0".
     std::string version;
 };
 

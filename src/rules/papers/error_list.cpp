@@ -17,14 +17,14 @@ namespace vatro {
 
 namespace {
 
-/// Calls seen in a log are texts of ten characters, cut or filled up with blanks: a longer call is never found again.
+/// Calls seen in a log are remembered with ten characters, cut or padded with blanks. A longer call is therefore never found again.
 constexpr std::size_t kRememberedCall = 10;
 
 void WriteError(LineSink& list, std::string_view message) {
     list.Write(std::string(kIndent).append("- ").append(message));
 }
 
-/// Whether a figure of a report lies between 1 and this one. A figure that is missing counts as good.
+/// Whether a figure of a report lies between 1 and `highest`. A missing figure counts as good.
 bool IsGoodDigit(std::string_view report, std::size_t number, char highest) {
     return report.size() < number || (report[number - 1] >= '1' && report[number - 1] <= highest);
 }
@@ -61,7 +61,7 @@ std::string_view PointsMessage(std::int32_t points) {
 
 }  // namespace
 
-/// The check of one log: the rules, in their order, each without regard to the others.
+/// The check of one log. The rules are applied in their order, each independently of the others.
 class ErrorList::Check {
 public:
     Check(ErrorList& of, LineSink& list, const DateTime& now, std::string_view logMode)
@@ -77,7 +77,8 @@ public:
         left_.giMult = 0;
     }
 
-    /// Checks a contact line. Gives whether it has an error. Fails with 5 if it has no call, behind the errors found so far.
+    /// Checks a contact line and returns whether it has an error. Fails with 5 if it has no call, after listing the errors found so
+    /// far.
     bool HasError(std::string_view line) {
         line_ = line;
         shown_ = false;
@@ -122,7 +123,7 @@ private:
         if (cw_ && !IsGoodDigit(report, 3, '9')) Complain(messages.last);
     }
 
-    /// The messages tell of the received number, but the report is tested once more.
+    /// The messages name the received number, but the code tests the received report a second time; see the header.
     void CheckReportAsNumber(std::string_view report) {
         if (NumericValue(report) == 0) Complain("Modtaget QSOnr er nul.");
         if (!IsNumeric(report)) Complain("Modtaget QSOnr skal være numerisk."_t);
@@ -172,15 +173,15 @@ private:
     DateTime now_;
     bool cw_;
     bool ssb_;
-    /// The calls so far, one behind the other in memory: a log has thousands, and all of them go at once.
+    /// Memory of the calls seen so far: a log has thousands of them, and all are freed together.
     std::pmr::monotonic_buffer_resource memory_;
     std::pmr::unordered_set<std::string> seen_{&memory_};
     std::string_view line_;
-    /// The line has been shown above its first error.
+    /// Whether the line has been written above its first error.
     bool shown_ = false;
-    /// It holds a call that an earlier line has.
+    /// Whether an earlier line has the same call.
     bool duplicate_ = false;
-    /// The multiplier that the contact is by the tables, or nothing.
+    /// The multiplier that the contact should have by the tables, or empty.
     std::string_view newMultiplier_;
 };
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// The error list: every line of the ten logs against the rules of the entry, so that what correction, import and an editor have
-// brought in is found before the logs go in. No log is changed.
+// The error list: checks every line of the ten logs against the rules of the entry, to find errors made by corrections, imports and
+// editors before the logs are sent in. No log is changed.
 //
-// The rules look at texts trimmed of blanks on both sides. Two of those for the received number test the received report once
-// more, so that a wrong number is never found. That is the list as it has always been: an operator who compares two of them finds
-// the same lines.
+// All texts are trimmed of blanks on both sides before they are checked. Two of the rules for the received number test the received
+// report once more, so a wrong number is never found. Do not correct this: operators compare two error lists of one log and expect
+// the same lines (docs/rules.md).
 #pragma once
 
 #include <cstdint>
@@ -25,24 +25,24 @@ namespace vatro {
 void WriteErrorListHead(LineSink& list, const PaperContext& context);
 /// Writes the line above a log's section.
 void DanFejlListHoved(LineSink& list, const LogId& log);
-/// The check of the logs, with marks of its own for what has been worked.
+/// Checks the logs, with worked marks of its own.
 class ErrorList {
 public:
-    /// `tables` must live as long as this.
+    /// `tables` must outlive this object.
     ErrorList(const CountryTables& tables, const Stations& stations) : countries_(tables), stations_(stations) {}
 
-    /// Writes what is found in a log's lines, of which there must be one: fails with 62 if there is none, and with 5 at a line
-    /// without a call, behind the errors found so far. Marks are wiped first: each log counts for itself.
+    /// Checks the lines of a log and writes the errors. Fails with 62 if there is no line, and with 5 at a line without a call, after
+    /// writing the errors found so far. The worked marks are cleared first: each log is checked on its own.
     void DanFejlListKrop(LineSource& lines, LineSink& list, const PaperContext& context, const LogId& log);
 
-    /// What the check has found out last; nothing where it did not come so far. At the entry desk these values are seen until the
-    /// next look at a contact.
+    /// Values from the contact checked last; a value is empty if the check ended before it was computed. The entry desk shows these
+    /// values until it looks up the next contact.
     struct Leftovers {
-        /// Base call of the last contact, as the lookup of stations leaves it.
+        /// Base call of the last contact, cut or padded to six characters by the lookup of stations.
         std::optional<std::string> gsCall;
-        /// What the last contact is worth.
+        /// Points of the last contact.
         std::optional<std::int32_t> giQSOPoint;
-        /// Countries worked in the last log, as far as it was checked.
+        /// Number of countries worked in the last log, up to the line where its check ended.
         std::optional<std::int16_t> giMult;
     };
     const Leftovers& Left() const { return left_; }
@@ -55,16 +55,16 @@ private:
     Leftovers left_;
 };
 
-/// Writes that there is no such log, which also stands where a section broke off.
+/// Writes the message that there is no such log. It is also written if a section breaks off.
 void WriteLogNotFound(LineSink& list);
 
-/// Shows the line above its first error: does nothing if it has been shown. Gives that it has been shown now.
+/// Writes the line above its first error, unless `QSOShown` says that this has been done. Returns true, the new value for `QSOShown`.
 bool DanFejlQSO(LineSink& list, std::string_view line, bool QSOShown);
 
-/// The message for a text that is no time "Hh:Nn", with any character in the middle; nothing for a good one. The message shows the
-/// time `now` as an example.
+/// Returns the error message for a text that is not a time "Hh:Nn", with any character in the middle; nothing for a good time. The
+/// message gives the time `now` as an example.
 std::optional<std::string> ValiderTid(std::string_view text, const DateTime& now);
-/// Whether the text is a date.
+/// Whether the text is a valid date.
 bool GyldigDato(std::string_view text);
 
 }  // namespace vatro

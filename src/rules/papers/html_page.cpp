@@ -11,14 +11,14 @@ namespace vatro {
 
 namespace {
 
-/// Behind the comma and the first letter of the first operator.
+/// Skips the comma and the first letter of the first operator; see DanHtmSummary.
 constexpr std::size_t kOperatorsFrom = 3;
 
 std::string Anchor(const LogId& log) {
     return std::string(log.band).append(log.mode);
 }
 
-/// A number with one blank, or its sign, before it and one blank behind.
+/// Formats a number with a blank or its sign before it and a blank behind it.
 std::string FreeForm(std::int32_t number) {
     return NumberText(number) + " ";
 }

@@ -9,7 +9,7 @@ namespace vatro {
 
 namespace {
 
-/// Columns of a log line that a paper shows; the date stands in front of them.
+/// Number of columns of a log line that a paper shows, behind the date.
 constexpr std::size_t kShownWidth = 70;
 
 std::string YearText(const PaperContext& context) {

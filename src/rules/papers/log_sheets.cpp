@@ -7,7 +7,7 @@ namespace vatro {
 
 namespace {
 
-/// A page ends with a line of its own that the printer takes as one.
+/// Ends a page: written on a line of its own, it makes a printer begin a new page.
 constexpr std::string_view kFormFeed = "\f";
 
 class LogSheets : public LogPaper {

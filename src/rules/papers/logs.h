@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The ten logs as papers read them: each anew from its first line, and never changed. What is in memory of the log being worked
-// on plays no part.
+// The ten logs as papers read them: each from its first line in the file, and never changed. The log that the entry desk holds in
+// memory is not used.
 #pragma once
 
 #include <array>
@@ -13,7 +13,7 @@
 
 namespace vatro {
 
-/// The order in which papers set the logs out.
+/// The order of the logs on papers.
 inline constexpr std::array<LogId, 10> kPaperOrder{{{"80m", "CW"},
                                                     {"80m", "SSB"},
                                                     {"40m", "CW"},
@@ -29,36 +29,35 @@ inline constexpr std::array<LogId, 10> kPaperOrder{{{"80m", "CW"},
 class LogReader {
 public:
     virtual ~LogReader() = default;
-    /// The log from its first line on; good until the log is closed. Fails if there is no such log, and with 55 while another
-    /// one is still open.
+    /// Opens a log at its first line; valid until Close. Fails if there is no such log, and with 55 while another log is open.
     virtual LineSource& Open(const LogId& log) = 0;
     /// Closes the open log.
     virtual void Close() = 0;
 };
 
-/// Writes a blank line, which holds one blank.
+/// Writes a blank line; it contains one blank.
 void WriteBlank(LineSink& paper);
 
-/// Whether the line is a note. Unlike the load of a log, papers know the mark only in upper case: a line that an editor has
-/// turned into "Note: " counts as a contact on every paper.
+/// Whether the line is a note. Unlike the load of a log, papers recognise the mark only in upper case: if an editor has changed it to
+/// "Note: ", the line counts as a contact on every paper. Stations that recount an old log rely on this to get the sum they sent in.
 bool IsNoteLine(std::string_view line);
 /// Whether the line counts as a contact: neither a note nor marked as a duplicate.
 bool CountsAsContact(std::string_view line);
-/// Whether the line counts as a multiplier: a contact whose column 44 is not a blank. A line that ends before it counts.
+/// Whether the line counts as a multiplier: a contact whose column 44 is not blank. A line that ends before column 44 counts too.
 bool CountsAsMultiplier(std::string_view line);
 
-/// Sums of lines. A sum over 32 bits fails with 6.
+/// Totals of contact lines. Fails with 6 if a total overflows 32 bits.
 struct LogSum {
     std::int32_t Points = 0;
     std::int32_t Mults = 0;
     std::int32_t Score = 0;
 
-    /// Counts a line. The value of the points columns counts for every line, also of a duplicate, which holds 0 there, and of a
-    /// note: digits that a note has at these columns raise the points of its log.
+    /// Adds a line to the totals. The points columns are added for every line: also for a duplicate, which has 0 there, and for a
+    /// note, so digits of a note in these columns raise the points of its log.
     void CountLine(std::string_view line);
-    /// Adds points and multipliers of other lines.
+    /// Adds the points and multipliers of other totals.
     void Add(const LogSum& other);
-    /// Multipliers times points.
+    /// Sets the score to multipliers times points.
     void ComputeScore();
 };
 

@@ -18,7 +18,7 @@ constexpr std::size_t kCellWidth = 7;
 constexpr int kRowsPerPage = 50;
 constexpr std::string_view kModes = "CW     SSB    CW     SSB    CW     SSB    CW     SSB    CW     SSB    ";
 
-/// The cells of a row side by side, or nothing below the last row of all columns.
+/// The cells of a row side by side; nothing if the row is below the last row of every column.
 std::optional<std::string> MultiplierRow(const Multipliers& multipliers, std::size_t row) {
     std::string text;
     bool any = false;
@@ -49,7 +49,7 @@ MultColumn SamlMult(LogReader& logs, const LogId& log) {
         }
         logs.Close();
     } catch (const RunTimeError&) {
-        // With what was collected; the log stays open.
+        // The column ends with what was collected so far, and the log stays open; see the header.
     }
     return column;
 }

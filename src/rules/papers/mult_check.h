@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The multiplier check sheet: which multipliers were claimed in which log, ten sorted columns side by side. The rows are not
-// aligned across the columns.
+// The multiplier check sheet: the multipliers claimed in each log, in ten sorted columns side by side. Equal multipliers do not line
+// up across the columns.
 #pragma once
 
 #include <array>
@@ -16,12 +16,13 @@ namespace vatro {
 
 inline constexpr std::size_t kMultiplierRows = 100;
 
-/// Cells of a column, from 1. A cell has at most 7 characters. That of a line which ends before the multiplier is shorter and
-/// moves the columns to its right on the sheet, which shows the operator that the log holds such a line.
+/// The cells of a column, counted from 1. A cell has at most 7 characters. For a line that ends before the end of the multiplier the
+/// cell is shorter and moves the columns to its right; this shows the operator that the log has such a line.
 using MultCells = std::array<std::string, kMultiplierRows + 1>;
-/// By column, in the order of kTenLogs.
+/// The columns, in the order of kTenLogs.
 using MultTable = std::array<MultCells, kTenLogs.size()>;
-/// Cells in use, by column. One more than there are if a log has more multipliers than the table has rows.
+/// The number of cells in use in each column. If a log has more multipliers than the table has rows, the first one too many is
+/// counted too.
 using MultCount = std::array<std::size_t, kTenLogs.size()>;
 
 /// One log's column.
@@ -35,29 +36,29 @@ struct Multipliers {
     MultCount count{};
 };
 
-/// Collects the multipliers of a log. A log that cannot be opened gives an empty column. One cell too many, or any failure on the
-/// way, ends the column in silence, with that cell counted, and leaves the log open, so that the logs after it give nothing.
+/// Collects the multipliers of a log. A log that cannot be opened gives an empty column. If the column overflows, or on any other
+/// failure, the column ends without a message and the log stays open, so the logs after it give nothing; a cell too many is counted.
 MultColumn SamlMult(LogReader& logs, const LogId& log);
 
-/// Sorts each column by character code. Fails with 9 if one has a cell too many.
+/// Sorts each column by character code. Fails with 9 if a column has a cell too many.
 Multipliers SortMult(Multipliers multipliers);
 
-/// SamlMult of the ten logs, in their order, and SortMult.
+/// Runs SamlMult for the ten logs, in the order of kTenLogs, then SortMult.
 Multipliers CollectAllMultipliers(LogReader& logs);
 
-/// What a form of the check sheet does with it: prints a line as it stands, begins a page with its heading.
+/// The callbacks of one form of the check sheet: `line` writes a line, `newPage` begins a page with its heading.
 struct MultiplierPaper {
     std::function<void(std::string_view)> line;
     std::function<void()> newPage;
 };
-/// Lays the table out. The first page holds 51 rows and each later one 50, under a heading that names each band once. This is
-/// kept on purpose: the pages break where they always have.
+/// Lays out the table. The first page holds 51 rows and each later one 50, under a heading that names each band once. Do not even
+/// this out: operators lay a new sheet beside an old one and expect the same page breaks.
 void LayOutMultipliers(const Multipliers& multipliers, const MultiplierPaper& paper);
 
-/// Writes the table, behind the heading of the first page.
+/// Writes the table. The caller has written the heading of the first page.
 void DanMult(LineSink& paper, const PaperContext& context, const Multipliers& multipliers);
 
-/// Band and mode of the sheet's heading.
+/// The two words in the heading of the sheet, where other papers have band and mode.
 inline constexpr LogId kMultiplierHeading{"Multiplier", "Checksheet"};
 
 }  // namespace vatro

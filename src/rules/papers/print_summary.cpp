@@ -23,7 +23,7 @@ std::string Blanks(std::size_t count) {
 
 constexpr BandColumns kColumns{"  @@@@@ x ", " @@@@@@@@"};
 
-/// Radio and antenna stand one above the other.
+/// Prints the two rows of a band: CW with the radio, SSB with the totals of the band and the antenna.
 void PrintBand(PageSink& pages, const PaperContext& context, const Tally& tally, std::size_t bandNumber) {
     const Equipment& equipment = context.equipment[bandNumber];
     Row(pages, BandRow(kColumns, bandNumber, " CW  ", tally.CW(bandNumber)) + Blanks(29) + equipment.radio);
@@ -35,7 +35,7 @@ void PrintBand(PageSink& pages, const PaperContext& context, const Tally& tally,
 
 void PrintPhone(PageSink& pages, const PaperContext& context) {
     pages.PrintPart(Indented(kPhoneLabel));
-    // Without a number this only ends the line.
+    // If there is no telephone number, this only ends the line.
     pages.PrintLine(GivenPhone(context));
 }
 

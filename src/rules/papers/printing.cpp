@@ -14,7 +14,7 @@ constexpr std::string_view kHeadingFont = "Arial";
 constexpr std::string_view kBodyFont = "Courier New";
 constexpr double kBodySize = 10;
 
-/// The printer's rows are as long as those of a file, with their figures elsewhere.
+/// The printer's format. Its rows are as long as in files, but the numbers stand in other columns.
 constexpr TotalForm kPrintTotals{46, "@@@@@", "      @@@@", "      @@@@@@@"};
 
 void BeginNextPage(PageSink& pages, const PaperContext& context, std::string_view band, std::string_view mode) {
@@ -79,7 +79,8 @@ void PrintUnknownLines(LineSource& lines, PageSink& pages, const PaperContext& c
     for (int count = 0; !lines.AtEnd(); ++count) {
         if (count % kGroup == 0) pages.EndLine();
         const std::string line = lines.Next();
-        // Before the line is printed, so that the first page holds 49 lines; the pages break where they always have.
+        // The page break comes before the line is printed, so the first page holds 49 lines. Kept so that new prints break where
+        // older ones do, for operators who compare them.
         if (count % kLinesPerPage == kLinesPerPage - 1) BeginNextPage(pages, context, "ukendt", {});
         pages.PrintLine(Indented(line));
     }

@@ -24,7 +24,7 @@ constexpr std::string_view WithoutTrailingBlanks(std::string_view text) {
 
 bool IsNewOperator(std::string_view Operators, std::string_view operatorCall) {
     if (operatorCall == kImported) return false;
-    // Nothing is found in an empty list, not even the empty text.
+    // In an empty list nothing counts as found, not even the empty text.
     return Operators.empty() || Operators.find(operatorCall) == std::string_view::npos;
 }
 
@@ -37,7 +37,7 @@ std::string StationName(const Stations& stations, std::string_view ownCall) {
     return {};
 }
 
-/// Goes to the next print zone: at least one blank.
+/// Pads the line with blanks, at least one, to the next print zone (a fixed tab stop).
 std::string ToNextZone(std::string line) {
     line.resize((line.size() / kZone + 1) * kZone, ' ');
     return line;
@@ -86,7 +86,7 @@ LogCount SumLog(LogReader& logs, const LogId& log, std::string Operators) {
         }
         logs.Close();
     } catch (const RunTimeError&) {
-        // With what was counted; the log stays open.
+        // The count ends with the lines read so far, and the log stays open; see the header.
     }
     return count;
 }

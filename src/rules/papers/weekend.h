@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The contest weekend: the first Saturday of September and the Sunday after it. No paper prints it: dates on paper are those of
-// the lines.
+// The contest weekend: the first Saturday of September and the Sunday after it. No paper prints it; the dates on papers come from the
+// log lines.
 #pragma once
 
 #include <string>
@@ -11,15 +11,15 @@
 namespace vatro {
 
 struct ContestWeekend {
-    /// Saturday and Sunday, each read back from a text with a two-digit year: from 2050 on they lie a century back.
+    /// Saturday and Sunday. Each is read back from a text with a two-digit year, so from 2050 on they are a century too early.
     DateTime gdFirstDay;
     DateTime gdSecondDay;
-    /// The same days as "yyyy-mm-dd", with all four figures of the year.
+    /// The same days as "yyyy-mm-dd", with the right century.
     std::string gsFirstDay;
     std::string gsSecondDay;
 };
 
-/// The weekend of a year.
+/// Returns the contest weekend of a year.
 ContestWeekend Find1Weekend(int year);
 
 }  // namespace vatro

@@ -21,7 +21,7 @@ std::int32_t EuropeanPoints(std::string_view call) {
 std::int32_t BeregnPoint(std::string_view call, const CountryTables& tables, const Stations& stations, bool gbVisLand) {
     std::string known = MoveDigitSuffix(call);
     if (known.ends_with("/QRP")) known.resize(known.size() - 4);
-    // A suffix by itself, such as "/3", leaves nothing to look up.
+    // A call that is only a suffix, such as "/3", leaves nothing to look up.
     if (known.empty()) return EuropeanPoints(known);
 
     // Each step overrides those before it.

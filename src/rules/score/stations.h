@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The society's own stations, which count more: edr.txt, made by hand, one station a line.
+// The society's own stations, which count 10 points: edr.txt, a text file made by hand, one station per line.
 //
 //    1-6   call, blank-padded
 //    7-80  free text; what stands before the first "," of the line, call included, is shown to the operator
@@ -25,45 +25,45 @@ inline constexpr std::size_t kEdrCall = 6;
 
 struct EDRRec {
     FixedText<80> Linje;
-    /// Worked in the current log. In no file.
+    /// Whether it has been worked in the current log. Not stored in any file.
     bool Wkd = false;
 };
 
-/// The six characters by which a station is known: the call cut off there, or filled up with blanks.
+/// The six characters that identify a station: the call, cut or padded with blanks.
 std::string StationCall(std::string_view call);
 
-/// The list. Rows change by Read alone.
+/// The list of stations. Only BeginReading and Read change its rows.
 class Stations {
 public:
     std::array<EDRRec, kEdrRows + 1> EDRstn;
-    /// Rows in use. After a load that failed at the end of the table it counts the line that did not fit.
+    /// Rows in use. After a load that failed because the table is full, the line that did not fit is counted too.
     std::int16_t giEDR = 0;
 
-    /// No row is in use any more.
+    /// Empties the list, before the first Read.
     void BeginReading() { giEDR = 0; }
-    /// The next row, not worked. Fails with 9 where the table is full, with the row counted.
+    /// Adds a station from a line, marked as not worked. Fails with 9 if the table is full, with the row counted.
     void Read(std::string_view line);
 
-    /// Rows that can be visited: the count, but no row beyond the table.
+    /// The number of rows that may be read: giEDR, but at most the size of the table.
     int StationsInUse() const;
 
-    /// Recognises a station by its six characters. Mark marks it as worked, Unmark takes the mark away. Gives the points of a station
-    /// found, whatever the action, and nothing for a call that is none.
+    /// Looks a station up by the first six characters of the call and applies the action: Mark marks it as worked, Unmark clears the
+    /// mark, Test changes nothing. Returns the points of the station, whatever the action; nothing if the call is not on the list.
     std::optional<std::int32_t> EDRstnWkd(std::string_view call, MarkAction action);
-    /// As with Test.
+    /// The same lookup, without an action.
     std::optional<std::int32_t> StationPoints(std::string_view call) const;
 
-    /// Words the station of a base call for the operator.
+    /// Returns the text about the station of a base call that is shown to the operator; nothing if it is not on the list.
     std::optional<std::string> findEDRstn(std::string_view call) const;
 
-    /// Clears the worked marks.
+    /// Clears the worked marks of all stations.
     void ResetEDR();
 
 private:
-    /// The row that comes next behind this one with the packed call, or 0.
+    /// The next row after this one with the packed call, or 0.
     std::size_t RowBehind(std::size_t row, std::uint64_t call) const;
 
-    /// The calls of the rows, packed: every line of a log that is loaded is looked for among all stations.
+    /// The calls of the rows, packed into numbers for speed: when a log is loaded, each of its lines is looked up here.
     std::array<std::uint64_t, kEdrRows + 1> keys_{};
 };
 
