@@ -96,8 +96,7 @@ public:
 
     /// Whether one of the first `before` contacts is with this station.
     bool Holds(const std::string& base, std::size_t before) const;
-    /// Whether a duplicate would mark the country as worked. The next load would not mark it, so the contest avoids such
-    /// contacts.
+    /// Whether a duplicate would mark the country as worked, although the next load would not mark it.
     bool WouldMarkByDuplicate(const Call& call, std::size_t before) const;
     int Points() const;
     /// Counts again from the lines, as loading does. Throws if that changes anything.

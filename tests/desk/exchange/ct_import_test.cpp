@@ -254,7 +254,7 @@ TEST_F(CtImport, AFileOfThreeLinesIsToldToBeEmptyOnItsOwnBand) {
 
 TEST_F(CtImport, AFileThatCannotBeOpenedStopsTheProgram) {
     Start();
-    // The open fails silently; testing for the end of the file then fails because no file is open under the number.
+    // Testing for the end of the file fails because no file is open under the number.
     Import("CT\\NONE.40");
     EXPECT_EQ(dialogs.failures, std::vector<int>{52});
 }

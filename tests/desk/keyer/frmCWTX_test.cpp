@@ -189,8 +189,7 @@ TEST_F(Sending, AnEventThatComesAfterTheStopDoesNothing) {
 TEST_F(Sending, ASecondTextComesInWhereTheFirstOneStood) {
     Start();
     SendText("EEEEEEEEEE");
-    // Two halves hold 16.67 dots of 2646 samples: four dots with their gaps are 16 slots less the gaps, and the cut 17th slot
-    // is the fifth dot.
+    // Two halves hold 16.67 slots of 2646 samples: four dots, each with three slots of gap, and the cut 17th slot, the fifth dot.
     EXPECT_EQ(Place().glTegnPos, 4);
     EXPECT_EQ(Place().gscwtegn, "4");
     EXPECT_EQ(Place().glElementPos, 1);
