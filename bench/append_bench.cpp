@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// From Enter to the line on the disk. The yardstick opens a file as long as the log, appends the same line, syncs and
-// closes, with the calls of the system.
+// Measures the time from Enter until the contact line is on the disk. The yardstick opens a file as long as the log, appends
+// the same line, syncs it and closes it, using the system's calls directly.
 //
-// A disk is as fast as what it has just done lets it be. So each of the three does all three in every round, in turns, and
-// counts the time of its own.
+// The speed of a disk depends on what it has just done. Therefore each of the three benchmarks runs all three steps in every
+// round, in turn, and counts only the time of its own step.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,11 +21,11 @@ namespace vatro::bench {
 
 namespace {
 
-/// A disk has its moments: many short runs, of which the median counts.
+/// The speed of a disk varies, so there are many short runs, and the median counts.
 constexpr int kRounds = 30;
 constexpr int kRuns = 25;
 
-/// In the order of the steps of a round.
+/// In the order of the steps within a round.
 enum class Counted { Bare, Append, Enter };
 
 bool AppendBare(const char* file, std::string_view line) {
@@ -53,7 +53,7 @@ void Contact(benchmark::State& state, Counted counted) {
     bool written = true;
     const std::function<void()> steps[]{[&] { written = AppendBare(file.c_str(), line) && written; }, [&] { AppendLog(log.back()); },
                                         [&] { program.Press("Enter"); }};
-    // The first sync of a file takes all that was written before.
+    // The first sync of a file also writes everything that was written before it.
     steps[0]();
     steps[1]();
     std::size_t first = 0;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The import of a long CT log. Each of its contacts is on the disk before the next one is looked at, so the yardstick is as
-// many appended and synced lines with the calls of the system.
+// Imports a long CT log. Each contact is on the disk before the next one is read, so the yardstick appends and syncs as many
+// lines, using the system's calls directly.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <unistd.h>
@@ -26,7 +26,7 @@ std::vector<std::string> FirstContacts() {
     return lines;
 }
 
-/// The same contacts as CT writes them, behind a head of three lines.
+/// The same contacts in the format of CT, after a head of three lines.
 std::vector<std::string> CtLog() {
     std::vector<std::string> lines{"", "", std::string(43, ' ') + "SSB"};
     for (const std::string& line : FirstContacts()) {

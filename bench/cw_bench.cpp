@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Morse on time. While one half of the sound buffer plays, which takes half a second, the other one must be filled: a fill is
-// held against that time, and against a bare copy of as many bytes. And how long the key of a text takes until the sound plays:
-// the first time, when card, tone and pieces are made, and from then on.
+// Checks that Morse is generated in time. While one half of the sound buffer plays, which takes half a second, the program must
+// fill the other half. A fill is compared with that half second, and with a plain copy of the same number of bytes. Also
+// measures how long it takes from pressing the key of a text until the sound plays: the first time, when the sound card, the
+// tone and the Morse pieces are prepared, and every later time.
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -35,14 +36,14 @@ void CopyHalf(benchmark::State& state) {
     }
 }
 
-/// The program in CW, with an empty log.
+/// The program in mode CW with an empty log.
 class Station {
 public:
     Station() : program_({}) {
         program_.Type("CW");
         program_.Press("Enter");
     }
-    /// Seconds that the key takes.
+    /// The time from the key to the sound, in seconds.
     double Press(const char* key) {
         const auto start = std::chrono::steady_clock::now();
         program_.Press(key);
@@ -53,7 +54,8 @@ private:
     Program program_;
 };
 
-/// Half after half of a text that does not end, at the highest speed of the arrows, each copied into a buffer.
+/// Fills one half after the other from an endless text at the highest speed that the arrow keys allow; each half is copied into
+/// a buffer.
 void Fill(benchmark::State& state, const char* yardstick) {
     std::string text;
     for (int i = 0; i < 1000; ++i) text += "CQ TEST DE OZ1AB/P OZ1AB/P TEST K ";

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The import of a country file with as many prefixes as the table holds. What it writes stays in memory, so that waiting for
-// the disk is no part of it. The yardstick reads the same file and splits it into its items.
+// Imports a country file with as many prefixes as the table can hold. The files it writes stay in memory, so waiting for the
+// disk is not measured. The yardstick reads the same file and splits it into its items.
 #include <benchmark/benchmark.h>
 
 #include <string>
@@ -26,7 +26,7 @@ namespace {
 constexpr int kCountries = 345;
 constexpr int kItemsPerLine = 9;
 
-/// Reads from the disk; what is written is kept in memory.
+/// Reads from the disk and keeps written files in memory.
 class ReadingFiles : public DiskFiles {
 public:
     void Open(int number, std::string_view path, FileMode mode) override {
@@ -45,7 +45,7 @@ std::string Letters(int number) {
     return text;
 }
 
-/// kTableRows items out of order, a zone at one in eight, spread over the countries.
+/// kTableRows items in unsorted order, spread over the countries; one item in eight has a zone.
 std::vector<std::string> SampleCtyFile() {
     std::vector<std::string> lines;
     int item = 0;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// One key in the call field: the country in words, the contacts worked before, the number to send. The yardstick looks at
-// the call of every line and at every prefix once.
+// Measures one key press in the call field, which shows the country, the earlier contacts and the number to send. The yardstick
+// looks once at the call of every log line and once at every prefix.
 //
-// The call stands nowhere in the log, so that the search cannot stop early. Each round is a key and the one that takes it
-// back, and two scans.
+// The call does not occur in the log, so the search cannot stop early. Each round presses a key, deletes the character again,
+// and makes two scans.
 #include <benchmark/benchmark.h>
 
 #include "entry/frmB4.h"

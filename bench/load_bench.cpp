@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Loading a log: the list, the marks, the counters; and a band change, which loads and prepares the form. The yardstick reads
-// the same file into lines.
+// Loads a log, with its list, marks and counters; and changes the band, which loads a log and prepares the form. The yardstick
+// reads the same file into lines.
 #include <benchmark/benchmark.h>
 
 #include <fstream>
@@ -36,7 +36,7 @@ void LoadLog(benchmark::State& state) {
     }
 }
 
-/// From one long log to another: the band in use is chosen again, which is a change like any other.
+/// Chooses the band that is already in use again, which reloads the log like any other band change.
 void ChangeBand(benchmark::State& state) {
     constexpr int k80m = 5;
     const Program program(SampleLog());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A country that is not found, which both searches of the table have to be sure of. The yardstick looks at every prefix
-// once.
+// Looks up a call whose country is not found, so that both searches of the table must run to their end. The yardstick looks at
+// every prefix once.
 #include <benchmark/benchmark.h>
 
 #include "sample.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The papers of ten logs of 2,000 contacts, as the menu makes them. What they write stays in memory, so that waiting for the disk
-// is no part of it, and the printer takes no time. The yardstick reads the ten files into lines; that of the error list looks up
-// the countries that it must look up.
+// Makes the papers of ten logs of 2,000 contacts, as the menu does. The files they write stay in memory, so waiting for the
+// disk is not measured, and the printer takes no time. The yardstick reads the ten files into lines; the yardstick of the error
+// list also looks up every country that the list needs.
 #include <benchmark/benchmark.h>
 
 #include <fstream>
@@ -27,10 +27,10 @@ namespace vatro::bench {
 namespace {
 
 constexpr std::size_t kContacts = 2000;
-/// The check sheet has room for a hundred.
+/// The check sheet has room for a hundred multipliers.
 constexpr int kCountries = 80;
 
-/// A printer on which everything fits and nothing is kept.
+/// A printer that keeps nothing and on which everything fits.
 class NoPrinter : public PageDevice {
 public:
     double Width() const override { return 595; }
@@ -44,7 +44,7 @@ public:
     std::size_t printed = 0;
 };
 
-/// Reads from the disk; of what is written one piece at a time is kept in memory.
+/// Reads from the disk. Of the file being written it keeps only the last piece in memory.
 class ReadingFiles : public DiskFiles {
 public:
     void Open(int number, std::string_view path, FileMode mode) override {
@@ -58,14 +58,14 @@ public:
         piece_.append(text).append("\r\n");
         ++lines;
     }
-    /// Of the last file written.
+    /// Belongs to the file written last.
     std::size_t lines = 0;
 
 private:
     std::string piece_;
 };
 
-/// A log without an error, of calls of the sample.
+/// A log without errors, made of calls from the sample.
 std::vector<std::string> FaultlessLog(const std::vector<std::string>& sample, std::string_view mode) {
     std::vector<std::string> log;
     WorkedCountries countries(desk().tables);
@@ -128,8 +128,8 @@ void ReadTen(benchmark::State& state) {
     }
 }
 
-/// What one entry of the menu makes. `lines` is how many the file written last must have, `printed` how many characters the
-/// printer must get at least.
+/// Makes what one menu entry makes. The last file written must have `lines` lines, and the printer must get at least `printed`
+/// characters.
 void MakePaper(benchmark::State& state, MenuItem MainMenu::*entry, std::size_t lines, std::size_t printed) {
     const Station station;
     state.SetLabel("vs ten files into lines, at most 6");
@@ -158,7 +158,7 @@ void ListErrors(benchmark::State& state) {
     const Station station;
     state.SetLabel("vs country lookups of ten logs, at most 2");
     for (auto _ : state) Station::Choose(frmMain->mnuFilerDanFejlliste);
-    // Of each log its heading and that it is faultless.
+    // For each log there is a heading and a line that says it has no errors.
     if (station.files.lines != 2 + 4 * kTenLogs.size()) state.SkipWithError("errors were found");
 }
 

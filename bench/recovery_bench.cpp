@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The look through the log directory at each start. Every log is compared with its newest earlier version, so the yardstick reads
-// both with the calls of the system.
+// Measures the check of the log directory at every start. It compares each log with its newest earlier version, so the
+// yardstick reads both with the system's calls.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,7 +21,7 @@ namespace {
 constexpr std::size_t kContacts = 1000;
 constexpr DateTime kNow{2026, 9, 6, 10, 0, 0, 0};
 
-/// Ten logs that have been corrected since, and their versions.
+/// Ten logs that have been corrected, with their earlier versions.
 class TenLogs {
 public:
     TenLogs() : history_(Directory(), workplace_.Path("state"), [] { return kNow; }) {

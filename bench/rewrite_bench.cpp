@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The rewrite of a long log, as after a correction. The yardstick writes the same lines to a copy with the calls of the system,
-// syncs it, and puts it in the place of the old file; a disk that is merely deleted from and renamed on costs it no less.
+// Rewrites a long log, as after a correction. The yardstick writes the same lines to a copy with the system's calls, syncs the
+// copy, deletes the old file, renames the copy to its name and syncs the directory.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <unistd.h>
@@ -65,7 +65,7 @@ void Rewrite(benchmark::State& state) {
     state.SetLabel("vs 10000 lines written, synced, renamed, at most 2");
     std::string line = desk().log.Lines().front();
     for (auto _ : state) {
-        // Another received number each time, as a correction has it.
+        // The received number differs each time, as after a correction.
         std::swap(line[35], line[38]);
         desk().log.Replace(0, line);
         SkrivLog();

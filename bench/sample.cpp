@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Fills a prefix up in a sort, so that it comes behind the longer ones that begin with it.
+/// Fills up a prefix for sorting, so that it comes after the longer prefixes that begin with it.
 constexpr char kFiller = '\xE5';
 
 std::vector<std::string> ReadLines(const fs::path& file) {
@@ -34,7 +34,7 @@ std::string TwoFigures(int number) {
     return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
 }
 
-/// The same calls in every run: the generator is the standard's own and its numbers are used as they come.
+/// Gives the same calls in every run: the generator of the standard library is used, and its numbers are taken unchanged.
 class CallMaker {
 public:
     CallMaker() {

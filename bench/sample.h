@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// What the benchmarks run on: a log as long as ten big contests and a prefix table that is full.
+// The input of the benchmarks: a log as long as those of ten big contests together, and a full prefix table.
 //
-// Both are the same in every run. The calls are made up; their prefixes are those of the program's first tables.
+// Both are the same in every run. The calls are invented; their prefixes are those of the tables that the program is delivered
+// with.
 #pragma once
 
 #include <filesystem>
@@ -12,19 +13,19 @@
 namespace vatro::bench {
 
 inline constexpr int kLogLines = 10000;
-/// One more is the spare row of the import's sort.
+/// The table has one more row, the spare row that the import's sort uses.
 inline constexpr int kTableRows = 5999;
 
-/// Serial numbers begin again behind it, so that numbers of four figures are left for the contacts that a benchmark logs.
+/// Serial numbers start again after this one, so that four-digit numbers remain free for the contacts that a benchmark logs.
 inline constexpr int kHighestNumber = 1000;
 
-/// Contact lines of 79 columns, all in SSB; one in eighty has a multiplier.
+/// Contact lines of 79 columns, all in SSB; one in eighty is a multiplier.
 std::vector<std::string> SampleLog();
 
-/// Writes lande.txt, refpfx.txt (filled up to kTableRows with exact calls, in order), edr.txt and operator.txt.
+/// Writes lande.txt, refpfx.txt (filled up to kTableRows with exact calls, in sorted order), edr.txt and operator.txt.
 void WriteTables(const std::filesystem::path& directory);
 
-/// Writes lines, each ended by CR LF.
+/// Writes the lines, each ending in CR LF.
 void WriteLines(const std::filesystem::path& file, const std::vector<std::string>& lines);
 
 }  // namespace vatro::bench

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The barest way to look at the same bytes: how often one character stands in them.
+// The simplest way to look at the same bytes: counts how often one character occurs in them.
 #pragma once
 
 #include <algorithm>
@@ -18,14 +18,14 @@ inline std::ptrdiff_t CountIn(std::string_view text, char sought) {
     return std::count(text.begin(), text.end(), sought);
 }
 
-/// The call columns of every line.
+/// The call columns of every log line.
 inline std::ptrdiff_t ScanLog(const std::vector<std::string>& lines, char sought) {
     std::ptrdiff_t found = 0;
     for (const std::string& line : lines) found += CountIn(kCall.Of(line), sought);
     return found;
 }
 
-/// The prefixes of the table.
+/// The prefixes in the table.
 inline std::ptrdiff_t ScanTable(char sought) {
     std::ptrdiff_t found = 0;
     for (int row = 1; row <= desk().tables.giRefPfx; ++row)

@@ -42,7 +42,7 @@ void Workplace::Furnish(const std::vector<std::string>& log, Settings& settings)
     settings.Write("Settings", "VisInfo2002", "False");
 }
 
-/// The files are those of the desktop program, which keeps what it replaces.
+/// Uses the file access of the desktop program, which keeps a version of every file it replaces.
 struct Program::Services {
     explicit Services(const Workplace& workplace) : files(disk, Around(workplace)) {}
     static SafeFiles::Surroundings Around(const Workplace& workplace) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The program started for a benchmark: all of the logic, files on the real disk, and the front
-// without windows, so that what is measured is the program and not a toolkit.
+// The program, started for a benchmark: all of its logic, files on the real disk, and the front end without windows, so that
+// the program is measured and not the toolkit.
 #pragma once
 
 #include <filesystem>
@@ -14,7 +14,7 @@
 
 namespace vatro::bench {
 
-/// A directory for what a benchmark writes, on the disk of the current directory; removed at the end.
+/// A directory for the files of a benchmark, on the same disk as the current directory; removed at the end.
 class Workplace {
 public:
     Workplace();
@@ -23,7 +23,7 @@ public:
     Workplace& operator=(const Workplace&) = delete;
     std::filesystem::path Path(std::string_view name) const { return root_ / name; }
 
-    /// Full tables, this log of 80 metres SSB, and the settings that lead to them.
+    /// Writes full tables, this log of 80 metres SSB, and settings that point to them.
     void Furnish(const std::vector<std::string>& log, Settings& settings) const;
     std::filesystem::path LogFile() const;
 
@@ -31,10 +31,10 @@ private:
     std::filesystem::path root_;
 };
 
-/// The program from its start to its end. One at a time.
+/// The program from its start to its end. Only one can exist at a time.
 class Program {
 public:
-    /// Starts with full tables and this log of 80 metres SSB.
+    /// Starts the program with full tables and this log of 80 metres SSB.
     explicit Program(const std::vector<std::string>& log);
     ~Program();
     Program(const Program&) = delete;
@@ -43,9 +43,9 @@ public:
     std::filesystem::path LogFile() const { return workplace_.LogFile(); }
     std::filesystem::path Path(std::string_view name) const { return workplace_.Path(name); }
 
-    /// A key by its name: "Enter", "Backspace", "Space".
+    /// Presses the key of this name: "Enter", "Backspace", "Space".
     void Press(const char* key);
-    /// The characters, one key after the other.
+    /// Types the characters one by one.
     void Type(std::string_view text);
 
 private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Nobody sits at a benchmark.
+// Answers for a program that runs without an operator.
 #pragma once
 
 #include "memory_platform.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// What the operator waits for: from the start to the painted window, from a key to the painted list. The yardsticks are
-// windows of the toolkit alone.
+// Measures what the operator waits for: from the start until the window is painted, and from a key until the list is painted.
+// The yardsticks are windows of the toolkit alone.
 //
-//   vatro-bench-window --paint empty               a process that paints its window, prints its memory in bytes and ends
-//   vatro-bench-window --paint program SETTINGS    the same with the program, as the settings in this file have it
+//   vatro-bench-window --paint empty               paints an empty window, prints the memory of the process in bytes and ends
+//   vatro-bench-window --paint program SETTINGS    the same for the program, with the settings in this file
 #include <benchmark/benchmark.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -47,7 +47,7 @@ namespace vatro::bench {
 
 namespace {
 
-/// Delivers events until a widget has been painted.
+/// Processes events until a widget has been painted.
 class UntilPainted : public QObject {
 public:
     explicit UntilPainted(QWidget& widget) : widget_(widget) { widget.installEventFilter(this); }
@@ -57,7 +57,7 @@ public:
             QCoreApplication::processEvents();
             if (std::chrono::steady_clock::now() - start > std::chrono::seconds(10)) throw std::runtime_error("nothing is painted");
         }
-        // The filter sees the event before the widget does; the next round comes behind it.
+        // The filter sees the event before the widget does, so the widget has been painted by the next round.
         QCoreApplication::processEvents();
     }
 
@@ -71,7 +71,7 @@ private:
     bool painted_ = false;
 };
 
-/// What paints of a list.
+/// The part of a list that paints.
 QWidget& Surface(QWidget* widget) {
     auto* const area = qobject_cast<QAbstractScrollArea*>(widget);
     if (area == nullptr) throw std::runtime_error("a list without a widget");
@@ -90,7 +90,7 @@ public:
     Windows(const Windows&) = delete;
     Windows& operator=(const Windows&) = delete;
 
-    /// Returns when the log is painted.
+    /// Returns when the log has been painted.
     void Start() {
         InstallPlatform(front_, {unattended_, settings_, files_, clock_, unattended_, unattended_, sound_, printer_, Version{}});
         BeginProgram();
@@ -117,7 +117,7 @@ void PaintEmpty(QMainWindow& window) {
     UntilPainted(window).Wait();
 }
 
-/// A station with the long log, and the settings that lead to it.
+/// A station with the long log and the settings that point to it.
 class Station {
 public:
     Station() {
@@ -130,7 +130,7 @@ private:
     Workplace workplace_;
 };
 
-/// Runs this program again with these arguments, up to its end; it tells its memory.
+/// Runs this program again with these arguments until it ends. The child process reports its memory.
 void RunSelf(benchmark::State& state, std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), "/proc/self/exe");
     std::vector<char*> argv;
@@ -171,7 +171,7 @@ void PressKey(QWidget& field, Qt::Key key, const QString& text) {
     QCoreApplication::sendEvent(&field, &release);
 }
 
-/// A key that fills the list and the one that empties it, each up to the painted list.
+/// Presses a key that fills the list and one that empties it, and waits each time until the list is painted.
 void Keys(benchmark::State& state, QWidget& field, QWidget& list) {
     for (auto _ : state) {
         UntilPainted filled(list);
@@ -183,7 +183,7 @@ void Keys(benchmark::State& state, QWidget& field, QWidget& list) {
     }
 }
 
-/// How many contacts of the log have a call that holds "1L".
+/// The number of contacts whose call contains "1L".
 int Found() {
     const std::vector<std::string> log = SampleLog();
     return static_cast<int>(
@@ -239,7 +239,7 @@ long Memory() {
     return resident * sysconf(_SC_PAGESIZE);
 }
 
-/// Ends the process as soon as the window is painted: how long it takes to go is not asked.
+/// Ends the process as soon as the window is painted, without the program's own shutdown, which is not measured.
 [[noreturn]] void Paint(const std::string& settings) {
     std::optional<QMainWindow> window;
     std::optional<Windows> windows;

@@ -1,18 +1,19 @@
 # cmake -D LIST=FILE -D STAMP=FILE -P check_includes.cmake
 #
-# Refuses includes that lead out of the include roots: LIST names the sources, one a line; STAMP is touched when all are right.
+# Refuses includes that lead out of the include roots. LIST is a file with one source path per line; STAMP is touched if all includes are
+# right.
 cmake_minimum_required(VERSION 3.25)
 
-# What may stand between the parts of a directive.
+# Blanks and comments may stand between the parts of a directive.
 set(blank "([ \t]|/\\*.*\\*/)*")
 file(STRINGS ${LIST} files ENCODING UTF-8)
 set(wrong)
 foreach(file IN LISTS files)
   file(STRINGS ${file} includes REGEX "^${blank}(#|%:)${blank}(include|include_next|import)([^A-Za-z0-9_]|$)" ENCODING UTF-8)
   foreach(include IN LISTS includes)
-    # Written out, so that everybody can read it here; a macro or a line that goes on below could hold anything.
+    # The header must be written out here: a macro or a continued line could hold any path.
     if(NOT include MATCHES "^[ \t]*#[ \t]*include[ \t]*(\"([^\"]+)\"|<([^>]+)>)[ \t]*(//.*)?$")
-      string(APPEND wrong "${file}: ${include}\n  The header must stand behind #include, in quotes or angle brackets.\n")
+      string(APPEND wrong "${file}: ${include}\n  The header must follow #include on the same line, in quotes or angle brackets.\n")
       continue()
     endif()
     set(path "${CMAKE_MATCH_2}${CMAKE_MATCH_3}")

@@ -1,11 +1,11 @@
-# What every storey of the house has in common.
+# What the storeys of src/ have in common. A storey is one static library.
 
 set(VATRO_CHECK_INCLUDES ${CMAKE_CURRENT_LIST_DIR}/check_includes.cmake)
 
 # vatro_check_includes(TARGET FOLDER)
 #
-# Every include below FOLDER names its header by a path below an include root of TARGET. One that leads out of it, by ".." or from
-# the root of the disk, would get at a storey that TARGET does not link: building TARGET fails at it.
+# Every include below FOLDER must name its header by a path below an include root of TARGET. An include that leads out of it, through ".."
+# or from the root of the disk, could reach a storey that TARGET does not link. Building TARGET then fails.
 function(vatro_check_includes target folder)
   get_filename_component(folder ${folder} ABSOLUTE)
   file(GLOB_RECURSE files CONFIGURE_DEPENDS ${folder}/*.h ${folder}/*.cpp)
@@ -23,8 +23,8 @@ endfunction()
 
 # vatro_storey(NAME ROOT FOLDER [USES TARGET...])
 #
-# The library vatro_NAME of all sources below FOLDER, which is its include root. It sees the include roots of what it uses and of what
-# those use. The sources of the other operating system and those of programs are left out.
+# Adds the library vatro_NAME from all sources below ROOT, which is its include root. It sees the include roots of the targets it uses, and
+# of those that they use. Sources for other operating systems and those of programs are left out.
 function(vatro_storey name)
   cmake_parse_arguments(PARSE_ARGV 1 storey "" "ROOT" "USES")
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${storey_ROOT}/*.cpp)

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The import of any CT log: it ends with one of its failures or as told, and whatever it has logged until then stands in the
-// file as in the list, in the columns of every other line, and counts the same when it is loaded again.
-// Input: the file as it stands.
+// Imports an arbitrary CT log. The import succeeds or ends with one of its documented failures. Every contact logged until then
+// is in the file and in the list alike, has the same columns as any other line, and counts the same when the log is loaded
+// again.
+// Input: the file itself.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -20,7 +21,7 @@ namespace {
 
 using namespace vatro;
 
-/// A number of five figures, which "9E99" is, moves the columns behind it: such a line is not looked at.
+/// A number of five digits, which "9E99" becomes, moves the columns behind it, so such a line is not checked.
 bool InItsColumns(std::string_view line) {
     constexpr std::size_t kLength = 79;
     if (line.size() < kLength) return false;
@@ -61,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool whole = file.size() == static_cast<std::size_t>(count) * 81;
     world->files.Close(2);
     IndlæsLogfil();
-    // A number that is too long stands where the points are looked for.
+    // A serial number that is too long moves the columns that the points are read from.
     if (whole && (desk().log.glPoint != points || frmMain->log.ListCount() != count)) __builtin_trap();
     EndProgram();
     return 0;

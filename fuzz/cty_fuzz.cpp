@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The check of a country file, and what is made of it to fit: never more items than there is room for, in a file that reads
-// the same again. Input: the file as it stands.
+// Checks an arbitrary country file and fits it to the program's table. The result never has more items than the table has room
+// for, and reading the new file gives the same items again. Input: the file itself.
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (const CtyCountry& country : again) items += country.items.size();
         if (items > kRoom || WriteCty(again) != fitted) __builtin_trap();
     } catch (const CtyError&) {
-        // Told by the tool.
+        // The tool reports this.
     }
     return 0;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The import of any country file: it ends with one of its failures and has written nothing, or leaves sorted tables behind.
-// Input: the file as it stands.
+// Imports an arbitrary country file. The import either ends with one of its failures and has written nothing, or leaves sorted
+// tables behind. Input: the file itself.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>

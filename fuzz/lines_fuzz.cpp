@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A file of any bytes read in lines, against a plain split of them at CR LF, CR or LF.
+// Reads a file of arbitrary bytes line by line and compares the result with a plain split at CR LF, CR or LF.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>

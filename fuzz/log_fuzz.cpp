@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Any lines in the logs: the load takes each as it stands, the check of suffixes shows just the calls of two spellings, and
-// the error list is made. Input: lines; the first character of each says which log it stands in.
+// Puts arbitrary lines into the logs. The log is loaded with each line unchanged, the check of suffixes shows exactly the calls
+// that occur with two spellings, and the error list is made. Input: lines; the first character of each selects its log.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -30,7 +30,7 @@ constexpr Field kBasis{1, 15};
 constexpr Field kBehind{16, 12};
 constexpr Field kSpelling{29, 15};
 
-/// The base call as the list holds it, and how it is spelled, of each contact.
+/// The base call of each contact as the list holds it, and how it is spelled.
 using Spellings = std::map<std::string, std::set<std::string>>;
 
 Spellings SpellingsOf(const std::vector<std::string>& lines) {
@@ -44,7 +44,8 @@ Spellings SpellingsOf(const std::vector<std::string>& lines) {
     return spellings;
 }
 
-/// Calls of two slashes may be grouped with others, and blanks within a call change its place: such logs are not compared.
+/// Calls with two slashes may be grouped with others, and blanks within a call change its place in the order, so such logs are
+/// not compared.
 bool Plain(const Spellings& spellings) {
     return std::ranges::all_of(spellings, [](const auto& call) {
         const std::string_view base = Trim(call.first);
@@ -65,7 +66,8 @@ void CheckSuffixes(const std::vector<std::string>& lines) {
         if (kBehind.Of(item) != kDashes && item != kDashes) shown[std::string(kBasis.Of(item))].insert(std::string(kSpelling.Of(item)));
     for (const auto& [base, ways] : spellings)
         if (ways.size() > 1 && shown[base] != ways) __builtin_trap();
-    // The first call may stay though it has one spelling; so may the second, whose dashes stand where the first item was.
+    // The first call may stay in the list although it has only one spelling. So may the second, which then has the dashes in
+    // the place of the first item.
     std::size_t alone = 0;
     for (const auto& [base, ways] : shown)
         if (ways.size() == 1) ++alone;
@@ -93,7 +95,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const LogId& log : kTenLogs) std::ranges::copy(Lines(texts, log), std::back_inserter(all));
     BeginProgram();
     Dispatch(StartProgram);
-    // A value too large for a counter ends the load with that line.
+    // A value too large for a counter ends the load at that line.
     const std::vector<std::string>& loaded = frmMain->log.Items();
     if (loaded.size() > current.size()) __builtin_trap();
     if (!std::equal(loaded.begin(), loaded.end(), current.begin())) __builtin_trap();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The searches of the prefix table against a plain scan of it, on any table and any call. Input: lines; the first is the
-// call, every other one a row's prefix.
+// Searches an arbitrary prefix table for an arbitrary call and compares the result with a plain scan. Input: lines; the first
+// is the call, every other one is the prefix of a row.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -63,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (base.size() > call.size()) __builtin_trap();
     std::string again = base;
     StripCall(again);
-    // Only a call that keeps a slash can lose more.
+    // Stripping again can shorten only a call that still has a slash.
     if (base.find('/') == std::string::npos && again != base) __builtin_trap();
 
     desk().gbVisLand = true;

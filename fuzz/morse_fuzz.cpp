@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Any text of a function key with any values of its codes: it expands to an end, and is sent to its end in samples hardly
-// louder than the volume. Input: lines; the text, the call, the number, the report.
+// Sends an arbitrary function key text with arbitrary values for its codes. The expansion terminates, the text is sent to its
+// end, and no sample is much louder than the volume. Input: lines; the text, the call, the number, the report.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -18,10 +18,10 @@ namespace {
 using namespace vatro;
 
 constexpr int kVolume = 10000;
-/// The peak wanders a little round the volume.
+/// The peak can differ slightly from the volume.
 constexpr int kLoudest = kVolume + kVolume / 4;
 
-/// The most half seconds that a character can take: eight dashes at the speed below, and the pause behind it.
+/// The most half seconds that a character can take: eight dashes at the speed below, and the pause after it.
 constexpr std::size_t kHalvesPerCharacter = 3;
 
 }  // namespace

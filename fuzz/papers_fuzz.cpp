@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Every paper of any ten logs: each ends, whatever the lines hold, and never ends the program but for a sum that is too large
-// or a table that is full. The lengths in the ADIF file are those of its texts. Input: as that of the target for log lines.
+// Makes every paper from ten arbitrary logs. Each paper is finished whatever the lines hold; the program ends only if a sum is
+// too large or a table is full. The lengths in the ADIF file match its texts. Input: as for the log_fuzz target.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -28,7 +28,7 @@ void Make(void (*paper)()) {
     for (const int number : {1, 2}) platform().files.Close(number);
 }
 
-/// Whether it is fields of the length that they tell, with text between that begins no field.
+/// Whether the text consists of fields with the length that they state, and of text between them that starts no field.
 bool ReadsAsAdif(std::string_view text) {
     const std::size_t head = text.find("<EOH>");
     if (head == std::string_view::npos) return false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The reader of scenarios: a text is refused with a line number that it has, or stands as it was when its own output is put in.
+// The reader of scenarios either refuses a text and names a line number that exists, or reads it; written out with the expected
+// output that it read, it still matches that output.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>

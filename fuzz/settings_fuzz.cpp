@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Any settings: the program starts with them, sends Morse and takes keys, or ends with a failure that is told. Input: lines; the
-// first character of each says which key.
+// Starts the program with arbitrary settings. It sends Morse and accepts keys, or ends with a failure that it reports. Input:
+// lines; the first character of each selects the settings key.
 #include <array>
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Any tables at the start: countries, prefixes, the society's stations, operators. The program starts, and calls are looked up
-// and given points, or it ends with a failure that is told. Input: lines; the first character of each says which table.
+// Starts the program with arbitrary tables of countries, prefixes, the society's stations and operators. The program starts,
+// looks calls up and computes their points, or it ends with a failure that it reports. Input: lines; the first character of
+// each selects the table.
 #include <array>
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Texts as they stand in files and fields: code page, numbers, times, dates.
+// Conversions of text in files and fields: code page, numbers, times, dates.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace vatro;
     const std::string_view text(reinterpret_cast<const char*>(data), size);
 
-    // Every byte of the code page survives the round trip; UTF-8 from elsewhere becomes some text of it.
+    // Every byte of the code page survives the round trip. UTF-8 from outside becomes some text in the code page.
     if (FromUtf8(ToUtf8(text)) != text) __builtin_trap();
     const std::string foreign = FromUtf8(text);
     if (FromUtf8(ToUtf8(foreign)) != foreign) __builtin_trap();

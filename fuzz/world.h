@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A program in memory that nobody sits at, with files that the target makes.
+// A program in memory without an operator, with files that the fuzz target provides.
 #pragma once
 
 #include <algorithm>
@@ -26,7 +26,7 @@ public:
     void ShowFailure(const RunTimeError&) override {}
 };
 
-/// Files as texts by their paths in upper case. A path without a text is no file.
+/// Files as texts, by their paths in upper case. A path without a text does not exist.
 class TextFiles : public Files {
 public:
     void Open(int number, std::string_view path, FileMode mode) override {
@@ -69,7 +69,7 @@ private:
     std::map<int, Slot> slots_;
 };
 
-/// The platform; nothing of the program runs before BeginProgram.
+/// The platform. No code of the program runs before BeginProgram.
 template <class F>
 struct FuzzWorld : MemoryPlatform {
     FuzzWorld() { Install(agreeing, files); }
@@ -91,7 +91,7 @@ struct RunningWorld : FuzzWorld<TextFiles> {
     }
 };
 
-/// The lines of a text, without their ends.
+/// The lines of a text, without their line ends.
 inline std::vector<std::string_view> LinesOf(std::string_view text) {
     std::vector<std::string_view> lines;
     while (!text.empty()) {
@@ -106,7 +106,7 @@ inline std::string LogName(const LogId& log) {
     return UpperText("log\\" + LogName(log.band, log.mode));
 }
 
-/// Lines into the ten logs, instead of what is there. The first character of each says which log it stands in.
+/// Puts lines into the ten logs and replaces what is there. The first character of each line selects its log.
 inline void FillLogs(std::map<std::string, std::string>& texts, std::string_view input) {
     for (const LogId& log : kTenLogs) texts.erase(LogName(log));
     for (const std::string_view line : LinesOf(input))

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
-# Windows programs from Debian's mingw-w64, run by wine. The posix variant has the threads of the standard library. Nothing of
-# the compiler's own stays outside the programs, so that each runs alone.
+# Builds Windows programs with Debian's mingw-w64, run by wine. The posix variant provides the threads of the standard library. The
+# compiler's libraries are linked statically, so that each program runs alone.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)

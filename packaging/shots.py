@@ -20,7 +20,7 @@ def set_colour(context, rgb):
 
 
 class Shot:
-    """A picture of the desktop and the windows in it: each as left, top, width, height in pixels of the picture."""
+    """A picture of the desktop and the windows in it. Each window is left, top, width, height in pixels of the picture."""
 
     def __init__(self, file, places, standing, captions):
         self.surface = cairo.ImageSurface.create_from_png(str(file))
@@ -32,8 +32,8 @@ class Shot:
 
 
 def take_shots(program, scenario, world, environment=()):
-    """Plays the scenario. Before each shot it must have looked at the place of every window that is wanted of it, and at some
-    time before at those of the main and side windows, which stay where they are."""
+    """Plays the scenario and returns its shots. Before each shot the scenario must print the place of every window that is needed
+    from that shot. The places of the main and side windows, which do not move, must be printed once before it."""
     told = subprocess.run([program, "--print", "--keep", world, scenario], check=True, stdout=subprocess.PIPE,
                           env={**os.environ, "QT_QPA_PLATFORM": "offscreen", **dict(environment)}).stdout.decode()
     shots, places, standing, captions = {}, {}, {}, {}
@@ -54,7 +54,7 @@ def take_shots(program, scenario, world, environment=()):
 
 
 def draw_window(context, surface, area, x, y, title):
-    """An area of a picture under a title bar of its own, with a line round both. Gives where the content stands."""
+    """Draws an area of a picture under a title bar, with a line around both. Returns the place of the content."""
     left, top, w, h = area
     set_colour(context, BAR)
     context.rectangle(x, y, w, TITLE_HEIGHT)

@@ -22,7 +22,7 @@ std::string Content(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// A file that a process started from this one may write to.
+/// A file that a child process may write to.
 HANDLE Inherited(const fs::path& path) {
     SECURITY_ATTRIBUTES inherited{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
     return CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -41,7 +41,7 @@ ProcessResult RunProcess(const fs::path& program, const std::vector<std::string>
     const fs::path out = told.Path() / "out.txt";
     const fs::path err = told.Path() / "err.txt";
     const fs::path itself = BesideTheTests(program);
-    // None of the tests has a quote in an argument.
+    // No test has a quote in an argument, so quotes need no escaping.
     std::wstring words = L'"' + itself.wstring() + L'"';
     for (const std::string& argument : arguments) words += L" \"" + PathOfUtf8(argument).wstring() + L'"';
     STARTUPINFOW start{};

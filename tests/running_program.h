@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The program on a platform of fakes, for tests of procedures that need a main form, files, boxes or settings.
+// The program on a fake platform, for tests of procedures that need a main form, files, boxes or settings.
 //
-// The fakes record what happened and can be told to fail. A box that no test expects, and an answer that no box asks for,
-// fail the test.
+// The fakes record every call and can be made to fail. A box that the test does not expect fails the test, and so does a
+// prepared answer that is never used.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -46,18 +46,18 @@ public:
     }
     void BeginBatch() override { ++open_; }
     void EndBatch() override { --open_; }
-    /// By "SECTION/KEY" in upper case.
+    /// The values, by "SECTION/KEY" in upper case.
     std::map<std::string, std::string> texts;
     /// The keys in the order in which they were written.
     std::vector<std::string> written;
-    /// How many were written outside every batch.
+    /// How many values were written outside a batch.
     int writtenAlone = 0;
 
 private:
     int open_ = 0;
 };
 
-/// Files in memory, whole lines ended by CR LF.
+/// Files in memory, in whole lines that end in CR LF.
 class FakeFiles : public Files {
 public:
     void Open(int number, std::string_view path, FileMode mode) override {
@@ -102,13 +102,14 @@ public:
     std::string CurrentDirectory() override { return "data"; }
     char Separator() const override { return '\\'; }
 
-    /// The step of this name ("open", "read", "write", "delete", "rename", "copy") fails from its n-th time on, counted from now.
+    /// Makes the step of this name ("open", "read", "write", "delete", "rename", "copy") fail from its n-th call on, counted
+    /// from now.
     void FailFrom(std::string_view step, int times, Failure failure) { failing_ = {std::string(step), times, failure}; }
     bool IsOpen() const { return !open_.empty(); }
 
-    /// The lines of each file, by path in upper case.
+    /// The lines of each file, by its path in upper case.
     std::map<std::string, std::vector<std::string>> files;
-    /// What was done, as "open LOG\FD80MSSB.TXT".
+    /// The calls made, as "open LOG\FD80MSSB.TXT".
     std::vector<std::string> steps;
 
 private:
@@ -151,12 +152,12 @@ public:
     }
     void ShowFailure(const RunTimeError& failure) override { failures.push_back(failure.Number()); }
 
-    /// The next box must have this text, in UTF-8, and is answered so.
+    /// The next box must have this text, in UTF-8, and gets this answer.
     void Expect(std::string text, Answer answer = Answer::Ok) { expected.emplace_back(std::move(text), answer); }
 
     std::deque<std::pair<std::string, Answer>> expected;
     std::vector<MessageBox> boxes;
-    /// The file that the next dialogue gives; nothing is Cancel.
+    /// The file that the next dialogue returns; no value means Cancel.
     std::optional<std::string> chosen;
     std::vector<FileDialog> asked;
     int printerDialogues = 0;
@@ -199,9 +200,9 @@ public:
     double TextWidth(std::string_view text, const Font& font) override { return 0.6 * font.size * static_cast<double>(text.size()); }
     void Ended() override { ended = true; }
     bool ended = false;
-    /// What happens while the program lets events run.
+    /// Called when the program lets events run.
     std::function<void()> pending;
-    /// What is done in the modal form of this name when it next opens; it closes then.
+    /// Called when the modal form of this name opens next; the form closes afterwards.
     std::map<std::string, std::function<void(Form&)>> modal;
 };
 
@@ -220,7 +221,7 @@ public:
     bool AnotherCopyRuns() override { return false; }
 };
 
-/// A card that plays nothing: what is written is kept, and events run when a test runs them.
+/// A card that plays nothing. It keeps what is written, and a test runs the events.
 class FakeSound : public Sound {
 public:
     struct Buffer : public SoundBuffer {
@@ -261,9 +262,9 @@ public:
 
     bool there = true;
     std::map<SoundEvent, std::function<void(SoundEvent)>> events;
-    /// In their order: "write 0 22050" (first sample, how many), "position 0", "play", "stop".
+    /// The calls in order: "write 0 22050" (first sample, count), "position 0", "play", "stop".
     std::vector<std::string> calls;
-    /// The one created last, while it lives.
+    /// The last buffer created, while it exists.
     Buffer* buffer = nullptr;
 
 private:
@@ -279,7 +280,7 @@ private:
     SoundEvent last_ = 0;
 };
 
-/// A printer for pages of 100 by 50 on which a character of size 1 is 1 wide and high; what is printed is kept.
+/// A printer that records the texts, for pages of 100 by 50; a character of size 1 is 1 wide and 1 high.
 class FakePages : public PageDevice {
 public:
     double Width() const override { return 100; }
@@ -293,11 +294,11 @@ public:
     void NextPage() override { printed.emplace_back("page"); }
     void EndJob() override { printed.emplace_back("end"); }
 
-    /// "job", "0 10 text", "page", "end"; texts in UTF-8.
+    /// The record: "job", "0 10 text", "page", "end"; texts in UTF-8.
     std::vector<std::string> printed;
 };
 
-/// A world with Germany and Denmark, one station of the society and one operator. Nothing runs before Start.
+/// A world with Germany and Denmark, one station of the society and one operator. No code of the program runs before Start.
 class RunningProgram : public ::testing::Test {
 protected:
     RunningProgram() {

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
-# Sourced by the tests that take a program which a machine may lack. On a developer's machine such a test is skipped, exit code
-# 77; where CI is "true" it fails, so that nothing stays unchecked there without anybody's noticing.
+# Sourced by tests that need a program which may be missing. On a developer's machine such a test is skipped with exit code 77;
+# if CI is "true" it fails, so that no check is left out unnoticed.
 
 skip() {
     echo "skipped: $*"

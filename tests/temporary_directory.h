@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A directory of a test's own, removed with all that is in it.
+// A temporary directory for a test, removed with all its contents at the end.
 #pragma once
 
 #include <filesystem>

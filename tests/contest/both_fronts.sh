@@ -3,9 +3,9 @@
 #
 #   both_fronts.sh GENERATOR SEED CONTACTS FRONT...
 #
-# Plays a random contest through each front, in a world of its own. Every box, status bar and line must be what the generator
-# has worked out, a reload must change no count, the summary must come to what the status bars of the ten logs do, and no front
-# may leave another log than the first.
+# Plays a random contest on each front end, each with its own files. Every box, status bar and line must match the generator's,
+# a reload must change no count, the summary must agree with the status bars of the ten logs, and all front ends must leave the
+# same logs.
 set -euo pipefail
 export LC_ALL=C QT_QPA_PLATFORM=offscreen
 generator=$1 seed=$2 contacts=$3
@@ -15,10 +15,10 @@ shift 3
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 "$generator" "$seed" "$contacts" >"$work/contest.scn"
-# One every hundred contacts, and one for each of the ten logs at the end.
+# One pair every hundred contacts, and one for each of the ten logs at the end.
 wanted=$((contacts / 100 + 10))
 
-# The pairs of status bars in a played contest, and those that do not agree behind their first panel.
+# Counts the pairs of status bars in a played contest, and prints those that differ after their first panel.
 pairs() {
     awk '
         /^# before reload / { number = $4; panels = ""; before = 1; after = 0 }
@@ -36,7 +36,7 @@ pairs() {
         END { print agreeing + 0 " pairs" }' "$1"
 }
 
-# The total of the summary, and what the status bars of the ten logs come to at the end: multipliers, points, score.
+# The total of the summary, and the totals of the ten logs' status bars at the end: multipliers, points, score.
 total() { sed -n 's/^> |Total: *[0-9]* *\([0-9]*\) x *\([0-9]*\) = *\([0-9]*\)|$/\1 \2 \3/p' "$1"; }
 panels() {
     awk '
@@ -63,7 +63,7 @@ for front in "$@"; do
     [ -n "$(total "$work/played$number.scn")" ] && [ "$(total "$work/played$number.scn")" = "$(panels "$work/played$number.scn")" ] ||
         { echo "$name: summary $(total "$work/played$number.scn"), status bars $(panels "$work/played$number.scn")"; fault=1; }
     logs=$(find "$work/world$number" -path '*/log/FD*.txt' | wc -l)
-    # A short contest may leave a log out.
+    # A short contest may not use all logs.
     [ "$logs" -eq 10 ] || [ "$contacts" -lt 1000 ] || { echo "$name: $logs logs, not ten"; fault=1; }
     if [ "$number" -gt 1 ]; then
         cmp "$work/played1.scn" "$work/played$number.scn" || fault=1

@@ -36,7 +36,7 @@ void Contest::Setting() {
     for (const std::string& call : Society()) Say("| " + call + std::string(7 - call.size(), ' ') + "afdeling, formand");
     Say("file data/operator.txt\n| " + operator_);
     Say("setting Settings gsLogLib log\nsetting Settings LastOP " + operator_ + "\nsetting Settings VisInfo2002 False\nstart");
-    // From here on every stop of the clock is past the moment in which the running time is written.
+    // From here on the clock always stops after the moment at which the running time is stored.
     Say("advance 0.5");
 }
 
@@ -256,7 +256,7 @@ void Contest::Act(bool& raised) {
     if (what < 20) ChangeBandOrMode();
     if (what >= 20 && what < 28) WriteNote();
     if (what >= 28 && what < 60) Correct();
-    // A raised number that no contact has used would be lost with the next band change.
+    // Use a raised number at once: a raised number without a contact would be lost at the next band change.
     if (raised) ChangeNumber();
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A contest of chance as a scenario: the events come to standard output with all that they must show, and the model beside
-// them keeps what has come of them.
+// Generates a random contest as a scenario. The events are written to standard output together with everything that they must
+// show, and the model beside them keeps the resulting logs.
 #pragma once
 
 #include <map>
@@ -42,7 +42,7 @@ protected:
     void Pause();
     void Advance(int seconds);
     void Act(bool& raised);
-    /// A new contact, and what an operator may do before it.
+    /// Logs a new contact, with what an operator may do before it.
     void WorkStation();
     bool LogContact();
     void TakeReports(Line& line);
@@ -77,7 +77,7 @@ protected:
     const Choice* mode_ = &kModes[0];
     std::string operator_ = "OZ1AB";
     long long seconds_ = 0;
-    /// Seconds between contacts: at least so many, and up to so many more.
+    /// Seconds between contacts: the least, and how many more there may be.
     int pause_ = 15;
     int longerPause_ = 40;
 };

@@ -31,7 +31,7 @@ enum Kind { kNumber, kReport, kQsl, kCall, kMode, kPoints, kKinds };
 
 }  // namespace
 
-/// Changes one thing in the open form and stores. The points that then stand in the form are `offered`.
+/// Changes one thing in the open correction form and stores it. `offered` is the points value that the form then shows.
 void Contest::AlterLine(int kind, Line& line, std::string& offered, bool duplicate) {
     switch (kind) {
         case kReport: {
@@ -44,7 +44,7 @@ void Contest::AlterLine(int kind, Line& line, std::string& offered, bool duplica
             Say("click frmRetQSO.Check1\nclick frmRetQSO.Command1");
             return;
         case kCall:
-            // Out of the field, where points are computed, and on to the next one.
+            // Leaves the field, which computes the points, and moves to the next one.
             Say("key Tab");
             offered = std::to_string(duplicate ? 0 : line.call.points);
             break;
@@ -80,7 +80,7 @@ bool Contest::CorrectContact(int index) {
     const bool duplicate = log.Holds(line.call.base, place);
     if ((kind == kPoints && (marked || duplicate)) || (kind == kMode && Phone())) kind = kNumber;
 
-    // While the form is open the contact holds its country no more.
+    // While the form is open, the contact does not count as having worked its country.
     const std::set<int> worked = log.worked;
     if (!marked && !line.multiplier.empty()) log.worked.erase(log.lines[place].call.country);
     if (log.WouldMarkByDuplicate(line.call, place)) {

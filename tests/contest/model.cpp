@@ -55,8 +55,8 @@ bool IsDanish(int country) {
     return std::string(Countries()[static_cast<std::size_t>(country)].prefix) == "OZ";
 }
 
-/// `listed` is the call that the society's list is searched for; `european` tells of a station in the European part of a
-/// country outside Europe.
+/// `listed` is the call to search for in the society's list; `european` means a station in the European part of a country
+/// outside Europe.
 int Worth(const Call& call, const std::string& listed, bool portable, bool european) {
     if (call.country == kUnknown) return 0;
     if (std::find(Society().begin(), Society().end(), listed) != Society().end()) return 10;
@@ -102,7 +102,8 @@ Call Sign(const Station& station, Dice& dice) {
         static const std::vector<std::string> kAdditions{"/M", "/QRP", "/MM", "/A"};
         call.text += dice.OneOf(kAdditions);
     } else if (how < 21 && !HasDigit(station.prefix) && station.prefix != "TA") {
-        // The number moves into the call, for the society's list too; a figure in the prefix would change with it.
+        // The number replaces the one in the call, also in the call that the society's list is searched for. A prefix with a
+        // digit is left out because it would change too.
         const auto number = static_cast<char>('1' + dice.Roll(9));
         call.text += std::string("/") + number;
         listed[station.prefix.size()] = number;

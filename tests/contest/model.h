@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What a contest must come to, kept apart from the program: which lines stand in which log, what each contact is worth,
-// which countries are worked. It shares no code with the program, so that the two can be compared.
+// The expected state of a contest, computed without the program: the lines of each log, the value of each contact, and the
+// countries worked. It shares no code with the program, so that the two can be compared.
 #pragma once
 
 #include <map>
@@ -24,19 +24,19 @@ struct Prefix {
     const char* country;
 };
 
-/// In ascending order, as the country tables want them.
+/// In ascending order, as the country tables require.
 const std::vector<Country>& Countries();
 const std::vector<Prefix>& Prefixes();
 /// Calls of the society's stations.
 const std::vector<std::string>& Society();
-/// The row of a country's prefix, or kUnknown.
+/// The row of the country that a prefix belongs to, or kUnknown.
 int CountryOf(const std::string& prefix);
 
-/// The same numbers from the same seed with every compiler.
+/// Gives the same numbers from the same seed with every compiler.
 class Dice {
 public:
     explicit Dice(unsigned seed) : engine_(seed) {}
-    /// From nought to `sides` - 1.
+    /// From 0 to `sides` - 1.
     int Roll(int sides) { return static_cast<int>(engine_() % static_cast<unsigned>(sides)); }
     bool Chance(int percent) { return Roll(100) < percent; }
     template <class List>
@@ -54,7 +54,7 @@ struct Station {
     std::string prefix;
 };
 
-/// A call as it is given on the air, and what a contact with it is worth.
+/// A call as given on the air, and the value of a contact with it.
 struct Call {
     std::string text;
     std::string base;
@@ -63,7 +63,7 @@ struct Call {
 };
 
 Station NewStation(Dice& dice);
-/// The station at home, portable, with another number or in another country.
+/// The station's call at home, portable, with another number, or in another country.
 Call Sign(const Station& station, Dice& dice);
 
 struct Line {
@@ -80,7 +80,7 @@ struct Line {
     std::string mode;
 
     bool IsNote() const { return !note.empty(); }
-    /// The line as it must stand in the file of a phone log or of another.
+    /// The line as it must be in the file of a phone log (or of a log in another mode).
     std::string Text(bool phone) const;
 };
 
@@ -94,14 +94,14 @@ public:
     int next = 1;
     int selected = -1;
 
-    /// One of the first `before` contacts is with this station.
+    /// Whether one of the first `before` contacts is with this station.
     bool Holds(const std::string& base, std::size_t before) const;
-    /// Of a duplicate the country would be marked worked, and not be after the next load.
+    /// Whether a duplicate would mark the country as worked, although the next load would not mark it.
     bool WouldMarkByDuplicate(const Call& call, std::size_t before) const;
     int Points() const;
-    /// Counts afresh from the lines, as loading does. Throws if that changes anything.
+    /// Counts again from the lines, as loading does. Throws if that changes anything.
     void Load();
-    /// Points and multiplier of a line at its place, as a new contact with nothing told by the operator.
+    /// Computes points and multiplier of a line at its place, as for a new contact on which the operator changed nothing.
     void Score(Line& line, std::size_t place);
 
 private:

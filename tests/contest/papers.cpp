@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The summary of the contest, counted from the text of the lines as a person would with a pencil.
+// The summary of the contest, counted from the text of the lines with no code of the program.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -11,7 +11,7 @@ namespace contest {
 
 namespace {
 
-/// Columns of a line, from 1, of which each character is one.
+/// Cuts columns out of a UTF-8 line. Columns count from 1, and each character is one column.
 std::string Cut(const std::string& line, std::size_t from, std::size_t count) {
     std::string cut;
     std::size_t column = 0;
@@ -83,7 +83,7 @@ void Contest::SumUp() {
         std::snprintf(text, sizeof text, "> |%s CW   %5d%12d x %6d = %8lld%49s/|\n> |%s SSB  %5d%12d x %6d = %8lld%14d x %12d = %15lld|\n",
                       name.c_str(), morse.contacts, morse.multipliers, morse.points, morse.Score(), "", name.c_str(), phone.contacts,
                       phone.multipliers, phone.points, phone.Score(), both.multipliers, both.points, both.Score());
-        // Read from 10 metres up, set out from 80 metres down.
+        // The logs are read from 10 metres up, and the rows are printed from 80 metres down.
         rows.insert(0, text);
     }
     char all[200];

@@ -2,8 +2,9 @@
 //
 //   vatro-random-contest SEED CONTACTS
 //
-// Writes a scenario: a contest of so many contacts over all bands and modes, with notes, corrections and number changes, as
-// an operator's hands would come to it. What every box, status bar and log must show is worked out beside it.
+// Writes a scenario: a contest of this many contacts over all bands and modes, with the notes, corrections and number changes
+// that an operator would make. The expected content of every box, status bar and log is worked out independently of the
+// program.
 #include <iostream>
 #include <string>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The program vatro-cty, run as a process of its own in a directory of the test's own.
+// Runs the program vatro-cty as a separate process in a temporary directory.
 #pragma once
 
 #include <string>
@@ -32,7 +32,7 @@ protected:
         ResetDesk();
     }
 
-    /// The arguments, with the directory as the current one.
+    /// Runs it with these arguments in that directory.
     Result Run(const std::vector<std::string>& arguments) const { return RunProcess(VATRO_CTY, arguments, root_); }
 
     static std::string Joined(const std::vector<std::string>& lines, const std::string& end) {
@@ -42,7 +42,8 @@ protected:
     }
     void PutLines(const std::string& name, const std::vector<std::string>& lines) const { Put(name, Joined(lines, "\r\n")); }
 
-    /// The program's own import of this file of the directory. The number of the failure that stops it, 0 if none does.
+    /// Runs the program's own import on this file of the directory. Returns the number of the failure that stops it, 0 for
+    /// none.
     int Import(const std::string& name) {
         Put("cty.dat", Content(name));
         InstallPlatform(front_, {dialogs_, settings_, files_, clock_, help_, instance_, sound_, printer_, {1, 0, 0}});
@@ -50,12 +51,12 @@ protected:
         ResetDesk();
         desk().gsFDLib = NativeText(root_);
         const int number = NumberOf(ImporterCty);
-        // As the end of the program does.
+        // The end of the program does the same.
         files_.Close(1);
         frmCtyDat.Unload();
         return number;
     }
-    /// The primary prefix of the country that the program finds for the call, "" for none.
+    /// The primary prefix of the country that the program finds for the call, or "".
     static std::string CountryOf(const std::string& call) {
         return std::string(Trim(desk().countries.LandWkd(call, MarkAction::Test).prefix));
     }

@@ -88,12 +88,12 @@ TEST_F(CtyCommand, TheNewFileMayBeTheOldOne) {
 struct Damage {
     Texts lines;
     std::string told;
-    /// Of the import; 0 where it goes through, and is not what was meant.
+    /// The failure of the import; 0 if the import succeeds, although with a result that nobody wanted.
     int failure;
 };
 
-// A damaged file is told by the check and by the fitting in the same words, stops the import where it must, and leaves
-// an older new file alone.
+// Check and fitting report a damaged file in the same words, and leave an existing output file alone. The import stops with the
+// given failure.
 TEST_F(CtyCommand, DamageIsToldAndNothingIsWritten) {
     const std::vector<Damage> damages{
         {{}, "filen har ingen lande\n", 0},

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A country file with more items than the table has rows, through vatro-cty, the import and the lookup.
+// A country file with more items than the table has rows, tested with vatro-cty, the import and the lookup.
 #include <map>
 #include <sstream>
 
@@ -17,7 +17,7 @@ std::string Figures(int number) {
     return std::string(4 - digits.size(), '0') + digits;
 }
 
-/// The lines of a country, eight items to a line.
+/// The lines of a country with eight items per line.
 void AddCountry(Texts& lines, const std::string& prefix, const Texts& items) {
     lines.push_back(CtyHeader(prefix));
     for (std::size_t i = 0; i < items.size(); ++i) {
@@ -26,7 +26,7 @@ void AddCountry(Texts& lines, const std::string& prefix, const Texts& items) {
     }
 }
 
-/// The items of a file that ends its lines with CR LF, without zones, each with its country; an exact call with "=" in front.
+/// The items of a file with CR LF line ends, without their zones, each with its country; an exact call has "=" in front.
 std::map<std::string, std::string> Items(const std::string& content) {
     std::map<std::string, std::string> items;
     std::istringstream file(content);
@@ -44,7 +44,7 @@ std::map<std::string, std::string> Items(const std::string& content) {
     return items;
 }
 
-/// What was told, without the items.
+/// The lines of the output that list no items.
 Texts Told(const std::string& out) {
     Texts told;
     std::istringstream lines(out);
@@ -53,17 +53,18 @@ Texts Told(const std::string& out) {
     return told;
 }
 
-/// Twenty countries C0 to C9 and D0 to D9. Of C0, and of the others by their own prefix:
+/// Twenty countries, C0 to C9 and D0 to D9. The items of C0 follow; the others have the same with their own prefix. An item is
+/// "given" if a shorter prefix of the same country also matches it:
 ///
 ///     C0                         1
-///     =XC0AB                     1    in no prefix
-///     C01AA to C01DV           100    given by C0 whole
-///     C02AA(15) to C02DV(15)   100    given by C0 but for their zone
-///     =C03AAA to =C03DVA       100    given by C0 whole
-///     =YC0AAA and so on              in no prefix
+///     =XC0AB                     1    matched by no prefix
+///     C01AA to C01DV           100    given by C0, with the same zone
+///     C02AA(15) to C02DV(15)   100    given by C0, except for the zone
+///     =C03AAA to =C03DVA       100    given by C0, with the same zone
+///     =YC0AAA and so on              matched by no prefix
 class TooBig : public CtyCommand {
 protected:
-    /// With so many items in all: a multiple of twenty.
+    /// Writes the file with this many items in all, a multiple of twenty.
     void PutBigFile(int items) {
         Texts lines;
         for (char group : {'C', 'D'})
@@ -88,7 +89,7 @@ protected:
         after_ = Items(Content("fit.dat"));
         for (const auto& [item, country] : after_) ASSERT_EQ(before_.at(item), country) << item;
     }
-    /// How many are in the new file of the items C0, X..., C01..., C02..., C03... and Y...
+    /// How many items of each kind the new file has: C0, X..., C01..., C02..., C03... and Y...
     std::map<std::string, int> Kept() const {
         std::map<std::string, int> kept;
         for (const auto& [item, country] : after_) {
@@ -104,7 +105,7 @@ protected:
     }
     static std::string Call(const std::string& item) { return item.substr(item.starts_with('=') ? 1 : 0); }
     static std::string Letters(int n) { return {static_cast<char>('A' + n / 26), static_cast<char>('A' + n % 26)}; }
-    /// As the program has them at its next start.
+    /// The tables as the program has them at its next start.
     void ReadTables() const {
         ResetDesk();
         desk().gsFDLib = NativeText(root_);
@@ -135,8 +136,8 @@ TEST_F(TooBig, IsRefusedByTheCheckAndStopsTheImport) {
 }
 
 TEST_F(TooBig, LosesWhatIsGivenAnywayAndNoMoreThanItMust) {
-    // 3,001 must go. Given whole are 4,000: first go the 2,000 of five characters, then of the 2,000 calls of six the first
-    // 1,001, which are those of C0 to C9 and one of D0.
+    // 3,001 items must go. 4,000 are given with the same zone: first go the 2,000 of five characters, then the first 1,001 of
+    // the 2,000 calls of six characters, which are those of C0 to C9 and one of D0.
     PutBigFile(9000);
     Fit();
     EXPECT_EQ(told_, Texts{"3001 poster er udeladt uden tab:"});
@@ -154,8 +155,8 @@ TEST_F(TooBig, LosesWhatIsGivenAnywayAndNoMoreThanItMust) {
 }
 
 TEST_F(TooBig, ThenLosesZonesAndThenCallsTheShortestFirst) {
-    // 8,001 must go: 4,000 given whole, 2,000 given but for their zone, and of the calls that nothing gives the 20 of five
-    // characters and 1,981 of six, 398 of each of C0 to C3 and 389 of C4.
+    // 8,001 items must go: 4,000 given with the same zone, 2,000 given except for the zone, and of the calls that no prefix
+    // gives the 20 of five characters and 1,981 of six characters, 398 of each of C0 to C3 and 389 of C4.
     PutBigFile(14000);
     Fit();
     EXPECT_EQ(told_, (Texts{"4000 poster er udeladt uden tab:", "2000 poster er udeladt, kun deres zoner er tabt:",
@@ -167,15 +168,15 @@ TEST_F(TooBig, ThenLosesZonesAndThenCallsTheShortestFirst) {
     for (int start = 0; start < 2; ++start, ReadTables()) {
         for (const auto& [item, country] : after_) ASSERT_EQ(CountryOf(Call(item)), country) << item;
         EXPECT_EQ(CountryOf("C49AB"), "C4");
-        // 389 of 398: nine are left of C4, from the 390th on.
+        // 389 of the 398 are gone: C4 keeps nine, from the 390th on.
         EXPECT_EQ(CountryOf("YC4" + Letters(388) + "A"), "");
         EXPECT_EQ(CountryOf("YC4" + Letters(389) + "A"), "C4");
     }
 }
 
 TEST_F(TooBig, ACallWithASlashIsFoundInItsCountryKeptOrLeftOut) {
-    // Three must go: QA5AB/P, which is looked up as QA5AB, and the first two of those that nothing gives. QA5AB/QB1 would be
-    // looked up as QB1.
+    // Three must go: QA5AB/P, which is looked up as QA5AB, and the first two of the calls that no prefix gives. QA5AB/QB1 would
+    // be looked up as QB1.
     Texts items{"QA", "=QA5AB/QB1", "=QA5AB/P"};
     for (int i = 0; i < 5998; ++i) items.push_back("=Y" + Figures(i));
     Texts lines;

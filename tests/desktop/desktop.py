@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The program on a screen of its own, with a home, settings and logs of its own, worked by keys."""
+"""The program on a virtual screen with a temporary home, settings and logs, operated with keys."""
 import collections
 import os
 import pathlib
@@ -19,12 +19,12 @@ def skip_without_tools():
     missing = [tool for tool in TOOLS if shutil.which(tool) is None]
     if missing:
         print("not installed:", *missing)
-        # On a machine of CI nothing is skipped in silence.
+        # CI skips nothing silently.
         sys.exit(1 if os.environ.get("CI") == "true" else SKIPPED)
 
 
 def until(holds, what):
-    """What `holds` gives as soon as that is something."""
+    """Waits until `holds` returns a true value, and returns it."""
     end = time.monotonic() + PATIENCE
     while time.monotonic() < end:
         if result := holds():
@@ -57,9 +57,9 @@ class Desktop:
                                  XDG_RUNTIME_DIR=str(self.home / "runtime"), QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8",
                                  CUPS_SERVER="/nowhere")
         self.manager = self.program = self.compositor = None
-        # A window that comes before the window manager is not always taken over by it.
+        # A window shown before the window manager starts is not always managed by it.
         until(self.managed, "the window manager")
-        # It says so before it looks at its first window.
+        # The window manager sets this property before it looks for windows.
         time.sleep(1)
 
     def managed(self):
@@ -68,7 +68,7 @@ class Desktop:
         return subprocess.run(["xdotool", "get_desktop"], env=self.surroundings, capture_output=True, check=False).returncode == 0
 
     def start_compositor(self):
-        """A Wayland compositor that shows nothing."""
+        """Starts a Wayland compositor without a display."""
         name = "vatro-test"
         self.compositor = subprocess.Popen(["weston", "--backend=headless-backend.so", "--socket=" + name], env=self.surroundings,
                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
@@ -80,7 +80,7 @@ class Desktop:
             if process is None:
                 continue
             if process.poll() is None:
-                # The screen takes its lock along.
+                # The X server removes its lock file when it ends.
                 process.terminate() if process is self.screen else process.kill()
             process.wait()
         shutil.rmtree(self.home)
@@ -104,7 +104,7 @@ class Desktop:
         return self.home / ".config/vatro/vatro.ini"
 
     def set(self, **settings):
-        """The settings of a station that has been used before, and these."""
+        """Writes the settings of a station that was used before, with these changes."""
         told = dict({"gsLogLib": self.log, "gsFDLib": self.data, "MyCall": "OZ7FD/P", "LastOP": "OZ1AB ", "VisInfo2002": "False",
                      "MainLeft": 1500, "MainTop": 1500}, **settings)
         self.settings_file.parent.mkdir(parents=True, exist_ok=True)
@@ -125,7 +125,7 @@ class Desktop:
             self.keys_go_to(main)
 
     def windows(self, title):
-        """The visible ones of exactly this title, as the program has them."""
+        """The visible windows with exactly this title."""
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^" + title + "$"], env=self.surroundings,
                                capture_output=True, text=True, check=False).stdout.split()
         names = {window: subprocess.run(["xdotool", "getwindowname", window], env=self.surroundings, capture_output=True, text=True,
@@ -155,7 +155,7 @@ class Desktop:
         self.xdotool("key", "--delay", "60", *keys)
 
     def ended(self, within=PATIENCE):
-        """The exit code, and what the program has said; negative if a signal has ended it."""
+        """The exit code (negative if a signal ended the program) and the program's output."""
         try:
             _, said = self.program.communicate(timeout=within)
         except subprocess.TimeoutExpired as late:
@@ -173,7 +173,7 @@ SIGNALS = {"TERM": signal.SIGTERM, "INT": signal.SIGINT, "HUP": signal.SIGHUP}
 
 
 def run(cases):
-    """Runs each and prints what came of it; the exit code of the whole."""
+    """Runs each test and prints its result; returns the exit code of the script."""
     faults = 0
     for case in cases:
         try:

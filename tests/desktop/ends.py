@@ -3,8 +3,8 @@
 """
     ends.py PROGRAM DATA
 
-However the program is made to end, the operator's settings are stored: by a signal, with a box, a dialogue or a modal form open, and
-when the screen is lost. Skipped where there is no screen or window manager to be had.
+Checks that the operator's settings are stored however the program ends: by a signal, with a box, a dialogue or a modal form open, and
+when the screen is lost. Skipped if the virtual screen or the window manager is not installed.
 """
 import os
 import signal
@@ -19,7 +19,7 @@ QUESTION = "Bånd/modeskift"
 
 
 def up(desktop, **settings):
-    """The program in the midst of a contest: on another band than the stored one, its main window at another place."""
+    """Starts the program and changes the band and the place of the main window, so that both differ from the stored ones."""
     desktop.set(**settings)
     desktop.start(PROGRAM)
     desktop.press("ctrl+F3")
@@ -160,7 +160,7 @@ def a_lost_screen_loses_no_setting_behind_a_box_or_a_modal_form():
 def a_lost_screen_loses_no_operator():
     with Desktop(DATA) as desktop:
         up(desktop)
-        # Nobody has left the field: the name is in nothing but the box.
+        # The focus has not left the field, so the name is only in the box.
         desktop.press("alt+o", "O", "Z", "7", "Q", "Q", "Return")
         time.sleep(0.5)
         desktop.lose_screen()

@@ -3,9 +3,9 @@
 #
 #   with_window_manager.sh MANAGER minimising.sh VATRO DATA
 #
-# Minimises and restores the program twice, as the window's frame and the task bar do. Minimised, the main window, the next number
-# and the worked-before list leave the screen, and the contest call stays; restored, all of them are where they were, and the main
-# window has the keys. At the end they are stored where they were at the start.
+# Minimises and restores the program twice, as the window frame and the task bar do. While it is minimised, the main window, the
+# next number and the worked-before list are off the screen, and the contest call stays visible. When it is restored, all of
+# them are where they were, and the main window has the focus. The positions stored at the end are those of the start.
 set -euo pipefail
 vatro=$1 data=$2
 
@@ -46,7 +46,7 @@ main='^Vatro OZ1AB$' number='^Næste QSO nr$' call='^Contest Call$' before='^Cal
 all=("$main" "$number" "$call" "$before")
 window_of() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
 seen() { if [ -n "$(window_of "$1")" ]; then echo shown; else echo hidden; fi; }
-# The screen as it must become: "shown" or "hidden" for each window of all, and as it must stay then.
+# The required state of the screen: "shown" or "hidden" for each window. It must be reached, and must then stay.
 becomes() {
     local wanted="$*" now=
     for _ in $(seq 100); do
@@ -55,7 +55,7 @@ becomes() {
         sleep 0.1
     done
     sleep 0.5
-    # Once more if need be: the search finds nothing when a window of anybody goes at that moment.
+    # Tries again if needed: the search finds nothing if any window closes at that moment.
     for _ in 1 2 3; do
         now=$(for window in "${all[@]}"; do seen "$window"; done | xargs)
         [ "$now" != "$wanted" ] || return 0
@@ -63,7 +63,7 @@ becomes() {
     done
     fail "wanted: $wanted"
 }
-# Asked again for the same reason.
+# Asks again for the same reason.
 place_of() {
     local found=
     for _ in $(seq 50); do
@@ -97,7 +97,7 @@ for round in 1 2; do
     xdotool key Escape
 done
 
-# At the end nothing has moved in the settings either.
+# The stored positions have not changed either.
 stored() { grep -E '^(Main|B4|QSO|Call)(Left|Top|Height)=' "$settings" | sort; }
 before_=$(stored)
 xdotool key --clearmodifiers alt+F4

@@ -3,8 +3,8 @@
 """
     print_server.py PROGRAM DATA
 
-A print server that accepts and never answers does not hold the program: it is not asked at the start, and a print job offers a PDF
-after two seconds. Skipped where there is no screen or window manager to be had.
+Checks that a print server that accepts connections and never answers does not block the program. The start does not ask the server,
+and a print job offers a PDF file after two seconds. Skipped if the virtual screen or the window manager is not installed.
 """
 import pathlib
 import socket
@@ -17,12 +17,12 @@ from desktop import Desktop, run, skip_without_tools, until
 PROGRAM, DATA = sys.argv[1], sys.argv[2]
 LINE = "13:00 DL9XYZ          59 -0001 59 -0345  3 DL         OZ1AB      SSB   05-09-26\r\n"
 PATIENCE = 2
-# What a busy machine takes to show a window.
+# The time that a busy machine needs to show a window.
 SLACK = 2
 
 
 class SilentServer:
-    """Accepts every connection and never says anything."""
+    """Accepts every connection and never answers."""
 
     def __init__(self):
         self.listening = socket.create_server(("127.0.0.1", 0))
@@ -47,7 +47,7 @@ def prepared(desktop, **settings):
 
 
 def print_log(desktop):
-    """Filer, Udskriv log, 80m SSB."""
+    """Chooses Filer, Udskriv log, 80m SSB."""
     desktop.press("alt+f", "u")
     time.sleep(0.3)
     desktop.press("8", "8", "Return")

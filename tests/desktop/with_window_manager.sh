@@ -3,8 +3,8 @@
 #
 #   with_window_manager.sh openbox|xfwm4 COMMAND [ARGUMENT...]
 #
-# Runs the command on a screen of its own, with this window manager alone on it. HOME and the runtime directory are temporary
-# ones; what the window manager says is in $HOME/wm.log. Skipped where a program is missing.
+# Runs the command on a virtual screen with only this window manager on it. HOME and the runtime directory are temporary; the
+# output of the window manager is in $HOME/wm.log. Skipped if a program is missing.
 set -euo pipefail
 . "$(dirname "$0")/../skip.sh"
 manager=$1
@@ -26,7 +26,7 @@ unset WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS XDG_CURRENT_DESKTOP SESSION_MANAG
 mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_RUNTIME_DIR"
 chmod 700 "$XDG_RUNTIME_DIR"
 
-# It finds a free number for its display by itself, and tells it when it is ready.
+# The server picks a free display number, and writes it when it is ready.
 mkfifo "$world/display"
 Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp -noreset 3>"$world/display" 2>"$world/screen.log" &
 screen=$!
@@ -44,7 +44,7 @@ for _ in $(seq 100); do
     sleep 0.1
 done
 xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id' || { echo "$manager does not start:"; cat "$HOME/wm.log"; exit 1; }
-# It says so before it looks at its first window.
+# The window manager sets this property before it looks for windows.
 sleep 1
 
 result=0

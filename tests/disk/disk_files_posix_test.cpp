@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Files on a disk that is full, protected or limited, as only this system can be told to make one.
+// Files on a disk that is full, protected or limited, set up in ways that only POSIX systems offer.
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -33,7 +33,7 @@ TEST_F(DiskFilesPosixTest, NothingIsWrittenToAProtectedDirectory) {
     EXPECT_THAT(Names(), ElementsAre("a.txt"));
 }
 
-/// Files may not grow beyond a size while this lives.
+/// While this object lives, no file can grow beyond a size.
 class SizeLimit {
 public:
     explicit SizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Files and names as this system alone has them.
+// Files and file names that are special to Windows.
 #include <gmock/gmock.h>
 #include <windows.h>
 

@@ -104,7 +104,7 @@ TEST_F(SettingsOnDisk, KeepTheRightsOfTheirFile) {
 
 TEST_F(SettingsOnDisk, TellOfALossUntilTheDiskTakesThem) {
     const std::filesystem::path place = directory.Path() / "place";
-    // A file stands where their directory should.
+    // A file has the name of the settings directory.
     std::ofstream(place) << "";
     DiskSettings store(place / "vatro.ini");
     EXPECT_FALSE(store.Loss());

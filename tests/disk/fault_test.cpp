@@ -11,7 +11,7 @@ namespace {
 using ::testing::ElementsAre;
 using Step = FaultyFiles::Step;
 
-/// Two directories "log" and "a:", the current one is "log".
+/// Two directories, "log" and "a:"; "log" is the current one.
 class FaultTest : public TemporaryWorld {
 protected:
     FaultTest() {
@@ -194,7 +194,7 @@ TEST_F(FaultTest, ACopyWithoutItsSourceFailsWith53WhateverItsTarget) {
     EXPECT_EQ(CopyFails("log\\a.txt", "a:\\a.txt"), 71);
     files_.Fail("log", 70);
     EXPECT_EQ(CopyFails("log\\none.txt", "a:\\none.txt"), 53);
-    // A number in use does not matter.
+    // A file number in use does not matter.
     files_.Fail("log", 0);
     files_.Open(1, "log\\a.txt", FileMode::Input);
     EXPECT_EQ(CopyFails("log\\none.txt", "a:\\none.txt"), 53);

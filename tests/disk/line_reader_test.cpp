@@ -13,7 +13,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-/// The lines of a text, found one byte after the other.
+/// The lines of a text, found by looking at one byte at a time.
 std::vector<std::string> SplitByHand(std::string_view text) {
     std::vector<std::string> lines;
     std::string line;
@@ -79,7 +79,7 @@ TEST_F(LineReaderTest, RandomBytesAreReadAsTheyStand) {
     EXPECT_EQ(Read(content), expected);
     EXPECT_NE(content.find('\0'), std::string::npos);
 
-    // The same with a line end in every third place, in all mixtures.
+    // The same with a line end in every third place, in all combinations.
     for (char& c : content) {
         const auto die = random() % 6;
         if (die < 2) c = die == 0 ? '\r' : '\n';
@@ -113,7 +113,7 @@ TEST_F(LineReaderTest, ANumberBeginsAfreshWithEveryFile) {
 
 #ifdef __linux__
 TEST_F(LineReaderTest, AFailureOfTheDiskIsToldWhileReading) {
-    // The first page of a process cannot be read.
+    // Reading the first page of a process's memory always fails.
     DiskFiles files;
     files.Open(1, "/proc/self/mem", FileMode::Input);
     EXPECT_EQ(NumberOf([&] { files.LineInput(1); }), 71);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A directory of its own for each test on real files.
+// A temporary directory for each test on real files.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@ namespace vatro {
 
 class TemporaryWorld : public ::testing::Test {
 protected:
-    /// The program's path of a name, in the code page, in the directory.
+    /// The program's path of a name in the directory, in the code page.
     std::string At(std::string_view name) const { return NativeText(root_) + "/" + std::string(name); }
 
     /// Writes a file; the name in UTF-8.
@@ -34,7 +34,7 @@ protected:
         if (!file) return "(missing)";
         return {std::istreambuf_iterator<char>(file), {}};
     }
-    /// The names in a directory, in UTF-8, sorted.
+    /// The file names in a directory, in UTF-8, sorted.
     std::vector<std::string> Names(const std::string& directory = ".") const {
         std::vector<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(root_ / PathOfUtf8(directory))) {
@@ -49,7 +49,7 @@ protected:
     const std::filesystem::path& root_ = directory_.Path();
 };
 
-/// The number with which the call fails, 0 if it does not.
+/// The number of the failure of the call, or 0 if it succeeds.
 template <class Call>
 int NumberOf(Call call) {
     try {
@@ -60,7 +60,7 @@ int NumberOf(Call call) {
     return 0;
 }
 
-/// With the program's files on it.
+/// A temporary directory with the program's file access on it.
 class DiskWorld : public TemporaryWorld {
 protected:
     int OpenFails(int number, std::string_view path, FileMode mode) {

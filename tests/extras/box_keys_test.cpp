@@ -20,7 +20,7 @@ constexpr PressedKey Held(PressedKey key) {
     return key;
 }
 
-/// A box that came up at 10 s.
+/// A box that was shown at 10 s.
 class BoxInFront : public ::testing::Test {
 protected:
     BoxInFront() { box.CameUp(10s); }
@@ -60,7 +60,7 @@ TEST_F(BoxInFront, IsNotAnsweredByAKeyHeldDown) {
 TEST_F(BoxInFront, TakesNoBlankInTheMiddleOfTyping) {
     box.Press(kLetter, 12s);
     EXPECT_EQ(box.Press(kSpaceKey, 12s + 180ms), DropAndFlash);
-    // The blank is typing too.
+    // A blank counts as typing too.
     EXPECT_EQ(box.Press(kSpaceKey, 12s + 429ms), DropAndFlash);
     EXPECT_EQ(box.Press(kSpaceKey, 12s + 679ms), Take);
 }

@@ -18,7 +18,7 @@ using Result = DirectoryLock::Result;
 
 class DirectoryLockTest : public testing::Test {
 protected:
-    /// As on a file system that keeps no locks.
+    /// Behaves like a file system without locks.
     static DirectoryLock::Options Pulse() {
         DirectoryLock::Options options;
         options.lock = [](LockFile&, const fs::path&) { return LockResult::NotSupported; };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Lines of logs for tests.
+// Log lines for tests.
 #pragma once
 
 #include <cstdio>
@@ -10,7 +10,7 @@
 
 namespace vatro {
 
-/// A contact of an SSB log, 79 columns: its number, and the minute of its time.
+/// An SSB contact line of 79 columns with this number and minute.
 inline std::string ContactLine(int number, int minute, const std::string& call = "DL1AA") {
     char line[96];
     std::snprintf(line, sizeof line, "12:%02d %-15s 59 -%04d 59 -0003  3            OZ1DEF     SSB   05-09-26", minute % 60, call.c_str(),
@@ -18,7 +18,7 @@ inline std::string ContactLine(int number, int minute, const std::string& call =
     return line;
 }
 
-/// So many contacts, one a minute, as the content of a log.
+/// The content of a log with this many contacts, one a minute.
 inline std::string LogOf(int contacts) {
     std::string content;
     for (int i = 1; i <= contacts; ++i) content += ContactLine(i, i) + "\r\n";

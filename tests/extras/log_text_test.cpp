@@ -110,7 +110,7 @@ TEST(Correction, ChangesOneLineAtMost) {
 }
 
 TEST(Merged, PutsTheMissingLinesBehindThoseThatTheyFollowed) {
-    // The program had read one line of three, and logged another one.
+    // The program had read one line of three and logged another one.
     const std::string logged = ContactLine(2, 30, "DL9ZZ");
     EXPECT_THAT(Merged({kOne, kTwo, "NOTE: pause", kThree}, {kOne, logged}), ElementsAre(kOne, kTwo, "NOTE: pause", kThree, logged));
     EXPECT_THAT(Merged({kOne, kTwo, kThree}, {kTwo}), ElementsAre(kOne, kTwo, kThree));

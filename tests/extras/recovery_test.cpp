@@ -33,20 +33,20 @@ protected:
         for (const Finding& finding : Look()) actions.push_back(finding.action);
         return actions;
     }
-    /// The one finding, put right.
+    /// Repairs the only finding.
     std::string RepairOne(std::string_view candidate = {}) {
         const std::vector<Finding> findings = Look();
         EXPECT_THAT(findings, SizeIs(1));
         return findings.empty() ? "" : Repair(findings.front(), history_, candidate);
     }
-    /// The contents of the kept versions of a file, the newest first.
+    /// The contents of the kept versions of a file, newest first.
     std::vector<std::string> Kept(std::string_view name) const {
         std::vector<std::string> contents;
         for (const History::Version& version : history_.Versions(name))
             contents.push_back(Content(fs::relative(version.path, root_).string()));
         return contents;
     }
-    /// As a rewrite leaves it: the version, then a log of its own.
+    /// Leaves what a rewrite leaves: the version. The test then writes the log itself.
     void PutVersion(const std::string& content, History::Keep keep) {
         Put("log/FD80mSSB.txt", content);
         history_.Add(root_ / "log/FD80mSSB.txt", keep);
@@ -70,7 +70,7 @@ TEST_F(RecoveryTest, FindsNothingInASoundDirectory) {
 }
 
 TEST_F(RecoveryTest, FindsNothingAfterAnOrdinaryCorrection) {
-    // One of a time, which leaves a contact neither whole nor under its time and number; and contacts after it.
+    // A time was corrected, so the contact is found neither by its whole line nor by its time and number; new contacts follow.
     PutVersion(LogOf(3), History::Keep::Always);
     Put("log/FD80mSSB.txt", kOne + ContactLine(2, 59) + "\r\n" + ContactLine(3, 3) + "\r\n" + ContactLine(4, 4) + "\r\n");
     EXPECT_THAT(Actions(), IsEmpty());
@@ -165,7 +165,7 @@ TEST_F(RecoveryTest, TellsCwFromSsbByTheReports) {
     Put("log/FDkopi.txt", cw);
     const std::vector<Finding> findings = Look();
     ASSERT_THAT(findings, SizeIs(1));
-    // Which of the five it is nobody knows.
+    // The damaged log could be any of the five.
     EXPECT_EQ(findings[0].action, Action::KeepCopy);
     EXPECT_THAT(findings[0].candidates, ElementsAre("", "FD10mCW.txt", "FD15mCW.txt", "FD20mCW.txt", "FD40mCW.txt", "FD80mCW.txt"));
 }
@@ -202,7 +202,7 @@ TEST_F(RecoveryTest, StillProposesTheMergeAfterMoreCorrections) {
     RepairOne();
     EXPECT_EQ(ReadLogText(Content("log/FD80mSSB.txt")).lines.size(), 6U);
     EXPECT_THAT(Actions(), IsEmpty());
-    // A log that is made shorter afterwards is another matter: the merge is not proposed again.
+    // If the log becomes shorter later, other repairs may be proposed, but not the merge again.
     Put("log/FD80mSSB.txt", LogOf(5));
     EXPECT_THAT(Actions(), testing::Not(testing::Contains(Action::MergeVersion)));
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Pipes, rights, other users, and file systems that come and go. What takes root is skipped for others.
+// Pipes, permissions, other users, and file systems that appear and vanish. Tests that need root are skipped otherwise.
 #include <grp.h>
 #include <signal.h>
 #include <sys/mount.h>
@@ -48,7 +48,7 @@ protected:
         files_.Close(1);
         files_.Replace(At("log/FDkopi.txt"), At("log/FD80mSSB.txt"));
     }
-    /// What `work` gives in a process of the user "nobody", who may do as little as any other.
+    /// Returns the result of `work` in a process of the unprivileged user "nobody".
     template <class Work>
     static int AsSomebody(Work work) {
         const pid_t child = fork();

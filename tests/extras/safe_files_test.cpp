@@ -28,7 +28,7 @@ protected:
         surroundings.directoryWon = [this](const fs::path& directory) { won_.push_back(directory.filename().string()); };
         return surroundings;
     }
-    /// What a correction does: the copy, then its name.
+    /// Does what a correction does: writes the copy, then gives it the log's name.
     void Rewrite(SafeFiles& files, const std::vector<std::string>& lines) const {
         files.Open(1, At("log/FDkopi.txt"), FileMode::Output);
         for (const std::string& line : lines) files.PrintLine(1, line);
@@ -36,7 +36,7 @@ protected:
         files.Replace(At("log/FDkopi.txt"), At("log/FD80mSSB.txt"));
     }
     std::vector<std::string> Load() { return Lines(files_, At("log/FD80mSSB.txt")); }
-    /// The names of the versions of the log without their times.
+    /// The file names of the versions of the log, without their times.
     std::vector<std::string> History() const {
         std::vector<std::string> names;
         std::error_code none;
@@ -97,7 +97,7 @@ TEST_F(SafeFilesTest, MarksAVersionWithAContactThatItsSuccessorLacks) {
 }
 
 TEST_F(SafeFilesTest, KeepsWhatTheProgramHadNotSeenAndTellsOnce) {
-    // The list is shorter than the file, as after a read that failed.
+    // The program's list is shorter than the file, as after a failed read.
     Put("log/FD80mSSB.txt", LogOf(3));
     Rewrite(files_, {kOne});
     EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(1));
@@ -128,7 +128,7 @@ TEST_F(SafeFilesTest, SeesThatSomebodyElseHasChangedALine) {
 }
 
 TEST_F(SafeFilesTest, KnowsWhatItHasAppendedItself) {
-    // Without a line end, as a text editor leaves it.
+    // The last line has no line end, as some text editors leave it.
     Put("log/FD80mSSB.txt", kOne);
     Load();
     WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kTwo);
@@ -203,7 +203,7 @@ TEST_F(SafeFilesTest, PutsTheNextContactInThePlaceOfADamagedEnd) {
 TEST_F(SafeFilesTest, CutsNothingThatSomebodyHasChangedSinceItWasRead) {
     Put("log/FD80mSSB.txt", LogOf(2) + kThree.substr(0, 30));
     Load();
-    // Completed in an editor while the program runs.
+    // The last line is completed in an editor while the program runs.
     Put("log/FD80mSSB.txt", LogOf(4));
     WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, ContactLine(5, 5));
     EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(5));
@@ -237,7 +237,7 @@ TEST_F(SafeFilesTest, WritesNothingInADirectoryThatHasBecomeAnotherOne) {
     Put("log/FD80mSSB.txt", LogOf(1));
     ASSERT_TRUE(files_.TakeDirectory(At("log")));
     WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kTwo);
-    // The stick is pulled, the mount point is left.
+    // The stick is pulled out, and its mount point remains.
     fs::rename(root_ / "log", root_ / "stick");
     EXPECT_EQ(NumberOf([&] { files_.Open(1, At("log/FD80mSSB.txt"), FileMode::Append); }), 76);
     fs::create_directory(root_ / "log");
@@ -272,7 +272,7 @@ TEST_F(SafeFilesTest, RefusesADirectoryThatAnotherCopyHas) {
     EXPECT_FALSE(SafeFiles(disk_, Surroundings()).TakeDirectory(At("log")));
     EXPECT_EQ(NumberOf([&] { files_.Open(1, At("other/setlog.txt"), FileMode::Output); }), 70);
     EXPECT_EQ(taken_, 1);
-    // The old one is kept.
+    // The program keeps the old directory and its lock.
     WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kOne);
     EXPECT_FALSE(another.TakeDirectory(At("log")));
 }

@@ -21,7 +21,8 @@ struct FrmKinds : public Form {
     Timer timer{*this, "Timer1", 1000};
 };
 
-/// The case that is taken of four: a kind, the class of several kinds, the class of more of them, any control.
+/// Which of four cases is chosen: one for a single class, one for a base class, one for a more general base class, one for any
+/// control.
 std::string Taken(Control& control) {
     return ByKind(
         control, [](TextView&) { return std::string("a text"); }, [](TextControl& own) { return "with a caret " + own.Text(); },

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The rules of option buttons and scroll bars, proven through a front as those of the other controls.
+// The rules of option buttons and scroll bars, tested through a front end as in front_rules.h.
 #pragma once
 
 #include "forms/front_rules.h"
@@ -17,7 +17,7 @@ protected:
             if (output[i].ends_with(" on")) chosen += std::to_string(i);
         return chosen;
     }
-    /// Which options of the first frame are on after these lines, as "0" or "12".
+    /// Plays these lines and returns which options of the first frame are then on, as "0" or "12".
     std::string ChosenAfter(std::string_view lines) {
         return ChosenBy(
             Play(std::string(lines) + "\nshow frmRulesChoice.optRST(0)\nshow frmRulesChoice.optRST(1)\nshow frmRulesChoice.optRST(2)"));

@@ -16,7 +16,7 @@ using namespace literals;
 class Pasting : public RunningProgram {
 protected:
     Pasting() { Start(); }
-    /// What stands in the field, emptied before, behind the paste; in UTF-8.
+    /// Empties the field, pastes the text and returns the content of the field; in UTF-8.
     static std::string Pasted(TextControl& field, std::string_view text) {
         field.SetText({});
         PasteInto(field, text);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The rules of forms and controls that the logic leans on, proven on small forms of their own through a front. Every
-// front includes this in one test source and instantiates the suite with its drivers.
+// The rules of forms and controls that the logic relies on, tested on small forms through a front end. Every front end includes
+// this header in one test source and instantiates the suite with its drivers.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ protected:
     FrontRules() { happenings = {}; }
     ~FrontRules() override { happenings = {}; }
 
-    /// Starts a program that shows the form, and plays these lines. The output lines of all of them.
+    /// Starts a program that shows the form, plays these lines and returns all output lines.
     Output Play(std::string_view lines) {
         const Scenario scenario("start\n" + std::string(lines));
         const World world;
@@ -43,7 +43,7 @@ protected:
         for (const Output& output : player.Outputs()) all.insert(all.end(), output.begin(), output.end());
         return all;
     }
-    /// As Play, with what has happened in the forms instead of the output lines.
+    /// Like Play, but returns the events of the forms instead of the output lines.
     std::vector<std::string> HappenedIn(std::string_view lines) {
         Play(lines);
         return happenings.lines;
@@ -51,7 +51,7 @@ protected:
     /// The form that the program shows.
     virtual void Show() { frmRules->Show(); }
     static void On(const std::string& happening, std::function<void()> reaction) { happenings.reactions[happening] = std::move(reaction); }
-    /// Plays these lines on the form of things to look at.
+    /// Plays these lines on frmRulesLook.
     Output PlayLook(std::string_view lines) {
         On("KeyPress Text1(0) 97", [] { frmRulesLook->Show(); });
         return Play("type a\n" + std::string(lines));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Small forms for tests of the platform's rules. They note what their handlers hear; a test may tell them what to
-// do then.
+// Small forms for tests of the platform's rules. They record the events of their controls; a test can give them a reaction to
+// each.
 #pragma once
 
 #include <functional>
@@ -13,13 +13,13 @@
 
 namespace vatro {
 
-/// What has happened in the forms of the test, and what they do then.
+/// The events of the test's forms, and the reactions to them.
 struct Happenings {
-    /// "GotFocus Text1(0)", in order.
+    /// The events in order, for example "GotFocus Text1(0)".
     std::vector<std::string> lines;
-    /// What a handler does, by its line.
+    /// What a handler does, by the line that it records.
     std::map<std::string, std::function<void()>> reactions;
-    /// What the fields make of a key.
+    /// Changes or drops the keys typed into the fields.
     std::function<void(KeyCode&)> keyFilter;
 
     void Note(const std::string& line) {
@@ -89,7 +89,7 @@ private:
     }
 };
 
-/// A form with options in two frames and a scroll bar.
+/// A form with option buttons in two frames and a scroll bar.
 class FrmRulesChoice : public Form {
 public:
     FrmRulesChoice() : Form("frmRulesChoice", FormKind::Dialog, "Choice") {
@@ -121,7 +121,7 @@ private:
     }
 };
 
-/// A form to be shown over the other.
+/// A form to be shown on top of the other one.
 class FrmRulesOver : public Form {
 public:
     FrmRulesOver() : Form("frmRulesOver", FormKind::Dialog, "Over") {
@@ -136,7 +136,7 @@ public:
     Button cmdOK{*this, "cmdOK", "&OK"};
 };
 
-/// A form of things to look at.
+/// A form for tests of sorted lists, texts to read and pictures.
 class FrmRulesLook : public Form {
 public:
     FrmRulesLook() : Form("frmRulesLook", FormKind::Tool, "Look") {

@@ -3,14 +3,15 @@
 #
 #   circles.py [--report] SRC
 #
-# No knots: within a storey at most three modules may include each other in a circle. A module is a header and the sources of its
-# stem, taken together (order.h, order.cpp, order_posix.cpp). Besides, a folder of the rules uses only those before it, and no two
-# headers that one target sees share a name. --report lists the circles that are small enough, too.
+# Limits circular includes: within a storey at most three modules may include each other in a circle. A module is a header
+# together with the sources of the same base name (order.h, order.cpp, order_posix.cpp). Also, a folder of the rules may use
+# only the folders before it, and no two headers visible to one target may have the same name. --report also lists the circles
+# that are small enough.
 import re
 import sys
 from pathlib import Path
 
-# Each storey and what it uses; the include roots that a target sees are those of everything below it.
+# Each storey and the storeys it uses. A target sees the include roots of all storeys below it.
 STOREYS = {
     "text": [],
     "system": ["text"],
@@ -23,7 +24,7 @@ STOREYS = {
     "replay": ["desk", "disk"],
     "qt": ["desk", "extras", "disk"],
 }
-# Folders of the rules in the order in which they may use each other; the Morse uses none and none uses it.
+# The folders of the rules; each may use those before it. The Morse folder uses none of them, and none uses it.
 RULES = ["call", "log", "country", "score", "checks", "papers"]
 APART = "morse"
 LARGEST_CIRCLE = 3
@@ -52,7 +53,7 @@ def module_of(path, root):
 
 
 def resolve(name, source, roots):
-    """The file that an include means, as the compiler finds it, or nothing."""
+    """The file that the compiler would find for an include, or None."""
     for folder in [source.parent, *roots]:
         if (folder / name).is_file():
             return folder / name
@@ -110,7 +111,7 @@ def circles_of(graph):
 
 
 def wrong_order(graph):
-    """Uses of a folder of the rules by one that stands before it, or by or of the one that stands apart."""
+    """Forbidden uses between folders of the rules: of a later folder by an earlier one, and of or by the Morse folder."""
     for module, uses in sorted(graph.items()):
         folder = module.split("/")[0]
         for used in sorted(uses):
@@ -126,7 +127,7 @@ def wrong_order(graph):
 
 
 def shared_names(src):
-    """Headers that a target sees under one name in two include roots; and folders that two storeys share."""
+    """Headers of the same name in two include roots of a target, and folder names that two storeys share."""
     for storey in STOREYS:
         names = {}
         for root in seen_from(storey):

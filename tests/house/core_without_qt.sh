@@ -3,15 +3,16 @@
 #
 #   core_without_qt.sh VATRO VATRO-REPLAY LIBRARY...
 #
-# The logic knows no toolkit: vatro-replay links no Qt, directly or through another library, and none of the storeys' libraries asks
-# for a symbol of Qt. The window program, unless its name is empty because it is not built, shows that each search would find Qt.
+# Checks that the logic uses no toolkit: vatro-replay links no Qt library, directly or indirectly, and no storey library refers
+# to a Qt symbol. The same searches must find Qt in the window program, which proves that they work; its name is empty if it is
+# not built.
 set -euo pipefail
 export LC_ALL=C
 window=$1 replay=$2
 shift 2
 
 libraries() { ldd "$1" | grep -oE '^[[:space:]]*lib[^ ]+' || true; }
-# Names of Qt among the undefined symbols; names of the program have vatro:: before them.
+# Qt names among the undefined symbols. The program's own names begin with vatro::, so they do not match.
 qt_symbols() { nm -uC "$1" 2>/dev/null | grep -E '(^|[^A-Za-z0-9_:])(Q[A-Z][A-Za-z0-9]*(::|\()|Qt::|qt_|QtPrivate::|typeinfo for Q[A-Z])' || true; }
 
 fault=0

@@ -2,10 +2,10 @@
 """
 The names that a source declares.
 
-C++ is read by the tokens of its code: comments, string literals and includes are passed over. What looks like a declaration is
-one (a type, then a name, then what can follow a declared name), which finds locals, parameters, template parameters, lambda
-captures, structured bindings, enumerators and macros alike. An expression can be mistaken for a declaration; what stands in it
-has been declared elsewhere, so this does no harm. clang-format's spacing tells "Type& name" from "a & b".
+C++ is read as tokens, without comments, string literals and includes. Whatever looks like a declaration counts as one: a type, then a
+name, then something that can follow a declared name. This finds locals, parameters, template parameters, lambda captures, structured
+bindings, enumerators and macros alike. An expression may be mistaken for a declaration, which does no harm, because its names are
+declared elsewhere. The spacing of clang-format distinguishes "Type& name" from "a & b".
 """
 import ast
 import collections
@@ -30,13 +30,13 @@ KEYWORDS = set("""
     public register reinterpret_cast requires return short signed sizeof static static_assert static_cast struct switch template
     this thread_local throw true try typedef typeid typename union unsigned using virtual void volatile wchar_t while
 """.split())
-# Keywords that a declared name can follow: types and what stands behind a type.
+# Keywords that may come before a declared name: types and what may follow a type.
 TYPE_KEYWORDS = set("""
     auto bool char char8_t char16_t char32_t const constexpr constinit double float inline int long mutable short signed static
     thread_local unsigned void volatile wchar_t
 """.split())
 NAMING_KEYWORDS = ("class", "struct", "union", "enum", "typename", "concept")
-# The arguments of these macros are names.
+# The arguments of these macros are declared names.
 NAMING_MACROS = re.compile(r"(TYPED_)?TEST(_F|_P)?|MATCHER(_P\d?)?|ACTION(_P\d?)?|BENCHMARK_(DEFINE_)?F|INSTANTIATE_TEST_SUITE_P")
 AFTER_NAME = {";", "=", ",", ")", "{", "(", "[", ":", "...", ""}
 
@@ -55,7 +55,7 @@ class Source:
             self.look_at(index)
 
     def read(self, text):
-        """Takes the tokens of the code. Of the directives only macros are looked at, their bodies as statements of their own."""
+        """Reads the tokens of the code. Only macros are read among the directives, and their bodies count as separate statements."""
         tokens = [Token(match.lastgroup if match.lastgroup != "end" else "raw", match.group(), match.start())
                   for match in TOKEN.finditer(text)]
         tokens = [token for token in tokens if token.kind not in ("blank", "comment")]
@@ -127,7 +127,7 @@ class Source:
         text, before, after = self.text(index), self.text(index - 1), self.text(index + 1)
         if self.is_name(index):
             if before in NAMING_KEYWORDS:
-                # "class X;" tells of a class that is declared elsewhere, often in a library.
+                # "class X;" refers to a class that is declared elsewhere, often in a library.
                 if after != "::" and not (after == ";" and before in ("class", "struct")):
                     self.add(index)
             elif before == "..." and self.text(index - 2) in NAMING_KEYWORDS:
@@ -160,7 +160,7 @@ class Source:
         if after == ":" and before.text not in (">", "*", "&", "&&"):
             return False
         if before.text in ("*", "&", "&&", ">", ">>"):
-            # Behind a type there is no blank before these; between operands there is one.
+            # After a type there is no blank before these; between operands there is one.
             front = self.tokens[index - 2] if index > 1 else before
             if front.text == "(":
                 return after == ")" and self.text(index + 2) in ("(", "[")
@@ -173,7 +173,7 @@ class Source:
         return before.text == "..."
 
     def ends_template(self, index):
-        """The name of the last parameter of a template that is a value; "const Type>" names none."""
+        """The name of the last template parameter if it is a value parameter; "const Type>" has no name."""
         before = self.text(index - 1)
         return self.text(index + 1) == ">" and (before in TYPE_KEYWORDS - {"const"} or self.is_name(index - 1))
 
@@ -184,7 +184,7 @@ class Source:
             self.add(index)
 
     def add_further_names(self, index):
-        """The others of "int a = 1, *b, c"."""
+        """The names after the first in a declaration like "int a = 1, *b, c"."""
         while index < len(self.tokens):
             if self.opens(index):
                 index = self.partner.get(index, len(self.tokens)) + 1
@@ -200,7 +200,7 @@ class Source:
             index += 1
 
     def first_of_each(self, opening, wanted):
-        """The first name of each item of a list in brackets, where `wanted` holds for it."""
+        """The first name of each item in a bracketed list, if `wanted` is true for it."""
         expected = True
         at = opening + 1
         while at < self.partner.get(opening, opening):
@@ -254,7 +254,7 @@ def of_python(text):
 
 READERS = {".h": of_code, ".cpp": of_code, ".py": of_python}
 
-# What sample_faults() proves: that each of these declarations is seen, and nothing that is only used
+# sample_faults() proves that each of these declarations is found, and nothing that is merely used.
 SAMPLE = """
 #include "notThis.h"
 #define macroName(macroParameter) int macroBody = macroParameter;
@@ -293,5 +293,5 @@ DECLARED = set("""
 
 
 def sample_faults():
-    """The names of the sample that are missed, or found where they are not declared."""
+    """The names of the sample that are not found, and those that are found without being declared."""
     return sorted(DECLARED ^ {name for name, _ in of_code(SAMPLE)})

@@ -3,9 +3,9 @@
 """
     docs.py ROOT
 
-The developers' pages speak of what there is: each relative link leads somewhere, each path in backticks exists, and each
-name of the code in backticks stands in the sources. Such a name has a capital letter, "::" or "()"; one with "()", also in
-a drawing, must be called or declared there.
+Checks that the developers' pages are up to date: each relative link has a target, each path in backticks exists, and each code name
+in backticks occurs in the sources. A code name has a capital letter, "::" or "()". One with "()", also in a drawing, must be called or
+declared in the sources.
 """
 import pathlib
 import re
@@ -32,7 +32,7 @@ def sources(root):
 
 
 def anchors(page):
-    """The places of a page that a link can lead to: its headings."""
+    """The anchors of a page that a link can lead to: its headings."""
     headings = re.findall(r"(?m)^#+ +(.+)$", page.read_text(encoding="utf-8"))
     return {re.sub(r"[^\w -]", "", heading.lower()).replace(" ", "-") for heading in headings}
 

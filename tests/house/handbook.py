@@ -3,8 +3,8 @@
 """
     handbook.py ROOT
 
-The handbook in help/: each page is well-formed and keeps to what the viewer shows, each link and image leads somewhere,
-each page is reachable from the table of contents, and vinduer.html names each item of the menu bar, with its key.
+Checks the handbook in help/: each page is well-formed and uses only HTML that the viewer supports, each link and image has a target,
+each page can be reached from the table of contents, and vinduer.html names each item of the menu bar with its key.
 """
 import html.parser
 import pathlib
@@ -14,7 +14,7 @@ import sys
 CONTENTS = "indhold.html"
 ITEMS = "vinduer.html"
 KEYS = "operatoer.html"
-# Of HTML 4, what the rich text viewer knows.
+# The part of HTML 4 that the rich text viewer supports.
 TAGS = set("a b body br code h1 h2 h3 head html img li meta ol p pre table td th title tr ul".split())
 VOID = {"br", "img", "meta"}
 
@@ -26,7 +26,7 @@ def complain(text):
 
 
 class Page(html.parser.HTMLParser):
-    """A page: its links, its anchors, and its table rows under the heading they stand below."""
+    """A page: its links, its anchors, and its table rows by the heading above them."""
 
     def __init__(self, path):
         super().__init__()
@@ -100,7 +100,7 @@ class Item:
 
 
 def menu_items(header):
-    """The entries that the operator can choose, as they stand in the header of the menu bar."""
+    """The entries that the operator can choose, from the header of the menu bar."""
     entry = re.compile(
         r'(?:MenuItem\s+(?P<variable>\w+))?\{\*this,\s*(?:nullptr|&(?P<parent>\w+)),\s*"[^"]*"(?:_t)?,\s*'
         r'"(?P<caption>[^"]*)"(?:_t)?(?:,\s*-?\d+)?(?:,\s*\{(?P<options>[^}]*)\})?\}')

@@ -3,7 +3,7 @@
 #
 #   includes.sh SRC
 #
-# No source outside src/qt and src/main.cpp includes a header of Qt or of the Qt front.
+# Checks that no source outside src/qt and src/main.cpp includes a header of Qt or of the Qt front end.
 set -euo pipefail
 export LC_ALL=C
 cd "$1"

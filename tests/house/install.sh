@@ -3,8 +3,8 @@
 #
 #   install.sh ROOT BUILD CMAKE
 #
-# What BUILD installs is what belongs on a system and nothing else, its names and versions agree with each other, and the script
-# that starts the program puts the user's tables where they belong.
+# Checks that BUILD installs exactly the files that belong on a system, that names and versions agree with each other, and that
+# the start script copies the tables to the user's data directory.
 set -euo pipefail
 export LC_ALL=C
 root=$1 build=$2 cmake=$3
@@ -13,7 +13,7 @@ trap 'rm -rf "$work"' EXIT
 fault=0
 complain() { echo "$1"; fault=1; }
 
-# A prefix that nobody has configured, with a blank in it.
+# A prefix that differs from the configured one and contains a blank.
 prefix="$work/a prefix"
 (umask 022 && "$cmake" --install "$build" --prefix "$prefix" >/dev/null)
 
@@ -39,7 +39,7 @@ share/vatro/refpfx.txt
 FILES
     (cd "$root/help" && printf 'share/doc/vatro/handbook/%s\n' *.html *.png)
 } | sort >"$work/expected"
-# With VATRO_DEBIAN there are three more.
+# VATRO_DEBIAN adds three more files.
 (cd "$prefix" && find . ! -type d -printf '%P\n') | grep -vE '^share/(doc-base/|doc/vatro/(changelog\.Debian|vatro\.spdx))' | sort >"$work/installed"
 diff -u "$work/expected" "$work/installed" || complain "other files are installed than belong there"
 
@@ -63,7 +63,7 @@ for page in vatro vatro-cty; do
     agree "$page(1)" "$(zcat "$prefix/share/man/man1/$page.1.gz" | sed -nE 's/^\.TH .* "Vatro ([0-9.]+)"$/\1/p')"
 done
 
-# The start of the program, with something in its place that tells how it was called.
+# Runs the start script with a fake program that prints how it was called.
 cat >"$prefix/libexec/vatro/vatro" <<'PROGRAM'
 #!/bin/sh
 printf '%s\n' "$PWD" "$@"
@@ -89,7 +89,7 @@ for name in lande.txt refpfx.txt edr.txt cty.dat; do
 done
 [ ! -s "$tables/operator.txt" ] || complain "an empty list of operators was replaced"
 
-# A table goes to the disk before it gets its name, and the directory after that.
+# A table must be synced before it is renamed, and the directory after that.
 if command -v strace >/dev/null && strace true 2>/dev/null; then
     rm "$tables/lande.txt"
     start strace -f -qq -e trace=/sync,/rename -o "$work/calls" "$prefix/bin/vatro" >/dev/null
@@ -99,7 +99,7 @@ if command -v strace >/dev/null && strace true 2>/dev/null; then
     ! grep -qE 'sync|rename' "$work/calls" || complain "a start that puts nothing there waits for the disk"
 fi
 
-# Where a table cannot be put there the program starts all the same.
+# The program starts even if a table cannot be copied.
 rm "$tables/lande.txt"
 mkdir "$work/full"
 printf '#!/bin/sh\nexit 1\n' >"$work/full/sync"

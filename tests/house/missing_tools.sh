@@ -3,8 +3,8 @@
 #
 #   missing_tools.sh TESTS
 #
-# A test whose tool is not installed is skipped on a developer's machine and fails where CI is "true". Each of them is started here
-# with nothing but a shell, Python and a few small programs in its path.
+# Checks that a test whose tool is missing is skipped on a developer's machine and fails if CI is "true". Each such test is
+# started with a path that holds only a shell, Python and a few small programs.
 set -euo pipefail
 tests=$1
 bare=$(mktemp -d)
@@ -40,7 +40,7 @@ typing/typing_while_sending.sh vatro data
 power/kill_corrections.py vatro data
 CALLS
 
-# One that is not in the list above would be forgotten.
+# Finds tests that are missing from the list above.
 listed=$(grep -cE '^[a-z]+/[a-z_]+\.(sh|py)' "$0")
 having=$(cd "$tests" && grep -rlE 'skip\.sh"|return 1 if .*CI|exit\(1 if .*CI|skip_without_tools\(\)|program_on_screen\.sh"' --include='*.sh' --include='*.py' . |
     grep -cvE '/(missing_tools\.sh|program_on_screen\.sh|desktop\.py)$')

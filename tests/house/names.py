@@ -4,14 +4,14 @@
     names.py ROOT             checks the names of the sources
     names.py ROOT --places    brings the column "where" of docs/glossary.md up to date first
 
-Names are English, except for those of the contest, which docs/glossary.md lists. So every name that is declared in src, tests,
-fuzz or bench, and every file that it is declared in, must be a name of the glossary or consist of English words: words of
-Debian's wamerican, or of words.txt beside this file. Parts that are joined by "_" are judged one by one, so that
-`Text1_LostFocus` passes. The class of the form `frmNote` is `FrmNote`.
+Names are English, except for the given ones, which docs/glossary.md lists. Every name declared in src, tests, fuzz or bench, and the
+name of every file with declarations, must be in the glossary or consist of English words: words of Debian's wamerican, or of words.txt
+beside this file. Parts joined by "_" are checked one by one, so `Text1_LostFocus` passes. The class of the form `frmNote` is
+`FrmNote`.
 
-Some Danish words are spelled like English ones. Those of danish.txt never count as English.
+Some Danish words are spelled like English ones. The words in danish.txt never count as English.
 
-What counts as declared stands in declared.py.
+declared.py decides which names are declared.
 """
 import collections
 import itertools
@@ -26,7 +26,7 @@ FOLDERS = ("src", "tests", "fuzz", "bench")
 DICTIONARY = pathlib.Path("/usr/share/dict/american-english")
 MOST_WORDS = 150
 
-# What every run proves first: that names are judged so.
+# Every run first proves that these names are judged correctly.
 GOOD = ("Text1_LostFocus", "FrmNote", "formRigAnt", "IndlæsLogfil", "IndlæsLogfil_Reads", "kCallField", "width_", "OKGivesTheLine2")
 BAD = {"SkrivBlad": ["skriv", "blad"], "FindLand": ["land"], "næste_": ["næste"], "kTiLogge": ["ti", "logge"],
        "IndlæsLogfiler": ["indlæs", "logfiler"]}
@@ -39,21 +39,21 @@ def words_of(part):
 
 
 def listed(path):
-    """The words of a list, one a line; "#" begins a comment."""
+    """The words of a list, one per line; "#" begins a comment."""
     lines = (line.partition("#")[0].strip() for line in path.read_text(encoding="utf-8").split("\n"))
     return [line for line in lines if line]
 
 
 class Glossary:
-    """docs/glossary.md: tables whose first column holds names in backticks. In `mnuEfter{10,15}m{CW,SSB}` each choice is meant. The
-    file that a name stands in is given in its line, or in the heading above. Settings keys are in quotation marks."""
+    """docs/glossary.md: tables whose first column holds names in backticks. `mnuEfter{10,15}m{CW,SSB}` stands for every
+    combination. The file of a name is given in its line, or in the heading above. Settings keys are in quotation marks."""
 
     ROW = re.compile(r"\| (`.*?`(?:, `.*?`)*) \|(.*)\|")
     PLACE = re.compile(r"`((?:src|data|tests)/[^`]*)`")
 
     def __init__(self, path):
         self.path = path
-        # Each name with its line and the line that gives its file.
+        # Each name with its line and the line that names its file.
         self.names = {}
         self.lines = path.read_text(encoding="utf-8").split("\n")
         heading = 0
@@ -98,7 +98,7 @@ class Glossary:
                 yield f"{where}: does not stand in {place}"
 
     def move(self, root, declared):
-        """Replaces files in which a name does not stand any more by one in which it is declared, or at least stands."""
+        """Replaces a file that no longer contains its name with one that declares it, or at least contains it."""
         sources = {path.relative_to(root).as_posix(): path.read_text(encoding="utf-8")
                    for path in sorted((root / "src").rglob("*")) if path.suffix in (".h", ".cpp")}
         for name, _, at, place in list(self.places()):

@@ -3,9 +3,9 @@
 #
 #   out_parameters.py SRC BUILD
 #
-# A rule returns what it finds: no procedure of the rules writes through a parameter. clang-query lists every parameter that is a
-# reference or a pointer to something that is not const; streams and observers, which are interfaces, are no results.
-# Lines of out_parameters.txt ("FILE: DECLARATION  # reason"), at most five, are let pass. BUILD holds compile_commands.json.
+# Checks that no procedure of the rules returns results through a parameter. clang-query lists every parameter that is a
+# reference or a pointer to something not const; streams and observers are interfaces and are not results. The lines of
+# out_parameters.txt ("FILE: DECLARATION  # reason"), at most five, are exceptions. BUILD holds compile_commands.json.
 import os
 import re
 import shutil
@@ -43,7 +43,7 @@ def main():
     seen = set()
     for file, line, column in found:
         text = file.read_text(encoding="utf-8").splitlines()[line - 1]
-        # Columns count bytes.
+        # clang-query counts columns in bytes.
         parameter = text.encode()[: column - 1].decode(errors="replace").split("(")[-1].split(",")[-1] + text.encode()[column - 1 :].decode(errors="replace")
         if re.match(rf"\s*(const )?(vatro::)?({'|'.join(INTERFACES)})\s*[&*]", parameter):
             continue

@@ -3,8 +3,8 @@
 #
 #   outside.sh SOURCE BUILD CMAKE
 #
-# The rules of the contest serve others than the program: a project of its own links the libraries of text, platform, rules and disk,
-# counts ten logs, and gives the total that the summary has.
+# Checks that the rules can be used without the program: a separate project links the libraries of text, platform, rules and
+# disk, counts ten logs, and prints the same total as the summary.
 set -euo pipefail
 source=$1 build=$2 cmake=$3
 place=$(mktemp -d)

@@ -3,8 +3,8 @@
 #
 #   package.sh ROOT
 #
-# The desktop entry, the metainfo and the manual pages are as their own checkers want them. Skipped where one of the checkers
-# is missing and the others find nothing.
+# Runs the checkers of the desktop entry, the metainfo and the manual pages. Skipped if a checker is missing and the others find
+# nothing.
 set -euo pipefail
 . "$(dirname "$0")/../skip.sh"
 cd "$1/packaging"
@@ -17,7 +17,7 @@ have() {
 }
 if have desktop-file-validate; then
     told=$(desktop-file-validate dk.vatro.Vatro.desktop 2>&1) || fault=1
-    # Hints are no failure of it, and are read here all the same.
+    # The checker does not fail for hints, but they count as faults here.
     [ -z "$told" ] || { echo "$told"; fault=1; }
 fi
 if have appstreamcli; then

@@ -3,8 +3,8 @@
 #
 #   sources.sh ROOT
 #
-# Each source begins with its licence line, is valid UTF-8 and has an ASCII name. Files over 400 lines are told, and are
-# no failure.
+# Checks that each source begins with its licence line, is valid UTF-8 and has an ASCII name. Files of more than 400 lines are
+# reported but are not a failure.
 set -euo pipefail
 export LC_ALL=C
 cd "$1"

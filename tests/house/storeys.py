@@ -3,12 +3,13 @@
 #
 #   storeys.py TARGETS SRC CMAKE
 #
-# No storey below the window front sees one that it does not use. TARGETS is what CMake says of each storey's target, a line each:
-# storey, include directories, definitions, options, the targets it waits for, and the compiler; lists are joined by ";".
+# Checks that no storey below the window front end sees a storey that it does not use. TARGETS comes from CMake and has a line
+# for each storey's target: storey, include directories, definitions, options, build dependencies and the compiler; lists are
+# joined by ";".
 #
-# - A source of one line that includes a header of another storey compiles, with what its own target gives the compiler, only if the
-#   storey uses the other one. It must fail because the header is not found, and for no other reason.
-# - The same by way of "..": the step that every target waits for refuses it, and the build stops there.
+# - A one-line source that includes a header of another storey, compiled with the options of its own target, compiles only if the
+#   storey uses the other one. Otherwise it must fail because the header is not found, and for no other reason.
+# - The same with "..": the include check that every target depends on refuses it, and the build stops there.
 import os
 import shutil
 import subprocess
@@ -43,7 +44,7 @@ def header_of(storey, src):
 
 
 def try_include(target, name, folder):
-    """What the compiler says of a source that includes this and nothing else; empty if it compiles."""
+    """The compiler's output for a source that includes only this header; empty if it compiles."""
     source = Path(tempfile.mkstemp(suffix=".cpp", dir=folder)[1])
     source.write_text(f'#include "{name}"\n', encoding="utf-8")
     command = [target.compiler, "-std=c++20", "-fsyntax-only", *target.flags, *[f"-I{path}" for path in target.includes], str(source)]
@@ -70,7 +71,7 @@ def try_all(target, src, folder):
 
 
 def refused(list_file, cmake):
-    """What the step that looks at a storey's includes says of the files listed; empty if nothing."""
+    """The output of the include check for the files listed; empty if it finds nothing."""
     stamp = list_file.with_suffix(".stamp")
     result = run([cmake, "-D", f"LIST={list_file}", "-D", f"STAMP={stamp}", "-P", str(CHECK)])
     if (result.returncode == 0) != stamp.exists():
@@ -106,7 +107,8 @@ def try_ways_round(target, src, folder, cmake):
 
 
 def try_build(compiler, folder, cmake):
-    """A library with the step: with an include out of its folder it cannot be built, though the compiler finds the header."""
+    """Builds a library with the include check. An include that leads out of its folder must stop the build, although the compiler
+    finds the header."""
     project = folder / "project"
     for name in ("low", "high"):
         (project / name).mkdir(parents=True)

@@ -3,8 +3,8 @@
 #
 #   tables.sh DATA VATRO-REPLAY VATRO-CTY
 #
-# The country file of a first start passes its check, the two tables beside it are what the program's import makes of it, byte
-# by byte, and a damaged country file leaves tables as they are.
+# Checks that the country file of a first start passes vatro-cty, that the two tables are byte for byte what the program's
+# import makes from it, and that a damaged country file leaves existing tables unchanged.
 set -euo pipefail
 data=$1
 replay=$2
@@ -19,7 +19,7 @@ cp "$data/cty.dat" "$made/"
 cmp "$data/lande.txt" "$made/lande.txt"
 cmp "$data/refpfx.txt" "$made/refpfx.txt"
 
-# In the middle of an entry.
+# Cuts the file in the middle of an entry.
 head -c 60000 "$data/cty.dat" >"$made/cty.dat"
 if "$data/make-tables" "$made" "$replay" >/dev/null 2>&1; then
     echo "a damaged country file made tables"

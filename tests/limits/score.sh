@@ -3,9 +3,9 @@
 #
 #   score.sh VATRO-REPLAY
 #
-# The score of a log is multipliers times points in 32 bits. 4657 lines that are cut off behind 99 points are 4657
-# multipliers and 461,043 points, 2,147,077,251 in all, which fits; one line more is 2,147,999,436 and stops the program, on
-# the summary, on the web page and on paper.
+# The score of a log is multipliers times points in 32 bits. 4657 lines that end after 99 points are 4657 multipliers and
+# 461,043 points, in all 2,147,077,251, which fits. One more line gives 2,147,999,436 and stops the program, on the summary, on
+# the web page and on paper.
 set -euo pipefail
 replay=$1
 work=$(mktemp -d)

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Has an independent decoder read what the program sends.
+"""Checks with an independent decoder what the program sends.
 
     decode_morse.py VATRO-REPLAY
 
-A scenario sends texts at several speeds and writes what was heard to WAV files. This script keys the same texts by itself,
-from dots and dashes; multimon-ng must read the one as it reads the other, and letters, figures and punctuation as they are
-written. Exit 77: multimon-ng is not installed; where CI is "true", exit 1.
+A scenario sends texts at several speeds and writes the sound to WAV files. This script generates the same texts itself from
+dots and dashes. multimon-ng must read both alike, and must read letters, digits and punctuation exactly as written. Exit 77:
+multimon-ng is not installed; where CI is "true", exit 1.
 """
 
 import array
@@ -23,7 +23,7 @@ from pathlib import Path
 RATE = 44100
 TONE = 800
 SPEEDS = (16, 20, 24, 30)
-# Above this speed the silence behind a text is shorter than the half second in which the program ends it.
+# Above this speed the silence after a text is shorter than the half second within which the program ends it.
 FASTEST_WITHOUT_A_TAIL = 24
 
 MORSE = {
@@ -45,11 +45,11 @@ JOINED = ("<SK>", "<AR>", "<KN>", "<KA>", "<BT>", "<CH>", "<HH>", "<AS>", "<SN>"
 
 
 def between_letters(signs):
-    """A word for each sign, so that one that is misread spoils no other."""
+    """One word per character, so that a misread character does not affect others."""
     return " ".join(f"E{sign}T" for sign in signs)
 
 
-# What is stored for each key, what must be on the air where that is another text, and whether it is to be read as written.
+# For each key: the stored text, the text that must be sent if it differs, and whether it must be read exactly as written.
 TEXTS = (
     ("THE QUICK BROWN FOX JUMPS OVER THE LAZY DOG", None, True),
     ("0123456789 9876543210 E T 5 0", None, True),
@@ -96,7 +96,7 @@ def scenario(speed):
 
 
 def keyed(text, speed):
-    """The samples of a text as raw bytes: a dot is 1.2 seconds by the speed, edges are 5 ms."""
+    """The samples of a text as raw bytes: a dot takes 1.2 seconds divided by the speed, and edges take 5 ms."""
     dot = round(RATE * 1.2 / speed)
     edge = round(RATE * 0.005)
 
@@ -121,7 +121,7 @@ def keyed(text, speed):
 
 
 def read_back(raw, speed):
-    """What multimon-ng reads; it takes the 44.1 kHz for 22.05 kHz, so that its dots are twice as long."""
+    """The text that multimon-ng reads. It treats the 44.1 kHz as 22.05 kHz, so it sees dots of twice the length."""
     second = bytes(2 * RATE)
     dot = str(round(2400 / speed))
     run = subprocess.run(

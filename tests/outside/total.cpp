@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What somebody writes who wants the contest without the program: counts the ten logs of a directory.
+// Uses the rules of the contest without the program: counts the ten logs of a directory.
 #include <iostream>
 
 #include "disk_files.h"

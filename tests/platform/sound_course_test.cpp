@@ -7,14 +7,14 @@
 
 namespace vatro {
 
-/// A buffer of ten samples with an event behind the fifth and the last one.
+/// A buffer of ten samples with one event after the fifth sample and one after the last.
 class Course : public ::testing::Test {
 protected:
     Course() {
         const PositionNotification positions[]{{4, 1}, {9, 2}};
         course.SetPositions(positions);
     }
-    /// The passings in their order, told one after the other.
+    /// Reports the passings one by one in their order.
     std::vector<std::pair<long long, SoundEvent>> Told(int count) {
         std::vector<std::pair<long long, SoundEvent>> told;
         for (int i = 0; i < count; ++i) {

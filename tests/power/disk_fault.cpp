@@ -46,7 +46,7 @@ public:
     }
 
 private:
-    /// The call's name and the path that it touches.
+    /// The name of the call and the path that it touches.
     std::pair<std::string, fs::path> Touched(const user_regs_struct& call) const {
         switch (call.orig_rax) {
             case SYS_openat:
@@ -86,7 +86,7 @@ private:
         if (fault_.error == 0) {
             if (name == "write" && call.rdx > 1) call.rdx /= 2;
         } else if (name == "close") {
-            // The file is closed all the same.
+            // The file is closed even though the call fails.
             failing_ = true;
         } else {
             call.orig_rax = static_cast<unsigned long long>(-1);

@@ -11,10 +11,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// How the system shows a file that has no name, or has lost it.
+/// The suffix that the system shows for a file that has no name or has lost it.
 constexpr std::string_view kNameless = " (deleted)";
 
-/// Of a file that had the blocks before.
+/// Bytes of another file that used the same disk blocks earlier.
 std::string Remains(std::size_t size) {
     constexpr std::string_view kOld = "\x7f\x45LF\x02\x01 of another file, \xfe\xff\x03";
     std::string remains;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// What may be found on a disk after the power has gone.
+// The states in which a disk may be found after a power cut.
 //
-// Calls change what the system shows; only what was synced is sure to be found again. Of the rest the disk may have taken
-// all, nothing, or a part: a file may have its new length and zeros, or what was on the disk before, in place of its bytes; a
-// directory may have its new names and not the files' contents, or the other way round.
+// Calls change what the system shows, but only synced data are certain to be found again. The disk may have written all of the
+// rest, nothing, or a part: a file may have its new length with zeros or old disk contents in place of its bytes, and a
+// directory may have its new names without the contents of the files, or the other way round.
 #pragma once
 
 #include <filesystem>
@@ -25,16 +25,16 @@ void WriteDisk(const std::filesystem::path& directory, const DiskState& state);
 
 class DiskModel {
 public:
-    /// All that is there has been synced.
+    /// Starts with this state, all of it synced.
     explicit DiskModel(const DiskState& before);
     void Do(const DiskCall& call);
-    /// What may be found now.
+    /// The states that may be found now.
     std::set<DiskState> AfterPowerCut() const;
-    /// What the system shows now.
+    /// The state that the system shows now.
     DiskState Shown() const;
 
 private:
-    /// How much of what was not synced the disk has taken.
+    /// How much of the unsynced data the disk has written.
     enum class Taken { All, Half, Length, Zeros, Remains, Nothing };
     struct File {
         std::string shown;
@@ -46,7 +46,7 @@ private:
     DiskState Found(const Names& names, Taken taken) const;
     File& Named(const std::filesystem::path& path) { return files_.at(shownNames_.at(path.string())); }
 
-    /// Also those that have lost their name.
+    /// Includes files that have lost their name.
     std::vector<File> files_;
     Names shownNames_;
     Names syncedNames_;

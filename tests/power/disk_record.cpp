@@ -25,7 +25,7 @@ public:
     Recorder(const Recorder&) = delete;
     Recorder& operator=(const Recorder&) = delete;
 
-    /// Lets the process go on until its end.
+    /// Lets the process continue until its end.
     std::vector<DiskCall> Follow() {
         for (int signal = 0;;) {
             if (ptrace(PTRACE_SYSCALL, process_, nullptr, signal) != 0) throw std::runtime_error("the process cannot be followed");
@@ -54,7 +54,7 @@ private:
         }
     }
 
-    /// Before the call: what is then there no more to be asked for.
+    /// Runs before the call, because some facts can no longer be asked for after it.
     void Enter() {
         pending_.clear();
         const auto begin = [this](DiskCall::Kind kind, const fs::path& path) -> DiskCall* {
@@ -102,7 +102,7 @@ private:
                 return Rename(PathAt(arguments_[0], arguments_[1]), PathAt(arguments_[2], arguments_[3]), begin);
             case SYS_linkat: {
                 const fs::path from = PathAt(arguments_[0], arguments_[1]);
-                // A file without a name gets one.
+                // A file without a name gets one here.
                 if (from.string().starts_with("/proc/")) return Rename(Target(from), PathAt(arguments_[2], arguments_[3]), begin);
                 if (DiskCall* link = begin(DiskCall::Kind::Link, from))
                     link->to = PathAt(arguments_[2], arguments_[3]).lexically_relative(directory_);
@@ -133,7 +133,7 @@ private:
     void Open(const fs::path& path, int flags, Begin begin) {
         flags_ = flags;
         if ((flags & O_TMPFILE) == O_TMPFILE) {
-            // It has no name yet.
+            // The file has no name yet.
             begin(DiskCall::Kind::Create, path / "unnamed");
         } else if ((flags & O_CREAT) != 0 && !fs::exists(path)) {
             begin(DiskCall::Kind::Create, path);
@@ -164,14 +164,14 @@ private:
         const int handle = static_cast<int>(directory);
         return fs::read_symlink(Proc(handle == AT_FDCWD ? "cwd" : "fd/" + std::to_string(handle))) / path;
     }
-    /// What the process's name of an open file stands for.
+    /// The path of an open file descriptor of the process.
     fs::path Target(fs::path path) const {
         if (path.string().starts_with("/proc/self/")) path = Proc(path.string().substr(std::string("/proc/self/").size()));
         std::error_code none;
         const fs::path target = fs::read_symlink(path, none);
         return none ? path : target;
     }
-    /// Where the next write to the file of the first argument goes.
+    /// The offset of the next write to the file of the first argument.
     std::size_t Position(const fs::path& path) const {
         std::ifstream info(Proc("fdinfo/" + std::to_string(static_cast<int>(arguments_[0]))));
         std::string name;
@@ -198,9 +198,9 @@ private:
     int memory_;
     long number_ = 0;
     Arguments arguments_{};
-    /// Of the last opening.
+    /// The flags of the last open call.
     int flags_ = 0;
-    /// What the call under way does if it succeeds.
+    /// The changes that the current call makes if it succeeds.
     std::vector<DiskCall> pending_;
     std::vector<DiskCall> calls_;
 };

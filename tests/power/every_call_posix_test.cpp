@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The power goes at every call that the program makes to the disk, one after the other, and the disk has taken all, a part or
-// nothing of what was not synced. What may then be found of each file that the program writes.
+// Cuts the power at every disk call of the program, one after the other. Of the data not synced by then the disk has written
+// all, a part or nothing. The tests state in which states each file may then be found.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -23,7 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The in-memory front, which tells at each "shot": the command before it has returned.
+/// The in-memory front end. At each "shot" it tells its test that the command before it has returned.
 class TellingFront : public MemoryFront {
 public:
     explicit TellingFront(Teller teller) : teller_(teller) {}
@@ -40,7 +40,7 @@ const std::string kOperators = "data/operator.txt";
 
 const std::string kFirst = "12:01 DL1AA           59 -0001 59 -0003  3 DL         OZ1DEF     SSB   05-09-26\r\n";
 const std::string kSecond = "12:02 DL2BB           59 -0002 59 -0004  3            OZ1DEF     SSB   05-09-26\r\n";
-/// What the contact of the story must be logged as.
+/// The log line of the contact that the test logs.
 const std::string kThird = "13:00 DL3CC           59 -0003 59 -0005  3            OZ1DEF     SSB   05-09-26\r\n";
 const std::string kStranger = "13:00 QX3CC           59 -0003 59 -0005  0            OZ1DEF     SSB   05-09-26\r\n";
 
@@ -56,7 +56,7 @@ const std::string kStart =
     "setting Settings gsLogLib log\nsetting Settings gsBackupLib backup\nsetting Settings LastOP OZ1DEF\n"
     "setting Settings VisInfo2002 False\nstart\n";
 
-/// What one file may hold after a cut: before, and of which it is one when the story is told to its end.
+/// Which states of one file are allowed after a cut. `told` is true once the program has reported that it is done.
 using Allowed = std::function<bool(const DiskState& found, bool told)>;
 
 bool Holds(const DiskState& state, const std::string& path, const std::string& content) {
@@ -64,7 +64,8 @@ bool Holds(const DiskState& state, const std::string& path, const std::string& c
     return file != state.end() && file->second == content;
 }
 
-/// Grows by whole lines once they are told of; until then the new end may be there in part, or damaged. `before` stays.
+/// The file grows by whole lines. Once told, the new lines must be there; before that, the new end may be partial or damaged.
+/// `before` always stays.
 Allowed Appended(const std::string& path, const std::string& before, const std::string& after) {
     return [=](const DiskState& found, bool told) {
         if (told) return Holds(found, path, after);
@@ -74,7 +75,7 @@ Allowed Appended(const std::string& path, const std::string& before, const std::
     };
 }
 
-/// The old log, the new one, or none and the whole new one under the name of the copy.
+/// The old log, the new log, or no log and the whole new one under the name of the copy.
 Allowed Rewritten(const std::string& before, const std::string& after) {
     return [=](const DiskState& found, bool told) {
         if (told) return Holds(found, kLog, after);
@@ -83,7 +84,8 @@ Allowed Rewritten(const std::string& before, const std::string& after) {
     };
 }
 
-/// Written anew in its place, from data that are elsewhere: the old content, or as much as the new at most, damaged or not.
+/// A file rewritten in place from data that exist elsewhere. Until told, it may have its old content, or up to the new length
+/// of possibly damaged bytes.
 Allowed WrittenInPlace(const std::string& path, const DiskState& before, const DiskState& after) {
     const auto old = before.find(path);
     const bool missing = old == before.end();
@@ -101,7 +103,7 @@ protected:
         if (!CanRecord()) GTEST_SKIP() << "no process may be looked at here";
     }
 
-    /// Plays the events in the world `before`, the telling "shot" behind them, and records them.
+    /// Plays the events in the world `before`, followed by the "shot", and records the calls.
     void Play(const DiskState& before, const std::string& events) {
         before_ = before;
         const TemporaryDirectory directory;
@@ -119,7 +121,8 @@ protected:
         after_.erase(kSettings);
     }
 
-    /// Every file named may be found as it is told there, every other one as it was. Gives what was found with the cuts.
+    /// Checks each file named against its allowed states, and that every other file is unchanged. Returns the states found at
+    /// all cuts.
     std::set<DiskState> CutEverywhere(const std::map<std::string, Allowed>& allowed) {
         DiskModel disk(before_);
         std::set<DiskState> all;
@@ -130,7 +133,7 @@ protected:
             for (const DiskState& state : found) Judge(state, allowed, told, cut);
             all.merge(found);
             if (cut == calls_.size()) break;
-            // The world of a scenario keeps its settings in a file of its own.
+            // The scenario player stores the settings in a file of its own.
             if (calls_[cut].path == kSettings) continue;
             told = told || calls_[cut].kind == DiskCall::Kind::Told;
             if (!told) ++changes;
@@ -214,7 +217,7 @@ TEST_F(EveryCall, OfACorrectionLeavesTheOldLogOrTheNewOneOrTheWholeCopy) {
     corrected.replace(corrected.find("0004"), 4, "0007");
     std::map<std::string, Allowed> allowed = InPlace({kOperators});
     allowed[kLog] = Rewritten(kFirst + kSecond, kFirst + corrected);
-    // Whatever is in it: it counts only where the log is gone.
+    // The copy may have any content, because it counts only if the log is gone.
     allowed[kCopy] = [](const DiskState&, bool) { return true; };
     const std::set<DiskState> found = CutEverywhere(allowed);
     EXPECT_TRUE(std::any_of(found.begin(), found.end(), [](const DiskState& state) { return !state.contains(kLog); }))
@@ -249,7 +252,7 @@ TEST_F(EveryCall, OfTheImportOfCountriesSparesEverythingButTheTwoTables) {
     CutEverywhere(InPlace({"data/lande.txt", "data/refpfx.txt"}));
 }
 
-/// Papers of an earlier hour lie there already.
+/// Papers of an earlier hour already exist.
 DiskState WithOldPapers(const std::vector<std::string>& papers) {
     DiskState world = World80m();
     for (const std::string& paper : papers) world[paper] = "An earlier paper, which is longer than nothing.\r\n";

@@ -3,15 +3,16 @@
 """
 kill_corrections.py VATRO DATA [--lives N] [--lines N] [--at-random N] [--seed N]
 
-Ends the real program in the middle of corrections, again and again in the same world, and looks for contacts that are gone.
+Kills the real program during corrections, again and again with the same files, and looks for lost contacts.
 
-Each life starts the program on a screen of its own, takes what the recovery window proposes with Enter, logs two contacts,
-corrects a line in sight and is ended with SIGKILL while the log is written: before one of the system calls that touch the log
-directory, each in its turn, or at a random moment. The first life is not ended; it tells which calls there are. The driver keeps a journal of its own of the lines that it has seen confirmed. A line is
-confirmed when the field of the call is empty again, which the driver takes from the log having grown by it, and a correction when its
-window has closed. After each start every line of the journal must be in the log; the correction under way may be there or not.
+Each life starts the program on a virtual screen, accepts with Enter what the recovery window proposes, logs two contacts, corrects a
+visible line and is killed with SIGKILL while the log is written: before one of the system calls that touch the log directory, each in
+its turn, or at a random moment. The first life is not killed; it shows which calls there are. This script keeps a journal of the
+confirmed lines. A contact is confirmed when the call field is empty again, which the script concludes from the log having grown by the
+line; a correction is confirmed when its window has closed. After each start every line of the journal must be in the log. An
+unconfirmed correction may be in the log or not.
 
-Prints one line a life, with the call before which it ended, and at the end how many lines were missing.
+Prints one line per life, with the call before which it ended, and at the end how many lines were missing.
 """
 import argparse
 import os
@@ -30,7 +31,7 @@ LOG = "FD80mSSB.txt"
 
 
 def calls_in(trace):
-    """The calls that strace has seen, as (name, how many of its name so far, the line)."""
+    """The system calls in strace's output, as (name, how many of that name so far, the line)."""
     seen, counts = [], {}
     with open(trace) as told:
         for line in told:
@@ -42,7 +43,7 @@ def calls_in(trace):
 
 
 def call_of(number):
-    """A call that no other number has."""
+    """A call that is different for each number."""
     return f"DL{number % 10}{''.join(chr(65 + number // 10 // 26 ** i % 26) for i in range(3))}"
 
 
@@ -66,12 +67,12 @@ class Screen:
                 break
             time.sleep(0.05)
         self.manager = subprocess.Popen(["openbox"], env=self.env, stderr=subprocess.DEVNULL)
-        # A window that comes while it starts may never be shown.
+        # A window shown while the window manager starts may stay invisible.
         for _ in range(200):
             if self.xdotool("get_num_desktops"):
                 break
             time.sleep(0.05)
-        # It says so before it looks at its first window.
+        # The window manager sets this property before it looks for windows.
         time.sleep(1)
 
     def close(self):
@@ -88,7 +89,7 @@ class Screen:
         return found[0] if found else None
 
     def activate(self, window):
-        """Until it keeps the keyboard: the side windows come up after the main one."""
+        """Waits until the main window keeps the focus: the side windows are shown after it."""
         kept = 0
         for _ in range(200):
             kept = kept + 1 if self.xdotool("getactivewindow") == window else 0
@@ -130,7 +131,7 @@ class Driver:
         with open(self.log, "wb") as log:
             log.write("".join(line + "\r\n" for line in self.journal).encode("cp1252"))
         self.next = arguments.lines + 1
-        # The received number of the correction under way when the last life ended, 0 if there was none.
+        # The received number of the correction that was being made when the last life ended, 0 if there was none.
         self.received = 0
         self.missing = 0
         self.recoveries = 0
@@ -148,7 +149,7 @@ class Driver:
         for row, line in enumerate(self.journal):
             if line in known:
                 continue
-            # The correction under way when the life ended may have been made.
+            # The correction that was being made when the life ended may be in the log.
             corrected = line[:35] + f"{self.received:04d}" + line[39:]
             if self.received and corrected in known:
                 self.journal[row] = corrected
@@ -159,7 +160,7 @@ class Driver:
                 print(f"  MISSING {line}")
         if self.missing > before:
             print(f"life {life}: {self.missing - before} confirmed lines are not in the log")
-        # They are counted once.
+        # Counts them only once.
         self.journal = [line for line in self.journal if line in known]
         self.received = 0
 
@@ -209,7 +210,7 @@ class Driver:
     def correct(self, program, main, life, kill_before, recovered):
         screen = self.screen
         geometry = dict(re.findall(r"(\w+)=(-?\d+)", screen.xdotool("getwindowgeometry", "--shell", main)))
-        # A row of the list in sight.
+        # A row that is visible in the list.
         x, y = int(geometry["X"]) + 200, int(geometry["Y"]) + 180 + 20 * self.random.randrange(8)
         screen.xdotool("mousemove", x, y, "click", "--repeat", "2", "--delay", "40", "1")
         form = screen.wait("^Ret QSO$", 5)
@@ -238,7 +239,7 @@ class Driver:
             ended = True
         except subprocess.TimeoutExpired:
             ended = False
-        # No life goes on beyond its correction: where there were fewer calls than that, it has been confirmed.
+        # A life stops after its correction. If there were fewer calls than that, the correction was confirmed.
         confirmed = not ended and screen.window("^Ret QSO$") is None
         if not ended:
             program.kill()
@@ -251,7 +252,7 @@ class Driver:
             self.calls = calls_in(trace)
             where = f"after its correction, which has {len(self.calls)} calls"
         elif kill_before != "random":
-            # strace may have come too late to see a call; the life was not ended then.
+            # strace may have started too late to see a call; then the life was not ended.
             seen = calls_in(trace) if os.path.exists(trace) else []
             where = f"before call {len(seen)}, {seen[-1][2][:150]}" if seen else "before any call"
         print(f"life {life}: {'recovered, ' if recovered else ''}{'ended' if ended or kill_before is None else 'not ended'} {where}", flush=True)
@@ -261,7 +262,7 @@ class Driver:
         for _ in range(200):
             with open(f"/proc/{program.pid}/status") as status:
                 if "TracerPid:\t0" not in status.read():
-                    # Its threads one after the other.
+                    # strace attaches to the threads one after the other.
                     time.sleep(0.1)
                     return
             time.sleep(0.02)
@@ -279,7 +280,7 @@ class Driver:
         self.received = 0
 
     def run(self):
-        # The first correction makes the folder of the history besides.
+        # The first correction also creates the history folder.
         self.live(0, None)
         self.live(0, None)
         at_calls, ended = self.arguments.lives - self.arguments.at_random, 0
@@ -288,7 +289,7 @@ class Driver:
                 ended += self.live(life, self.calls[(life - 1) % len(self.calls)][:2])
             else:
                 self.live(life, "random")
-        # Once more, for what the last life has left.
+        # One more life checks what the last one left.
         self.live(self.arguments.lives + 1, "random")
         print(f"{self.arguments.lines} lines at the start, {len(self.journal) + self.missing} in the journal; {ended} of {at_calls} lives ended before "
               f"one of the {len(self.calls)} calls of a correction, {self.arguments.at_random} at random; {self.recoveries} recoveries, "

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The power goes at any moment. A contest is played in a process of its own, which is killed with a signal that it cannot
-// catch; what it had told of is then looked for on the disk.
+// Cuts the power at any moment. A child process plays a contest and is killed with a signal that it cannot catch. The test then
+// looks on the disk for everything that the process had confirmed.
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/wait.h>
@@ -35,8 +35,8 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kLineWidth = 79;
 
-/// Runs `life` in a process of its own, kills it `wait` after it has told of something for the first time, and gives the number
-/// of things it has told of. A life that fails tells of nothing more.
+/// Runs `life` in a child process and kills it `wait` after its first confirmation. Returns the number of confirmations. A life
+/// that fails confirms nothing more.
 template <class Life>
 std::size_t KillAfter(std::chrono::microseconds wait, Life life) {
     int ends[2];
@@ -69,7 +69,7 @@ std::size_t KillAfter(std::chrono::microseconds wait, Life life) {
     return told;
 }
 
-/// The in-memory front, which tells when Enter has returned.
+/// The in-memory front end, which confirms each return from Enter.
 class TellingFront : public MemoryFront {
 public:
     explicit TellingFront(Teller teller) : teller_(teller) {}
@@ -111,7 +111,7 @@ std::string Content(const fs::path& file) {
 
 class PowerCut : public testing::Test {
 protected:
-    /// A world that no earlier cut has touched.
+    /// A fresh world, untouched by earlier cuts.
     fs::path NextWorld() {
         const fs::path world = root / std::to_string(worlds_++);
         fs::create_directory(world);
@@ -126,7 +126,7 @@ protected:
 
 private:
     int worlds_ = 0;
-    // Another moment at every run of the test would make a failure hard to find again.
+    // A fixed seed: with random moments a failure would be hard to reproduce.
     std::mt19937 random_{20260905};
 };
 
@@ -142,7 +142,7 @@ TEST_F(PowerCut, NeverLosesALineWhoseEnterHadReturned) {
         });
         const std::string log = Content(directory / "log" / "FD80mSSB.txt");
         const std::size_t lines = log.size() / (kLineWidth + 2);
-        // A write that crosses into another page of the system's memory can be cut there.
+        // A write that crosses a page boundary of the system's memory can be cut there.
         const std::size_t begun = log.size() % (kLineWidth + 2) != 0 ? 1 : 0;
         ASSERT_GE(lines, logged);
         ASSERT_LE(lines + begun, logged + 1) << "only the contact under way may be on disk beside those told of";
@@ -157,7 +157,7 @@ TEST_F(PowerCut, NeverLosesALineWhoseEnterHadReturned) {
     EXPECT_GT(cutShort, 100U) << "the cuts came too late to prove anything";
 }
 
-/// A log of which every line names its version.
+/// A log in which every line names its version.
 std::string Version(char mark, int lines) {
     std::string log;
     for (int i = 0; i < lines; ++i) {
@@ -168,7 +168,7 @@ std::string Version(char mark, int lines) {
     return log;
 }
 
-/// The in-memory front, on which a key rewrites the log in the other version again and again.
+/// The in-memory front end; a key rewrites the log again and again, alternating between two versions.
 class RewritingFront : public MemoryFront {
 public:
     explicit RewritingFront(Teller teller) : teller_(teller) {}
@@ -220,7 +220,7 @@ TEST_F(PowerCut, LeavesTheOldLogOrTheNewOneOrTheWholeCopy) {
     RecordProperty("copies_found", static_cast<int>(copies));
 }
 
-/// The in-memory front, which tells when it has opened the log and when a correction has returned.
+/// The in-memory front end, which confirms that it opened the log and each return from a correction.
 class CorrectingFront : public MemoryFront {
 public:
     explicit CorrectingFront(Teller teller) : teller_(teller) {}
@@ -237,12 +237,12 @@ private:
     Teller teller_;
 };
 
-/// A log of 300 contacts, of which every correction gives another line another received number.
+/// A log of 300 contacts. Each correction gives a different line a different received number.
 class CorrectedLog {
 public:
     static constexpr int kLines = 300;
 
-    /// The whole file after so many corrections.
+    /// The whole file after this many corrections.
     std::string After(std::size_t corrections) const {
         std::vector<int> received(kLines, 7);
         for (std::size_t i = 0; i < corrections; ++i) received[static_cast<std::size_t>(Line(i))] = Number(i);
@@ -266,7 +266,7 @@ public:
     }
 
 private:
-    // Not one line after the other, so that a file of two versions would show.
+    // The lines are not corrected in order, so a file that mixes two versions is detected.
     static int Line(std::size_t correction) { return static_cast<int>(correction * 37 % kLines); }
     static int Number(std::size_t correction) { return 1000 + static_cast<int>(correction); }
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The files of the desktop program when the power goes, and when the disk fails, at each of their calls.
+// The files of the desktop program when the power is cut or the disk fails at each of their calls.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -28,7 +28,7 @@ constexpr int kContacts = 30;
 const std::string kCorrected = ContactLine(7, 7, "DL7CC");
 const std::string kAppended = ContactLine(kContacts + 1, kContacts + 1);
 
-/// A desktop's files in a directory with the log and the user's own directory in it.
+/// A desktop's files, in a directory that holds the log directory and the user's home.
 class Desk {
 public:
     explicit Desk(const fs::path& root) : root_(root), files_(disk_, Around()) {}
@@ -42,7 +42,7 @@ public:
             files_.Open(1, At("FD80mSSB.txt"), FileMode::Input);
             while (!files_.EndOfFile(1)) lines.push_back(files_.LineInput(1));
         } catch (const RunTimeError&) {
-            // The end of the log, as for the program.
+            // The program also treats a failed read as the end of the log.
             failed_ = true;
         }
         files_.Close(1);
@@ -80,7 +80,7 @@ std::vector<std::string> Corrected(std::vector<std::string> lines) {
     return lines;
 }
 
-/// What lies in the log, and what in the history of any place.
+/// The lines in the log and in the history, wherever the history is.
 std::set<std::string> LinesBelow(const fs::path& root) {
     std::set<std::string> lines;
     for (const auto& [path, content] : ReadDisk(root)) {
@@ -100,7 +100,7 @@ protected:
     static DiskState Before() { return {{"log/FD80mSSB.txt", LogOf(kContacts)}, {"state/here.txt", "x"}}; }
 };
 
-/// Recovery by Enter: everything that is proposed.
+/// Recovery with Enter only: everything that is proposed is accepted.
 void TakeProposals(const fs::path& root) {
     History history(root / "log", HistoryElsewhere(root / "state", root / "log"), [] { return DateTime{2026, 9, 5, 15, 0, 0, 0}; });
     for (const Finding& finding : LookForDamage({root / "log", root / "data", "80mSSB", {2026, 9, 5, 15, 0, 0, 0}}, history))
@@ -189,11 +189,12 @@ TEST_F(SafeDisk, AContactCostsTheCallsOfABareAppend) {
     for (const DiskCall& call : calls)
         if (call.path == "log/FD80mSSB.txt") kinds.push_back(call.kind);
     EXPECT_EQ(kinds, (std::vector{DiskCall::Kind::Write, DiskCall::Kind::Sync}));
-    // The lock is there before.
+    // The lock existed before.
     EXPECT_TRUE(std::none_of(calls.begin(), calls.end(), [](const DiskCall& call) { return call.kind == DiskCall::Kind::SyncDirectory; }));
 }
 
-/// The story with one call going wrong, and a second try of what failed. What it has confirmed goes to a file beside.
+/// The story with one failing call, and a second try of each step that failed. Its confirmations are written to a separate
+/// file.
 void LiveWithFault(const fs::path& root, const fs::path& journal) {
     Desk desk(root);
     std::ofstream told(journal, std::ios::binary);
@@ -247,7 +248,7 @@ TEST_F(SafeDisk, AFaultAtAnyCallLosesNoConfirmedLine) {
                 if (line.size() == 79 && !line.starts_with("NOTICE")) {
                     ASSERT_TRUE(lines.contains(line)) << line << " is gone: " << where;
                 }
-            // The log alone has all contacts, unless the operator was told that the read had failed.
+            // The log alone must have all contacts, unless the operator was told that reading failed.
             Desk after(directory.Path());
             const std::vector<std::string> log = after.Load();
             std::ifstream again(journal);

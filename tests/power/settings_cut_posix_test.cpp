@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The power goes at every call with which a setting, or a batch of them, is stored.
+// Cuts the power at every call with which a setting, or a batch of settings, is stored.
 #include <gtest/gtest.h>
 
 #include "disk_settings.h"
@@ -26,8 +26,8 @@ protected:
         return {settings.Read("Settings", "Band"), settings.Read("Settings", "Mode"), settings.Read("Settings", "gsLogLib")};
     }
 
-    /// Cuts before each call of `life`, which tells when its writing is done: each time the values are those of before or of after,
-    /// and only those of after once it has been told.
+    /// Cuts before each call of `life`, which tells when it has finished writing. Until then the values must be all old or all
+    /// new; afterwards they must be the new ones.
     void Cut(const std::function<void(const Teller&)>& life, const Values& before, const Values& after) {
         DiskModel disk(ReadDisk(directory_.Path()));
         const std::vector<DiskCall> calls = RecordCalls(directory_.Path(), life);

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// How a process that will not live long tells its test how far it has come.
+// Lets a process that will be killed report its progress to the test.
 #pragma once
 
 #include <unistd.h>
 
 namespace vatro {
 
-/// What the doomed process tells of, one byte each.
+/// Each report is one byte.
 class Teller {
 public:
     explicit Teller(int pipe) : pipe_(pipe) {}

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a screen reader is told of each form: every form that the program has, so a new one is asked too.
+// What a screen reader hears about each form. Every form of the program is tested, including new ones.
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
@@ -28,14 +28,14 @@ protected:
         Dispatch([] {
             for (FormSlotBase* slot : FormSlots())
                 if (!slot->Name().starts_with("frmRules") && slot->Name() != "frmWrong") slot->Load();
-            // Without a caption of its own until it is used.
+            // This form has no caption until it is used.
             VisEDRstns(true);
         });
         driver.Settle();
         for (const Form* form : LoadedForms()) WindowOf(*form).Top()->show();
     }
 
-    /// Everything in the window that the focus can stand in, without what a list or a combo box has in itself.
+    /// Everything in the window that can have the focus, except the inner widgets of lists and combo boxes.
     static Interfaces Focusable(QAccessibleInterface& in) {
         Interfaces found;
         if (in.state().focusable && !in.state().invisible) found.push_back(&in);

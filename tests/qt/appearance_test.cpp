@@ -20,7 +20,7 @@ protected:
     QMainWindow& Window() { return dynamic_cast<QMainWindow&>(*WindowOf(*frmMain).Top()); }
     QAction& Sun() { return *Window().findChild<QAction*>(QStringLiteral("appearanceSun")); }
     QWidget& Call() { return WidgetOf<QWidget>(frmMain->fields[kCallField]); }
-    /// The size of the text of the call field.
+    /// The font size of the call field.
     double Points() { return Call().font().pointSizeF(); }
     void Press(Qt::Key key) {
         QTest::keyClick(&Window(), key, Qt::ControlModifier);
@@ -65,7 +65,7 @@ TEST_F(AppearanceOfTheWindow, WindowGrowsWithItsTextAsFarAsTheScreenGoes) {
     const QSize usual = Window().size();
     const auto* room = dynamic_cast<const ScrollRoom*>(Window().centralWidget());
     for (int i = 0; i < 10; ++i) Press(Qt::Key_Plus);
-    // All is seen, or what there is of the screen is used.
+    // Either everything is visible, or the window uses all of the screen.
     EXPECT_TRUE(room->Missing().width() == 0 || Window().width() >= screen.right() - Window().x());
     EXPECT_TRUE(room->Missing().height() == 0 || Window().height() >= screen.bottom() - Window().y());
     EXPECT_GE(Window().width(), usual.width());

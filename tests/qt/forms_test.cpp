@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Every form of the program on its window.
+// Every form of the program in its window.
 #include <gtest/gtest-spi.h>
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -27,14 +27,14 @@ namespace vatro {
 
 namespace {
 
-/// Name and problem, one a line.
+/// Name and problem, one per line.
 std::string Problems(const FormWindow& window) {
     std::string all;
     for (const QString& problem : window.Problems()) all += problem.toStdString() + "\n";
     return all;
 }
 
-/// A form whose layout lacks a field and has one that nobody owns.
+/// A form whose layout lacks a field and has a field that belongs to no control.
 class FrmWrong : public Form {
 public:
     FrmWrong() : Form("frmWrong", FormKind::Dialog, "Wrong") {}
@@ -52,7 +52,7 @@ protected:
             for (FormSlotBase* slot : FormSlots())
                 if (!slot->Name().starts_with("frmRules") && slot->Name() != "frmWrong") slot->Load();
         });
-        // Without a caption of its own until it is used.
+        // This form has no caption until it is used.
         Dispatch([] { VisEDRstns(true); });
         driver.Settle();
     }
@@ -97,10 +97,10 @@ protected:
 };
 
 TEST_F(MainWindow, FitsASmallScreenBesideItsStoredPlace) {
-    // 1024 by 600 less a frame, and less the 67 pixels of the place that a first start takes.
+    // 1024 by 600, less a window frame and the offset of 67 pixels that a first start uses.
     EXPECT_LE(Top().width() + 67, 1024);
     EXPECT_LE(Top().height() + 67 + 40, 600);
-    // Without scrolling on a screen of 1920 by 1080 at twice the size.
+    // No scrolling on a screen of 1920 by 1080 at scale 2.
     const auto* room = Top().findChild<ScrollRoom*>();
     const QSize least = Top().size() - room->size() + room->widget()->minimumSizeHint();
     EXPECT_LE(least.width() + 67, 960);
@@ -126,7 +126,7 @@ TEST_F(MainWindow, PutsEachHeadOverItsColumn) {
     EXPECT_EQ(pieces[1].text, QStringLiteral("Call"));
     for (qsizetype i = 0; i < pieces.size(); ++i) {
         const int over = head.mapFromGlobal(list.viewport()->mapToGlobal(QPoint(list.ColumnLeft(columns[i]), 0))).x();
-        // A head as long as its column may push the next one on by less than two characters.
+        // A heading as wide as its column may push the next one on by less than two characters.
         EXPECT_GE(pieces[i].x, over) << i;
         EXPECT_LE(pieces[i].x, over + 2 * (list.ColumnLeft(2) - list.ColumnLeft(1))) << i;
     }
@@ -205,7 +205,7 @@ TEST_F(WindowProgram, TellsControlsWithoutWidgetAndWidgetsWithoutControl) {
     BeginProgram();
     ::testing::TestPartResultArray warnings;
     {
-        // The window warns of both.
+        // The window warns of both problems.
         const ::testing::ScopedFakeTestPartResultReporter intercept(::testing::ScopedFakeTestPartResultReporter::INTERCEPT_ALL_THREADS,
                                                                     &warnings);
         Dispatch([] { frmWrong.Load(); });

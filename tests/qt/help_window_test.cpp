@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The help viewer, and the picture of the handbook on the window of its own.
+// The help viewer, and the Quick Info picture in its own window.
 #include "help_window.h"
 
 #include <gtest/gtest.h>
@@ -94,7 +94,7 @@ TEST_F(HelpViewer, GoesBackByKey) {
 }
 
 TEST_F(HelpViewer, FindsFromPageToPageAndRoundAtTheEnd) {
-    // No other place than other pages: the contents do not name the file.
+    // The text occurs only on other pages: the table of contents does not name the file.
     ASSERT_TRUE(Window().FindNext(QStringLiteral("REFPFX.TXT")));
     const QString first = Window().Page();
     EXPECT_NE(first, QStringLiteral("indhold.html"));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The ways into a control that the scenarios do not know: input methods, undo, the context menu's paste, the keypad.
+// Ways of input that the scenarios do not cover: input methods, undo, paste from the context menu, the keypad.
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The program without a mouse: every form that there is, with real keys on its window. A new form has to be told here how it is
-// left.
+// The program without a mouse: every form is operated with real keys on its window. A new form must be added to this list with
+// the keys that close it.
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -21,7 +21,7 @@ using namespace literals;
 
 using Letters = std::set<char>;
 
-/// How a form goes by key: by Esc, by Enter in its first control, or by neither.
+/// Which keys close a form: Esc, Enter in its first control, or neither.
 struct Leaving {
     bool byEsc = false;
     bool byEnter = false;
@@ -29,7 +29,7 @@ struct Leaving {
 
 const std::map<std::string, Leaving> kLeaving{
     {"FormQuickInfo", {.byEsc = true}},
-    // Its buttons are neither default nor cancel button.
+    // None of its buttons is the default or the cancel button.
     {"FormRigAnt", {}},
     {"frmAbout", {.byEsc = true, .byEnter = true}},
     {"frmAfslut", {}},
@@ -45,17 +45,17 @@ const std::map<std::string, Leaving> kLeaving{
     {"frmNote", {.byEsc = true, .byEnter = true}},
     {"frmNytQSOnr", {.byEsc = true, .byEnter = true}},
     {"frmQSOnr", {}},
-    // Esc empties fields; Enter logs, which needs a contact that can be logged.
+    // Esc empties the fields, and Enter logs the contact, which must be complete.
     {"frmRetQSO", {}},
     {"frmSplash", {}},
     {"frmStregP", {}},
     {"frmTilFloppy", {}},
-    // OK is no default button.
+    // OK is not a default button.
     {"frmUTC", {.byEsc = true}},
     {"frmVisTekst", {.byEsc = true, .byEnter = true}},
 };
 
-/// Letters that two controls of a form share, because their captions are given so.
+/// Access keys that two controls of a form share, because their captions are prescribed.
 const std::map<std::string, Letters> kShared{
     // "F&5:" and "Shift+F&5:", and so on.
     {"frmCW", {'5', '6', '7', '8'}},
@@ -63,13 +63,13 @@ const std::map<std::string, Letters> kShared{
     {"frmRetQSO", {'O'}},
 };
 
-/// Letters that entries of a menu share, by the menu's caption: two logs of each band begin alike.
+/// Access keys that entries of a menu share, by the menu's caption. The two logs of a band begin with the same digit.
 const std::map<std::string, Letters> kSharedInMenu{
     {"Dan &log", {'1', '2', '4', '5', '8'}},
     {"&Udskriv log...", {'1', '2', '4', '5', '8'}},
 };
 
-/// Letters that occur more than once.
+/// The letters that occur more than once.
 Letters Twice(const std::vector<char>& letters) {
     Letters once;
     Letters twice;
@@ -92,7 +92,7 @@ protected:
             if (!slot->Name().starts_with("frmRules") && slot->Name() != "frmWrong") slots.push_back(slot);
         return slots;
     }
-    /// Shown, with texts that let the focus go everywhere.
+    /// Shows the form with texts that let the focus leave every field.
     Form& Open(FormSlotBase& slot) {
         Dispatch([&] {
             slot.Load();
@@ -129,7 +129,7 @@ TEST_F(Keyboard, TabComesByEveryControlAndShiftTabGoesBack) {
         std::vector<const Control*> stops;
         for (const Control* control : form.TabOrder())
             if (Usable(*control) && control->TabStop()) stops.push_back(control);
-        // Begun wherever the form itself puts the focus.
+        // Begins where the form itself puts the focus.
         const auto begin = std::find(stops.begin(), stops.end(), form.ActiveControl());
         if (stops.empty()) {
             Leave(*slot);
@@ -158,7 +158,7 @@ TEST_F(Keyboard, WhateverTakesTheFocusIsReached) {
         const std::set<const Control*> order(form.TabOrder().begin(), form.TabOrder().end());
         for (const Control* control : form.Controls()) {
             if (!Usable(*control) || (order.contains(control) && control->TabStop())) continue;
-            // The arrow keys lead to the options that are off; the sent number is only to be read.
+            // Options that are off are reached with the arrow keys, and the sent number is read-only.
             const bool option = As<OptionButton>(control) != nullptr && order.contains(control);
             EXPECT_TRUE(option || control == &frmMain->fields[kNumberSentField]) << form.Name() << "." << control->FullName();
         }
@@ -189,7 +189,7 @@ TEST_F(Keyboard, EscLeavesWhereItShould) {
 
 TEST_F(Keyboard, EnterLeavesWhereItShould) {
     for (FormSlotBase* slot : Slots()) {
-        // Their Enter asks about what stands in the fields.
+        // In these forms Enter checks the content of the fields first.
         if (slot->Name() == "frmMain" || slot->Name() == "frmRetQSO") continue;
         if (slot->Name() == "frmSplash" || slot->Name() == "frmAfslut") continue;
         Open(*slot);
@@ -215,9 +215,9 @@ TEST_F(Keyboard, NoTwoControlsOfAFormShareAnAccessKey) {
 TEST_F(Keyboard, NoTwoEntriesOfAMenuShareAnAccessKey) {
     const auto& main = dynamic_cast<QMainWindow&>(*WindowOf(*frmMain).Top());
     int menus = 0;
-    // As the window has them, with what the front adds.
+    // The menus as the window has them, including entries that the front end adds.
     for (const QMenu* menu : main.menuBar()->findChildren<QMenu*>()) {
-        // Qt's own for what has no room; and one whose texts are the operator's.
+        // Skips Qt's own menu for entries without room, and the menu whose texts the operator writes.
         if (menu->title().isEmpty() || menu->title() == QStringLiteral("C&W")) continue;
         std::vector<char> letters;
         for (const QAction* action : menu->actions())

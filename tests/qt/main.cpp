@@ -10,14 +10,14 @@
 
 namespace {
 
-/// What Qt says of its plugin without a screen, and of a print that cannot be written, which the program tells of itself.
+/// Warnings about the offscreen plugin, and about a print that cannot be written, which the program reports itself.
 bool Expected(const QString& text) {
     return text.startsWith(QStringLiteral("This plugin does not support")) ||
            text.startsWith(QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR")) ||
            text == QStringLiteral("QPainter::begin(): Returned false");
 }
 
-/// A warning of Qt that nobody expects fails the test in which it comes.
+/// An unexpected warning from Qt fails the running test.
 void FailOnWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
     if (type == QtDebugMsg || type == QtInfoMsg || Expected(text)) {
         std::fprintf(stderr, "%s\n", qPrintable(text));

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Side windows that the window manager minimises together with the main window. What real window managers do is in
-// tests/desktop.
+// Side windows that the window manager minimises together with the main window. tests/desktop tests real window managers.
 #include <QWidget>
 #include <QWindow>
 
@@ -17,7 +16,7 @@ class Minimising : public WindowProgram {
 protected:
     Minimising() { StartVatro(); }
     QWidget& Window(const Form& form) const { return *WindowOf(form).Top(); }
-    /// As a window manager does it: the main window first, then those above it.
+    /// Minimises like a window manager: the main window first, then its transient windows.
     void Minimise() {
         Window(*frmMain).showMinimized();
         for (const Form* form : {static_cast<Form*>(&*frmB4), static_cast<Form*>(&*frmQSOnr), static_cast<Form*>(&*frmContestCall)})
@@ -39,7 +38,7 @@ TEST_F(Minimising, LeavesTheContestCallOnTheScreen) {
     EXPECT_TRUE(call.isVisible());
     EXPECT_FALSE(call.isMinimized());
     EXPECT_EQ(call.pos(), at);
-    // Above a minimised window it would be minimised again.
+    // With a minimised window as its parent it would be minimised again.
     EXPECT_EQ(call.windowHandle()->transientParent(), nullptr);
 }
 
@@ -59,7 +58,7 @@ TEST_F(Minimising, IsUndoneForAllWindows) {
 
 TEST_F(Minimising, IsNoneOfASideWindowThatOnlyGoesAlong) {
     Minimise();
-    // Otherwise it would not be stored at the end.
+    // A form that is minimised would not be stored at the end of the program.
     for (const Form* form : {static_cast<Form*>(&*frmB4), static_cast<Form*>(&*frmQSOnr), static_cast<Form*>(&*frmContestCall)})
         EXPECT_EQ(form->State(), WindowState::Normal) << form->Name();
     EXPECT_EQ(frmMain->State(), WindowState::Minimised);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The ways in which the user brings text in from outside, on the desktop: what a field's keys do not take, none of them does.
+// The ways in which the user brings text in from outside. Text that a field's keys refuse must be refused by all of them.
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>

@@ -18,7 +18,7 @@
 namespace vatro {
 namespace {
 
-/// Of a machine without a printer: each job becomes a PDF file.
+/// Needs a machine without a printer, on which each job becomes a PDF file.
 class Printer : public RunningProgram {
 protected:
     void SetUp() override {
@@ -120,7 +120,7 @@ TEST(PrintServer, ThatAcceptsAndSaysNothingIsGivenUpAfterTwoSeconds) {
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t length = sizeof address;
     ASSERT_EQ(::bind(silent, reinterpret_cast<sockaddr*>(&address), length), 0);
-    // The system accepts what nobody takes up.
+    // The kernel accepts connections although nothing ever answers them.
     ASSERT_EQ(::listen(silent, 8), 0);
     ASSERT_EQ(::getsockname(silent, reinterpret_cast<sockaddr*>(&address), &length), 0);
 

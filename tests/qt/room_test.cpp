@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Windows, and the room that they have and give.
+// The size and scrolling of windows.
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPushButton>
@@ -53,7 +53,7 @@ TEST_F(Room, QuickInfoStandsInTheMiddleOfTheScreenAndIsNotSizedByTheUser) {
 TEST_F(Room, QuickInfoKeepsTheShapeOfItsPicture) {
     Shown(*formQuickInfo);
     const auto& picture = WidgetOf<PictureView>(formQuickInfo->picture);
-    // 1400 by 990, as make-quickinfo draws it.
+    // 1400 by 990, the size in which make-quickinfo draws it.
     EXPECT_NEAR(picture.width() * 990.0 / 1400, picture.height(), 1);
 }
 
@@ -75,7 +75,7 @@ TEST_F(Room, DialoguesStayOnTheScreen) {
 }
 
 TEST_F(Room, FieldWithTheFocusIsInSightOfASmallWindow) {
-    // A screen of 1024 by 600 at twice the size, less a frame.
+    // A screen of 1024 by 600 at scale 2, less a window frame.
     Dispatch([] { frmMain->Place(0, 0, 512 * kTwipsPerPixel, 270 * kTwipsPerPixel); });
     driver.Settle();
     EXPECT_EQ(Main().width(), 512);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// Layouts for the small forms of the platform's rules.
+// Layouts for the small forms that test the platform's rules.
 #pragma once
 
 namespace vatro {
 
-/// Makes the two forms known to the window front.
+/// Registers the forms with the window front end.
 void AddRulesLayouts();
 
 }  // namespace vatro

@@ -33,7 +33,7 @@ using namespace std::string_view_literals;
 
 // --- Settings
 
-/// Files of settings that Qt has written are read, and Qt reads those that are written now.
+/// Settings files that Qt wrote can be read, and Qt reads the files that are written now.
 TEST(SettingsFile, IsReadAndWrittenAsQtDoes) {
     std::string all;
     for (int code = 1; code < 256; ++code) all.push_back(static_cast<char>(code));
@@ -129,7 +129,7 @@ TEST_F(Box, WithoutAnIconHasItsTextInTheMiddle) {
     told.text = "A text that is wider than the button below it";
     const auto box = Make(told);
     const auto* text = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-    // But for the distance that the layout keeps between its columns.
+    // Except for the spacing of the layout's columns.
     EXPECT_NEAR(text->x(), box->width() - text->geometry().right(), box->style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing) + 2);
     EXPECT_EQ(text->indent(), 0);
 }
@@ -167,7 +167,7 @@ TEST_F(Box, ShowsItsTextAsItStands) {
 
 // --- File dialogues
 
-/// A variable of the environment as long as the test runs.
+/// An environment variable set for the duration of the test.
 class Variable {
 public:
     Variable(const char* name, const QString& value) : name_(name), was_(qgetenv(name)) { qputenv(name, value.toUtf8()); }
@@ -180,8 +180,8 @@ private:
     QByteArray was_;
 };
 
-/// Asks for the marker file of a directory. The dialogues that come are answered with these directories, one after the other, and
-/// with Esc at the end; what it gives is told, or "cancelled".
+/// Asks for the marker file of a directory. The dialogues are answered with these directories in turn, and finally with Esc.
+/// The result is the file, or "cancelled".
 class DirectoryAsked {
 public:
     explicit DirectoryAsked(QStringList answers) : answers_(std::move(answers)) {}
@@ -205,9 +205,9 @@ public:
         return chosen;
     }
 
-    /// The directory in which each dialogue began.
+    /// The directory in which each dialogue started.
     QStringList begun;
-    /// The boxes that came instead of a dialogue; they are closed.
+    /// The boxes shown instead of a dialogue; they are closed.
     QStringList told;
 
 private:
@@ -230,7 +230,7 @@ private:
     }
 
     QStringList answers_;
-    /// Of the time while it is asked.
+    /// Exists while the question is open.
     std::unique_ptr<QObject> scope_;
 };
 
@@ -266,7 +266,7 @@ TEST_F(WindowProgram, AMarkerFileIsNeverAFileThatTheUserHasChosen) {
     QtDialogs asked;
     DirectoryAsked choosing({log, home.path()});
     EXPECT_EQ(choosing.Ask(asked), home.filePath(QStringLiteral("setlog.txt")).toStdString());
-    // The log is not taken, and nothing is asked about the marker file that is there.
+    // The log is not accepted, and nothing is asked about the existing marker file.
     EXPECT_EQ(choosing.begun.size(), 2);
     EXPECT_EQ(choosing.told, QStringList());
     EndProgram();

@@ -11,20 +11,20 @@
 namespace vatro {
 namespace {
 
-/// A window of one line, another one that has no letters yet, and a list.
+/// A window with one line, another one with no letters yet, and a list.
 const std::vector<QRect> kWindows{{0, 0, 1100, 200}, {0, 0, 40, 200}, {130, 130, 400, 400}};
 
 TEST(BesideMain, LeavesTheMainWindowFreeOnALargeScreen) {
     const QRect screen(0, 0, 1920, 1080);
     const QRect main(66, 66, 920, 480);
     const std::vector<QRect> places = BesideMain(screen, main, 430, kWindows);
-    // Below: half the screen each, which is 960 * 200 / 1100 high. Beside: as large as it was.
+    // Below the main window each gets half of the screen, with a height of 960 * 200 / 1100. The list beside it keeps its size.
     EXPECT_EQ(places, (std::vector<QRect>{{0, 546, 957, 174}, {960, 546, 34, 174}, {986, 0, 400, 400}}));
     for (const QRect& place : places) EXPECT_FALSE(place.intersects(main));
 }
 
 TEST(BesideMain, CutsWindowsToTheRoomThereIs) {
-    // 110 rows below, and 280 columns beside.
+    // 110 rows of pixels below, and 280 columns beside.
     const std::vector<QRect> places = BesideMain({0, 0, 1266, 656}, {66, 66, 920, 480}, 430, kWindows);
     EXPECT_EQ(places, (std::vector<QRect>{{0, 546, 605, 110}, {633, 546, 22, 110}, {986, 0, 280, 400}}));
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The desktop's guards of typing, on real windows with real keys, and a clock that the tests move.
+// The typing guards of the desktop, tested on real windows with real keys and a clock that the test controls.
 #include "typing_guard.h"
 
 #include <QApplication>
@@ -48,7 +48,7 @@ protected:
                 Key({.name = {}, .character = c});
         }
     }
-    /// What a key gives that is held down.
+    /// The auto-repeat of a held key.
     void Repeat(Form& form, Qt::Key key, const QString& text) const {
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text, true);
         QApplication::sendEvent(WindowOf(form).Top()->windowHandle(), &event);
@@ -129,7 +129,7 @@ protected:
     }
     void Tap(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
         QTest::keyClick(box->windowHandle(), key, modifiers);
-        // Longer than a button is shown pressed.
+        // Longer than the time for which Qt shows a button pressed.
         QTest::qWait(150);
     }
     bool Flashes() const {
@@ -206,7 +206,7 @@ TEST_F(SafeBox, TheFlashIsNotTheColourAlone) {
     Tap(Qt::Key_X);
     ASSERT_TRUE(Flashes());
     const QImage lit = box->grab().toImage();
-    // In grey, at the edge, as far as half a line of text is high.
+    // Compares in grey: the flash reaches half a line of text inward from the edge.
     const int inside = box->fontMetrics().height() / 4;
     const auto grey = [inside](const QImage& image) { return qGray(image.pixel(inside, image.height() / 2)); };
     EXPECT_GT(std::abs(grey(before) - grey(lit)), 100);
@@ -244,7 +244,7 @@ TEST_F(SafeTyping, EscStopsTheTextAndLeavesTheFields) {
     Key({.name = "Esc"});
     EXPECT_FALSE(Playing());
     EXPECT_EQ(Field(kCallField), "DL9XYZ");
-    // A second one is for the fields: the operator has stopped the text.
+    // A second Esc goes to the fields, because the text has been stopped.
     Key({.name = "Esc"});
     EXPECT_EQ(Field(kCallField), "");
 }

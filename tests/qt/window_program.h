@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The program, or a small form of the platform's rules, on real windows with a platform of fakes behind them.
+// The program, or a small form that tests the platform's rules, on real windows with a fake platform behind them.
 #pragma once
 
 #include <QApplication>

@@ -3,8 +3,8 @@
 #
 #   pdf.sh LOG-DIRECTORY FILE.pdf
 #
-# What the printer got, as text: the lines of every sheet that the program wrote as a file, in their order, and a numbered
-# footer on each page. Blanks are not compared, as the totals have other columns on paper.
+# Reads the text that was printed. It must have the lines of every sheet that the program wrote as a file, in order, and a
+# numbered footer on each page. Blanks are ignored, because the totals are in other columns on paper.
 set -euo pipefail
 export LC_ALL=C.UTF-8
 logs=$1 pdf=$2
@@ -16,7 +16,7 @@ squeezed() { sed -E 's/[[:space:]]+/ /g; s/^ //; s/ $//' | grep -v '^$'; }
 pdftotext -layout -enc UTF-8 "$pdf" "$work/text"
 tr '\f' '\n' <"$work/text" | squeezed >"$work/printed"
 
-# The sheets in the order of the job. Their first line has the version on file and stands in the footer on paper.
+# The sheets in the order of the print job. Their first line holds the version; on paper it is part of the footer.
 for band in 80 40 20 15 10; do
     for mode in CW SSB; do
         sheet=$logs/SM${band}m$mode.txt
@@ -27,7 +27,7 @@ cat "$logs/Mult.txt" >>"$work/sheets"
 grep -a '^Total:' "$logs/Summary.txt" >>"$work/sheets"
 iconv -f CP1252 -t UTF-8 "$work/sheets" | tr '\f' ' ' | squeezed | sed 's/, (Vatro version.*//' >"$work/wanted"
 
-# On paper nothing but the footers, and the summary apart from its totals, may stand between them.
+# On paper only the footers, and the summary without its totals, may come between these lines.
 { diff -d "$work/wanted" "$work/printed" || true; } | sed -n 's/^< //p' >"$work/missing"
 if [ -s "$work/missing" ]; then
     echo "not on paper, or not in its place:"

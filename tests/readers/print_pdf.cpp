@@ -2,8 +2,8 @@
 //
 //   vatro-print-pdf WORLD FILE.pdf
 //
-// Starts the program in its window, in a world that a scenario has left, chooses the entry that prints all papers, and
-// lets the printer of the window write them to the file.
+// Starts the program in its window, in a world that a scenario has left, chooses the menu entry that prints all papers, and has
+// the window's printer write them to the file.
 #include <QApplication>
 #include <cstdio>
 
@@ -22,7 +22,7 @@ namespace vatro {
 
 namespace {
 
-/// Nobody sits at the program: a box would wait for ever, so it ends the run.
+/// Answers for a program without an operator. A box would wait for ever, so it ends the run.
 void PrintAll(const std::string& directory, const QString& pdf) {
     const World world(directory);
     DiskFiles files([&world](std::string_view path) { return world.Found(path); }, World::kSeparator,

@@ -5,8 +5,8 @@
 #   read.sh html VATRO-REPLAY
 #   read.sh pdf VATRO-REPLAY VATRO-PRINT-PDF
 #
-# Plays the contest of contest.scn and has its papers read by programs that others have written. Where such a program is
-# missing the test is skipped.
+# Plays the contest of contest.scn and has independent programs read its papers. The test is skipped if such a program is
+# missing.
 set -euo pipefail
 . "$(dirname "$0")/../skip.sh"
 here=$(cd "$(dirname "$0")" && pwd)

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Scenario files in a directory of their own, played as from the command line.
+/// Scenario files in a temporary directory, played as from the command line.
 class PlayTest : public ::testing::Test {
 protected:
     std::string File(const std::string& name, const std::string& text) {

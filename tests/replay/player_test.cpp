@@ -13,7 +13,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// A program that shows the form, and a world that can be looked into afterwards.
+/// A program that shows the form, and a world that the test can inspect afterwards.
 class PlayerTest : public ::testing::Test {
 protected:
     PlayerTest() { happenings = {}; }
@@ -36,7 +36,7 @@ protected:
         for (const Output& output : Played(text)) all.insert(all.end(), output.begin(), output.end());
         return all;
     }
-    /// "LINE: reason" of the error that stops the scenario.
+    /// The error that stops the scenario, as "LINE: reason".
     std::string ErrorOf(std::string_view text) {
         try {
             Played(text);
@@ -46,7 +46,7 @@ protected:
         return {};
     }
     static void On(const std::string& happening, std::function<void()> reaction) { happenings.reactions[happening] = std::move(reaction); }
-    /// When a scenario types this letter first.
+    /// Runs the reaction when the scenario types the letter a.
     static void OnKeyA(std::function<void()> reaction) { On("KeyPress Text1(0) 97", std::move(reaction)); }
     static MessageBox Question(std::string text) {
         MessageBox box;

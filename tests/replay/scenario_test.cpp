@@ -91,7 +91,7 @@ TEST(Scenario, LineEndsOfTheFileAreKept) {
     const Scenario scenario("show focus\r\n> old\r\n\r\n# end\r\n");
     EXPECT_EQ(scenario.Commands()[0].expected, (Lines{"old"}));
     EXPECT_EQ(scenario.WithOutput({{"focus -"}}), "show focus\r\n> focus -\r\n\r\n# end\r\n");
-    // What is read is written so that it is read again.
+    // A scenario that was read is written so that it can be read again.
     const Scenario twice("show focus\n> old\r\r\n");
     EXPECT_TRUE(Scenario(twice.WithOutput({twice.Commands()[0].expected})).Matches({{"old"}}));
     EXPECT_TRUE(Scenario("\xEF\xBB\xBF\xEF\xBB\xBF# two marks\n").Commands().empty());

@@ -20,7 +20,7 @@ constexpr SoundFormat kFormat{.samplesPerSecond = 44100, .samples = kSamples};
 
 using Samples = std::vector<std::int16_t>;
 
-/// 44,100 different samples would not fit; these differ within each half.
+/// A 16-bit sample has too few values for 44,100 different samples; these differ within each half.
 Samples Ramp(int first) {
     Samples image(kSamples);
     std::iota(image.begin(), image.end(), static_cast<std::int16_t>(first));
@@ -36,7 +36,7 @@ FormSlot<FrmSound> frmSound{"frmSound"};
 
 }  // namespace
 
-/// A program with a card, in the middle of its run.
+/// A running program with a sound card.
 class SceneCard : public RunningProgram {
 protected:
     SceneCard() {
@@ -57,7 +57,7 @@ protected:
         return made;
     }
     void Fill(const Samples& image) { buffer->Write(0, image); }
-    /// Lets time pass, with what falls due delivered at its moment.
+    /// Lets time pass, and delivers each event when it is due.
     void Pass(Moment milliseconds) {
         const Moment until = scene.Passed() + milliseconds;
         while (const auto due = card.NextDue()) {
@@ -72,7 +72,7 @@ protected:
     SceneClock scene;
     SceneSound card{scene};
     std::unique_ptr<SoundBuffer> buffer;
-    /// The events that have run: which half, and when.
+    /// The events that ran: which half, and when.
     Run run;
     std::function<void(int half)> react;
     SoundEvent events_[2]{};
@@ -145,7 +145,7 @@ TEST_F(SceneCard, WhatIsWrittenWhileItPlaysIsHeardInItsTurn) {
     Pass(2000);
     const Samples heard = card.TakeHeard();
     ASSERT_EQ(heard.size(), 88200U);
-    // The first half is filled anew while the second one sounds.
+    // The first half is refilled while the second one sounds.
     EXPECT_EQ(std::count(heard.begin(), heard.begin() + 44100, 1), 44100);
     EXPECT_EQ(std::count(heard.begin() + 44100, heard.begin() + 66150, 2), 22050);
     EXPECT_EQ(std::count(heard.begin() + 66150, heard.end(), 3), 22050);

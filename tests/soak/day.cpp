@@ -18,7 +18,7 @@ constexpr long long kHour = 3600;
 constexpr int k40m = 3;
 constexpr int kMorse = 1;
 
-/// Key strokes that take the end of a text away.
+/// Keys that delete the end of a text.
 void Erase(std::size_t characters) {
     for (std::size_t i = 0; i < characters; ++i) Say("key Backspace");
 }
@@ -31,7 +31,7 @@ Day::Day(unsigned seed) : Contest(seed) {
 }
 
 void Day::More() {
-    // What the import makes of it are the two tables that are there already.
+    // Importing this file gives the two tables that already exist.
     Say("file data/cty.dat");
     char row[100];
     for (const Country& country : contest::Countries()) {
@@ -87,7 +87,7 @@ void Day::Round(int number) {
     ImportCt();
     Safekeeping();
     Information();
-    // Every window is closed and every field as at a new contact.
+    // Afterwards every window is closed and every field is as for a new contact.
     Choose(*band_, false);
     Choose(*mode_, true);
 }
@@ -117,7 +117,7 @@ void Day::RefusedPoints() {
     contest::Log& log = Current();
     for (int index = static_cast<int>(log.lines.size()) - 1; index >= 0; --index) {
         const Line& line = log.lines[static_cast<std::size_t>(index)];
-        // Of a multiplier the no would cost the mark.
+        // A multiplier is left out, because answering no would remove its mark.
         const bool plain = !line.IsNote() && line.multiplier.empty() && line.call.country != contest::kUnknown &&
                            line.points == line.call.points && !log.Holds(line.call.base, static_cast<std::size_t>(index));
         if (!plain) continue;
@@ -207,7 +207,7 @@ void Day::MorseSettings() {
 void Day::Morse() {
     Choose(contest::kModes[kMorse], true);
     MorseSettings();
-    // A station answers while the call for contacts is still heard.
+    // A station answers while the CQ call is still being sent.
     Say("key F5\nshow frmCWTX\n> frmCWTX \"CW TX\" shown\nfocus frmMain.Text1(1)");
     while (!LogContact()) {
     }
@@ -230,7 +230,7 @@ void Day::Papers() {
 }
 
 void Day::Print(int number) {
-    // All in turn: what has been printed stays in the account of the day.
+    // Prints the papers in turn rather than all of them, because printed texts stay in the player's memory.
     static constexpr const char* kItems[]{"mnuUdskriv80mCW", "mnuUdskriv40mSSB", "mnuFilerUdskrivMult", "mnuUdskrivSummary",
                                           "mnuUdskrivAlt"};
     Say("menu mnuFilePageSetup\n> dialog printer\ndialog cancel");
@@ -251,7 +251,7 @@ void Day::ImportCt() {
     Choose(contest::kModes[kMorse], true);
     Say("remove ct\nfile ct/empty.txt");
     useLogs("ct");
-    // Three points each for the two stations; the third contact is with the first station again.
+    // The two stations are worth three points each; the third contact repeats the first station.
     Say("menu mnuFunktionerImporterCtAll\n> dialog open \"\" \"CT-logfil (*.10;*.15;*.20;*.40;*.80)|*.10;*.15;*.20;*.40;*.80|\"\n"
         "dialog data/felt.40\nshow frmMain.sbStatusBar\n"
         "> frmMain.sbStatusBar \"Vatro 40m CW\" \"8\" \"Point \" \"2\" \"Mult. \" \"16\" \"I alt \"");

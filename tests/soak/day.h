@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A field day of 24 hours: a contest of chance with a round through every function of the program several times an hour.
+// A field day of 24 hours: a random contest, and several times an hour a round through every function of the program.
 #pragma once
 
 #include <string>
@@ -14,8 +14,8 @@ inline constexpr int kHours = 24;
 class Day : public contest::Contest {
 public:
     explicit Day(unsigned seed);
-    /// Writes the day. Each hour ends with "file data/measure", in which the number of the hour stands, and "file data/go":
-    /// whoever plays it can make pipes of the two and hold the program between them.
+    /// Writes the day. Each hour ends with "file data/measure", which holds the number of the hour, and "file data/go". A test
+    /// can replace both with pipes to stop the program between them.
     void Play(int contacts, int roundsAnHour);
 
 private:

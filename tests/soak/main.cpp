@@ -2,7 +2,7 @@
 //
 //   vatro-soak-day SEED CONTACTS ROUNDS
 //
-// Writes a scenario: a field day of 24 hours with so many contacts, and so many times an hour a round through every function.
+// Writes a scenario: a field day of 24 hours with this many contacts, and this many rounds through every function per hour.
 #include <iostream>
 #include <string>
 

@@ -2,8 +2,8 @@
 //
 //   vatro-soak-menus
 //
-// Chooses from the menus of a bare window of Qt, again and again, and prints how many bytes each choice leaves behind: from a
-// menu, and from a menu in a menu. So much is the toolkit's own.
+// Chooses menu entries of a bare Qt window again and again, and prints how many bytes each choice leaves behind, once for a
+// menu and once for a submenu. The toolkit alone uses this much.
 #include <QApplication>
 #include <QMainWindow>
 #include <QMenu>
@@ -32,7 +32,7 @@ void Click(QWidget& widget, QPoint at) {
     QCoreApplication::processEvents();
 }
 
-/// The bytes that one time leaves behind, once the first ones have made what is made once.
+/// The bytes that one choice leaves behind, after the first choices have created everything that is created only once.
 long EachTime(const std::function<void()>& choose) {
     constexpr int kFirst = 500;
     constexpr int kTimes = 2000;

@@ -3,22 +3,21 @@
 #
 #   soak.py GENERATOR CONTACTS ROUNDS FRONT[=TOOLKIT]...
 #
-# Plays a field day of 24 hours through each front, in a world of its own, and looks at its memory at the end of each hour.
-# Everything shown must be what the generator has worked out; of the printer and the sound, which it does not work out, the
-# fronts must tell the same, and they must leave the same files. The memory may grow by what the data need and no more.
+# Plays a field day of 24 hours on each front end, each with its own files, and checks the memory at the end of each hour. All
+# output must match the generator's. The generator does not compute the output of printer and sound; there the front ends must
+# agree with each other, and they must leave the same files. The memory may grow only by what the data need.
 #
-# At the end of an hour the program opens two pipes to write to them, and the second one keeps it waiting while it is
-# looked at.
+# At the end of an hour the program writes to two pipes. The second one blocks it while it is measured.
 #
-# What may be there at the end of the day that was not there at half of it:
-#   - the account of the play, which the player keeps: known to the byte, as it is printed at the end;
-#   - PER_LINE for each line that the one log in memory may have got: 79 columns and what a string and an allocation of its
-#     own add, twice, as a list grows by doubling and the window has an index of its own. There are ten logs, none of which
-#     has got more than two tenths of the contacts;
-#   - what the toolkit keeps of each choice from a menu: TOOLKIT measures it on a bare window, and half of it is added, as
+# Memory that may be in use at the end of the day and was not at half of it:
+#   - the record of the play, which the player keeps: its size is known exactly, because it is printed at the end;
+#   - PER_LINE for each line that the log in memory may have gained: 79 columns and the overhead of a string and its heap
+#     block, twice, because a list grows by doubling and the window has an index of its own. None of the ten logs gains more
+#     than two tenths of the contacts;
+#   - what the toolkit keeps for each choice from a menu: TOOLKIT measures it in a bare window, and half is added, because
 #     the menus of the program are longer;
-#   - SLACK for what the allocator cannot give back: blocks of the heap with a few bytes in use.
-# Two hundred bytes lost with each contact, or ten thousand with each round, are beyond that.
+#   - SLACK for memory that the allocator cannot give back: heap blocks with a few bytes in use.
+# A leak of two hundred bytes per contact, or of ten thousand per round, exceeds this.
 import difflib
 import os
 import pathlib
@@ -35,13 +34,13 @@ PER_LINE = 2 * (80 + 32 + 16)
 SLACK = 256 * 1024
 NOT_WORKED_OUT = ("pages", "sound")
 INNER_MENU = re.compile("menu mnu(Efter|FilerBackup|FilerDanMult|FilerUdskrivMult|Udskriv|IndstillingerKlasse)")
-# The heap shrinks as soon as it can, so that what is in use shows.
+# The heap shrinks as soon as possible, so that the measured size shows what is in use.
 SURROUNDINGS = dict(os.environ, LC_ALL="C", QT_QPA_PLATFORM="offscreen", MALLOC_ARENA_MAX="1", MALLOC_TRIM_THRESHOLD_="65536",
                     MALLOC_MMAP_THRESHOLD_="131072")
 
 
 def anonymous_memory(pid):
-    """What the process itself has written to, in bytes: not the files of its libraries, of which more is read in time."""
+    """The private memory of the process in bytes, without the files of its libraries, of which more is loaded over time."""
     with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as memory:
         for line in memory:
             if line.startswith("Anonymous:"):
@@ -55,7 +54,7 @@ def resident_memory(pid):
 
 
 def listen(pipe, process):
-    """What a writer puts into the pipe, which lets him go on. Nothing if the process ends."""
+    """Reads what a writer puts into the pipe, which lets the writer continue. Returns nothing if the process ends."""
     end = os.open(pipe, os.O_RDONLY | os.O_NONBLOCK)
     try:
         while process.poll() is None:
@@ -72,7 +71,7 @@ def listen(pipe, process):
 
 
 def play(front, scenario, world, account):
-    """The memory at the end of each hour, and the exit of the front."""
+    """The memory at the end of each hour, and the exit code of the front end."""
     data = world / "data"
     data.mkdir(parents=True)
     for name in ("measure", "go"):
@@ -91,12 +90,12 @@ def play(front, scenario, world, account):
 
 
 def kept(account):
-    """At the end of each hour: the bytes that the lines told so far take in the player."""
+    """The bytes that the player needs for its output lines so far, at the end of each hour."""
     total, hours = 0, []
     for line in account:
         if line.startswith("> "):
             length = len(line.encode()) - 2
-            # A string of more than 15 bytes has a block of its own, and each line a place in a list of a few.
+            # A string of more than 15 bytes has a heap block of its own, and each line takes a place in a short list.
             total += 32 + (0 if length < 16 else (length + 1 + 8 + 15) // 16 * 16) + 16
         elif line == "file data/measure":
             hours.append(total)
@@ -104,7 +103,7 @@ def kept(account):
 
 
 def without_unforeseen(account):
-    """The account without what the generator does not work out."""
+    """The output without the parts that the generator does not compute."""
     lines, command = [], ""
     for line in account:
         if not line.startswith("> "):
@@ -125,7 +124,7 @@ def files_below(directory):
 
 
 def judge_copies(world):
-    """The copies of the last hour are the logs."""
+    """Checks that the copies of the last hour equal the logs."""
     faults = []
     for log in sorted((world / "log").iterdir()):
         if not (log.name.startswith("FD") or log.name == "ukendt.txt"):

@@ -3,9 +3,8 @@
 #
 #   with_sound_card.sh cw_on_air.sh VATRO DATA WPM TEXT
 #
-# Starts the program on a screen of its own, in CW and at this speed, with the tables of the directory DATA. Presses F5, records
-# what the card plays, and has a decoder that knows nothing of the program read it: it must read TEXT. Skipped if the
-# programs it takes are missing.
+# Starts the program on a virtual screen, in CW at this speed, with the tables of the directory DATA. Presses F5, records the
+# output of the card, and has an independent decoder read it: the result must be TEXT. Skipped if a program it needs is missing.
 set -euo pipefail
 . "$(dirname "$0")/../skip.sh"
 vatro=$1 data=$2 wpm=$3 text=$4
@@ -28,7 +27,7 @@ Tone=800
 SETTINGS
 
 screen= program= recorder=
-# The program stores its settings when it is ended, and its home is removed behind this.
+# The program stores its settings when it ends, so its home is removed afterwards.
 finish() {
     for process in $program $recorder $screen; do
         kill "$process" 2>/dev/null && wait "$process" 2>/dev/null || true
@@ -41,7 +40,7 @@ fail() {
     exit 1
 }
 
-# It finds a free number for its display by itself, and tells it when it is ready.
+# The server picks a free display number, and writes it when it is ready.
 mkfifo "$HOME/display"
 Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp -noreset 3>"$HOME/display" 2>"$HOME/vatro.err" &
 screen=$!
@@ -51,7 +50,7 @@ export DISPLAY=:$number
 cd "$HOME/tables"
 QT_QPA_PLATFORM=xcb "$vatro" 2>"$HOME/vatro.err" &
 program=$!
-# Waits for a window of this caption, or for its end.
+# Waits until a window of this caption is shown or gone.
 shown() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
 wait_for() {
     for _ in $(seq "$2"); do
@@ -62,7 +61,7 @@ wait_for() {
 }
 main='^Vatro OZ1AB$'
 wait_for "$main" 200 || fail "the main window does not come"
-# There is nobody else on the screen to give it the keys.
+# The screen has no window manager that would give the window the focus.
 for _ in $(seq 50); do
     [ "$(xdotool getwindowfocus 2>/dev/null)" != "$(shown "$main")" ] || break
     xdotool windowfocus "$(shown "$main")" || true
@@ -88,7 +87,7 @@ sleep 1
 kill "$recorder"
 wait "$recorder" || true
 
-# The decoder takes the samples for half as many a second, and so sees half the speed and half the pitch.
+# The decoder assumes half the sample rate, so it sees half the speed and half the pitch.
 dot=$(((2400 + wpm / 2) / wpm))
 read_=$(sox -t raw -e signed -b 16 -c 1 -r 44100 "$HOME/heard.raw" -t raw -e signed -b 16 -c 1 - pad 1 1 |
     multimon-ng -q -c -a MORSE_CW -y -d $dot -g $dot -t raw - | tr -d '\n' | sed 's/^ *//; s/ *$//')

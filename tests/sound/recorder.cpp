@@ -11,7 +11,7 @@ namespace vatro {
 namespace {
 
 constexpr int kPatience = 5000;
-/// Longer than what the card and the recorder hold back.
+/// Longer than the delay of the card and the recorder together.
 constexpr int kTail = 400;
 
 }  // namespace

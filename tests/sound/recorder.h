@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Records what a sound system plays on the card of the tests, from with_sound_card.sh.
+// Records the output of a sound system on the test card that with_sound_card.sh sets up.
 #pragma once
 
 #include <QProcess>
@@ -13,22 +13,22 @@ using Samples = std::vector<std::int16_t>;
 
 class Recorder {
 public:
-    /// Returns when the recording runs.
+    /// Returns once the recording is running.
     Recorder();
-    /// Ends it and gives what was heard from the first sound to the last one.
+    /// Ends the recording and returns the samples from the first sound to the last.
     Samples Finish();
 
 private:
     QProcess parec_;
 };
 
-/// The silent samples among those heard.
+/// How many of the recorded samples are silent.
 std::size_t Gaps(const Samples& heard);
-/// The sound alone. On a machine that is too busy the sound system runs dry for a moment: that may delay the sound, but must
-/// not cost a sample of it.
+/// The recording without silent samples. On a busy machine the sound system may run out of samples for a moment. That may delay
+/// the sound, but must not lose a sample.
 Samples WithoutGaps(Samples heard);
 
-/// As many samples at the front as follow the loop of the image from `from` on, to the sample.
+/// How many of the first samples match the image exactly, played as a loop that starts at `from`.
 std::size_t Following(const Samples& heard, const Samples& image, std::size_t from = 0);
 
 }  // namespace vatro

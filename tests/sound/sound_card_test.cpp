@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The window's sound card on a real sound system: what is played must arrive, all of it, in its order.
+// The window program's sound card on a real sound system. Everything played must be heard completely and in order.
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
@@ -26,7 +26,7 @@ constexpr std::size_t kHalf = 22050;
 constexpr int kSamplesPerMillisecond = 44;
 constexpr SoundFormat kFormat{.samplesPerSecond = 44100, .samples = kSamples};
 
-/// No sample is silent, none stands twice within 0.7 seconds.
+/// No sample is silent, and no sample repeats within 0.7 seconds.
 Samples Pattern(int step) {
     Samples image(kSamples);
     for (std::size_t i = 0; i < image.size(); ++i) image[i] = static_cast<std::int16_t>(1 + (static_cast<int>(i) * step) % 32749);
@@ -40,7 +40,7 @@ public:
 
 FormSlot<FrmSound> frmSound{"frmSound"};
 
-/// Milliseconds from the wish to play to the first samples handed over, as the player logs them.
+/// Milliseconds from the request to play until the first samples are handed over, from the player's log.
 std::vector<double> startTimes;
 
 void TakeLog(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
@@ -80,7 +80,7 @@ protected:
     std::unique_ptr<SoundDevice> device;
     std::unique_ptr<SoundBuffer> buffer;
     SoundEvent events[2]{};
-    /// The halves whose events have run.
+    /// The halves whose events ran.
     std::vector<int> run;
     std::function<void(int half)> react;
 };
@@ -102,7 +102,7 @@ TEST_F(SoundCard, LoopArrivesCompleteAndInOrder) {
 TEST_F(SoundCard, RefillOfTheHalfJustPlayedIsHeardInItsTurn) {
     MakeBuffer();
     Fill(Pattern(1));
-    // Each half holds another pattern the next time.
+    // Each half gets a different pattern the next time.
     int step = 1;
     Samples expected = Pattern(1);
     react = [&](int half) {
@@ -133,7 +133,7 @@ TEST_F(SoundCard, EventComesWhenItsHalfHasBeenHeardAndSoonAfter) {
     EXPECT_TRUE(WaitForEvents(2));
     buffer->Stop();
     const Samples heard = WithoutGaps(recorder.Finish());
-    // What the sound system has been handed ahead is still the old pattern.
+    // The sound system still holds samples of the old pattern.
     const std::size_t changed = Following(heard, before);
     EXPECT_GE(changed, kHalf);
     EXPECT_LE(changed, kHalf + 250 * kSamplesPerMillisecond);
@@ -156,7 +156,7 @@ TEST_F(SoundCard, EventsComeInTimeOnAQuietProgram) {
     for (std::size_t i = 0; i < 4; ++i) late.push_back(times[i] - static_cast<qint64>(500 * (i + 1)));
     std::ranges::sort(late);
     EXPECT_GE(late.front(), 0);
-    // Two of the four, as the machine may be busy with something else.
+    // Two of four attempts must be fast, because the machine may be busy.
     EXPECT_LE(late[1], 150);
 }
 
@@ -179,7 +179,7 @@ TEST_F(SoundCard, FirstSamplesAreHandedOverAtOnce) {
     std::ranges::sort(startTimes);
     RecordProperty("median_us", static_cast<int>(startTimes[4] * 1000));
     std::printf("first samples after %.2f ms, the slowest of 9 after %.2f ms\n", startTimes[4], startTimes[8]);
-    // What others do on a busy machine is not the card's; three of nine show what it takes by itself.
+    // Only three of nine must be fast, because other processes on a busy machine also cost time.
     EXPECT_LT(startTimes[2], 20);
 }
 
@@ -215,7 +215,7 @@ TEST_F(SoundCard, PositionSetWhileItPlaysIsHeardAtOnce) {
     QTest::qWait(300);
     buffer->Stop();
     Samples heard = recorder.Finish();
-    // The sound is opened anew for it: a gap may be there, and a short one.
+    // The sound is opened again for this, so a short gap is allowed.
     EXPECT_LE(Gaps(heard), 150U * kSamplesPerMillisecond);
     heard = WithoutGaps(heard);
     const std::size_t first = Following(heard, image);
@@ -235,12 +235,12 @@ TEST_F(SoundCard, BusyProgramDoesNotMakeItStutter) {
     QTest::qWait(100);
     QThread::msleep(1200);
     EXPECT_EQ(run, std::vector<int>{});
-    // The events are made up for, in their order.
+    // The missed events run afterwards, in order.
     EXPECT_TRUE(WaitForEvents(2));
     EXPECT_EQ(run, (std::vector{0, 1}));
     buffer->Stop();
     Samples heard = recorder.Finish();
-    // Fed by the busy thread it would be silent for a second.
+    // If the busy thread fed it, it would be silent for a second.
     EXPECT_LE(Gaps(heard), 200U * kSamplesPerMillisecond);
     heard = WithoutGaps(heard);
     EXPECT_GE(heard.size(), 1000U * kSamplesPerMillisecond);
@@ -251,7 +251,7 @@ TEST_F(SoundCard, EventOfAStoppedPlayDoesNotRun) {
     MakeBuffer();
     Fill(Pattern(1));
     buffer->PlayLooping();
-    // It has been signalled and waits for the program.
+    // The event has been signalled and waits for the program.
     QThread::msleep(800);
     buffer->Stop();
     QTest::qWait(100);
@@ -321,7 +321,7 @@ TEST_F(SoundCard, BufferWithoutRateOrLengthIsAnInvalidCall) {
     EXPECT_THROW(device->CreateBuffer({.samplesPerSecond = 44100, .samples = 0}), RunTimeError);
 }
 
-/// Run alone: the card of the machine goes for good.
+/// Must run alone, because the machine's card is removed for good.
 class SoundCardThatGoes : public SoundCard {
 protected:
     static void Pactl(const QStringList& arguments) {
@@ -339,7 +339,7 @@ TEST_F(SoundCardThatGoes, LeavesThePlayToGoOnUnheard) {
     Pactl({QStringLiteral("unload-module"), QStringLiteral("module-null-sink")});
     EXPECT_TRUE(WaitForEvents(4));
     EXPECT_EQ(run, (std::vector{0, 1, 0, 1}));
-    // Another one takes its place.
+    // Another card takes its place.
     Pactl({QStringLiteral("load-module"), QStringLiteral("module-null-sink"), QStringLiteral("sink_name=prove"),
            QStringLiteral("rate=44100"), QStringLiteral("format=s16le"), QStringLiteral("channels=1")});
     QTest::qWait(1500);
@@ -368,7 +368,7 @@ TEST_F(SoundCardThatGoes, SystemThatEndsLeavesThePlayToGoOnUnheard) {
     EXPECT_LT(ending.elapsed(), 1500);
 }
 
-/// Run without a sound system.
+/// Must run without a sound system.
 using NoSoundCard = SoundCard;
 
 TEST_F(NoSoundCard, GivesNoDevice) {

@@ -3,8 +3,8 @@
 #
 #   with_sound_card.sh COMMAND [ARGUMENT...]
 #
-# Runs the command beside a sound system of its own, PulseAudio with one silent card whose output can be recorded from
-# "prove.monitor". HOME and the runtime directory are temporary ones. Skipped if the programs it takes are missing.
+# Runs the command with its own sound system: PulseAudio with one silent card, whose output can be recorded from
+# "prove.monitor". HOME and the runtime directory are temporary. Skipped if a program it needs is missing.
 set -euo pipefail
 . "$(dirname "$0")/../skip.sh"
 need pulseaudio pactl parec
@@ -23,7 +23,7 @@ unset PULSE_COOKIE PULSE_SINK DISPLAY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
 mkdir -p "$HOME" "$PULSE_RUNTIME_PATH"
 chmod 700 "$XDG_RUNTIME_DIR"
 
-# The card plays samples as they come: no other rate, no mixing to two channels, no volume.
+# The card plays samples unchanged: no resampling, no mixing to two channels, no volume.
 pulseaudio -n --daemonize=no --exit-idle-time=-1 --use-pid-file=no --disable-shm=yes --realtime=no --high-priority=no \
     --log-target="file:$world/server.log" \
     -L "module-native-protocol-unix auth-anonymous=1 socket=$world/run/native" \

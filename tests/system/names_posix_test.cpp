@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Names on a system that tells their case apart and mounts its volumes in directories.
+// File names on a system that distinguishes upper and lower case and mounts its volumes in directories.
 #include "names.h"
 
 #include <gmock/gmock.h>
@@ -28,7 +28,7 @@ TEST_F(NamesPosixTest, TheExactSpellingWins) {
     Put("lande.txt", "lower");
     EXPECT_THAT(Lines(files_, At("lande.txt")), ElementsAre("lower"));
     EXPECT_THAT(Lines(files_, At("Lande.txt")), ElementsAre("mixed"));
-    // Otherwise the first by name.
+    // Otherwise the first one in alphabetical order.
     EXPECT_THAT(Lines(files_, At("laNDE.txt")), ElementsAre("upper"));
 }
 

@@ -32,11 +32,11 @@ TEST(Errors, TheHandbookExplainsEachFailureInTheWordsOfItsBox) {
     std::ifstream file(VATRO_HELP "/fejl.html");
     const std::string page(std::istreambuf_iterator<char>(file), {});
     for (const Failure failure : kAll) {
-        // A cancelled dialogue is caught wherever one is opened.
+        // A cancelled dialogue is handled wherever one is opened.
         if (failure == Failure::Cancelled) continue;
         const std::string number = std::to_string(static_cast<int>(failure));
         const std::string words = ToUtf8(Meaning(failure));
-        // The two that only a fault of the program itself can bring share a row.
+        // The two errors that only a bug in the program can cause share a row.
         const bool together = failure == Failure::BadFileNumber || failure == Failure::BadFileMode;
         const std::string row =
             together ? "52, 54</td><td>Forkert filnummer, Forkert filtilstand</td>" : number + "</td><td>" + words + "</td>";

@@ -36,7 +36,7 @@ TEST(NumericValue, IsTheLeadingNumber) {
 }
 
 TEST(NumericValue, OfAShortTextIsThatOfALongOne) {
-    // Behind blanks a text is too long for the short way.
+    // With blanks added, the text is too long for the fast path.
     for (int number = 0; number < 100'000; number += 7) {
         std::string text = std::to_string(number);
         text.insert(text.size() / 2, ".");
@@ -61,7 +61,7 @@ TEST(NumericValue, TakesExponentsWithEitherLetter) {
     EXPECT_EQ(NumericValue("1E+3"), 1000);
     EXPECT_EQ(NumericValue("25d-1"), 2.5);
     EXPECT_EQ(NumericValue("25D1x"), 250);
-    // An exponent without figures is none.
+    // An exponent without digits is ignored.
     EXPECT_EQ(NumericValue("5e"), 5);
     EXPECT_EQ(NumericValue("5e+"), 5);
     EXPECT_EQ(NumericValue("5E-+2"), 5);

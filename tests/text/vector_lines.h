@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Lines from and to the memory, for tests of procedures that read and write streams of lines.
+// Lines in memory, for tests of procedures that read and write streams of lines.
 #pragma once
 
 #include <cstddef>
@@ -15,7 +15,7 @@
 
 namespace vatro {
 
-/// Gives these lines one after the other; can be told to fail at one of them.
+/// Returns these lines one by one; can be made to fail at one of them.
 class VectorSource : public LineSource {
 public:
     explicit VectorSource(std::vector<std::string> lines) : lines_(std::move(lines)) {}
@@ -25,7 +25,7 @@ public:
         if (AtEnd()) throw RunTimeError(Failure::InputPastEnd);
         return lines_[next_++];
     }
-    /// The line of this number, from 0, cannot be read.
+    /// Makes reading the line of this number fail, counted from 0.
     void FailAt(std::size_t line, Failure failure) { failing_ = {line, failure}; }
 
 private:

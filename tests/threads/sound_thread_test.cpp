@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The sound thread and the program's, with the standard library in the place of Qt: what crosses between them arrives whole and in
-// order. Under the thread sanitizer (preset tsan) it also shows that nothing is touched by both at once.
+// The sound thread and the program's thread, with the standard library instead of Qt. Everything passed between them must
+// arrive whole and in order. Under the thread sanitizer (preset tsan) the tests also detect data races.
 #include "sound_thread.h"
 
 #include <gtest/gtest.h>
@@ -34,13 +34,13 @@ protected:
         device.reset();
         thread->End();
     }
-    /// A device whose streams end in the speaker.
+    /// A device whose streams write to the test's speaker.
     void MakeDevice() {
         device = std::make_unique<ThreadedSoundDevice>(
             thread, [speaker = speaker] { return std::make_unique<SpeakerStream>(speaker); },
             [this, program = program](const SoundSignal& signal) { program->Queue([this, signal] { TakeSignal(signal); }); });
     }
-    /// With an event at the end of each half.
+    /// Has an event at the end of each half.
     std::unique_ptr<SoundBuffer> MakeBuffer() {
         if (device == nullptr) MakeDevice();
         auto made = device->CreateBuffer(kFormat);
@@ -56,14 +56,14 @@ protected:
         run.push_back(signal.event);
         if (react) react(signal.event);
     }
-    /// Does what comes to the program until so many events have run.
+    /// Runs the program's tasks until this many events have run.
     void RunProgram(std::size_t events) {
         const auto end = std::chrono::steady_clock::now() + kPatience;
         while (run.size() < events && std::chrono::steady_clock::now() < end)
             if (const auto task = program->Take(std::chrono::milliseconds(100))) (*task)();
         ASSERT_GE(run.size(), events) << "the events do not come";
     }
-    /// Waits until the sound thread has done all that it was asked.
+    /// Waits until the sound thread has done everything requested of it.
     void Settle() {
         ASSERT_TRUE(thread->Await([] {}, kPatience));
     }
@@ -95,7 +95,7 @@ TEST_F(SoundThreads, EachRefillOfTheHalfJustHeardIsHeardInItsTurn) {
             image[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(expected.size() + static_cast<std::size_t>(i - from));
         buffer->Write(from, std::span(image).subspan(static_cast<std::size_t>(from), static_cast<std::size_t>(kHalf)));
         expected.insert(expected.end(), image.begin() + from, image.begin() + from + kHalf);
-        // The next half may be heard.
+        // Allows the next half to be played.
         Allow(kHalf * static_cast<long long>(run.size() + 1));
     };
     Allow(kHalf);
@@ -121,7 +121,7 @@ TEST_F(SoundThreads, WritingWhileItPlaysDisturbsNeitherSide) {
     RunProgram(4);
     buffer->Stop();
     Settle();
-    // A write is whole before the next sample is read: what is heard never goes back.
+    // A write is complete before the next sample is read, so the samples heard never go back.
     const Samples heard = speaker->Heard();
     ASSERT_FALSE(heard.empty());
     EXPECT_TRUE(std::ranges::is_sorted(heard));
@@ -131,7 +131,7 @@ TEST_F(SoundThreads, SignalsOfAStoppedPlayAreOutOfDate) {
     buffer = MakeBuffer();
     Allow(10LL * kSamples);
     buffer->PlayLooping();
-    // It has been heard and signalled; the program has not looked yet.
+    // The sound was heard and its event signalled, but the program has not handled the event yet.
     while (speaker->Heard().size() < 10U * kSamples) std::this_thread::yield();
     Settle();
     buffer->Stop();
@@ -150,7 +150,7 @@ TEST_F(SoundThreads, MoveBeginsARunOfItsOwn) {
     Settle();
     Allow(2LL * kHalf);
     RunProgram(1);
-    // The first half's was out of date; the second half has been heard from its beginning.
+    // The event of the first half is out of date; the second half was heard from its beginning.
     EXPECT_EQ(run, std::vector<SoundEvent>{2});
     EXPECT_EQ(outOfDate, 1);
 }

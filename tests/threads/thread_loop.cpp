@@ -14,7 +14,7 @@ void Tasks::Queue(std::function<void()> task) {
 
 std::optional<std::function<void()>> Tasks::Take(std::chrono::milliseconds patience) {
     std::unique_lock lock(mutex_);
-    // By the system's clock: the sanitizer of GCC 12 does not see a wait by the other one.
+    // Uses the system clock, because the sanitizer of GCC 12 does not track waits on the steady clock.
     const auto end = std::chrono::system_clock::now() + patience;
     if (patience.count() > 0) changed_.wait_until(lock, end, [this] { return closed_ || !waiting_.empty(); });
     if (waiting_.empty()) return std::nullopt;
@@ -45,7 +45,7 @@ void ThreadLoop::Start(std::function<void()> atEnd) {
         while (!tasks->Closed()) {
             const bool idle = Feeds().empty();
             if (const auto task = tasks->Take(std::chrono::milliseconds(idle ? 1000 : 0))) (*task)();
-            // A feed may come to an end while it runs, but no other one begins.
+            // A feed may be removed while the feeds run, but none is added.
             const auto feeds = Feeds();
             for (const auto& feed : feeds) feed.second();
             std::this_thread::yield();
@@ -78,7 +78,7 @@ std::optional<std::size_t> SpeakerStream::Room() {
     const auto room = speaker_->allowed - static_cast<long long>(speaker_->heard.size());
     gone_ = room <= 0 && speaker_->goes;
     if (gone_) return std::nullopt;
-    // Seldom a divisor of a buffer, so that reads go round its end.
+    // Does not divide usual buffer sizes, so reads wrap around the end of the buffer.
     constexpr long long kMost = 37;
     return static_cast<std::size_t>(std::clamp<long long>(room, 0, kMost));
 }
@@ -92,7 +92,7 @@ std::optional<std::size_t> SpeakerStream::Write(std::span<const std::int16_t> sa
 
 long long SpeakerStream::HeardMicroseconds() const {
     constexpr long long kPerSecond = 1'000'000;
-    // Rounded up, as the player rounds down when it makes samples of it.
+    // Rounded up, because the player rounds down when it converts the time to samples.
     return (written_ * kPerSecond + samplesPerSecond_ - 1) / samplesPerSecond_;
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The sound thread of the tests: one of the standard library's, with a sound system in which nothing takes time.
+// The sound thread for the tests, made with the standard library, and a sound system that takes no time.
 #pragma once
 
 #include <condition_variable>
@@ -14,13 +14,13 @@
 
 namespace vatro {
 
-/// What has been posted to a thread and not been done.
+/// The tasks that were posted to a thread and not yet run.
 class Tasks {
 public:
     void Queue(std::function<void()> task);
-    /// Waits for a task and takes it; nothing if none comes in this time, or after Close.
+    /// Waits for a task and takes it. Returns nothing if none arrives in this time, or after Close.
     std::optional<std::function<void()>> Take(std::chrono::milliseconds patience);
-    /// What waits is dropped, and nothing is taken any more.
+    /// Drops the waiting tasks and accepts no more.
     void Close();
     bool Closed() const;
 
@@ -31,15 +31,15 @@ private:
     bool closed_ = false;
 };
 
-/// Feeds whoever wants it between two tasks, as fast as it can.
+/// Runs the registered feeds between two tasks, as fast as it can.
 class ThreadLoop : public SoundLoop {
 public:
     void Start(std::function<void()> atEnd) override;
     void Queue(std::function<void()> task) override { tasks_->Queue(std::move(task)); }
-    /// Waits as long as it takes: a test that hangs is ended by its runner.
+    /// Waits without a limit; the test runner ends a test that hangs.
     bool End(std::chrono::milliseconds patience) override;
 
-    /// The feeds of the streams on the thread that asks.
+    /// The feeds of the streams on the calling thread.
     static std::vector<std::pair<const void*, std::function<void()>>>& Feeds();
 
 private:
@@ -47,16 +47,16 @@ private:
     std::thread thread_;
 };
 
-/// What a sound system has been told and lets happen, between the threads.
+/// The state of the sound system, shared by the threads.
 struct Speaker {
-    /// What has been handed over, in its order.
+    /// The samples handed over, in order.
     std::vector<std::int16_t> Heard() const;
 
     mutable std::mutex mutex;
     std::vector<std::int16_t> heard;
-    /// So many samples are taken in all, and are heard when they are taken.
+    /// How many samples are accepted in all. A sample is heard as soon as it is accepted.
     long long allowed = 0;
-    /// Once that has been heard the device goes, and does not come back.
+    /// Once the allowed samples were heard, the device disappears for good.
     bool goes = false;
 };
 

@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
 #
-# Sourced by the scripts beside it: the program on a screen of its own, with a window manager, typed at by xdotool.
+# Sourced by the scripts in this folder: starts the program on a virtual screen with a window manager, and types with xdotool.
 . "$(dirname "${BASH_SOURCE[0]}")/../skip.sh"
 
 screen= manager= program=
-# The program stores its settings when it is ended: its world goes after it.
+# The program stores its settings when it ends, so its files are removed afterwards.
 finish() {
     for process in $program $manager $screen; do
         kill "$process" 2>/dev/null && wait "$process" 2>/dev/null || true
@@ -17,7 +17,7 @@ fail() {
     exit 1
 }
 
-# start VATRO DATA MODE: the program in this mode with the tables of the directory DATA, its world below $world.
+# start VATRO DATA MODE: starts the program in this mode with the tables of the directory DATA; its files are below $world.
 start() {
     mkdir -p "$world/log" "$world/tables" "$world/config/vatro" "$world/run"
     chmod 700 "$world/run"
@@ -37,19 +37,19 @@ Tone=800
 Tekst2=E
 SETTINGS
     mkfifo "$world/display"
-    # Left by its last client a server begins anew, in the face of one that is just coming.
+    # -noreset: without it the server restarts when its last client leaves, and may drop a client that is just connecting.
     Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp -noreset 3>"$world/display" 2>"$world/vatro.err" &
     screen=$!
     read -r number <"$world/display" || fail "there is no screen"
     export DISPLAY=:$number
     openbox >/dev/null 2>&1 &
     manager=$!
-    # A window that comes while the manager takes over may stay unseen.
+    # A window shown while the window manager starts may stay invisible.
     for _ in $(seq 100); do
         xdotool get_num_desktops >/dev/null 2>&1 && break
         sleep 0.1
     done
-    # It says so before it looks at its first window.
+    # The window manager sets this property before it looks for windows.
     sleep 1
     cd "$world/tables"
     env XDG_CONFIG_HOME="$world/config" XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$world/run}" QT_QPA_PLATFORM=xcb "$1" 2>"$world/vatro.err" &
@@ -60,7 +60,7 @@ SETTINGS
 
 main='^Vatro OZ1AB$'
 shown() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
-# Waits so many seconds for a window of this caption.
+# Waits up to this many seconds for a window of this caption.
 wait_for() {
     local end=$((SECONDS + $2))
     while [ -z "$(shown "$1")" ]; do
@@ -81,7 +81,7 @@ wait_for_focus() {
         sleep 0.05
     done
 }
-# keys DELAY TEXT [KEY...]: types the text, a blank as Space, and presses the keys, with so many milliseconds between.
+# keys DELAY TEXT [KEY...]: types the text (a blank as Space) and then presses the keys, with DELAY milliseconds between them.
 keys() {
     local delay=$1 text=$2 pressed=() i
     shift 2
@@ -94,7 +94,7 @@ keys() {
     done
     xdotool key --delay "$delay" "${pressed[@]}" "$@"
 }
-# The calls and numbers of a log, one contact a line.
+# The calls and numbers of a log, one contact per line.
 calls() {
     [ ! -e "$world/log/$1" ] || cut -c7-21,36-39 "$world/log/$1" | sed -E 's/ *(....)$/ \1/'
 }

@@ -3,8 +3,8 @@
 #
 #   typing.sh VATRO DATA
 #
-# Types at the program as a tired operator does, as fast as a macro, fast, and slowly: what is logged is what was meant. Skipped
-# if the programs it takes are missing.
+# Types like a tired operator: at the speed of a macro, fast, and slowly. The log must hold what was meant. Skipped if a program
+# it needs is missing.
 set -euo pipefail
 . "$(dirname "$0")/program_on_screen.sh"
 need Xvfb openbox xdotool
@@ -16,14 +16,14 @@ nought='^Modtaget rapport$'
 
 logged80= logged20=
 for delay in 0 40 180; do
-    # The second Enter is a slip, and the next call is typed at once.
+    # The second Enter is a mistake, and the next call is typed at once.
     keys $delay "oz1abc 1$delay" Return Return o n 4 u n space 5 Return
     logged80+="OZ1ABC $(printf %04d "1$delay")
 ON4UN 0005
 "
     expect FD80mSSB.txt "${logged80%$'\n'}"
 
-    # A call typed under a question answers it neither with Ja nor with Nej.
+    # A call typed while a question is shown must answer it neither with Ja nor with Nej.
     keys $delay 20m Return o n 4 u n
     wait_for "$question" 5 || fail "$delay ms: no question"
     wait_for_focus "$question"
@@ -45,7 +45,7 @@ ON4UN 0005
 done
 [ "$(cut -c55-60 "$world"/log/*.txt | sort -u)" = "OZ1AB " ] || fail "another operator: $(cat "$world"/log/*.txt)"
 
-# An Enter that bounces leaves the question that it has opened to the operator.
+# An Enter that bounces must not answer the question that it has opened.
 keys 30 dl1we Return Return
 wait_for "$nought" 5 || fail "no question about the number"
 sleep 0.5
@@ -54,7 +54,7 @@ keys 20 "" Escape
 wait_until_gone "$nought" 5 || fail "Esc does not answer the question"
 wait_for_focus "$main"
 
-# A number selected elsewhere and pasted with the middle button: figures only.
+# Pastes a selected number with the middle mouse button: only digits arrive.
 keys 20 "" Escape
 keys 20 dl1e9
 window=$(shown "$main")
@@ -70,7 +70,7 @@ keys 20 "" Return
 logged80+="DL1E9 0019"
 expect FD80mSSB.txt "$logged80"
 
-# Enter held down logs once, and opens no box behind it that the next call is typed under.
+# Enter held down logs only once, and opens no box under which the next call would be typed.
 keys 20 "sp1abc 3"
 xdotool keydown Return
 sleep 1.5

@@ -3,8 +3,8 @@
 #
 #   typing_while_sending.sh VATRO DATA
 #
-# Types the next call while Morse is sent, and stops the text: the fields keep what was typed. On a sound system of its own.
-# Skipped if the programs it takes are missing.
+# Types the next call while Morse is sent, and then stops the text: the fields keep what was typed. Uses its own sound system.
+# Skipped if a program it needs is missing.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 . "$here/program_on_screen.sh"
@@ -19,7 +19,7 @@ logged=
 for delay in 0 40 180; do
     keys 20 "" F5
     wait_for "$sender" 10 || fail "$delay ms: nothing is sent"
-    # The focus may still be on its way there.
+    # The focus may not have arrived there yet.
     keys $delay "on4un 1$delay"
     wait_for_focus "$sender" || fail "$delay ms: the window that sends does not keep the keys"
     keys 20 "" Escape
@@ -31,7 +31,7 @@ for delay in 0 40 180; do
     expect FD80mCW.txt "${logged%$'\n'}"
 done
 
-# A text that ends by itself just before Esc and Enter are pressed to stop it.
+# The text ends by itself just before Esc and Enter are pressed to stop it.
 for key in Escape Return; do
     keys 20 "dl1we 8"
     keys 20 "" F6

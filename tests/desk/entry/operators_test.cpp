@@ -15,7 +15,7 @@ protected:
     Operators() { files.files["DATA\\OPERATOR.TXT"] = {"OZ1DEF Anders", "", "OZ2GHI"}; }
 
     ComboBox& Box() { return frmMain->operatorBox; }
-    /// What the box makes of the key.
+    /// The key that remains after the box has handled it.
     KeyCode Press(KeyCode key) { return Box().PressKey(key); }
 };
 

@@ -29,7 +29,7 @@ protected:
     static void Floppy() {
         Dispatch([] { frmMain->mnuFilerDiskettekopi.Choose(); });
     }
-    /// The copies that were tried, by their targets.
+    /// The target paths of all copies that were tried.
     Lines Copied() const {
         Lines copied;
         for (const std::string& step : files.steps)
@@ -86,7 +86,7 @@ TEST_F(Backup, StopsWhereTheDirectoryHasGone) {
     files.FailFrom("copy", 1, Failure::PathNotFound);
     dialogs.Expect("Destination ikke fundet.");
     Copy();
-    // The first that exists is the last that is tried.
+    // The first log that exists is also the last one that the program tries to copy.
     EXPECT_EQ(Told().back(), "FD20mCW.txt kopieres...");
     EXPECT_FALSE(frmTilFloppy->Visible());
 }

@@ -16,7 +16,8 @@ namespace {
 using namespace literals;
 using Lines = std::vector<std::string>;
 
-/// A contact line of CT: date in columns 5-13, time 17-20, number sent 23-26, call 36-47, report 49-51, number received 53-56.
+/// A contact line of CT has the date in columns 5-13, time 17-20, number sent 23-26, call 36-47, report 49-51, number received
+/// 53-56.
 std::string Contact(const std::string& date, const std::string& time, const std::string& sent, const std::string& call,
                     const std::string& report, const std::string& received) {
     return "    " + LeftAligned(date, 12) + LeftAligned(time, 6) + LeftAligned(sent, 13) + LeftAligned(call, 13) + LeftAligned(report, 4) +
@@ -26,7 +27,7 @@ std::string Contact(const std::string& date, const std::string& time, const std:
 class CtImport : public RunningProgram {
 protected:
     static constexpr const char* kFile = "CT\\FELT.40";
-    /// A CT log of this mode with these lines behind its head, which has the mode in columns 44-46 of its third line.
+    /// A CT log of this mode with these lines after its head. The third line of the head has the mode in columns 44-46.
     void Log(const std::string& mode, const Lines& lines, const std::string& file = kFile) {
         Lines& all = files.files[UpperText(file)];
         all = {"CONTEST LOG", "", std::string(43, ' ') + mode};
@@ -39,7 +40,7 @@ protected:
 
 TEST_F(CtImport, AContactBecomesALineOfTheLog) {
     Log("CW ", {Contact("07-Sep-02", "1207", "0012", "DL9XYZ", "599", "0345")});
-    // The country has been worked before, so that the line has no multiplier.
+    // The country was worked before, so the line has no multiplier.
     files.files["CT\\FELT.40"].insert(files.files["CT\\FELT.40"].begin() + 3,
                                       Contact("07-Sep-02", "1200", "0011", "DL1ABC", "579", "0001"));
     Start();
@@ -69,11 +70,11 @@ TEST_F(CtImport, TheSystemIsOnTheImportedLogAfterwards) {
     EXPECT_EQ(desk().gsQsoMode, "CW");
     const StatusBar& bar = frmMain->statusBar;
     EXPECT_EQ(bar.Panel(1), "Vatro 40m CW");
-    // 3 points and 1, two countries.
+    // 3 points and 1 point, and two countries.
     EXPECT_EQ(bar.Panel(2), "4");
     EXPECT_EQ(bar.Panel(4), "2");
     EXPECT_EQ(bar.Panel(6), "8");
-    // ResetQSO has moved it on from the last line's.
+    // ResetQSO has counted on from the number of the last line.
     EXPECT_EQ(desk().log.giQSOnr, 13);
     EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0013");
     EXPECT_EQ(frmMain->fields[kReportSentField].Text(), "599");
@@ -202,7 +203,7 @@ TEST_F(CtImport, AnExistingLogIsRefusedAndNothingChanges) {
     EXPECT_EQ(LinesOf("log\\FD40mCW.txt"), Lines{"a"});
     EXPECT_EQ(desk().gsBand, "80m");
     EXPECT_EQ(desk().gsMode, "SSB");
-    // The CT file stays open.
+    // The CT file stays open after a refused import.
     EXPECT_TRUE(files.IsOpen());
 }
 
@@ -221,7 +222,7 @@ TEST_F(CtImport, TheImportAfterARefusedOneGoesOnWithTheFirstFileInALogWithoutBan
     EXPECT_EQ(LinesOf("log\\FDCW.txt"), Lines{"12:00 DL1ABC          599-0001 599-0001  3 DL         CT-IMP     CW    07-09-02"});
     EXPECT_FALSE(files.files.contains("LOG\\FD20MSSB.TXT"));
     EXPECT_FALSE(files.IsOpen());
-    // A third one finds its file again.
+    // A third import reads its own file again.
     Import("CT\\FELT.20");
     EXPECT_EQ(LinesOf("log\\FD20mSSB.txt").size(), 1U);
 }
@@ -253,7 +254,7 @@ TEST_F(CtImport, AFileOfThreeLinesIsToldToBeEmptyOnItsOwnBand) {
 
 TEST_F(CtImport, AFileThatCannotBeOpenedStopsTheProgram) {
     Start();
-    // Where its end is looked for, no file is open under the number.
+    // Testing for the end of the file fails because no file is open under the number.
     Import("CT\\NONE.40");
     EXPECT_EQ(dialogs.failures, std::vector<int>{52});
 }
@@ -265,7 +266,7 @@ TEST_F(CtImport, AnotherModeIsSoughtUnderItsNameAndLoggedAsCw) {
     Import();
     EXPECT_EQ(desk().gsMode, "CW");
     EXPECT_EQ(desk().gsQsoMode, "FM");
-    // To the log that is there already.
+    // The contact is added to the existing log.
     EXPECT_EQ(LinesOf("log\\FD40mCW.txt").size(), 2U);
     EXPECT_EQ(frmMain->log.ListCount(), 1);
 }

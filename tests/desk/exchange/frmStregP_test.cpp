@@ -11,7 +11,7 @@ using Lines = std::vector<std::string>;
 
 class PortableCalls : public RunningProgram {
 protected:
-    /// A contact of a log, by its call and serial number.
+    /// Logs a contact with this call and serial number.
     void Worked(const std::string& log, const std::string& call, const std::string& number) {
         files.files["LOG\\" + UpperText(log) + ".TXT"].push_back("13:00 " + LeftAligned(call, 15) + " 59 -" + number +
                                                                  " 59 -0001  3            OZ1DEF     SSB   05-09-26");
@@ -49,13 +49,13 @@ TEST_F(PortableCalls, LeavesOutOneLineGroupsBehindTheFirst) {
 }
 
 TEST_F(PortableCalls, NeverLooksAtTheFirstItem) {
-    // It is alone with its call and has no dashes; the groups behind it have.
+    // The first item is the only one of its call, and no dashes follow it; dashes follow each later group.
     Worked("FD40mSSB", "DL1ABC", "0001");
     Worked("FD40mSSB", "OZ2DEF", "0002");
     Worked("FD80mSSB", "OZ2DEF", "0003");
     Worked("FD80mSSB", "OZ3DEF", "0004");
     Open();
-    // 0 DL1ABC, 1 dashes, 2 and 3 OZ2DEF, 4 dashes, 5 OZ3DEF: both groups go.
+    // Items: 0 DL1ABC, 1 dashes, 2 and 3 OZ2DEF, 4 dashes, 5 OZ3DEF. Both later groups are removed.
     EXPECT_EQ(Items(), Lines{"DL1ABC         40m SSB 0001 DL1ABC         "});
 }
 
@@ -104,7 +104,7 @@ TEST_F(PortableCalls, ShortLinesMoveNoColumn) {
     files.files["LOG\\FD40MSSB.TXT"] = {"13:00 OZ1ABC", "", "x"};
     Worked("FD80mSSB", "OZ1ABC/P", "0002");
     Open();
-    // Two lines without a call are a group of one spelling.
+    // Two lines without a call form a group with a single spelling.
     EXPECT_EQ(Items(), (Lines{"OZ1ABC         ------------", "OZ1ABC         40m SSB      OZ1ABC         ",
                               "OZ1ABC         80m SSB 0002 OZ1ABC/P       "}));
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The copies on file systems of their own: one that is too small, one that is protected, one that has been taken away. They are
-// mounted for the test, which only root can do.
+// Copies to other file systems: one that is too small, one that is read-only, one that was removed. The test mounts them, which
+// only root can do.
 #include <sys/mount.h>
 
 #include <filesystem>
@@ -21,7 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A file system in memory for as long as the test needs it.
+/// A file system in memory, mounted for the duration of the test.
 class Medium {
 public:
     explicit Medium(const fs::path& at) : at_(at) {
@@ -62,7 +62,7 @@ protected:
     void Put(const std::string& name, std::size_t length) const {
         std::ofstream(root_ / "log" / name, std::ios::binary) << std::string(length, 'x');
     }
-    /// -1 if there is no such file.
+    /// The size of the file, or -1 if it does not exist.
     long LengthOf(const std::string& name) const {
         std::error_code missing;
         const auto length = fs::file_size(root_ / "kopi" / name, missing);

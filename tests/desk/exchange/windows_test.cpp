@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The windows that only show something: start information, Quick Info, About, help.
+// Windows that only show something: start information, Quick Info, About, help.
 #include "exchange/FormQuickInfo.h"
 #include "exchange/frmAbout.h"
 #include "exchange/frmVisTekst.h"
@@ -26,7 +26,7 @@ TEST_F(Windows, StartInformationComesAtTheStartUntilItIsUnticked) {
         EXPECT_TRUE(form.Modal());
         EXPECT_EQ(form.Caption(), "Information til Fieldday 2004");
         EXPECT_TRUE(frmVisTekst->showAgain.Value());
-        // All the rest of the start has been done.
+        // The rest of the start has already been done.
         EXPECT_EQ(frmMain->fields[kNumberSentField].Text(), "0001");
         frmVisTekst->showAgain.Flip();
         frmVisTekst->closeButton.Press();

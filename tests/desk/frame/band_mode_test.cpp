@@ -34,7 +34,7 @@ TEST(ChoiceOfWord, IsTheExactWordAndNothingElse) {
 
 class BandMode : public RunningProgram {
 protected:
-    /// Indices of the ticked entries.
+    /// The indices of the ticked menu entries.
     static std::vector<int> Ticked() {
         std::vector<int> ticked;
         for (const MenuItem& item : frmMain->mnuIndstillingerBånd)

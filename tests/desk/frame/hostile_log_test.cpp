@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Logs that no program has written: the program shows what it can, goes on, and changes no byte of them.
+// Logs that were not written by any logging program: the program shows what it can, goes on, and changes no byte of them.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -32,7 +32,7 @@ std::string Content(const fs::path& file) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-/// Plays the events on top of a log with this content and gives the content afterwards.
+/// Plays the events on a log with this content and returns its content afterwards.
 std::string LogAfter(const std::string& log, const std::string& events) {
     const TemporaryDirectory temporary;
     const fs::path& directory = temporary.Path();
@@ -50,7 +50,7 @@ std::string LogAfter(const std::string& log, const std::string& events) {
     return Content(file);
 }
 
-/// A contact logged behind whatever stands there, with the searches on the way.
+/// Logs a contact after the existing content and runs the searches of a normal entry.
 const char* const kOneContact = "type dl1abc\nkey Space\ntype 7\nkey Enter\n";
 
 void ExpectOneLineMore(const std::string& log) {

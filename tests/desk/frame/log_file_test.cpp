@@ -69,7 +69,7 @@ TEST_F(LogFile, LoadThatFailsOnTheWayKeepsWhatWasRead) {
     EXPECT_EQ(frmMain->log.Items(), Lines{kFirst});
     EXPECT_EQ(desk().log.glPoint, 3);
     EXPECT_EQ(desk().log.giQSOnr, 7);
-    // The panels still show the zeros from before the file was opened.
+    // The panels still show the zeros that were set before the file was opened.
     EXPECT_EQ(frmMain->statusBar.Panel(2), "0");
     EXPECT_FALSE(files.IsOpen());
 }
@@ -111,7 +111,7 @@ TEST_F(LogFile, AppendThatFailsEndsTheProgramAfterOneMessage) {
     EXPECT_FALSE(wentOn);
     EXPECT_TRUE(front.ended);
     EXPECT_EQ(LinesOf("log\\FD80mSSB.txt"), Lines{kFirst});
-    // The closing procedure has not run: nothing was stored.
+    // The closing procedure did not run, so nothing was stored.
     EXPECT_EQ(settings.written, Lines{});
 }
 

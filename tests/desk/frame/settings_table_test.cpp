@@ -9,7 +9,7 @@
 namespace vatro {
 namespace {
 
-/// What can be said of a row of any type.
+/// The columns that every row of the table has, whatever its type.
 struct Row {
     std::string_view section;
     std::string_view readKey;

@@ -18,7 +18,7 @@ int NumberOf(const std::function<void()>& call) {
 
 class StoredSettings : public RunningProgram {
 protected:
-    /// What the store has under the key; "none" for a missing one.
+    /// The stored value of the key, or "none" if it is missing.
     std::string Stored(std::string_view key) { return settings.Read("Settings", key).value_or("none"); }
 };
 

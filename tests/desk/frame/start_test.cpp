@@ -125,7 +125,7 @@ TEST_F(ProgramStart, AnEndWithoutHandlersStoresWhatARegularOneStores) {
 TEST_F(ProgramStart, AnEndWithoutHandlersStoresTheSettingsWhereTheOperatorsCannotBe) {
     Start();
     desk().gsBand = "20m";
-    // A handler has it open, and waits.
+    // A handler has opened the file and is waiting.
     files.Open(1, "data\\lande.txt", FileMode::Input);
     StoreRunningProgram();
     EXPECT_EQ(settings.texts.at("SETTINGS/BAND"), "20m");

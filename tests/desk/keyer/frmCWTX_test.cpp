@@ -18,7 +18,7 @@ protected:
     static void PressStop() {
         Dispatch([] { frmCWTX->stopButton.Press(); });
     }
-    /// Index behind the last sample that is heard as a tone.
+    /// The index after the last audible sample.
     std::size_t LastTone() const {
         const auto last = std::find_if(heard.rbegin(), heard.rend(), [](std::int16_t sample) { return sample != 0; });
         return static_cast<std::size_t>(heard.rend() - last);
@@ -62,7 +62,7 @@ TEST_F(Sending, AnEventFillsTheHalfThatHasJustBeenPlayed) {
 
 TEST_F(Sending, AShortTextStopsAtTheFirstEvent) {
     Start();
-    // At 60 words a minute, "E" and its silence are 9702 samples.
+    // At 60 words a minute, "E" and the silence after it take 9702 samples.
     desk().cw.giCWWPM = 60;
     SendText("E");
     sound.calls.clear();
@@ -98,14 +98,14 @@ TEST_F(Sending, UpTo24WordsAMinuteEveryToneIsHeard) {
     for (const int wpm : {6, 13, 20, 23, 24}) {
         Dispatch([] { frmCWTX.Unload(); });
         desk().cw.giCWWPM = static_cast<std::int16_t>(wpm);
-        // Texts of so many dots up to the end of the last tone.
+        // Texts of this many dots, counted to the end of the last tone.
         for (const auto& [text, dots] :
              {std::pair{"E", 1}, {"T", 3}, {"A", 5}, {"U", 7}, {"V", 9}, {"4", 11}, {"EEEE", 13}, {"EEET", 15}}) {
             heard.clear();
             SendText(text);
             PlayOut();
             const int end = dots * (52920 / wpm);
-            // The last sample of a tone can be nought.
+            // The last sample of a tone can be 0.
             EXPECT_GE(LastTone(), static_cast<std::size_t>(end - 2)) << text << " at " << wpm;
             EXPECT_LE(LastTone(), static_cast<std::size_t>(end)) << text << " at " << wpm;
         }
@@ -114,8 +114,8 @@ TEST_F(Sending, UpTo24WordsAMinuteEveryToneIsHeard) {
 
 TEST_F(Sending, Above24WordsAMinuteTheLastTonesCanBeCutOff) {
     Start();
-    // 27 dots of 1764 samples up to the end of the last dash, and 10 of silence, are 65268 samples, in three halves. When the third one
-    // begins to sound, the next one holds nothing: two halves are heard, 25 dots.
+    // 27 dots of 1764 samples up to the end of the last dash, and 10 dots of silence, are 65268 samples in three halves. When
+    // the third half begins to sound, the next one is empty and sending stops. So two halves are heard, which is 25 dots.
     desk().cw.giCWWPM = 30;
     SendText("EEEEEET");
     PlayOut();
@@ -125,7 +125,8 @@ TEST_F(Sending, Above24WordsAMinuteTheLastTonesCanBeCutOff) {
 
 TEST_F(Sending, ATextThatEndsWithAHalfIsFollowedByOneMore) {
     Start();
-    // 15 dots and 10 of silence are 44100 samples. The last slot ends with its half, which counts as one that has been cut.
+    // 15 dots of text and 10 dots of silence are 44100 samples. The last slot ends exactly with its half, and the keyer treats
+    // it as cut.
     desk().cw.giCWWPM = 30;
     SendText("EEET");
     PlayOut();
@@ -137,7 +138,7 @@ TEST_F(Sending, ALongTextIsHeardAsItIsComposed) {
     Start();
     SendText("E E");
     PlayOut();
-    // A dot, the gap of a word, a dot.
+    // A dot, a word gap, a dot.
     EXPECT_EQ(LastTone(), 9U * 2646);
     EXPECT_TRUE(std::all_of(heard.begin() + 2646, heard.begin() + 8 * 2646, [](std::int16_t sample) { return sample == 0; }));
     EXPECT_EQ(std::vector<std::int16_t>(heard.begin() + 8 * 2646, heard.begin() + 9 * 2646),
@@ -188,19 +189,19 @@ TEST_F(Sending, AnEventThatComesAfterTheStopDoesNothing) {
 TEST_F(Sending, ASecondTextComesInWhereTheFirstOneStood) {
     Start();
     SendText("EEEEEEEEEE");
-    // Two halves are 16.67 dots of 2646: four times dot and gap, and the cut 17th slot is the fifth dot.
+    // Two halves hold 16.67 slots of 2646 samples: four dots, each with three slots of gap, and the cut 17th slot, the fifth dot.
     EXPECT_EQ(Place().glTegnPos, 4);
     EXPECT_EQ(Place().gscwtegn, "4");
     EXPECT_EQ(Place().glElementPos, 1);
     sound.calls.clear();
     SendText("TTTTTTTTTT");
-    // Nothing stops and nothing rewinds: the fifth "E" is gone through to its gap, then come the dashes from the sixth on.
+    // Nothing stops and nothing rewinds: the keyer finishes the fifth "E" with its gap, and goes on with the sixth dash.
     EXPECT_EQ(sound.calls, (Calls{"write 0 22050", "write 22050 22050", "position 0", "play"}));
     const auto at = [this](int slot) { return sound.buffer->samples.begin() + static_cast<std::ptrdiff_t>(slot) * 2646; };
     EXPECT_TRUE(std::all_of(at(0), at(3), [](std::int16_t sample) { return sample == 0; }));
     EXPECT_EQ(std::vector<std::int16_t>(at(3), at(4)),
               std::vector<std::int16_t>(CurrentPieces().CWStart.begin(), CurrentPieces().CWStart.begin() + 2646));
-    // Three slots of gap and twice a dash with its gap are 15 slots, of which 16.67 fit.
+    // Three slots of gap, and two dashes with their gaps, are 15 of the 16.67 slots.
     EXPECT_EQ(Place().glTegnPos, 7);
 }
 
@@ -219,7 +220,7 @@ TEST_F(Sending, TheButtonTXSendsTheTextOnFromWhereItStands) {
     SendText("EEEEEEEEEE");
     Dispatch([] { frmCWTX->sendButton.Press(); });
     EXPECT_EQ(frmCWTX->text.Text(), "EEEEEEEEEE ");
-    // 16.67 slots on from the gap behind the fifth dot: three slots of gap, three times dot and gap, and a dot.
+    // 16.67 slots after the gap behind the fifth dot: three slots of gap, three dots with their gaps, and a dot.
     EXPECT_EQ(Place().glTegnPos, 8);
 }
 
@@ -237,7 +238,7 @@ TEST_F(Sending, ANewSpeedBreaksTheTextOffAndTheWindowWaitsForStop) {
     EXPECT_EQ(CurrentPieces().CWStreg.size(), 3U * 1323 + 1);
     EXPECT_TRUE(Shown());
     sound.calls.clear();
-    // On its way when the old buffer went.
+    // This event was already under way when the old buffer was deleted.
     Dispatch([&] { sound.events.at(first)(first); });
     EXPECT_EQ(sound.calls, Calls{});
     PressStop();

@@ -25,7 +25,7 @@ protected:
         for (const TextBox& field : frmCW->texts) fields.push_back(field.Text());
         return fields;
     }
-    /// What a field makes of the key.
+    /// The key that a field makes of the key pressed.
     static KeyCode Press(KeyCode key) { return frmCW->texts[3].PressKey(key); }
 };
 
@@ -150,7 +150,7 @@ TEST_F(CWWindow, OKTakesEverythingOverAndStoresItWithTheEquipment) {
     EXPECT_EQ(desk().cw.CWTekster[6], "AGN?");
     EXPECT_EQ(frmMain->mnuCWTXT[0].Caption(), "TEST #R");
     EXPECT_EQ(frmMain->mnuCWTXT[6].Caption(), "AGN?");
-    // The keyer first, then the equipment.
+    // The settings of the keyer are written first, then those of the equipment.
     ASSERT_EQ(settings.written.size(), 24U);
     EXPECT_EQ(settings.written[0], "WPM");
     EXPECT_EQ(settings.written[13], "Tekst8");
@@ -203,7 +203,8 @@ TEST_F(CWWindow, TheNumberInFrontOfATextCounts) {
     PressOK();
     EXPECT_EQ(desk().cw.giCWWPM, 25);
     EXPECT_EQ(desk().cw.giCWTone, 612);
-    // Not the same as the stored 612: all three are taken over again, to the even neighbour.
+    // The text differs from the stored 612, so all three values are taken over again, and the pitch is rounded to an even
+    // number.
     Open();
     frmCW->pitch.SetText("613.5");
     PressOK();
@@ -269,7 +270,7 @@ TEST_F(CWWindow, SpeedNoughtStopsAProgramThatHasSent) {
     PressOK();
     EXPECT_EQ(dialogs.failures, std::vector<int>{11});
     EXPECT_FALSE(ProgramRuns());
-    // Nothing of it is stored.
+    // Nothing of this is stored.
     EXPECT_EQ(settings.written, Texts{});
 }
 

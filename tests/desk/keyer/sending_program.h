@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The program in QSO mode CW, with a card whose halves a test plays one by one.
+// The program in mode CW, with a sound card whose buffer halves the test plays one by one.
 #pragma once
 
 #include <string>
@@ -21,11 +21,11 @@ protected:
         settings.texts["SETTINGS/QSOMODE"] = "CW";
     }
 
-    /// What the keyer sends, and how far it has come.
+    /// The keyer's text and its position in it.
     static const Stepper& Place() { return desk().cw.keyer.Place(); }
     static const Pieces& CurrentPieces() { return desk().cw.keyer.CurrentPieces(); }
 
-    /// Chooses the text of F5 (0) to Shift+F8 (7).
+    /// Presses the text key F5 (0) to Shift+F8 (7).
     void Send(std::size_t text) {
         Dispatch([&] { frmMain->mnuCWTXT[text].Choose(); });
     }
@@ -33,7 +33,7 @@ protected:
         desk().cw.CWTekster[7] = text;
         Send(7);
     }
-    /// The play position passes the end of the first (0) or second (1) half: what was heard is kept, and the event runs.
+    /// Lets the play position pass the end of the first (0) or second (1) half: keeps the samples heard and runs the event.
     void Pass(std::size_t half) {
         const auto from = sound.buffer->samples.begin() + static_cast<std::ptrdiff_t>(half) * kHalf;
         heard.insert(heard.end(), from, from + kHalf);

@@ -13,12 +13,12 @@ constexpr const char* kFirstLine = "13:00 OZ9ZZ           599-0007 599-0345  3 O
 class CWTexts : public SendingProgram {
 protected:
     CWTexts() { settings.texts["SETTINGS/MYCALL"] = "OZ1AB/P"; }
-    /// With a log of two lines, this one the last.
+    /// Starts the program with a log of two lines, of which this is the last.
     void StartWithLast(std::string_view line) {
         files.files["LOG\\FD80MCW.TXT"] = {kFirstLine, std::string(line)};
         Start();
     }
-    /// Types a contact in progress.
+    /// Types the fields of an unfinished contact.
     void Fill(std::string_view call, std::string_view report, std::string_view number) {
         Type(frmMain->fields[kCallField], call);
         Type(frmMain->fields[kReportSentField], report);
@@ -39,7 +39,7 @@ TEST_F(CWTexts, AContactInShortForm) {
     EXPECT_EQ(Place().gsCWTekst, "DL9XYZ UR 5NN T12 BK ");
     EXPECT_EQ(desk().cw.gsCWNummer, "TT12");
     EXPECT_EQ(desk().cw.gsCWRST, "5NN");
-    // Once more: the values are short already.
+    // Shortening values that are already short changes nothing.
     PressTX();
     EXPECT_EQ(Place().gsCWTekst, "DL9XYZ UR 5NN T12 BK ");
     EXPECT_EQ(desk().cw.gsCWNummer, "TT12");
@@ -68,7 +68,7 @@ TEST_F(CWTexts, TheExtraSilenceOfTheSettingsIsSent) {
     Start();
     SendText("EE");
     const auto dot = [this](int slot) { return sound.buffer->samples[static_cast<std::size_t>(slot * 882 + 100)] != 0; };
-    // A dot, a gap of 3 + 2, a dot.
+    // A dot, a gap of 3 + 2 slots, a dot.
     for (int slot = 0; slot < 25; ++slot) EXPECT_EQ(dot(slot), slot == 0 || slot == 6) << slot;
 }
 
@@ -116,7 +116,7 @@ TEST_F(CWTexts, ANoteIsCutLikeAContact) {
     //             123456789012345678901234567890
     StartWithLast("NOTE: antenna down at 579 x4321y");
     SendText("#C/#T/#N");
-    // Columns 7 to 22, 23 to 25, 27 to 30.
+    // Columns 7 to 22, 23 to 25 and 27 to 30.
     EXPECT_EQ(desk().cw.gsCWCall, "antenna down at");
     EXPECT_EQ(desk().cw.gsCWRST, "579");
     EXPECT_EQ(desk().cw.gsCWNummer, "x432");

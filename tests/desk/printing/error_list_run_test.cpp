@@ -25,7 +25,7 @@ protected:
         Choose(frmMain->mnuFilerDanFejlliste);
         return Paper("Fejllist.txt");
     }
-    /// What the list says of a log: everything behind its heading.
+    /// The part of the error list for one log, without its heading.
     Lines SectionOf(const std::string& band, const std::string& mode) {
         std::string padded = mode;
         padded.resize(3, ' ');
@@ -74,7 +74,7 @@ TEST_F(ErrorListRun, EndsALogAtALineWithoutACall) {
 }
 
 TEST_F(ErrorListRun, LoadsTheCurrentLogAgainAndResetsTheEntry) {
-    // The log of the entry desk is that of 80 metres SSB.
+    // The log in use is that of 80 metres SSB.
     Log("80mSSB", {Contact(GoodSsb())});
     Log("10mCW", {Contact({.call = "VK2AA", .points = 6, .mult = "VK"})});
     Dispatch([] {
@@ -128,7 +128,7 @@ TEST_F(ErrorListRun, GoesOnWithTheNextLogWhenOneCannotBeRead) {
 
 TEST_F(ErrorListRun, LeavesTheLastContactBehindAlsoWhenItStopsTheProgram) {
     Log("80mCW", {Contact({.call = "VK2AA", .points = 6, .mult = "VK"}), Contact({.call = "DL1AA", .points = 0, .mult = "DL"})});
-    // Head, blank line and heading are written; the first line with an error is not.
+    // Head, blank line and heading are written, but not the first line with an error.
     files.FailFrom("write", 4, Failure::DiskFull);
     Choose(frmMain->mnuFilerDanFejlliste);
     EXPECT_EQ(dialogs.failures, std::vector<int>{61});

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A started program with logs in its directory, whose papers are made from the menu.
+// A started program with logs in its directory. The tests make the papers from the menu.
 #pragma once
 
 #include <string>
@@ -25,7 +25,7 @@ protected:
         Start();
     }
 
-    /// The log of "80mCW"; texts in UTF-8.
+    /// Sets the log of "80mCW" and so on; texts in UTF-8.
     void Log(std::string_view bandMode, const Lines& lines) {
         Lines& file = files.files[UpperText("log\\FD" + std::string(bandMode) + ".txt")];
         file.clear();
@@ -36,13 +36,13 @@ protected:
     }
     Lines Paper(const std::string& name) { return LinesOf("log\\" + name); }
     bool HasPaper(const std::string& name) { return files.files.contains(UpperText("log\\" + name)); }
-    /// The paper as it stands on the disk, in UTF-8.
+    /// The content of the paper's file, in UTF-8.
     std::string Bytes(const std::string& name) {
         std::string bytes;
         for (const std::string& line : Paper(name)) bytes += line + "\r\n";
         return bytes;
     }
-    /// The title of the progress window, then its list; in UTF-8.
+    /// The title of the progress window, followed by its list; in UTF-8.
     static Lines Progress() {
         if (!frmInfo.Loaded()) return {};
         Lines shown{ToUtf8(frmInfo->Caption())};

@@ -20,17 +20,17 @@ const std::string kRow = "       05-09-26 13:05 DL1AA           599-0012 579-003
 const std::string kPageNought = "       Ialt denne side:                                  0         0            0";
 const std::string kLogNought = "       Ialt akkumuleret:                                 0         0            0";
 
-/// The papers on pages of 595 by 842 points; a character is 0.6 times as wide and 1.2 times as high as its size.
+/// Prints on pages of 595 by 842 points; a character is 0.6 times its size wide and 1.2 times its size high.
 class Printing : public PaperProgram {
 protected:
     Printing() { InstallPlatform(front, {dialogs, settings, files, clock, help, instance, sound, surface, {1, 2, 3}}); }
 
-    /// What a menu entry prints, with place, font, size and style.
+    /// Everything that a menu entry prints, with place, font, size and style.
     Lines Placed(MenuItem& item) {
         Choose(item);
         return scene.TakeJobs();
     }
-    /// The same, of each text the text alone.
+    /// The same, but only the texts.
     Lines Printed(MenuItem& item) {
         Lines texts = Placed(item);
         for (std::string& line : texts)
@@ -40,7 +40,7 @@ protected:
     static Lines Head(const std::string& page, const std::string& title) { return {page, "Fieldday log for OZ1AB/P 2026", title}; }
     static Lines LogHead(int page) { return Head("page " + std::to_string(page), "80m CW") + Lines{kColumns}; }
     static std::string Foot(int page) { return "Side  " + std::to_string(page) + ", (Vatro version 1.2.3)"; }
-    /// Rows of one text in groups of ten, each with a gap above it.
+    /// Rows of one text in groups of ten with a gap above each group.
     static Lines Groups(int n, const std::string& row) {
         Lines rows;
         for (int i = 0; i < n; ++i) {
@@ -58,7 +58,7 @@ TEST_F(Printing, PlacesTextsOnThePage) {
     Log("80mCW", {Contact({})});
     EXPECT_EQ(Placed(frmMain->mnuUdskriv80mCW),
               Lines({"job", "page 1",
-                     // 29 characters of 21.6 and 6 of 10.8, each in the middle of 595.
+                     // Both lines are centred on 595: 29 characters of 21.6, and 6 of 10.8.
                      "-15.7 0.0 Arial 36 u \"Fieldday log for OZ1AB/P 2026\"", "265.1 43.2 Arial 18 b \"80m CW\"",
                      "0.0 76.8 Courier New 10 b \"" + kColumns + "\"", "0.0 88.8 Courier New 10 - \" \"",
                      "0.0 100.8 Courier New 10 - \"" + kRow + "\"", "0.0 112.8 Courier New 10 - \" \"",
@@ -147,7 +147,7 @@ TEST_F(Printing, OfTheSummaryFillsTheSheet) {
 TEST_F(Printing, PutsTheTelephoneBehindItsQuestion) {
     desk().gsTelefon = "87654321";
     const Lines placed = Placed(frmMain->mnuUdskrivSummary);
-    // Seven blanks and 33 characters of 6 each; 33 rows stand above it, from 76.8 on.
+    // Seven blanks and 33 characters of 6 each; 33 rows are above it, beginning at 76.8.
     const std::string question = "0.0 472.8 Courier New 10 - \"       Telefon (hvis der er spørgsmål): \"";
     EXPECT_EQ(placed[placed.size() - 3], question);
     EXPECT_EQ(placed[placed.size() - 2], "240.0 472.8 Courier New 10 - \"87654321\"");
@@ -183,7 +183,7 @@ TEST_F(Printing, AltogetherIsOneJobInWhichEveryPaperBeginsAPage) {
     EXPECT_THAT(starts, ElementsAre("page 1: 80m CW", "page 2: 10m SSB", "page 3: Multiplier Checksheet", "page 4: Summary "));
     EXPECT_EQ(std::count(printed.begin(), printed.end(), "job"), 1);
     EXPECT_EQ(printed.back(), Foot(4));
-    // The number of pages so far, this one included.
+    // The number of pages so far, including this one.
     EXPECT_EQ(
         std::count(printed.begin(), printed.end(), "       Kaldesignal: OZ1AB/P          Kategori: A              Antal logsider:  4"), 1);
     EXPECT_THAT(Progress(), ElementsAre("Udskriv log", "80m CW", "80m SSB", "40m CW", "40m SSB", "20m CW", "20m SSB", "15m CW", "15m SSB",

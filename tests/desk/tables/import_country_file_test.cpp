@@ -35,7 +35,7 @@ protected:
         try {
             Run(std::move(lines));
         } catch (const RunTimeError& failure) {
-            // As the end of the program does.
+            // The end of the program does the same.
             files.Close(1);
             return failure.Number();
         }
@@ -45,7 +45,7 @@ protected:
         const std::string digits = std::to_string(number);
         return std::string(4 - digits.size(), '0') + digits;
     }
-    /// An entry with the prefixes C0001 and so on, ten to a line.
+    /// An entry with the prefixes C0001 and so on, ten per line.
     static std::vector<std::string> Entry(int prefixes) {
         std::vector<std::string> lines{kHeader};
         for (int i = 1; i <= prefixes; ++i) {
@@ -163,7 +163,7 @@ TEST_F(ImportingCountries, TheBarPassesEveryRowOfEveryStep) {
 }
 
 TEST_F(ImportingCountries, TheBarPassesEveryRowOfALongTableToo) {
-    // More rows than the bar is painted times.
+    // The table has more rows than the number of times that the bar is painted.
     constexpr int kRows = 350;
     files.files["DATA\\CTY.DAT"] = Entry(kRows);
     std::vector<int> seen;

@@ -85,7 +85,7 @@ TEST(CountryText, LeavesAFigureAtTheEndOfTheCallAlone) {
 }
 
 TEST(CountryText, TakesASlashBehindAFigureForANumber) {
-    // The slash goes where the figures stood, and the short side before it decides.
+    // The slash is moved to the place of the digits, and the shorter side, before it, decides.
     EXPECT_EQ(Country("DL1ABC3/"), "DL");
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 using namespace literals;
 
-/// The words of an objection, in UTF-8; "fine" for none.
+/// The text of an objection in UTF-8, or "fine" if there is none.
 std::string Said(const std::optional<Objection>& objection) {
     return objection ? ToUtf8(objection->text) : "fine";
 }

@@ -60,7 +60,7 @@ TEST(CtyFile, AHeaderIsReadInItsColumns) {
 }
 
 TEST(CtyFile, ContinentAndPrefixHoldAtLeastOneCharacter) {
-    // The ":" is looked for from the second column of the field on.
+    // The ":" is searched for from the second column of the field on.
     std::string line(80, ' ');
     line[5] = line[36] = line[38] = line[69] = line[72] = ':';
     const CtyHeader header = ReadCtyHeader(line);
@@ -124,7 +124,7 @@ TEST(CtyFile, OtherMarksStayInTheItem) {
 }
 
 TEST(CtyFile, ThreeZonesBehindAnItemLoseTwo) {
-    // Each of the two rounds cuts before the first bracket of its kind.
+    // There are two passes; each cuts at the first bracket of its kind.
     EXPECT_EQ(Items("    QQ(1)(2),QQ[1](2)[3];"), (Texts{"QQ 01 27", "QQ 02 01"}));
 }
 

@@ -41,7 +41,8 @@ TEST(CtyFit, WhatFitsStays) {
 }
 
 TEST(CtyFit, WhatAShorterPrefixGivesGoesFirst) {
-    // QA1, QA5AB and QB1AB are given whole; the shortest goes first, and no more than needed.
+    // A shorter prefix gives QA1, QA5AB and QB1AB with the same zones. The shortest is left out first, and no more than
+    // necessary.
     EXPECT_EQ(Fitted(kTwo, 6), (Texts{Header("QA"), "    QA,QA2(15),=QA5AB,=QB7XY;", Header("QB"), "    QB,=QB1AB;"}));
     EXPECT_EQ(Fitted(kTwo, 4), (Texts{Header("QA"), "    QA,QA2(15),=QB7XY;", Header("QB"), "    QB;"}));
 }
@@ -63,21 +64,21 @@ TEST(CtyFit, TellsWhatIsLost) {
 }
 
 TEST(CtyFit, APrefixOfAnotherCountryInBetweenKeepsTheLongerOne) {
-    // QA12 would be counted for QB, whose QA1 is longer than QA.
+    // Without its own row QA12 would count for QB, because QB's QA1 is longer than QA.
     const Texts lines{Header("QA"), "    QA,QA12;", Header("QB"), "    QA1,QB,QB3;"};
     EXPECT_EQ(Fitted(lines, 4), (Texts{Header("QA"), "    QA,QA12;", Header("QB"), "    QA1,QB;"}));
     EXPECT_THROW(Fitted(lines, 3), CtyError);
 }
 
 TEST(CtyFit, AnExactCallSupportsNoLongerOne) {
-    // QB7XY/P is given by QB7XY alone, which goes itself in the end.
+    // QB7XY/P is matched only by QB7XY, and QB7XY itself is left out in the end.
     const Texts lines{Header("QA"), "    QA,=QB7XY,=QB7XY/P;", Header("QB"), "    QB;"};
     const std::vector<CtyCountry> countries = ReadCtyFile(lines);
     EXPECT_EQ(FitCty(countries, 2).omissions.lostCalls, (Texts{"=QB7XY", "=QB7XY/P"}));
 }
 
 TEST(CtyFit, ACallWithASlashGoesWithoutLossOnlyIfItsCountryTextGivesTheSame) {
-    // Of QA5AB/QB1 the program looks up QB1, of QA5AB/P it looks up QA5AB, of QA5AB/7 it looks up QA7AB.
+    // The program looks up QA5AB/QB1 as QB1, QA5AB/P as QA5AB, and QA5AB/7 as QA7AB.
     const Texts lines{Header("QA"), "    QA,=QA5AB/QB1,=QA5AB/P,=QA5AB/7;", Header("QB"), "    QB,QA7;"};
     EXPECT_EQ(Fitted(lines, 5), (Texts{Header("QA"), "    QA,=QA5AB/QB1,=QA5AB/7;", Header("QB"), "    QB,QA7;"}));
     const std::vector<CtyCountry> countries = ReadCtyFile(lines);
@@ -87,8 +88,8 @@ TEST(CtyFit, ACallWithASlashGoesWithoutLossOnlyIfItsCountryTextGivesTheSame) {
 }
 
 TEST(CtyFit, ACallThatIsTooLongToBeFoundGoesBeforeAllOthers) {
-    // Eleven characters are never found whole: of QB1ABCD/QA1 the program looks up QA1, whose row QB1ABCD/QA is not; of
-    // QB12345678Z it looks up the whole, which the row QB12345678 begins.
+    // Calls of eleven characters are never found as a whole. QB1ABCD/QA1 is looked up as QA1, which the row QB1ABCD/QA does not
+    // match. QB12345678Z is looked up as it is, and begins with the row QB12345678.
     const Texts lines{Header("QA"), "    QA,QA1,=QB1ABCD/QA1;", Header("QB"), "    QB,=QB12345678Z;"};
     EXPECT_EQ(Fitted(lines, 5), lines);
     EXPECT_EQ(Fitted(lines, 4), (Texts{Header("QA"), "    QA,QA1;", Header("QB"), "    QB,=QB12345678Z;"}));
@@ -99,7 +100,7 @@ TEST(CtyFit, ACallThatIsTooLongToBeFoundGoesBeforeAllOthers) {
 }
 
 TEST(CtyFit, ACallThatIsNeverFoundInItsCountryAlwaysGoes) {
-    // Eleven characters: the program looks up QA1 and finds the other country, in a file with room to spare as well.
+    // The call has eleven characters. The program looks up QA1 and finds the other country, even if the file has room to spare.
     const Texts lines{Header("QA"), "    QA;", Header("QB"), "    QB,=QB12345/QA1;"};
     const std::vector<CtyCountry> countries = ReadCtyFile(lines);
     EXPECT_EQ(FitCty(countries).omissions.unreachable, (Texts{"=QB12345/QA1"}));
@@ -151,7 +152,7 @@ TEST(CtyFit, LongListsRunOverSeveralLines) {
     Texts lines{Header("QA"), "    "};
     for (int i = 100; i < 150; ++i) lines[1] += "QA" + std::to_string(i) + (i == 149 ? ";" : ",");
     const Texts written = WriteCty(ReadCtyFile(lines));
-    // Twelve to a line.
+    // Twelve items per line.
     ASSERT_EQ(written.size(), 6U);
     std::string all;
     for (std::size_t i = 1; i < written.size(); ++i) {

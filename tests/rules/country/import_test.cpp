@@ -36,7 +36,7 @@ static std::string Number(int number) {
     const std::string digits = std::to_string(number);
     return std::string(4 - digits.size(), '0') + digits;
 }
-/// An entry with the prefixes C0001 and so on, ten to a line.
+/// An entry with the prefixes C0001 and so on, ten per line.
 static std::vector<std::string> Entry(int prefixes) {
     std::vector<std::string> lines{kHeader};
     for (int i = 1; i <= prefixes; ++i) {
@@ -59,7 +59,7 @@ int overflow = 0;
 
 TEST_F(Import, IndexesTheFirstCharactersOfPrefixesThatAreNotOfFullLength) {
     tables.gaPfxStart[static_cast<unsigned char>('Z')] = 77;
-    // Sorted: A123456789, A1, B123456789, C, nothing.
+    // Sorted order: A123456789, A1, B123456789, C, an empty prefix.
     Run({kHeader, "    C,B123456789,A1,A123456789,,;"});
     ASSERT_EQ(tables.giRefPfx, 5);
     EXPECT_EQ(Prefix(1), "A123456789");
@@ -78,7 +78,7 @@ TEST_F(Import, ThePrefixesAreFoundAtOnce) {
 }
 
 TEST_F(Import, ACharacterOfTheFillerEndsAPrefix) {
-    // The longer one is not cut, because its last character is none.
+    // The longer prefix is not cut, because its last character is not the filler.
     Run({kHeader, std::string("    Q\xE5X,QRSTUV\xE5XYZ;")});
     EXPECT_EQ(Prefix(1), "QRSTUV\xE5XYZ");
     EXPECT_EQ(Prefix(2), "Q");
@@ -86,7 +86,7 @@ TEST_F(Import, ACharacterOfTheFillerEndsAPrefix) {
 
 TEST_F(Import, FiveThousandNineHundredAndNinetyNinePrefixesSurviveWhole) {
     std::vector<std::string> lines = Entry(5999);
-    // The last line to the front, so that there is something to sort.
+    // The last prefix comes first, so that there is something to sort.
     std::swap(lines[1], lines[599]);
     Run(lines);
     ASSERT_EQ(tables.giRefPfx, 5999);
@@ -94,8 +94,8 @@ TEST_F(Import, FiveThousandNineHundredAndNinetyNinePrefixesSurviveWhole) {
 }
 
 TEST_F(Import, TheSixThousandthPrefixIsLostInTheSort) {
-    // The first swap puts C0002 over C6000 on its way; after that the last row is the smallest one left at each step and is
-    // overwritten by the row that it should have taken the place of.
+    // The first swap uses the row of C6000 as its spare row and overwrites it with C0002. After that each step finds the
+    // smallest remaining prefix in the last row, and overwrites that row with the one it was to be swapped with.
     std::vector<std::string> lines = Entry(6000);
     lines[1].replace(4, 11, "C0002,C0001");
     Run(lines);

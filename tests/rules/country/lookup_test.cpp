@@ -16,7 +16,7 @@ using namespace literals;
 class Lookup : public ::testing::Test {
 protected:
     void SetUp() override {
-        // Countries in ascending order, longer prefixes before the shorter ones they begin with.
+        // Countries in ascending order; a longer prefix comes before a shorter one that it begins with.
         Country("DL", "Fed. Rep. of Germany", "EU");
         Country("G", "England", "EU");
         Country("GM", "Scotland", "EU");
@@ -97,7 +97,7 @@ TEST_F(Lookup, AnUnknownPrefixChangesNothing) {
 TEST_F(Lookup, AMultiplierColumnIsFoundWithItsBlanks) {
     EXPECT_EQ(Result("GM        ", MarkAction::Mark), "GM        ");
     EXPECT_EQ(Result("-DUPE-    ", MarkAction::Mark), "");
-    // The text before the slash decides: the country of the shorter prefix, not the one named.
+    // The text before the slash decides: the contact counts for the country of the shorter prefix, not for the one named.
     EXPECT_EQ(Result("VP8/H     ", MarkAction::Mark), "VP8       ");
     EXPECT_EQ(Marked(), 2);
 }
@@ -115,7 +115,7 @@ TEST_F(Lookup, TheEuropeanAreasOfAnAsianCountryKeepTheirPoints) {
 }
 
 TEST_F(Lookup, TheEuropeanAreaIsReadFromTheCallAsGiven) {
-    // The country text is TA1ABC, but the call begins TA2.
+    // The text for the country search is TA1ABC, but the call begins with TA2.
     EXPECT_EQ(PointsOf("TA2ABC/1", MarkAction::Test), 6);
 }
 
@@ -196,7 +196,7 @@ TEST_F(Lookup, InAFullTableOnlyAWholeRowIsFound) {
     while (tables.giRefPfx < kPrefixRows) Prefix("YY", "K");
     tables.IndexPrefixes();
     EXPECT_EQ(Result("YY", MarkAction::Test), "K         ");
-    // Looking for the whole call comes first and has run beyond the table before the prefix is tried.
+    // The whole call is searched for first, and that search runs beyond the table before the prefix is tried.
     EXPECT_THROW(Result("YY1ABC", MarkAction::Test), RunTimeError);
     EXPECT_THROW(Status("YY1ABC"), RunTimeError);
 }
@@ -216,7 +216,7 @@ TEST_F(Lookup, AnActionTakesEffectWhenItChangesAMark) {
     }
 }
 
-/// The search as a scan, row by row.
+/// The same search as a plain scan, row by row.
 std::optional<int> Scanned(const CountryTables& tables, std::string_view s, int start, bool whole) {
     for (int i = std::max(start, 1); i <= tables.giRefPfx; ++i) {
         const std::string_view prefix = tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed();

@@ -12,7 +12,7 @@ namespace {
 
 using Rows = std::vector<PfxRec>;
 
-/// Rows 1 to n with these keys, each with its number as its country, then `spare` rows.
+/// Rows 1 to n with these keys; each row has its number as its country. Then `spare` more rows.
 Rows Table(const std::vector<std::string>& keys, std::size_t spare = 1) {
     Rows rows(keys.size() + 1 + spare);
     for (std::size_t i = 0; i < keys.size(); ++i) {
@@ -22,7 +22,7 @@ Rows Table(const std::vector<std::string>& keys, std::size_t spare = 1) {
     return rows;
 }
 
-/// The selection sort of the header, step by step.
+/// The selection sort that the header describes, step by step.
 void SortPlainly(Rows& rows, std::size_t count) {
     PfxRec& spare = rows.back();
     for (std::size_t i = 1; i <= count; ++i) {
@@ -63,7 +63,7 @@ TEST(PrefixOrder, IsAscendingByCharacterCode) {
 }
 
 TEST(PrefixOrder, OfEqualRowsTheLastOneComesFirst) {
-    // 1: the last A, row 3, goes to the front and row 1 to its place. 2: the last A is now row 1.
+    // Step 1 moves the last A, row 3, to the front and row 1 to its place. In step 2 the last A is therefore the former row 1.
     EXPECT_EQ(Sorted({"A", "A", "A"}), (std::vector<std::string>{"A/3", "A/1", "A/2"}));
 }
 
@@ -77,7 +77,8 @@ TEST(PrefixOrder, OneRowAndNoneAreInOrder) {
 }
 
 TEST(PrefixOrder, TheSpareRowOfAFullTableLosesItsPrefix) {
-    // Row 3 is the spare one. 1: B goes there on its way to row 2. 2: of two equal rows the last one, the spare one itself.
+    // Row 3 is the spare row. Step 1 moves B through it on the way to row 2. Step 2 finds two equal rows and takes the last
+    // one, which is the spare row itself.
     Rows rows = Table({"B", "A", "C"}, 0);
     Sort(rows, 3);
     EXPECT_EQ(Told(rows), (std::vector<std::string>{"/", "A/2", "B/1", "B/1"}));
@@ -90,7 +91,7 @@ TEST(PrefixOrder, EachRowIsToldOnceInItsTurn) {
     EXPECT_EQ(steps, (std::vector<int>{1, 2, 3}));
 }
 
-/// Random tables with many equal keys; `spare` rows behind the last one in use.
+/// Random tables with many equal keys, and `spare` rows after the last one in use.
 void CompareWithPlainSort(std::size_t spare) {
     std::mt19937 random(20260905);
     for (int table = 0; table < 5000; ++table) {

@@ -138,7 +138,7 @@ TEST(EarlierContacts, OfShortLinesAreShownToo) {
     EXPECT_EQ(Found("DL9", {"12:07 DL9XYZ"}).size(), 1U);
 }
 
-/// The search as the rules tell it, line by line.
+/// The search as the rules define it, line by line.
 std::vector<std::string> Scanned(const std::string& sought, const std::vector<std::string>& log) {
     std::vector<std::string> found;
     std::string c;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The keyer without a program: pieces for a speed, and what comes out of the fills.
+// The keyer without the program: pieces for a speed, and the samples that the fills return.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -40,7 +40,7 @@ inline Pieces PiecesAt(int wpm, int pitch = 800, int volume = 10000) {
     return pieces;
 }
 
-/// A keyer with pieces, at this place of a text.
+/// A keyer with pieces, at this position of a text.
 inline Keyer KeyerAt(int wpm, Stepper place = {}) {
     Keyer keyer(std::move(place));
     keyer.SetSpeed(static_cast<std::int16_t>(wpm));
@@ -52,7 +52,7 @@ inline Samples SamplesOf(const FilledHalf& half) {
     return {half.samples.begin(), half.samples.end()};
 }
 
-/// The samples of these slots, one piece behind the other.
+/// The samples of these slots, one piece after the other.
 inline Samples Pasted(const Pieces& pieces, std::string_view slots) {
     Samples samples;
     for (const char slot : slots) {
@@ -66,7 +66,7 @@ inline Samples Pasted(const Pieces& pieces, std::string_view slots) {
     return samples;
 }
 
-/// Sends the text to its end: half after half until one is not active, and the samples of all of them.
+/// Sends the text to its end: fills one half after the other until a half is no longer active, and returns the samples of all.
 inline Samples Filled(Keyer& keyer, std::string_view text) {
     keyer.SetText(std::string(text), 0);
     keyer.Begin();

@@ -26,7 +26,7 @@ TEST(KeyerOfATone, AFillIsAHalfOfTheBuffer) {
 TEST(KeyerOfATone, ADotIsFollowedByTenDotsOfSilence) {
     Keyer keyer = KeyerAt(20);
     const Samples all = Filled(keyer, "E ");
-    // 29106 samples are two halves with something in them, and one with nothing but the end.
+    // 29106 samples need two halves; a third holds only the end.
     ASSERT_EQ(all.size(), 3U * kHalf);
     Samples expected(3 * kHalf);
     std::copy_n(keyer.CurrentPieces().CWPrik.begin(), 2646, expected.begin());
@@ -49,12 +49,12 @@ TEST(KeyerOfATone, AHalfEndsInsideAPieceWhoseRestOpensTheOther) {
     Keyer keyer = KeyerAt(20);
     keyer.SetText("00000 ", 0);
     EXPECT_TRUE(keyer.Fill(Half::First).active);
-    // Eight pieces of 2646 are 21168, and 882 samples of the ninth are left.
+    // Eight pieces of 2646 samples are 21168, which leaves 882 samples for the start of the ninth.
     EXPECT_EQ(keyer.Place().glCWSlat, 882);
     EXPECT_EQ(keyer.Place().gsElement, "1");
     const FilledHalf second = keyer.Fill(Half::Second);
     EXPECT_EQ(second.samples[0], keyer.CurrentPieces().CWStart[882]);
-    // 1764 samples of the ninth, seven whole pieces, and 1764 of the next.
+    // The other 1764 samples of the ninth piece, seven whole pieces, and 1764 samples of the next.
     EXPECT_EQ(keyer.Place().glCWSlat, 1764);
 }
 
@@ -63,7 +63,7 @@ TEST(KeyerOfATone, AtSixtyWordsTwentyFivePiecesFillAHalfWithoutACut) {
     keyer.SetText("5555555555 ", 0);
     const FilledHalf first = keyer.Fill(Half::First);
     EXPECT_EQ(keyer.Place().glCWSlat, 882);
-    // "5" has nine slots, and three behind it.
+    // "5" has nine slots and three slots of gap.
     EXPECT_EQ(SamplesOf(first), Pasted(keyer.CurrentPieces(), "4 4 4 4 4   4 4 4 4 4   4"));
     EXPECT_EQ(SamplesOf(keyer.Fill(Half::Second)), Pasted(keyer.CurrentPieces(), " 4 4 4 4   4 4 4 4 4   4 "));
     EXPECT_EQ(keyer.Place().glCWSlat, 882);
@@ -113,18 +113,18 @@ TEST(KeyerOfATone, AtVeryLowSpeedsAHalfHoldsPartOfAPieceAndTheProgramGoesOn) {
     const Samples second = SamplesOf(keyer.Fill(Half::Second));
     EXPECT_EQ(keyer.Place().glCWSlat, 0);
     EXPECT_EQ(second, Samples(start.begin() + kHalf, start.begin() + 2 * kHalf));
-    // The next half begins with the middle of the dash, whatever of its first third was left.
+    // The next half begins with the middle of the dash, even if part of its first third was not yet sent.
     EXPECT_EQ(keyer.Fill(Half::First).samples[1], keyer.CurrentPieces().CWMidte[1]);
 }
 
 TEST(KeyerOfATone, AWordIsFiftyDotsAtEverySpeed) {
-    // The word that speed is counted in: PARIS, up to the first tone of the next one.
+    // Speed is counted in this word: PARIS, up to the first tone of the next PARIS.
     for (int wpm = 6; wpm <= 60; ++wpm) {
         Keyer keyer = KeyerAt(wpm);
         const Samples all = Filled(keyer, "PARIS PARIS ");
         const auto sounds = [](std::int16_t sample) { return sample != 0; };
         const auto first = std::find_if(all.begin(), all.end(), sounds);
-        // A pause longer than five dots parts the words.
+        // A pause longer than five dots separates words.
         auto second = first;
         for (auto silent = first; second == first && silent != all.end();) {
             silent = std::find(silent, all.end(), 0);
@@ -143,7 +143,7 @@ TEST(KeyerOfATone, EachToneAndEachGapIsAWholeNumberOfDots) {
         Keyer keyer = KeyerAt(wpm);
         const int dot = 52920 / wpm;
         const Samples all = Filled(keyer, "PARIS ");
-        // Dots and dashes of PARIS, then the gap behind each. A tone begins with a sample of nought, and may end with one.
+        // The dots and dashes of PARIS, each followed by its gap. A tone begins with a zero sample and may end with one.
         const int tones[]{1, 3, 3, 1, 1, 3, 1, 3, 1, 1, 1, 1, 1, 1};
         const int gaps[]{1, 1, 1, 3, 1, 3, 1, 1, 3, 1, 3, 1, 1, 0};
         std::size_t at = 0;
@@ -159,7 +159,7 @@ TEST(KeyerOfATone, EachToneAndEachGapIsAWholeNumberOfDots) {
             EXPECT_TRUE(std::all_of(silence, silence + gap, [](std::int16_t sample) { return sample == 0; })) << wpm << ": gap " << i;
             at += length + static_cast<std::size_t>(gap);
         }
-        // 43 dots of PARIS itself, and nothing more.
+        // PARIS itself has 43 dots, and nothing follows it.
         EXPECT_EQ(at, static_cast<std::size_t>(43 * dot));
         EXPECT_TRUE(std::all_of(all.begin() + static_cast<std::ptrdiff_t>(at), all.end(), [](std::int16_t sample) { return sample == 0; }));
     }
@@ -173,7 +173,7 @@ TEST(KeyerOfATone, TheEndMarkIsSilentAndStays) {
     keyer.Fill(Half::First);
     EXPECT_TRUE(keyer.Fill(Half::Second).active);
     EXPECT_EQ(keyer.Place().gsElement, "0");
-    // Another text does not wake it up.
+    // A new text alone does not start the keyer again.
     keyer.SetText("EEEE ", 0);
     const FilledHalf silent = keyer.Fill(Half::First);
     EXPECT_FALSE(silent.active);
@@ -196,7 +196,7 @@ TEST(KeyerOfATone, ANewSendDropsTheCutPieceAndGoesOnWhereTheStepperStands) {
     EXPECT_EQ(keyer.Place().glCWSlat, 0);
     EXPECT_EQ(keyer.Place().gsElement, "");
     EXPECT_EQ(keyer.Place().glElementPos, 9);
-    // Of the nought under way there are ten slots left, then its gap: 8 slots and part of one fit.
+    // The digit 0 that is being sent has ten slots left, followed by its gap. Eight slots and part of another fit.
     const Pieces& pieces = keyer.CurrentPieces();
     Samples expected = Pasted(pieces, "23 123 123");
     expected.resize(kHalf);
@@ -210,7 +210,7 @@ TEST(KeyerOfATone, AfterAStopTheNextTextStartsFromItsBeginning) {
     keyer.ResetPosition();
     EXPECT_EQ(keyer.Place().gsElement, "");
     EXPECT_EQ(keyer.Place().glTegnPos, 0);
-    // 8 slots of two dots with their gaps are 21168 samples: 882 of the third dot have been sent.
+    // Eight slots of two dots with their gaps are 21168 samples, so 882 samples of the third dot were sent.
     EXPECT_EQ(keyer.Place().glCWSlat, 882);
     keyer.SetText("T ", 0);
     keyer.Begin();

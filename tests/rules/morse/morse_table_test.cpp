@@ -15,7 +15,7 @@ namespace {
 
 using namespace literals;
 
-/// Elements of a sign in dots and dashes.
+/// The elements of a character as dots and dashes.
 std::string Elements(std::string_view sign) {
     std::string elements;
     for (const char c : sign) {

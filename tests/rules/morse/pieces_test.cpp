@@ -54,7 +54,7 @@ TEST(PiecesOfATone, TheRoundedSamplesLetThePeakWander) {
 }
 
 TEST(PiecesOfATone, TheToneHasItsPitch) {
-    // In 0.18 seconds 144 waves of 800 Hz, each of which goes up through nought once; the first begins there.
+    // 0.18 seconds hold 144 periods of 800 Hz. Each crosses zero upwards once, and the first begins with that.
     const Pieces pieces = PiecesAt(20);
     int rising = 0;
     for (std::size_t i = 1; i < pieces.CWStreg.size(); ++i) rising += pieces.CWStreg[i - 1] < 0 && pieces.CWStreg[i] >= 0;
@@ -70,7 +70,7 @@ TEST(PiecesOfATone, WithoutVolumeTheToneIsSilent) {
 TEST(PiecesOfATone, AToneTooLoudForSixteenBitsOverflows) {
     EXPECT_EQ(FailureOf([] { PiecesAt(20, 800, 32768); }), 6);
     EXPECT_EQ(FailureOf([] { PiecesAt(20, 800, 70000); }), 6);
-    // The peak wanders above 32767 at this pitch.
+    // At this pitch the peak is sometimes above 32767.
     EXPECT_EQ(FailureOf([] { PiecesAt(20, 800, 32767); }), 6);
     EXPECT_EQ(FailureOf([] { PiecesAt(20, 800, 32000); }), 0);
 }
@@ -80,7 +80,7 @@ TEST(PiecesOfATone, ADashHasOneSampleTwice) {
     const std::size_t p = 2646;
     EXPECT_EQ(pieces.CWStart[p - 1], 1075);
     EXPECT_EQ(pieces.CWMidte[0], 1075);
-    // From there on the tone runs on without a break.
+    // From there on the tone continues without a break.
     EXPECT_EQ(pieces.CWMidte[1], -68);
     EXPECT_EQ(pieces.CWMidte[p - 1], 2106);
     EXPECT_EQ(pieces.CWSlut[0], 981);
@@ -89,7 +89,7 @@ TEST(PiecesOfATone, ADashHasOneSampleTwice) {
 
 TEST(PiecesOfATone, DotsAndDashesBeginWithARamp) {
     const Pieces pieces = PiecesAt(20);
-    // -1137 / 25 = -45.48, -2259 * 2 / 25 = -180.72, -3352 * 3 / 25 = -402.24, -4401 * 4 / 25 = -704.16: always downwards.
+    // -1137 / 25 = -45.48, -2259 * 2 / 25 = -180.72, -3352 * 3 / 25 = -402.24, -4401 * 4 / 25 = -704.16: always rounded down.
     const Samples first{0, -46, -181, -403, -705};
     EXPECT_EQ(Samples(pieces.CWStart.begin(), pieces.CWStart.begin() + 5), first);
     EXPECT_EQ(Samples(pieces.CWPrik.begin(), pieces.CWPrik.begin() + 5), first);
@@ -107,7 +107,7 @@ TEST(PiecesOfATone, DotsAndDashesBeginWithARamp) {
 TEST(PiecesOfATone, DotsAndDashesEndWithARampThatDoesNotReachNought) {
     const Pieces pieces = PiecesAt(20);
     const std::size_t p = 2646;
-    // 1075 / 25 = 43 and 2204 * 2 / 25 = 176.32 at the end of a dot, 2032 / 25 = 81.28 at the end of a dash.
+    // At the end of a dot 1075 / 25 = 43 and 2204 * 2 / 25 = 176.32; at the end of a dash 2032 / 25 = 81.28.
     EXPECT_EQ(pieces.CWPrik[p - 1], 43);
     EXPECT_EQ(pieces.CWPrik[p - 2], 176);
     EXPECT_EQ(pieces.CWSlut[p - 1], 81);
@@ -122,7 +122,8 @@ TEST(PiecesOfATone, DotsAndDashesEndWithARampThatDoesNotReachNought) {
 }
 
 TEST(PiecesOfATone, ARampIsRoundedDownAlsoBelowNought) {
-    // The first sample of 300 Hz is -427.3 at full volume; at this volume it is -1012 or so, of which a 25th part is no integer.
+    // The first sample of 300 Hz is -427.3 at full volume. At this volume it is about -1012, and a 25th of that is not an
+    // integer.
     const Pieces pieces = PiecesAt(20, 300, 23693);
     ASSERT_EQ(pieces.CWStreg[1], -1012);
     EXPECT_EQ(pieces.CWStart[1], -41);  // -40.48

@@ -17,7 +17,7 @@ std::string Silence(int slots) {
     return std::string(static_cast<std::size_t>(slots), ' ');
 }
 
-/// All slots of the text up to the end mark, which is left out.
+/// All slots of the text, without the end mark.
 std::string Slots(std::string_view text, int extraSilence = 0) {
     Stepper stepper{.gsCWTekst = std::string(text), .extraSilence = static_cast<std::int16_t>(extraSilence)};
     std::string slots;

@@ -10,7 +10,7 @@ namespace {
 
 using namespace literals;
 
-/// The values of a contact, each of which a test may change.
+/// The values of a contact; a test may change each of them.
 class TextCodes : public ::testing::Test {
 protected:
     std::string Expanded(std::string_view text) const { return DanCWTekst(text, values); }
@@ -40,7 +40,7 @@ TEST_F(TextCodes, OnlyNoughtsInFrontBecomeT) {
     EXPECT_EQ(NumberAsSent("0000", "--1"), "TTTT");
     EXPECT_EQ(NumberAsSent("1000", "--1"), "1000");
     EXPECT_EQ(NumberAsSent("", "--1"), "");
-    // Once more, as the button TX does: it is short already.
+    // Already short values stay unchanged; the TX button shortens them a second time.
     EXPECT_EQ(NumberAsSent("TTT1", "--1"), "TTT1");
 }
 
@@ -87,7 +87,7 @@ TEST_F(TextCodes, ACodeInsideAValueHasItsValueToo) {
 TEST_F(TextCodes, ACodeInsideItsOwnValueIsDropped) {
     values.call = "A#CB";
     EXPECT_EQ(Expanded("#C #C"), "ACB ACB ");
-    // Each leads to the other.
+    // Each value contains the code of the other.
     values.call = "X#T";
     values.report = "Y#C";
     EXPECT_EQ(Expanded("#C"), "XYC ");
@@ -96,18 +96,18 @@ TEST_F(TextCodes, ACodeInsideItsOwnValueIsDropped) {
 TEST_F(TextCodes, ACodeMayBeginAtTheEndOfAValue) {
     values.call = "A#";
     EXPECT_EQ(Expanded("#CT K"), "A599 K ");
-    // Each call takes the C behind it for its code, until there is none left.
+    // Each inserted call ends in "#", which forms a code with the following C, until no C is left.
     EXPECT_EQ(Expanded("#CCCC"), "AAAA ");
     EXPECT_EQ(Expanded("#C"), "A ");
     EXPECT_EQ(Expanded("#C K"), "A K ");
-    // "#CT", then "#T" of two values and the text.
+    // First "#CT" is expanded. The result contains a new code "#T", made of two values and the text.
     values.call = "#R";
     values.ownCall = "OZ#";
     EXPECT_EQ(Expanded("#CT"), "OZ599 ");
 }
 
 TEST_F(TextCodes, ACodeThatComesUpInItsOwnValueIsDroppedAcrossTheEndOfAnother) {
-    // "#C" becomes "#RC", "A#C", "A#RC" and so on: it would have no end.
+    // "#C" becomes "#RC", "A#C", "A#RC" and so on without end.
     values.call = "#RC";
     values.ownCall = "A#";
     EXPECT_EQ(Expanded("#C K"), "AC K ");

@@ -12,7 +12,7 @@ using ::testing::HasSubstr;
 
 class Adif : public Papers {
 protected:
-    /// The file of one log, as it stands on the disk.
+    /// The file of one log as it is on the disk.
     static std::string Export(const Lines& log, const LogId& id = k80mCW) {
         WrittenLines file;
         WriteAdifHead(file);

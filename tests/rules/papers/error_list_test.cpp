@@ -30,7 +30,7 @@ protected:
         stations.Read("OZ1ABC Test, formand");
     }
 
-    /// What the list says of a log, checked behind those that come before it.
+    /// The part of the error list for a log that is checked after the earlier ones.
     Lines SectionOf(std::string_view band, std::string_view mode) {
         ErrorList checker(tables, stations);
         WrittenLines section;
@@ -46,7 +46,7 @@ protected:
         }
         return section.lines;
     }
-    /// The messages for the lines of the CW or SSB log of 80 metres.
+    /// The messages for these lines in the CW or SSB log of 80 metres.
     Lines FaultsIn(const std::string& mode, const Lines& log) {
         Log("80m" + mode, log);
         Lines faults;
@@ -55,7 +55,7 @@ protected:
         return faults;
     }
     Lines FaultsOf(const Told& told) { return FaultsIn("CW", {Contact(told)}); }
-    /// A faultless contact but for the field told.
+    /// The fields of a contact without errors; a test changes one of them.
     static Told Good() { return {.call = "DL1AA", .points = 3, .mult = "DL"}; }
     static Told GoodSsb() { return {.call = "DL1AA", .points = 3, .mult = "DL", .mode = "SSB", .sent = "59", .received = "57"}; }
 
@@ -74,7 +74,7 @@ TEST_F(ErrorLists, ShowsNotesAndJudgesThemNot) {
 }
 
 TEST_F(ErrorLists, ShowsAFaultyContactAsInTheWorkedExample) {
-    // England has been worked before, and a Danish station is worth one point.
+    // England was worked before, and a Danish station is worth one point.
     Log("80mCW", {Contact({.call = "G3AA", .points = 3, .mult = "G"}), Contact({.call = "OZ8AA", .points = 1, .mult = "OZ"}),
                   "13:05 OZ9XYZ/P        599-0012 579-0034 10 G          OZ1AB  QSL CW    05-09-26"});
     EXPECT_THAT(SectionOf("80m", "CW"),
@@ -124,7 +124,7 @@ TEST_F(ErrorLists, ChecksTheBaseCall) {
     EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DLABC", .points = 3, .mult = "DL"})}),
               Lines({"Der skal være både tal og bogstaver i et kaldesignal."}));
     EXPECT_EQ(FaultsIn("CW", {Contact({.call = "0L1AA", .points = 3})}), Lines({"Første tegn i call'et er et nul."}));
-    // Æ lies above Å and is no letter here.
+    // Æ sorts after Å and is not a letter here.
     std::string line = Contact({.call = "1*23", .points = 3});
     EXPECT_EQ(FaultsIn("CW", {line.replace(7, 1, "Æ")}), Lines({"Der skal være både tal og bogstaver i et kaldesignal."}));
     line = Contact({.call = "1*23", .points = 3});
@@ -142,7 +142,7 @@ TEST_F(ErrorLists, FindsDuplicatesByTheBaseCallEvenIfTheyAreMarked) {
 TEST_F(ErrorLists, NeverFindsACallOfElevenCharactersAgain) {
     EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1ABCDEFGH", .points = 3, .mult = "DL"}), Contact({.call = "DL1ABCDEFGH", .points = 3})}),
               Lines{});
-    // But its first ten characters are taken for another station's call.
+    // A call that equals its first ten characters, however, counts as the same call.
     EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1ABCDEFGH", .points = 3, .mult = "DL"}), Contact({.call = "DL1ABCDEFG", .points = 0})}),
               Lines{"DL1ABCDEFG er en dublet!"});
     EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1ABCDEFG", .points = 3, .mult = "DL"}), Contact({.call = "DL1ABCDEFG", .points = 0})}),
@@ -251,7 +251,7 @@ TEST_F(ErrorLists, ChecksMultipliersAgainstTheLogSoFar) {
               Lines{"QSO er første multiplier for land: DL, men er ikke markeret."});
     EXPECT_EQ(FaultsIn("CW", {Contact({.call = "QQ1AA", .points = 3, .mult = "QQ"})}),
               Lines{"QSO er ikke første qso for land: QQ. Flyt markeringen til den første QSO for landet."});
-    // The mark of a duplicate is no claim, wherever it stands.
+    // The mark of a duplicate does not claim a multiplier, whatever its place.
     EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1AA", .points = 3, .mult = "-DUPE-"})}), Lines{});
 }
 
@@ -294,7 +294,7 @@ TEST_F(ErrorLists, FailAtALogWithoutALineAndAtALineWithoutACall) {
     EXPECT_EQ(list.lines, Lines{});
     ListedLines lines({"13:05", Contact({.call = "bad"})});
     EXPECT_THROW(checker.DanFejlListKrop(lines, list, context, k80mCW), RunTimeError);
-    // The line is shown with the errors up to that of the call, the next one not at all.
+    // The line is listed with the errors found up to that of the call. The next line is not listed.
     EXPECT_EQ(std::count(list.lines.begin(), list.lines.end(), kColumns), 1);
     EXPECT_TRUE(list.lines.back().starts_with("       - "));
 }
@@ -311,11 +311,11 @@ TEST_F(ErrorLists, LeaveBehindWhatTheLastContactWas) {
         return checker.Left();
     };
     auto left = check({Contact({.call = "DL1AA"}), Contact({.call = "VK2ABCD/P"})});
-    // Six characters, as the list of stations knows calls.
+    // Only six characters, because the station list holds calls of six characters.
     EXPECT_EQ(left.gsCall, "VK2ABC");
     EXPECT_EQ(left.giQSOPoint, 6);
     EXPECT_EQ(left.giMult, 2);
-    // A duplicate is not looked for among the stations: its call stays as it is, with the points of its country.
+    // A duplicate is not searched for in the station list, so its call stays as it is, with the points of its country.
     left = check({Contact({.call = "G3ABCDE"}), Contact({.call = "G3ABCDE/P"})});
     EXPECT_EQ(left.gsCall, "G3ABCDE");
     EXPECT_EQ(left.giQSOPoint, 5);
@@ -323,7 +323,7 @@ TEST_F(ErrorLists, LeaveBehindWhatTheLastContactWas) {
     left = check({Contact({.call = "OZ1ABC"}), "NOTE: pause"});
     EXPECT_EQ(left.gsCall, "OZ1ABC");
     EXPECT_EQ(left.giQSOPoint, 10);
-    // Notes are no contacts: the marks alone are wiped.
+    // Notes are not contacts: only the marks are reset.
     left = check({"NOTE: pause"});
     EXPECT_EQ(left.gsCall, "OZ1ABC");
     EXPECT_EQ(left.giMult, 0);

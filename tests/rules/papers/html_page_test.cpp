@@ -110,7 +110,7 @@ TEST_F(HtmlPage, SumsUpInATable) {
     for (const char* band : {"40", "20", "15"}) table = table + Lines{kBand + band + kCwNought, kSsbNought};
     table = table + Lines{kBand + "10" + kCwNought, "<TR ALIGN=\"Center\">                          <TD>SSB <TD> 1 <TD> 0 <TD> 1 <TD> 0 ",
                           kTotalRow, kAll + "<TD> 5 <TD> 3 <TD> 23 <TD> 69 <TD><B> 69 </B>"};
-    // Found from 10 m up, not sorted; the first one without its first letter.
+    // Listed from 10 m up in the order found, not sorted. The first one lacks its first letter.
     const Lines wanted = SummaryOf("", "Z2B,OZ1AB,OZ9Z", table);
     const Lines page = Page();
     ASSERT_GE(page.size(), wanted.size());

@@ -58,7 +58,7 @@ TEST_F(LogSheets, CloseAFullPageAndOpenAnother) {
 }
 
 TEST_F(LogSheets, MultiplyTheSumsOfTheLogAndDoNotAddThePages) {
-    // Page 1: 2 multipliers, 150 points. Page 2: 1 multiplier, 3 points. Log: 3 and 153.
+    // Page 1: 2 multipliers, 150 points. Page 2: 1 multiplier, 3 points. The log: 3 and 153.
     const Lines log = Times(2, Contact({.mult = "DL"})) + Times(48, Contact({})) + Lines{Contact({.mult = "G"})};
     const Lines sheet = SheetOf(log);
     ASSERT_EQ(sheet.size(), 4U + 50 + 4 + 1 + 4 + 1 + 4);
@@ -82,7 +82,7 @@ TEST_F(LogSheets, CountThePointsOfANoteButNotItsMultiplier) {
 
 TEST_F(LogSheets, KnowTheMarkOfANoteInUpperCaseOnly) {
     const Lines sheet = SheetOf({"note: pause"});
-    // No date, and a line that ends before the multiplier counts as one.
+    // The line has no date. A line that ends before the multiplier column counts as a multiplier.
     EXPECT_EQ(sheet[4], "        note: pause");
     EXPECT_EQ(sheet[6], "       Ialt denne side:                                  0    1            0");
 }

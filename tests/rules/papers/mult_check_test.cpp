@@ -85,7 +85,7 @@ TEST_F(MultCheck, CutsAMultiplierAtSevenCharacters) {
 TEST_F(MultCheck, LetsAShortLineMoveTheColumnsToItsRight) {
     Log("10mCW", {Contact({.mult = "DL"}), ""});
     Log("10mSSB", LogOf({"G", "F"}));
-    // The empty cell sorts first and adds no width.
+    // The empty cell sorts first and takes no column width.
     const Lines rows{"       F      " + std::string(56, ' '), "       DL     G      " + std::string(56, ' ')};
     EXPECT_EQ(Sheet(), kTop + rows);
 }
@@ -123,7 +123,7 @@ TEST_F(MultCheck, HasNoPlaceForAHundredAndOne) {
     const MultColumn full = SamlMult(logs, {"15m", "CW"});
     EXPECT_EQ(full.count, 101U);
     EXPECT_EQ(full.cells[100], "M099   ");
-    // The log is left open, so that later ones cannot be opened.
+    // The log stays open, so the later ones cannot be opened.
     EXPECT_TRUE(logs.open);
     EXPECT_EQ(SamlMult(logs, {"80m", "SSB"}).count, 0U);
     Multipliers all;

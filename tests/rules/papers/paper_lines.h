@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Logs and papers as lines in memory, for tests of papers that need no program.
+// Logs and papers as lines in memory, for tests of papers without the program.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ namespace vatro {
 
 using Lines = std::vector<std::string>;
 
-/// What a test line differs in.
+/// The fields of a test line, with their defaults.
 struct Told {
     const char* call = "DL1AA";
     int points = 3;
@@ -37,7 +37,7 @@ struct Told {
     const char* received = "579";
 };
 
-/// A contact line of 79 columns: 599-0012 579-0034, as far as nothing else is told.
+/// A contact line of 79 columns, with the numbers 0012 and 0034.
 inline std::string Contact(const Told& told) {
     char line[120];
     std::snprintf(line, sizeof line, "%5s %-15s %-3s-0012 %-3s-0034 %2d %-10s %-6s     %-5s %s", told.time, told.call, told.sent,
@@ -61,10 +61,10 @@ inline Lines operator+(Lines a, const Lines& b) {
     return a;
 }
 
-/// Lines in memory. Reading can be told to fail.
+/// A source of lines in memory. Reading can be made to fail.
 class ListedLines : public LineSource {
 public:
-    /// `lines` are in UTF-8. Reads `good` of them and fails from then on.
+    /// `lines` are in UTF-8. The first `good` can be read; after that every read fails.
     explicit ListedLines(Lines lines, std::size_t good = std::numeric_limits<std::size_t>::max()) : lines_(std::move(lines)), good_(good) {}
     bool AtEnd() override { return at_ >= lines_.size(); }
     std::string Next() override {
@@ -79,7 +79,7 @@ private:
     std::size_t good_;
 };
 
-/// A paper in memory, in UTF-8. Writing can be told to fail.
+/// A paper in memory, in UTF-8. Writing can be made to fail.
 class WrittenLines : public LineSink {
 public:
     void Write(std::string_view line) override {
@@ -90,7 +90,7 @@ public:
     std::size_t room = std::numeric_limits<std::size_t>::max();
 };
 
-/// Logs in memory. One that was not closed keeps the others from being opened.
+/// Logs in memory. While one is open, no other can be opened.
 class ListedLogs : public LogReader {
 public:
     LineSource& Open(const LogId& log) override {
@@ -101,9 +101,9 @@ public:
     }
     void Close() override { open.reset(); }
 
-    /// By "80mCW", in UTF-8.
+    /// The lines of each log, by a name like "80mCW"; in UTF-8.
     std::map<std::string, Lines> logs;
-    /// Lines of each log that can be read.
+    /// How many lines of each log can be read before reading fails.
     std::size_t good = std::numeric_limits<std::size_t>::max();
     std::optional<ListedLines> open;
 };

@@ -9,7 +9,7 @@
 namespace vatro {
 namespace {
 
-/// Notes what is printed, each text with its font: "Arial 36 u: text". Pages never overflow.
+/// Records the texts printed, each with its font: "Arial 36 u: text". Pages never overflow.
 class NotedPages : public PageSink {
 public:
     void SetFont(std::string_view name, double size) override {

@@ -50,10 +50,10 @@ TEST_F(Summary, WithoutALogHasAllItsLines) {
 }
 
 TEST_F(Summary, ShowsTheRowsOfTheWorkedExample) {
-    // 120 contacts, 31 multipliers, 240 points; 80, 22, 160.
+    // 120 contacts, 31 multipliers and 240 points; then 80, 22 and 160.
     Log("80mCW", Times(31, Contact({.points = 2, .mult = "DL"})) + Times(89, Contact({.points = 2})));
     Log("80mSSB", Times(22, Contact({.points = 2, .mult = "DL"})) + Times(58, Contact({.points = 2})));
-    // And what is missing of the 640, 215 and 1610.
+    // The rest of the totals 640, 215 and 1610.
     Log("20mCW", Times(162, Contact({.points = 3, .mult = "DL"})) + Times(200, Contact({.points = 3})) + Lines{Contact({.points = 10})} +
                      Times(77, Contact({.points = 1})));
     Log("10mCW", {NoteWith("37", "")});
@@ -66,7 +66,7 @@ TEST_F(Summary, ShowsTheRowsOfTheWorkedExample) {
 }
 
 TEST_F(Summary, TakesEachRowFromItsLog) {
-    // Points tell the logs apart.
+    // Each log has its own number of points.
     int points = 0;
     for (const char* log : {"80mCW", "80mSSB", "40mCW", "40mSSB", "20mCW", "20mSSB", "15mCW", "15mSSB", "10mCW", "10mSSB"})
         Log(log, {Contact({.points = ++points, .mult = "DL"})});
@@ -158,7 +158,8 @@ TEST_F(Summary, FillsToTheNextPrintZone) {
         return Sheet()[2];
     };
     EXPECT_EQ(line("", "B"), "Kaldesignal:  Kategori: B   Antal logsider: ");
-    // 14 characters fill a zone: the next one begins 14 further on.
+    // Texts start at print zones of 14 characters. "Kaldesignal: X" fills the first zone exactly, so the next text starts one
+    // whole zone further on.
     EXPECT_EQ(line("X", "B"), "Kaldesignal: X              Kategori: B   Antal logsider: ");
     EXPECT_EQ(line("OZ1ABCDEFGHIJK", "B"), "Kaldesignal: OZ1ABCDEFGHIJK Kategori: B   Antal logsider: ");
 }

@@ -28,7 +28,7 @@ protected:
 
     CountryTables tables;
     Stations stations;
-    /// Whether the operator is shown the countries.
+    /// Whether the country is shown to the operator.
     bool shown = true;
 };
 
@@ -46,7 +46,7 @@ TEST_F(Points, OfEuropeansDependOnThePortableSign) {
     EXPECT_EQ(Of("DL1ABC/P/QRP"), 5);
     EXPECT_EQ(Of("DL1ABC/QRP/P"), 5);
     EXPECT_EQ(Of("DL1ABC/QRP"), 3);
-    // Only one sign for low power is taken off, and only that one.
+    // Only this one suffix for low power is removed, and only once.
     EXPECT_EQ(Of("DL1ABC/P/QRPP"), 3);
     EXPECT_EQ(Of("DL1ABC/P/QRP/QRP"), 3);
 }
@@ -93,7 +93,7 @@ TEST_F(Points, OfAnUnknownPrefixAreNoneWhileCountriesAreShown) {
 }
 
 TEST_F(Points, OfASuffixWithoutACallAreThreeAndNothingIsLookedUp) {
-    // A blank line of the list would match a call of six blanks.
+    // A blank line in the list would match a call of six blanks.
     List({""});
     for (const char* call : {"", "/3", "9/", "/QRP", "/QRP/3"}) EXPECT_EQ(Of(call), 3) << call;
     EXPECT_EQ(Of("/P"), 10);

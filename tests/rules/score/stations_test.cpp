@@ -77,7 +77,7 @@ TEST_F(StationList, AreNamedUpToTheFirstComma) {
     EXPECT_EQ(Name("OZ7XYZ"), "OZ7XYZ Odense" + std::string(67, ' '));
     EXPECT_EQ(Name("OZ3AB"), longer.substr(0, 80));
     EXPECT_EQ(Name("OZ1AB"), std::nullopt);
-    // The comma stands in the call columns here, so the line is nobody's.
+    // Here the comma is within the call columns, so the line matches no call.
     EXPECT_EQ(Name("OZ2AB"), std::nullopt);
 }
 
