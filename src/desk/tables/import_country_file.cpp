@@ -54,23 +54,23 @@ void WriteTable(FrmCtyDat& form, std::string_view name, std::string_view stage, 
 
 void ImporterCty() {
     FrmCtyDat& form = *frmCtyDat;
-    CountryImport import(desk().tables);
+    CountryImport countryImport(desk().tables);
     const auto advance = [&form](int row) { form.Advance(row); };
     form.ShowStage("Indlæser Cty.dat"_t);
     Files& files = platform().files;
     files.Open(1, PathIn(desk().gsFDLib, "cty.dat"), FileMode::Input);
     FileLines lines(files, 1);
-    import.Read(lines, ShowOverflow);
+    countryImport.Read(lines, ShowOverflow);
     files.Close(1);
 
     form.ShowStage("Sorterer Præfix-referencetabel"_t);
-    form.Begin(import.Tables().giRefPfx);
-    import.Sort(advance);
+    form.Begin(countryImport.Tables().giRefPfx);
+    countryImport.Sort(advance);
 
     form.ShowStage("Rydder op i Præfix-referencetabel"_t);
-    form.Begin(import.Tables().giRefPfx);
-    import.CleanUp(advance);
-    desk().tables = import.Tables();
+    form.Begin(countryImport.Tables().giRefPfx);
+    countryImport.CleanUp(advance);
+    desk().tables = countryImport.Tables();
 
     const CountryTables& tables = desk().tables;
     WriteTable(form, "lande.txt", "Skriver Lande.txt fil", tables.giLande,

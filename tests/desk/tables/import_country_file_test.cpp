@@ -6,6 +6,7 @@
 #include "codepage.h"
 #include "frame/state.h"
 #include "program.h"
+#include "rules/country/country_file.h"
 #include "running_program.h"
 #include "tables/frmCtyDat.h"
 
@@ -13,8 +14,6 @@ namespace vatro {
 namespace {
 
 using namespace literals;
-
-constexpr const char* kHeader = "Fantasia:                 14:  27:  EU:   56.00:   -10.00:    -1.0:  QQ:";
 
 class ImportingCountries : public RunningProgram {
 protected:
@@ -30,7 +29,7 @@ protected:
         ImporterCty();
         frmCtyDat.Unload();
     }
-    /// The number of the failure that ends the import.
+    /// The number of the failure that ends the importer.
     int Failing(std::vector<std::string> lines) {
         try {
             Run(std::move(lines));
@@ -41,25 +40,12 @@ protected:
         }
         return 0;
     }
-    static std::string Number(int number) {
-        const std::string digits = std::to_string(number);
-        return std::string(4 - digits.size(), '0') + digits;
-    }
-    /// An entry with the prefixes C0001 and so on, ten per line.
-    static std::vector<std::string> Entry(int prefixes) {
-        std::vector<std::string> lines{kHeader};
-        for (int i = 1; i <= prefixes; ++i) {
-            if (i % 10 == 1) lines.emplace_back("    ");
-            lines.back() += "C" + Number(i) + (i == prefixes ? ";" : ",");
-        }
-        return lines;
-    }
     std::vector<std::string> OldFiles() { return {LinesOf("DATA\\LANDE.TXT").at(0), LinesOf("DATA\\REFPFX.TXT").at(0)}; }
     const std::vector<std::string> untouched{"DL        Fed. Rep. of Germany     EU -1 ", "DL        DL        14 28"};
 };
 
 TEST_F(ImportingCountries, FillsARowForEachCountry) {
-    Run({kHeader, "    QQ;", "A Country With A Long Name05:  06:  OC:  -56.25:   110.50:    +5.5:  QS:", "    QS;"});
+    Run({kSampleHeader, "    QQ;", "A Country With A Long Name05:  06:  OC:  -56.25:   110.50:    +5.5:  QS:", "    QS;"});
     ASSERT_EQ(desk().tables.giLande, 2);
     EXPECT_EQ(Country(1).Pfx.Padded(), "QQ        ");
     EXPECT_EQ(Country(1).Navn.Trimmed(), "Fantasia");
@@ -82,7 +68,7 @@ TEST_F(ImportingCountries, NoNumberIsNoughtAndATooLargeOneFails) {
 }
 
 TEST_F(ImportingCountries, ThePrefixesAreFoundAtOnce) {
-    Run({kHeader, "    QQ,QQ1;"});
+    Run({kSampleHeader, "    QQ,QQ1;"});
     EXPECT_EQ(desk().tables.FindPrefix("QQ1AB", 1), 1);
     EXPECT_EQ(desk().tables.FindWholeCall("QQ", 1), 2);
     EXPECT_EQ(desk().tables.FindWholeCall("DL", 1), std::nullopt);
@@ -97,21 +83,21 @@ TEST_F(ImportingCountries, AnEmptyFileGivesEmptyTables) {
 }
 
 TEST_F(ImportingCountries, FewerRowsLeaveNoneOfTheOldOnesInUse) {
-    Run({kHeader, "    QQ,QR,QS;"});
-    Run({kHeader, "    QT;"});
+    Run({kSampleHeader, "    QQ,QR,QS;"});
+    Run({kSampleHeader, "    QT;"});
     EXPECT_EQ(LinesOf("DATA\\REFPFX.TXT"), (std::vector<std::string>{"QT        QQ        14 27"}));
     EXPECT_EQ(desk().tables.FindWholeCall("QS", 1), std::nullopt);
 }
 
 TEST_F(ImportingCountries, FiveHundredCountriesFitAndOneMoreFails) {
     std::vector<std::string> lines;
-    for (int i = 0; i < 500; ++i) lines.insert(lines.end(), {kHeader, "    QQ;"});
+    for (int i = 0; i < 500; ++i) lines.insert(lines.end(), {kSampleHeader, "    QQ;"});
     Run(lines);
     EXPECT_EQ(desk().tables.giLande, 500);
 
     files.files["DATA\\LANDE.TXT"] = {untouched[0]};
     files.files["DATA\\REFPFX.TXT"] = {untouched[1]};
-    lines.insert(lines.end(), {kHeader, "    QQ;"});
+    lines.insert(lines.end(), {kSampleHeader, "    QQ;"});
     EXPECT_EQ(Failing(lines), 9);
     EXPECT_EQ(OldFiles(), untouched);
 }
@@ -122,7 +108,7 @@ TEST_F(ImportingCountries, OnePrefixTooManyIsToldAndFails) {
         "Kontakt programleverandøren om fejlen. \r\n"
         "I kan køre videre, men der vil være fejl i jeres præfixberegning. \r\n"
         "Det kan rettes op senere med en korrekt fil.");
-    EXPECT_EQ(Failing(Entry(6001)), 9);
+    EXPECT_EQ(Failing(EntryOf(6001)), 9);
     EXPECT_EQ(dialogs.boxes.at(0).title, "Tabeloverløb"_t);
     EXPECT_EQ(dialogs.boxes.at(0).icon, Icon::Information);
     EXPECT_EQ(OldFiles(), untouched);
@@ -131,23 +117,23 @@ TEST_F(ImportingCountries, OnePrefixTooManyIsToldAndFails) {
 TEST_F(ImportingCountries, ADamagedFileFailsBeforeAnythingIsWritten) {
     EXPECT_EQ(Failing({""}), 5);
     EXPECT_EQ(Failing({std::string("\0\x01\xFF:\0", 5)}), 5);
-    EXPECT_EQ(Failing({kHeader}), 62);
-    EXPECT_EQ(Failing({kHeader, "    QQ,"}), 62);
-    EXPECT_EQ(Failing({kHeader, "    QQ(15;"}), 5);
-    EXPECT_EQ(Failing({kHeader, "    QQ,QR"}), 5);
-    EXPECT_EQ(Failing({kHeader, "    QQ;", "no header"}), 5);
+    EXPECT_EQ(Failing({kSampleHeader}), 62);
+    EXPECT_EQ(Failing({kSampleHeader, "    QQ,"}), 62);
+    EXPECT_EQ(Failing({kSampleHeader, "    QQ(15;"}), 5);
+    EXPECT_EQ(Failing({kSampleHeader, "    QQ,QR"}), 5);
+    EXPECT_EQ(Failing({kSampleHeader, "    QQ;", "no header"}), 5);
     EXPECT_EQ(OldFiles(), untouched);
     EXPECT_EQ(desk().tables.giLande, 0) << "nothing is in use before the whole file is read";
 }
 
 TEST_F(ImportingCountries, AFileThatCannotBeReadFails) {
     files.FailFrom("read", 2, Failure::DiskNotReady);
-    EXPECT_EQ(Failing({kHeader, "    QQ;"}), 71);
+    EXPECT_EQ(Failing({kSampleHeader, "    QQ;"}), 71);
     EXPECT_EQ(OldFiles(), untouched);
 }
 
 TEST_F(ImportingCountries, TheBarPassesEveryRowOfEveryStep) {
-    files.files["DATA\\CTY.DAT"] = {kHeader, "    QQ,QR,QS;"};
+    files.files["DATA\\CTY.DAT"] = {kSampleHeader, "    QQ,QR,QS;"};
     std::vector<std::string> seen;
     frmCtyDat->progress.mirror = [&](Aspect, int) {
         const ProgressBar& bar = frmCtyDat->progress;
@@ -165,7 +151,7 @@ TEST_F(ImportingCountries, TheBarPassesEveryRowOfEveryStep) {
 TEST_F(ImportingCountries, TheBarPassesEveryRowOfALongTableToo) {
     // The table has more rows than the number of times that the bar is painted.
     constexpr int kRows = 350;
-    files.files["DATA\\CTY.DAT"] = Entry(kRows);
+    files.files["DATA\\CTY.DAT"] = EntryOf(kRows);
     std::vector<int> seen;
     frmCtyDat->progress.mirror = [&](Aspect, int) {
         if (frmCtyDat->statusBar.Panel(1).starts_with("Sorterer")) seen.push_back(frmCtyDat->progress.Value());

@@ -4,63 +4,44 @@
 #include <gtest/gtest.h>
 
 #include "country/lookup.h"
+#include "rules/country/country_file.h"
 #include "text/vector_lines.h"
 
 namespace vatro {
 namespace {
 
-constexpr const char* kHeader = "Fantasia:                 14:  27:  EU:   56.00:   -10.00:    -1.0:  QQ:";
-
 class Import : public ::testing::Test {
 protected:
     void Run(std::vector<std::string> lines) {
         VectorSource source(std::move(lines));
-        CountryImport import(tables);
-        import.Read(source, [this](int count) { overflow = count;
-    });
-    const auto note = [this](int row) { rows.push_back(row); };
-    import.Sort(note);
-    import.CleanUp(note);
-    tables = import.Tables();
-}
+        CountryImport countryImport(tables);
+        countryImport.Read(source, [this](int count) { overflow = count; });
+        const auto note = [this](int row) { rows.push_back(row); };
+        countryImport.Sort(note);
+        countryImport.CleanUp(note);
+        tables = countryImport.Tables();
+    }
     /// The number of the failure that ends the import.
     int Failing(std::vector<std::string> lines) {
-    try {
-        Run(std::move(lines));
-    } catch (const RunTimeError& failure) {
-        return failure.Number();
+        try {
+            Run(std::move(lines));
+        } catch (const RunTimeError& failure) {
+            return failure.Number();
+        }
+        return 0;
     }
-    return 0;
-}
-static std::string Number(int number) {
-    const std::string digits = std::to_string(number);
-    return std::string(4 - digits.size(), '0') + digits;
-}
-/// An entry with the prefixes C0001 and so on, ten per line.
-static std::vector<std::string> Entry(int prefixes) {
-    std::vector<std::string> lines{kHeader};
-    for (int i = 1; i <= prefixes; ++i) {
-        if (i % 10 == 1) lines.emplace_back("    ");
-        lines.back() += "C" + Number(i) + (i == prefixes ? ";" : ",");
-    }
-    return lines;
-}
-std::string Prefix(int row) const {
-    return std::string(tables.RefPfx[static_cast<std::size_t>(row)].Pfx.Trimmed());
-}
-int Start(char c) const {
-    return tables.gaPfxStart[static_cast<unsigned char>(c)];
-}
+    std::string Prefix(int row) const { return std::string(tables.RefPfx[static_cast<std::size_t>(row)].Pfx.Trimmed()); }
+    int Start(char c) const { return tables.gaPfxStart[static_cast<unsigned char>(c)]; }
 
-CountryTables tables;
-std::vector<int> rows;
-int overflow = 0;
-};  // namespace
+    CountryTables tables;
+    std::vector<int> rows;
+    int overflow = 0;
+};
 
 TEST_F(Import, IndexesTheFirstCharactersOfPrefixesThatAreNotOfFullLength) {
     tables.gaPfxStart[static_cast<unsigned char>('Z')] = 77;
     // Sorted order: A123456789, A1, B123456789, C, an empty prefix.
-    Run({kHeader, "    C,B123456789,A1,A123456789,,;"});
+    Run({kSampleHeader, "    C,B123456789,A1,A123456789,,;"});
     ASSERT_EQ(tables.giRefPfx, 5);
     EXPECT_EQ(Prefix(1), "A123456789");
     EXPECT_EQ(Start('A'), 2) << "row 1 is passed over";
@@ -71,7 +52,7 @@ TEST_F(Import, IndexesTheFirstCharactersOfPrefixesThatAreNotOfFullLength) {
 }
 
 TEST_F(Import, ThePrefixesAreFoundAtOnce) {
-    Run({kHeader, "    QQ,QQ1;"});
+    Run({kSampleHeader, "    QQ,QQ1;"});
     EXPECT_EQ(tables.FindPrefix("QQ1AB", 1), 1);
     EXPECT_EQ(tables.FindWholeCall("QQ", 1), 2);
     EXPECT_EQ(tables.FindWholeCall("DL", 1), std::nullopt);
@@ -79,63 +60,63 @@ TEST_F(Import, ThePrefixesAreFoundAtOnce) {
 
 TEST_F(Import, ACharacterOfTheFillerEndsAPrefix) {
     // The longer prefix is not cut, because its last character is not the filler.
-    Run({kHeader, std::string("    Q\xE5X,QRSTUV\xE5XYZ;")});
+    Run({kSampleHeader, std::string("    Q\xE5X,QRSTUV\xE5XYZ;")});
     EXPECT_EQ(Prefix(1), "QRSTUV\xE5XYZ");
     EXPECT_EQ(Prefix(2), "Q");
 }
 
 TEST_F(Import, FiveThousandNineHundredAndNinetyNinePrefixesSurviveWhole) {
-    std::vector<std::string> lines = Entry(5999);
+    std::vector<std::string> lines = EntryOf(5999);
     // The last prefix comes first, so that there is something to sort.
     std::swap(lines[1], lines[599]);
     Run(lines);
     ASSERT_EQ(tables.giRefPfx, 5999);
-    for (int i = 1; i <= 5999; ++i) ASSERT_EQ(Prefix(i), "C" + Number(i));
+    for (int i = 1; i <= 5999; ++i) ASSERT_EQ(Prefix(i), "C" + FourDigits(i));
 }
 
 TEST_F(Import, TheSixThousandthPrefixIsLostInTheSort) {
     // The first swap uses the row of C6000 as its spare row and overwrites it with C0002. After that each step finds the
     // smallest remaining prefix in the last row, and overwrites that row with the one it was to be swapped with.
-    std::vector<std::string> lines = Entry(6000);
+    std::vector<std::string> lines = EntryOf(6000);
     lines[1].replace(4, 11, "C0002,C0001");
     Run(lines);
     ASSERT_EQ(tables.giRefPfx, 6000);
-    for (int i = 1; i <= 5999; ++i) ASSERT_EQ(Prefix(i), "C" + Number(i));
+    for (int i = 1; i <= 5999; ++i) ASSERT_EQ(Prefix(i), "C" + FourDigits(i));
     EXPECT_EQ(Prefix(6000), "C5999");
 }
 
 TEST_F(Import, SixThousandPrefixesInOrderNeedNoSwapAndStayWhole) {
-    Run(Entry(6000));
+    Run(EntryOf(6000));
     EXPECT_EQ(Prefix(6000), "C6000");
 }
 
 TEST_F(Import, LeavesTheWorkedMarksInTheirRows) {
-    Run({kHeader, "    QQ;", kHeader, "    QR;"});
+    Run({kSampleHeader, "    QQ;", kSampleHeader, "    QR;"});
     WorkedCountries worked(tables);
     worked.LandWkd("QQ1ABC", MarkAction::Mark);
     EXPECT_TRUE(worked.Wkd(1));
-    Run({kHeader, "    QX;", kHeader, "    QQ;"});
+    Run({kSampleHeader, "    QX;", kSampleHeader, "    QQ;"});
     EXPECT_TRUE(worked.Wkd(1));
     EXPECT_FALSE(worked.Wkd(2));
 }
 
 TEST_F(Import, TellsEveryRowOfEveryStep) {
-    Run({kHeader, "    QQ,QR,QS;"});
+    Run({kSampleHeader, "    QQ,QR,QS;"});
     EXPECT_EQ(rows, (std::vector<int>{1, 2, 3, 1, 2, 3}));
 }
 
 TEST_F(Import, OfADamagedFileFailsAndCountsNoRow) {
     EXPECT_EQ(Failing({""}), 5);
-    EXPECT_EQ(Failing({kHeader}), 62);
-    EXPECT_EQ(Failing({kHeader, "    QQ,"}), 62);
-    EXPECT_EQ(Failing({kHeader, "    QQ(15;"}), 5);
-    EXPECT_EQ(Failing({kHeader, "    QQ;", "no header"}), 5);
+    EXPECT_EQ(Failing({kSampleHeader}), 62);
+    EXPECT_EQ(Failing({kSampleHeader, "    QQ,"}), 62);
+    EXPECT_EQ(Failing({kSampleHeader, "    QQ(15;"}), 5);
+    EXPECT_EQ(Failing({kSampleHeader, "    QQ;", "no header"}), 5);
     EXPECT_EQ(tables.giLande, 0);
     EXPECT_EQ(tables.giRefPfx, 0);
 }
 
 TEST_F(Import, TellsOfOnePrefixTooManyBeforeItFails) {
-    EXPECT_EQ(Failing(Entry(6001)), 9);
+    EXPECT_EQ(Failing(EntryOf(6001)), 9);
     EXPECT_EQ(overflow, 6001);
 }
 
@@ -145,5 +126,5 @@ TEST_F(Import, WritesRowsInTheColumnsOfTheFiles) {
     EXPECT_EQ(PrefixLine(tables.RefPfx[1]), "QS1       QS        05 06");
 }
 
-}  // namespace vatro
+}  // namespace
 }  // namespace vatro
