@@ -45,7 +45,8 @@ void WriteTable(FrmCtyDat& form, std::string_view name, std::string_view stage, 
     form.Begin(count);
     for (int i = 1; i <= count; ++i) {
         form.Advance(i);
-        files.PrintLine(1, line(static_cast<std::size_t>(i)));
+        const auto text = line(static_cast<std::size_t>(i));
+        files.PrintLine(1, std::string_view(text.data(), text.size()));
     }
     files.Close(1);
 }

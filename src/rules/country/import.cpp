@@ -24,11 +24,13 @@ std::string TableNumber(float number) {
     return (number < 0 ? "-" : " ") + std::string(digits.data(), end) + " ";
 }
 
-/// The prefix without its filler; nothing if there is no filler.
-std::optional<FixedText<kPrefixLength>> WithoutFiller(const FixedText<kPrefixLength>& key) {
-    const std::string_view characters = key.Padded();
-    if (characters.back() != kCtyFiller) return std::nullopt;
-    return FixedText<kPrefixLength>(std::string_view(characters.begin(), std::ranges::find(characters, kCtyFiller)));
+/// Removes the filler of a prefix; false if it has none.
+bool RemoveFiller(FixedText<kPrefixLength>& prefix) {
+    const FixedText<kPrefixLength> filled = prefix;
+    const std::string_view characters = filled.Padded();
+    if (characters.back() != kCtyFiller) return false;
+    prefix = std::string_view(characters.begin(), std::ranges::find(characters, kCtyFiller));
+    return true;
 }
 
 }  // namespace
@@ -91,9 +93,7 @@ void CountryImport::CleanUp(const RowProgress& progress) {
     for (int i = 1; i <= tables_->giRefPfx; ++i) {
         progress(i);
         FixedText<kPrefixLength>& prefix = tables_->RefPfx[static_cast<std::size_t>(i)].Pfx;
-        const auto bare = WithoutFiller(prefix);
-        if (!bare) continue;
-        prefix = *bare;
+        if (!RemoveFiller(prefix)) continue;
         const char first = prefix.Padded().front();
         if (first == last) continue;
         last = first;
@@ -108,14 +108,16 @@ std::string CountryLine(const LandRec& country) {
     return line + TableNumber(country.TidsZone);
 }
 
-std::string PrefixLine(const PfxRec& prefix) {
-    std::string line;
-    line.reserve(2 * kPrefixLength + 5);
-    return line.append(prefix.Pfx.Padded())
-        .append(prefix.Land.Padded())
-        .append(prefix.CQzone.Padded())
-        .append(" ")
-        .append(prefix.ITUzone.Padded());
+std::array<char, kPrefixLineLength> PrefixLine(const PfxRec& prefix) {
+    std::array<char, kPrefixLineLength> line{};
+    char* end = line.data();
+    const auto append = [&end](std::string_view column) { end += column.copy(end, column.size()); };
+    append(prefix.Pfx.Padded());
+    append(prefix.Land.Padded());
+    append(prefix.CQzone.Padded());
+    append(" ");
+    append(prefix.ITUzone.Padded());
+    return line;
 }
 
 }  // namespace vatro

@@ -6,6 +6,8 @@
 // A missing, damaged or too large country file is a failure; the table files on disk are then unchanged.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -59,6 +61,7 @@ private:
 
 /// Format a row of lande.txt and of refpfx.txt.
 std::string CountryLine(const LandRec& country);
-std::string PrefixLine(const PfxRec& prefix);
+inline constexpr std::size_t kPrefixLineLength = 2 * kPrefixLength + 5;
+std::array<char, kPrefixLineLength> PrefixLine(const PfxRec& prefix);
 
 }  // namespace vatro

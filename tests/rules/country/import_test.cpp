@@ -123,7 +123,8 @@ TEST_F(Import, TellsOfOnePrefixTooManyBeforeItFails) {
 TEST_F(Import, WritesRowsInTheColumnsOfTheFiles) {
     Run({"A Country With A Long Name05:  06:  OC:  -56.25:   110.50:    +5.5:  QS:", "    QS,QS1;"});
     EXPECT_EQ(CountryLine(tables.Lande[1]), "QS        A Country With A Long NamOC  5.5 ");
-    EXPECT_EQ(PrefixLine(tables.RefPfx[1]), "QS1       QS        05 06");
+    const auto prefixLine = PrefixLine(tables.RefPfx[1]);
+    EXPECT_EQ(std::string_view(prefixLine.data(), prefixLine.size()), "QS1       QS        05 06");
 }
 
 }  // namespace
