@@ -109,6 +109,9 @@ std::optional<double> WholeNumber(std::string_view text) {
 
 template <class Integer>
 Integer Rounded(double value) {
+    // Nearly every value is a whole number in range, which needs no rounding.
+    if (value >= std::numeric_limits<Integer>::min() && value <= std::numeric_limits<Integer>::max())
+        if (const auto whole = static_cast<Integer>(value); whole == value) return whole;
     const double below = std::floor(value);
     const double part = value - below;
     const bool up = part > 0.5 || (part == 0.5 && std::fmod(below, 2.0) != 0);
