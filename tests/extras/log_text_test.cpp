@@ -133,6 +133,24 @@ TEST(LogSummary, TellsContactsTimesAndTheHighestNumber) {
     EXPECT_EQ(Summarise({}).first, "");
 }
 
+TEST(ContentHash, IsTheSameInWhateverPartsTheContentComes) {
+    const std::string content = kOne + "\r\n" + kTwo + "\r\n" + kThree;
+    const std::string_view text = content;
+    for (std::size_t at = 1; at < text.size(); ++at)
+        EXPECT_EQ(ContentHash(text.substr(at), ContentHash(text.substr(0, at))), ContentHash(text)) << at;
+}
+
+TEST(ContentHash, ChangesWithEveryCharacterAndWithTheLength) {
+    const std::string content = kOne + "\r\n" + kTwo;
+    for (std::size_t at = 0; at < content.size(); ++at) {
+        std::string changed = content;
+        changed[at] ^= 1;
+        EXPECT_NE(ContentHash(changed), ContentHash(content)) << at;
+        EXPECT_NE(ContentHash(std::string_view(content).substr(0, at)), ContentHash(content)) << at;
+    }
+    EXPECT_NE(ContentHash(std::string(8, '\0')), ContentHash(std::string(9, '\0')));
+}
+
 TEST(UnreadableLine, HasANumberThatIsTooLarge) {
     std::string damaged = kTwo;
     damaged.replace(26, 4, "9e99");
