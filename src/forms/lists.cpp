@@ -2,6 +2,7 @@
 #include "lists.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "errors.h"
 
@@ -23,11 +24,11 @@ void ListBox::Revise() {
 
 const std::string& ListBox::List(int row) const {
     if (row < 0 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
-    return items_[static_cast<std::size_t>(row)];
+    return Items()[static_cast<std::size_t>(row)];
 }
 
 void ListBox::SetList(int row, std::string_view text) {
-    if (row < 0 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
+    if (row < 0 || row >= static_cast<int>(items_.size())) throw RunTimeError(Failure::InvalidCall);
     items_[static_cast<std::size_t>(row)] = text;
     Revise();
     Tell(Aspect::ItemChanged, row);
@@ -44,7 +45,7 @@ void ListBox::AddItem(std::string text) {
 }
 
 void ListBox::RemoveItem(int row) {
-    if (row < 0 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
+    if (row < 0 || row >= static_cast<int>(items_.size())) throw RunTimeError(Failure::InvalidCall);
     items_.erase(items_.begin() + row);
     if (listIndex_ == row)
         listIndex_ = -1;
@@ -77,6 +78,29 @@ void ListBox::UserSelected(int row) {
 void ListBox::UserDoubleClicked(int row) {
     UserSelected(row);
     if (Enabled() && DblClick) DblClick();
+}
+
+void ListBox::ShowRowsOf(std::shared_ptr<const std::vector<std::string>> rows) {
+    shown_ = std::move(rows);
+    listIndex_ = -1;
+    Revise();
+    if (!filling_) Tell(Aspect::Items);
+}
+
+void ListBox::OwnerAppended() {
+    Revise();
+    if (!filling_) Tell(Aspect::ItemAdded, ListCount() - 1);
+}
+
+void ListBox::OwnerReplaced(int row) {
+    Revise();
+    Tell(Aspect::ItemChanged, row);
+}
+
+void ListBox::OwnerCleared() {
+    listIndex_ = -1;
+    Revise();
+    if (!filling_) Tell(Aspect::Items);
 }
 
 ListBox::Filling::Filling(ListBox& list) : list_(list), outer_(list.filling_) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,8 +36,8 @@ public:
     /// Number of columns over which the rows are distributed; 0 for a plain list with one row per line.
     int ColumnCount() const { return columns_; }
 
-    const std::vector<std::string>& Items() const { return items_; }
-    int ListCount() const { return static_cast<int>(items_.size()); }
+    const std::vector<std::string>& Items() const { return shown_ != nullptr ? *shown_ : items_; }
+    int ListCount() const { return static_cast<int>(Items().size()); }
     /// Fails with 5 if there is no such row.
     const std::string& List(int row) const;
     /// Changes with every edit; unique across lists.
@@ -48,6 +49,17 @@ public:
     /// Fails with 5 if there is no such row. The selection stays on the same item, or is cleared if that item is removed.
     void RemoveItem(int row);
     void Clear();
+
+    /// Shows rows that another object owns, in their order, instead of rows of its own. The owner reports each change with one of the
+    /// three procedures below; those above that change rows are not for such a list.
+    void ShowRowsOf(std::shared_ptr<const std::vector<std::string>> rows);
+    /// A row was added at the end.
+    void OwnerAppended();
+    /// The text of a row has changed.
+    void OwnerReplaced(int row);
+    /// All rows are gone.
+    void OwnerCleared();
+
     /// Suspends the mirror during a series of changes; a guard object for use inside one procedure.
     class Filling {
     public:
@@ -77,6 +89,8 @@ private:
     void Revise();
 
     std::vector<std::string> items_;
+    /// The rows of another owner, or none.
+    std::shared_ptr<const std::vector<std::string>> shown_;
     unsigned revision_ = 0;
     Font font_;
     int columns_;

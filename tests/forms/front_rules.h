@@ -398,6 +398,34 @@ TEST_P(FrontRules, ItemThatIsNotThereCannotBeRemoved) {
     EXPECT_EQ(PlayLook("click frmRulesLook.Image1"), (Lines{"error 5"}));
 }
 
+TEST_P(FrontRules, ListShowsTheRowsOfAnotherOwner) {
+    const auto rows = std::make_shared<std::vector<std::string>>(1, "first");
+    On("Click Image1", [&rows] {
+        ListBox& list = frmRulesLook->List1;
+        list.ShowRowsOf(rows);
+        rows->emplace_back("second");
+        list.OwnerAppended();
+        list.SetListIndex(1);
+        rows->front() = "other";
+        list.OwnerReplaced(0);
+    });
+    EXPECT_EQ(PlayLook("click frmRulesLook.Image1\nshow frmRulesLook.List1\nfocus frmRulesLook.List1\nkey Up\nshow frmRulesLook.List1"),
+              (Lines{"frmRulesLook.List1 2 items selected 1", "\"other\"", "\"second\"", "frmRulesLook.List1 2 items selected 0",
+                     "\"other\"", "\"second\""}));
+}
+
+TEST_P(FrontRules, ListIsEmptyWhenItsOwnerClearsIt) {
+    const auto rows = std::make_shared<std::vector<std::string>>(2, "row");
+    On("Click Image1", [&rows] {
+        ListBox& list = frmRulesLook->List1;
+        list.ShowRowsOf(rows);
+        list.SetListIndex(1);
+        rows->clear();
+        list.OwnerCleared();
+    });
+    EXPECT_EQ(PlayLook("click frmRulesLook.Image1\nshow frmRulesLook.List1"), (Lines{"frmRulesLook.List1 0 items selected -1"}));
+}
+
 TEST_P(FrontRules, TextToReadKeepsItsTextAndItsCaret) {
     EXPECT_EQ(
         PlayLook("type xy\nkey Backspace\nkey Delete\nkey Down\nkey End\nkey PageDown\npaste z\nshow frmRulesLook.Text1\n"

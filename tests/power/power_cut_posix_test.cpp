@@ -17,9 +17,9 @@
 #include <thread>
 #include <vector>
 
-#include "entry/frmMain.h"
 #include "frame/log_file.h"
 #include "frame/start.h"
+#include "frame/state.h"
 #include "memory_front.h"
 #include "player.h"
 #include "power/teller.h"
@@ -181,11 +181,11 @@ public:
 
 private:
     static void Rewrite(char mark) {
-        ListBox& list = frmMain->log;
-        for (int i = 0; i < list.ListCount(); ++i) {
-            std::string line = list.List(i);
+        Log& log = desk().log;
+        for (std::size_t row = 0; row < log.Lines().size(); ++row) {
+            std::string line = log.Lines()[row];
             line[50] = mark;
-            list.SetList(i, line);
+            log.Replace(row, line);
         }
         SkrivLog();
     }

@@ -31,13 +31,13 @@ namespace {
 class ShownLog : public LogObserver {
 public:
     void Cleared() override {
-        if (ListBox* list = List()) list->Clear();
+        if (ListBox* list = List()) list->OwnerCleared();
     }
-    void Appended(const std::string& line) override {
-        if (ListBox* list = List()) list->AddItem(line);
+    void Appended() override {
+        if (ListBox* list = List()) list->OwnerAppended();
     }
-    void Replaced(std::size_t row, const std::string& line) override {
-        if (ListBox* list = List()) list->SetList(static_cast<int>(row), line);
+    void Replaced(std::size_t row) override {
+        if (ListBox* list = List()) list->OwnerReplaced(static_cast<int>(row));
     }
 
 private:
@@ -63,6 +63,7 @@ private:
 EntryForm::EntryForm() {
     static ShownLog shownLog;
     desk().log.Observe(&shownLog);
+    log.ShowRowsOf(desk().log.SharedLines());
     BindFields();
     BindMenu(*this);
 }

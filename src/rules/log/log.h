@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,13 +18,21 @@ class LogObserver {
 public:
     virtual ~LogObserver() = default;
     virtual void Cleared() = 0;
-    virtual void Appended(const std::string& line) = 0;
-    virtual void Replaced(std::size_t row, const std::string& line) = 0;
+    /// A line was added at the end.
+    virtual void Appended() = 0;
+    /// The line of this row, counted from 0, is another one.
+    virtual void Replaced(std::size_t row) = 0;
 };
 
 class Log {
 public:
-    const std::vector<std::string>& Lines() const { return lines_; }
+    Log() = default;
+    Log(const Log&) = delete;
+    Log& operator=(const Log&) = delete;
+
+    const std::vector<std::string>& Lines() const { return *lines_; }
+    /// The same lines for a view that shows them without a copy of its own. They outlive the log as long as the view holds them.
+    std::shared_ptr<const std::vector<std::string>> SharedLines() const { return lines_; }
     /// Changes with every edit of the lines.
     unsigned Revision() const { return revision_; }
 
@@ -44,7 +53,7 @@ public:
     std::int16_t giQSOnr = 0;
 
 private:
-    std::vector<std::string> lines_;
+    std::shared_ptr<std::vector<std::string>> lines_ = std::make_shared<std::vector<std::string>>();
     unsigned revision_ = 0;
     LogObserver* observer_ = nullptr;
 };

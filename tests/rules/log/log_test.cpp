@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 
 #include "errors.h"
 
@@ -12,15 +13,19 @@ namespace {
 
 class Notes : public LogObserver {
 public:
-    void Cleared() override { told.emplace_back("cleared"); }
-    void Appended(const std::string& line) override { told.push_back("appended " + line); }
-    void Replaced(std::size_t row, const std::string& line) override { told.push_back("row " + std::to_string(row) + " is " + line); }
+    explicit Notes(const Log& log) : log_(log) {}
+    void Cleared() override { told.push_back("cleared, " + std::to_string(log_.Lines().size()) + " left"); }
+    void Appended() override { told.push_back("appended " + log_.Lines().back()); }
+    void Replaced(std::size_t row) override { told.push_back("row " + std::to_string(row) + " is " + log_.Lines()[row]); }
     std::vector<std::string> told;
+
+private:
+    const Log& log_;
 };
 
 TEST(Log, TellsEveryChangeOfItsLines) {
     Log log;
-    Notes notes;
+    Notes notes(log);
     log.Observe(&notes);
     log.Append("a");
     log.Append("b");
@@ -28,7 +33,7 @@ TEST(Log, TellsEveryChangeOfItsLines) {
     EXPECT_EQ(log.Lines(), (std::vector<std::string>{"a", "c"}));
     log.Clear();
     EXPECT_TRUE(log.Lines().empty());
-    EXPECT_EQ(notes.told, (std::vector<std::string>{"appended a", "appended b", "row 1 is c", "cleared"}));
+    EXPECT_EQ(notes.told, (std::vector<std::string>{"appended a", "appended b", "row 1 is c", "cleared, 0 left"}));
 }
 
 TEST(Log, HasAnotherRevisionAfterEveryChange) {
@@ -45,6 +50,15 @@ TEST(Log, HasAnotherRevisionAfterEveryChange) {
     EXPECT_TRUE(differs());
     log.Clear();
     EXPECT_TRUE(differs());
+}
+
+TEST(Log, SharesItsLinesWithAViewThatOutlivesIt) {
+    auto log = std::make_unique<Log>();
+    const auto seen = log->SharedLines();
+    log->Append("a");
+    EXPECT_EQ(*seen, std::vector<std::string>{"a"});
+    log.reset();
+    EXPECT_EQ(*seen, std::vector<std::string>{"a"});
 }
 
 TEST(Log, HasNoRowBeyondItsLines) {
