@@ -23,7 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The in-memory front end. At each "shot" it tells its test that the command before it has returned.
+/// The in-memory front. At each "shot" it tells its test that the command before it has returned.
 class TellingFront : public MemoryFront {
 public:
     explicit TellingFront(Teller teller) : teller_(teller) {}
