@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The program, started for a benchmark: all of its logic, files on the real disk, and the front end without windows, so that
+// The program, started for a benchmark: all of its logic, files on the real disk, and the front without windows, so that
 // the program is measured and not the toolkit.
 #pragma once
 

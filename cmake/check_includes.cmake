@@ -1,7 +1,7 @@
 # cmake -D LIST=FILE -D STAMP=FILE -P check_includes.cmake
 #
 # Refuses includes that lead out of the include roots. LIST is a file with one source path per line; STAMP is touched if all includes are
-# right.
+# allowed.
 cmake_minimum_required(VERSION 3.25)
 
 # Blanks and comments may stand between the parts of a directive.

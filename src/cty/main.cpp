@@ -32,7 +32,7 @@ std::string ReadWhole(const std::string& path) {
     throw CtyError{path + " kan ikke læses"};
 }
 
-/// Writes the file completely or not at all.
+/// Replaces the file; if writing fails, the old file stays as it was. Not synced: after a power cut the tool can be run again.
 void WriteWhole(const std::string& path, const std::vector<std::string>& lines) {
     const std::filesystem::path fresh = PathOfUtf8(path + ".ny");
     std::ofstream file(fresh, std::ios::binary);

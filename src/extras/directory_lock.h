@@ -27,7 +27,7 @@ public:
         Won,
         /// Another copy holds the directory.
         Taken,
-        /// The directory was not released, but its holder has not been heard of for 60 seconds.
+        /// The directory was not released, but its holder has not written the pulse file for 60 seconds.
         Silent,
         /// No lock can be created, for example in a read-only directory; no other copy can hold one there either.
         Unavailable,
@@ -38,7 +38,9 @@ public:
         std::function<LockResult(LockFile&, const std::filesystem::path&)> lock = [](LockFile& file, const std::filesystem::path& path) {
             return file.Acquire(path);
         };
+        /// How often the pulse file is written.
         std::chrono::milliseconds beat{15'000};
+        /// How long the pulse file may stay unchanged before its holder counts as silent.
         std::chrono::milliseconds silence{60'000};
     };
 

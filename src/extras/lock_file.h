@@ -31,6 +31,7 @@ public:
     /// Creates the file if it is missing, so that every user may open it, and locks it. The file is not removed when the lock is
     /// released, because then two processes could lock two different files of the same name.
     LockResult Acquire(const std::filesystem::path& file);
+    /// Gives up the lock, if it is held.
     void Release() noexcept;
 
 private:

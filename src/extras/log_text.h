@@ -67,9 +67,10 @@ struct LogSummary {
     /// there is no contact.
     std::string first;
     std::string last;
-    /// The highest serial number sent, or 0 if there is none.
+    /// The highest serial number sent, or 0 if there is none. Numbers above 32767 are ignored.
     int highestNumber = 0;
 };
+/// Summarises the contacts among these lines; notes are ignored.
 LogSummary Summarise(const std::vector<std::string_view>& lines);
 
 /// The first line that the program cannot read, counted from 1, or 0 if it can read all. A serial number or points total that is too

@@ -24,7 +24,7 @@ public:
 
     /// Call when a text has ended on its own while the sending window had the focus.
     void EndedByItself(Moment now) { ended_ = now; }
-    /// Call when a text begins or is stopped by the operator: no later key is meant for the previous text.
+    /// Call when a text begins or the operator stops one: later keys are not meant for the previous text.
     void Forget() { ended_.reset(); }
     /// Call for each key pressed while no text is being sent. Returns true if the key was still meant to stop the text that has just
     /// ended, and so must be ignored. Only the first key after a text can be.

@@ -105,7 +105,7 @@ private:
         finding.proposal = todo;
     }
 
-    // The copy -------------------------------------------------------------------------------------------------------------------
+    // --- The copy
 
     void LookAtCopy() {
         const fs::path path = FindPath(places_.logs / kCopy).path;
@@ -232,7 +232,7 @@ private:
         finding.log = log;
     }
 
-    // The logs -------------------------------------------------------------------------------------------------------------------
+    // --- The logs
 
     void LookAtLog(const Log& log) {
         if (IsNoLog(log.text, log.content)) {
@@ -316,7 +316,7 @@ private:
         return Milliseconds(places_.now) - Milliseconds(when) < kYoungDays * kDay;
     }
 
-    // Other files that the program needs -----------------------------------------------------------------------------------------
+    // --- Other files that the program needs
 
     void LookAtTables() {
         for (const std::string_view table : {"lande.txt", "refpfx.txt"}) {

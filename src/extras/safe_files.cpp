@@ -135,7 +135,7 @@ void SafeFiles::CloseLeftovers() noexcept {
     }
 }
 
-// The log directory -------------------------------------------------------------------------------------------------------------
+// --- The log directory
 
 /// Fails with 76 if `file` is in the log directory and that is no longer the directory that was locked.
 void SafeFiles::CheckPlace(const fs::path& file) const {
@@ -162,7 +162,7 @@ void SafeFiles::ChooseDirectory(int number, std::string_view path, const fs::pat
     surroundings_.directoryWon(directory);
 }
 
-// Opening -----------------------------------------------------------------------------------------------------------------------
+// --- Opening
 
 void SafeFiles::Open(int number, std::string_view path, FileMode mode) {
     if (Slot* open = SlotOf(number); open != nullptr && open->mode == FileMode::Input && IsTable(open->path)) Close(number);
@@ -296,7 +296,7 @@ void SafeFiles::CutDamagedEnd(const fs::path& log) {
     file.Sync();
 }
 
-// Reading and writing -----------------------------------------------------------------------------------------------------------
+// --- Reading and writing
 
 std::string SafeFiles::LineInput(int number) {
     Slot* slot = SlotOf(number);
@@ -364,7 +364,7 @@ void SafeFiles::Rename(std::string_view from, std::string_view to) {
     disk_.Rename(from, to);
 }
 
-// Replacing ---------------------------------------------------------------------------------------------------------------------
+// --- Replacing
 
 void SafeFiles::Replace(std::string_view copy, std::string_view name) {
     const auto copyPath = PathTo(copy);

@@ -13,6 +13,7 @@ namespace vatro {
 /// Collects the lines of both texts in order.
 class UnifiedDiff {
 public:
+    /// `from` and `to` are the names of the texts, as the head of the diff shows them.
     UnifiedDiff(std::string from, std::string to) : from_(std::move(from)), to_(std::move(to)) {}
 
     /// Adds the next line, which is the same in both texts.

@@ -71,7 +71,7 @@ public:
     virtual void OpenBox(const MessageBox& box) = 0;
     /// Presses a button of the message box in front.
     virtual void AnswerBox(Answer answer) = 0;
-    /// Closes the box because the program ends at once, whatever is open.
+    /// Closes the box in front without an answer, because the program ends at once.
     virtual void DropBox() = 0;
 
     /// Waits until the front has finished processing an event.

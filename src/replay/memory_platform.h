@@ -42,6 +42,7 @@ struct MemoryPlatform {
     ScenePages pages;
     PageSurface printer{pages};
 
+    /// Installs this platform for the program. `nobody` and `files` must outlive the program.
     void Install(NobodyThere& nobody, Files& files) {
         InstallPlatform(front.ProgramFront(), {nobody, settings, files, clock, nobody, nobody, sound, printer, Version{}});
     }

@@ -62,6 +62,7 @@ public:
     void Truncate(std::int64_t length);
     /// Flushes everything written to the disk.
     void Sync();
+    /// Closes the file, if one is open. A failure is not reported; call Sync before.
     void Close() noexcept;
 
 private:

@@ -3,8 +3,8 @@
 #
 #   both_fronts.sh GENERATOR SEED CONTACTS FRONT...
 #
-# Plays a random contest on each front end, each with its own files. Every box, status bar and line must match the generator's,
-# a reload must change no count, the summary must agree with the status bars of the ten logs, and all front ends must leave the
+# Plays a random contest on each front, each with its own files. Every box, status bar and line must match the generator's,
+# a reload must change no count, the summary must agree with the status bars of the ten logs, and all fronts must leave the
 # same logs.
 set -euo pipefail
 export LC_ALL=C QT_QPA_PLATFORM=offscreen

@@ -36,7 +36,7 @@ void Contest::Setting() {
     for (const std::string& call : Society()) Say("| " + call + std::string(7 - call.size(), ' ') + "afdeling, formand");
     Say("file data/operator.txt\n| " + operator_);
     Say("setting Settings gsLogLib log\nsetting Settings LastOP " + operator_ + "\nsetting Settings VisInfo2002 False\nstart");
-    // From here on the clock always stops after the moment at which the running time is stored.
+    // From here on every event comes half a second after a full second, so the time field has been updated by then.
     Say("advance 0.5");
 }
 

@@ -67,7 +67,7 @@ Station NewStation(Dice& dice);
 Call Sign(const Station& station, Dice& dice);
 
 struct Line {
-    std::string note;  ///< what stands behind the mark; of a contact empty
+    std::string note;  ///< the text of a note; empty for a contact
     std::string time, date;
     Call call;
     Station station;

@@ -88,7 +88,7 @@ TEST_F(CtyCommand, TheNewFileMayBeTheOldOne) {
 struct Damage {
     Texts lines;
     std::string told;
-    /// The failure of the import; 0 if the import succeeds, although with a result that nobody wanted.
+    /// The failure of the import; 0 if the import succeeds, but with a wrong result.
     int failure;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The rules of option buttons and scroll bars, tested through a front end as in front_rules.h.
+// The rules of option buttons and scroll bars, tested through a front as in front_rules.h.
 #pragma once
 
 #include "forms/front_rules.h"

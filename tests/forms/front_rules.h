@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The rules of forms and controls that the logic relies on, tested on small forms through a front end. Every front end includes
+// The rules of forms and controls that the logic relies on, tested on small forms through a front. Every front includes
 // this header in one test source and instantiates the suite with its drivers.
 #pragma once
 

@@ -3,7 +3,7 @@
 #
 #   includes.sh SRC
 #
-# Checks that no source outside src/qt and src/main.cpp includes a header of Qt or of the Qt front end.
+# Checks that no source outside src/qt and src/main.cpp includes a header of Qt or of the Qt front.
 set -euo pipefail
 export LC_ALL=C
 cd "$1"

@@ -3,7 +3,7 @@
 #
 #   storeys.py TARGETS SRC CMAKE
 #
-# Checks that no storey below the window front end sees a storey that it does not use. TARGETS comes from CMake and has a line
+# Checks that no storey below the window front sees a storey that it does not use. TARGETS comes from CMake and has a line
 # for each storey's target: storey, include directories, definitions, options, build dependencies and the compiler; lists are
 # joined by ";".
 #

@@ -29,7 +29,7 @@ struct DiskCall {
 /// Whether this system lets one process trace another.
 bool CanRecord();
 
-/// Runs `life` in a child process and records what it does to the files below `directory`, and when it tells of progress.
+/// Runs `life` in a child process and records what it does to the files below `directory`, and when it reports progress.
 /// Throws if `life` fails, or changes a file by a call that is not known here.
 std::vector<DiskCall> RecordCalls(const std::filesystem::path& directory, const std::function<void(const Teller&)>& life);
 

@@ -23,7 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The in-memory front end. At each "shot" it tells its test that the command before it has returned.
+/// The in-memory front. At each "shot" it tells its test that the command before it has returned.
 class TellingFront : public MemoryFront {
 public:
     explicit TellingFront(Teller teller) : teller_(teller) {}
@@ -64,8 +64,8 @@ bool Holds(const DiskState& state, const std::string& path, const std::string& c
     return file != state.end() && file->second == content;
 }
 
-/// The file grows by whole lines. Once told, the new lines must be there; before that, the new end may be partial or damaged.
-/// `before` always stays.
+/// The file grows by whole lines. Once the program has reported it, the new lines must be there; before that, the new end may
+/// be partial or damaged. `before` always stays.
 Allowed Appended(const std::string& path, const std::string& before, const std::string& after) {
     return [=](const DiskState& found, bool told) {
         if (told) return Holds(found, path, after);
@@ -84,8 +84,8 @@ Allowed Rewritten(const std::string& before, const std::string& after) {
     };
 }
 
-/// A file rewritten in place from data that exist elsewhere. Until told, it may have its old content, or up to the new length
-/// of possibly damaged bytes.
+/// A file rewritten in place from data that exist elsewhere. Until the program has reported it, the file may have its old
+/// content, or up to the new length of possibly damaged bytes.
 Allowed WrittenInPlace(const std::string& path, const DiskState& before, const DiskState& after) {
     const auto old = before.find(path);
     const bool missing = old == before.end();

@@ -69,7 +69,7 @@ std::size_t KillAfter(std::chrono::microseconds wait, Life life) {
     return told;
 }
 
-/// The in-memory front end, which confirms each return from Enter.
+/// The in-memory front, which confirms each return from Enter.
 class TellingFront : public MemoryFront {
 public:
     explicit TellingFront(Teller teller) : teller_(teller) {}
@@ -168,7 +168,7 @@ std::string Version(char mark, int lines) {
     return log;
 }
 
-/// The in-memory front end; a key rewrites the log again and again, alternating between two versions.
+/// The in-memory front; a key rewrites the log again and again, alternating between two versions.
 class RewritingFront : public MemoryFront {
 public:
     explicit RewritingFront(Teller teller) : teller_(teller) {}
@@ -220,7 +220,7 @@ TEST_F(PowerCut, LeavesTheOldLogOrTheNewOneOrTheWholeCopy) {
     RecordProperty("copies_found", static_cast<int>(copies));
 }
 
-/// The in-memory front end, which confirms that it opened the log and each return from a correction.
+/// The in-memory front, which confirms that it opened the log and each return from a correction.
 class CorrectingFront : public MemoryFront {
 public:
     explicit CorrectingFront(Teller teller) : teller_(teller) {}

@@ -215,7 +215,7 @@ TEST_F(Keyboard, NoTwoControlsOfAFormShareAnAccessKey) {
 TEST_F(Keyboard, NoTwoEntriesOfAMenuShareAnAccessKey) {
     const auto& main = dynamic_cast<QMainWindow&>(*WindowOf(*frmMain).Top());
     int menus = 0;
-    // The menus as the window has them, including entries that the front end adds.
+    // The menus as the window has them, including entries that the front adds.
     for (const QMenu* menu : main.menuBar()->findChildren<QMenu*>()) {
         // Skips Qt's own menu for entries without room, and the menu whose texts the operator writes.
         if (menu->title().isEmpty() || menu->title() == QStringLiteral("C&W")) continue;

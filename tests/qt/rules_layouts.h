@@ -5,7 +5,7 @@
 
 namespace vatro {
 
-/// Registers the forms with the window front end.
+/// Registers the forms with the window front.
 void AddRulesLayouts();
 
 }  // namespace vatro

@@ -3,8 +3,8 @@
 #
 #   soak.py GENERATOR CONTACTS ROUNDS FRONT[=TOOLKIT]...
 #
-# Plays a field day of 24 hours on each front end, each with its own files, and checks the memory at the end of each hour. All
-# output must match the generator's. The generator does not compute the output of printer and sound; there the front ends must
+# Plays a field day of 24 hours on each front, each with its own files, and checks the memory at the end of each hour. All
+# output must match the generator's. The generator does not compute the output of printer and sound; there the fronts must
 # agree with each other, and they must leave the same files. The memory may grow only by what the data need.
 #
 # At the end of an hour the program writes to two pipes. The second one blocks it while it is measured.
@@ -71,7 +71,7 @@ def listen(pipe, process):
 
 
 def play(front, scenario, world, account):
-    """The memory at the end of each hour, and the exit code of the front end."""
+    """The memory at the end of each hour, and the exit code of the front."""
     data = world / "data"
     data.mkdir(parents=True)
     for name in ("measure", "go"):

@@ -78,7 +78,7 @@ TEST(ParseDate, TakesMonthWordsInBothLanguages) {
     EXPECT_EQ(ParseDate("07-maj-02"), Moment(2002, 5, 7));
     EXPECT_EQ(ParseDate("07-Oct-02"), Moment(2002, 10, 7));
     EXPECT_EQ(ParseDate("07-okt-02"), Moment(2002, 10, 7));
-    EXPECT_EQ(ParseDate("5. september 2026"), std::nullopt);  // A separator is wanted behind the month, too.
+    EXPECT_EQ(ParseDate("5. september 2026"), std::nullopt);  // A separator is required after the month, too.
     EXPECT_EQ(ParseDate("5. september. 2026"), Moment(2026, 9, 5));
     EXPECT_EQ(ParseDate("1-marts-99"), Moment(1999, 3, 1));
     EXPECT_EQ(ParseDate("1-march-99"), Moment(1999, 3, 1));

@@ -85,7 +85,7 @@ TEST(CountryText, LeavesAFigureAtTheEndOfTheCallAlone) {
 }
 
 TEST(CountryText, TakesASlashBehindAFigureForANumber) {
-    // The slash is moved to the place of the digits, and the shorter side, before it, decides.
+    // The slash replaces the digit, and the shorter side, which is then the one before it, decides.
     EXPECT_EQ(Country("DL1ABC3/"), "DL");
 }
 

@@ -251,7 +251,7 @@ TEST_F(ErrorLists, ChecksMultipliersAgainstTheLogSoFar) {
               Lines{"QSO er første multiplier for land: DL, men er ikke markeret."});
     EXPECT_EQ(FaultsIn("CW", {Contact({.call = "QQ1AA", .points = 3, .mult = "QQ"})}),
               Lines{"QSO er ikke første qso for land: QQ. Flyt markeringen til den første QSO for landet."});
-    // The mark of a duplicate does not claim a multiplier, whatever its place.
+    // A line marked as a duplicate claims no multiplier, wherever it is in the log.
     EXPECT_EQ(FaultsIn("CW", {Contact({.call = "DL1AA", .points = 3, .mult = "-DUPE-"})}), Lines{});
 }
 
