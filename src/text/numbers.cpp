@@ -15,9 +15,9 @@ namespace vatro {
 
 namespace {
 
-/// Any number with this many digits fits into 32 bits.
+/// A number with at most this many digits fits into 32 bits.
 constexpr std::size_t kSurelyFits = 9;
-/// Greater than any number with that many digits.
+/// Any number below this has at most that many digits.
 constexpr double kSurelyFitting = 1e9;
 
 constexpr bool IsDigit(char c) {
@@ -100,7 +100,7 @@ Reading Read(std::string_view text) {
     return reading;
 }
 
-/// The value of a text that is a number as a whole, or nothing.
+/// The value of a text that consists of nothing but a number; nothing for any other text.
 std::optional<double> WholeNumber(std::string_view text) {
     const Reading reading = Read(text);
     if (!reading.whole || std::isinf(reading.value)) return std::nullopt;
