@@ -34,8 +34,9 @@ std::string_view StrippedOnce(std::string_view call) {
     return WithoutEndings(call, {"/P", "/M", "/A", "/MM", "/AM", "/QRP", "/QRPP"});
 }
 
-/// Deliberately removes other endings than those of the base call: "/AM" stays, and a numbered suffix counts only at the very end.
-/// Tidying this would change countries in logs that were sent in (docs/rules.md).
+/// Removes the endings of the country text. They differ from those of the base call: "/AM" stays, and a numbered suffix counts only at
+/// the very end of the call, where MoveDigitSuffix has replaced it. Do not make them equal: contacts in logs that were sent in would get
+/// another country (docs/rules.md).
 std::string_view WithoutPortableOnce(std::string_view call) {
     return WithoutEndings(call, {"/P", "/M", "/A", "/MM", "/QRP", "/QRPP", "/"});
 }

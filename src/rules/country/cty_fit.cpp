@@ -161,7 +161,7 @@ private:
     }
 
     /// Removes calls of full length that sort before all other prefixes with their first character, unless another prefix gives them
-    /// their country: right after the import its index skips them, and they would not be found until the program is started again.
+    /// their country. The index that the import builds skips such calls, so they would not be found until the program is started again.
     void LeaveOutForemost() {
         std::map<std::string, KeptItem> rows;
         for (const KeptItem& place : places_) {

@@ -3,8 +3,8 @@
 // The text being sent, and the position in it.
 //
 // The stepper walks through the text and returns one element for each dot length (morse_table.h). The elements of a character are
-// separated by one dot length of silence. A character is followed by 3 dot lengths plus the extra silence; a blank is 4 plus the
-// extra silence; the last character is followed by 3 plus the extra silence before the end mark.
+// separated by one dot length of silence. A character is followed by 3 dot lengths of silence plus the extra silence. A blank lasts 4 dot
+// lengths plus the extra silence. At the end of the text, another 3 dot lengths plus the extra silence come before the end mark.
 #pragma once
 
 #include <cstdint>

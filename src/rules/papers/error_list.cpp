@@ -24,7 +24,7 @@ void WriteError(LineSink& list, std::string_view message) {
     list.Write(std::string(kIndent).append("- ").append(message));
 }
 
-/// Whether a figure of a report lies between 1 and `highest`. A missing figure counts as good.
+/// Whether a digit of a report lies between 1 and `highest`. A missing digit counts as good.
 bool IsGoodDigit(std::string_view report, std::size_t number, char highest) {
     return report.size() < number || (report[number - 1] >= '1' && report[number - 1] <= highest);
 }

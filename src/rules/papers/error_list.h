@@ -55,7 +55,7 @@ private:
     Leftovers left_;
 };
 
-/// Writes the message that there is no such log. It is also written if a section breaks off.
+/// Writes the message that there is no such log. The message is also written if a section breaks off because of a failure.
 void WriteLogNotFound(LineSink& list);
 
 /// Writes the line above its first error, unless `QSOShown` says that this has been done. Returns true, the new value for `QSOShown`.

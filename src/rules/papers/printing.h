@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The papers in print: logs, multiplier check sheet, summary and unknown prefixes. Each is read and counted like its file form, with
-// headings and footers for pages.
+// The papers in print: logs, multiplier check sheet, summary and unknown prefixes. The first three are read and counted like the papers
+// that are made as files. Every page has a heading and a footer.
 //
 // A footer fills the last line of its page, so the next text begins a new page by itself.
 #pragma once

@@ -24,12 +24,15 @@ inline constexpr int kEdrRows = 200;
 inline constexpr std::size_t kEdrCall = 6;
 
 struct EDRRec {
+    /// The line of edr.txt.
     FixedText<80> Linje;
     /// Whether it has been worked in the current log. Not stored in any file.
     bool Wkd = false;
 };
 
-/// The six characters that identify a station: the call, cut or padded with blanks.
+/// The six characters that identify a station: the call, cut or padded with blanks. A longer call that begins with those of a listed
+/// station is therefore taken for that station. Keep this: a station that logs a longer form of its listed call would lose the 10 points
+/// (docs/rules.md).
 std::string StationCall(std::string_view call);
 
 /// The list of stations. Only BeginReading and Read change its rows.
