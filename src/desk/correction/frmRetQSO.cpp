@@ -176,7 +176,7 @@ void FrmRetQSO::LogCorrection(const std::string& time) {
     Contact contact;
     contact.multiplier = NoteCountry(call, MarkAction::Mark);
     NoteStation(desk().gsCall, MarkAction::Mark);
-    // The station was looked up by six characters, and gsCall shows these six from now on.
+    // The station was looked up by the first six characters of its call; from now on gsCall holds only these.
     desk().gsCall = StationCall(desk().gsCall);
     NotePoints(call);
     const double point = NumericValue(pointBox.Text());
@@ -208,6 +208,8 @@ void FrmRetQSO::LogCorrection(const std::string& time) {
     contact.date = dateField.Text();
     const std::string line = QsoLine(contact, desk().gsMode);
 
+    // Unlike a new contact, a corrected one keeps the points that the operator chose, even for an unknown prefix, and each correction
+    // adds a line to ukendt.txt. Keep this: whoever looks into the unknown prefixes takes the last line of a contact (docs/rules.md).
     if (ShownCountry(call).unknown) GemUkendt(line);
     desk().log.Replace(static_cast<std::size_t>(frmMain->log.ListIndex()), line);
     desk().log.AddPoints(desk().giQSOPoint);

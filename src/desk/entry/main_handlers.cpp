@@ -133,7 +133,7 @@ void EntryForm::Form_Load() {
     ResetQSO();
     up = true;
     if (desk().gbVisInfo) VisStartInfo();
-    // Started a second time, so that the time spent loading does not delay its first tick.
+    // Start the clock a second time: the wait for its first tick was computed before the load, which may have taken a while.
     if (desk().gbAutoTid == 1) TimerStart();
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// From the entry form to the log: runs the checks in their fixed order, writes the line to the disk, the log and the counters, and
-// prepares the form for the next contact.
+// Takes a contact from the entry form into the log: runs the checks in their fixed order, writes the line to the file and to the log in
+// memory, updates the counters, and prepares the form for the next contact.
 #pragma once
 
 #include <string>

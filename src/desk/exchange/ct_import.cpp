@@ -31,7 +31,7 @@ constexpr Field kCtCall{36, 12};
 constexpr Field kCtReportReceived{49, 3};
 constexpr Field kCtNumberReceived{53, 4};
 
-/// Returns the report received as a log of the current mode holds it: two figures in SSB, three in CW.
+/// Returns the report received as a log of the current mode holds it: two digits in SSB, three in CW.
 std::string ReportReceived(std::string_view line) {
     if (desk().gsMode == "SSB") return LeftAligned(kCtReportReceived.TrimmedOf(line), 2);
     return LeftAligned(kCtReportReceived.Of(line), kReportReceived.width);

@@ -12,7 +12,7 @@
 //   24-27  serial number sent
 //   29-43  call as logged
 //
-// "-" sorts below the figures of the bands, so the line of dashes comes before the contacts of its call.
+// "-" sorts before the digits with which bands begin, so the line of dashes comes before the contacts of its call.
 #pragma once
 
 #include "forms.h"

@@ -109,7 +109,7 @@ inline constexpr LongSetting kVolume{kCw, "Volume", "Volume", 10000, Written::Wh
 inline constexpr ShortSetting kFarnsworth{kCw, "Farnsworth", "Farnsworth", 0, Written::WhenConfirmed};
 /// "001" sends serial numbers with their zeros, "--1" with a T for each leading zero.
 inline constexpr TextSetting kNumberFormat{kCw, "N", "N", "001", Written::WhenConfirmed};
-/// "599" sends the report 599 in figures, "5nn" in its short form. The key "T" is the report, not a text or a time.
+/// "599" sends the report 599 in digits, "5nn" in its short form. The key "T" is the report, not a text or a time.
 inline constexpr TextSetting kReportFormat{kCw, "T", "T", "599", Written::WhenConfirmed};
 /// The texts of the function keys. The window of the keyer's settings offers its own set of default texts, which has two more.
 inline constexpr std::array<TextSetting, 8> kKeyerTexts{{

@@ -61,7 +61,7 @@ void StoreRunningProgram() noexcept {
     auto* main = static_cast<FrmMain*>(frmMain.Peek());
     if (main == nullptr || !main->up) return;
     const SettingsBatch together(platform().settings);
-    // The operators are left out while another handler has file 1 open.
+    // This step fails, and the operators are left out, while another handler has file 1 open.
     Try([main] { GemOperatører(main->operatorBox); });
     const std::vector<Form*>& forms = LoadedForms();
     for (auto form = forms.rbegin(); form != forms.rend(); ++form)

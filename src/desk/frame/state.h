@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The state that the windows of the program share: one object, made anew at each start. A form that needs more than its own controls
-// reads and writes it here, so that this header tells who owns what. The Danish names are those by which operators' notes, settings
-// and scenarios know the values.
+// reads and writes it here, so that this header tells who owns what. The Danish names are those by which operators, settings and
+// scenarios know the values.
 #pragma once
 
 #include <array>
