@@ -48,7 +48,7 @@ struct CtyEntry {
     bool isExactCall = false;
 };
 
-/// Splits a header line. Fails with 5 if a ":" is missing behind name, continent or primary prefix.
+/// Splits a header line. Fails with 5 if there is no ":" after name, continent or primary prefix.
 CtyHeader ReadCtyHeader(std::string_view line);
 
 /// Converts latitude, longitude or UTC offset to a number. Fails with 6 if it is too large.
@@ -58,7 +58,7 @@ float ReadCtyNumber(std::string_view text);
 class CtyEntryReader {
 public:
     CtyEntryReader(std::string_view line, const CtyHeader& header) : line_(line), header_(header) {}
-    /// Whether another item follows. A separator at the end of the line has no item behind it.
+    /// Whether another item follows. No item follows a separator at the end of the line.
     bool HasMore() const { return column_ < line_.size(); }
     /// Returns the next item with its marks. Fails with 5 if neither "," nor ";" follows it.
     std::string_view NextText();

@@ -84,7 +84,7 @@ bool Supported(const KeptItem& place, const KeptItem* fallback) {
     return SameCountry(place, fallback) && !fallback->item->isExactCall && fallback->item->bare.find('/') == std::string::npos;
 }
 
-/// A single run of FitCty. KeptItem points into the countries, which must not move meanwhile.
+/// A single run of FitCty. KeptItem points into the countries, which must not move during the run.
 class Fitting {
 public:
     Fitting(std::vector<CtyCountry> countries, std::size_t room) : countries_(std::move(countries)), room_(room) {}
@@ -273,7 +273,7 @@ std::vector<std::string> CheckCty(const std::vector<CtyCountry>& countries) {
         }
         if (omitted && IsStarred(country))
             errors.push_back("to lande med * efter hinanden: " + ToUtf8(country.prefix) + " bliver taget med");
-        // The import recognises the header behind an omitted country by the ":" at its end.
+        // The import recognises the header after an omitted country by the ":" at its end.
         if (omitted && !country.header.ends_with(':'))
             errors.push_back("overskriften efter et land med * slutter ikke med ':': " + ToUtf8(country.header));
         omitted = false;

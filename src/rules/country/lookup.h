@@ -61,7 +61,7 @@ public:
         bool changed = false;
         /// The country's prefix, ten characters, if the action took effect; otherwise empty. Points into the row of the tables.
         std::string_view prefix;
-        /// The points that the country decides, as CountryPoints gives them, whatever the action.
+        /// The result of CountryPoints for the call. It does not depend on the action.
         std::optional<std::int32_t> points;
     };
     /// Finds the country of a call and applies the action to its mark. If there is no country, nothing changes.

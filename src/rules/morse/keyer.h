@@ -53,11 +53,11 @@ public:
     /// too high or negative, with 6 if the tone is too loud for 16 bits; do not call Fill after a failure.
     void MakePieces(std::int16_t pitch, std::int32_t volume);
 
-    /// Sets the text, which must be expanded and end with a blank, and the extra silence behind each character, in dot lengths. The
-    /// position in the text is kept: a text that is started while another one is sent begins at the character where the old one
-    /// stood. Do not reset it: operators press a second key to change the rest of a text (docs/rules.md).
+    /// Sets the text, which must be expanded and end with a blank, and the extra silence after each character, in dot lengths. The
+    /// position in the text is kept: a text that is started while another one is sent begins at the character where the old one stood. Do
+    /// not reset it: operators press a second key to change the rest of a text (docs/rules.md).
     void SetText(std::string text, std::int16_t extraSilence);
-    /// Clears the present element. Call it at the start of each send, before both halves are filled.
+    /// Clears the current element. Call it at the start of each send, before both halves are filled.
     void Begin();
     /// Makes the next text start from its beginning.
     void ResetPosition() { stepper_.ResetPosition(); }

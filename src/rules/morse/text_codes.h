@@ -32,8 +32,8 @@ struct CodeValues {
 };
 
 /// Returns the text to be sent: in upper case, with the codes replaced and a blank at its end. Values are inserted as they are; codes
-/// inside them are replaced too. If no code follows a "#", or the code occurs inside its own value, only the "#" is dropped and the
-/// text continues behind it, so expansion always ends.
+/// inside them are replaced too. If no code follows a "#", or the code occurs inside its own value, only the "#" is dropped and the text
+/// continues after it, so the expansion always ends.
 std::string DanCWTekst(std::string_view raw, const CodeValues& values);
 
 }  // namespace vatro

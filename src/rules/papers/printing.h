@@ -29,7 +29,7 @@ void PrintKrop(LineSource& lines, PageSink& pages, const PaperContext& context, 
 void PrintMult(PageSink& pages, const PaperContext& context, const Multipliers& multipliers);
 
 /// Prints the rows of the summary, without heading and footer. The number of log sheets is given as the current page number, which is
-/// right if the summary is printed behind the logs in one job.
+/// right if the summary is printed after the logs in one job.
 void PrintSheet(PageSink& pages, const PaperContext& context, const Tally& tally);
 
 /// Prints the lines of the contacts with unknown prefixes. The caller prints the heading of the first page and the footer of the last
