@@ -62,7 +62,7 @@ private:
     std::vector<std::string> panels_;
 };
 
-/// Properties of a menu entry besides its caption.
+/// Properties of a menu entry other than its caption.
 struct MenuLook {
     /// For example "Ctrl+F1"; empty if there is none.
     std::string_view shortcut = {};

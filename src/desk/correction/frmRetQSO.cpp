@@ -172,7 +172,7 @@ void FrmRetQSO::TakeCorrection() {
 
 void FrmRetQSO::LogCorrection(const std::string& time) {
     const std::string call = fields[kCallField].Text();
-    // Computes the multiplier anew; the text of multiplierField is not used.
+    // The multiplier is computed again; the text of multiplierField is not used.
     Contact contact;
     contact.multiplier = NoteCountry(call, MarkAction::Mark);
     NoteStation(desk().gsCall, MarkAction::Mark);

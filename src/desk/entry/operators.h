@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The operators, who take turns. The box lists the known operators and has a field to type a new one. The list is stored in
-// operator.txt in gsFDLib, one operator per line, of which the first six characters count. New names are added at the end; names can
-// be deleted only in the file.
+// The operators, who take turns. The box lists the known operators and has a field to type a new one. The list is stored in operator.txt
+// in gsFDLib, one operator per line; only the first six characters of a line are used. New names are added at the end; names can be
+// deleted only in the file.
 #pragma once
 
 #include <string>

@@ -60,7 +60,7 @@ bool LogExists(const std::string& path, std::string& band, std::string& mode) {
         MsgBox(exists);
         return true;
     } catch (const RunTimeError&) {
-        // The failure may be a missing log or any other; they are not told apart.
+        // Any failure is taken for a missing log; see the header.
         return false;
     }
 }

@@ -30,9 +30,8 @@ void ImportCtFromMenu();
 void ImporterCt(const std::string& path);
 
 /// Logs one contact line with the operator "CT-IMP", without asking anything; giQSOnr becomes its serial number. An unknown prefix counts
-/// 0 points and is not written to ukendt.txt. The line has the columns of every other log line, whatever columns the CT line has. A
-/// contact without a call is logged too, with the 3 points of a European station. Fails with 13 if the date is invalid, and with 6 if the
-/// serial number sent exceeds 16 bits; no line is logged then.
+/// 0 points and is not written to ukendt.txt.  A contact without a call is logged too, with the 3 points of a European station. Fails
+/// with 13 if the date is invalid, and with 6 if the serial number sent exceeds 16 bits; no line is logged then.
 void ImportQSO(std::string_view line);
 
 }  // namespace vatro

@@ -9,9 +9,8 @@ namespace vatro {
 /// Resets everything that the program holds in memory, so that a run starts without leftovers of an earlier one.
 void ResetAll();
 
-/// Reads the general settings, refuses to run as a second copy, loads the country table, the prefix table and the list of the
-/// society's stations behind the splash window, and loads the main form, which does the rest. To be dispatched once, after
-/// BeginProgram.
+/// Reads the general settings, refuses to run as a second copy, loads the country table, the prefix table and the list of the society's
+/// stations while the splash window is shown, and loads the main form, which does the rest. Dispatch it once, after BeginProgram.
 void StartProgram();
 
 /// Shows the message that the program is running already.

@@ -115,7 +115,7 @@ void FrmCW::cmdOK_Click() {
     cw.gsCWNummerFormat = numberOptions[0].Value() ? kNumberWithZeros : kNumberWithT;
 
     GemCWIndstillinger();
-    // The equipment cannot be changed here, but it is stored with every OK all the same.
+    // The equipment is stored too, although it cannot be changed here.
     GemUdstyr();
     SetCwMenuTekster();
     Unload();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Loads the tables of the program behind the splash window at the start. Any failure is shown in a box, and the program continues
-// with the rows read so far.
+// Loads the tables of the program at the start, while the splash window is shown. Any failure is shown in a box, and the program
+// continues with the rows read so far.
 #pragma once
 
 namespace vatro {
