@@ -69,7 +69,7 @@ struct Contact {
 
 /// Formats a contact for a log of this mode; in an SSB log a report has two digits and a blank. Call, multiplier, operator and QSO mode
 /// are padded or cut to the width of their fields; the other texts must fit their fields. A serial number above 9999 shifts the rest of
-/// the line to the right.
+/// the line to the right. Do not cut it: it would be wrong without anybody seeing it (docs/rules.md).
 std::string QsoLine(const Contact& contact, std::string_view logMode);
 
 }  // namespace vatro

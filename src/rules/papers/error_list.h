@@ -4,8 +4,8 @@
 // editors before the logs are sent in. No log is changed.
 //
 // All texts are trimmed of blanks on both sides before they are checked. Two of the rules for the received number test the received
-// report once more, so a wrong number is never found. Do not correct this: operators compare two error lists of one log and expect
-// the same lines (docs/rules.md).
+// report once more, so a wrong number is never found; and a duplicate is listed even if its line marks it as one. Do not correct this:
+// operators compare two error lists of one log and expect the same lines (docs/rules.md).
 #pragma once
 
 #include <cstdint>
