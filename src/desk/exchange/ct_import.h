@@ -29,9 +29,10 @@ void ImportCtFromMenu();
 /// with 52 if the CT file cannot be opened and none is open from an earlier import.
 void ImporterCt(const std::string& path);
 
-/// Logs one contact line with the operator "CT-IMP", without asking anything; giQSOnr becomes its serial number. An unknown prefix counts
-/// 0 points and is not written to ukendt.txt.  A contact without a call is logged too, with the 3 points of a European station. Fails
-/// with 13 if the date is invalid, and with 6 if the serial number sent exceeds 16 bits; no line is logged then.
+/// Logs one contact line with the operator "CT-IMP", without asking anything; giQSOnr becomes its serial number. A contact with an
+/// unknown prefix counts as many points as one that is entered, but is not written to ukendt.txt: that file names only contacts made at
+/// this desk, and the import of an old log would fill it (docs/rules.md).  A contact without a call is logged too, with the 3 points of a
+/// European station. Fails with 13 if the date is invalid, and with 6 if the serial number sent exceeds 16 bits; no line is logged then.
 void ImportQSO(std::string_view line);
 
 }  // namespace vatro

@@ -2,9 +2,9 @@
 //
 // Everything that the program keeps from one run to the next, apart from logs and tables: one row for each setting.
 //
-// A row has the section in the store, the key to read, the key to write, the default for a missing key, the type, and when the
-// setting is written. The store ignores the case of keys. Each key is written exactly as its row spells it, since operators see it in
-// the settings file. Reading writes nothing.
+// A row has the section in the store, the key to read, the key to write, the default for a missing key, the type, and when the setting is
+// written. The store ignores the case of keys, so a key that is read and written in two spellings is one key. Do not make the spellings
+// equal: operators see them in the settings file, and the settings of earlier versions have them (docs/rules.md). Reading writes nothing.
 #pragma once
 
 #include <array>
