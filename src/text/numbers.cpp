@@ -119,7 +119,8 @@ Integer Rounded(double value) {
     return static_cast<Integer>(rounded);
 }
 
-/// Fast path: the value of a short text of a sign, digits with at most one point, and blanks. Returns nothing for any other text.
+/// Fast path: the value of a short text that has nothing but a sign, digits with at most one point, and blanks. Returns nothing for any
+/// other text.
 std::optional<double> ShortNumber(std::string_view text) {
     if (text.size() > kSurelyFits) return std::nullopt;
     int digits = 0;
