@@ -56,8 +56,8 @@ public:
         const auto found = items_.find(prefix);
         return found == items_.end() ? nullptr : &found->second;
     }
-    /// The item that decides the country of this call once its own row is gone: the longest other prefix that begins the country
-    /// text, or nullptr.
+    /// The item that decides the country of this call once its own row is gone: that of the longest other prefix with which the country
+    /// text begins, or nullptr.
     const KeptItem* Fallback(const CtyItem& item) const {
         const std::string text = CountryText(item);
         for (std::size_t length = std::min(text.size(), kPrefixLength) + 1; length-- > 0;)
