@@ -219,7 +219,7 @@ void FrmRetQSO::LogCorrection(const std::string& time) {
 
 namespace {
 
-/// Withdraws a contact from points and marks before it is corrected.
+/// Takes a contact out of the points and the worked marks before it is corrected.
 void Withdraw(FrmRetQSO& form) {
     const std::string& call = form.fields[kCallField].Text();
     if (!call.empty() && !form.multiplierField.Text().empty() && form.multiplierField.Text() != kDupeMark)

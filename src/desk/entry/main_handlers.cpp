@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The handlers of the entry form: of its fields, of its load and its end. Those of the menu are in menu_clicks.cpp.
+// The handlers of the entry form for its fields, its load and its end. Those of the menu are in menu_clicks.cpp.
 #include "call/call_analysis.h"
 #include "correction/frmRetQSO.h"
 #include "entry/clock.h"

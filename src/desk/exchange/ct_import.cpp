@@ -43,7 +43,8 @@ std::string DateOf(std::string_view line) {
     return FormatDate(*date);
 }
 
-/// Opens the CT file and reads its head. If there is a log of its band and mode already, says so and returns true.
+/// Opens the CT file and reads its head; the file stays open. If there is a log of its band and mode already, shows a message and returns
+/// true.
 bool LogExists(const std::string& path, std::string& band, std::string& mode) {
     Files& files = platform().files;
     try {

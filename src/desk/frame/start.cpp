@@ -87,8 +87,8 @@ void StartProgram() {
 
     if (desk().gsFDLib.empty()) {
         desk().gsFDLib = platform().files.CurrentDirectory();
-        // Written under another key than the one read above, which gets the value at a regular end. Keep both: settings of earlier
-        // versions have them (docs/rules.md).
+        // This key is not the one that is read above; that one is written at a regular end. Keep both: settings of earlier versions have
+        // them (docs/rules.md).
         StoreSetting(setting::kFirstTablesDirectory, desk().gsFDLib);
     }
 
