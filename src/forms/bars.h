@@ -39,6 +39,7 @@ public:
     std::function<void(int index)> ButtonClick;
 
     // Called by the front.
+    /// The user has pressed a button: shows it as pressed and runs ButtonClick. Does nothing if the toolbar is disabled.
     void UserPressed(int index);
 
 private:
@@ -52,16 +53,16 @@ public:
     ReadOnlyControlKind Kind() const override { return this; }
     StatusBar(Form& form, std::string_view name, std::vector<std::string> panels) : Control(form, name), panels_(std::move(panels)) {}
     const std::vector<std::string>& Panels() const { return panels_; }
-    /// The panel must exist, here and in SetPanel.
+    /// The text of a panel. The panel must exist.
     const std::string& Panel(std::size_t number) const { return panels_.at(number - 1); }
-    /// Shows a text in a panel.
+    /// Shows a text in a panel, which must exist.
     void SetPanel(std::size_t number, std::string_view text);
 
 private:
     std::vector<std::string> panels_;
 };
 
-/// Properties of a menu entry besides its caption.
+/// Properties of a menu entry other than its caption.
 struct MenuLook {
     /// For example "Ctrl+F1"; empty if there is none.
     std::string_view shortcut = {};
@@ -69,7 +70,7 @@ struct MenuLook {
     bool separator = false;
 };
 
-/// An entry of the menu bar or of a menu. The form builds its entries into a tree.
+/// An entry of the menu bar or of a menu. The entries of a form make up a tree.
 class MenuItem : public Control {
 public:
     ControlKind Kind() override { return this; }

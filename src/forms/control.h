@@ -60,8 +60,8 @@ enum class Aspect {
 /// Anything with a name on a form.
 class Control {
 public:
-    /// The name is text of the code page, like all text of the logic. `index` is the position in an indexed array of controls, or
-    /// -1.
+    /// The name is text of the code page, like all text of the logic. `index` is the position in an array of controls with the same name,
+    /// or -1 for a control of its own.
     Control(Form& form, std::string_view name, int index = -1);
     virtual ~Control() = default;
     Control(const Control&) = delete;
@@ -89,9 +89,9 @@ public:
     virtual bool TabStop() const { return TakesFocus() && tabStop_; }
     void SetTabStop(bool stop) { tabStop_ = stop; }
 
-    /// Moves the focus here: at once runs LostFocus of the control that had it, then GotFocus of this one. Runs neither if this
-    /// control already has the focus. Makes its form the active one. Fails with 5 if the control or its form is disabled or not
-    /// shown.
+    /// Moves the focus to this control and makes its form the active one. Runs LostFocus of the control that had the focus, then GotFocus
+    /// of this one, before it returns; runs neither if this control already has the focus. Fails with 5 if the control cannot take the
+    /// focus, is disabled or hidden, or if its form is not shown.
     void SetFocus();
     bool HasFocus() const;
 
@@ -104,7 +104,8 @@ public:
     /// The upper-case letter that activates the control together with Alt, or 0.
     virtual char AccessLetter() const { return 0; }
 
-    /// Set by the front that shows the control. Called with what has changed and, where it concerns one row of a list, the row.
+    /// Set by the front that shows the control. Called with what has changed and with the row of the list or the number of the panel that
+    /// has changed; -1 if the change concerns the whole control.
     std::function<void(Aspect, int row)> mirror;
 
     // Called by the front.

@@ -136,7 +136,8 @@ private:
     Range range_;
 };
 
-/// Ticks through the clock service: every Interval milliseconds while the timer is enabled and its interval is above 0.
+/// Ticks through the clock service: every Interval milliseconds while the timer is switched on and its interval is above 0. It does not
+/// matter whether the control is enabled.
 class Timer : public Control, public Ticker {
 public:
     ControlKind Kind() override { return this; }
@@ -147,7 +148,8 @@ public:
     /// The next tick is due one interval from now.
     void SetInterval(int milliseconds);
     bool Running() const override { return running_ && interval_ > 0; }
-    /// Switches the timer on or off. Its next tick is due one interval from now.
+    /// Switches the timer on or off. Switched on, it ticks for the first time one interval from now. Does nothing if it is in that state
+    /// already.
     void SetRunning(bool running);
 
     /// Runs at each tick.

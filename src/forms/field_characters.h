@@ -2,8 +2,8 @@
 //
 // Which characters a field accepts from the user, by key or by paste.
 //
-// The forms themselves filter keys only. On the desktop, pasted text goes through the filter too, because the log would read a
-// pasted received number "1E9" as a thousand million and shift the columns of its line.
+// The forms themselves filter keys only. On the desktop, pasted text goes through the filter too: without it, a received number "1E9"
+// that is pasted would be logged as 1000000000 and shift the columns of its line.
 #pragma once
 
 #include <string_view>

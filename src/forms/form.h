@@ -53,7 +53,7 @@ public:
     void MoveTo(int left, int top) { Place(left, top, width_, height_); }
     void SetWidth(int width) { Place(left_, top_, width, height_); }
     void SetHeight(int height) { Place(left_, top_, width_, height); }
-    /// Size of the area inside the frame. A window's stored size is the size of this area, so both are equal.
+    /// Size of the area inside the frame. Width and Height give the same size, because they do not include the frame.
     int ScaleWidth() const { return width_; }
     int ScaleHeight() const { return height_; }
     WindowState State() const { return state_; }
@@ -71,7 +71,7 @@ public:
     void ShowModal();
     /// Hides the form but keeps its contents. When a modal form is shown again, the focus starts at its first control.
     void Hide();
-    /// Runs Form_QueryUnload and Form_Unload and removes the form; its next use loads it again.
+    /// Runs Form_QueryUnload, which may keep the form loaded, then Form_Unload, and removes the form; its next use loads it again.
     void Unload();
     /// Makes a shown form the active one; the focus returns to the control that had it. Fails with 5 if the form is not shown.
     void SetFocus();
@@ -159,7 +159,7 @@ private:
     bool entered_ = false;
 };
 
-/// Holds one form of the program, loaded or not. It has the form's name and is used like a pointer to the form.
+/// Holds one form of the program, loaded or not, and loads it. It has the form's name.
 class FormSlotBase {
 public:
     FormSlotBase(std::string_view name, std::function<std::unique_ptr<Form>()> make);
@@ -186,7 +186,8 @@ private:
     std::function<std::unique_ptr<Form>()> make_;
 };
 
-/// The slot of a form of class F. Declared after the class, as the program's single variable for this form.
+/// The slot of a form of class F, used like a pointer to the form. It is declared after the class, as the program's single variable for
+/// this form.
 template <class F>
 class FormSlot : public FormSlotBase {
 public:

@@ -44,9 +44,9 @@ public:
     unsigned Revision() const { return revision_; }
     /// Changes the text of a row, which keeps its position even in a sorted list. Fails with 5 if there is no such row.
     void SetList(int row, std::string_view text);
-    /// The selection stays on the same item.
+    /// Adds a row at the place that ListOrder gives it. The selection stays on the same item.
     void AddItem(std::string text);
-    /// Fails with 5 if there is no such row. The selection stays on the same item, or is cleared if that item is removed.
+    /// Removes a row. The selection stays on the same item, or is cleared if that item is removed. Fails with 5 if there is no such row.
     void RemoveItem(int row);
     void Clear();
 
@@ -60,7 +60,8 @@ public:
     /// All rows are gone.
     void OwnerCleared();
 
-    /// Suspends the mirror during a series of changes; a guard object for use inside one procedure.
+    /// Suspends the mirror while rows are added or removed; a guard object for use inside one procedure. The mirror is told once, when
+    /// the outermost guard is destroyed.
     class Filling {
     public:
         explicit Filling(ListBox& list);
@@ -82,6 +83,7 @@ public:
     std::function<void()> DblClick;
 
     // Called by the front.
+    /// The user has selected a row: selects it unless it is selected already. Does nothing if there is no such row.
     void UserSelected(int row);
     void UserDoubleClicked(int row);
 
@@ -115,13 +117,14 @@ public:
 
     const std::vector<std::string>& Items() const { return items_; }
     int ListCount() const { return static_cast<int>(items_.size()); }
+    /// Fails with 5 if there is no such row.
     const std::string& List(int row) const;
     void AddItem(std::string text);
     /// Removes the items and the text; runs Change if there was any text.
     void Clear();
     int ListIndex() const { return listIndex_; }
-    /// Takes the item as the text without running Change, then runs Click; -1 keeps the text. Fails with 5 if there is no such
-    /// row.
+    /// Selects the row, takes its item as the text without running Change, then runs Click. -1 clears the selection, keeps the text and
+    /// runs Click too. Fails with 5 if there is no such row.
     void SetListIndex(int row);
 
     // Called by the front.

@@ -45,7 +45,7 @@ public:
 
     // Called by the front.
 
-    /// How many characters a key or a paste may still insert in place of the selection; never below 0.
+    /// How many characters a key or a paste may still insert in place of the selection; the largest std::size_t if there is no limit.
     std::size_t Room() const;
     /// Replaces the selection by the text, as far as there is room, and puts the caret after it, as a key or a paste does. Only
     /// the first line of the text is used, because a field has one line.

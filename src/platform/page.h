@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The page surface: text placed at positions on the pages of a print job. All measures are in the unit of the device, which is
-// points in both fronts.
+// The page surface: text placed at positions on the pages of a print job. All measures are in the unit of the device; on the desktop and
+// in scenarios that is the point.
 #pragma once
 
 #include <string_view>
@@ -21,7 +21,7 @@ public:
     virtual double TextWidth(std::string_view text, const Font& font) const = 0;
     /// Height of one line.
     virtual double TextHeight(const Font& font) const = 0;
-    /// Begins a job on its first page.
+    /// Begins a job, at its first page.
     virtual void BeginJob() = 0;
     /// Draws the text with its upper left corner at (x, y).
     virtual void Place(double x, double y, const Font& font, std::string_view text) = 0;

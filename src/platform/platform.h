@@ -37,14 +37,15 @@ struct MessageBox {
 struct FileDialog {
     std::string title;
     std::string fileName;
-    /// Pairs of a description and its patterns. Everything is separated by "|", several patterns of one pair by ";".
+    /// Pairs of a description and its patterns, as in "Logs|*.txt;*.log|Pictures|*.png": "|" separates descriptions and patterns, ";" the
+    /// patterns of one pair.
     std::string filter;
     std::string defaultExtension;
     /// In a dialogue for saving: ask before overwriting an existing file.
     bool overwritePrompt = false;
     bool fileMustExist = false;
-    /// The file only marks the directory that is wanted. A front may let the user choose a directory instead and return the path
-    /// of a file of this name in it. It does not ask about overwriting then, whatever the file contains.
+    /// The caller wants a directory, and the file is only a marker in it. A front may let the user choose a directory instead; it then
+    /// returns the path of `fileName` in that directory and does not ask about overwriting, even if the file exists.
     bool markerFile = false;
 };
 
@@ -52,12 +53,13 @@ struct FileDialog {
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
-    /// Returns the answer once the box is closed. Closing it without an answer counts as No, or as OK if there is no No.
+    /// Shows the box and returns the answer once it is closed. If the user closes it without pressing a button, the answer is No in a
+    /// Yes/No box and Ok in any other.
     virtual Answer Show(const MessageBox& box) = 0;
-    /// Returns the full path that the user chose. Fails with Failure::Cancelled.
+    /// Asks for the path of a file, to save or to open, and returns the full path. Fails with Failure::Cancelled if the user cancels.
     virtual std::string SaveFile(const FileDialog& dialog) = 0;
     virtual std::string OpenFile(const FileDialog& dialog) = 0;
-    /// Lets the user choose the printer and its paper, for all later jobs. Fails with Failure::Cancelled.
+    /// Lets the user choose the printer and its paper, for all later jobs. Fails with Failure::Cancelled if the user cancels.
     virtual void SetUpPrinter() = 0;
     /// Shows the system's box for an uncaught run-time failure; the program ends after it.
     virtual void ShowFailure(const RunTimeError& failure) = 0;
@@ -114,8 +116,8 @@ public:
     virtual void Delete(std::string_view path) = 0;
     /// Renames the file. Fails with 58 if `to` exists. The new name is on disk on return.
     virtual void Rename(std::string_view from, std::string_view to) = 0;
-    /// Replaces the file `name` by the file `copy`. Works as a deletion followed by a renaming, and fails like both, so `name`
-    /// must exist. A disk that can do this in one step may override it.
+    /// Replaces the file `name` by the file `copy`: deletes `name`, then renames `copy`. Fails as Delete and Rename do, so `name` must
+    /// exist. An implementation that can do this in one step overrides it.
     virtual void Replace(std::string_view copy, std::string_view name) {
         Delete(name);
         Rename(copy, name);
@@ -136,8 +138,8 @@ public:
     virtual DateTime Now() = 0;
     /// Seconds since local midnight, including fractions.
     virtual double SecondsSinceMidnight() = 0;
-    /// To be called when the ticker has been switched on or off or its interval has changed. Its next tick is due one interval
-    /// from now, or never if it is off. A ticker must be switched off before it is destroyed.
+    /// Call this after switching a ticker on or off or changing its interval. The next tick is due one interval from now; a ticker that
+    /// is off does not tick. Switch a ticker off before destroying it.
     virtual void Schedule(Ticker& ticker) = 0;
 };
 

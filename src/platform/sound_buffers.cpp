@@ -47,7 +47,7 @@ private:
     std::shared_ptr<SoundThread> thread_;
     std::shared_ptr<SoundRing> ring_;
     int player_ = 0;
-    /// Changes with each Stop and each move. Only used on the program's thread.
+    /// The number of the current run; see SoundPlayer. Only used on the program's thread.
     std::shared_ptr<unsigned> run_ = std::make_shared<unsigned>(0);
 };
 

@@ -2,8 +2,8 @@
 //
 // Tracks how far a looping buffer has been played, and which of its notifications comes next.
 //
-// Every sound card of the platform uses this class, so that all of them notify at the same sample. Counts are in samples since
-// playback began.
+// The sound cards of the desktop and of the scenarios both use this class, so that they notify at the same sample. Counts are in samples
+// since playback began.
 #pragma once
 
 #include <cstddef>

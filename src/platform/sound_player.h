@@ -62,7 +62,8 @@ public:
     void SetPositions(std::span<const PositionNotification> positions) { course_.SetPositions(positions); }
     /// Continues at this sample and drops samples that were handed over but not heard yet. Starts the run with this number.
     void MoveTo(long long sample, unsigned run);
-    /// `asked` is when the program requested playback.
+    /// Plays in a loop, starting at the current position. Does nothing if it is already playing. `asked` is when the program requested
+    /// this; it is passed on to the stream's log.
     void Play(Clock::time_point asked);
     /// Stops at once; the position is kept. Starts the run with this number.
     void Stop(unsigned run);
@@ -73,7 +74,7 @@ private:
     bool FillStream();
     void Feed();
     void TellPassings();
-    /// Samples heard since playback began.
+    /// Number of samples heard since playback began. Without a device, the number that would have been heard in the time since then.
     long long Heard();
     /// How long playback has been running without a device.
     std::chrono::milliseconds Unheard() const;
@@ -85,7 +86,7 @@ private:
     SoundCourse course_;
     unsigned run_ = 0;
     bool playing_ = false;
-    /// Samples handed over since playback began, and how many of them are known to have been heard.
+    /// Numbers of samples since playback began: those handed over, and the last result of Heard.
     long long handed_ = 0;
     long long heard_ = 0;
     /// When playback began, or when it continued without a device.

@@ -18,7 +18,7 @@ class SoundPlayer;
 /// A thread that runs posted tasks. All members are called on the program's thread only.
 class SoundLoop {
 public:
-    /// By now the thread has ended or has been abandoned.
+    /// Destroy the loop only after End, or if Start was never called.
     virtual ~SoundLoop() = default;
     /// Starts the thread; call once. `atEnd` runs on the thread after all other tasks, and no posted task runs after it.
     virtual void Start(std::function<void()> atEnd) = 0;
@@ -29,7 +29,8 @@ public:
     virtual bool End(std::chrono::milliseconds patience) = 0;
 };
 
-/// All members are called on the program's thread only.
+/// The sound thread and the players on it. The thread starts with the first Await or AddPlayer. All members are called on the program's
+/// thread only.
 class SoundThread {
 public:
     explicit SoundThread(std::unique_ptr<SoundLoop> loop);

@@ -9,7 +9,8 @@ namespace {
 
 constexpr char32_t kFaulty = 0xFFFFFFFF;
 
-/// Removes one character from the front of `utf8` and returns it. Of an invalid sequence, removes one byte and returns kFaulty.
+/// Removes one character from the front of `utf8` and returns it. If the sequence is invalid, removes only its first byte and returns
+/// kFaulty.
 char32_t NextCodePoint(std::string_view& utf8) {
     const auto lead = static_cast<unsigned char>(utf8.front());
     utf8.remove_prefix(1);

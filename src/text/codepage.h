@@ -2,9 +2,9 @@
 //
 // Single-byte text in code page 1252, as used by the logs, the tables and the whole program.
 //
-// One column is one byte, and comparison is by byte. Only the fronts convert to and from Unicode. Literals with Danish letters are
-// written in UTF-8 in the sources and converted at compile time by the operator _t; a character outside the code page does not
-// compile.
+// One column of a log is one byte, and texts are compared byte by byte. Text is converted to or from Unicode only where it leaves the
+// logic: on screen, in the settings file, in file names and in the input of the tools. Literals with Danish letters are written in UTF-8
+// in the sources and converted at compile time by the operator _t; a character outside the code page does not compile.
 #pragma once
 
 #include <array>

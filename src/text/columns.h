@@ -13,7 +13,8 @@
 
 namespace vatro {
 
-/// `count` columns of `line`, starting at column `from` (counted from 1). Shorter or empty if the line ends earlier.
+/// `count` columns of `line`, starting at column `from`, which must be at least 1. The result is shorter or empty if the line ends
+/// earlier.
 constexpr std::string_view Columns(std::string_view line, std::size_t from, std::size_t count = std::string_view::npos) {
     return from > line.size() ? std::string_view{} : line.substr(from - 1, count);
 }

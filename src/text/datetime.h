@@ -42,11 +42,11 @@ long long Milliseconds(const DateTime& moment);
 /// The weekday, from 0 for Monday to 6 for Sunday.
 int Weekday(const DateTime& moment);
 
-/// "Hh:Nn": hours and minutes with two digits each.
+/// Formats a time as "Hh:Nn": hours and minutes with two digits each, as in "09:05".
 std::string FormatTime(int hour, int minute);
 /// Formats the date as "dd-mm-yy".
 std::string FormatDate(const DateTime& moment);
-/// Formats the date by a pattern in which "dd", "mm", "yy" and "yyyy" are replaced; other characters are copied.
+/// Formats the date by a pattern: "dd", "mm", "yy" and "yyyy" stand for day, month and year; other characters are copied.
 std::string FormatDate(const DateTime& moment, std::string_view pattern);
 
 /// Parses "Hh:Nn" or "Hh:Nn:Ss". Each number has one or two digits and may have blanks around it. Returns nothing if the text is

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Run-time failures, identified by number. Each procedure catches the failures that its rules name. Any other failure reaches the
-// event dispatcher, which shows the system's error box and ends the program.
+// Run-time failures, identified by number. A procedure catches the failures that it can handle. Any other failure reaches the event
+// dispatcher, which shows the system's error box and ends the program.
 #pragma once
 
 #include <exception>
@@ -9,7 +9,7 @@
 
 namespace vatro {
 
-/// The failure numbers.
+/// The failures and their numbers. Comments in the sources name a failure by its number, and some messages show it to the operator.
 enum class Failure : int {
     InvalidCall = 5,
     Overflow = 6,

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Streams of lines. A rule reads its lines from a LineSource and writes them to a LineSink; its caller decides whether that is a
-// file, a list in memory, or something else.
+// Streams of lines. The rules read lines from a LineSource and write lines to a LineSink; their caller decides whether that is a file, a
+// list in memory, or something else.
 #pragma once
 
 #include <string>

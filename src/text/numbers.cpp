@@ -15,9 +15,9 @@ namespace vatro {
 
 namespace {
 
-/// Any number with this many digits fits into 32 bits.
+/// A number with at most this many digits fits into 32 bits.
 constexpr std::size_t kSurelyFits = 9;
-/// Greater than any number with that many digits.
+/// Any number below this has at most that many digits.
 constexpr double kSurelyFitting = 1e9;
 
 constexpr bool IsDigit(char c) {
@@ -100,7 +100,7 @@ Reading Read(std::string_view text) {
     return reading;
 }
 
-/// The value of a text that is a number as a whole, or nothing.
+/// The value of a text that consists of nothing but a number; nothing for any other text.
 std::optional<double> WholeNumber(std::string_view text) {
     const Reading reading = Read(text);
     if (!reading.whole || std::isinf(reading.value)) return std::nullopt;
@@ -122,7 +122,8 @@ Integer Rounded(double value) {
     return static_cast<Integer>(rounded);
 }
 
-/// Fast path: the value of a short text of a sign, digits with at most one point, and blanks. Returns nothing for any other text.
+/// Fast path: the value of a short text that has nothing but a sign, digits with at most one point, and blanks. Returns nothing for any
+/// other text.
 std::optional<double> ShortNumber(std::string_view text) {
     if (text.size() > kSurelyFits) return std::nullopt;
     int digits = 0;

@@ -12,15 +12,14 @@
 
 namespace vatro {
 
-/// The number at the front of a text, or 0 if there is none. Blanks are skipped wherever they stand. Understands a sign, a decimal
-/// point and an exponent. Never fails.
+/// The number at the front of a text, or 0 if there is none. Understands a sign, a decimal point and an exponent ("E" or "D"). Blanks,
+/// tabs and line ends are skipped, even inside the number. A number too large for a double gives infinity. Never fails.
 double NumericValue(std::string_view text);
 
-/// Whether the text consists of nothing but the number that NumericValue would read. False for an empty text, and for a number that
-/// is too large.
+/// Whether NumericValue would read the text to its end. False for an empty text, and for a number that is too large.
 bool IsNumeric(std::string_view text);
 
-/// The value of a text that is a number as a whole. Fails with 13 (type mismatch) if IsNumeric is false.
+/// The value of a text for which IsNumeric is true. Fails with 13 (type mismatch) for any other text.
 double ToNumber(std::string_view text);
 
 /// Rounds to the nearest integer; halves are rounded to the even neighbour. Fails with 6 (overflow) outside the range of the type.
@@ -33,18 +32,18 @@ float ToFloat32(double value);
 /// The integer in plain decimal digits.
 std::string PlainNumber(long long value);
 
-/// The decimal digits after one blank or, for a negative number, after its sign.
+/// The integer in decimal digits, with its minus sign in front or, if it is not negative, a blank.
 std::string NumberText(long long value);
 
 /// The value rounded to an integer, with leading zeros up to at least `digits` digits, as in "0042". A larger number keeps all its
 /// digits. Halves are rounded away from zero. Fails with 6 if the value is not finite.
 std::string ZeroPadded(double value, int digits);
 
-/// ZeroPadded of the number in the text. A text that is not a number is returned unchanged.
+/// The same for the number that the text consists of. A text that is not a number is returned unchanged.
 std::string ZeroPadded(std::string_view text, int digits);
 
-/// Puts a number into a template: each "@" is a place for one character of NumberText, aligned to the right. Other characters of
-/// the template are copied. A number with more characters than places keeps all of them.
+/// Puts a number into a template: each "@" is a place for one character of NumberText, aligned to the right. Other characters of the
+/// template are copied. If the number has more characters than there are places, all of them are kept.
 std::string InTemplate(std::string_view placeholders, long long value);
 
 }  // namespace vatro

@@ -172,11 +172,11 @@ void FrmRetQSO::TakeCorrection() {
 
 void FrmRetQSO::LogCorrection(const std::string& time) {
     const std::string call = fields[kCallField].Text();
-    // Computes the multiplier anew; the text of multiplierField is not used.
+    // The multiplier is computed again; the text of multiplierField is not used.
     Contact contact;
     contact.multiplier = NoteCountry(call, MarkAction::Mark);
     NoteStation(desk().gsCall, MarkAction::Mark);
-    // The station was looked up by six characters, and gsCall shows these six from now on.
+    // The station was looked up by the first six characters of its call; from now on gsCall holds only these.
     desk().gsCall = StationCall(desk().gsCall);
     NotePoints(call);
     const double point = NumericValue(pointBox.Text());
@@ -208,6 +208,8 @@ void FrmRetQSO::LogCorrection(const std::string& time) {
     contact.date = dateField.Text();
     const std::string line = QsoLine(contact, desk().gsMode);
 
+    // Unlike a new contact, a corrected one keeps the points that the operator chose, even for an unknown prefix, and each correction
+    // adds a line to ukendt.txt. Keep this: whoever looks into the unknown prefixes takes the last line of a contact (docs/rules.md).
     if (ShownCountry(call).unknown) GemUkendt(line);
     desk().log.Replace(static_cast<std::size_t>(frmMain->log.ListIndex()), line);
     desk().log.AddPoints(desk().giQSOPoint);
@@ -217,7 +219,7 @@ void FrmRetQSO::LogCorrection(const std::string& time) {
 
 namespace {
 
-/// Withdraws a contact from points and marks before it is corrected.
+/// Takes a contact out of the points and the worked marks before it is corrected.
 void Withdraw(FrmRetQSO& form) {
     const std::string& call = form.fields[kCallField].Text();
     if (!call.empty() && !form.multiplierField.Text().empty() && form.multiplierField.Text() != kDupeMark)

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// The minute clock of the time field.
+// The clock that updates the time field once a minute.
 #pragma once
 
 namespace vatro {
 
-/// Starts the clock and ticks its menu entry. The first tick of the clock comes 100 ms after the next full minute.
+/// Starts the clock and shows its menu entry as switched on. The clock ticks for the first time 100 ms after the next full minute.
 void TimerStart();
-/// Stops the clock and removes the tick of its menu entry.
+/// Stops the clock and shows its menu entry as switched off.
 void TimerStop();
 /// Handles a tick of the clock: shows universal time in the time field; the next tick comes a minute later.
 void TimerTick();

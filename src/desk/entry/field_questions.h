@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Checks the fields of a contact with the operator present: shows messages, asks questions, and rewrites fields in the form in which
-// they are logged. The caller moves the focus to the field at fault.
+// Checks the fields of a contact and tells the operator what is wrong: shows messages, asks questions, and rewrites the time and the
+// number received as they are logged. The caller moves the focus to the field at fault.
 #pragma once
 
 #include <optional>
@@ -22,8 +22,8 @@ bool Accepted(const std::optional<Objection>& objection);
 /// not a time of day.
 std::optional<std::string> AcceptedTime(TextBox& field);
 
-/// Checks reports and numbers in the order of the fields. Returns the field at fault, or nothing. If the operator confirms a nought
-/// as number received, the field becomes "0000".
+/// Checks reports and numbers in the order of the fields. Returns the first field at fault, or nothing. If the operator confirms that the
+/// number received is missing or zero, the field becomes "0000".
 std::optional<ContactField> FieldAtFault(ContactFields& fields);
 
 }  // namespace vatro

@@ -5,7 +5,7 @@
 
 namespace vatro {
 
-// The caption serves as the column heading of the list, hence its blanks.
+// The caption is also the column heading of the list, so its blanks align it with the columns.
 FrmB4::FrmB4()
     : Form("frmB4", FormKind::Tool, "Call check                         QSOnr/modt.     UTC"),
       earlierContacts(*this, "List1", {"Fixedsys", 9}) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The dialogue of the contest call and of the telephone number for the summary.
+// The dialogue for the contest call and for the telephone number on the summary.
 #pragma once
 
 #include "forms.h"
@@ -26,7 +26,7 @@ private:
 
 inline FormSlot<FrmCall> frmCall{"frmCall"};
 
-/// Asks for the contest call and shows the resulting call in the caption of the main form and in the window of the call.
+/// Asks for the contest call, then shows gsMyCall in the caption of the main form and in frmContestCall.
 void ChangeContestCall();
 
 }  // namespace vatro

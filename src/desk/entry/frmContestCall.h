@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The window of the station's own call, in letters that fill the window.
+// The window that shows the station's own call, in letters that fill the window.
 #pragma once
 
 #include "forms.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The entry form, where the operator works. It is driven from the keyboard: the cursor stands in the call field, Space jumps to the
-// received number and back, Enter logs, Esc clears, and function keys change band, change mode and send Morse.
+// The entry form, where the operator works. It is driven from the keyboard: the cursor is in the call field, Space jumps to the received
+// number and back, Enter logs, Esc clears, and function keys change band, change mode and send Morse.
 //
 // This header has only the form, its controls and their texts. The handlers are in main_handlers.cpp and menu_clicks.cpp, the check
 // and logging of the finished entry in validation.h, the clock in clock.h.

@@ -7,8 +7,8 @@
 
 namespace vatro {
 
-/// OK stores the number in giQSOnr and hides the window. A number lower than the present one is refused. An equal one is accepted,
-/// although the message says "større end" (greater than); operators know that message from the handbook.
+/// OK stores the number in giQSOnr and hides the window. A number lower than giQSOnr is refused. An equal one is accepted, although the
+/// message says "større end" (greater than); operators know that message from the handbook (docs/rules.md).
 class FrmNytQSOnr : public Form {
 public:
     FrmNytQSOnr();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The window of the exchange to send - mode and report besides the number, in spite of its name - in letters that fill it. The user
-// sets the height; the width follows the text. The text turns red for a duplicate.
+// The window that shows the exchange to send: mode and report as well as the serial number, although its name says number only. The
+// letters fill the window; the user sets the height, and the width follows the text. For a duplicate it shows a warning on red instead.
 #pragma once
 
 #include "forms.h"

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// The dialogue of the offset from local to universal time.
+// The dialogue for the offset from local to universal time.
 #pragma once
 
 #include "forms.h"
 
 namespace vatro {
 
-/// Offers a list of whole hours; OK stores the choice at once. If the current offset is not in the list, loading the form fails. Here
-/// Command1 is Cancel, while in most forms it is OK.
+/// Offers whole hours from -11 to 12; OK stores the choice at once. If the current offset is not in the list, loading the form fails with
+/// 5. Here Command1 is Cancel, while in most forms it is OK.
 class FrmUTC : public Form {
 public:
     FrmUTC();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Key filters of the fields: characters of a fixed set pass, all others are discarded. Only typed keys are filtered; pasted text is
-// not.
+// Key filters of the fields: characters of a fixed set pass, all others are discarded. On the desktop, pasted text goes through them as
+// well as typed keys (field_characters.h).
 #pragma once
 
 #include <string_view>

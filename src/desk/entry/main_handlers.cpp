@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The handlers of the entry form: of its fields, of its load and its end. Those of the menu are in menu_clicks.cpp.
+// The handlers of the entry form for its fields, its load and its end. Those of the menu are in menu_clicks.cpp.
 #include "call/call_analysis.h"
 #include "correction/frmRetQSO.h"
 #include "entry/clock.h"
@@ -134,7 +134,7 @@ void EntryForm::Form_Load() {
     ResetQSO();
     up = true;
     if (desk().gbVisInfo) VisStartInfo();
-    // Started a second time, so that the time spent loading does not delay its first tick.
+    // Start the clock a second time: the wait for its first tick was computed before the load, which may have taken a while.
     if (desk().gbAutoTid == 1) TimerStart();
 }
 

@@ -2,7 +2,7 @@
 //
 // The menu bar of the entry form. The click handlers are in menu_clicks.cpp.
 //
-// Many names mislead, because a name often tells of another menu than the one its entry is in. Some entries of "&Indstillinger" and
+// Many names mislead, because they contain the name of another menu than the one the entry is in. Some entries of "&Indstillinger" and
 // "&Vis" are called mnuFunktioner..., since the first version of the program had them in "Fun&ktioner". mnuFilePageSetup asks for the
 // printer and its paper, mnuFilePrint is only the submenu of printing, mnuIndstillingerBånd has modes as well as bands, and
 // mnuFunktionerImporterCtAll imports a single log.

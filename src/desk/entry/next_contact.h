@@ -9,9 +9,9 @@ namespace vatro {
 /// default reports and clears the call. Also runs after every load of a log, so that each log continues its own numbers.
 void ResetQSO();
 
-/// Changes band or mode: applies the choice, loads the log that is now the current one, clears the entry and asks whether the
-/// operator stays the same. It does not ask before, and it does all this even if the choice is the current one. This is deliberate: a
-/// half-typed contact is lost, but operators change band in one stroke during a pile-up (docs/rules.md).
+/// Changes band or mode: applies the choice, loads the log that is now the current one, clears the entry and asks whether the operator
+/// stays the same. It does not ask first, and it does all this even if the choice is the current one, so a half-typed contact is lost.
+/// Keep this: when many stations call at once, operators change the band with a single key (docs/rules.md).
 void ChangeBandMode(int index);
 
 }  // namespace vatro

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The operators, who take turns. The box lists the known operators and has a field to type a new one. The list is stored in
-// operator.txt in gsFDLib, one operator per line, of which the first six characters count. New names are added at the end; names can
-// be deleted only in the file.
+// The operators, who take turns. The box lists the known operators and has a field to type a new one. The list is stored in operator.txt
+// in gsFDLib, one operator per line; only the first six characters of a line are used. New names are added at the end; names can be
+// deleted only in the file.
 #pragma once
 
 #include <string>
@@ -29,9 +29,9 @@ void OperatørValgt(const ComboBox& box);
 /// Handles a key in the box: Enter takes the text over as OperatørTjek does, unless it is longer than six characters.
 void OperatørTast(ComboBox& box, KeyCode& KeyAscii);
 
-/// Filters a key in the box: converts it to upper case and lets only the characters of a call pass. Once the text is longer than six
-/// characters every key is discarded, including Enter. A seventh character can therefore be typed. Keep this: otherwise Enter would
-/// log under a name cut short (docs/rules.md).
+/// Filters a key in the box: converts it to upper case and lets only the characters of a call pass. A seventh character can be typed;
+/// once there are seven, every key is discarded, including Enter and Backspace. Keep this: if Enter passed, the contact would be logged
+/// under a name cut to six characters (docs/rules.md).
 void OperatorFilter(const ComboBox& box, KeyCode& KeyAscii);
 
 }  // namespace vatro

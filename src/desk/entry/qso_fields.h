@@ -17,9 +17,9 @@ using ContactFields = TextBox[kFieldCount];
 /// Sets the length limits of the fields.
 void SetFieldLengths(ContactFields& fields);
 
-/// Handles a key in one of the fields. Enter runs `enter`. Esc in the call or the received number empties both, in another field that
-/// field; the number sent is never emptied. Space jumps between call and received number. A key that has been handled is set to
-/// kNoKey.
+/// Handles a key in one of the fields. Enter runs `enter`. Esc empties the field; in the call and in the received number it empties both
+/// and moves to the call. The number sent is never emptied. Space jumps between call and received number. A key that has been handled is
+/// set to kNoKey.
 void HandleFieldKey(ContactFields& fields, int Index, KeyCode& KeyAscii, const std::function<void()>& enter);
 
 /// Filters a key in one of the fields: time, call and received number accept only their own characters, and the call is converted to

@@ -31,7 +31,7 @@ void LogContact(const std::string& time) {
     Contact contact;
     contact.call = main.fields[kCallField].Text();
     contact.multiplier = RateContact(contact.call, state.gsCall);
-    // The station was looked up by six characters, and gsCall shows these six from now on.
+    // The station was looked up by the first six characters of its call; from now on gsCall holds only these.
     state.gsCall = StationCall(state.gsCall);
     contact.time = time;
     contact.reportSent = main.fields[kReportSentField].Text();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// From the entry form to the log: runs the checks in their fixed order, writes the line to the disk, the log and the counters, and
-// prepares the form for the next contact.
+// Takes a contact from the entry form into the log: runs the checks in their fixed order, writes the line to the file and to the log in
+// memory, updates the counters, and prepares the form for the next contact.
 #pragma once
 
 #include <string>
@@ -14,9 +14,9 @@ namespace vatro {
 void ValiderQSO();
 
 /// Rates an accepted contact by its call as logged: marks its country as worked, and the society's station named by the first six
-/// characters of `station`, and sets giQSOPoint. Returns the multiplier. An empty call has no country. A duplicate (gbDupe) has no
-/// points and the multiplier "-DUPE-"; its country is marked and counted all the same. Do not correct this: line and status bar would
-/// differ from another copy of the program (docs/rules.md).
+/// characters of `station`, and sets giQSOPoint. Returns the multiplier. An empty call has no country. A duplicate (gbDupe) has no points
+/// and the multiplier "-DUPE-"; its country is marked and counted nevertheless. Do not correct this: line and status bar would differ
+/// from another copy of the program (docs/rules.md).
 std::string RateContact(std::string_view call, std::string_view station);
 /// Appends the line of the contact to file and log, and adds giQSOPoint to the counters and the status bar.
 void RecordContact(const std::string& line);

@@ -42,7 +42,7 @@ void CopyFile(const std::string& file, const std::string& directory, std::string
                 break;
             case Failure::PermissionDenied:
                 // The message speaks of a floppy even if the target is a directory. Keep it: operators know the messages, and the
-                // handbook quotes them.
+                // handbook quotes them (docs/rules.md).
                 Stands("Disketten er skrivebeskyttet. Fjern skrivebeskyttelsen og foretag Diskettekopi igen."_t, stop);
                 break;
             default:

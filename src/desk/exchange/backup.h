@@ -20,9 +20,9 @@ void BackUpLogs();
 /// The click of "&Diskettekopi": copies the eleven files to drive a:.
 void CopyToDiskette();
 
-/// Copies a file of the log directory over the one in gsBackupLib (on drive a:). If the medium is missing, not ready or protected,
-/// shows a message and sets `stop`, since no other copy can succeed. Any other failure shows its number, and the next file may be
-/// tried. A file that does not exist is not a failure.
+/// Copies a file of the log directory to gsBackupLib (TilBackup) or to drive a: (TilFloppy), replacing an earlier copy. If the medium is
+/// missing, not ready or protected, shows a message and sets `stop`, since no other copy can succeed. For any other failure shows its
+/// number, and the next file may be tried. Clears `stop` after a copy. A file that does not exist is not a failure.
 void TilBackup(const std::string& file, bool& stop);
 void TilFloppy(const std::string& file, bool& stop);
 

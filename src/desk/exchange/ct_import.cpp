@@ -31,7 +31,7 @@ constexpr Field kCtCall{36, 12};
 constexpr Field kCtReportReceived{49, 3};
 constexpr Field kCtNumberReceived{53, 4};
 
-/// Returns the report received as a log of the current mode holds it: two figures in SSB, three in CW.
+/// Returns the report received as a log of the current mode holds it: two digits in SSB, three in CW.
 std::string ReportReceived(std::string_view line) {
     if (desk().gsMode == "SSB") return LeftAligned(kCtReportReceived.TrimmedOf(line), 2);
     return LeftAligned(kCtReportReceived.Of(line), kReportReceived.width);
@@ -43,7 +43,8 @@ std::string DateOf(std::string_view line) {
     return FormatDate(*date);
 }
 
-/// Opens the CT file and reads its head. If there is a log of its band and mode already, says so and returns true.
+/// Opens the CT file and reads its head; the file stays open. If there is a log of its band and mode already, shows a message and returns
+/// true.
 bool LogExists(const std::string& path, std::string& band, std::string& mode) {
     Files& files = platform().files;
     try {
@@ -60,7 +61,7 @@ bool LogExists(const std::string& path, std::string& band, std::string& mode) {
         MsgBox(exists);
         return true;
     } catch (const RunTimeError&) {
-        // The failure may be a missing log or any other; they are not told apart.
+        // Any failure is taken for a missing log; see the header.
         return false;
     }
 }

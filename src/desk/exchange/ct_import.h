@@ -23,15 +23,16 @@ void ImportCtFromMenu();
 /// Imports the file. The current band and mode become those of the file, and the new log becomes the current one.
 ///
 /// Every failure before the first contact is taken to mean that there is no such log yet, which is the usual cause. If the log exists
-/// already, the CT file stays open; the next import of the run cannot open its own file and continues with the contacts of the first
-/// one, into a log without band and mode. A file of fewer than three lines is reported as empty and leaves band and mode empty too.
-/// Keep both: the contacts go to a log that no paper reads, so the ten logs are safe, and a log that exists must never be added to
-/// (docs/rules.md). Fails with 52 if a file cannot be opened at all.
+/// already, the CT file stays open. The next import of the run then cannot open its own file and goes on in the first one, with no band
+/// and the log mode CW, so the contacts go to FDCW.txt. A file of fewer than three lines is reported as empty and leaves the band empty
+/// too. Keep both: no paper reads FDCW.txt, so the ten logs are safe, and a log that exists must never be added to (docs/rules.md). Fails
+/// with 52 if the CT file cannot be opened and none is open from an earlier import.
 void ImporterCt(const std::string& path);
 
-/// Logs one contact line with the operator "CT-IMP", without asking anything; giQSOnr becomes its serial number. An unknown prefix
-/// counts 0 points and is not written to ukendt.txt. The line has the columns of every other log line, whatever columns the CT line
-/// has. Fails with 13 if the date is invalid, with 5 if there is no call; nothing is logged then.
+/// Logs one contact line with the operator "CT-IMP", without asking anything; giQSOnr becomes its serial number. A contact with an
+/// unknown prefix counts as many points as one that is entered, but is not written to ukendt.txt: that file names only contacts made at
+/// this desk, and the import of an old log would fill it (docs/rules.md).  A contact without a call is logged too, with the 3 points of a
+/// European station. Fails with 13 if the date is invalid, and with 6 if the serial number sent exceeds 16 bits; no line is logged then.
 void ImportQSO(std::string_view line);
 
 }  // namespace vatro

@@ -12,7 +12,7 @@
 //   24-27  serial number sent
 //   29-43  call as logged
 //
-// "-" sorts below the figures of the bands, so the line of dashes comes before the contacts of its call.
+// "-" sorts before the digits with which bands begin, so the line of dashes comes before the contacts of its call.
 #pragma once
 
 #include "forms.h"
@@ -33,9 +33,9 @@ public:
     void IndlæsLogs();
     /// Adds the contacts of one log. On a failure the log ends there without a message.
     void indlæslog(const LogId& log);
-    /// Puts a line of dashes before the contacts of each base call; the name says "insert blanks". The first item is skipped: if it
-    /// is the only contact with its call, it gets no dashes and stays in the list whatever its spelling. An empty list gets dashes
-    /// without a call. Do not correct this: operators compare two such lists (docs/rules.md).
+    /// Puts a line of dashes before the contacts of each base call; the name says "insert blanks". The first item is skipped: if it is
+    /// the only contact with its call, it gets no dashes and stays in the list. An empty list gets dashes without a call. Do not correct
+    /// this: operators compare two such lists (docs/rules.md).
     void IndsætBlanke();
     /// Removes the calls that have only one spelling, with their dashes; the name says "remove duplicates" but has nothing to do with
     /// duplicate contacts. IndsætBlanke must have run before.

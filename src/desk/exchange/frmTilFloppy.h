@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The window that says which file is being copied, while the copying lasts. In spite of its name it also serves the backup to a
-// directory.
+// The window that shows which files are being copied. In spite of its name it also serves the backup to a directory.
 #pragma once
 
 #include "forms.h"

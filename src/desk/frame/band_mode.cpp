@@ -63,7 +63,7 @@ void SetIndstillinger(int index) {
 }
 
 void SetToolbar() {
-    // The hidden band has no button, so the buttons are left as they are.
+    // The button of the hidden band is not shown. For this band the buttons are left as they are.
     const auto band = BandIndex(desk().gsBand);
     if (band && *band != kHiddenBand) frmMain->toolbar.Press(*band);
     if (const auto mode = ModeIndex(desk().gsQsoMode)) frmMain->toolbar.Press(*mode);

@@ -26,7 +26,7 @@ void SelectLastLine() {
     frmMain->log.SetListIndex(frmMain->log.ListCount() - 1);
 }
 
-/// Counts a contact line in worked marks and counters.
+/// Adds a contact line to the worked marks and the counters; giQSOnr becomes its serial number sent.
 void CountLine(std::string_view line) {
     const std::string_view multiplier = kMultiplier.Of(line);
     if (!multiplier.empty() && multiplier.front() != ' ') NoteCountry(multiplier, MarkAction::Mark);

@@ -19,9 +19,10 @@ std::string LogPath(std::string_view band, std::string_view mode);
 /// Path of the current log.
 std::string CurrentLogPath();
 
-/// Loads the log of the current band and mode and rebuilds counters, worked marks and status bar. Multiplier and points columns count
-/// as they stand; the last contact line gives the serial number. If the file cannot be opened or read, or a number is out of range,
-/// the log ends there without a message. The entry fields are not touched: callers run ResetQSO right afterwards.
+/// Loads the log of the current band and mode and rebuilds counters, worked marks and status bar. Multipliers and points are read from
+/// their columns, not computed again, and giQSOnr becomes the number of the last contact line, not the largest number. Keep this:
+/// operators overrule points and put numbers right by correcting lines (docs/rules.md). If the file cannot be opened or read, or a number
+/// is out of range, the log ends there without a message. The entry fields are not touched: callers run ResetQSO right afterwards.
 void IndlæsLogfil();
 
 /// Empties the log in memory, the worked marks and the counters, and shows the current log as empty. The file is not touched.
@@ -34,7 +35,7 @@ void AppendLog(std::string_view line);
 /// Calls AppendLog, then adds the line to the log in memory and selects it.
 void LogLine(const std::string& line);
 
-/// Appends a line to a file of the log directory. Synced, and ends the program on failure, as AppendLog does.
+/// Appends a line to a file of the log directory, synced to the disk on return. Like AppendLog, ends the program on failure.
 void AppendLine(std::string_view file, std::string_view line);
 
 /// Replaces the file of the current log by the lines in memory: first writes and syncs a copy, FDkopi.txt, then deletes the old file

@@ -20,7 +20,7 @@ std::string ReadSetting(const TextSetting& row);
 std::int16_t ReadSetting(const ShortSetting& row);
 /// Reads a whole number of 32 bits. Window positions need them: on a wide or a second screen they can exceed 16 bits.
 std::int32_t ReadSetting(const LongSetting& row);
-/// Reads "True" or "False", ignoring case, or a number, of which 0 is false.
+/// Reads "True" or "False", ignoring case, or a number: 0 is false, any other number true.
 bool ReadSetting(const FlagSetting& row);
 /// Whether a value is stored for the key.
 bool IsStored(const LongSetting& row);

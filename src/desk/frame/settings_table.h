@@ -2,9 +2,9 @@
 //
 // Everything that the program keeps from one run to the next, apart from logs and tables: one row for each setting.
 //
-// A row has the section in the store, the key to read, the key to write, the default for a missing key, the type, and when the
-// setting is written. The store ignores the case of keys. Each key is written exactly as its row spells it, since operators see it in
-// the settings file. Reading writes nothing.
+// A row has the section in the store, the key to read, the key to write, the default for a missing key, the type, and when the setting is
+// written. The store ignores the case of keys, so a key that is read and written in two spellings is one key. Do not make the spellings
+// equal: operators see them in the settings file, and the settings of earlier versions have them (docs/rules.md). Reading writes nothing.
 #pragma once
 
 #include <array>
@@ -109,7 +109,7 @@ inline constexpr LongSetting kVolume{kCw, "Volume", "Volume", 10000, Written::Wh
 inline constexpr ShortSetting kFarnsworth{kCw, "Farnsworth", "Farnsworth", 0, Written::WhenConfirmed};
 /// "001" sends serial numbers with their zeros, "--1" with a T for each leading zero.
 inline constexpr TextSetting kNumberFormat{kCw, "N", "N", "001", Written::WhenConfirmed};
-/// "599" sends the report 599 in figures, "5nn" in its short form. The key "T" is the report, not a text or a time.
+/// "599" sends the report 599 in digits, "5nn" in its short form. The key "T" is the report, not a text or a time.
 inline constexpr TextSetting kReportFormat{kCw, "T", "T", "599", Written::WhenConfirmed};
 /// The texts of the function keys. The window of the keyer's settings offers its own set of default texts, which has two more.
 inline constexpr std::array<TextSetting, 8> kKeyerTexts{{

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The program's values that are known by name outside the source: operators' notes mention them, and scenarios check them.
+// The program's values that are known by name outside the source: operators know them, and scenarios check them.
 #pragma once
 
 #include <cstdint>

@@ -61,7 +61,7 @@ void StoreRunningProgram() noexcept {
     auto* main = static_cast<FrmMain*>(frmMain.Peek());
     if (main == nullptr || !main->up) return;
     const SettingsBatch together(platform().settings);
-    // The operators are left out while another handler has file 1 open.
+    // This step fails, and the operators are left out, while another handler has file 1 open.
     Try([main] { GemOperatører(main->operatorBox); });
     const std::vector<Form*>& forms = LoadedForms();
     for (auto form = forms.rbegin(); form != forms.rend(); ++form)
@@ -87,8 +87,8 @@ void StartProgram() {
 
     if (desk().gsFDLib.empty()) {
         desk().gsFDLib = platform().files.CurrentDirectory();
-        // Written under another key than the one read above, which gets the value at a regular end. Keep both: settings of earlier
-        // versions have them (docs/rules.md).
+        // This key is not the one that is read above; that one is written at a regular end. Keep both: settings of earlier versions have
+        // them (docs/rules.md).
         StoreSetting(setting::kFirstTablesDirectory, desk().gsFDLib);
     }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The state that the windows of the program share: one object, made anew at each start. A form that needs more than its own controls
-// reads and writes it here, so that this header tells who owns what. The Danish names are those by which operators' notes, settings
-// and scenarios know the values.
+// The state that the windows of the program share: one object, made again at each start. A form that needs more than its own controls
+// reads and writes it here, so that this header tells who owns what. The Danish names are those by which operators, settings and
+// scenarios know the values.
 #pragma once
 
 #include <array>
@@ -57,10 +57,9 @@ struct DeskState {
 
     // The desk.
 
-    /// The present operator; written in every line.
+    /// The current operator; written in every line.
     FixedText<6> gsOperatør;
-    /// Automatic time: 1 on, 0 off. It does not tell whether the clock is running: the clock stands still while the time field is
-    /// edited.
+    /// Automatic time: 1 on, 0 off. It does not tell whether the clock is running: the clock stops while the time field is edited.
     std::int16_t gbAutoTid = 0;
     /// Whether the country is shown while a call is typed; changed by the menu. It also decides whether an unknown prefix counts 0
     /// points: switched off, such a contact keeps its points and is not written to ukendt.txt.

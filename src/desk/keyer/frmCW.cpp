@@ -22,8 +22,8 @@ namespace {
 // The 4 occurs twice, the first time out of order; only the set of characters matters.
 constexpr std::string_view kTextCharacters = " ABCDEFGHIJKLMNOPQRSTUVWXYZÆØÅ12434567890/#?,.-:()="_t;
 
-/// The default texts, offered by a button. They are two more than those of a first start: a new station gets only the texts that
-/// every contact needs.
+/// The default texts, offered by a button. The defaults of a first start (settings_table.h) lack the last two of these: a new station
+/// gets only the texts that every contact needs.
 constexpr std::array<std::string_view, kCwTextCount> kDefaultTexts{"CQ TEST DE #R #R TEST K", "CL?",   "#R",
                                                                    "#C UR #T #N BK",          "TU #R", "#C?"};
 
@@ -115,7 +115,7 @@ void FrmCW::cmdOK_Click() {
     cw.gsCWNummerFormat = numberOptions[0].Value() ? kNumberWithZeros : kNumberWithT;
 
     GemCWIndstillinger();
-    // The equipment cannot be changed here, but it is stored with every OK all the same.
+    // The equipment is stored too, although it cannot be changed here.
     GemUdstyr();
     SetCwMenuTekster();
     Unload();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The dialogue of the keyer's settings and the eight texts. OK applies and stores everything, and makes new pieces if the sound has
+// The dialogue for the keyer's settings and the eight texts. OK applies and stores everything, and makes new pieces if the sound has
 // changed; Annuller (Cancel) changes nothing. The names of two controls mislead: UpDown2 are the arrows of the first field (speed),
 // UpDown1 those of the second (pitch).
 #pragma once

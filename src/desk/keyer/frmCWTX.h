@@ -42,7 +42,7 @@ public:
 
     /// Creates events, card, buffer and pieces. On a failure shows a message, and the window stays hidden for the rest of the run.
     void Form_Load() override;
-    /// Releases the sound card and lets other events run meanwhile; a second attempt to close the window during that time is refused.
+    /// Releases the sound card. Other events run while it does so; an attempt to close the window again during that time is refused.
     void Form_QueryUnload(bool& Cancel) override;
 
     /// Whether the last text was sent to its end without being stopped.

@@ -24,7 +24,7 @@ struct KeyerState {
     std::int16_t giCWTone = 0;
     /// Peak of the samples. frmCW offers 0 to 10000; a tone louder than 32767 cannot be made.
     std::int32_t glCWVolume = 0;
-    /// Silence added behind each character, in dot lengths; at most 20. No window sets it.
+    /// Silence added after each character, in dot lengths; at most 20. Only the settings file sets it.
     std::int16_t giCWFarnsworth = 0;
     /// How serial numbers and reports are sent (morse/text_codes.h).
     std::string gsCWNummerFormat;

@@ -10,8 +10,8 @@
 
 namespace vatro {
 
-/// Sends a text, whose #-codes are replaced, in the window frmCWTX. If another text is being sent, this one continues at the
-/// character where it stood. Without a sound card the first send shows a message, and later sends do nothing.
+/// Sends a text, whose #-codes are replaced, in the window frmCWTX. If another text is being sent, this one begins at the character where
+/// the other one stood (morse/keyer.h). Without a sound card the first send shows a message, and later sends do nothing.
 void SendCW(std::string_view text);
 
 /// Writes the eight texts into the menu, with their #-codes.

@@ -10,7 +10,7 @@ namespace vatro {
 class ErrorList;
 class LineSink;
 
-/// Makes the list; the main form is disabled meanwhile. gsCall and giQSOPoint keep the values of the last contact checked; then the
+/// Makes the list; the main form is disabled while it runs. gsCall and giQSOPoint keep the values of the last contact checked; then the
 /// current log is loaded again and the entry is reset. Fails if the file cannot be created or written.
 void MakeErrorList();
 

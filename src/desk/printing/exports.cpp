@@ -67,7 +67,7 @@ void DanAdif(LineSink& file, const LogId& log) {
     try {
         DanAdifKrop(*lines, file, log);
     } catch (const RunTimeError&) {
-        // Closed because logging the next contact needs the file number.
+        // Close the log even so, because logging the next contact needs its file number.
         CloseLog();
         throw;
     }

@@ -35,10 +35,9 @@ void ClosePaper();
 
 /// Opens the log files for papers that count all of them.
 ///
-/// A log that is not closed deliberately stays open, even when this object is destroyed. Its number is then in use, so every later
-/// log counts nothing, and the next load of the log at the entry desk finds nothing either. That way the operator notices a disk
-/// failure in the middle of a log at once. If the file were closed, the station would send in a paper with half a log without
-/// noticing.
+/// On purpose, a log that the reader has not closed stays open, even when this object is destroyed. Its number is then in use, so every
+/// later log counts nothing, and the next load of the log at the entry desk finds nothing either. That way the operator notices a disk
+/// failure in the middle of a log at once. If the file were closed, the station would send in a paper with half a log without noticing.
 class LogFiles : public LogReader {
 public:
     LineSource& Open(const LogId& log) override { return source_.emplace(OpenLog(log)); }

@@ -20,8 +20,8 @@ void ChoosePrinter();
 /// Runs one print job: calls `paper` with the printer's surface and then ends the job.
 void RunPrintJob(const std::function<void(PageSurface&)>& paper);
 
-/// Prints a log. A log that cannot be opened prints nothing and uses no page. A failure on the way ends the log there without a
-/// message.
+/// Prints a log. A log that cannot be opened prints nothing and uses no page. If a failure occurs during printing, the log ends there
+/// without a message.
 void PrintLog(PageSurface& surface, const LogId& log);
 
 /// Prints the multiplier check sheet. Fails with 9 if one log has more than a hundred multipliers.

@@ -31,8 +31,8 @@ void FrmCtyDat::Form_Load() {
 
 void FrmCtyDat::ShowClock() {
     if (minuteTimer.Interval() != kMinute) minuteTimer.SetInterval(kMinute);
-    // The panels for date and time show fixed values, the day from which dates are counted and no time, since nothing ever sets them.
-    // Keep them: operators know the window as it is.
+    // The panels are meant for date and time, but the program never had values for them: one shows the day from which it counts dates,
+    // the other nothing. Keep them: operators know the window as it is.
     statusBar.SetPanel(2, "30.12.1899");
     statusBar.SetPanel(3, "");
 }

@@ -13,7 +13,7 @@ class FrmCtyDat : public Form {
 public:
     FrmCtyDat();
     ProgressBar progress;
-    /// Shows the current stage; the other two panels belong to a clock that shows no time.
+    /// The first panel shows the current stage. The other two are meant for date and time but never show the present ones.
     StatusBar statusBar;
     Timer minuteTimer;
 

@@ -23,7 +23,7 @@ struct TableFile {
     std::string_view stage;
 };
 
-/// Reads every line of a data file. If the file or a line fails, a message names the file.
+/// Reads every line of a data file. If the file cannot be read, or one of its lines is invalid, a message names the file.
 void LoadTable(const TableFile& table, void (CountryTables::*begin)(), void (CountryTables::*read)(std::string_view)) {
     Files& files = platform().files;
     try {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Loads the tables of the program behind the splash window at the start. Any failure is shown in a box, and the program continues
-// with the rows read so far.
+// Loads the tables of the program at the start, while the splash window is shown. Any failure is shown in a box, and the program
+// continues with the rows read so far.
 #pragma once
 
 namespace vatro {
@@ -11,8 +11,9 @@ void IndlæsLande();
 /// Loads the prefixes from refpfx.txt in gsFDLib.
 void IndlæsRefPfx();
 
-/// Loads the society's stations from edr.txt in gsFDLib. If the file has more lines than the table has rows, it stays open under
-/// number 1, so the first load of a log in this run finds nothing. Keep this: operators notice at once that the list is too long.
+/// Loads the society's stations from edr.txt in gsFDLib. If a failure ends the load, for example because the file has more lines than the
+/// table has rows, the file stays open under number 1, so the first load of a log in this run finds nothing. Keep this: operators notice
+/// at once that the list is too long.
 void IndlæsEDR();
 
 }  // namespace vatro

@@ -23,7 +23,7 @@ void ShowCountryNow() {
     if (call.empty()) {
         const auto& lines = desk().log.Lines();
         if (lines.empty()) return;
-        // One column more than the call field; it is always blank.
+        // The call field and one more column, which only a note can fill.
         call = Trim(Columns(lines.back(), kCall.from, kCall.width + 1));
         if (call.empty()) return;
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Handling of unknown prefixes. Contacts with an unknown prefix are collected in ukendt.txt, to be looked into later. Lines are only
-// ever appended to the file:
+// Contacts with an unknown prefix are collected in ukendt.txt, so that somebody can look into them later. Lines are only ever appended to
+// the file:
 //
 //    1-3   band
 //    4-8   " CW  " or " SSB "

@@ -3,8 +3,8 @@
 // Lookups of country, station and points for the current contact. Each asks the rules and stores the result in the desk's state:
 // giMult counts the marked countries, giQSOPoint holds the points of the last lookup that decided points.
 //
-// The order of the lookups therefore matters, and operators see its effect: a lookup that does not decide points leaves those of the
-// lookup before.
+// The order of the lookups therefore matters, and operators see its effect: a lookup that does not decide points leaves giQSOPoint as the
+// lookup before it has set it.
 #pragma once
 
 #include <string>

@@ -34,8 +34,9 @@ std::string_view StrippedOnce(std::string_view call) {
     return WithoutEndings(call, {"/P", "/M", "/A", "/MM", "/AM", "/QRP", "/QRPP"});
 }
 
-/// Deliberately removes other endings than those of the base call: "/AM" stays, and a numbered suffix counts only at the very end.
-/// Tidying this would change countries in logs that were sent in (docs/rules.md).
+/// Removes the endings of the country text. They differ from those of the base call: "/AM" stays, and a numbered suffix counts only at
+/// the very end of the call, where MoveDigitSuffix has replaced it. Do not make them equal: contacts in logs that were sent in would get
+/// another country (docs/rules.md).
 std::string_view WithoutPortableOnce(std::string_view call) {
     return WithoutEndings(call, {"/P", "/M", "/A", "/MM", "/QRP", "/QRPP", "/"});
 }
@@ -54,7 +55,7 @@ std::string StripCall(std::string_view call) {
     const std::string_view base = UntilNothingGoes(call, StrippedOnce);
     const std::size_t slash = base.find('/');
     if (slash == std::string_view::npos) return std::string(base);
-    // The longer side is the base call; if both are equally long, the text behind the slash.
+    // The longer side is the base call; if both are equally long, the side after the slash.
     const std::size_t half = (base.size() + 1) / 2;
     return std::string(half >= slash + 1 ? base.substr(slash + 1) : base.substr(0, slash));
 }
@@ -70,7 +71,7 @@ std::string findPfxCall(std::string_view call) {
         const std::size_t third = text.find('/', second + 1);
         return std::string(text.substr(0, slash)).append(text.substr(second, third == std::string_view::npos ? third : third - second));
     }
-    // The shorter side carries the country's prefix; if both are equally long, the text before the slash.
+    // The shorter side carries the country's prefix; if both are equally long, the side before the slash.
     const bool secondShorter = static_cast<double>(text.size() + 1) / 2 < static_cast<double>(slash + 1);
     return std::string(secondShorter ? text.substr(slash + 1) : text.substr(0, slash));
 }

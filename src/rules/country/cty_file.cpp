@@ -62,7 +62,7 @@ std::string_view CtyEntryReader::NextText() {
     const std::size_t start = column_ - 1;
     std::size_t end = line_.find(',', start);
     if (end == std::string_view::npos) end = Find(line_, ';', start);
-    // The column just behind the separator; columns count from 1, `end` from 0.
+    // The column just after the separator; columns count from 1, `end` from 0.
     column_ = end + 2;
     return line_.substr(start, end - start);
 }

@@ -35,7 +35,7 @@ struct CtyHeader {
     std::string_view longitude;
     std::string_view utcOffset;
 
-    /// Whether the country is marked with "*", that is, exists in one particular contest only.
+    /// Whether the country is marked with "*", that is, counts as a country in one particular contest only.
     bool IsOmitted() const { return prefix.starts_with('*'); }
 };
 
@@ -48,23 +48,25 @@ struct CtyEntry {
     bool isExactCall = false;
 };
 
-/// Splits a header line. Fails with 5 if a ":" is missing behind name, continent or primary prefix.
+/// Splits a header line. Fails with 5 if there is no ":" after name, continent or primary prefix.
 CtyHeader ReadCtyHeader(std::string_view line);
 
 /// Converts latitude, longitude or UTC offset to a number. Fails with 6 if it is too large.
 float ReadCtyNumber(std::string_view text);
 
-/// Reads the items of a prefix line one by one.
+/// Reads the items of a prefix line one by one. The line and the header must outlive the reader.
 class CtyEntryReader {
 public:
     CtyEntryReader(std::string_view line, const CtyHeader& header) : line_(line), header_(header) {}
-    /// Whether another item follows. A separator at the end of the line has no item behind it.
+    /// Whether another item follows. No item follows a separator at the end of the line.
     bool HasMore() const { return column_ < line_.size(); }
     /// Returns the next item with its marks. Fails with 5 if neither "," nor ";" follows it.
     std::string_view NextText();
     /// Returns the next item without its marks. Fails as NextText does, and with 5 if a bracket of the item is not closed.
     CtyEntry Next() { return TakeApart(NextText(), header_); }
 
+    /// Splits the text of one item into its parts; a zone that the item does not give is that of the header. Fails with 5 if a bracket is
+    /// not closed.
     static CtyEntry TakeApart(std::string_view text, const CtyHeader& header);
 
 private:

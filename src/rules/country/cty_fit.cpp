@@ -56,8 +56,8 @@ public:
         const auto found = items_.find(prefix);
         return found == items_.end() ? nullptr : &found->second;
     }
-    /// The item that decides the country of this call once its own row is gone: the longest other prefix that begins the country
-    /// text, or nullptr.
+    /// The item that decides the country of this call once its own row is gone: that of the longest other prefix with which the country
+    /// text begins, or nullptr.
     const KeptItem* Fallback(const CtyItem& item) const {
         const std::string text = CountryText(item);
         for (std::size_t length = std::min(text.size(), kPrefixLength) + 1; length-- > 0;)
@@ -84,7 +84,7 @@ bool Supported(const KeptItem& place, const KeptItem* fallback) {
     return SameCountry(place, fallback) && !fallback->item->isExactCall && fallback->item->bare.find('/') == std::string::npos;
 }
 
-/// A single run of FitCty. KeptItem points into the countries, which must not move meanwhile.
+/// A single run of FitCty. KeptItem points into the countries, which must not move during the run.
 class Fitting {
 public:
     Fitting(std::vector<CtyCountry> countries, std::size_t room) : countries_(std::move(countries)), room_(room) {}
@@ -161,7 +161,7 @@ private:
     }
 
     /// Removes calls of full length that sort before all other prefixes with their first character, unless another prefix gives them
-    /// their country: right after the import its index skips them, and they would not be found until the program is started again.
+    /// their country. The index that the import builds skips such calls, so they would not be found until the program is started again.
     void LeaveOutForemost() {
         std::map<std::string, KeptItem> rows;
         for (const KeptItem& place : places_) {
@@ -273,7 +273,7 @@ std::vector<std::string> CheckCty(const std::vector<CtyCountry>& countries) {
         }
         if (omitted && IsStarred(country))
             errors.push_back("to lande med * efter hinanden: " + ToUtf8(country.prefix) + " bliver taget med");
-        // The import recognises the header behind an omitted country by the ":" at its end.
+        // The import recognises the header after an omitted country by the ":" at its end.
         if (omitted && !country.header.ends_with(':'))
             errors.push_back("overskriften efter et land med * slutter ikke med ':': " + ToUtf8(country.header));
         omitted = false;

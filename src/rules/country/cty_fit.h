@@ -30,6 +30,7 @@ struct CtyItem {
     FixedText<2> cqZone;
     FixedText<2> ituZone;
     bool isExactCall = false;
+    /// Whether the item is kept in the file.
     bool stays = true;
 };
 
@@ -76,11 +77,11 @@ struct FittedCty {
     CtyOmissions omissions;
 };
 
-/// Leaves out countries marked with "*", items that an earlier country has as well, and calls too long to be found whose country no
-/// other item gives. If the rest is more than `room`, it leaves out further items until it fits, in this order and the shortest first
-/// within each step: other calls that are never found, items that can go without loss, items that lose their zones, exact calls.
-/// Finally it leaves out exact calls that the program would not find between the import and its next start. Throws CtyError if the
-/// rest still does not fit.
+/// Leaves out countries marked with "*", items that an earlier country has as well, and calls too long to be found whose country no other
+/// item gives. If the rest is more than `room` prefixes, it leaves out further items until they fit, in this order: items that their own
+/// country repeats; then, the shortest first within each step, other calls that are never found, items that can go without loss, items
+/// that lose their zones, exact calls. Finally it leaves out exact calls that the program would not find between the import and its next
+/// start. Throws CtyError if the rest still does not fit.
 FittedCty FitCty(std::vector<CtyCountry> countries, std::size_t room = kPrefixRoom);
 
 /// Formats the lines of a country file that has only the items that stay.

@@ -37,7 +37,7 @@ bool RemoveFiller(FixedText<kPrefixLength>& prefix) {
 
 void CountryImport::Read(LineSource& file, const OverflowNotice& overflow) {
     while (!file.AtEnd()) ReadCountry(file, overflow);
-    // The count is set only here, so that the rows of a file that fails on the way do not come into use.
+    // The counts are set only here, so that rows of a file that fails in the middle are not used.
     tables_->giLande = ToInt16(countries_);
     tables_->giRefPfx = ToInt16(prefixes_);
 }

@@ -33,8 +33,8 @@ public:
     /// line that cannot be split into its fields, with 6 on a number that is too large, with 9 if there are too many countries or
     /// prefixes.
     ///
-    /// With too many prefixes the import fails after calling `overflow`, although the text of that message promises that the program
-    /// goes on. With truncated tables, contacts with whole countries would count nothing.
+    /// With too many prefixes the import fails after calling `overflow`, although the message shown by it promises that the program goes
+    /// on. Do not go on instead: with truncated tables the contacts with whole countries would count nothing.
     void Read(LineSource& file, const OverflowNotice& overflow);
 
     /// Sorts the prefixes; see prefix_order.h.

@@ -19,8 +19,8 @@ int PrefixStart(const CountryTables& tables, std::string_view text) {
     return tables.gaPfxStart[static_cast<unsigned char>(text.front())];
 }
 
-/// The row of Lande for a row of RefPfx: the first row whose prefix is not below the wanted one, or the last row. Equality is not
-/// tested, so an unsorted table can give a neighbouring country; this is accepted.
+/// The row of Lande for a row of RefPfx: the first row whose prefix is not below the wanted one, or the last row. Lande must be sorted by
+/// prefix: equality is not tested, so in an unsorted table the row can be that of another country.
 int CountryOf(const CountryTables& tables, const PfxRec& prefix) {
     const int last = tables.CountriesInUse();
     int row = 1;

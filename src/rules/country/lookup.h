@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Finds the country of a call: marks it as worked, gives the points for a country outside Europe, and words the country for the
-// operator.
+// Finds the country of a call, gives the points for a country outside Europe, remembers which countries have been worked, and describes a
+// country to the operator.
 //
-// Every search fails with 5 on an empty call, and with 9 in the same case as CountryTables::FindWholeCall.
+// Every search fails with 5 if the call is empty, and with 9 when CountryTables::FindWholeCall does.
 #pragma once
 
 #include <bitset>
@@ -24,15 +24,17 @@ struct FoundCountry {
     std::string prefixText;
 };
 
+/// Looks up the whole call first, then the longest prefix of its country text.
 FoundCountry FindCountry(const CountryTables& tables, std::string_view call);
 
 /// The points if the country decides them: 6 for a country outside Europe, otherwise nothing. Calls from the European areas of a
 /// country that the tables hold as Asian get nothing either.
 std::optional<std::int32_t> CountryPoints(const CountryTables& tables, const FoundCountry& found, std::string_view call);
 
-/// Whether the status text of the country contains the word "ukendt": for an unknown prefix, or for a country whose name contains the
-/// word. The rules of the contest look for the word, so contacts with such a country are treated like those with an unknown prefix.
-/// Do not correct this: a station whose tables have such a name would get more points than on its older papers (docs/rules.md).
+/// Whether the status text of the country contains the word "ukendt": for an unknown prefix of at least two characters, or for a country
+/// whose prefix or name contains the word. The rules of the contest look for the word, so contacts with such a country are treated like
+/// those with an unknown prefix. Do not correct this: a station whose tables have such a name would get more points than on its older
+/// papers (docs/rules.md).
 bool IsUnknown(const CountryTables& tables, const FoundCountry& found);
 
 /// What a search does with the worked mark of the row it finds: sets it, clears it, or only tests it.
@@ -59,7 +61,7 @@ public:
         bool changed = false;
         /// The country's prefix, ten characters, if the action took effect; otherwise empty. Points into the row of the tables.
         std::string_view prefix;
-        /// The points that the country decides, as CountryPoints gives them, whatever the action.
+        /// The result of CountryPoints for the call. It does not depend on the action.
         std::optional<std::int32_t> points;
     };
     /// Finds the country of a call and applies the action to its mark. If there is no country, nothing changes.
@@ -68,6 +70,7 @@ public:
     /// Returns the status text for the country of a call.
     CountryStatus LandStatusTekst(std::string_view call) const;
 
+    /// Whether the country in this row is marked as worked.
     bool Wkd(int row) const { return marks_[static_cast<std::size_t>(row)]; }
     /// Clears the marks of all rows in use.
     void ResetLande();

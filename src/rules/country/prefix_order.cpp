@@ -73,7 +73,8 @@ void SortPrefixes(std::span<PfxRec> rows, int count, const std::function<void(in
     RowNumber lastSwapped = 0;
     for (std::size_t i = 1; i <= last; ++i) {
         step(static_cast<int>(i));
-        // The smallest rows come first among those left; two equal ones are rare.
+        // The rows that are left begin at rest[i - 1], the smallest first. Of equal ones, which are rare, the one whose place is last is
+        // chosen.
         std::size_t chosen = i - 1;
         for (std::size_t j = i; j < last && rest[j].characters == rest[i - 1].characters; ++j)
             if (placeOf[rest[j].place] > placeOf[rest[chosen].place]) chosen = j;

@@ -10,7 +10,7 @@ namespace vatro {
 
 namespace {
 
-/// Counts one more row of a table and returns its number; `count` rows were in use before.
+/// The number of the next row of a table of which `count` rows are in use.
 std::int16_t NextRow(std::int16_t count) {
     return static_cast<std::int16_t>(count + 1);
 }

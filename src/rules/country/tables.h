@@ -3,7 +3,7 @@
 // The country data: countries and their prefixes, in two tables in memory and two files in the program's data directory.
 //
 // lande.txt, one line a country          refpfx.txt, one line a prefix or exact call
-//    1-10  primary prefix                   1-10  prefix, a longer one before a shorter it begins with
+//    1-10  primary prefix                   1-10  prefix; one that begins with another comes before it
 //   11-35  name                            11-20  primary prefix of the country
 //   36-37  continent                       21-22  CQ zone
 //   38     blank                           23     blank
@@ -67,11 +67,12 @@ public:
     /// The number of rows of Lande that may be read: giLande, but at most the size of the table.
     int CountriesInUse() const;
 
-    /// The first row in use, from `start` on, whose prefix, without the blanks around it, equals the whole of `call`; nothing if
-    /// there is none. Fails with 9 (index out of range) if a full table has none, since the search runs one row past the end.
+    /// The first row in use, from `start` on, whose prefix, without the blanks around it, equals the whole of `call`; nothing if there is
+    /// none. Fails with 9 (index out of range) if there is none and the table is full, since the search then runs one row past the end
+    /// (docs/rules.md).
     std::optional<int> FindWholeCall(std::string_view call, int start) const;
-    /// The first row from `start` on whose prefix begins the text; in a sorted table this is the longest. Fails as FindWholeCall
-    /// does.
+    /// The first row from `start` on whose prefix the text begins with; in a sorted table this is the longest such prefix. Fails as
+    /// FindWholeCall does.
     std::optional<int> FindPrefix(std::string_view text, int start) const;
 
     /// Rebuilds the index of the two searches.

@@ -39,7 +39,7 @@ inline constexpr Field kNumberReceived{36, 4};
 inline constexpr Field kPoint{41, 2};
 inline constexpr Field kMultiplier{44, 10};
 inline constexpr Field kOperator{55, 6};
-/// The operator field as readers take it: one column wider than the field that is written.
+/// The operator field as it is read by the correction and by most papers: one column wider than the field that is written.
 inline constexpr Field kOperatorAsRead{kOperator.from, kOperator.width + 1};
 inline constexpr Field kQsl{62, 3};
 inline constexpr Field kQsoMode{66, 5};
@@ -67,9 +67,9 @@ struct Contact {
     std::string date;
 };
 
-/// Formats a contact for a log of this mode; in an SSB log a report has two figures and a blank. Call, multiplier, operator and QSO
-/// mode are padded or cut to the width of their fields; the other texts must fit their fields. A serial number above 9999 shifts the
-/// rest of the line to the right.
+/// Formats a contact for a log of this mode; in an SSB log a report has two digits and a blank. Call, multiplier, operator and QSO mode
+/// are padded or cut to the width of their fields; the other texts must fit their fields. A serial number above 9999 shifts the rest of
+/// the line to the right. Do not cut it: it would be wrong without anybody seeing it (docs/rules.md).
 std::string QsoLine(const Contact& contact, std::string_view logMode);
 
 }  // namespace vatro

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Searches of a log while a contact is entered or corrected: whether the station is logged already, and which earlier contacts
-// contain what has been typed so far. All searches scan the lines from the first to the last.
+// Searches of a log while a contact is entered or corrected: whether the station is logged already, and in which earlier contacts the
+// call contains what has been typed so far. All searches scan the lines from the first to the last.
 //
 // Each search decides whether to skip a line by looking at the previous line, not at the line itself. A note is therefore not
 // skipped, and a note whose text looks like a call counts as a contact. Do not correct this: a log of an earlier contest that is
@@ -15,11 +15,13 @@
 
 namespace vatro {
 
-/// Whether a line has the same station: its call, reduced to the base call, equals `baseCall` exactly. Lines below a note whose own
-/// text begins with "NOTE: " are not searched.
+/// Whether the log has a contact with this station: a line whose call, reduced to the base call, equals `baseCall` exactly. Lines below a
+/// note whose own text begins with "NOTE: " are not searched.
 bool CheckDupe(std::span<const std::string> lines, std::string_view baseCall);
 
-/// The same search for a contact under correction, among the lines above it. A note that begins with the call counts as a contact.
+/// The same search for a contact under correction, among the lines above it. A note whose text is the call counts as a contact here too.
+/// The lines below are left out on purpose: otherwise the earlier of two contacts with a station, which has the points, would become the
+/// duplicate (docs/rules.md).
 bool CheckDupQSO(std::span<const std::string> above, std::string_view baseCall);
 
 /// Returns the earlier contacts whose call contains the text, ignoring case: at most 50, the oldest first, formatted for display:

@@ -13,7 +13,7 @@
 
 namespace vatro {
 
-/// Called after every change of the lines.
+/// Hears of every change of the lines, after it has been made.
 class LogObserver {
 public:
     virtual ~LogObserver() = default;

@@ -41,7 +41,7 @@ bool Keyer::FyldDel(std::span<std::int16_t> half) {
         i += count;
         if (!stepper_.AtEnd()) active = true;
     };
-    // The end mark stays the present element: a new text is not sent before the next Begin.
+    // The end mark stays the current element: no further text is sent before the next Begin.
     const auto next = [&] {
         if (!stepper_.AtEnd()) stepper_.gsElement = stepper_.NæsteElement();
     };

@@ -8,10 +8,10 @@
 //
 // What each operation keeps:
 //
-//   Begin            a new send: the text is filled in from where the stepper stands, so a new text during a send comes in at the
+//   Begin            starts a send and keeps the position in the text, so a text that is started during another send begins at the
 //                    character where the old one stood
-//   ResetPosition    a stop: the next text starts from its beginning; pieces and text stay
-//   new pieces       the stepper stays where it is
+//   ResetPosition    after a stop: the next text starts from its beginning; pieces and text are kept
+//   MakePieces       makes new pieces and keeps the position in the text
 #pragma once
 
 #include <cstdint>
@@ -53,11 +53,11 @@ public:
     /// too high or negative, with 6 if the tone is too loud for 16 bits; do not call Fill after a failure.
     void MakePieces(std::int16_t pitch, std::int32_t volume);
 
-    /// Sets the text, which must be expanded and end with a blank, and the extra silence behind each character, in dot lengths. The
-    /// position in the text is kept: a text that is started while another one is sent begins at the character where the old one
-    /// stood. Do not reset it: operators press a second key to change the rest of a text (docs/rules.md).
+    /// Sets the text, which must be expanded and end with a blank, and the extra silence after each character, in dot lengths. The
+    /// position in the text is kept: a text that is started while another one is sent begins at the character where the old one stood. Do
+    /// not reset it: operators press a second key to change the rest of a text (docs/rules.md).
     void SetText(std::string text, std::int16_t extraSilence);
-    /// Clears the present element. Call it before filling both halves for a start.
+    /// Clears the current element. Call it at the start of each send, before both halves are filled.
     void Begin();
     /// Makes the next text start from its beginning.
     void ResetPosition() { stepper_.ResetPosition(); }

@@ -6,7 +6,7 @@
 //   "1" "2" "3"        first, middle and last third of a dash: "123" is a dash of three dot lengths
 //   " "                silence between two elements of one character
 //
-// So "4 123" is dot, silence, dash. The silence behind a character is not in the table.
+// So "4 123" is dot, silence, dash. The silence after a character is not in the table.
 #pragma once
 
 #include <string_view>

@@ -19,7 +19,7 @@ std::size_t IndexOf(std::int32_t sample) {
     return static_cast<std::size_t>(sample);
 }
 
-/// A sample times `step` / 25, rounded down (towards minus infinity).
+/// `sample` times `step` / kRampSamples, rounded down (towards minus infinity).
 std::int16_t Attenuated(std::int16_t sample, int step) {
     return ToInt16(std::floor(static_cast<double>(sample) / kRampSamples * step));
 }
@@ -54,8 +54,8 @@ void Pieces::DanElementer() {
     };
     CWPrik = cut(0);
     CWStart = cut(0);
-    // Starts one sample early, so a dash repeats the last sample of its first third. It cannot be heard. Do not correct it:
-    // recordings of two copies are compared sample by sample.
+    // The middle third starts one sample early, so a dash repeats the last sample of its first third. This cannot be heard. Do not
+    // correct it: recordings of two copies are compared sample by sample.
     CWMidte = cut(Priklen - 1);
     CWSlut = cut(2 * Priklen - 1);
     CWPause.assign(IndexOf(Priklen + 1), 0);

@@ -36,8 +36,8 @@ struct Pieces {
     Piece CWPrik;
     Piece CWPause;
 
-    /// Sets Priklen to the samples of 1.2 seconds divided by the words per minute. Fails with 11 at speed 0 and then leaves Priklen
-    /// as it was. The pieces keep the old speed until they are made anew.
+    /// Sets Priklen to the samples of 1.2 seconds divided by the words per minute. Fails with 11 at speed 0 and then leaves Priklen as it
+    /// was. The pieces keep the old speed until they are made again.
     void ComputeDotLength(std::int16_t wordsPerMinute);
     /// Allocates the tone, filled with silence. Fails with 9 if a dot would be shorter than its ramp.
     void AllocateTone();

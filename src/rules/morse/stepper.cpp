@@ -46,8 +46,8 @@ void Stepper::ResetPosition() {
     glElementPos = 0;
 }
 
-/// The key into the Morse table at the current position. "<" joins the two letters behind it into one key; the position moves past
-/// "<" and the letters at once, and the ">" is skipped later in place of a sent character.
+/// The key into the Morse table at the current position. "<" joins the two letters after it into one key. The position then moves to the
+/// ">", and past it when the sign has been sent.
 std::string_view Stepper::NextCharacter() {
     const std::string_view rest = Columns(gsCWTekst, IndexOf(glTegnPos + 1));
     if (!rest.starts_with('<')) return rest.substr(0, 1);

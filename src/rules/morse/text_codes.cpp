@@ -61,7 +61,7 @@ private:
         }
     }
 
-    /// The next character, or nothing at the end. This is the only place where a value that has been read to its end is left.
+    /// The next character, or nothing at the end. Only this function leaves values that have been read to their end.
     std::optional<char> Next() {
         while (!pieces_.empty() && pieces_.back().read == pieces_.back().text.size()) pieces_.pop_back();
         if (pieces_.empty()) return std::nullopt;

@@ -13,13 +13,13 @@ namespace vatro {
 /// How a serial number is sent, as the settings store it: with its zeros, or with a T for each leading zero.
 inline constexpr std::string_view kNumberWithZeros = "001";
 inline constexpr std::string_view kNumberWithT = "--1";
-/// How the report 599 is sent, as the settings store it: in figures, or in its short form.
+/// How the report 599 is sent, as the settings store it: in digits, or in its short form.
 inline constexpr std::string_view kReportInFigures = "599";
 inline constexpr std::string_view kReportWithN = "5nn";
 
-/// Converts a number to the given form. It is returned unchanged if it has that form already or if the form is unknown.
+/// Returns the number as it is sent: with kNumberWithT each leading zero becomes a T; with any other format it is unchanged.
 std::string NumberAsSent(std::string_view number, std::string_view format);
-/// Converts a report in the same way. Only 599 has a short form.
+/// Returns the report as it is sent: with kReportWithN, 599 becomes "5NN"; otherwise it is unchanged.
 std::string ReportAsSent(std::string_view report, std::string_view format);
 
 /// The values of the codes, each in the form in which it is sent.
@@ -32,8 +32,8 @@ struct CodeValues {
 };
 
 /// Returns the text to be sent: in upper case, with the codes replaced and a blank at its end. Values are inserted as they are; codes
-/// inside them are replaced too. If no code follows a "#", or the code occurs inside its own value, only the "#" is dropped and the
-/// text continues behind it, so expansion always ends.
+/// inside them are replaced too. If no code follows a "#", or the code occurs inside its own value, only the "#" is dropped and the text
+/// continues after it, so the expansion always ends.
 std::string DanCWTekst(std::string_view raw, const CodeValues& values);
 
 }  // namespace vatro

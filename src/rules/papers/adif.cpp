@@ -14,7 +14,7 @@ constexpr std::string_view kLineEnd = "\r\n";
 /// Makes records one after the other and reuses its memory, since a contest has thousands of contacts.
 class RecordMaker {
 public:
-    /// Makes a record as AdifRecord does. Valid until the next call.
+    /// Makes the record of a contact line (see AdifRecord). The result is valid until the next call.
     const std::string& Make(std::string_view line, std::string_view band) {
         text_.clear();
         AddDate(kDate.Of(line));
@@ -33,7 +33,7 @@ public:
         return text_;
     }
 
-    /// The record made last, with a further line end that makes an empty line behind it.
+    /// The record made last, with another line end, which makes an empty line after it.
     const std::string& WithGap() {
         text_.append(kLineEnd);
         return text_;

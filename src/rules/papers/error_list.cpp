@@ -17,14 +17,15 @@ namespace vatro {
 
 namespace {
 
-/// Calls seen in a log are remembered with ten characters, cut or padded with blanks. A longer call is therefore never found again.
+/// Calls seen in a log are remembered with ten characters, cut or padded with blanks. A longer call is therefore never reported as a
+/// duplicate.
 constexpr std::size_t kRememberedCall = 10;
 
 void WriteError(LineSink& list, std::string_view message) {
     list.Write(std::string(kIndent).append("- ").append(message));
 }
 
-/// Whether a figure of a report lies between 1 and `highest`. A missing figure counts as good.
+/// Whether a digit of a report lies between 1 and `highest`. A missing digit counts as good.
 bool IsGoodDigit(std::string_view report, std::size_t number, char highest) {
     return report.size() < number || (report[number - 1] >= '1' && report[number - 1] <= highest);
 }
@@ -61,7 +62,7 @@ std::string_view PointsMessage(std::int32_t points) {
 
 }  // namespace
 
-/// The check of one log. The rules are applied in their order, each independently of the others.
+/// The check of one log. All rules are applied to each line, in the order of HasError, so a line can have several errors.
 class ErrorList::Check {
 public:
     Check(ErrorList& of, LineSink& list, const DateTime& now, std::string_view logMode)

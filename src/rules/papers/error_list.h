@@ -4,8 +4,8 @@
 // editors before the logs are sent in. No log is changed.
 //
 // All texts are trimmed of blanks on both sides before they are checked. Two of the rules for the received number test the received
-// report once more, so a wrong number is never found. Do not correct this: operators compare two error lists of one log and expect
-// the same lines (docs/rules.md).
+// report once more, so a wrong number is never found; and a duplicate is listed even if its line marks it as one. Do not correct this:
+// operators compare two error lists of one log and expect the same lines (docs/rules.md).
 #pragma once
 
 #include <cstdint>
@@ -55,7 +55,7 @@ private:
     Leftovers left_;
 };
 
-/// Writes the message that there is no such log. It is also written if a section breaks off.
+/// Writes the message that there is no such log. The message is also written if a section breaks off because of a failure.
 void WriteLogNotFound(LineSink& list);
 
 /// Writes the line above its first error, unless `QSOShown` says that this has been done. Returns true, the new value for `QSOShown`.

@@ -18,7 +18,7 @@ std::string Anchor(const LogId& log) {
     return std::string(log.band).append(log.mode);
 }
 
-/// Formats a number with a blank or its sign before it and a blank behind it.
+/// Formats a number with a blank or its minus sign before it and a blank after it.
 std::string FreeForm(std::int32_t number) {
     return NumberText(number) + " ";
 }

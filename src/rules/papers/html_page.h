@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The whole contest on one web page, with a heading that says it is preliminary. Text from the logs is not escaped. Some tags are
-// closed twice, others never, and the anchor is "Top" although the links say "#top"; browsers show the page all the same. Do not
-// correct this: the page stays the same to the letter for programs that read it (docs/rules.md).
+// The whole contest on one web page, with a heading that says it is preliminary. Text from the logs is not escaped. Some tags are closed
+// twice, others never, and the anchor is "Top" although the links say "#top"; browsers show the page anyway. Do not correct this: the
+// page stays the same to the letter for programs that read it (docs/rules.md).
 #pragma once
 
 #include "papers/context.h"

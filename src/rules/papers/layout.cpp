@@ -9,7 +9,7 @@ namespace vatro {
 
 namespace {
 
-/// Number of columns of a log line that a paper shows, behind the date.
+/// Number of columns of a log line that a paper shows after the date.
 constexpr std::size_t kShownWidth = 70;
 
 std::string YearText(const PaperContext& context) {

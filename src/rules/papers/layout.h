@@ -19,7 +19,7 @@ namespace vatro {
 using namespace literals;
 
 inline constexpr std::string_view kIndent = "       ";
-/// The column names above the rows of contacts, behind kIndent.
+/// The column names above the rows of contacts, without kIndent.
 inline constexpr std::string_view kColumnNames = "  Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode"_t;
 inline constexpr std::string_view kThisPage = "Ialt denne side:";
 inline constexpr std::string_view kAccumulated = "Ialt akkumuleret:";

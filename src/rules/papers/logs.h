@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The ten logs as papers read them: each from its first line in the file, and never changed. The log that the entry desk holds in
-// memory is not used.
+// Reads the ten logs for the papers. A paper reads each log from its file, beginning at the first line, and never changes it. It does not
+// use the log that the entry desk holds in memory.
 #pragma once
 
 #include <array>
@@ -29,7 +29,8 @@ inline constexpr std::array<LogId, 10> kPaperOrder{{{"80m", "CW"},
 class LogReader {
 public:
     virtual ~LogReader() = default;
-    /// Opens a log at its first line; valid until Close. Fails if there is no such log, and with 55 while another log is open.
+    /// Opens a log at its first line. The returned source is valid until Close. Fails if there is no such log, and with 55 while another
+    /// log is open.
     virtual LineSource& Open(const LogId& log) = 0;
     /// Closes the open log.
     virtual void Close() = 0;
@@ -43,7 +44,9 @@ void WriteBlank(LineSink& paper);
 bool IsNoteLine(std::string_view line);
 /// Whether the line counts as a contact: neither a note nor marked as a duplicate.
 bool CountsAsContact(std::string_view line);
-/// Whether the line counts as a multiplier: a contact whose column 44 is not blank. A line that ends before column 44 counts too.
+/// Whether the line counts as a multiplier: a contact whose column 44 is not blank. A line that ends before column 44 counts too,
+/// although the load of a log does not count it. Do not correct this: stations that recount an old log must find the sum they sent in
+/// (docs/rules.md).
 bool CountsAsMultiplier(std::string_view line);
 
 /// Totals of contact lines. Fails with 6 if a total overflows 32 bits.
@@ -52,8 +55,9 @@ struct LogSum {
     std::int32_t Mults = 0;
     std::int32_t Score = 0;
 
-    /// Adds a line to the totals. The points columns are added for every line: also for a duplicate, which has 0 there, and for a
-    /// note, so digits of a note in these columns raise the points of its log.
+    /// Adds a line to the totals. The points columns are added for every line: also for a duplicate, which has 0 there, and for a note,
+    /// so digits of a note in these columns raise the points of its log. Do not skip notes: stations must find the sum they sent in
+    /// (docs/rules.md).
     void CountLine(std::string_view line);
     /// Adds the points and multipliers of other totals.
     void Add(const LogSum& other);

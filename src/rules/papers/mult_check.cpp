@@ -18,7 +18,7 @@ constexpr std::size_t kCellWidth = 7;
 constexpr int kRowsPerPage = 50;
 constexpr std::string_view kModes = "CW     SSB    CW     SSB    CW     SSB    CW     SSB    CW     SSB    ";
 
-/// The cells of a row side by side; nothing if the row is below the last row of every column.
+/// The cells of a row side by side; nothing if no column has this row.
 std::optional<std::string> MultiplierRow(const Multipliers& multipliers, std::size_t row) {
     std::string text;
     bool any = false;

@@ -16,8 +16,8 @@ namespace vatro {
 
 inline constexpr std::size_t kMultiplierRows = 100;
 
-/// The cells of a column, counted from 1. A cell has at most 7 characters. For a line that ends before the end of the multiplier the
-/// cell is shorter and moves the columns to its right; this shows the operator that the log has such a line.
+/// The cells of a column, counted from 1. A cell has at most 7 characters. If a line ends before column 50, its cell is shorter and the
+/// columns to the right of it move to the left; the operator sees from this that the log has such a line.
 using MultCells = std::array<std::string, kMultiplierRows + 1>;
 /// The columns, in the order of kTenLogs.
 using MultTable = std::array<MultCells, kTenLogs.size()>;
@@ -36,8 +36,10 @@ struct Multipliers {
     MultCount count{};
 };
 
-/// Collects the multipliers of a log. A log that cannot be opened gives an empty column. If the column overflows, or on any other
-/// failure, the column ends without a message and the log stays open, so the logs after it give nothing; a cell too many is counted.
+/// Collects the multipliers of a log. A log that cannot be opened gives an empty column. If the log has too many multipliers, or cannot
+/// be read to its end, the column ends there without a message; of too many multipliers the first one that does not fit is counted. The
+/// log then stays open, so the logs after it give nothing. Do not close it: a paper with half a log in it would be sent in unnoticed
+/// (docs/rules.md).
 MultColumn SamlMult(LogReader& logs, const LogId& log);
 
 /// Sorts each column by character code. Fails with 9 if a column has a cell too many.
@@ -46,7 +48,7 @@ Multipliers SortMult(Multipliers multipliers);
 /// Runs SamlMult for the ten logs, in the order of kTenLogs, then SortMult.
 Multipliers CollectAllMultipliers(LogReader& logs);
 
-/// The callbacks of one form of the check sheet: `line` writes a line, `newPage` begins a page with its heading.
+/// The callbacks that write the check sheet to a file or print it: `line` writes a line, `newPage` begins a page with its heading.
 struct MultiplierPaper {
     std::function<void(std::string_view)> line;
     std::function<void()> newPage;

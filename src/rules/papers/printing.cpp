@@ -14,7 +14,7 @@ constexpr std::string_view kHeadingFont = "Arial";
 constexpr std::string_view kBodyFont = "Courier New";
 constexpr double kBodySize = 10;
 
-/// The printer's format. Its rows are as long as in files, but the numbers stand in other columns.
+/// The printer's format. Its rows are as long as those in files, but the numbers are in other columns.
 constexpr TotalForm kPrintTotals{46, "@@@@@", "      @@@@", "      @@@@@@@"};
 
 void BeginNextPage(PageSink& pages, const PaperContext& context, std::string_view band, std::string_view mode) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The papers in print: logs, multiplier check sheet, summary and unknown prefixes. Each is read and counted like its file form, with
-// headings and footers for pages.
+// The papers in print: logs, multiplier check sheet, summary and unknown prefixes. The first three are read and counted like the papers
+// that are made as files. Every page has a heading and a footer.
 //
 // A footer fills the last line of its page, so the next text begins a new page by itself.
 #pragma once
@@ -29,7 +29,7 @@ void PrintKrop(LineSource& lines, PageSink& pages, const PaperContext& context, 
 void PrintMult(PageSink& pages, const PaperContext& context, const Multipliers& multipliers);
 
 /// Prints the rows of the summary, without heading and footer. The number of log sheets is given as the current page number, which is
-/// right if the summary is printed behind the logs in one job.
+/// right if the summary is printed after the logs in one job.
 void PrintSheet(PageSink& pages, const PaperContext& context, const Tally& tally);
 
 /// Prints the lines of the contacts with unknown prefixes. The caller prints the heading of the first page and the footer of the last

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The summary that is sent in: the whole contest by band and mode, with the final score. It is counted afresh from the ten logs for
-// each of its three forms: the file (its lines are here), the table of the web page, the printed sheet.
+// The summary that is sent in: the whole contest by band and mode, with the final score. It is made in three places: as a file (its lines
+// are written here), as a table of the web page, and in print. Each time it is counted afresh from the ten logs.
 //
 // The final score is the product of two totals: all multipliers times all points. The scores of bands are for information only.
 #pragma once
@@ -22,6 +22,7 @@ using namespace literals;
 
 /// The totals of one log; Score is Mults times Points.
 struct BandSum : LogSum {
+    /// Number of contacts, without duplicates and notes.
     std::int32_t QSOs = 0;
 };
 
@@ -31,12 +32,13 @@ struct LogCount {
     std::string Operators;
 };
 
-/// Counts a log, without its score, and adds its operators to `Operators`, those found in earlier logs. An operator whose call is
-/// contained in that text is not added, nor is the mark of an imported contact. A log that cannot be opened counts nothing. On any
-/// later failure the count ends without a message, with the lines counted so far, and the log stays open.
+/// Counts a log, without its score, and adds its operators to `Operators`, the list from the earlier logs. An operator whose call occurs
+/// anywhere in that text is not added, nor is the mark of an imported contact. A log that cannot be opened counts nothing. On any later
+/// failure the count ends without a message, with the lines counted so far, and the log stays open, so the logs after it count nothing.
+/// Do not close it: a paper with half a log in it would be sent in unnoticed (docs/rules.md).
 LogCount SumLog(LogReader& logs, const LogId& log, std::string Operators);
 
-/// Turns a list with "," before each name into one sorted by character code and separated by ", ".
+/// Sorts a list of names by character code. The names are separated by "," in the list given and by ", " in the list returned.
 std::string SortOper(std::string_view Operators);
 
 /// The contents of a summary.
@@ -54,6 +56,7 @@ struct Tally {
 
     const BandSum& CW(std::size_t bandNumber) const { return rows[2 * bandNumber]; }
     const BandSum& SSB(std::size_t bandNumber) const { return rows[2 * bandNumber + 1]; }
+    /// The operators as papers show them: sorted, and separated by ", ".
     std::string SortedOperators() const;
 };
 

@@ -24,12 +24,15 @@ inline constexpr int kEdrRows = 200;
 inline constexpr std::size_t kEdrCall = 6;
 
 struct EDRRec {
+    /// The line of edr.txt.
     FixedText<80> Linje;
     /// Whether it has been worked in the current log. Not stored in any file.
     bool Wkd = false;
 };
 
-/// The six characters that identify a station: the call, cut or padded with blanks.
+/// The six characters that identify a station: the call, cut or padded with blanks. A longer call that begins with those of a listed
+/// station is therefore taken for that station. Keep this: a station that logs a longer form of its listed call would lose the 10 points
+/// (docs/rules.md).
 std::string StationCall(std::string_view call);
 
 /// The list of stations. Only BeginReading and Read change its rows.
@@ -48,7 +51,7 @@ public:
     int StationsInUse() const;
 
     /// Looks a station up by the first six characters of the call and applies the action: Mark marks it as worked, Unmark clears the
-    /// mark, Test changes nothing. Returns the points of the station, whatever the action; nothing if the call is not on the list.
+    /// mark, Test changes nothing. With every action, returns the points of the station, or nothing if the call is not on the list.
     std::optional<std::int32_t> EDRstnWkd(std::string_view call, MarkAction action);
     /// The same lookup, without an action.
     std::optional<std::int32_t> StationPoints(std::string_view call) const;
@@ -60,7 +63,7 @@ public:
     void ResetEDR();
 
 private:
-    /// The next row after this one with the packed call, or 0.
+    /// The next row after `row` whose packed call is `call`, or 0.
     std::size_t RowBehind(std::size_t row, std::uint64_t call) const;
 
     /// The calls of the rows, packed into numbers for speed: when a log is loaded, each of its lines is looked up here.
