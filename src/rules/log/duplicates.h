@@ -4,8 +4,8 @@
 // call contains what has been typed so far. All searches scan the lines from the first to the last.
 //
 // Each search decides whether to skip a line by looking at the previous line, not at the line itself. A note is therefore not
-// skipped, and a note whose text looks like a call counts as a contact. Do not correct this: a log of an earlier contest that is
-// loaded again would get other duplicates than when it was made (docs/rules.md).
+// skipped, and a note whose text looks like a call counts as a contact. Do not correct this: in a log of an earlier contest a
+// correction would turn a duplicate into a valid contact, or the other way round, although its call stays the same (docs/rules.md).
 #pragma once
 
 #include <span>
