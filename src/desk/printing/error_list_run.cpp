@@ -15,15 +15,17 @@ namespace vatro {
 
 namespace {
 
-/// The error list with the tables of the desk. Its destructor, which also runs after a failure, copies the values left by the last
-/// contact checked into the desk's state.
+/// The error list with the tables and marks of the desk. Its destructor, which also runs after a failure, copies what the last log
+/// checked has left into the desk's state.
 class ErrorListOfDesk : public ErrorList {
 public:
-    ErrorListOfDesk() : ErrorList(desk().tables, desk().stations) {}
+    ErrorListOfDesk() : ErrorList(desk().countries, desk().stations) {}
     ~ErrorListOfDesk() {
+        desk().countries.TakeMarks(Countries());
+        desk().stations = CheckedStations();
         if (Left().gsCall) desk().gsCall = *Left().gsCall;
         desk().giQSOPoint = Left().giQSOPoint.value_or(desk().giQSOPoint);
-        desk().giMult = Left().giMult.value_or(desk().giMult);
+        desk().giMult = static_cast<std::int16_t>(desk().giMult + Left().newCountries);
     }
     ErrorListOfDesk(const ErrorListOfDesk&) = delete;
     ErrorListOfDesk& operator=(const ErrorListOfDesk&) = delete;

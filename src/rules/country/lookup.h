@@ -74,6 +74,8 @@ public:
     bool Wkd(int row) const { return marks_[static_cast<std::size_t>(row)]; }
     /// Clears the marks of all rows in use.
     void ResetLande();
+    /// Takes over the marks of another object for the same tables.
+    void TakeMarks(const WorkedCountries& other) { marks_ = other.marks_; }
 
 private:
     const CountryTables& tables_;

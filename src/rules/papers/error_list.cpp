@@ -75,7 +75,6 @@ public:
           ssb_(logMode == "SSB") {
         countries_.ResetLande();
         stations_.ResetEDR();
-        left_.giMult = 0;
     }
 
     /// Checks a contact line and returns whether it has an error. Fails with 5 if it has no call, after listing the errors found so
@@ -135,7 +134,7 @@ private:
         std::int32_t& worth = left_.giQSOPoint.emplace(EuropeanPoints(call));
         const WorkedCountries::Result country = countries_.LandWkd(call, MarkAction::Mark);
         newMultiplier_ = Trim(country.prefix);
-        if (country.changed) ++*left_.giMult;
+        if (country.changed) ++left_.newCountries;
         worth = country.points.value_or(worth);
         const double points = NumericValue(kPoint.TrimmedOf(line_));
         if (duplicate_) {

@@ -28,12 +28,17 @@ void DanFejlListHoved(LineSink& list, const LogId& log);
 /// Checks the logs, with worked marks of its own.
 class ErrorList {
 public:
-    /// `tables` must outlive this object.
-    ErrorList(const CountryTables& tables, const Stations& stations) : countries_(tables), stations_(stations) {}
+    /// Begins with the marks given, and with the tables of `countries`, which must outlive this object.
+    ErrorList(const WorkedCountries& countries, const Stations& stations) : countries_(countries), stations_(stations) {}
 
     /// Checks the lines of a log and writes the errors. Fails with 62 if there is no line, and with 5 at a line without a call, after
     /// writing the errors found so far. The worked marks are cleared first: each log is checked on its own.
     void DanFejlListKrop(LineSource& lines, LineSink& list, const PaperContext& context, const LogId& log);
+
+    /// The marks as the log checked last left them. The entry desk takes them over. A load clears the marks of the rows in use, so only
+    /// the mark of a row that is not in use stays: without a country table every prefix leads to such a row.
+    const WorkedCountries& Countries() const { return countries_; }
+    const Stations& CheckedStations() const { return stations_; }
 
     /// Values from the contact checked last; a value is empty if the check ended before it was computed. The entry desk shows these
     /// values until it looks up the next contact.
@@ -42,8 +47,9 @@ public:
         std::optional<std::string> gsCall;
         /// Points of the last contact.
         std::optional<std::int32_t> giQSOPoint;
-        /// Number of countries worked in the last log, up to the line where its check ended.
-        std::optional<std::int16_t> giMult;
+        /// How often a country was marked in all logs checked. The entry desk adds it to its number of worked countries, which is wrong
+        /// until the next load. The run loads the log at its end, so nobody sees it unless the run fails.
+        std::int16_t newCountries = 0;
     };
     const Leftovers& Left() const { return left_; }
 

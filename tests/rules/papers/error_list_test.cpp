@@ -32,7 +32,7 @@ protected:
 
     /// The part of the error list for a log that is checked after the earlier ones.
     Lines SectionOf(std::string_view band, std::string_view mode) {
-        ErrorList checker(tables, stations);
+        ErrorList checker(WorkedCountries(tables), stations);
         WrittenLines section;
         for (const LogId& log : kPaperOrder) {
             section.lines.clear();
@@ -287,7 +287,7 @@ TEST_F(ErrorLists, PassesAContactWithTheOwnCall) {
 }
 
 TEST_F(ErrorLists, FailAtALogWithoutALineAndAtALineWithoutACall) {
-    ErrorList checker(tables, stations);
+    ErrorList checker(WorkedCountries(tables), stations);
     WrittenLines list;
     ListedLines none({});
     EXPECT_THROW(checker.DanFejlListKrop(none, list, context, k80mCW), RunTimeError);
@@ -299,11 +299,29 @@ TEST_F(ErrorLists, FailAtALogWithoutALineAndAtALineWithoutACall) {
     EXPECT_TRUE(list.lines.back().starts_with("       - "));
 }
 
+TEST_F(ErrorLists, LeaveBehindTheMarksOfTheLastLog) {
+    WorkedCountries before(tables);
+    before.LandWkd("G3AAA", MarkAction::Mark);
+    ErrorList checker(before, stations);
+    constexpr int kGermany = 1;
+    constexpr int kEngland = 2;
+    WrittenLines list;
+    ListedLines none({});
+    // A log without a line fails after the marks have been cleared.
+    EXPECT_TRUE(checker.Countries().Wkd(kEngland));
+    EXPECT_THROW(checker.DanFejlListKrop(none, list, context, k80mCW), RunTimeError);
+    EXPECT_FALSE(checker.Countries().Wkd(kEngland));
+    ListedLines lines({Contact({.call = "DL1AA"}), Contact({.call = "OZ1ABC"})});
+    checker.DanFejlListKrop(lines, list, context, k80mCW);
+    EXPECT_TRUE(checker.Countries().Wkd(kGermany));
+    EXPECT_FALSE(checker.Countries().Wkd(kEngland));
+    EXPECT_TRUE(checker.CheckedStations().EDRstn[1].Wkd);
+}
+
 TEST_F(ErrorLists, LeaveBehindWhatTheLastContactWas) {
-    ErrorList checker(tables, stations);
+    ErrorList checker(WorkedCountries(tables), stations);
     EXPECT_FALSE(checker.Left().gsCall);
     EXPECT_FALSE(checker.Left().giQSOPoint);
-    EXPECT_FALSE(checker.Left().giMult);
     const auto check = [&](const Lines& log) {
         WrittenLines list;
         ListedLines lines(log);
@@ -314,19 +332,18 @@ TEST_F(ErrorLists, LeaveBehindWhatTheLastContactWas) {
     // Only six characters, because the station list holds calls of six characters.
     EXPECT_EQ(left.gsCall, "VK2ABC");
     EXPECT_EQ(left.giQSOPoint, 6);
-    EXPECT_EQ(left.giMult, 2);
+    EXPECT_EQ(left.newCountries, 2);
     // A duplicate is not searched for in the station list, so its call stays as it is, with the points of its country.
     left = check({Contact({.call = "G3ABCDE"}), Contact({.call = "G3ABCDE/P"})});
     EXPECT_EQ(left.gsCall, "G3ABCDE");
     EXPECT_EQ(left.giQSOPoint, 5);
-    EXPECT_EQ(left.giMult, 1);
+    EXPECT_EQ(left.newCountries, 3);
     left = check({Contact({.call = "OZ1ABC"}), "NOTE: pause"});
     EXPECT_EQ(left.gsCall, "OZ1ABC");
     EXPECT_EQ(left.giQSOPoint, 10);
-    // Notes are not contacts: only the marks are reset.
+    // Notes are not contacts.
     left = check({"NOTE: pause"});
     EXPECT_EQ(left.gsCall, "OZ1ABC");
-    EXPECT_EQ(left.giMult, 0);
 }
 
 TEST_F(ErrorLists, AreHeadedWithCallAndDay) {
