@@ -100,7 +100,7 @@ void FrmRetQSO::Fill(std::string_view line) {
     dateField.SetText(kDate.Of(line).empty() ? FormatDate(UtcNow()) : std::string(kDate.Of(line)));
 }
 
-void FrmRetQSO::NoteDuplicateAbove() {
+void FrmRetQSO::RecordDuplicateAbove() {
     const std::span<const std::string> lines = desk().log.Lines();
     const auto above = static_cast<std::size_t>(std::max(frmMain->log.ListIndex(), 0));
     desk().gbDupe = CheckDupQSO(lines.first(std::min(above, lines.size())), desk().gsCall);
@@ -125,10 +125,10 @@ void FrmRetQSO::Calculate() {
     const std::string call = fields[kCallField].Text();
     if (call.empty()) return;
     desk().gsCall = StripCall(call);
-    NoteDuplicateAbove();
-    NotePoints(call);
+    RecordDuplicateAbove();
+    RecordPoints(call);
     statusBar.SetPanel(1, ShownCountry(call).text);
-    ShowCalculated(NoteCountry(call, MarkAction::Test));
+    ShowCalculated(RecordCountry(call, MarkAction::Test));
 }
 
 void FrmRetQSO::ShowCalculated(std::string_view multiplier) {
@@ -161,7 +161,7 @@ void FrmRetQSO::TakeCorrection() {
     if (!time) return fields[kUtcField].SetFocus();
     desk().gsCall = StripCall(fields[kCallField].Text());
     if (!Accepted(CheckCall(desk().gsCall))) return fields[kCallField].SetFocus();
-    NoteDuplicateAbove();
+    RecordDuplicateAbove();
     if (desk().gbDupe) {
         multiplierField.SetText(kDupeMark);
         pointBox.SetListIndex(0);
@@ -174,11 +174,11 @@ void FrmRetQSO::LogCorrection(const std::string& time) {
     const std::string call = fields[kCallField].Text();
     // The multiplier is computed again; the text of multiplierField is not used.
     Contact contact;
-    contact.multiplier = NoteCountry(call, MarkAction::Mark);
-    NoteStation(desk().gsCall, MarkAction::Mark);
+    contact.multiplier = RecordCountry(call, MarkAction::Mark);
+    RecordStation(desk().gsCall, MarkAction::Mark);
     // The station was looked up by the first six characters of its call; from now on gsCall holds only these.
     desk().gsCall = StationCall(desk().gsCall);
-    NotePoints(call);
+    RecordPoints(call);
     const double point = NumericValue(pointBox.Text());
     if (point != desk().giQSOPoint) {
         MessageBox question;
@@ -223,8 +223,8 @@ namespace {
 void Withdraw(FrmRetQSO& form) {
     const std::string& call = form.fields[kCallField].Text();
     if (!call.empty() && !form.multiplierField.Text().empty() && form.multiplierField.Text() != kDupeMark)
-        NoteCountry(call, MarkAction::Unmark);
-    NoteStation(StripCall(call), MarkAction::Unmark);
+        RecordCountry(call, MarkAction::Unmark);
+    RecordStation(StripCall(call), MarkAction::Unmark);
     desk().log.AddPoints(-NumericValue(form.pointBox.Text()));
 }
 

@@ -34,7 +34,7 @@ public:
     /// Fills the controls from a contact line.
     void Fill(std::string_view line);
     /// Sets gbDupe: whether gsCall is a duplicate of a line above the one being corrected; see CheckDupQSO.
-    void NoteDuplicateAbove();
+    void RecordDuplicateAbove();
 
     void StoreState() override;
 

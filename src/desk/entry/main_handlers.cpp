@@ -207,7 +207,7 @@ void EntryForm::FieldLeft(int Index) {
     desk().gsCall = StripCall(fields[kCallField].Text());
     if (desk().gsCall.size() > 1)
         if (const auto station = desk().stations.findEDRstn(desk().gsCall)) statusBar.SetPanel(1, *station);
-    NoteDuplicate();
+    RecordDuplicate();
     if (desk().gbDupe) {
         frmQSOnr->visDupe();
         statusBar.SetPanel(1, kDupeWarning);

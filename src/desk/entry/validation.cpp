@@ -77,7 +77,7 @@ void ValiderQSO() {
     state.gsCall = StripCall(main.fields[kCallField].Text());
     if (!Accepted(CheckCall(state.gsCall))) return main.fields[kCallField].SetFocus();
     // A duplicate is not an error; it only changes what is logged.
-    NoteDuplicate();
+    RecordDuplicate();
     if (const auto field = FieldAtFault(main.fields)) return main.fields[*field].SetFocus();
     // The clock may have changed the time field while a question was open.
     LogContact(CheckTime(main.fields[kUtcField].Text()).value_or(*time));
@@ -85,9 +85,9 @@ void ValiderQSO() {
 
 std::string RateContact(std::string_view call, std::string_view station) {
     std::string multiplier;
-    if (!call.empty()) multiplier = NoteCountry(call, MarkAction::Mark);
-    NoteStation(station, MarkAction::Mark);
-    NotePoints(call);
+    if (!call.empty()) multiplier = RecordCountry(call, MarkAction::Mark);
+    RecordStation(station, MarkAction::Mark);
+    RecordPoints(call);
     if (!desk().gbDupe) return multiplier;
     desk().giQSOPoint = 0;
     return std::string(kDupeMark);

@@ -114,7 +114,7 @@ void ImportQSO(std::string_view line) {
     contact.time = LeftAligned(kCtTime.Of(line), 2) + ":" + LeftAligned(kCtMinute.Of(line), 2);
     contact.call = kCtCall.TrimmedOf(line);
     desk().gsCall = StripCall(contact.call);
-    NoteDuplicate();
+    RecordDuplicate();
     // The report sent is not read from the CT line.
     contact.reportSent = desk().gsMode == "SSB" ? "59" : "599";
     const double numberSent = NumericValue(kCtNumberSent.Of(line));

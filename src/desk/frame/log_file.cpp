@@ -29,12 +29,12 @@ void SelectLastLine() {
 /// Adds a contact line to the worked marks and the counters; giQSOnr becomes its serial number sent.
 void CountLine(std::string_view line) {
     const std::string_view multiplier = kMultiplier.Of(line);
-    if (!multiplier.empty() && multiplier.front() != ' ') NoteCountry(multiplier, MarkAction::Mark);
+    if (!multiplier.empty() && multiplier.front() != ' ') RecordCountry(multiplier, MarkAction::Mark);
     desk().log.AddPoints(NumericValue(kPoint.Of(line)));
     // The station is looked up by the first six columns of the call, without stripping "/P". The marks after a load can therefore
     // differ from those set when the same contacts were logged; points do not. Do not correct this: operators know the list of worked
     // stations as it is after a restart (docs/rules.md).
-    NoteStation(kCall.Of(line).substr(0, kEdrCall), MarkAction::Mark);
+    RecordStation(kCall.Of(line).substr(0, kEdrCall), MarkAction::Mark);
     desk().log.giQSOnr = ToInt16(NumericValue(kNumberSent.Of(line)));
 }
 

@@ -83,7 +83,7 @@ struct DeskState {
     std::string gsCall;
     /// Whether the contact of gsCall is a duplicate.
     bool gbDupe = false;
-    /// The last search for a duplicate, remembered so that NoteDuplicate need not repeat it.
+    /// The last search for a duplicate, remembered so that RecordDuplicate need not repeat it.
     struct DuplicateSearch {
         bool made = false;
         std::string call;

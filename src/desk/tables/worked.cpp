@@ -8,18 +8,18 @@
 
 namespace vatro {
 
-std::string NoteCountry(std::string_view call, MarkAction action) {
+std::string RecordCountry(std::string_view call, MarkAction action) {
     const WorkedCountries::Result result = desk().countries.LandWkd(call, action);
     if (result.points) desk().giQSOPoint = *result.points;
     if (result.changed && action != MarkAction::Test) desk().giMult = ToInt16(desk().giMult + (action == MarkAction::Mark ? 1 : -1));
     return std::string(result.prefix);
 }
 
-void NoteStation(std::string_view call, MarkAction action) {
+void RecordStation(std::string_view call, MarkAction action) {
     if (const auto points = desk().stations.EDRstnWkd(call, action)) desk().giQSOPoint = *points;
 }
 
-void NotePoints(std::string_view call) {
+void RecordPoints(std::string_view call) {
     desk().giQSOPoint = BeregnPoint(call, desk().tables, desk().stations, desk().gbVisLand);
 }
 
@@ -28,7 +28,7 @@ CountryStatus ShownCountry(std::string_view call) {
     return desk().countries.LandStatusTekst(call);
 }
 
-void NoteDuplicate() {
+void RecordDuplicate() {
     // A call is searched for when its field is left and again at Enter. The second time the earlier result is still valid unless the
     // log has changed.
     DeskState::DuplicateSearch& last = desk().lastSearch;

@@ -17,21 +17,21 @@ namespace vatro {
 /// Looks up the country of a call and applies the action to its mark in the current log. Returns its ten-character prefix if the
 /// action took effect (with Mark and Test: the contact is a new multiplier), otherwise an empty text. Mark and Unmark keep giMult up
 /// to date. A country outside Europe sets giQSOPoint to 6, whatever the action. Fails as WorkedCountries::LandWkd does.
-std::string NoteCountry(std::string_view call, MarkAction action);
+std::string RecordCountry(std::string_view call, MarkAction action);
 
 /// Looks up a station of the society by the first six characters of the call and applies the action to its mark. If it is found, sets
 /// giQSOPoint to 10.
-void NoteStation(std::string_view call, MarkAction action);
+void RecordStation(std::string_view call, MarkAction action);
 
 /// Sets giQSOPoint to the points of a call; see BeregnPoint.
-void NotePoints(std::string_view call);
+void RecordPoints(std::string_view call);
 
 /// Returns the country of a call as the status bar shows it. While gbVisLand is off the text is empty and the country does not count
 /// as unknown.
 CountryStatus ShownCountry(std::string_view call);
 
 /// Sets gbDupe: whether gsCall is in the current log already.
-void NoteDuplicate();
+void RecordDuplicate();
 
 /// Clears all worked marks and sets giMult to 0.
 void ClearWorked();

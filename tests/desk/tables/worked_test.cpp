@@ -30,37 +30,37 @@ protected:
     static bool IsDuplicate(std::string_view call) {
         desk().gsCall = call;
         desk().gbDupe = !desk().gbDupe;
-        NoteDuplicate();
+        RecordDuplicate();
         return desk().gbDupe;
     }
 };
 
 TEST_F(Worked, CountriesAreCountedUpAndDown) {
-    EXPECT_EQ(NoteCountry("DL1ABC", MarkAction::Mark), "DL        ");
+    EXPECT_EQ(RecordCountry("DL1ABC", MarkAction::Mark), "DL        ");
     EXPECT_EQ(desk().giMult, 1);
-    EXPECT_EQ(NoteCountry("DL2ABC", MarkAction::Mark), "");
+    EXPECT_EQ(RecordCountry("DL2ABC", MarkAction::Mark), "");
     EXPECT_EQ(desk().giMult, 1);
-    EXPECT_EQ(NoteCountry("DL2ABC", MarkAction::Unmark), "DL        ");
+    EXPECT_EQ(RecordCountry("DL2ABC", MarkAction::Unmark), "DL        ");
     EXPECT_EQ(desk().giMult, 0);
-    EXPECT_EQ(NoteCountry("DL2ABC", MarkAction::Unmark), "");
+    EXPECT_EQ(RecordCountry("DL2ABC", MarkAction::Unmark), "");
     EXPECT_EQ(desk().giMult, 0);
-    EXPECT_EQ(NoteCountry("DL2ABC", MarkAction::Test), "DL        ");
+    EXPECT_EQ(RecordCountry("DL2ABC", MarkAction::Test), "DL        ");
     EXPECT_EQ(desk().giMult, 0);
 }
 
 TEST_F(Worked, OnlyALookupThatDecidesPointsLeavesThem) {
-    NoteCountry("DL1ABC", MarkAction::Mark);
-    NoteCountry("XZ9XYZ", MarkAction::Mark);
-    NoteStation("DL1ABC", MarkAction::Mark);
+    RecordCountry("DL1ABC", MarkAction::Mark);
+    RecordCountry("XZ9XYZ", MarkAction::Mark);
+    RecordStation("DL1ABC", MarkAction::Mark);
     EXPECT_EQ(desk().giQSOPoint, 77);
     for (const MarkAction action : {MarkAction::Mark, MarkAction::Test, MarkAction::Unmark, MarkAction::Unmark}) {
         desk().giQSOPoint = 77;
-        NoteCountry("K1ABC", action);
+        RecordCountry("K1ABC", action);
         EXPECT_EQ(desk().giQSOPoint, 6);
     }
-    NoteStation("OZ1ABCDE", MarkAction::Test);
+    RecordStation("OZ1ABCDE", MarkAction::Test);
     EXPECT_EQ(desk().giQSOPoint, 10);
-    NotePoints("DL1ABC");
+    RecordPoints("DL1ABC");
     EXPECT_EQ(desk().giQSOPoint, 3);
 }
 
@@ -88,8 +88,8 @@ TEST_F(Worked, DuplicatesAreSoughtAgainInALogThatHasChanged) {
 }
 
 TEST_F(Worked, ClearedIsNothing) {
-    NoteCountry("DL1ABC", MarkAction::Mark);
-    NoteStation("OZ1ABC", MarkAction::Mark);
+    RecordCountry("DL1ABC", MarkAction::Mark);
+    RecordStation("OZ1ABC", MarkAction::Mark);
     ClearWorked();
     EXPECT_EQ(desk().giMult, 0);
     EXPECT_FALSE(desk().countries.Wkd(1));
