@@ -9,10 +9,10 @@
 #include <string_view>
 #include <vector>
 
-#include "country/import.h"
 #include "country/tables.h"
 #include "frame/state.h"
 #include "tables/frmCtyDat.h"
+#include "tables/import_country_file.h"
 #include "world.h"
 
 namespace {
@@ -57,7 +57,7 @@ bool Expected(Failure failure) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static auto* const world = new World;
-    ResetTables();
+    desk().tables = {};
     world->files.rest = {reinterpret_cast<const char*>(data), size};
     world->files.wrote = false;
     try {
@@ -66,8 +66,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!Expected(failure.Which()) || world->files.wrote || desk().tables.giRefPfx != 0) __builtin_trap();
         return 0;
     }
-    if (desk().tables.giLande > kCountryRows || desk().tables.giRefPfx > kPrefixRows) __builtin_trap();
-    for (int i = 1; i <= desk().tables.giRefPfx; ++i)
-        if (FindWholeCall(desk().tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed(), 1) > i) __builtin_trap();
+    const CountryTables& tables = desk().tables;
+    if (tables.giLande > kCountryRows || tables.giRefPfx > kPrefixRows) __builtin_trap();
+    for (int i = 1; i <= tables.giRefPfx; ++i) {
+        const auto found = tables.FindWholeCall(tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed(), 1);
+        if (!found || *found > i) __builtin_trap();
+    }
     return 0;
 }

@@ -37,9 +37,8 @@ Spellings SpellingsOf(const std::vector<std::string>& lines) {
     Spellings spellings;
     for (const std::string& line : lines) {
         if (IsNote(line)) continue;
-        std::string base(kCall.TrimmedOf(line));
-        StripCall(base);
-        spellings[LeftAligned(base, kBasis.latitude)].insert(LeftAligned(kCall.Of(line), kCall.latitude));
+        const std::string base = StripCall(kCall.TrimmedOf(line));
+        spellings[LeftAligned(base, kBasis.width)].insert(LeftAligned(kCall.Of(line), kCall.width));
     }
     return spellings;
 }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,18 +13,17 @@
 #include "columns.h"
 #include "country/lookup.h"
 #include "country/tables.h"
-#include "errors.h"
-#include "frame/state.h"
 
 namespace {
 
 using namespace vatro;
 
+/// The first row from `start` on that meets the condition, found by looking at each row.
 template <class Meets>
-int Scan(int start, Meets meets) {
-    for (int i = std::max(start, 1); i <= desk().tables.giRefPfx; ++i)
-        if (meets(desk().tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed())) return i;
-    return 0;
+std::optional<int> Scan(const CountryTables& tables, int start, Meets meets) {
+    for (int i = std::max(start, 1); i <= tables.giRefPfx; ++i)
+        if (meets(tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed())) return i;
+    return std::nullopt;
 }
 
 std::string_view TakeLine(std::string_view& rest) {
@@ -40,40 +40,35 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view call = TakeLine(rest);
     if (call.empty()) return 0;
 
-    ResetTables();
-    desk().tables.giLande = 1;
-    desk().tables.Lande[1].Pfx = "QQ";
-    while (!rest.empty() && desk().tables.giRefPfx < 100) {
-        ++desk().tables.giRefPfx;
-        desk().tables.RefPfx[static_cast<std::size_t>(desk().tables.giRefPfx)].Pfx = Trim(TakeLine(rest));
-        desk().tables.RefPfx[static_cast<std::size_t>(desk().tables.giRefPfx)].Land = "QQ";
+    static CountryTables tables;
+    tables = {};
+    tables.giLande = 1;
+    tables.Lande[1].Pfx = "QQ";
+    while (!rest.empty() && tables.giRefPfx < 100) {
+        PfxRec& row = tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)];
+        row.Pfx = Trim(TakeLine(rest));
+        row.Land = "QQ";
     }
-    IndexPrefixes();
+    tables.IndexPrefixes();
 
-    std::string prefixText;
-    findPfxCall(call, prefixText);
-    for (int start = 0; start <= desk().tables.giRefPfx; ++start) {
-        if (FindWholeCall(call, start) != Scan(start, [&](std::string_view prefix) { return prefix == call; })) __builtin_trap();
-        if (FindPrefix(prefixText, start) != Scan(start, [&](std::string_view prefix) { return prefixText.starts_with(prefix); }))
+    const std::string prefixText = findPfxCall(call);
+    for (int start = 0; start <= tables.giRefPfx; ++start) {
+        if (tables.FindWholeCall(call, start) != Scan(tables, start, [&](std::string_view prefix) { return prefix == call; }))
+            __builtin_trap();
+        if (tables.FindPrefix(prefixText, start) !=
+            Scan(tables, start, [&](std::string_view prefix) { return prefixText.starts_with(prefix); }))
             __builtin_trap();
     }
 
-    std::string base(call);
-    StripCall(base);
+    const std::string base = StripCall(call);
     if (base.size() > call.size()) __builtin_trap();
-    std::string again = base;
-    StripCall(again);
     // Stripping again can shorten only a call that still has a slash.
-    if (base.find('/') == std::string::npos && again != base) __builtin_trap();
+    if (base.find('/') == std::string::npos && StripCall(base) != base) __builtin_trap();
 
-    desk().gbVisLand = true;
-    desk().giMult = 0;
-    std::string found;
-    LandWkd(call, found, MarkAction::Mark);
-    if ((desk().giMult == 1) != desk().tables.Lande[1].Wkd || (desk().giMult == 1) == found.empty()) __builtin_trap();
-    std::string status;
-    LandStatusTekst(call, status);
-    LandWkd(call, found, MarkAction::Unmark);
-    if (desk().giMult != 0 || desk().tables.Lande[1].Wkd) __builtin_trap();
+    WorkedCountries worked(tables);
+    const WorkedCountries::Result marked = worked.LandWkd(call, MarkAction::Mark);
+    if (marked.changed != worked.Wkd(1) || marked.changed == marked.prefix.empty()) __builtin_trap();
+    worked.LandStatusTekst(call);
+    if (worked.LandWkd(call, MarkAction::Unmark).changed != marked.changed || worked.Wkd(1)) __builtin_trap();
     return 0;
 }

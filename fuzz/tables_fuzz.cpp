@@ -14,8 +14,8 @@
 #include "entry/qso_fields.h"
 #include "frame/start.h"
 #include "frame/state.h"
-#include "score/points.h"
 #include "score/stations.h"
+#include "tables/worked.h"
 #include "world.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -30,12 +30,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     BeginProgram();
     Dispatch(StartProgram);
     if (!ProgramRuns()) return 0;
-    if (CountriesInUse() > kCountryRows || desk().tables.giRefPfx > kPrefixRows + 1 || StationsInUse() > kEdrRows) __builtin_trap();
+    if (desk().tables.CountriesInUse() > kCountryRows || desk().tables.giRefPfx > kPrefixRows + 1 ||
+        desk().stations.StationsInUse() > kEdrRows)
+        __builtin_trap();
     for (const char* call : {"OZ1ABC", "OZ1ABC/P", "W1AW", "SV9/DL1XYZ", "Q"}) {
         Dispatch([&] {
             frmMain->fields[kCallField].SetText(call);
-            std::string points(call);
-            BeregnPoint(points);
+            RecordPoints(call);
         });
         if (!ProgramRuns()) return 0;
     }

@@ -199,7 +199,7 @@ void SafeFiles::OpenLogToRead(int number, std::string_view path, const fs::path&
         throw;
     }
     auto& place = slots_[static_cast<std::size_t>(number - 1)];
-    place.emplace();
+    place = Slot{};
     Slot& slot = *place;
     slot.path = file;
     try {
