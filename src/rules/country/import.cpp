@@ -24,13 +24,11 @@ std::string TableNumber(float number) {
     return (number < 0 ? "-" : " ") + std::string(digits.data(), end) + " ";
 }
 
-/// Removes the filler of a prefix; false if it has none.
-bool RemoveFiller(FixedText<kPrefixLength>& prefix) {
-    const FixedText<kPrefixLength> filled = prefix;
-    const std::string_view characters = filled.Padded();
-    if (characters.back() != kCtyFiller) return false;
-    prefix = std::string_view(characters.begin(), std::ranges::find(characters, kCtyFiller));
-    return true;
+/// How many characters of a sorted prefix stand before its filler; nothing if there is no filler.
+std::optional<std::size_t> LengthBeforeFiller(const FixedText<kPrefixLength>& prefix) {
+    const std::string_view characters = prefix.Padded();
+    if (characters.back() != kCtyFiller) return std::nullopt;
+    return characters.find(kCtyFiller);
 }
 
 }  // namespace
@@ -93,7 +91,10 @@ void CountryImport::CleanUp(const RowProgress& progress) {
     for (int i = 1; i <= tables_->giRefPfx; ++i) {
         progress(i);
         FixedText<kPrefixLength>& prefix = tables_->RefPfx[static_cast<std::size_t>(i)].Pfx;
-        if (!RemoveFiller(prefix)) continue;
+        const FixedText<kPrefixLength> filled = prefix;
+        const auto length = LengthBeforeFiller(filled);
+        if (!length) continue;
+        prefix = filled.Padded().substr(0, *length);
         const char first = prefix.Padded().front();
         if (first == last) continue;
         last = first;
