@@ -31,7 +31,8 @@ constexpr unsigned long kPatience = 2000;
 /// The settings to store if the process ends now; null while no program runs.
 DiskSettings* atExit = nullptr;
 
-/// Run by exit(). Qt calls exit() when the connection to the screen is lost, possibly in the middle of a handler.
+/// Run by exit(). Qt and Xlib call exit() when the connection to the screen is lost, possibly in the middle of a handler. Ends the process
+/// itself: the exit handlers of the libraries would find the program as it was, with the sound running, and could crash.
 void StoreAtExit() {
     if (atExit == nullptr) return;
     DiskSettings& settings = *std::exchange(atExit, nullptr);
@@ -46,23 +47,19 @@ void StoreAtExit() {
     }
     // Also stores the changes of a batch that will not be completed.
     settings.Flush();
+    std::_Exit(EXIT_FAILURE);
 }
 
 QtMessageHandler before = nullptr;
 
 /// When Qt loses a Wayland compositor, it calls _exit(), mostly on another thread. The message that it prints just before is the only
-/// sign.
+/// sign. When it loses an X server it prints one too, and then calls exit().
 void StoreBeforeLeaving(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     if (before != nullptr) before(type, context, text);
-    if (type == QtDebugMsg || !text.startsWith(QStringLiteral("The Wayland connection"))) return;
+    if (type == QtDebugMsg) return;
+    if (!text.startsWith(QStringLiteral("The Wayland connection")) && !text.startsWith(QStringLiteral("The X11 connection"))) return;
     if (QThread::currentThread() == qApp->thread()) return StoreAtExit();
-    QMetaObject::invokeMethod(
-        qApp,
-        [] {
-            StoreAtExit();
-            std::_Exit(EXIT_FAILURE);
-        },
-        Qt::QueuedConnection);
+    QMetaObject::invokeMethod(qApp, StoreAtExit, Qt::QueuedConnection);
     // Normally the process ends during this sleep; the limit applies if the program hangs.
     QThread::msleep(kPatience);
 }
@@ -81,6 +78,10 @@ Ends::Ends(DiskSettings& settings) : signals_(*this, [this] { Close(); }) {
     before = qInstallMessageHandler(StoreBeforeLeaving);
     static const bool registered = std::atexit(StoreAtExit) == 0;
     static_cast<void>(registered);
+}
+
+void StoreBeforeExitHandlersSoFar() {
+    static_cast<void>(std::atexit(StoreAtExit));
 }
 
 Ends::~Ends() {

@@ -53,4 +53,8 @@ private:
     EndSignals signals_;
 };
 
+/// Call once after a library has registered exit handlers of its own, as the sound system does when it is first used: from then on the
+/// settings are stored before those run. May be called on any thread.
+void StoreBeforeExitHandlersSoFar();
+
 }  // namespace vatro

@@ -8,6 +8,8 @@
 #include <QMediaDevices>
 #include <utility>
 
+#include "ends.h"
+
 namespace vatro {
 
 namespace {
@@ -48,6 +50,9 @@ bool QtSoundStream::Open(int samplesPerSecond) {
     sink_ = std::make_unique<QAudioSink>(device, format);
     sink_->setBufferSize(format.bytesForDuration(kAheadMilliseconds * kMicrosecondsPerMillisecond));
     input_ = sink_->start();
+    // The sound system's own exit handler can crash while sound is playing.
+    static const bool storesFirst = (StoreBeforeExitHandlersSoFar(), true);
+    static_cast<void>(storesFirst);
     return input_ != nullptr;
 }
 

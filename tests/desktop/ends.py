@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """
-    ends.py PROGRAM DATA
+    ends.py PROGRAM DATA [CASE...]
 
 Checks that the operator's settings are stored however the program ends: by a signal, with a box, a dialogue or a modal form open, and
-when the screen is lost. Skipped if the virtual screen or the window manager is not installed.
+when the screen is lost. Runs every case, or those named. Those that begin with "sending" need a sound system and run only if they are
+named. Skipped if the virtual screen or the window manager is not installed.
 """
 import os
 import signal
@@ -195,11 +196,24 @@ def a_screen_lost_at_the_first_start_stores_nothing():
         expect(desktop.setting("Band"), None, "the band")
 
 
+def sending_a_lost_screen_loses_no_setting():
+    with Desktop(DATA) as desktop:
+        up(desktop, Mode="CW", QsoMode="CW", LastOP="OZ1AB ")
+        desktop.press("F5")
+        desktop.window("CW TX")
+        # The sound system is at work now.
+        time.sleep(0.5)
+        desktop.lose_screen()
+        code, said = desktop.ended()
+        assert code > 0, f"Qt has not ended the program: {code} {said}"
+        expect_stored(desktop)
+
+
 NOTE = "Note"
 
 if __name__ == "__main__":
     skip_without_tools()
     os.umask(0o022)
-    cases = [case for name, case in list(globals().items()) if name.startswith(("a_", "an_", "the_", "signals_"))]
+    cases = [case for name, case in list(globals().items()) if name.startswith(("a_", "an_", "the_", "signals_", "sending_"))]
     chosen = sys.argv[3:]
-    sys.exit(run([case for case in cases if not chosen or case.__name__ in chosen]))
+    sys.exit(run([case for case in cases if case.__name__ in chosen or (not chosen and not case.__name__.startswith("sending_"))]))
