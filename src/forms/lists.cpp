@@ -27,13 +27,6 @@ const std::string& ListBox::List(int row) const {
     return Items()[static_cast<std::size_t>(row)];
 }
 
-void ListBox::SetList(int row, std::string_view text) {
-    if (row < 0 || row >= static_cast<int>(items_.size())) throw RunTimeError(Failure::InvalidCall);
-    items_[static_cast<std::size_t>(row)] = text;
-    Revise();
-    Tell(Aspect::ItemChanged, row);
-}
-
 void ListBox::AddItem(std::string text) {
     // std::string compares characters as unsigned values.
     const auto place = order_ == ListOrder::Sorted ? std::upper_bound(items_.begin(), items_.end(), text) : items_.end();

@@ -42,8 +42,6 @@ public:
     const std::string& List(int row) const;
     /// Changes with every edit; unique across lists.
     unsigned Revision() const { return revision_; }
-    /// Changes the text of a row, which keeps its position even in a sorted list. Fails with 5 if there is no such row.
-    void SetList(int row, std::string_view text);
     /// Adds a row at the place that ListOrder gives it. The selection stays on the same item.
     void AddItem(std::string text);
     /// Removes a row. The selection stays on the same item, or is cleared if that item is removed. Fails with 5 if there is no such row.

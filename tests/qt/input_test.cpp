@@ -131,14 +131,28 @@ TEST_F(WaysIn, ListAddsARowWithoutShowingTheOthersAnew) {
     QObject::connect(list.model(), &QAbstractItemModel::modelReset, &here, [&] { ++resets; });
     QObject::connect(list.model(), &QAbstractItemModel::rowsInserted, &here,
                      [&](const QModelIndex&, int first, int last) { added += last - first + 1; });
-    Dispatch([] {
-        frmRules->List1.AddItem("four");
-        frmRules->List1.SetList(0, "ONE");
-    });
+    Dispatch([] { frmRules->List1.AddItem("four"); });
     EXPECT_EQ(resets, 0);
     EXPECT_EQ(added, 1);
     EXPECT_EQ(list.model()->index(3, 0).data().toString(), QStringLiteral("four"));
+}
+
+TEST_F(WaysIn, ListShowsAChangedRowWithoutShowingTheOthersAnew) {
+    auto& list = WidgetOf<ItemList>(frmRules->List1);
+    const auto rows = std::make_shared<std::vector<std::string>>(3, "row");
+    Dispatch([&] { frmRules->List1.ShowRowsOf(rows); });
+    const QObject here;
+    int resets = 0;
+    QObject::connect(list.model(), &QAbstractItemModel::modelReset, &here, [&] { ++resets; });
+    Dispatch([&] {
+        rows->front() = "ONE";
+        frmRules->List1.OwnerReplaced(0);
+        rows->emplace_back("four");
+        frmRules->List1.OwnerAppended();
+    });
+    EXPECT_EQ(resets, 0);
     EXPECT_EQ(list.model()->index(0, 0).data().toString(), QStringLiteral("ONE"));
+    EXPECT_EQ(list.model()->index(3, 0).data().toString(), QStringLiteral("four"));
 }
 
 TEST_F(WaysIn, ListIsFilledAsAWhole) {

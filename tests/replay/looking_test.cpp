@@ -131,6 +131,40 @@ TEST(Looking, VariablesAreKnownByName) {
     EXPECT_FALSE(VariableValue("gsband"));
 }
 
+TEST(Looking, VariablesOfTheKeyerAreKnownByName) {
+    ResetDesk();
+    KeyerState& cw = desk().cw;
+    cw.giCWWPM = 21;
+    cw.giCWTone = 650;
+    cw.glCWVolume = 9000;
+    cw.giCWFarnsworth = 3;
+    cw.gsCWNummerFormat = "0001";
+    cw.gsCWRSTFormat = "599";
+    cw.gsCWRaa = "#C #R";
+    cw.gsCWCall = "DL1ABC";
+    cw.gsCWRST = "589";
+    cw.gsCWNummer = "0012";
+    EXPECT_EQ(VariableValue("giCWWPM"), "21");
+    EXPECT_EQ(VariableValue("giCWTone"), "650");
+    EXPECT_EQ(VariableValue("glCWVolume"), "9000");
+    EXPECT_EQ(VariableValue("giCWFarnsworth"), "3");
+    EXPECT_EQ(VariableValue("gsCWNummerFormat"), "\"0001\"");
+    EXPECT_EQ(VariableValue("gsCWRSTFormat"), "\"599\"");
+    EXPECT_EQ(VariableValue("gsCWRaa"), "\"#C #R\"");
+    EXPECT_EQ(VariableValue("gsCWCall"), "\"DL1ABC\"");
+    EXPECT_EQ(VariableValue("gsCWRST"), "\"589\"");
+    EXPECT_EQ(VariableValue("gsCWNummer"), "\"0012\"");
+    // Nothing has been sent yet.
+    EXPECT_EQ(VariableValue("gsCWTekst"), "\"\"");
+    EXPECT_EQ(VariableValue("gscwtegn"), "\"\"");
+    EXPECT_EQ(VariableValue("gsElement"), "\"\"");
+    EXPECT_EQ(VariableValue("glTegnPos"), "0");
+    EXPECT_EQ(VariableValue("glElementPos"), "0");
+    EXPECT_EQ(VariableValue("glCWSlat"), "0");
+    EXPECT_EQ(VariableValue("Priklen"), "0");
+    ResetDesk();
+}
+
 TEST(Looking, VariablesShowTextInQuotesAndTheRestBare) {
     desk().gsBand = "80m";
     desk().gsOperatør = "OZ1A";
