@@ -15,7 +15,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 int main(int count, char** arguments) {
     constexpr std::size_t kBeginnings = 16;
-    LLVMFuzzerTestOneInput(nullptr, 0);
+    // An empty input is no null pointer.
+    const std::uint8_t nothing = 0;
+    LLVMFuzzerTestOneInput(&nothing, 0);
     for (int i = 1; i < count; ++i) {
         std::ifstream in(arguments[i], std::ios::binary);
         const std::vector<char> content{std::istreambuf_iterator<char>(in), {}};
@@ -27,7 +29,7 @@ int main(int count, char** arguments) {
             // A copy of exactly this length, so that a sanitizer sees a read beyond its end.
             const std::vector<std::uint8_t> beginning(content.begin(),
                                                       content.begin() + static_cast<std::ptrdiff_t>(content.size() * part / kBeginnings));
-            LLVMFuzzerTestOneInput(beginning.data(), beginning.size());
+            LLVMFuzzerTestOneInput(beginning.empty() ? &nothing : beginning.data(), beginning.size());
         }
     }
     return 0;
