@@ -28,7 +28,7 @@ std::string TableNumber(float number) {
 std::optional<std::size_t> LengthBeforeFiller(const FixedText<kPrefixLength>& prefix) {
     const std::string_view characters = prefix.Padded();
     if (characters.back() != kCtyFiller) return std::nullopt;
-    return characters.find(kCtyFiller);
+    return static_cast<std::size_t>(std::ranges::find(characters, kCtyFiller) - characters.begin());
 }
 
 }  // namespace
