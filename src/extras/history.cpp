@@ -5,8 +5,10 @@
 #include <array>
 #include <charconv>
 #include <cstdio>
+#include <mutex>
 #include <set>
 #include <system_error>
+#include <utility>
 
 #include "codepage.h"
 #include "errors.h"
@@ -30,11 +32,14 @@ constexpr std::string_view kReadMeText =
     "Her ligger tidligere udgaver af loggene. Vatro lægger en udgave her, hver gang en rettelse skriver en log forfra.\r\n"
     "Navnet siger, hvilken log det er, og hvornår udgaven blev afløst. \"behold\": udgaven har en kontakt, som den næste\r\n"
     "ikke har. \"samles\": Vatro havde ikke læst den hele, da den blev afløst, og tilbyder ved næste start at samle dem.\r\n"
+    "\"fra kopi\": den løbende kopi havde kontakter, som loggen ikke har.\r\n"
     "Udgaver uden de ord ryddes op efter alder. Filerne må gerne kopieres og læses.\r\n"
     "På en disk, der ikke kan give en fil to navne, som en USB-nøgle, ligger udgaverne i stedet på computeren i\r\n"_t;
 
-constexpr std::array<std::pair<History::Keep, std::string_view>, 3> kMarks{
-    {{History::Keep::ByAge, ""}, {History::Keep::Always, " behold"}, {History::Keep::ToMerge, " samles"}}};
+constexpr std::array<std::pair<History::Keep, std::string_view>, 4> kMarks{{{History::Keep::ByAge, ""},
+                                                                            {History::Keep::Always, " behold"},
+                                                                            {History::Keep::ToMerge, " samles"},
+                                                                            {History::Keep::FromCopy, " fra kopi"}}};
 
 constexpr std::size_t kYoung = 20;
 constexpr std::string_view kEnding = ".txt";
@@ -44,6 +49,9 @@ constexpr std::string_view kPattern = "-0000 0000-00-00 00.00.00";
 std::string_view MarkOf(History::Keep keep) {
     return std::find_if(kMarks.begin(), kMarks.end(), [keep](const auto& mark) { return mark.first == keep; })->second;
 }
+
+/// Held while a version is added, so that no two get the same number.
+std::mutex taking;
 
 /// The file name without its extension.
 std::string Stem(std::string_view name) {
@@ -136,15 +144,30 @@ void History::AddNote(const Version& version, std::string_view text) {
 
 void History::MarkMerged(const fs::path& version) {
     std::string name = NativeText(version.filename());
-    const std::size_t mark = name.rfind(MarkOf(Keep::ToMerge));
-    if (mark == std::string::npos) return;
-    name.replace(mark, MarkOf(Keep::ToMerge).size(), MarkOf(Keep::Always));
-    RenameFile(version, version.parent_path() / PathOf(name));
+    for (const Keep keep : {Keep::ToMerge, Keep::FromCopy}) {
+        const std::size_t mark = name.rfind(MarkOf(keep));
+        if (mark == std::string::npos) continue;
+        name.replace(mark, MarkOf(keep).size(), MarkOf(Keep::Always));
+        RenameFile(version, version.parent_path() / PathOf(name));
+        return;
+    }
 }
 
-History::Version History::Next(const fs::path& file, Keep keep) const {
+History::Version History::AddContent(std::string_view name, std::string_view content, Keep keep) {
+    const std::scoped_lock lock(taking);
+    return StoreElsewhere(Next(name, keep), name, content);
+}
+
+History::Version History::StoreElsewhere(Version version, std::string_view name, std::string_view content) const {
+    MakeFolder(elsewhere_, elsewhere_);
+    version.path = elsewhere_ / PathOf(VersionName(Stem(name), version));
+    WriteWhole(version.path, content);
+    return version;
+}
+
+History::Version History::Next(std::string_view name, Keep keep) const {
     Version version;
-    const std::optional<Version> newest = Newest(NativeText(file.filename()));
+    const std::optional<Version> newest = Newest(name);
     version.number = newest ? newest->number + 1 : 1;
     version.keep = keep;
     version.when = now_();
@@ -169,12 +192,12 @@ bool History::TakeBeside(const fs::path& file, Version& version, Way way) const 
 }
 
 History::Version History::Take(const fs::path& file, Keep keep, Way way) {
-    Version version = Next(file, keep);
+    const std::scoped_lock lock(taking);
+    const std::string name = NativeText(file.filename());
+    Version version = Next(name, keep);
     // Never copy into the folder beside the file: the copy would be on the same stick or share. The computer is the safer place.
     if (way != Way::Copy && TakeBeside(file, version, way)) return version;
-    MakeFolder(elsewhere_, elsewhere_);
-    version.path = elsewhere_ / PathOf(VersionName(NativeText(file.stem()), version));
-    WriteWhole(version.path, ReadWhole(file));
+    version = StoreElsewhere(std::move(version), name, ReadWhole(file));
     if (way == Way::Move) {
         Require(RemoveFile(file));
         SyncDirectory(file.parent_path());

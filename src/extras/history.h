@@ -9,8 +9,11 @@
 //     FD80mSSB-0012 2026-09-05 14.05.30.txt            by age
 //     FD80mSSB-0012 2026-09-05 14.05.30 behold.txt     always: it holds a contact that its successor lacks
 //     FD80mSSB-0012 2026-09-05 14.05.30 samles.txt     always: the program had not seen all of it when it was replaced
+//     FD80mSSB-0012 2026-09-05 14.05.30 fra kopi.txt   always: found in the second copy, it holds a contact that the log lacks
 //
 // Versions kept by age are the newest 20 of a file and, among older ones, the newest of each hour.
+//
+// Several threads may use the history of one directory, each with an object of its own.
 #pragma once
 
 #include <filesystem>
@@ -26,8 +29,8 @@ namespace vatro {
 
 class History {
 public:
-    /// How long a version is kept. ToMerge is kept like Always; in addition, recovery proposes to merge it into the log.
-    enum class Keep { ByAge, Always, ToMerge };
+    /// How long a version is kept. ToMerge and FromCopy are kept like Always; in addition, recovery proposes to merge them into the log.
+    enum class Keep { ByAge, Always, ToMerge, FromCopy };
 
     /// One earlier version of a file.
     struct Version {
@@ -46,12 +49,14 @@ public:
     Version Add(const std::filesystem::path& file, Keep keep);
     /// Like Add, but always makes a copy, for a file that will be changed in place.
     Version AddCopy(const std::filesystem::path& file, Keep keep);
+    /// Adds a content that is not in a file of this directory as the newest version of the file `name`. It is stored elsewhere.
+    Version AddContent(std::string_view name, std::string_view content, Keep keep);
     /// Like Add, but moves the file: it no longer exists under its own name.
     Version Move(const std::filesystem::path& file, Keep keep);
     /// Writes `text` to a file beside the version, with the version's name followed by "note". A failure is not reported.
     static void AddNote(const Version& version, std::string_view text);
 
-    /// Marks a version as merged; it is still kept always. A failure is not reported: the merge is then proposed again.
+    /// Marks a version to be merged as merged; it is still kept always. A failure is not reported: the merge is then proposed again.
     static void MarkMerged(const std::filesystem::path& version);
 
     /// All versions of a file, newest first. `name` is the name of the file, such as "FD80mSSB.txt".
@@ -67,7 +72,8 @@ private:
     enum class Way { LinkOrCopy, Copy, Move };
 
     Version Take(const std::filesystem::path& file, Keep keep, Way way);
-    Version Next(const std::filesystem::path& file, Keep keep) const;
+    Version Next(std::string_view name, Keep keep) const;
+    Version StoreElsewhere(Version version, std::string_view name, std::string_view content) const;
     bool TakeBeside(const std::filesystem::path& file, Version& version, Way way) const;
 
     std::filesystem::path beside_;

@@ -212,6 +212,19 @@ std::vector<std::string_view> Merged(const std::vector<std::string_view>& old, c
     return merged;
 }
 
+bool IsYoung(const DateTime& when, const DateTime& now) {
+    constexpr long long kDays = 3;
+    constexpr long long kDay = 86'400'000;
+    return Milliseconds(now) - Milliseconds(when) < kDays * kDay;
+}
+
+bool IsOld(const std::vector<std::string_view>& lines, const DateTime& now) {
+    const auto last = std::find_if(lines.rbegin(), lines.rend(), IsContact);
+    if (last == lines.rend()) return false;
+    const auto date = ParseDate(kDate.Of(*last));
+    return date && !IsYoung(*date, now);
+}
+
 std::string LogContent(const std::vector<std::string_view>& lines) {
     std::string content;
     for (const std::string_view line : lines) content.append(line).append("\r\n");

@@ -13,6 +13,8 @@
 #include <string_view>
 #include <vector>
 
+#include "datetime.h"
+
 namespace vatro {
 
 /// Refers to the content it was made from, which must outlive it.
@@ -56,6 +58,12 @@ bool GoesOn(const std::vector<std::string_view>& old, const std::vector<std::str
 /// All lines of `now` in order, plus the lines of `old` that are missing from it, each placed after the line that it followed in `old`.
 /// Of a contact that both have under the same time and number, the line in `now` is used.
 std::vector<std::string_view> Merged(const std::vector<std::string_view>& old, const std::vector<std::string_view>& now);
+
+/// Whether something of this time can belong to the contest that is going on, because it is less than three days old.
+bool IsYoung(const DateTime& when, const DateTime& now);
+
+/// Whether the last contact among the lines is of an earlier contest. Lines without a date count as new.
+bool IsOld(const std::vector<std::string_view>& lines, const DateTime& now);
 
 /// Joins the lines to the content of a file.
 std::string LogContent(const std::vector<std::string_view>& lines);

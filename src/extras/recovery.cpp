@@ -26,8 +26,6 @@ namespace {
 
 constexpr std::string_view kCopy = "FDkopi.txt";
 constexpr std::size_t kMostStations = 200;
-/// A log that is missing altogether was most likely archived after its contest; only a recent one is reported.
-constexpr long long kYoungDays = 3;
 
 struct Log {
     fs::path path;
@@ -163,7 +161,7 @@ private:
         std::vector<const Log*> fitting;
         for (const Log& log : logs_)
             if (log.mode == mode) fitting.push_back(&log);
-        const Log* likely = IsOld(copy) ? nullptr : Likely(copy, fitting);
+        const Log* likely = IsOld(copy.lines, places_.now) ? nullptr : Likely(copy, fitting);
         if (likely == nullptr) {
             Finding& finding = Add(Finding::Action::KeepCopy, kCopy);
             finding.what = "Kopien fra en afbrudt rettelse ligger her, men ingen log passer til den."_t;
@@ -207,16 +205,6 @@ private:
         } catch (const RunTimeError&) {
             return false;
         }
-    }
-
-    /// Whether the last contact of the copy is from an earlier contest than the current one.
-    bool IsOld(const LogText& copy) const {
-        for (auto line = copy.lines.rbegin(); line != copy.lines.rend(); ++line) {
-            if (!IsContact(*line)) continue;
-            const auto date = ParseDate(kDate.Of(*line));
-            return date && !IsYoung(*date);
-        }
-        return false;
     }
 
     static std::string_view ModeOf(const LogText& copy) {
@@ -267,13 +255,17 @@ private:
         const std::vector<History::Version> versions = history_.Versions(log.name);
         // A version marked for merging stays marked until it has been merged, no matter how many corrections have been made since.
         for (const History::Version& version : versions)
-            if (version.keep == History::Keep::ToMerge && CompareWith(log, version)) return;
-        if (!versions.empty() && versions.front().keep != History::Keep::ToMerge) CompareWith(log, versions.front());
+            if (IsToMerge(version) && CompareWith(log, version)) return;
+        if (!versions.empty() && !IsToMerge(versions.front())) CompareWith(log, versions.front());
+    }
+
+    static bool IsToMerge(const History::Version& version) {
+        return version.keep == History::Keep::ToMerge || version.keep == History::Keep::FromCopy;
     }
 
     /// Adds a finding if the version has contacts that the log lacks. Returns whether it has added one.
     bool CompareWith(const Log& log, const History::Version& version) {
-        if (!log.exists && !IsYoung(version.when)) return false;
+        if (!log.exists && !IsYoung(version.when, places_.now)) return false;
         std::string content;
         try {
             content = ReadWhole(version.path);
@@ -284,13 +276,20 @@ private:
         if (GoesOn(text.lines, log.text.lines)) return false;
         const std::vector<std::string_view> missing = MissingContacts(text.lines, log.text.lines);
         if (missing.empty()) return false;
-        const bool unseen = version.keep == History::Keep::ToMerge;
+        const bool unseen = IsToMerge(version);
         Finding& finding = Add(!log.exists ? Finding::Action::Restore
                                : unseen    ? Finding::Action::MergeVersion
                                            : Finding::Action::PutBeside,
                                log.name);
         const std::string count = Contacts(missing.size());
-        if (!log.exists) {
+        finding.fromCopy = version.keep == History::Keep::FromCopy;
+        if (!log.exists && finding.fromCopy) {
+            finding.what = "Loggen mangler. Den løbende kopi har den."_t;
+            finding.proposal = "Loggen hentes fra kopien."_t;
+        } else if (finding.fromCopy) {
+            finding.what = Joined({"Den løbende kopi har "_t, count, ", som loggen ikke har."_t});
+            finding.proposal = "De sættes ind i loggen på deres plads. Loggen, som den er nu, lægges i historikken."_t;
+        } else if (!log.exists) {
             finding.what = "Loggen mangler. Historikken har den, som den var før den sidste rettelse."_t;
             finding.proposal = "Loggen hentes fra historikken."_t;
         } else if (unseen) {
@@ -309,11 +308,6 @@ private:
             return finding.file == name && finding.action != Finding::Action::CutEnd && finding.action != Finding::Action::None &&
                    finding.action != Finding::Action::KeepCopy;
         });
-    }
-
-    bool IsYoung(const DateTime& when) const {
-        constexpr long long kDay = 86'400'000;
-        return Milliseconds(places_.now) - Milliseconds(when) < kYoungDays * kDay;
     }
 
     // --- Other files that the program needs

@@ -61,6 +61,8 @@ struct Finding {
     std::filesystem::path log;
     /// The file that a repair takes contacts from: the copy or the version.
     std::filesystem::path source;
+    /// Whether the contacts were found in the second copy of the log.
+    bool fromCopy = false;
     /// The logs that an FDkopi.txt may belong to if its contacts do not decide; the first one is proposed.
     std::vector<std::string> candidates;
 };

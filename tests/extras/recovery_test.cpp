@@ -180,6 +180,28 @@ TEST_F(RecoveryTest, CutsADamagedEndAndKeepsTheWholeFile) {
     EXPECT_THAT(Actions(), IsEmpty());
 }
 
+TEST_F(RecoveryTest, MergesWhatTheSecondCopyHasMore) {
+    history_.AddContent("FD80mSSB.txt", LogOf(6), History::Keep::FromCopy);
+    Put("log/FD80mSSB.txt", LogOf(4));
+    const std::vector<Finding> findings = Look();
+    ASSERT_THAT(findings, SizeIs(1));
+    EXPECT_TRUE(findings[0].fromCopy);
+    EXPECT_EQ(ToUtf8(findings[0].what), "Den løbende kopi har 2 kontakter, som loggen ikke har.");
+    Repair(findings[0], history_);
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(6));
+    EXPECT_THAT(Look(), IsEmpty());
+}
+
+TEST_F(RecoveryTest, FetchesAMissingLogFromTheSecondCopy) {
+    history_.AddContent("FD80mSSB.txt", LogOf(6), History::Keep::FromCopy);
+    const std::vector<Finding> findings = Look();
+    ASSERT_THAT(findings, SizeIs(1));
+    EXPECT_EQ(ToUtf8(findings[0].what), "Loggen mangler. Den løbende kopi har den.");
+    Repair(findings[0], history_);
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(6));
+    EXPECT_THAT(Look(), IsEmpty());
+}
+
 TEST_F(RecoveryTest, PutsBackWhatTheProgramHadNotSeen) {
     PutVersion(LogOf(6), History::Keep::ToMerge);
     // The program had read two lines, corrected one and logged one.
