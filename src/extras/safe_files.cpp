@@ -55,6 +55,21 @@ std::string TextOf(const fs::path& path) {
     return NativeText(shown.make_preferred());
 }
 
+/// Reports the end of writing a log, however it ends.
+class EndOfWriting {
+public:
+    EndOfWriting(const fs::path& file, const std::function<void(const fs::path&)>& ended) : file_(file), ended_(ended) {}
+    ~EndOfWriting() {
+        if (IsLogName(file_)) ended_(file_);
+    }
+    EndOfWriting(const EndOfWriting&) = delete;
+    EndOfWriting& operator=(const EndOfWriting&) = delete;
+
+private:
+    const fs::path& file_;
+    const std::function<void(const fs::path&)>& ended_;
+};
+
 }  // namespace
 
 bool IsLogName(const fs::path& file) {
@@ -175,14 +190,18 @@ void SafeFiles::Open(int number, std::string_view path, FileMode mode) {
             disk_.Open(number, path, mode);
             break;
         case FileMode::Append:
-            return OpenToAppend(number, path, *file);
+            return Write(*file, [&] { OpenToAppend(number, path, *file); });
         case FileMode::Output:
-            OpenToWrite(number, path, *file);
+            if (HasName(*file, kMarkerName))
+                ChooseDirectory(number, path, *file);
+            else
+                Write(*file, [&] { OpenToWrite(number, path, *file); });
             break;
     }
     Slot slot;
     slot.path = *file;
     slot.mode = mode;
+    if (mode == FileMode::Output && IsLogName(*file)) surroundings_.writeBegins();
     slots_[static_cast<std::size_t>(number - 1)] = std::move(slot);
 }
 
@@ -257,12 +276,30 @@ void SafeFiles::OpenToAppend(int number, std::string_view path, const fs::path& 
     slot.path = file;
     slot.mode = FileMode::Append;
     slot.sizeBefore = SizeOf(file);
+    TellOfForeignChange(file, slot.sizeBefore);
     disk_.Open(number, path, FileMode::Append);
+    if (IsLogName(file)) surroundings_.writeBegins();
     slots_[static_cast<std::size_t>(number - 1)] = std::move(slot);
 }
 
+/// Tells the operator if a log has another size than when the program read or wrote it: what the window shows is not in the file then.
+void SafeFiles::TellOfForeignChange(const fs::path& log, std::size_t size) {
+    const auto known = known_.find(log);
+    if (known == known_.end() || known->second.size == size || known->second.size == kUnlike) return;
+    // The damaged end may have stayed in the file because it could not be kept elsewhere.
+    if (told_.contains({Matter::Damage, log})) return;
+    std::error_code error;
+    const std::string_view what = !fs::exists(log, error)     ? "er blevet fjernet fra disken"
+                                  : size < known->second.size ? "er blevet kortere på disken"_t
+                                                              : "er blevet længere på disken"_t;
+    Tell(Matter::Changed, log,
+         Joined({NativeText(log.filename()), " ", what,
+                 " af noget andet end programmet.\r\n\r\nVinduet viser stadig de kontakter, som programmet har læst eller logget. "
+                 "Vælg ikke et andet bånd, og afslut ikke: ret i stedet en linje i loggen, og tryk Log. Så skriver programmet alle "
+                 "linjerne i vinduet i filen igen, og filen, som den er nu, kommer i historikken."_t}));
+}
+
 void SafeFiles::OpenToWrite(int number, std::string_view path, const fs::path& file) {
-    if (HasName(file, kMarkerName)) return ChooseDirectory(number, path, file);
     CheckPlace(file);
     if (HasName(file, kCopyName) && SizeOf(file) > 0) SetAside(file);
     disk_.Open(number, path, FileMode::Output);
@@ -315,21 +352,39 @@ bool SafeFiles::EndOfFile(int number) {
 }
 
 void SafeFiles::PrintLine(int number, std::string_view text) {
-    disk_.PrintLine(number, text);
-    if (Slot* slot = SlotOf(number); slot != nullptr && slot->mode == FileMode::Append) slot->appended.append(text).append(kLineEnd);
+    Slot* slot = SlotOf(number);
+    if (slot == nullptr) return disk_.PrintLine(number, text);
+    Write(slot->path, [&] { disk_.PrintLine(number, text); });
+    if (slot->mode == FileMode::Append) slot->appended.append(text).append(kLineEnd);
 }
 
 void SafeFiles::Print(int number, std::string_view text) {
-    disk_.Print(number, text);
-    if (Slot* slot = SlotOf(number); slot != nullptr && slot->mode == FileMode::Append) slot->appended.append(text);
+    Slot* slot = SlotOf(number);
+    if (slot == nullptr) return disk_.Print(number, text);
+    Write(slot->path, [&] { disk_.Print(number, text); });
+    if (slot->mode == FileMode::Append) slot->appended.append(text);
 }
 
 void SafeFiles::Close(int number) {
     Slot* open = SlotOf(number);
     if (open == nullptr) return disk_.Close(number);
     const Slot slot = *std::exchange(slots_[static_cast<std::size_t>(number - 1)], std::nullopt);
-    disk_.Close(number);
-    if (slot.mode == FileMode::Append && IsLogName(slot.path)) LearnAppended(slot);
+    if (slot.mode == FileMode::Input) return disk_.Close(number);
+    const EndOfWriting end(slot.path, surroundings_.writeEnded);
+    Write(slot.path, [&] { disk_.Close(number); });
+    if (slot.mode != FileMode::Append || !IsLogName(slot.path)) return;
+    LearnAppended(slot);
+    for (const std::string_view line : ReadLogText(slot.appended).lines) surroundings_.saved(line);
+}
+
+template <class StepOfWriting>
+void SafeFiles::Write(const fs::path& file, StepOfWriting step) {
+    try {
+        step();
+    } catch (const RunTimeError& failure) {
+        surroundings_.notSaved(file, failure.Which());
+        throw;
+    }
 }
 
 void SafeFiles::Learn(const fs::path& log, std::string_view content) {
@@ -357,11 +412,23 @@ void SafeFiles::LearnAppended(const Slot& slot) {
 }
 
 void SafeFiles::Delete(std::string_view path) {
+    const auto file = PathTo(path);
     disk_.Delete(path);
+    if (file) Changed(*file);
 }
 
 void SafeFiles::Rename(std::string_view from, std::string_view to) {
+    const auto source = PathTo(from);
     disk_.Rename(from, to);
+    if (source) Changed(*source);
+    if (const auto target = PathTo(to)) Changed(*target);
+}
+
+/// The file has been replaced or has gone, in one step.
+void SafeFiles::Changed(const fs::path& file) const {
+    if (!IsLogName(file)) return;
+    surroundings_.writeBegins();
+    surroundings_.writeEnded(file);
 }
 
 // --- Replacing
@@ -370,44 +437,49 @@ void SafeFiles::Replace(std::string_view copy, std::string_view name) {
     const auto copyPath = PathTo(copy);
     const auto log = PathTo(name);
     if (!copyPath || !log) return disk_.Replace(copy, name);
-    CheckPlace(*log);
-    std::error_code error;
-    if (!fs::exists(*copyPath, error)) Fail(Failure::FileNotFound);
+    Write(*log, [&] { ReplaceLog(*copyPath, *log); });
+}
 
-    const std::string now = ReadWhole(*copyPath);
+void SafeFiles::ReplaceLog(const fs::path& copy, const fs::path& log) {
+    CheckPlace(log);
+    std::error_code error;
+    if (!fs::exists(copy, error)) Fail(Failure::FileNotFound);
+
+    const std::string now = ReadWhole(copy);
     std::size_t unseen = 0;
     std::string where;
-    if (fs::exists(*log, error)) {
-        const std::string old = ReadWhole(*log);
+    if (fs::exists(log, error)) {
+        const std::string old = ReadWhole(log);
         const LogText oldText = ReadLogText(old);
         const LogText nowText = ReadLogText(now);
-        const auto known = known_.find(*log);
+        const auto known = known_.find(log);
         const std::string_view sound = std::string_view(old).substr(0, oldText.damagedFrom);
         const bool asRead = known == known_.end() || (known->second.size == sound.size() && known->second.hash == ContentHash(sound));
         const bool correction = IsCorrection(oldText.lines, nowText.lines) && (asRead || old == now);
         const std::size_t missing = MissingContacts(oldText.lines, nowText.lines).size();
         const History::Keep keep = !correction ? History::Keep::ToMerge : missing > 0 ? History::Keep::Always : History::Keep::ByAge;
         if (!correction) unseen = std::max<std::size_t>(missing, 1);
-        History history = HistoryOf(log->parent_path());
+        History history = HistoryOf(log.parent_path());
         try {
-            where = TextOf(history.Add(*log, keep).path);
+            where = TextOf(history.Add(log, keep).path);
         } catch (const RunTimeError&) {
             // A correction by this program loses nothing else; anything else must not replace a file that was not kept.
             if (!correction) throw;
-            Tell(Matter::Room, log->parent_path(),
+            Tell(Matter::Room, log.parent_path(),
                  std::string("Der er ikke plads til tidligere udgaver af loggen. Rettelsen er gemt, den gamle udgave er ikke.\r\n\r\n"
                              "Gør plads på disken."_t));
         }
-        CopyRights(*log, *copyPath);
+        CopyRights(log, copy);
     }
-    if (const int failed = RenameOver(*copyPath, *log); failed != 0) Fail(FailureOf(failed));
-    SyncDirectory(log->parent_path());
-    Learn(*log, now);
-    damaged_.erase(*log);
-    if (!where.empty()) HistoryOf(log->parent_path()).Prune(NativeText(log->filename()));
+    if (const int failed = RenameOver(copy, log); failed != 0) Fail(FailureOf(failed));
+    Changed(log);
+    SyncDirectory(log.parent_path());
+    Learn(log, now);
+    damaged_.erase(log);
+    if (!where.empty()) HistoryOf(log.parent_path()).Prune(NativeText(log.filename()));
     if (unseen > 0)
         Tell(Matter::Unseen, where,
-             Joined({NativeText(log->filename()),
+             Joined({NativeText(log.filename()),
                      " på disken var en anden, end programmet havde læst, da rettelsen blev gemt.\r\n\r\n"
                      "Loggen har nu de linjer, som vinduet viser. Intet er slettet: filen, som den var, ligger hel som\r\n"_t,
                      where, "\r\n\r\nAfslut Vatro, når I har et roligt øjeblik, og start igen: så tilbyder programmet at samle de to."_t}));

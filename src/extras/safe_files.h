@@ -51,6 +51,13 @@ public:
         std::function<bool()> askSilent = [] { return false; };
         /// Called when a directory has been locked, before it is first read.
         std::function<void(const std::filesystem::path&)> directoryWon = [](const std::filesystem::path&) {};
+        /// Called when a line that was appended to a log is on the disk.
+        std::function<void(std::string_view line)> saved = [](std::string_view) {};
+        /// Called when a file could not be written, before the caller gets the failure.
+        std::function<void(const std::filesystem::path& file, Failure failure)> notSaved = [](const std::filesystem::path&, Failure) {};
+        /// Called before a log is written, and when it has been written, also if that failed.
+        std::function<void()> writeBegins = [] {};
+        std::function<void(const std::filesystem::path& log)> writeEnded = [](const std::filesystem::path&) {};
         DirectoryLock::Options lock{};
     };
 
@@ -111,9 +118,13 @@ private:
     };
 
     /// Subjects of messages. Each is reported once for each file or directory.
-    enum class Matter { Damage, Inside, Unseen, Room, Lock };
+    enum class Matter { Damage, Inside, Unseen, Room, Lock, Changed };
 
     Slot* SlotOf(int number);
+    /// Runs a step of writing a file, and tells if it fails.
+    template <class StepOfWriting>
+    void Write(const std::filesystem::path& file, StepOfWriting step);
+    void Changed(const std::filesystem::path& file) const;
     std::optional<std::filesystem::path> PathTo(std::string_view path) const;
     void OpenLogToRead(int number, std::string_view path, const std::filesystem::path& file);
     void OpenToAppend(int number, std::string_view path, const std::filesystem::path& file);
@@ -121,8 +132,10 @@ private:
     void ChooseDirectory(int number, std::string_view path, const std::filesystem::path& marker);
     bool Lock(DirectoryLock& lock, const std::filesystem::path& directory) const;
     void CheckPlace(const std::filesystem::path& file) const;
+    void ReplaceLog(const std::filesystem::path& copy, const std::filesystem::path& log);
     void SetAside(const std::filesystem::path& copy);
     void CutDamagedEnd(const std::filesystem::path& log);
+    void TellOfForeignChange(const std::filesystem::path& log, std::size_t size);
     void Learn(const std::filesystem::path& log, std::string_view content);
     void LearnAppended(const Slot& slot);
     std::string KeepDamaged(const std::filesystem::path& log, std::string_view content);

@@ -4,8 +4,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "codepage.h"
 #include "disk/temporary_world.h"
 #include "extras/log_lines.h"
+#include "fault.h"
 
 namespace vatro {
 namespace {
@@ -86,6 +88,30 @@ TEST_F(SafeFilesTest, AVersionDoesNotGrowWithTheLog) {
     WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kTwo);
     EXPECT_EQ(Version("FD80mSSB-0001.txt"), LogOf(1));
     EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(2));
+}
+
+TEST_F(SafeFilesTest, ReportsEveryWriteOfALogAndItsEnd) {
+    Put("log/FD80mSSB.txt", LogOf(1));
+    std::vector<std::string> calls;
+    SafeFiles::Surroundings surroundings = Surroundings();
+    surroundings.writeBegins = [&] { calls.emplace_back("begins"); };
+    surroundings.writeEnded = [&](const fs::path& log) { calls.push_back(log.filename().string()); };
+    FaultyFiles faulty(disk_);
+    SafeFiles files(faulty, std::move(surroundings));
+    Lines(files, At("log/FD80mSSB.txt"));
+    EXPECT_THAT(calls, IsEmpty());
+    WriteFile(files, At("log/FD80mSSB.txt"), FileMode::Append, kTwo);
+    EXPECT_THAT(calls, ElementsAre("begins", "FD80mSSB.txt"));
+    calls.clear();
+    Rewrite(files, {kOne, kCorrected});
+    EXPECT_THAT(calls, ElementsAre("begins", "FD80mSSB.txt"));
+    calls.clear();
+    faulty.Fail(At("log/FD80mSSB.txt"), 61, FaultyFiles::Step::Close);
+    EXPECT_EQ(NumberOf([&] { WriteFile(files, At("log/FD80mSSB.txt"), FileMode::Append, kThree); }), 61);
+    EXPECT_THAT(calls, ElementsAre("begins", "FD80mSSB.txt"));
+    calls.clear();
+    files.Delete(At("log/FD80mSSB.txt"));
+    EXPECT_THAT(calls, ElementsAre("begins", "FD80mSSB.txt"));
 }
 
 TEST_F(SafeFilesTest, MarksAVersionWithAContactThatItsSuccessorLacks) {
@@ -230,7 +256,63 @@ TEST_F(SafeFilesTest, SeesAForeignCorrectionAlsoBehindAContactOfItsOwn) {
     WriteFile(files_, At("log/FD80mSSB.txt"), FileMode::Append, kThree);
     Rewrite(files_, {kOne, kTwo, kThree});
     EXPECT_THAT(History(), ElementsAre("FD80mSSB-0001 samles.txt"));
-    EXPECT_THAT(files_.TakeNotices(), SizeIs(1));
+    // One when the contact was logged, and one at the correction.
+    EXPECT_THAT(files_.TakeNotices(), SizeIs(2));
+}
+
+TEST_F(SafeFilesTest, TellsAtTheNextContactThatTheLogHasBecomeAnother) {
+    const std::vector<std::pair<std::string, std::string>> changes{{LogOf(2), "kortere"}, {LogOf(4), "l\xe6ngere"}, {"", "fjernet"}};
+    for (const auto& [content, word] : changes) {
+        DiskFiles disk;
+        SafeFiles files(disk, Surroundings());
+        Put("log/FD80mSSB.txt", LogOf(3));
+        Lines(files, At("log/FD80mSSB.txt"));
+        if (content.empty())
+            fs::remove(root_ / "log/FD80mSSB.txt");
+        else
+            Put("log/FD80mSSB.txt", content);
+        WriteFile(files, At("log/FD80mSSB.txt"), FileMode::Append, ContactLine(4, 4));
+        const std::vector<std::string> notices = files.TakeNotices();
+        ASSERT_THAT(notices, SizeIs(1)) << word;
+        EXPECT_THAT(notices[0], HasSubstr(word));
+        // It is told once, and a correction then writes what the window shows.
+        WriteFile(files, At("log/FD80mSSB.txt"), FileMode::Append, ContactLine(5, 5));
+        EXPECT_THAT(files.TakeNotices(), IsEmpty()) << word;
+        Rewrite(files, {kOne, kTwo, kThree, ContactLine(4, 4), ContactLine(5, 5)});
+        EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(5)) << word;
+    }
+}
+
+TEST_F(SafeFilesTest, TellsThatALineOfALogIsOnTheDisk) {
+    std::vector<std::string> told;
+    auto surroundings = Surroundings();
+    surroundings.saved = [&](std::string_view line) {
+        told.push_back(std::string(line) + " of " + Content("log/FD80mSSB.txt").substr(0, 5));
+    };
+    DiskFiles disk;
+    SafeFiles files(disk, surroundings);
+    WriteFile(files, At("log/FD80mSSB.txt"), FileMode::Append, kOne);
+    EXPECT_THAT(told, ElementsAre(kOne + " of " + kOne.substr(0, 5)));
+    WriteFile(files, At("log/ukendt.txt"), FileMode::Append, kTwo);
+    EXPECT_THAT(told, SizeIs(1));
+}
+
+TEST_F(SafeFilesTest, TellsOfAFileThatCannotBeWritten) {
+    for (const auto step : {FaultyFiles::Step::Open, FaultyFiles::Step::Write, FaultyFiles::Step::Close}) {
+        std::vector<std::string> told;
+        auto surroundings = Surroundings();
+        surroundings.saved = [&](std::string_view line) { told.emplace_back(line); };
+        surroundings.notSaved = [&](const fs::path& file, Failure failure) {
+            told.push_back(file.filename().string() + " " + std::to_string(static_cast<int>(failure)));
+        };
+        DiskFiles disk;
+        FaultyFiles faulty(disk);
+        SafeFiles files(faulty, surroundings);
+        faulty.Fail(At("log/FD80mSSB.txt"), 61, step);
+        EXPECT_EQ(NumberOf([&] { WriteFile(files, At("log/FD80mSSB.txt"), FileMode::Append, kTwo); }), 61);
+        EXPECT_THAT(told, ElementsAre("FD80mSSB.txt 61"));
+        files.CloseLeftovers();
+    }
 }
 
 TEST_F(SafeFilesTest, WritesNothingInADirectoryThatHasBecomeAnotherOne) {
