@@ -1,0 +1,275 @@
+// SPDX-License-Identifier: MIT
+#include "second_copy.h"
+
+#include <chrono>
+#include <cstdio>
+#include <system_error>
+#include <thread>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+#include "codepage.h"
+#include "errors.h"
+#include "joined.h"
+#include "log/ten_logs.h"
+#include "log_text.h"
+#include "names.h"
+#include "pinned_directory.h"
+#include "whole_file.h"
+
+namespace vatro {
+
+using namespace literals;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kMarker = "vatro.kopi";
+constexpr std::string_view kAside = "tidligere";
+constexpr std::string_view kLineEnd = "\r\n";
+/// An append within one block is done wholly or not at all, also when the process is killed or the disk is full.
+constexpr std::size_t kBlock = 4096;
+/// A log is read again for as long as this if it is being written.
+constexpr int kTries = 50;
+constexpr std::chrono::milliseconds kBetweenTries{10};
+
+/// Why the copies cannot be written now, as a sentence for the operator. Empty if it is worth trying again at once.
+struct Obstacle {
+    std::string reason;
+};
+
+std::string Shown(const fs::path& directory) {
+    fs::path path = directory;
+    return NativeText(path.make_preferred());
+}
+
+std::set<std::string> AllLogs() {
+    std::set<std::string> names;
+    for (const auto& [band, mode] : kTenLogs) names.insert(LogName(band, mode));
+    return names;
+}
+
+/// Whether both paths lead to the same directory.
+bool IsSame(const fs::path& one, const fs::path& other) {
+    const auto identity = IdentityOf(one);
+    return !one.empty() && !other.empty() && identity && identity == IdentityOf(other);
+}
+
+/// Content of a file, or nothing if it is missing.
+std::optional<std::string> ReadIfThere(const fs::path& file) {
+    try {
+        return ReadWhole(file);
+    } catch (const RunTimeError& failure) {
+        if (failure.Which() == Failure::FileNotFound) return std::nullopt;
+        throw;
+    }
+}
+
+std::vector<std::string_view> SplitLines(std::string_view text) {
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        const std::size_t end = text.find('\n');
+        std::string_view line = text.substr(0, end);
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        lines.push_back(line);
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    }
+    return lines;
+}
+
+/// The id in the marker; empty if it has none.
+std::string_view IdIn(std::string_view marker) {
+    const std::vector<std::string_view> lines = SplitLines(marker);
+    return lines.size() < 2 ? std::string_view() : lines[1];
+}
+
+}  // namespace
+
+SecondCopy::SecondCopy(CopyPlaces places, Surroundings surroundings)
+    : places_(std::move(places)), surroundings_(std::move(surroundings)), due_(AllLogs()) {}
+
+CopyOutcome SecondCopy::Adopt() {
+    return Try(true, {});
+}
+
+CopyOutcome SecondCopy::Update(const std::set<std::string>& changed) {
+    return Try(false, changed);
+}
+
+CopyOutcome SecondCopy::Try(bool adopt, const std::set<std::string>& changed) {
+    due_.insert(changed.begin(), changed.end());
+    found_ = 0;
+    CopyOutcome outcome;
+    PinnedDirectory held;
+    try {
+        const fs::path copies = FindPath(places_.copies).path;
+        const int error = held.Hold(copies);
+        if (error != 0 && FailureOf(error) != Failure::FileNotFound && FailureOf(error) != Failure::PathNotFound)
+            throw RunTimeError(FailureOf(error));
+        if (error != 0) throw Obstacle{Joined({Shown(copies), " findes ikke. Sæt USB-nøglen eller disken til."_t})};
+        if (IsSame(held.Path(), places_.logs)) throw Obstacle{Joined({Shown(copies), " er selve logbiblioteket."_t})};
+        if (IsSame(held.Path(), places_.backups)) throw Obstacle{Joined({Shown(copies), " er biblioteket til backup."_t})};
+        if (adopt) Adopt(held.Path());
+        CheckMark(held.Path());
+        const auto identity = IdentityOf(held.Path());
+        if (identity != directory_) {
+            left_.clear();
+            due_ = AllLogs();
+        }
+        const auto logs = IdentityOf(places_.logs);
+        if (!logs) throw Obstacle{std::string("Logbiblioteket kan ikke læses."_t)};
+        outcome.sameDisk = identity && identity->volume == logs->volume;
+        while (!due_.empty()) {
+            CopyLog(held.Path(), *due_.begin());
+            due_.erase(due_.begin());
+        }
+        if (ofOtherLogs_) {
+            Mark(held.Path());
+            ofOtherLogs_ = false;
+        }
+        directory_ = identity;
+        outcome.done = true;
+    } catch (const Obstacle& obstacle) {
+        outcome.reason = obstacle.reason;
+    } catch (const RunTimeError& failure) {
+        outcome.reason = Joined({Shown(places_.copies), ": ", Meaning(failure.Which()), "."});
+    } catch (const std::exception&) {
+        // Nothing that goes wrong on this thread may end the program.
+        outcome.reason = Joined({Shown(places_.copies), ": ", Meaning(Failure::PathFileAccess), "."});
+    }
+    if (!outcome.done && !outcome.reason.empty()) directory_.reset();
+    outcome.found = found_;
+    return outcome;
+}
+
+/// Marks the directory, unless it is already marked by this program: the copies in it may still be those of other logs.
+void SecondCopy::Adopt(const fs::path& directory) const {
+    const std::optional<std::string> marker = ReadIfThere(directory / kMarker);
+    if (!marker || IdIn(*marker) != places_.id) Mark(directory);
+}
+
+/// The marker holds the id, then the directory of the logs.
+void SecondCopy::Mark(const fs::path& directory) const {
+    const std::string head(
+        "Vatro lægger her en kopi af hver log, hver gang den ændres. Slet ikke denne fil: uden den skriver Vatro intet her."_t);
+    WriteWhole(directory / kMarker, ToUtf8(Joined({head, kLineEnd, places_.id, kLineEnd, Shown(places_.logs), kLineEnd})));
+}
+
+void SecondCopy::CheckMark(const fs::path& directory) {
+    const std::optional<std::string> marker = ReadIfThere(directory / kMarker);
+    if (!marker)
+        throw Obstacle{Joined({Shown(places_.copies),
+                               " er tomt eller et andet end det valgte: filen vatro.kopi mangler. Sæt den rigtige USB-nøgle til, eller "
+                               "vælg biblioteket igen med Ekstra, Løbende kopi."_t})};
+    if (IdIn(*marker) != places_.id)
+        throw Obstacle{
+            Joined({Shown(places_.copies),
+                    " har kopien fra en anden Vatro. Vælg et andet bibliotek med Ekstra, Løbende kopi, eller det samme igen, hvis "
+                    "den anden ikke bruges mere."_t})};
+    const std::vector<std::string_view> lines = SplitLines(*marker);
+    ofOtherLogs_ = lines.size() < 3 || lines[2] != ToUtf8(Shown(places_.logs));
+    if (ofOtherLogs_) due_ = AllLogs();
+}
+
+/// The content of the log, read while nothing was written to it. Nothing if it is missing.
+std::optional<std::string> SecondCopy::ReadLog(const fs::path& log) const {
+    for (int i = 0; i < kTries; ++i) {
+        const unsigned before = surroundings_.writes();
+        if (before % 2 == 0) {
+            std::optional<std::string> content;
+            try {
+                content = ReadIfThere(log);
+            } catch (const RunTimeError& failure) {
+                throw Obstacle{Joined({NativeText(log.filename()), " kan ikke læses: "_t, Meaning(failure.Which()), "."})};
+            }
+            if (surroundings_.writes() == before) return content;
+        }
+        std::this_thread::sleep_for(kBetweenTries);
+    }
+    throw Obstacle{};
+}
+
+void SecondCopy::CopyLog(const fs::path& directory, const std::string& name) {
+    const fs::path copy = FindPath(directory / name).path;
+    std::optional<std::string> log = ReadLog(FindPath(places_.logs / name).path);
+    const auto left = left_.find(name);
+    if (log && left != left_.end() && Append(copy, *log, left->second)) {
+        left->second = {log->size(), ContentHash(*log)};
+        return;
+    }
+    const std::optional<std::string> old = ReadIfThere(copy);
+    if (old && old != log) {
+        const Unknown unknown = LookForUnknown(name, *old, log.value_or(std::string()));
+        if (unknown.contacts > 0 && !ofOtherLogs_ && !IsOld(ReadLogText(*old).lines, surroundings_.now())) {
+            History(places_.logs, HistoryElsewhere(surroundings_.state, places_.logs), surroundings_.now)
+                .AddContent(name, *old, History::Keep::FromCopy);
+            found_ += unknown.contacts;
+        }
+        // If the log is missing, its copy stays: it is the best there is.
+        if (ofOtherLogs_ || (log && unknown.lines)) SetAside(copy);
+    }
+    if (!log) return;
+    if (old != log) WriteWhole(copy, *log);
+    left_[name] = {log->size(), ContentHash(*log)};
+}
+
+/// Appends what the log has more than the copy. Returns false if the copy is not known to be the beginning of the log, or if it has to be
+/// written anew.
+bool SecondCopy::Append(const fs::path& copy, std::string_view log, const Left& left) const {
+    if (log.size() < left.size || ContentHash(log.substr(0, left.size)) != left.hash) return false;
+    SystemFile file;
+    if (file.Open(copy, SystemFile::Access::Append, false) != 0) return false;
+    if (file.Length() != static_cast<std::int64_t>(left.size)) return false;
+    if (log.size() == left.size) return true;
+    if (left.size / kBlock != (log.size() - 1) / kBlock) return false;
+    file.Write(log.substr(left.size));
+    file.Sync();
+    return true;
+}
+
+SecondCopy::Unknown SecondCopy::LookForUnknown(const std::string& name, std::string_view copy, std::string_view log) const {
+    if (log.starts_with(copy)) return {};
+    std::unordered_set<std::string_view> lines;
+    for (const std::string_view line : SplitLines(copy)) lines.insert(line);
+    const auto leaveOut = [&lines](std::string_view content) {
+        for (const std::string_view line : SplitLines(content)) lines.erase(line);
+    };
+    leaveOut(log);
+    const History history(places_.logs, HistoryElsewhere(surroundings_.state, places_.logs), surroundings_.now);
+    for (const History::Version& version : history.Versions(name)) {
+        if (lines.empty()) return {};
+        try {
+            leaveOut(ReadWhole(version.path));
+        } catch (const RunTimeError&) {
+            // It may just have been removed because of its age.
+            continue;
+        }
+    }
+    Unknown unknown;
+    unknown.lines = !lines.empty();
+    const LogText copyText = ReadLogText(copy);
+    for (const std::string_view line : MissingContacts(copyText.lines, ReadLogText(log).lines))
+        if (lines.contains(line)) ++unknown.contacts;
+    return unknown;
+}
+
+void SecondCopy::SetAside(const fs::path& copy) const {
+    const fs::path folder = copy.parent_path() / kAside;
+    std::error_code error;
+    fs::create_directory(folder, error);
+    const DateTime now = surroundings_.now();
+    char when[32];
+    std::snprintf(when, sizeof when, " %04d-%02d-%02d %02d.%02d.%02d", now.year, now.month, now.day, now.hour, now.minute, now.second);
+    for (int i = 1;; ++i) {
+        fs::path name = folder / copy.stem();
+        name += when + (i == 1 ? std::string() : " " + std::to_string(i)) + ".txt";
+        if (fs::exists(name, error)) continue;
+        if (const int failed = RenameFile(copy, name); failed != 0) throw RunTimeError(FailureOf(failed));
+        SyncDirectory(folder);
+        return;
+    }
+}
+
+}  // namespace vatro
