@@ -34,6 +34,12 @@ void TimerTick() {
     frmMain->fields[kUtcField].SetText(UtcTimeText());
 }
 
+void CatchUpClock() {
+    if (!frmMain.Loaded() || !frmMain->minuteTimer.Running()) return;
+    TimerTick();
+    TimerStart();
+}
+
 void ToggleAutoTime() {
     if (frmMain->mnuIndstillingerKlokken.Ticked()) {
         TimerStop();

@@ -11,6 +11,9 @@ void TimerStart();
 void TimerStop();
 /// Handles a tick of the clock: shows universal time in the time field; the next tick comes a minute later.
 void TimerTick();
+/// After the computer's clock has jumped: shows the time at once and waits for the next full minute, if the clock runs. A time that is
+/// being typed stays, because the clock stands still then.
+void CatchUpClock();
 /// The click of the menu entry: switches the automatic time on or off.
 void ToggleAutoTime();
 

@@ -36,6 +36,11 @@ void FrmUTC::Form_Load() {
     offsetBox.SetListIndex(ToInt16(NumericValue(desk().gsUTC) - kFirst));
 }
 
+bool FrmUTC::OffsetIsListed() {
+    const double offset = NumericValue(desk().gsUTC);
+    return offset >= kFirst && offset <= kLast;
+}
+
 void ChangeUtcOffset() {
     frmUTC->ShowModal();
     frmMain->fields[kUtcField].SetText(UtcTimeText());

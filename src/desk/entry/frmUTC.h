@@ -17,6 +17,9 @@ public:
     Button okButton;
 
     void Form_Load() override;
+
+    /// Whether the current offset is in the list.
+    static bool OffsetIsListed();
 };
 
 inline FormSlot<FrmUTC> frmUTC{"frmUTC"};

@@ -7,8 +7,12 @@
 
 namespace vatro {
 
+int UtcOffset() {
+    return ToInt16(ToNumber(desk().gsUTC));
+}
+
 DateTime UtcNow() {
-    return AddHours(platform().clock.Now(), ToInt16(ToNumber(desk().gsUTC)));
+    return AddHours(platform().clock.Now(), UtcOffset());
 }
 
 std::string UtcTimeText() {

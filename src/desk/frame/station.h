@@ -9,6 +9,8 @@
 
 namespace vatro {
 
+/// Returns gsUTC as a number of hours. Fails with 13 if it is not a number, with 6 if it exceeds 16 bits.
+int UtcOffset();
 /// Returns the universal time: the local clock plus gsUTC hours. Fails with 13 if gsUTC is not a number, with 6 if it exceeds 16
 /// bits.
 DateTime UtcNow();
