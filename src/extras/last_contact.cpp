@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "last_contact.h"
+
+#include "codepage.h"
+#include "joined.h"
+#include "log/contact_line.h"
+
+namespace vatro {
+
+using namespace literals;
+
+void LastContact::Saved(std::string_view line, const DateTime& universal) {
+    if (IsNote(line)) return;
+    const std::string contact = Joined({kNumberSent.TrimmedOf(line), " ", kCall.TrimmedOf(line)});
+    const std::string time = FormatTime(universal.hour, universal.minute);
+    lamp_ = {Lamp::State::Good, Joined({contact, " gemt ", time}),
+             Joined({"Den sidste kontakt, "_t, contact, ", har ligget på disken siden "_t, time, " UTC."})};
+}
+
+void LastContact::Failed(std::string_view file, std::string_view why) {
+    lamp_ = {Lamp::State::Bad, Joined({"IKKE GEMT: ", why}), Joined({file, ": ", why, ". Se under Beskeder og fejl i håndbogen (F1)."_t})};
+}
+
+}  // namespace vatro
