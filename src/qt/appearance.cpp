@@ -46,7 +46,6 @@ QPalette SunPalette() {
 }  // namespace
 
 Appearance::Appearance(QMainWindow& window, QMenu& menu) : QObject(&window), window_(window) {
-    menu.addSeparator();
     sun_ = menu.addAction(QStringLiteral("&Solskin"));
     sun_->setObjectName(QStringLiteral("appearanceSun"));
     sun_->setCheckable(true);

@@ -102,12 +102,7 @@ void BindMenu(Form& form, QMainWindow& window, Bindings& bindings) {
         if (item == nullptr || item->Menu() != nullptr) continue;
         QMenu* menu = window.menuBar()->addMenu(ToQt(item->Caption()));
         QAction* action = AddMenu(*item, *menu, scope);
-        // When a menu is closed without a choice, return the focus to the form at once; Qt would leave it in the menu bar.
-        QObject::connect(menu, &QMenu::aboutToHide, &scope, [&bindings] {
-            QTimer::singleShot(0, &bindings.Scope(), [&bindings] {
-                if (QApplication::activePopupWidget() == nullptr) bindings.FollowFocusSoon();
-            });
-        });
+        ReturnKeysAfter(*menu, bindings);
         action->setObjectName(ObjectName(*item));
         action->setEnabled(item->Enabled());
         action->setVisible(item->Visible());
@@ -117,6 +112,14 @@ void BindMenu(Form& form, QMainWindow& window, Bindings& bindings) {
             if (aspect == Aspect::Visible) action->setVisible(item->Visible());
         };
     }
+}
+
+void ReturnKeysAfter(QMenu& menu, Bindings& bindings) {
+    QObject::connect(&menu, &QMenu::aboutToHide, &bindings.Scope(), [&bindings] {
+        QTimer::singleShot(0, &bindings.Scope(), [&bindings] {
+            if (QApplication::activePopupWidget() == nullptr) bindings.FollowFocusSoon();
+        });
+    });
 }
 
 void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings) {

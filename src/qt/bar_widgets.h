@@ -10,6 +10,7 @@
 
 class QAction;
 class QMainWindow;
+class QMenu;
 class QStatusBar;
 class QToolBar;
 
@@ -23,6 +24,8 @@ void AddBars(const Form& form, QMainWindow& window);
 
 /// Fills the menu bar with the form's entries.
 void BindMenu(Form& form, QMainWindow& window, Bindings& bindings);
+/// When the menu is closed without a choice, returns the focus to the form at once; Qt would leave it in the menu bar.
+void ReturnKeysAfter(QMenu& menu, Bindings& bindings);
 void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings);
 void Bind(StatusBar& control, QStatusBar& widget, Bindings& bindings);
 

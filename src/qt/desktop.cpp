@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop.h"
 
+#include "appearance.h"
 #include "qt_front.h"
 
 namespace vatro {
@@ -9,6 +10,7 @@ Desktop::Desktop(QtFront& front) : typing_(front) {
     front.fitToScreen = true;
     front.filterPaste = true;
     front.keepKeys = true;
+    front.extraEntries.emplace_back([](QMainWindow& window, QMenu& menu) { new Appearance(window, menu); });
 }
 
 }  // namespace vatro

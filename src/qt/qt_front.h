@@ -8,10 +8,13 @@
 #include <map>
 #include <memory>
 #include <set>
+#include <vector>
 
 #include "forms.h"
 #include "front.h"
 
+class QMainWindow;
+class QMenu;
 class QWidget;
 
 namespace vatro {
@@ -50,6 +53,8 @@ public:
     bool filterPaste = false;
     /// Whether keys typed while one window gives way to another are preserved.
     bool keepKeys = false;
+    /// Add entries to the menu Ekstra of a main window, which stands before the last menu. Without any there is no such menu.
+    std::vector<std::function<void(QMainWindow& window, QMenu& menu)>> extraEntries;
     /// Called when the program has ended.
     std::function<void()> ended;
 

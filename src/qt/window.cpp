@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QTimer>
@@ -11,7 +12,6 @@
 #include <QWindow>
 #include <cmath>
 
-#include "appearance.h"
 #include "bar_widgets.h"
 #include "binder.h"
 #include "column_head.h"
@@ -56,7 +56,7 @@ int ToPixels(int twips) {
 FormWindow::FormWindow(Form& form, QWidget* owner, QtFront& front) : form_(form), front_(front), bindings_(Surroundings()) {
     Build(owner);
     BindForm(form, *top_, bindings_);
-    AddAppearance();
+    AddExtraMenu();
     Follow();
     top_->installEventFilter(this);
 }
@@ -108,12 +108,15 @@ void FormWindow::Build(QWidget* owner) {
     captionHead_ = top_->findChild<ColumnHead*>(QStringLiteral("FormCaption"));
 }
 
-/// The appearance entries are in the View menu ("mnuVis").
-void FormWindow::AddAppearance() {
+/// The desktop's own commands are in a menu of their own, so that the other menus stay as the form describes them.
+void FormWindow::AddExtraMenu() {
     auto* window = qobject_cast<QMainWindow*>(top_.data());
-    if (window == nullptr) return;
-    for (const QAction* menu : window->menuBar()->actions())
-        if (menu->objectName() == QStringLiteral("mnuVis")) new Appearance(*window, *menu->menu());
+    if (window == nullptr || front_.extraEntries.empty() || window->menuBar()->actions().isEmpty()) return;
+    auto* menu = new QMenu(QStringLiteral("&Ekstra"), window->menuBar());
+    menu->menuAction()->setObjectName(QStringLiteral("extraMenu"));
+    window->menuBar()->insertMenu(window->menuBar()->actions().constLast(), menu);
+    ReturnKeysAfter(*menu, bindings_);
+    for (const auto& add : front_.extraEntries) add(*window, *menu);
 }
 
 void FormWindow::TakeDesignSize() {

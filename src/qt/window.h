@@ -68,7 +68,7 @@ public:
 private:
     InputSurroundings Surroundings();
     void Build(QWidget* owner);
-    void AddAppearance();
+    void AddExtraMenu();
     WindowPlace Told() const;
     /// Restores the enabled state of each control. When Qt enables or disables a window, it does the same to everything in it,
     /// including the windows above it and menus that are disabled on their own.

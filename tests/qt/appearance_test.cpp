@@ -5,9 +5,12 @@
 
 #include <QAction>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QScreen>
 #include <QTest>
 
+#include "bar_widgets.h"
+#include "entry/frmMain.h"
 #include "fields.h"
 #include "qt/window_program.h"
 
@@ -16,6 +19,11 @@ namespace {
 
 class AppearanceOfTheWindow : public WindowProgram {
 protected:
+    AppearanceOfTheWindow() {
+        dynamic_cast<QtFront&>(driver.ProgramFront()).extraEntries.emplace_back([](QMainWindow& window, QMenu& menu) {
+            new Appearance(window, menu);
+        });
+    }
     ~AppearanceOfTheWindow() override { QApplication::setPalette(QPalette()); }
     QMainWindow& Window() { return dynamic_cast<QMainWindow&>(*WindowOf(*frmMain).Top()); }
     QAction& Sun() { return *Window().findChild<QAction*>(QStringLiteral("appearanceSun")); }
@@ -81,6 +89,13 @@ TEST_F(AppearanceOfTheWindow, StartsAsItWasLeft) {
     const double large = Points();
     Press(Qt::Key_0);
     EXPECT_NEAR(large, Points() * 1.5, 0.01);
+}
+
+TEST_F(AppearanceOfTheWindow, HasAMenuOfItsOwnBeforeTheLastOne) {
+    StartVatro();
+    const QList<QAction*> menus = Window().menuBar()->actions();
+    EXPECT_EQ(menus.at(menus.size() - 2)->text(), QStringLiteral("&Ekstra"));
+    EXPECT_EQ(menus.last()->objectName(), ObjectName(frmMain->mnuHjælp));
 }
 
 TEST_F(AppearanceOfTheWindow, LeavesTheSettingsAloneUntilItIsUsed) {
