@@ -4,10 +4,13 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QTimer>
+#include <cstdlib>
 #include <memory>
+#include <string>
 
 #include "application.h"
 #include "clock.h"
+#include "copy_keeper.h"
 #include "deliver.h"
 #include "desktop.h"
 #include "dialogs.h"
@@ -16,18 +19,29 @@
 #include "ends.h"
 #include "entry/frmMain.h"
 #include "frame/start.h"
+#include "lamps.h"
 #include "printer.h"
 #include "program.h"
 #include "qt_front.h"
+#include "qt_text.h"
 #include "safety.h"
 #include "services.h"
 #include "sound_card.h"
 #include "spread.h"
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    vatro::PrepareApplication();
+namespace {
 
+struct Outcome {
+    int result = 0;
+    /// Whether a thread hangs in a call of the disk.
+    bool hangs = false;
+};
+
+void Tell(const vatro::MessageBox& box) {
+    std::unique_ptr<QMessageBox>(vatro::MakeBox(box, nullptr))->exec();
+}
+
+Outcome Run() {
     vatro::QtFront front;
     vatro::DiskSettings settings(vatro::SettingsPath());
     vatro::DiskFiles disk;
@@ -51,17 +65,42 @@ int main(int argc, char** argv) {
 
     const vatro::Desktop desktop(front);
     const vatro::Ends ends(settings);
+    vatro::CopyKeeper copy(front, safety, settings);
+    vatro::Lamps lamps(front, safety, copy);
     front.ended = [] { QCoreApplication::quit(); };
     // The start procedure may open boxes, so it runs inside the event loop, like every other event.
-    QTimer::singleShot(0, &front, [&front] {
+    QTimer::singleShot(0, &front, [&front, &copy, &lamps] {
         vatro::BeginProgram();
         vatro::Deliver([] { vatro::StartProgram(); });
-        if (vatro::ProgramRuns() && !vatro::FrmMain::HasPlace()) vatro::SpreadWindows(front);
+        if (!vatro::ProgramRuns()) return;
+        copy.Begin();
+        lamps.Begin();
+        if (!vatro::FrmMain::HasPlace()) vatro::SpreadWindows(front);
     });
-    const int result = QApplication::exec();
+    Outcome outcome;
+    outcome.result = QApplication::exec();
+    outcome.hangs = !copy.End();
     // If the end was requested from outside, nobody is at the screen to read a message.
-    if (ends.Asked()) return result;
+    if (ends.Asked()) return outcome;
     safety.TellRest();
-    if (const auto loss = settings.Loss()) std::unique_ptr<QMessageBox>(vatro::MakeBox(*loss, nullptr))->exec();
-    return result;
+    if (const std::string word = copy.LastWord(); !word.empty()) {
+        vatro::MessageBox box;
+        box.text = word;
+        box.title = vatro::FromQt(QStringLiteral("Løbende kopi"));
+        box.icon = vatro::Icon::Exclamation;
+        Tell(box);
+    }
+    if (const auto loss = settings.Loss()) Tell(*loss);
+    return outcome;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    vatro::PrepareApplication();
+    const Outcome outcome = Run();
+    // The thread may still use static objects when the disk answers at last.
+    if (outcome.hangs) std::_Exit(outcome.result);
+    return outcome.result;
 }

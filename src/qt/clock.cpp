@@ -1,19 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "clock.h"
 
-#include <QDateTime>
-
 #include "deliver.h"
 #include "qt_front.h"
 #include "ticker.h"
 
 namespace vatro {
 
-DateTime QtClock::Now() {
-    const QDateTime now = QDateTime::currentDateTime();
-    const QDate date = now.date();
-    const QTime time = now.time();
+DateTime FromQtTime(const QDateTime& moment) {
+    const QDate date = moment.date();
+    const QTime time = moment.time();
     return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second(), time.msec()};
+}
+
+DateTime QtClock::Now() {
+    return FromQtTime(QDateTime::currentDateTime());
 }
 
 double QtClock::SecondsSinceMidnight() {

@@ -3,6 +3,7 @@
 // The computer's local time, and the forms' timers.
 #pragma once
 
+#include <QDateTime>
 #include <QTimer>
 #include <map>
 #include <memory>
@@ -10,6 +11,9 @@
 #include "platform.h"
 
 namespace vatro {
+
+/// The moment as the program has it, in the time zone of `moment`.
+DateTime FromQtTime(const QDateTime& moment);
 
 class QtClock : public Clock {
 public:

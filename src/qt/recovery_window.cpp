@@ -130,10 +130,12 @@ std::vector<std::string> RecoveryWindow::Choices() const {
     return chosen;
 }
 
-std::vector<std::filesystem::path> Recover(const RecoveryPlaces& places, History& history) {
-    const std::vector<Finding> findings = LookForDamage(places, history);
+std::vector<std::filesystem::path> Recover(const RecoveryPlaces& places, History& history, RecoveryScope scope) {
+    std::vector<Finding> findings = LookForDamage(places, history);
+    if (scope == RecoveryScope::SecondCopy) std::erase_if(findings, [](const Finding& finding) { return !finding.fromCopy; });
     if (findings.empty()) return {};
     RecoveryWindow window(places.logs, findings, DialogOwner());
+    if (scope == RecoveryScope::SecondCopy) window.setWindowTitle(QStringLiteral("Vatro - løbende kopi"));
     RunDialog(window);
     LeaveIfEnding();
     std::vector<std::filesystem::path> left;

@@ -31,8 +31,15 @@ private:
     std::vector<QComboBox*> choices_;
 };
 
+/// What to search for.
+enum class RecoveryScope {
+    Everything,
+    /// Contacts of the second copy that the logs lack.
+    SecondCopy,
+};
+
 /// Searches for damage, asks, repairs, and reports the outcome. Shows nothing if nothing is found. Returns the logs whose damage the
 /// operator has seen but not repaired.
-std::vector<std::filesystem::path> Recover(const RecoveryPlaces& places, History& history);
+std::vector<std::filesystem::path> Recover(const RecoveryPlaces& places, History& history, RecoveryScope scope = RecoveryScope::Everything);
 
 }  // namespace vatro

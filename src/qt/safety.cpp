@@ -8,10 +8,16 @@
 #include "codepage.h"
 #include "deliver.h"
 #include "dialogs.h"
+#include "entry/next_contact.h"
+#include "frame/log_file.h"
 #include "frame/settings_table.h"
 #include "frame/start.h"
+#include "frame/state.h"
+#include "names.h"
 #include "program.h"
 #include "recovery_window.h"
+#include "system_file.h"
+#include "whole_file.h"
 
 namespace vatro {
 
@@ -55,6 +61,18 @@ SafeFiles::Surroundings Safety::Surroundings() {
     surroundings.now = [this] { return clock_.Now(); };
     surroundings.tellTaken = [] { ShowAlreadyRunning(); };
     surroundings.askSilent = GoOnInASilentDirectory;
+    surroundings.saved = [this](std::string_view line) {
+        if (saved) saved(line);
+    };
+    surroundings.notSaved = [this](const fs::path& file, Failure failure) {
+        if (notSaved) notSaved(file, failure);
+    };
+    surroundings.writeBegins = [this] {
+        if (writeBegins) writeBegins();
+    };
+    surroundings.writeEnded = [this](const fs::path& log) {
+        if (writeEnded) writeEnded(log);
+    };
     surroundings.directoryWon = [this](const fs::path& directory) { LookThrough(directory); };
     return surroundings;
 }
@@ -64,16 +82,32 @@ bool Safety::BothLocks::AnotherCopyRuns() {
     return !safety_.files_.TakeDirectory(Read(safety_.settings_, setting::kLogDirectory));
 }
 
-void Safety::LookThrough(const fs::path& directory) {
+RecoveryPlaces Safety::PlacesOf(const fs::path& directory) {
     RecoveryPlaces places;
     places.logs = directory;
     const std::string tables = Read(settings_, setting::kTablesDirectory);
     places.tables = NativePath(tables.empty() ? files_.CurrentDirectory() : tables);
     places.firstLog = Read(settings_, setting::kBand) + Read(settings_, setting::kMode);
     places.now = clock_.Now();
+    return places;
+}
+
+void Safety::LookThrough(const fs::path& directory) {
     History history = files_.HistoryOf(directory);
-    const std::vector<fs::path> left = Recover(places, history);
+    const std::vector<fs::path> left = Recover(PlacesOf(directory), history);
     for (const fs::path& log : left) files_.ToldOfDamage(log);
+}
+
+void Safety::OfferCopy() {
+    const fs::path directory = FindPath(NativePath(desk().gsLogLib)).path;
+    const fs::path log = FindPath(NativePath(CurrentLogPath())).path;
+    const auto content = [&log] { return IsNoFile(log) || !IdentityOf(log) ? std::string() : ReadWhole(log); };
+    const std::string before = content();
+    History history = files_.HistoryOf(directory);
+    Recover(PlacesOf(directory), history, RecoveryScope::SecondCopy);
+    if (content() == before) return;
+    IndlæsLogfil();
+    ResetQSO();
 }
 
 void Safety::HandlersAreOver() {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform.h"
+#include "recovery.h"
 #include "safe_files.h"
 
 namespace vatro {
@@ -21,6 +22,15 @@ public:
     /// Reports another copy if one runs for this user or uses the log directory of the settings. Once both locks have been acquired,
     /// checks the directory for damage.
     Instance& ProgramInstance() { return instance_; }
+    /// Runs when a line of a log is on the disk.
+    std::function<void(std::string_view line)> saved;
+    /// Runs when a file could not be written.
+    std::function<void(const std::filesystem::path& file, Failure failure)> notSaved;
+    /// Run when a log is about to be written, and when it has been written or that has failed.
+    std::function<void()> writeBegins;
+    std::function<void(const std::filesystem::path& log)> writeEnded;
+    /// Offers to merge the contacts that the second copy has more than the logs, which have been added to the history. Call as an event.
+    void OfferCopy();
     /// At the end of the program: shows the messages that have not been shown yet.
     void TellRest();
 
@@ -35,6 +45,7 @@ private:
     };
 
     SafeFiles::Surroundings Surroundings();
+    RecoveryPlaces PlacesOf(const std::filesystem::path& directory);
     void LookThrough(const std::filesystem::path& directory);
     void HandlersAreOver();
 

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "lamp_row.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPainterPath>
+#include <QTimer>
+
+#include "qt_text.h"
+
+namespace vatro {
+
+namespace {
+
+constexpr double kLineWidth = 0.12;
+/// Below this lightness a colour counts as dark.
+constexpr int kDark = 128;
+
+QString NameOf(LampKind kind) {
+    switch (kind) {
+        case LampKind::Utc:
+            return QStringLiteral("UTC");
+        case LampKind::Copy:
+            return QStringLiteral("Løbende kopi");
+        case LampKind::LastContact:
+            return QStringLiteral("Sidste kontakt");
+    }
+    return {};
+}
+
+/// Background and ink of a lamp. A good lamp has the colours of the menu bar.
+struct Colours {
+    QColor back;
+    QColor ink;
+};
+Colours ColoursOf(Lamp::State state, const QPalette& palette) {
+    const bool dark = palette.color(QPalette::Window).lightness() < kDark;
+    switch (state) {
+        case Lamp::State::Bad:
+            return dark ? Colours{QColor(0xff, 0x8a, 0x80), Qt::black} : Colours{QColor(0xb0, 0x00, 0x20), Qt::white};
+        case Lamp::State::Notice:
+            return dark ? Colours{QColor(0xff, 0xd5, 0x4f), Qt::black} : Colours{QColor(0xff, 0xd5, 0x4f), Qt::black};
+        case Lamp::State::Off:
+        case Lamp::State::Good:
+            break;
+    }
+    return {palette.color(QPalette::Window), palette.color(QPalette::WindowText)};
+}
+
+}  // namespace
+
+LampButton::LampButton(LampKind kind, QWidget* parent) : QAbstractButton(parent), kind_(kind) {
+    setFocusPolicy(Qt::NoFocus);
+    setObjectName(QStringLiteral("lamp%1").arg(static_cast<int>(kind)));
+    setAccessibleName(NameOf(kind));
+    hide();
+}
+
+void LampButton::Show(const Lamp& lamp) {
+    if (lamp == lamp_) return;
+    lamp_ = lamp;
+    setText(ToQt(lamp.text));
+    setToolTip(ToQt(lamp.tip));
+    setAccessibleName(NameOf(kind_) + QStringLiteral(": ") + text());
+    setAccessibleDescription(toolTip());
+    setVisible(lamp.state != Lamp::State::Off);
+    updateGeometry();
+    update();
+}
+
+void LampButton::SetBrief(bool brief) {
+    if (brief == brief_) return;
+    brief_ = brief;
+    updateGeometry();
+    update();
+}
+
+int LampButton::SignSize() const {
+    return fontMetrics().ascent();
+}
+
+int LampButton::WidthOf(bool brief) const {
+    const int sign = SignSize();
+    const int words = brief ? 0 : fontMetrics().horizontalAdvance(text()) + sign / 2;
+    return sign / 2 + sign + words + sign / 2;
+}
+
+QSize LampButton::sizeHint() const {
+    return {WidthOf(brief_), fontMetrics().height() + SignSize() / 2};
+}
+
+void LampButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Colours colours = ColoursOf(lamp_.state, palette());
+    const QRectF whole(rect());
+    if (lamp_.state != Lamp::State::Good) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(colours.back);
+        painter.drawRoundedRect(whole.adjusted(1, 1, -1, -1), SignSize() / 4.0, SignSize() / 4.0);
+    }
+    const double sign = SignSize();
+    PaintSign(painter, QRectF(sign / 2, (height() - sign) / 2, sign, sign), colours.ink);
+    if (brief_) return;
+    painter.setPen(colours.ink);
+    painter.drawText(whole.adjusted(2 * sign, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
+}
+
+/// A warning sign for what is wrong; otherwise a clock, two sheets or a tick.
+void LampButton::PaintSign(QPainter& painter, const QRectF& place, const QColor& ink) const {
+    const double unit = place.width();
+    painter.setPen(QPen(ink, unit * kLineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    const auto at = [&](double x, double y) { return QPointF(place.x() + x * unit, place.y() + y * unit); };
+    if (lamp_.state == Lamp::State::Bad || lamp_.state == Lamp::State::Notice) {
+        painter.drawPolygon(QPolygonF({at(0.5, 0.06), at(0.96, 0.94), at(0.04, 0.94)}));
+        painter.drawLine(at(0.5, 0.4), at(0.5, 0.62));
+        painter.drawPoint(at(0.5, 0.78));
+        return;
+    }
+    switch (kind_) {
+        case LampKind::Utc:
+            painter.drawEllipse(place.adjusted(unit * 0.06, unit * 0.06, -unit * 0.06, -unit * 0.06));
+            painter.drawPolyline(QPolygonF({at(0.5, 0.24), at(0.5, 0.5), at(0.7, 0.62)}));
+            break;
+        case LampKind::Copy:
+            painter.drawRect(QRectF(at(0.06, 0.06), at(0.66, 0.66)));
+            painter.drawPolyline(QPolygonF({at(0.86, 0.34), at(0.94, 0.34), at(0.94, 0.94), at(0.34, 0.94), at(0.34, 0.86)}));
+            break;
+        case LampKind::LastContact:
+            painter.drawPolyline(QPolygonF({at(0.08, 0.55), at(0.38, 0.86), at(0.94, 0.14)}));
+            break;
+    }
+}
+
+LampRow::LampRow(QMenuBar& bar) : QWidget(&bar), bar_(bar) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(2);
+    for (const LampKind kind : {LampKind::LastContact, LampKind::Copy, LampKind::Utc}) {
+        auto* lamp = new LampButton(kind, this);
+        lamps_[static_cast<std::size_t>(kind)] = lamp;
+        row->addWidget(lamp);
+        connect(lamp, &QAbstractButton::clicked, this, [this, kind] {
+            if (clicked) clicked(kind);
+        });
+    }
+    bar.setCornerWidget(this, Qt::TopRightCorner);
+    bar.installEventFilter(this);
+    show();
+}
+
+void LampRow::Show(LampKind kind, const Lamp& lamp) {
+    if (Button(kind).Shown() == lamp) return;
+    Button(kind).Show(lamp);
+    FitIn();
+}
+
+/// Leaves out the words of as many lamps as necessary, so that the menus keep their room. Words of what is wrong stay longest. Among good
+/// lamps those of UTC go first, because the time is in its field too.
+void LampRow::FitIn() {
+    int menus = 0;
+    for (const QAction* menu : bar_.actions()) menus += bar_.actionGeometry(const_cast<QAction*>(menu)).width();
+    int room = bar_.width() - menus - 2 * fontMetrics().averageCharWidth();
+    for (LampButton* lamp : lamps_)
+        if (lamp->Shown().state != Lamp::State::Off) room -= lamp->WidthOf(true) + layout()->spacing();
+    std::array<bool, kLampKinds> words{};
+    for (const bool good : {false, true}) {
+        for (const LampKind kind : {LampKind::LastContact, LampKind::Copy, LampKind::Utc}) {
+            const auto i = static_cast<std::size_t>(kind);
+            const Lamp::State state = lamps_[i]->Shown().state;
+            if (state == Lamp::State::Off || (state == Lamp::State::Good) != good) continue;
+            const int more = lamps_[i]->WidthOf(false) - lamps_[i]->WidthOf(true);
+            if (more > room) continue;
+            room -= more;
+            words[i] = true;
+        }
+    }
+    for (std::size_t i = 0; i < lamps_.size(); ++i) lamps_[i]->SetBrief(!words[i]);
+    // The menu bar asks for the size of its corner only when its own layout changes.
+    bar_.setCornerWidget(this, Qt::TopRightCorner);
+}
+
+bool LampRow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &bar_ &&
+        (event->type() == QEvent::Resize || event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange))
+        QTimer::singleShot(0, this, &LampRow::FitIn);
+    return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace vatro

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+//
+// The lamps in the corner of the menu bar. Each has a sign, words and a colour, so that none of them carries the meaning alone. Where the
+// menu bar is too narrow, words are left out, those of good lamps first.
+#pragma once
+
+#include <QAbstractButton>
+#include <QEvent>
+#include <array>
+#include <functional>
+
+#include "lamp.h"
+
+class QMenuBar;
+
+namespace vatro {
+
+/// The lamps from right to left.
+enum class LampKind { Utc, Copy, LastContact };
+inline constexpr std::size_t kLampKinds = 3;
+
+/// One lamp. A click runs `clicked` of the row; the keyboard never stops here.
+class LampButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    LampButton(LampKind kind, QWidget* parent);
+    void Show(const Lamp& lamp);
+    const Lamp& Shown() const { return lamp_; }
+    /// Whether only the sign is shown.
+    void SetBrief(bool brief);
+    bool Brief() const { return brief_; }
+    /// The width with words, or with the sign alone.
+    int WidthOf(bool brief) const;
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void PaintSign(QPainter& painter, const QRectF& place, const QColor& ink) const;
+    int SignSize() const;
+
+    LampKind kind_;
+    Lamp lamp_;
+    bool brief_ = false;
+};
+
+class LampRow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Puts the row into the corner of the menu bar, whose child it becomes.
+    explicit LampRow(QMenuBar& bar);
+    void Show(LampKind kind, const Lamp& lamp);
+    LampButton& Button(LampKind kind) { return *lamps_[static_cast<std::size_t>(kind)]; }
+
+    /// Runs when a lamp is clicked.
+    std::function<void(LampKind)> clicked;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void FitIn();
+
+    QMenuBar& bar_;
+    std::array<LampButton*, kLampKinds> lamps_{};
+};
+
+}  // namespace vatro

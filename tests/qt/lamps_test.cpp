@@ -1,0 +1,338 @@
+// SPDX-License-Identifier: MIT
+//
+// The lamps in the menu bar, with clocks that the test controls.
+#include "lamps.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTest>
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <map>
+
+#include "copy_keeper.h"
+#include "deliver.h"
+#include "disk_files.h"
+#include "entry/frmUTC.h"
+#include "entry/qso_fields.h"
+#include "frame/state.h"
+#include "qt/window_program.h"
+#include "qt_text.h"
+#include "safety.h"
+#include "temporary_directory.h"
+
+namespace vatro {
+namespace {
+
+using namespace std::chrono_literals;
+using namespace literals;
+using testing::HasSubstr;
+
+/// The relative brightness of a colour, for contrast as it is usually computed for text on screens.
+double Brightness(QRgb colour) {
+    const auto linear = [](int value) {
+        const double part = value / 255.0;
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
+}
+
+/// The greatest contrast of any pixel against the commonest colour.
+double Contrast(QWidget& widget) {
+    const QImage image = widget.grab().toImage();
+    std::map<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
+    const auto commonest = std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
+    const double back = Brightness(commonest->first);
+    double best = 1;
+    for (const auto& [colour, count] : counts) {
+        const double ink = Brightness(colour);
+        best = std::max(best, (std::max(back, ink) + 0.05) / (std::min(back, ink) + 0.05));
+    }
+    return best;
+}
+
+const Lamp kGood{Lamp::State::Good, "0034 SM7AA gemt 17:53", "tip"};
+const Lamp kBad{Lamp::State::Bad, "INGEN KOPI siden 12:07", "tip"};
+const Lamp kNotice{Lamp::State::Notice, "kopien har mere", "tip"};
+
+class ALampRow : public ::testing::Test {
+protected:
+    ALampRow() {
+        for (const char* menu : {"Filer", "Vis", "Indstillinger"}) window.menuBar()->addMenu(QString::fromLatin1(menu));
+        row = new LampRow(*window.menuBar());
+        window.resize(1000, 300);
+        window.show();
+    }
+    ~ALampRow() override { QApplication::setPalette(QPalette()); }
+    static void Settle() { QTest::qWait(1); }
+
+    QMainWindow window;
+    LampRow* row = nullptr;
+};
+
+TEST_F(ALampRow, StandsFromRightToLeftInTheCorner) {
+    for (const LampKind kind : {LampKind::Utc, LampKind::Copy, LampKind::LastContact}) row->Show(kind, kGood);
+    Settle();
+    EXPECT_GT(row->Button(LampKind::Utc).x(), row->Button(LampKind::Copy).x());
+    EXPECT_GT(row->Button(LampKind::Copy).x(), row->Button(LampKind::LastContact).x());
+    EXPECT_GT(row->x(), window.menuBar()->actionGeometry(window.menuBar()->actions().constLast()).right());
+    EXPECT_LE(row->geometry().right(), window.width());
+}
+
+TEST_F(ALampRow, ShrinksWordsToSignsWhereThereIsNoRoomButNotThoseOfWhatIsWrong) {
+    row->Show(LampKind::Utc, kGood);
+    row->Show(LampKind::Copy, kBad);
+    row->Show(LampKind::LastContact, kGood);
+    Settle();
+    EXPECT_FALSE(row->Button(LampKind::Utc).Brief());
+    EXPECT_FALSE(row->Button(LampKind::Copy).Brief());
+    EXPECT_FALSE(row->Button(LampKind::LastContact).Brief());
+    int width = 1000;
+    for (; width > 300 && !row->Button(LampKind::LastContact).Brief(); width -= 10) {
+        window.resize(width, 300);
+        Settle();
+        EXPECT_FALSE(row->Button(LampKind::Copy).Brief());
+    }
+    EXPECT_TRUE(row->Button(LampKind::Utc).Brief());
+    // No menu has gone into a list of those that do not fit.
+    for (const QAction* menu : window.menuBar()->actions())
+        EXPECT_LE(window.menuBar()->actionGeometry(const_cast<QAction*>(menu)).right(), row->x());
+    window.resize(1000, 300);
+    Settle();
+    EXPECT_FALSE(row->Button(LampKind::LastContact).Brief());
+}
+
+TEST_F(ALampRow, GivesRoomBackWhenWordsGetShorter) {
+    row->Show(LampKind::LastContact, {Lamp::State::Good, std::string(300, 'x'), "tip"});
+    Settle();
+    EXPECT_TRUE(row->Button(LampKind::LastContact).Brief());
+    row->Show(LampKind::LastContact, kGood);
+    Settle();
+    EXPECT_FALSE(row->Button(LampKind::LastContact).Brief());
+    EXPECT_GE(row->Button(LampKind::LastContact).width(), row->Button(LampKind::LastContact).WidthOf(false));
+}
+
+TEST_F(ALampRow, IsLegibleInEveryScheme) {
+    QPalette dark(QColor(0x30, 0x30, 0x30));
+    for (const QPalette& palette : {QPalette(QColor(0xef, 0xef, 0xef)), dark, QPalette(Qt::white)}) {
+        QApplication::setPalette(palette);
+        for (const Lamp& lamp : {kGood, kNotice, kBad}) {
+            row->Show(LampKind::Copy, lamp);
+            Settle();
+            EXPECT_GE(Contrast(row->Button(LampKind::Copy)), 4.5) << lamp.text;
+        }
+    }
+}
+
+TEST_F(ALampRow, TellsItselfToAScreenReader) {
+    row->Show(LampKind::Copy, kBad);
+    EXPECT_EQ(row->Button(LampKind::Copy).accessibleName(), QStringLiteral("Løbende kopi: INGEN KOPI siden 12:07"));
+    EXPECT_EQ(row->Button(LampKind::Copy).accessibleDescription(), QStringLiteral("tip"));
+    EXPECT_EQ(row->Button(LampKind::Copy).toolTip(), QStringLiteral("tip"));
+}
+
+TEST_F(ALampRow, ShowsNothingThatIsOff) {
+    row->Show(LampKind::Utc, kGood);
+    Settle();
+    EXPECT_TRUE(row->Button(LampKind::Utc).isVisible());
+    EXPECT_FALSE(row->Button(LampKind::Copy).isVisible());
+}
+
+class LampsOfTheProgram : public WindowProgram {
+protected:
+    LampsOfTheProgram() {
+        settings.texts["SETTINGS/GSUTC"] = "-2";
+        lamps.clocks = [this] {
+            ClockWatch::Reading reading;
+            reading.local = clock.now;
+            reading.universal = AddHours(clock.now, zone);
+            reading.steady = steady;
+            return reading;
+        };
+        StartVatro();
+        Deliver([this] { lamps.Begin(); });
+    }
+    /// Lets the computer's clock jump.
+    void Jump(long long milliseconds, int hours = 0) {
+        clock.now = AddMilliseconds(AddHours(clock.now, hours), milliseconds);
+        steady += 100ms;
+    }
+    void Pass(std::chrono::milliseconds time) {
+        clock.now = AddMilliseconds(clock.now, time.count());
+        steady += time;
+    }
+    void Key(char c) {
+        driver.Press({.name = {}, .character = c});
+        driver.Settle();
+    }
+    LampButton& Button(LampKind kind) {
+        return *WindowOf(*frmMain).Top()->findChild<LampButton*>(QStringLiteral("lamp%1").arg(static_cast<int>(kind)));
+    }
+    std::string Time() const { return frmMain->fields[kUtcField].Text(); }
+
+    QtFront& qtFront = dynamic_cast<QtFront&>(driver.ProgramFront());
+    DiskFiles disk;
+    Safety safety{disk, clock, settings, instance};
+    CopyKeeper copy{qtFront, safety, settings};
+    Lamps lamps{qtFront, safety, copy};
+    int zone = -2;
+    std::chrono::milliseconds steady{1000};
+};
+
+TEST_F(LampsOfTheProgram, ShowTheTimeOfTheLog) {
+    EXPECT_EQ(Button(LampKind::Utc).Shown().text, "UTC 13:00");
+    EXPECT_FALSE(Button(LampKind::LastContact).isVisible());
+    EXPECT_FALSE(Button(LampKind::Copy).isVisible());
+}
+
+TEST_F(LampsOfTheProgram, TheFirstKeyAfterAJumpFindsTheNewTime) {
+    EXPECT_EQ(Time(), "13:00");
+    Jump(0, 7);
+    Key('D');
+    EXPECT_EQ(Time(), "20:00");
+    EXPECT_EQ(frmMain->fields[kCallField].Text(), "D");
+    EXPECT_EQ(Button(LampKind::Utc).Shown().state, Lamp::State::Notice);
+    Pass(61s);
+    Key('L');
+    EXPECT_EQ(Button(LampKind::Utc).Shown().text, "UTC 20:01");
+}
+
+TEST_F(LampsOfTheProgram, AJumpDoesNotTouchATimeThatIsBeingTyped) {
+    Deliver([] { frmMain->fields[kUtcField].SetFocus(); });
+    driver.Settle();
+    frmMain->fields[kUtcField].SetText("12:5");
+    Jump(0, 7);
+    driver.Press({.name = "Left"});
+    driver.Settle();
+    EXPECT_EQ(Time(), "12:5");
+}
+
+TEST_F(LampsOfTheProgram, AJumpDoesNothingWhileTheTimeIsTypedByHand) {
+    Deliver([] { frmMain->mnuIndstillingerKlokken.Choose(); });
+    const std::string before = Time();
+    Jump(0, 7);
+    Key('D');
+    EXPECT_EQ(Time(), before);
+}
+
+TEST_F(LampsOfTheProgram, AClickOpensTheOffsetIfItIsWrong) {
+    QTest::mouseClick(&Button(LampKind::Utc), Qt::LeftButton);
+    zone = -1;
+    Key('D');
+    EXPECT_EQ(Button(LampKind::Utc).Shown().text, "UTC er 14:00, loggen siger 13:00");
+    bool opened = false;
+    driver.playUntil = [&](const std::function<bool()>&) {
+        opened = true;
+        EXPECT_TRUE(frmUTC->Visible());
+        Dispatch([] { frmUTC->Hide(); });
+    };
+    QTest::mouseClick(&Button(LampKind::Utc), Qt::LeftButton);
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(LampsOfTheProgram, TellAnOffsetThatTheWindowCannotShow) {
+    desk().gsUTC = "40";
+    dialogs.Expect(
+        "UTC offset er \"40\" og står ikke i listen (-11 til 12).\r\n\r\nSlet linjen med UTC i programmets indstillinger, når Vatro er "
+        "afsluttet, og start igen. Se Indstillingsfilen i håndbogen.");
+    Key('D');
+    EXPECT_EQ(Button(LampKind::Utc).Shown().state, Lamp::State::Bad);
+    QTest::mouseClick(&Button(LampKind::Utc), Qt::LeftButton);
+    EXPECT_TRUE(dialogs.expected.empty());
+}
+
+TEST_F(LampsOfTheProgram, TellWhatBecameOfTheLastContact) {
+    safety.saved("17:52 SM7AA           59 -0034 59 -0012  3 SM         OZ1AB      SSB   05-09-26");
+    EXPECT_THAT(Button(LampKind::LastContact).Shown().text, HasSubstr("0034 SM7AA gemt"));
+    safety.notSaved("/log/FD80mSSB.txt", Failure::DiskFull);
+    EXPECT_EQ(Button(LampKind::LastContact).Shown().state, Lamp::State::Bad);
+    EXPECT_THAT(Button(LampKind::LastContact).Shown().tip, HasSubstr("FD80mSSB.txt"));
+}
+
+TEST_F(LampsOfTheProgram, NeverTakeTheKeyboard) {
+    safety.saved("17:52 SM7AA           59 -0034 59 -0012  3 SM         OZ1AB      SSB   05-09-26");
+    QTest::mouseClick(&Button(LampKind::LastContact), Qt::LeftButton);
+    Key('D');
+    EXPECT_EQ(frmMain->fields[kCallField].Text(), "D");
+}
+
+/// The program's own files on the disk, with a log and a stick.
+class TheCopyOfTheProgram : public LampsOfTheProgram {
+protected:
+    TheCopyOfTheProgram() {
+        for (const char* folder : {"log", "stick"}) std::filesystem::create_directory(root / folder);
+        desk().gsLogLib = NativeText(root / "log");
+    }
+    ~TheCopyOfTheProgram() override { copy.End(); }
+    void Choose(const std::string& folder) {
+        dialogs.chosen = NativeText(root / folder) + files.Separator() + "vatro.kopi";
+        Deliver([this] { copy.Choose(); });
+    }
+    bool Shows(const std::string& start) {
+        return QTest::qWaitFor([&] {
+            copy.Look();
+            return copy.Shown().text.starts_with(start);
+        });
+    }
+
+    TemporaryDirectory directory;
+    const std::filesystem::path& root = directory.Path();
+};
+
+TEST_F(TheCopyOfTheProgram, FollowsTheLogFromTheMomentItIsChosen) {
+    Choose("stick");
+    EXPECT_TRUE(Shows("kopi"));
+    SafeFiles& safeFiles = safety.ProgramFiles();
+    safeFiles.Open(1, NativeText(root / "log/FD80mSSB.txt"), FileMode::Append);
+    safeFiles.PrintLine(1, "17:52 SM7AA           59 -0034 59 -0012  3 SM         OZ1AB      SSB   05-09-26");
+    safeFiles.Close(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(root / "stick/FD80mSSB.txt"); }));
+    EXPECT_TRUE(std::filesystem::exists(root / "stick/vatro.kopi"));
+    EXPECT_EQ(settings.Read("Settings", "KopiBib"), NativeText(root / "stick"));
+    EXPECT_TRUE(copy.End());
+    EXPECT_EQ(copy.LastWord(), "");
+}
+
+TEST_F(TheCopyOfTheProgram, IsNotTakenInUseAgainAtTheNextStart) {
+    settings.Write("Settings", "KopiBib", NativeText(root / "stick"));
+    settings.Write("Settings", "KopiId", "id");
+    copy.Begin();
+    EXPECT_TRUE(Shows("INGEN KOPI"));
+    EXPECT_TRUE(std::filesystem::is_empty(root / "stick"));
+    copy.End();
+    EXPECT_THAT(copy.LastWord(), HasSubstr("vatro.kopi mangler"));
+}
+
+TEST_F(TheCopyOfTheProgram, IsRefusedWhereTheLogIs) {
+    dialogs.Expect("Der ligger loggen selv. Vælg et andet bibliotek, helst på en USB-nøgle.");
+    Choose("log");
+    EXPECT_FALSE(settings.Read("Settings", "KopiBib").has_value());
+    EXPECT_EQ(copy.Shown().state, Lamp::State::Off);
+}
+
+TEST_F(TheCopyOfTheProgram, FollowsTheLogDirectory) {
+    Choose("stick");
+    EXPECT_TRUE(Shows("kopi"));
+    std::filesystem::create_directory(root / "other");
+    std::ofstream(root / "other/FD40mCW.txt") << "17:52 SM7AA           599-0034 599-0012  3 SM         OZ1AB      CW    05-09-26\r\n";
+    desk().gsLogLib = NativeText(root / "other");
+    copy.Look();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(root / "stick/FD40mCW.txt"); }));
+}
+
+TEST_F(TheCopyOfTheProgram, StaysAsItIsIfTheOperatorCancels) {
+    dialogs.chosen.reset();
+    Deliver([this] { copy.Choose(); });
+    EXPECT_FALSE(settings.Read("Settings", "KopiBib").has_value());
+    EXPECT_TRUE(dialogs.failures.empty());
+}
+
+}  // namespace
+}  // namespace vatro
