@@ -126,8 +126,13 @@ class Desktop:
 
     def windows(self, title):
         """The visible windows with exactly this title."""
-        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^" + title + "$"], env=self.surroundings,
-                               capture_output=True, text=True, check=False).stdout.split()
+        # The search breaks off if any window of the screen closes meanwhile.
+        while True:
+            search = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^" + title + "$"], env=self.surroundings,
+                                    capture_output=True, text=True, check=False)
+            if "BadWindow" not in search.stderr:
+                break
+        found = search.stdout.split()
         names = {window: subprocess.run(["xdotool", "getwindowname", window], env=self.surroundings, capture_output=True, text=True,
                                         check=False).stdout.strip() for window in found}
         return [window for window, name in names.items() if name == title]
