@@ -5,6 +5,7 @@ import os
 import pathlib
 import shutil
 import signal
+import struct
 import subprocess
 import sys
 import tempfile
@@ -15,8 +16,8 @@ SKIPPED = 77
 PATIENCE = 20
 
 
-def skip_without_tools():
-    missing = [tool for tool in TOOLS if shutil.which(tool) is None]
+def skip_without_tools(*more):
+    missing = [tool for tool in TOOLS + more if shutil.which(tool) is None]
     if missing:
         print("not installed:", *missing)
         # CI skips nothing silently.
@@ -48,8 +49,8 @@ class Desktop:
         shutil.copytree(data, self.data)
         (self.home / "runtime").mkdir(mode=0o700)
         told, tell = os.pipe()
-        self.screen = subprocess.Popen(["Xvfb", "-displayfd", str(tell), "-screen", "0", "1400x900x24", "-nolisten", "tcp"],
-                                       pass_fds=[tell], stderr=subprocess.DEVNULL)
+        self.screen = subprocess.Popen(["Xvfb", "-displayfd", str(tell), "-screen", "0", "1400x900x24", "-nolisten", "tcp",
+                                        "-fbdir", str(self.home)], pass_fds=[tell], stderr=subprocess.DEVNULL)
         os.close(tell)
         with os.fdopen(told) as number:
             display = ":" + number.readline().strip()
@@ -169,6 +170,17 @@ class Desktop:
 
     def signal(self, number):
         self.program.send_signal(number)
+
+    def pixels(self, left, top, width, height):
+        """The rows of this part of the screen, each a list of colours such as 0xff0000 for red."""
+        # The X server maps its screen to this file in the format of xwd: a header of big-endian words, a colour table, the rows.
+        screen = (self.home / "Xvfb_screen0").read_bytes()
+        words = struct.unpack(">25I", screen[:100])
+        header, order, bits, row_length, table = words[0], "<>"[words[7]], words[11], words[12], words[19]
+        assert bits == 32, f"the screen has {bits} bits per pixel"
+        row = struct.Struct(f"{order}{width}I")
+        begin = header + 12 * table + 4 * left
+        return [[pixel & 0xffffff for pixel in row.unpack_from(screen, begin + row_length * y)] for y in range(top, top + height)]
 
     def picture(self, file):
         subprocess.run(["import", "-window", "root", file], env=self.surroundings, check=False)
