@@ -71,9 +71,9 @@ Lamp ClockWatch::Shown() const {
                 Joined({"Computeren siger, at UTC er ", computer, ", men kontakterne bliver logget med ", logged,
                         ". Ret UTC offset eller computerens ur. Klik her for at rette UTC offset."})};
     if (jump_ != 0 && last_->steady < jumpShownUntil_)
-        return {Lamp::State::Notice, Joined({"Uret gik ", LengthText(jump_), jump_ > 0 ? " frem" : " tilbage"_t, ": UTC ", logged}),
-                "Computerens ur er stillet, eller computeren har sovet. Se efter, at klokken passer."};
-    return {Lamp::State::Good, "UTC " + logged, "Kontakterne bliver logget med denne tid. Den passer med computerens UTC."};
+        return {Lamp::State::Notice, Joined({"Uret sprang ", LengthText(jump_), jump_ > 0 ? " frem" : " tilbage"_t, ": UTC ", logged}),
+                "Computerens ur er stillet, eller computeren har været i dvale. Se efter, at klokken passer."};
+    return {Lamp::State::Good, "UTC " + logged, Joined({"Klokken i loggen er ", logged, " UTC. Det passer med computerens UTC."})};
 }
 
 }  // namespace vatro

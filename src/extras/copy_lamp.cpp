@@ -31,15 +31,16 @@ Lamp CopyLamp(const CopyStatus& status, std::string_view directory) {
     if (!status.on) return {};
     if (status.busy >= kPatience)
         return NoCopy(status, Joined({directory,
-                                      " svarer ikke. Tag USB-nøglen ud, og sæt den i igen, eller vælg et andet bibliotek med "
+                                      " svarer ikke. Tag USB-nøglen ud, og sæt den til igen, eller vælg et andet bibliotek med "
                                       "Ekstra, Løbende kopi."_t}));
     if (!status.reason.empty()) return NoCopy(status, status.reason);
     Lamp lamp;
     lamp.state = Lamp::State::Good;
     lamp.text = status.good ? "kopi " + TimeOf(*status.good) : std::string("kopi ..."_t);
-    lamp.tip = status.good
-                   ? Joined({"Den løbende kopi i "_t, directory, " har alt fra loggene, senest kl. "_t, TimeOf(*status.good), " UTC."})
-                   : Joined({"Den løbende kopi i "_t, directory, " sammenlignes med loggene."_t});
+    lamp.tip =
+        status.good
+            ? Joined({"Den løbende kopi i "_t, directory, " er som loggene. Den blev sidst skrevet kl. "_t, TimeOf(*status.good), " UTC."})
+            : Joined({"Den løbende kopi i "_t, directory, " sammenlignes med loggene."_t});
     if (status.sameDisk)
         lamp.tip += " Den ligger på samme disk som loggen: går disken i stykker, er begge væk. Vælg hellere en USB-nøgle."_t;
     return lamp;

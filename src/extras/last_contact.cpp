@@ -18,7 +18,8 @@ void LastContact::Saved(std::string_view line, const DateTime& universal) {
 }
 
 void LastContact::Failed(std::string_view file, std::string_view why) {
-    lamp_ = {Lamp::State::Bad, Joined({"IKKE GEMT: ", why}), Joined({file, ": ", why, ". Se under Beskeder og fejl i håndbogen (F1)."_t})};
+    lamp_ = {Lamp::State::Bad, Joined({"IKKE GEMT: ", why}),
+             Joined({file, ": ", why, ". Se Beskeder og fejl i håndbogen (Hjælp, Indhold)."_t})};
 }
 
 }  // namespace vatro

@@ -289,14 +289,15 @@ void SafeFiles::TellOfForeignChange(const fs::path& log, std::size_t size) {
     // The damaged end may have stayed in the file because it could not be kept elsewhere.
     if (told_.contains({Matter::Damage, log})) return;
     std::error_code error;
-    const std::string_view what = !fs::exists(log, error)     ? "er blevet fjernet fra disken"
-                                  : size < known->second.size ? "er blevet kortere på disken"_t
-                                                              : "er blevet længere på disken"_t;
+    const std::string name = NativeText(log.filename());
+    const std::string what = !fs::exists(log, error)     ? "fjernet " + name + " fra disken"
+                             : size < known->second.size ? Joined({"gjort ", name, " kortere"})
+                                                         : Joined({"gjort ", name, " længere"_t});
     Tell(Matter::Changed, log,
-         Joined({NativeText(log.filename()), " ", what,
-                 " af noget andet end programmet.\r\n\r\nVinduet viser stadig de kontakter, som programmet har læst eller logget. "
-                 "Vælg ikke et andet bånd, og afslut ikke: ret i stedet en linje i loggen, og tryk Log. Så skriver programmet alle "
-                 "linjerne i vinduet i filen igen, og filen, som den er nu, kommer i historikken."_t}));
+         Joined({"Noget andet end programmet har ", what,
+                 ".\r\n\r\nVinduet viser stadig de kontakter, som programmet har læst eller logget. Vælg ikke bånd eller mode, og afslut "
+                 "ikke: ret i stedet en linje i loggen, og tryk Log. Så skriver programmet alle vinduets linjer i filen igen. Filen, som "
+                 "den er nu, lægges i historikken."_t}));
 }
 
 void SafeFiles::OpenToWrite(int number, std::string_view path, const fs::path& file) {

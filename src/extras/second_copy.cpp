@@ -110,7 +110,7 @@ CopyOutcome SecondCopy::Try(bool adopt, const std::set<std::string>& changed) {
             throw RunTimeError(FailureOf(error));
         if (error != 0) throw Obstacle{Joined({Shown(copies), " findes ikke. Sæt USB-nøglen eller disken til."_t})};
         if (IsSame(held.Path(), places_.logs)) throw Obstacle{Joined({Shown(copies), " er selve logbiblioteket."_t})};
-        if (IsSame(held.Path(), places_.backups)) throw Obstacle{Joined({Shown(copies), " er biblioteket til backup."_t})};
+        if (IsSame(held.Path(), places_.backups)) throw Obstacle{Joined({Shown(copies), " er backupbiblioteket."_t})};
         if (adopt) Adopt(held.Path());
         CheckMark(held.Path());
         const auto identity = IdentityOf(held.Path());
@@ -160,7 +160,7 @@ void SecondCopy::Mark(const fs::path& directory) const {
 void SecondCopy::CheckMark(const fs::path& directory) {
     const std::optional<std::string> marker = ReadIfThere(directory / kMarker);
     if (!marker)
-        throw Obstacle{Joined({Shown(places_.copies),
+        throw Obstacle{Joined({"Biblioteket ", Shown(places_.copies),
                                " er tomt eller et andet end det valgte: filen vatro.kopi mangler. Sæt den rigtige USB-nøgle til, eller "
                                "vælg biblioteket igen med Ekstra, Løbende kopi."_t})};
     if (IdIn(*marker) != places_.id)

@@ -121,14 +121,14 @@ Lamp CopyKeeper::Shown() const {
     lamp.state = Lamp::State::Notice;
     lamp.text = "kopien har mere";
     lamp.tip = Joined({"Den løbende kopi har "_t, Counted(found_),
-                       ", som loggen mangler. De er gemt i historikken. Vælg Ekstra, Løbende kopi, når felterne er tomme."_t});
+                       ", som loggen ikke har. Historikken har gemt dem. Vælg Ekstra, Løbende kopi, når Call er tom."_t});
     return lamp;
 }
 
 void CopyKeeper::Choose() {
     if (found_ > 0) {
         if (frmMain->fields[kCallField].Text().empty()) return Offer();
-        MsgBox("Log kontakten først, eller slet den med Esc. Vælg så Løbende kopi igen."_t);
+        MsgBox("Log kontakten først, eller tøm felterne med Esc. Vælg så Ekstra, Løbende kopi igen."_t);
         return;
     }
     if (directory_.empty()) return AskForDirectory();
@@ -164,8 +164,8 @@ void CopyKeeper::AskForDirectory() {
     const auto isSame = [&](const std::string& other) { return !other.empty() && Directory(chosen) == Directory(other); };
     if (isSame(desk().gsLogLib) || isSame(desk().gsBackupLib)) {
         MessageBox refused;
-        refused.text = isSame(desk().gsLogLib) ? "Der ligger loggen selv. Vælg et andet bibliotek, helst på en USB-nøgle."_t
-                                               : "Der ligger backup af loggen. Vælg et andet bibliotek, helst på en USB-nøgle."_t;
+        refused.text = isSame(desk().gsLogLib) ? "Det er selve logbiblioteket. Vælg et andet bibliotek, helst på en USB-nøgle."_t
+                                               : "Det er backupbiblioteket. Vælg et andet bibliotek, helst på en USB-nøgle."_t;
         refused.title = "Løbende kopi"_t;
         refused.icon = Icon::Exclamation;
         MsgBox(refused);

@@ -111,7 +111,7 @@ TEST_F(AClock, ThatJumpsMoreThanTwoMinutesIsToldForAMinute) {
     Set(3min);
     EXPECT_TRUE(Look());
     EXPECT_EQ(watch_.Shown().state, Lamp::State::Notice);
-    EXPECT_EQ(watch_.Shown().text, "Uret gik 3 min. frem: UTC 19:39");
+    EXPECT_EQ(watch_.Shown().text, "Uret sprang 3 min. frem: UTC 19:39");
     LookFor(59s);
     EXPECT_EQ(watch_.Shown().state, Lamp::State::Notice);
     LookFor(1s);
@@ -122,18 +122,18 @@ TEST_F(AClock, ThatIsSetBackADayIsTold) {
     Look();
     Set(-24h);
     EXPECT_TRUE(Look());
-    EXPECT_EQ(watch_.Shown().text, "Uret gik 24 t. tilbage: UTC 19:36");
+    EXPECT_EQ(watch_.Shown().text, "Uret sprang 24 t. tilbage: UTC 19:36");
 }
 
 TEST_F(AClock, ThatSleptIsToldWhetherItsSteadyClockStoodOrWentOn) {
     Look();
     Set(65min);
     EXPECT_TRUE(Look());
-    EXPECT_EQ(watch_.Shown().text, "Uret gik 1 t. 5 min. frem: UTC 20:41");
+    EXPECT_EQ(watch_.Shown().text, "Uret sprang 1 t. 5 min. frem: UTC 20:41");
     LookFor(61s);
     Pass(65min);
     EXPECT_TRUE(Look());
-    EXPECT_EQ(watch_.Shown().text, "Uret gik 1 t. 5 min. frem: UTC 21:47");
+    EXPECT_EQ(watch_.Shown().text, "Uret sprang 1 t. 5 min. frem: UTC 21:47");
 }
 
 TEST_F(AClock, OfAComputerThatWasBusyForSomeSecondsHasNotJumped) {

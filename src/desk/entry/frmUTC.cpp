@@ -37,6 +37,7 @@ void FrmUTC::Form_Load() {
 }
 
 bool FrmUTC::OffsetIsListed() {
+    if (!IsNumeric(desk().gsUTC)) return false;
     const double offset = NumericValue(desk().gsUTC);
     return offset >= kFirst && offset <= kLast;
 }
