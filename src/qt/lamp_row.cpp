@@ -88,7 +88,8 @@ int LampButton::WidthOf(bool brief) const {
 }
 
 QSize LampButton::sizeHint() const {
-    return {WidthOf(brief_), fontMetrics().height() + SignSize() / 2};
+    // No taller than the menus, which would move away from the lower edge of their bar.
+    return {WidthOf(brief_), fontMetrics().height() + 2};
 }
 
 void LampButton::paintEvent(QPaintEvent*) {

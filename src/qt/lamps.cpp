@@ -53,8 +53,8 @@ void TellOffset() {
     MessageBox box;
     box.title = "UTC offset";
     box.text = Joined({"UTC offset er \"", desk().gsUTC,
-                       "\" og står ikke i listen (-11 til 12).\r\n\r\nSlet linjen med UTC i programmets indstillinger, når Vatro er "
-                       "afsluttet, og start igen. Se Indstillingsfilen i håndbogen."_t});
+                       "\" og står ikke i listen (-11 til 12).\r\n\r\nAfslut Vatro, slet linjen UTC i "
+                       "indstillingsfilen, og start igen. Se Indstillingsfilen i håndbogen."_t});
     box.icon = Icon::Exclamation;
     MsgBox(box);
 }
@@ -135,8 +135,8 @@ void Lamps::ShowLastContact() {
 }
 
 bool Lamps::eventFilter(QObject*, QEvent* event) {
-    // After sleep, the first key can come before the next second.
-    if (event->type() == QEvent::KeyPress && event->spontaneous()) LookAtClock();
+    // After sleep, the first key or click can come before the next second.
+    if ((event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) && event->spontaneous()) LookAtClock();
     return false;
 }
 

@@ -204,6 +204,12 @@ TEST_F(LampsOfTheProgram, TheFirstKeyAfterAJumpFindsTheNewTime) {
     EXPECT_EQ(Button(LampKind::Utc).Shown().text, "UTC 20:01");
 }
 
+TEST_F(LampsOfTheProgram, TheFirstClickAfterAJumpFindsTheNewTime) {
+    Jump(0, 7);
+    QTest::mouseClick(&WidgetOf<QWidget>(frmMain->fields[kCallField]), Qt::LeftButton);
+    EXPECT_EQ(Time(), "20:00");
+}
+
 TEST_F(LampsOfTheProgram, AJumpDoesNotTouchATimeThatIsBeingTyped) {
     Deliver([] { frmMain->fields[kUtcField].SetFocus(); });
     driver.Settle();
@@ -240,12 +246,23 @@ TEST_F(LampsOfTheProgram, AClickOpensTheOffsetIfItIsWrong) {
 TEST_F(LampsOfTheProgram, TellAnOffsetThatTheWindowCannotShow) {
     desk().gsUTC = "40";
     dialogs.Expect(
-        "UTC offset er \"40\" og står ikke i listen (-11 til 12).\r\n\r\nSlet linjen med UTC i programmets indstillinger, når Vatro er "
-        "afsluttet, og start igen. Se Indstillingsfilen i håndbogen.");
+        "UTC offset er \"40\" og står ikke i listen (-11 til 12).\r\n\r\nAfslut Vatro, slet linjen UTC i "
+        "indstillingsfilen, og start igen. Se Indstillingsfilen i håndbogen.");
     Key('D');
     EXPECT_EQ(Button(LampKind::Utc).Shown().state, Lamp::State::Bad);
     QTest::mouseClick(&Button(LampKind::Utc), Qt::LeftButton);
     EXPECT_TRUE(dialogs.expected.empty());
+}
+
+TEST_F(LampsOfTheProgram, TellAnOffsetThatIsNoNumber) {
+    desk().gsUTC = "x";
+    dialogs.Expect(
+        "UTC offset er \"x\" og står ikke i listen (-11 til 12).\r\n\r\nAfslut Vatro, slet linjen UTC i indstillingsfilen, og start igen. "
+        "Se Indstillingsfilen i håndbogen.");
+    Key('D');
+    QTest::mouseClick(&Button(LampKind::Utc), Qt::LeftButton);
+    EXPECT_TRUE(dialogs.expected.empty());
+    EXPECT_TRUE(dialogs.failures.empty());
 }
 
 TEST_F(LampsOfTheProgram, TellWhatBecameOfTheLastContact) {
@@ -311,7 +328,7 @@ TEST_F(TheCopyOfTheProgram, IsNotTakenInUseAgainAtTheNextStart) {
 }
 
 TEST_F(TheCopyOfTheProgram, IsRefusedWhereTheLogIs) {
-    dialogs.Expect("Der ligger loggen selv. Vælg et andet bibliotek, helst på en USB-nøgle.");
+    dialogs.Expect("Det er selve logbiblioteket. Vælg et andet bibliotek, helst på en USB-nøgle.");
     Choose("log");
     EXPECT_FALSE(settings.Read("Settings", "KopiBib").has_value());
     EXPECT_EQ(copy.Shown().state, Lamp::State::Off);
