@@ -4,8 +4,8 @@
 
     vatro-bench --benchmark_format=json --benchmark_repetitions=9 | bench/ratios.py
 
-A benchmark names its yardstick in its label, and its limit if it has one, as "vs bare scan, at most 2". The median of the
-repetitions counts. A benchmark with the counter "bytes" has a second line for its memory. Exit 1 if a limit is not kept or a yardstick is missing.
+A benchmark names its yardstick in its label, and its limit if it has one, as "vs bare scan, at most 2" or "vs bare scan, at most 20 µs more".
+The median of the repetitions counts. A benchmark with the counter "bytes" has a second line for its memory. Exit 1 if a limit is not kept or a yardstick is missing.
 """
 
 import json
@@ -24,7 +24,8 @@ def text(seconds):
 def row(name, measured, yardstick, compared, limit):
     """Prints a row of figures with their unit; false if the limit is not kept."""
     ratio = measured[0] / compared[0]
-    over = limit is not None and ratio > float(limit)
+    more = re.fullmatch(r"([0-9.]+) µs more", limit or "")
+    over = measured[0] - compared[0] > float(more[1]) * 1e-6 if more else limit is not None and ratio > float(limit)
     print(f"| {name} | {measured[1]} | {yardstick} | {compared[1]} | {ratio:.3g}{' **over**' if over else ''} | {limit or '-'} |")
     return not over
 
@@ -48,7 +49,7 @@ def main():
     print("| measured | | yardstick | | ratio | limit |")
     print("|---|---|---|---|---|---|")
     for name, label in labels.items():
-        match = re.fullmatch(r"vs (.+?)(?:, at most ([0-9.]+))?", label)
+        match = re.fullmatch(r"vs (.+?)(?:, at most ([0-9.]+(?: µs more)?))?", label)
         if not match:
             continue
         yardstick, limit = match[1], match[2]

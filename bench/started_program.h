@@ -18,6 +18,8 @@ namespace vatro::bench {
 class Workplace {
 public:
     Workplace();
+    /// On the disk of this directory.
+    explicit Workplace(const std::filesystem::path& above);
     ~Workplace();
     Workplace(const Workplace&) = delete;
     Workplace& operator=(const Workplace&) = delete;
@@ -34,8 +36,15 @@ private:
 /// The program from its start to its end. Only one can exist at a time.
 class Program {
 public:
+    /// What the desktop program has beside its files.
+    enum class With {
+        Nothing,
+        /// The lamp of the last contact, and the live second copy, on a disk of its own if the machine has one in memory.
+        LampsAndCopy,
+    };
+
     /// Starts the program with full tables and this log of 80 metres SSB.
-    explicit Program(const std::vector<std::string>& log);
+    explicit Program(const std::vector<std::string>& log, With with = With::Nothing);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -50,9 +59,11 @@ public:
 
 private:
     struct Services;
+    struct Follower;
 
     Workplace workplace_;
     std::unique_ptr<Services> services_;
+    std::unique_ptr<Follower> follower_;
 };
 
 }  // namespace vatro::bench
