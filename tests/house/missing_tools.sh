@@ -36,6 +36,7 @@ desktop/with_window_manager.sh openbox true
 desktop/ends.py vatro data
 desktop/print_server.py vatro data
 desktop/clock.py vatro data
+desktop/copy.py vatro data
 typing/typing.sh vatro data
 typing/typing_while_sending.sh vatro data
 power/kill_corrections.py vatro data
