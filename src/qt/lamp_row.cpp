@@ -5,8 +5,9 @@
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QPainter>
-#include <QPainterPath>
+#include <QStyleOptionMenuItem>
 #include <QTimer>
+#include <utility>
 
 #include "qt_text.h"
 
@@ -28,6 +29,32 @@ QString NameOf(LampKind kind) {
             return QStringLiteral("Sidste kontakt");
     }
     return {};
+}
+
+/// Which lamps get their words first, depending on whether they are good: a wrong time spoils every contact, while a good one is in its
+/// field too.
+constexpr std::array<std::pair<bool, LampKind>, 2 * kLampKinds> kWordsFirst{{{false, LampKind::LastContact},
+                                                                             {false, LampKind::Utc},
+                                                                             {false, LampKind::Copy},
+                                                                             {true, LampKind::LastContact},
+                                                                             {true, LampKind::Copy},
+                                                                             {true, LampKind::Utc}}};
+
+/// The room that all menus need side by side, whether they are shown now or not.
+int WidthOfMenus(const QMenuBar& bar) {
+    const QStyle& style = *bar.style();
+    QStyleOptionMenuItem option;
+    option.initFrom(&bar);
+    int width =
+        2 * (style.pixelMetric(QStyle::PM_MenuBarPanelWidth, nullptr, &bar) + style.pixelMetric(QStyle::PM_MenuBarHMargin, nullptr, &bar));
+    for (const QAction* menu : bar.actions()) {
+        if (!menu->isVisible()) continue;
+        option.text = menu->text();
+        const QSize words = bar.fontMetrics().size(Qt::TextShowMnemonic, menu->text());
+        width += style.sizeFromContents(QStyle::CT_MenuBarItem, &option, words, &bar).width() +
+                 style.pixelMetric(QStyle::PM_MenuBarItemSpacing, nullptr, &bar);
+    }
+    return width;
 }
 
 /// Background and ink of a lamp. A good lamp has the colours of the menu bar.
@@ -109,18 +136,13 @@ void LampButton::paintEvent(QPaintEvent*) {
     painter.drawText(whole.adjusted(2 * sign, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
 }
 
-/// A warning sign for what is wrong; otherwise a clock, two sheets or a tick.
+/// A clock, two sheets or a tick; crossed out, or a cross, if something is wrong.
 void LampButton::PaintSign(QPainter& painter, const QRectF& place, const QColor& ink) const {
     const double unit = place.width();
     painter.setPen(QPen(ink, unit * kLineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     const auto at = [&](double x, double y) { return QPointF(place.x() + x * unit, place.y() + y * unit); };
-    if (lamp_.state == Lamp::State::Bad || lamp_.state == Lamp::State::Notice) {
-        painter.drawPolygon(QPolygonF({at(0.5, 0.06), at(0.96, 0.94), at(0.04, 0.94)}));
-        painter.drawLine(at(0.5, 0.4), at(0.5, 0.62));
-        painter.drawPoint(at(0.5, 0.78));
-        return;
-    }
+    const bool bad = lamp_.state == Lamp::State::Bad;
     switch (kind_) {
         case LampKind::Utc:
             painter.drawEllipse(place.adjusted(unit * 0.06, unit * 0.06, -unit * 0.06, -unit * 0.06));
@@ -131,9 +153,13 @@ void LampButton::PaintSign(QPainter& painter, const QRectF& place, const QColor&
             painter.drawPolyline(QPolygonF({at(0.86, 0.34), at(0.94, 0.34), at(0.94, 0.94), at(0.34, 0.94), at(0.34, 0.86)}));
             break;
         case LampKind::LastContact:
-            painter.drawPolyline(QPolygonF({at(0.08, 0.55), at(0.38, 0.86), at(0.94, 0.14)}));
+            if (bad)
+                painter.drawLine(at(0.94, 0.06), at(0.06, 0.94));
+            else
+                painter.drawPolyline(QPolygonF({at(0.08, 0.55), at(0.38, 0.86), at(0.94, 0.14)}));
             break;
     }
+    if (bad) painter.drawLine(at(0.06, 0.06), at(0.94, 0.94));
 }
 
 LampRow::LampRow(QMenuBar& bar) : QWidget(&bar), bar_(bar) {
@@ -159,25 +185,20 @@ void LampRow::Show(LampKind kind, const Lamp& lamp) {
     FitIn();
 }
 
-/// Leaves out the words of as many lamps as necessary, so that the menus keep their room. Words of what is wrong stay longest. Among good
-/// lamps those of UTC go first, because the time is in its field too.
+/// Leaves out the words of as many lamps as necessary, so that the menus keep their room. Words of what is wrong stay longest.
 void LampRow::FitIn() {
-    int menus = 0;
-    for (const QAction* menu : bar_.actions()) menus += bar_.actionGeometry(const_cast<QAction*>(menu)).width();
-    int room = bar_.width() - menus - 2 * fontMetrics().averageCharWidth();
+    int room = bar_.width() - WidthOfMenus(bar_);
     for (LampButton* lamp : lamps_)
         if (lamp->Shown().state != Lamp::State::Off) room -= lamp->WidthOf(true) + layout()->spacing();
     std::array<bool, kLampKinds> words{};
-    for (const bool good : {false, true}) {
-        for (const LampKind kind : {LampKind::LastContact, LampKind::Copy, LampKind::Utc}) {
-            const auto i = static_cast<std::size_t>(kind);
-            const Lamp::State state = lamps_[i]->Shown().state;
-            if (state == Lamp::State::Off || (state == Lamp::State::Good) != good) continue;
-            const int more = lamps_[i]->WidthOf(false) - lamps_[i]->WidthOf(true);
-            if (more > room) continue;
-            room -= more;
-            words[i] = true;
-        }
+    for (const auto& [good, kind] : kWordsFirst) {
+        const auto i = static_cast<std::size_t>(kind);
+        const Lamp::State state = lamps_[i]->Shown().state;
+        if (state == Lamp::State::Off || (state == Lamp::State::Good) != good) continue;
+        const int more = lamps_[i]->WidthOf(false) - lamps_[i]->WidthOf(true);
+        if (more > room) continue;
+        room -= more;
+        words[i] = true;
     }
     for (std::size_t i = 0; i < lamps_.size(); ++i) lamps_[i]->SetBrief(!words[i]);
     // The menu bar asks for the size of its corner only when its own layout changes.

@@ -72,6 +72,14 @@ protected:
     }
     ~ALampRow() override { QApplication::setPalette(QPalette()); }
     static void Settle() { QTest::qWait(1); }
+    /// No menu has gone into the list of those that do not fit.
+    bool AllMenusAreShown() {
+        for (const QAction* menu : window.menuBar()->actions()) {
+            const QRect place = window.menuBar()->actionGeometry(const_cast<QAction*>(menu));
+            if (place.isEmpty() || place.right() > row->x()) return false;
+        }
+        return true;
+    }
 
     QMainWindow window;
     LampRow* row = nullptr;
@@ -101,12 +109,30 @@ TEST_F(ALampRow, ShrinksWordsToSignsWhereThereIsNoRoomButNotThoseOfWhatIsWrong) 
         EXPECT_FALSE(row->Button(LampKind::Copy).Brief());
     }
     EXPECT_TRUE(row->Button(LampKind::Utc).Brief());
-    // No menu has gone into a list of those that do not fit.
-    for (const QAction* menu : window.menuBar()->actions())
-        EXPECT_LE(window.menuBar()->actionGeometry(const_cast<QAction*>(menu)).right(), row->x());
+    EXPECT_TRUE(AllMenusAreShown());
     window.resize(1000, 300);
     Settle();
     EXPECT_FALSE(row->Button(LampKind::LastContact).Brief());
+}
+
+TEST_F(ALampRow, LeavesTheMenusTheirRoomAtEveryWidth) {
+    for (const LampKind kind : {LampKind::Utc, LampKind::Copy, LampKind::LastContact}) row->Show(kind, kBad);
+    for (int width = 1000; width > 400; width -= 7) {
+        window.resize(width, 300);
+        Settle();
+        EXPECT_TRUE(AllMenusAreShown()) << width;
+    }
+}
+
+TEST_F(ALampRow, AWrongTimeKeepsItsWordsLongerThanAMissingCopy) {
+    for (const LampKind kind : {LampKind::Utc, LampKind::Copy}) row->Show(kind, kBad);
+    int width = 1000;
+    for (; width > 300 && !row->Button(LampKind::Copy).Brief(); width -= 10) {
+        window.resize(width, 300);
+        Settle();
+    }
+    EXPECT_TRUE(row->Button(LampKind::Copy).Brief());
+    EXPECT_FALSE(row->Button(LampKind::Utc).Brief());
 }
 
 TEST_F(ALampRow, GivesRoomBackWhenWordsGetShorter) {
