@@ -50,7 +50,7 @@ private:
     std::pair<std::string, fs::path> Touched(const user_regs_struct& call) const {
         switch (call.orig_rax) {
             case SYS_openat:
-                return {"open", Text(call.rsi)};
+                return {"open", PathFor(Text(call.rsi), process_)};
             case SYS_read:
                 return {"read", Opened(call.rdi)};
             case SYS_write:
@@ -64,13 +64,13 @@ private:
             case SYS_close:
                 return {"close", Opened(call.rdi)};
             case SYS_rename:
-                return {"rename", Text(call.rdi)};
+                return {"rename", PathFor(Text(call.rdi), process_)};
             case SYS_linkat:
-                return {"link", Text(call.rsi)};
+                return {"link", PathFor(Text(call.rsi), process_)};
             case SYS_unlink:
-                return {"unlink", Text(call.rdi)};
+                return {"unlink", PathFor(Text(call.rdi), process_)};
             case SYS_mkdir:
-                return {"mkdir", Text(call.rdi)};
+                return {"mkdir", PathFor(Text(call.rdi), process_)};
             default:
                 return {};
         }

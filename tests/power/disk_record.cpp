@@ -7,6 +7,7 @@
 #include <sys/syscall.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <array>
 #include <fstream>
 #include <stdexcept>
@@ -65,7 +66,7 @@ private:
         switch (number_) {
 #ifdef SYS_open
             case SYS_open:
-                return Open(Text(arguments_[0]), static_cast<int>(arguments_[1]), begin);
+                return Open(PathFor(Text(arguments_[0]), process_), static_cast<int>(arguments_[1]), begin);
 #endif
             case SYS_openat:
                 return Open(PathAt(arguments_[0], arguments_[1]), static_cast<int>(arguments_[2]), begin);
@@ -87,7 +88,7 @@ private:
             }
 #ifdef SYS_unlink
             case SYS_unlink:
-                begin(DiskCall::Kind::Remove, Text(arguments_[0]));
+                begin(DiskCall::Kind::Remove, PathFor(Text(arguments_[0]), process_));
                 return;
 #endif
             case SYS_unlinkat:
@@ -95,7 +96,7 @@ private:
                 return;
 #ifdef SYS_rename
             case SYS_rename:
-                return Rename(Text(arguments_[0]), Text(arguments_[1]), begin);
+                return Rename(PathFor(Text(arguments_[0]), process_), PathFor(Text(arguments_[1]), process_), begin);
 #endif
             case SYS_renameat:
             case SYS_renameat2:
@@ -160,7 +161,7 @@ private:
     }
     fs::path PathAt(std::uint64_t directory, std::uint64_t text) const {
         const fs::path path = Text(text);
-        if (path.is_absolute()) return path;
+        if (path.is_absolute()) return PathFor(path, process_);
         const int handle = static_cast<int>(directory);
         return fs::read_symlink(Proc(handle == AT_FDCWD ? "cwd" : "fd/" + std::to_string(handle))) / path;
     }
@@ -206,6 +207,16 @@ private:
 };
 
 }  // namespace
+
+fs::path PathFor(const fs::path& path, int process) {
+    const fs::path self("/proc/self/fd");
+    const auto [end, rest] = std::mismatch(self.begin(), self.end(), path.begin(), path.end());
+    if (end != self.end() || rest == path.end()) return path;
+    std::error_code none;
+    fs::path whole = fs::read_symlink(fs::path("/proc") / std::to_string(process) / "fd" / *rest, none);
+    for (auto part = std::next(rest); part != path.end(); ++part) whole /= *part;
+    return whole;
+}
 
 bool CanRecord() {
     const pid_t child = fork();

@@ -45,4 +45,8 @@ struct DiskFault {
 /// calls. Throws if the process crashes; `life` must catch the failures it expects.
 std::string RunWithFault(const std::filesystem::path& directory, const DiskFault& fault, const std::function<void()>& life);
 
+/// The path as every process has it: one that begins with "/proc/self/fd/N", as a process names a directory that it holds open, is given
+/// by the directory itself.
+std::filesystem::path PathFor(const std::filesystem::path& path, int process);
+
 }  // namespace vatro
