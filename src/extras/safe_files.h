@@ -26,6 +26,7 @@
 #include <vector>
 
 #include "directory_lock.h"
+#include "errors.h"
 #include "history.h"
 #include "log_text.h"
 #include "names.h"
@@ -123,7 +124,14 @@ private:
     Slot* SlotOf(int number);
     /// Runs a step of writing a file, and tells if it fails.
     template <class StepOfWriting>
-    void Write(const std::filesystem::path& file, StepOfWriting step);
+    void Write(const std::filesystem::path& file, StepOfWriting step) {
+        try {
+            step();
+        } catch (const RunTimeError& failure) {
+            surroundings_.notSaved(file, failure.Which());
+            throw;
+        }
+    }
     void Changed(const std::filesystem::path& file) const;
     std::optional<std::filesystem::path> PathTo(std::string_view path) const;
     void OpenLogToRead(int number, std::string_view path, const std::filesystem::path& file);

@@ -40,11 +40,6 @@ struct Obstacle {
     std::string reason;
 };
 
-std::string Shown(const fs::path& directory) {
-    fs::path path = directory;
-    return NativeText(path.make_preferred());
-}
-
 std::set<std::string> AllLogs() {
     std::set<std::string> names;
     for (const auto& [band, mode] : kTenLogs) names.insert(LogName(band, mode));
@@ -108,9 +103,9 @@ CopyOutcome SecondCopy::Try(bool adopt, const std::set<std::string>& changed) {
         const int error = held.Hold(copies);
         if (error != 0 && FailureOf(error) != Failure::FileNotFound && FailureOf(error) != Failure::PathNotFound)
             throw RunTimeError(FailureOf(error));
-        if (error != 0) throw Obstacle{Joined({Shown(copies), " findes ikke. Sæt USB-nøglen eller disken til."_t})};
-        if (IsSame(held.Path(), places_.logs)) throw Obstacle{Joined({Shown(copies), " er selve logbiblioteket."_t})};
-        if (IsSame(held.Path(), places_.backups)) throw Obstacle{Joined({Shown(copies), " er backupbiblioteket."_t})};
+        if (error != 0) throw Obstacle{Joined({ShownPath(copies), " findes ikke. Sæt USB-nøglen eller disken til."_t})};
+        if (IsSame(held.Path(), places_.logs)) throw Obstacle{Joined({ShownPath(copies), " er selve logbiblioteket."_t})};
+        if (IsSame(held.Path(), places_.backups)) throw Obstacle{Joined({ShownPath(copies), " er backupbiblioteket."_t})};
         if (adopt) Adopt(held.Path());
         CheckMark(held.Path());
         const auto identity = IdentityOf(held.Path());
@@ -134,10 +129,10 @@ CopyOutcome SecondCopy::Try(bool adopt, const std::set<std::string>& changed) {
     } catch (const Obstacle& obstacle) {
         outcome.reason = obstacle.reason;
     } catch (const RunTimeError& failure) {
-        outcome.reason = Joined({Shown(places_.copies), ": ", Meaning(failure.Which()), "."});
+        outcome.reason = Joined({ShownPath(places_.copies), ": ", Meaning(failure.Which()), "."});
     } catch (const std::exception&) {
         // Nothing that goes wrong on this thread may end the program.
-        outcome.reason = Joined({Shown(places_.copies), ": ", Meaning(Failure::PathFileAccess), "."});
+        outcome.reason = Joined({ShownPath(places_.copies), ": ", Meaning(Failure::PathFileAccess), "."});
     }
     if (!outcome.done && !outcome.reason.empty()) directory_.reset();
     outcome.found = found_;
@@ -154,22 +149,22 @@ void SecondCopy::Adopt(const fs::path& directory) const {
 void SecondCopy::Mark(const fs::path& directory) const {
     const std::string head(
         "Vatro lægger her en kopi af hver log, hver gang den ændres. Slet ikke denne fil: uden den skriver Vatro intet her."_t);
-    WriteWhole(directory / kMarker, ToUtf8(Joined({head, kLineEnd, places_.id, kLineEnd, Shown(places_.logs), kLineEnd})));
+    WriteWhole(directory / kMarker, ToUtf8(Joined({head, kLineEnd, places_.id, kLineEnd, ShownPath(places_.logs), kLineEnd})));
 }
 
 void SecondCopy::CheckMark(const fs::path& directory) {
     const std::optional<std::string> marker = ReadIfThere(directory / kMarker);
     if (!marker)
-        throw Obstacle{Joined({"Biblioteket ", Shown(places_.copies),
+        throw Obstacle{Joined({"Biblioteket ", ShownPath(places_.copies),
                                " er tomt eller et andet end det valgte: filen vatro.kopi mangler. Sæt den rigtige USB-nøgle til, eller "
                                "vælg biblioteket igen med Ekstra, Løbende kopi."_t})};
     if (IdIn(*marker) != places_.id)
         throw Obstacle{
-            Joined({Shown(places_.copies),
+            Joined({ShownPath(places_.copies),
                     " har kopien fra en anden Vatro. Vælg et andet bibliotek med Ekstra, Løbende kopi, eller det samme igen, hvis "
                     "den anden ikke bruges mere."_t})};
     const std::vector<std::string_view> lines = SplitLines(*marker);
-    ofOtherLogs_ = lines.size() < 3 || lines[2] != ToUtf8(Shown(places_.logs));
+    ofOtherLogs_ = lines.size() < 3 || lines[2] != ToUtf8(ShownPath(places_.logs));
     if (ofOtherLogs_) due_ = AllLogs();
 }
 

@@ -70,6 +70,12 @@ void WriteWhole(const fs::path& file, std::string_view content) {
     SyncDirectory(file.parent_path());
 }
 
+std::size_t SizeOf(const fs::path& file) {
+    std::error_code error;
+    const auto size = fs::file_size(file, error);
+    return error ? 0 : static_cast<std::size_t>(size);
+}
+
 bool IsNoFile(const fs::path& path) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);

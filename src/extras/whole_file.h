@@ -3,6 +3,7 @@
 // Reads and writes files as a whole.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -23,6 +24,9 @@ ReadResult ReadWhatIsThere(const std::filesystem::path& file);
 /// Writes the file completely or not at all: writes it under another name, syncs it, then renames it. It is on disk on return. If it
 /// replaces a file, it takes over that file's owner and permissions.
 void WriteWhole(const std::filesystem::path& file, std::string_view content);
+
+/// The length of the file in bytes; 0 if it is missing.
+std::size_t SizeOf(const std::filesystem::path& file);
 
 /// Whether the path exists but is not a regular file: a pipe, a device or a directory. Opening such a thing could block for ever.
 bool IsNoFile(const std::filesystem::path& path);

@@ -58,4 +58,9 @@ FoundPath FindPath(const fs::path& spelled) {
     return found;
 }
 
+std::string ShownPath(const fs::path& path) {
+    fs::path shown = path;
+    return NativeText(shown.make_preferred());
+}
+
 }  // namespace vatro

@@ -20,6 +20,9 @@ std::filesystem::path NativePath(std::string_view path);
 /// Converts a path of the file system to text; a character outside the code page becomes "?".
 std::string NativeText(const std::filesystem::path& path);
 
+/// The same for the operator, with the separators of the system.
+std::string ShownPath(const std::filesystem::path& path);
+
 /// Converts text in the code page, or in UTF-8 (PathOfUtf8), to a path of the file system with the same spelling.
 std::filesystem::path PathOf(std::string_view text);
 std::filesystem::path PathOfUtf8(std::string_view utf8);
