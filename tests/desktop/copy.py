@@ -152,8 +152,8 @@ def expect_no_wait(desktop, stick, delays):
     begin = time.monotonic()
     desktop.start(traced(desktop, stick, delays))
     assert time.monotonic() - begin < 15, "the start waits for the copy"
-    strace = desktop.program.pid
-    window = pathlib.Path(f"/proc/{strace}/task/{strace}/children").read_text().strip()
+    tracer = desktop.program.pid
+    window = pathlib.Path(f"/proc/{tracer}/task/{tracer}/children").read_text().strip()
     for number, call in enumerate(("dl7qnc", "sm7aa", "la1zz"), 1):
         took = log_contact(desktop, call, number)
         assert took < 1.5, f"Enter took {took:.1f} s"

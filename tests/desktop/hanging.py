@@ -11,7 +11,8 @@ import os
 import struct
 import sys
 
-INIT, FORGET, BATCH_FORGET, INTERRUPT = 26, 2, 42, 36
+# The number of the first request, which asks for the version of the protocol.
+FIRST = 26
 HEADER = struct.Struct("<IIQQIIII")
 ANSWER = struct.Struct("<IiQ")
 MAJOR, MINOR = 7, 31
@@ -24,15 +25,15 @@ def main():
         device = os.open("/dev/fuse", os.O_RDWR)
     except OSError:
         sys.exit(NO_MOUNT)
-    libc = ctypes.CDLL(None, use_errno=True)
+    library = ctypes.CDLL(None, use_errno=True)
     options = f"fd={device},rootmode=40000,user_id={os.getuid()},group_id={os.getgid()}"
-    if libc.mount(b"hanging", os.fsencode(directory), b"fuse.hanging", 6, options.encode()) != 0:
+    if library.mount(b"hanging", os.fsencode(directory), b"fuse.hanging", 6, options.encode()) != 0:
         sys.exit(NO_MOUNT)
     said = False
     while True:
         request = os.read(device, 1 << 18)
-        _, opcode, unique, *_ = HEADER.unpack_from(request)
-        if opcode == INIT:
+        _, kind, unique, *_ = HEADER.unpack_from(request)
+        if kind == FIRST:
             body = struct.pack("<IIIIHHIII", MAJOR, MINOR, 0, 0, 12, 10, 1 << 17, 1, 0).ljust(64, b"\0")
             os.write(device, ANSWER.pack(ANSWER.size + len(body), 0, unique) + body)
         if not said:
