@@ -116,8 +116,8 @@ void MakeFolder(const fs::path& folder, const fs::path& elsewhere) {
 
 }  // namespace
 
-History::History(fs::path directory, fs::path elsewhere, std::function<DateTime()> now)
-    : beside_(std::move(directory) / kFolder), elsewhere_(std::move(elsewhere)), now_(std::move(now)) {}
+History::History(const fs::path& directory, fs::path elsewhere, std::function<DateTime()> now)
+    : beside_(directory / kFolder), elsewhere_(std::move(elsewhere)), now_(std::move(now)) {}
 
 History::Version History::Add(const fs::path& file, Keep keep) {
     return Take(file, keep, Way::LinkOrCopy);

@@ -42,7 +42,7 @@ public:
 
     /// The history of the files in `directory`. `elsewhere` is the directory on the computer for versions that cannot be stored beside
     /// their file; it is created when needed. `now` returns the local time.
-    History(std::filesystem::path directory, std::filesystem::path elsewhere, std::function<DateTime()> now);
+    History(const std::filesystem::path& directory, std::filesystem::path elsewhere, std::function<DateTime()> now);
 
     /// Adds the file as the newest version; the file itself stays in place. The version is on disk on return. Fails with the disk's
     /// failure.

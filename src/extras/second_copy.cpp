@@ -27,6 +27,8 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kMarker = "vatro.kopi";
+constexpr std::string_view kMarkerText =
+    "Vatro lægger her en kopi af hver log, hver gang den ændres. Slet ikke denne fil: uden den skriver Vatro intet her."_t;
 constexpr std::string_view kAside = "tidligere";
 constexpr std::string_view kLineEnd = "\r\n";
 /// An append within one block is done wholly or not at all, also when the process is killed or the disk is full.
@@ -35,7 +37,7 @@ constexpr std::size_t kBlock = 4096;
 constexpr int kTries = 50;
 constexpr std::chrono::milliseconds kBetweenTries{10};
 
-/// Why the copies cannot be written now, as a sentence for the operator. Empty if it is worth trying again at once.
+/// Why a copy cannot be written now, as a sentence for the operator. Empty if it is worth trying again at once.
 struct Obstacle {
     std::string reason;
 };
@@ -116,16 +118,14 @@ CopyOutcome SecondCopy::Try(bool adopt, const std::set<std::string>& changed) {
         const auto logs = IdentityOf(places_.logs);
         if (!logs) throw Obstacle{std::string("Logbiblioteket kan ikke læses."_t)};
         outcome.sameDisk = identity && identity->volume == logs->volume;
-        while (!due_.empty()) {
-            CopyLog(held.Path(), *due_.begin());
-            due_.erase(due_.begin());
-        }
-        if (ofOtherLogs_) {
+        LookForChanges(held.Path());
+        outcome.reason = CopyDue(held.Path());
+        outcome.done = due_.empty();
+        if (outcome.done && otherLogs_) {
             Mark(held.Path());
-            ofOtherLogs_ = false;
+            otherLogs_.reset();
         }
         directory_ = identity;
-        outcome.done = true;
     } catch (const Obstacle& obstacle) {
         outcome.reason = obstacle.reason;
     } catch (const RunTimeError& failure) {
@@ -139,17 +139,40 @@ CopyOutcome SecondCopy::Try(bool adopt, const std::set<std::string>& changed) {
     return outcome;
 }
 
+/// Finds logs and copies that something else has changed since they were last compared.
+void SecondCopy::LookForChanges(const fs::path& directory) {
+    for (const auto& [name, left] : left_)
+        if (SizeOf(FindPath(directory / name).path) != left.size || SizeOf(FindPath(places_.logs / name).path) != left.size)
+            due_.insert(name);
+}
+
+/// Copies every log that is due, and leaves due those that cannot be copied. Returns why the first of them cannot; empty if it was only
+/// being written.
+std::string SecondCopy::CopyDue(const fs::path& directory) {
+    std::string reason;
+    const std::set<std::string> names = due_;
+    for (const std::string& name : names) {
+        try {
+            CopyLog(directory, name);
+            due_.erase(name);
+        } catch (const Obstacle& obstacle) {
+            if (reason.empty()) reason = obstacle.reason;
+        } catch (const RunTimeError& failure) {
+            if (reason.empty()) reason = Joined({name, " i ", ShownPath(places_.copies), ": ", Meaning(failure.Which()), "."});
+        }
+    }
+    return reason;
+}
+
 /// Marks the directory, unless it is already marked by this program: the copies in it may still be those of other logs.
 void SecondCopy::Adopt(const fs::path& directory) const {
     const std::optional<std::string> marker = ReadIfThere(directory / kMarker);
-    if (!marker || IdIn(*marker) != places_.id) Mark(directory);
+    if (!marker || !IsOurs(*marker)) Mark(directory);
 }
 
 /// The marker holds the id, then the directory of the logs.
 void SecondCopy::Mark(const fs::path& directory) const {
-    const std::string head(
-        "Vatro lægger her en kopi af hver log, hver gang den ændres. Slet ikke denne fil: uden den skriver Vatro intet her."_t);
-    WriteWhole(directory / kMarker, ToUtf8(Joined({head, kLineEnd, places_.id, kLineEnd, ShownPath(places_.logs), kLineEnd})));
+    WriteWhole(directory / kMarker, ToUtf8(Joined({kMarkerText, kLineEnd, places_.id, kLineEnd, ShownPath(places_.logs), kLineEnd})));
 }
 
 void SecondCopy::CheckMark(const fs::path& directory) {
@@ -158,14 +181,20 @@ void SecondCopy::CheckMark(const fs::path& directory) {
         throw Obstacle{Joined({"Biblioteket ", ShownPath(places_.copies),
                                " er tomt eller et andet end det valgte: filen vatro.kopi mangler. Sæt den rigtige USB-nøgle til, eller "
                                "vælg biblioteket igen med Ekstra, Løbende kopi."_t})};
-    if (IdIn(*marker) != places_.id)
+    if (!IsOurs(*marker))
         throw Obstacle{
-            Joined({ShownPath(places_.copies),
+            Joined({"Biblioteket ", ShownPath(places_.copies),
                     " har kopien fra en anden Vatro. Vælg et andet bibliotek med Ekstra, Løbende kopi, eller det samme igen, hvis "
                     "den anden ikke bruges mere."_t})};
     const std::vector<std::string_view> lines = SplitLines(*marker);
-    ofOtherLogs_ = lines.size() < 3 || lines[2] != ToUtf8(ShownPath(places_.logs));
-    if (ofOtherLogs_) due_ = AllLogs();
+    otherLogs_.reset();
+    if (lines.size() > 2 && lines[2] == ToUtf8(ShownPath(places_.logs))) return;
+    otherLogs_ = lines.size() > 2 ? PathOfUtf8(lines[2]) : fs::path();
+    due_ = AllLogs();
+}
+
+bool SecondCopy::IsOurs(std::string_view marker) const {
+    return !places_.id.empty() && IdIn(marker) == places_.id;
 }
 
 /// The content of the log, read while nothing was written to it. Nothing if it is missing.
@@ -188,7 +217,10 @@ std::optional<std::string> SecondCopy::ReadLog(const fs::path& log) const {
 
 void SecondCopy::CopyLog(const fs::path& directory, const std::string& name) {
     const fs::path copy = FindPath(directory / name).path;
-    std::optional<std::string> log = ReadLog(FindPath(places_.logs / name).path);
+    const fs::path source = FindPath(places_.logs / name).path;
+    const std::optional<std::string> log = ReadLog(source);
+    // A second name of the log is no copy.
+    if (IsSame(copy, source)) SetAside(copy);
     const auto left = left_.find(name);
     if (log && left != left_.end() && Append(copy, *log, left->second)) {
         left->second = {log->size(), ContentHash(*log)};
@@ -197,13 +229,13 @@ void SecondCopy::CopyLog(const fs::path& directory, const std::string& name) {
     const std::optional<std::string> old = ReadIfThere(copy);
     if (old && old != log) {
         const Unknown unknown = LookForUnknown(name, *old, log.value_or(std::string()));
-        if (unknown.contacts > 0 && !ofOtherLogs_ && !IsOld(ReadLogText(*old).lines, surroundings_.now())) {
+        if (unknown.contacts > 0 && !IsOld(ReadLogText(*old).lines, surroundings_.now())) {
             History(places_.logs, HistoryElsewhere(surroundings_.state, places_.logs), surroundings_.now)
                 .AddContent(name, *old, History::Keep::FromCopy);
             found_ += unknown.contacts;
         }
         // If the log is missing, its copy stays: it is the best there is.
-        if (ofOtherLogs_ || (log && unknown.lines)) SetAside(copy);
+        if (otherLogs_ || (log && unknown.lines)) SetAside(copy);
     }
     if (!log) return;
     if (old != log) WriteWhole(copy, *log);
@@ -224,30 +256,47 @@ bool SecondCopy::Append(const fs::path& copy, std::string_view log, const Left& 
     return true;
 }
 
+/// The content of the log of this name in the directory that the copies were made from, if that is another one; empty if it is gone.
+std::string SecondCopy::OtherLog(const std::string& name) const {
+    if (!otherLogs_ || otherLogs_->empty()) return {};
+    try {
+        return ReadIfThere(FindPath(*otherLogs_ / name).path).value_or(std::string());
+    } catch (const RunTimeError&) {
+        return {};
+    }
+}
+
 SecondCopy::Unknown SecondCopy::LookForUnknown(const std::string& name, std::string_view copy, std::string_view log) const {
     if (log.starts_with(copy)) return {};
+    const LogText copyText = ReadLogText(copy);
+    const std::string other = OtherLog(name);
+    std::vector<std::string_view> missing = MissingContacts(copyText.lines, ReadLogText(log).lines);
+    missing = MissingContacts(missing, ReadLogText(other).lines);
+    std::vector<std::string_view> offered = missing;
     std::unordered_set<std::string_view> lines;
     for (const std::string_view line : SplitLines(copy)) lines.insert(line);
-    const auto leaveOut = [&lines](std::string_view content) {
-        for (const std::string_view line : SplitLines(content)) lines.erase(line);
-    };
-    leaveOut(log);
+    for (const std::string_view line : SplitLines(log)) lines.erase(line);
+
     const History history(places_.logs, HistoryElsewhere(surroundings_.state, places_.logs), surroundings_.now);
     for (const History::Version& version : history.Versions(name)) {
-        if (lines.empty()) return {};
+        std::string content;
         try {
-            leaveOut(ReadWhole(version.path));
+            content = ReadWhole(version.path);
         } catch (const RunTimeError&) {
             // It may just have been removed because of its age.
             continue;
         }
+        const std::vector<std::string_view> versionLines = SplitLines(content);
+        const std::unordered_set<std::string_view> known(versionLines.begin(), versionLines.end());
+        const auto isKnown = [&known](std::string_view line) { return known.contains(line); };
+        // A version that is kept by age explains an older wording of a contact, but may be removed before anybody misses a contact. One
+        // that was made from a copy does not make up for that copy.
+        if (version.keep != History::Keep::ByAge) std::erase_if(offered, isKnown);
+        if (version.keep == History::Keep::FromCopy) continue;
+        if (version.keep != History::Keep::ByAge) std::erase_if(missing, isKnown);
+        std::erase_if(lines, isKnown);
     }
-    Unknown unknown;
-    unknown.lines = !lines.empty();
-    const LogText copyText = ReadLogText(copy);
-    for (const std::string_view line : MissingContacts(copyText.lines, ReadLogText(log).lines))
-        if (lines.contains(line)) ++unknown.contacts;
-    return unknown;
+    return {!missing.empty() || !lines.empty(), offered.size()};
 }
 
 void SecondCopy::SetAside(const fs::path& copy) const {

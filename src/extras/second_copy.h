@@ -7,7 +7,8 @@
 // - The file "vatro.kopi" marks the directory. Where it is missing nothing is written: the directory is then an empty mount point, or
 //   another stick.
 // - Nothing is deleted. A file that is not an earlier state of its log is moved to the folder "tidligere" first.
-// - Contacts of the copy that the log lacks are added to the history of the log, and recovery proposes to merge them.
+// - Contacts of the copy that the log lacks are added to the history of the log, and recovery proposes to merge them. If the copy was made
+//   from the logs of another directory, only those that this other directory lacks too.
 #pragma once
 
 #include <filesystem>
@@ -84,11 +85,11 @@ private:
         std::size_t hash = 0;
     };
 
-    /// What a copy holds that is nowhere else.
+    /// What a copy holds that its log does not.
     struct Unknown {
-        /// Whether there is any line that is neither in the log nor in its history.
+        /// Whether there is anything that is not safe without the copy.
         bool lines = false;
-        /// How many contacts among them the log lacks, even in other words.
+        /// How many contacts the log lacks, even in other words, and the operator has not been offered yet.
         std::size_t contacts = 0;
     };
 
@@ -96,9 +97,13 @@ private:
     void Adopt(const std::filesystem::path& directory) const;
     void Mark(const std::filesystem::path& directory) const;
     void CheckMark(const std::filesystem::path& directory);
+    bool IsOurs(std::string_view marker) const;
+    void LookForChanges(const std::filesystem::path& directory);
+    std::string CopyDue(const std::filesystem::path& directory);
     void CopyLog(const std::filesystem::path& directory, const std::string& name);
     std::optional<std::string> ReadLog(const std::filesystem::path& log) const;
     bool Append(const std::filesystem::path& copy, std::string_view log, const Left& left) const;
+    std::string OtherLog(const std::string& name) const;
     Unknown LookForUnknown(const std::string& name, std::string_view copy, std::string_view log) const;
     void SetAside(const std::filesystem::path& copy) const;
 
@@ -108,8 +113,8 @@ private:
     std::set<std::string> due_;
     std::optional<FileIdentity> directory_;
     std::map<std::string, Left> left_;
-    /// Whether the copies in the directory belong to the logs of another directory.
-    bool ofOtherLogs_ = false;
+    /// The directory of the logs that the copies were made from, if it is another one; empty if it is not known.
+    std::optional<std::filesystem::path> otherLogs_;
     std::size_t found_ = 0;
 };
 

@@ -88,13 +88,19 @@ TEST_F(SecondCopyTest, KeepsUpWithALongLogContactByContact) {
     EXPECT_THAT(Names("kopi"), ElementsAre(kName, "vatro.kopi"));
 }
 
-TEST_F(SecondCopyTest, LooksOnlyAtChangedLogsWhileTheDirectoryStays) {
+TEST_F(SecondCopyTest, NoticesWhatSomethingElseHasDoneToALogOrACopy) {
     Log(LogOf(3));
     SecondCopy copy = Make();
     copy.Adopt();
     Log(LogOf(4));
     EXPECT_TRUE(copy.Update({}).done);
-    EXPECT_EQ(Copy(), LogOf(3));
+    EXPECT_EQ(Copy(), LogOf(4));
+    fs::remove(root_ / "kopi" / kName);
+    EXPECT_TRUE(copy.Update({}).done);
+    EXPECT_EQ(Copy(), LogOf(4));
+    Put("kopi/" + kName, "");
+    EXPECT_TRUE(copy.Update({}).done);
+    EXPECT_EQ(Copy(), LogOf(4));
 }
 
 TEST_F(SecondCopyTest, TakesOverACorrection) {
@@ -219,6 +225,76 @@ TEST_F(SecondCopyTest, DoesNotMixTheLogsOfTwoDirectories) {
     Put("contest/" + kName, LogOf(1));
     EXPECT_EQ(copy.Update({kName}).found, 0U);
     EXPECT_EQ(Copy(), LogOf(1));
+}
+
+TEST_F(SecondCopyTest, OffersTheLogsOfADirectoryThatIsGone) {
+    Log(LogOf(5));
+    Make().Adopt();
+    fs::rename(root_ / "log", root_ / "lost");
+    fs::create_directory(root_ / "new");
+    CopyPlaces places = Places();
+    places.logs = root_ / "new";
+    SecondCopy copy = Make(places);
+    EXPECT_EQ(copy.Update({}).found, 5U);
+    const History history(root_ / "new", HistoryElsewhere(root_ / "state", root_ / "new"), [] { return DateTime(); });
+    ASSERT_EQ(history.Versions(kName).size(), 1U);
+    EXPECT_EQ(history.Versions(kName)[0].keep, History::Keep::FromCopy);
+}
+
+TEST_F(SecondCopyTest, DoesNotRelyOnVersionsThatWillBeRemoved) {
+    Log(LogOf(5));
+    SecondCopy copy = Make();
+    copy.Adopt();
+    History history(root_ / "log", HistoryElsewhere(root_ / "state", root_ / "log"), [this] { return now_; });
+    history.AddContent(kName, LogOf(5), History::Keep::ByAge);
+    // An older state comes back, as from a backup.
+    Log(LogOf(2));
+    EXPECT_EQ(copy.Update({kName}).found, 3U);
+    EXPECT_THAT(FromCopy(), ElementsAre(LogOf(5)));
+    EXPECT_EQ(Content("kopi/tidligere/FD80mSSB 2026-09-05 14.00.00.txt"), LogOf(5));
+}
+
+TEST_F(SecondCopyTest, NeverReplacesWhatItCouldNotSetAside) {
+    Log(LogOf(2));
+    Put("kopi/" + kName, LogOf(5));
+    Put("kopi/tidligere", "a file in the way");
+    SecondCopy copy = Make();
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_FALSE(i == 0 ? copy.Adopt().done : copy.Update({}).done);
+        EXPECT_EQ(Copy(), LogOf(5));
+    }
+    EXPECT_THAT(FromCopy(), ElementsAre(LogOf(5)));
+    fs::remove(root_ / "kopi/tidligere");
+    EXPECT_TRUE(copy.Update({}).done);
+    EXPECT_EQ(Content("kopi/tidligere/FD80mSSB 2026-09-05 14.00.00.txt"), LogOf(5));
+    EXPECT_EQ(Copy(), LogOf(2));
+}
+
+TEST_F(SecondCopyTest, CopiesTheOtherLogsIfOneCannotBe) {
+    Put("log/FD10mCW.txt", LogOf(1));
+    Log(LogOf(3));
+    fs::create_directory(root_ / "kopi/FD10mCW.txt");
+    SecondCopy copy = Make();
+    EXPECT_THAT(copy.Adopt().reason, HasSubstr("FD10mCW.txt i "));
+    EXPECT_EQ(Copy(), LogOf(3));
+}
+
+TEST_F(SecondCopyTest, TakesNoLinkToTheLogForACopy) {
+    Log(LogOf(3));
+    fs::create_hard_link(root_ / "log" / kName, root_ / "kopi" / kName);
+    SecondCopy copy = Make();
+    EXPECT_TRUE(copy.Adopt().done);
+    EXPECT_NE(IdentityOf(root_ / "log" / kName), IdentityOf(root_ / "kopi" / kName));
+    EXPECT_EQ(Copy(), LogOf(3));
+}
+
+TEST_F(SecondCopyTest, AMarkerWithoutAnIdIsNobodys) {
+    Log(LogOf(3));
+    Put("kopi/vatro.kopi", "");
+    CopyPlaces places = Places();
+    places.id.clear();
+    EXPECT_FALSE(Make(places).Update({}).done);
+    EXPECT_THAT(Names("kopi"), ElementsAre("vatro.kopi"));
 }
 
 TEST_F(SecondCopyTest, KeepsAFileThatIsNoLog) {
