@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "live_copy.h"
 
+#include <algorithm>
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
@@ -31,6 +32,8 @@ struct LiveCopy::Shared {
     bool on = false;
     std::set<std::string> changed;
     bool stop = false;
+    /// The thread has been abandoned and must do nothing more.
+    bool dropped = false;
     bool stopped = false;
     /// When the thread called the work that it has not come back from.
     std::optional<Steady::time_point> busySince;
@@ -49,18 +52,31 @@ LiveCopy::~LiveCopy() {
 
 void LiveCopy::Follow(std::unique_ptr<CopyWork> work, bool adopt) {
     if (ended_) return;
+    if (Status().busy >= shared_->options.patience) Abandon();
     {
         const std::scoped_lock lock(shared_->mutex);
         shared_->on = work != nullptr;
         shared_->next = std::move(work);
+        // A directory that is still to be taken in use must not be forgotten when the logs are replaced at the same moment.
+        shared_->adopt = adopt || (shared_->on && shared_->replaced && shared_->adopt);
         shared_->replaced = true;
-        shared_->adopt = adopt;
         shared_->last = {};
         shared_->good.reset();
         if (!shared_->on && !started_) return;
     }
     shared_->wake.notify_one();
     if (!std::exchange(started_, true)) std::thread(Run, shared_).detach();
+}
+
+void LiveCopy::Abandon() {
+    {
+        const std::scoped_lock lock(shared_->mutex);
+        shared_->stop = true;
+        shared_->dropped = true;
+    }
+    abandoned_.push_back(shared_);
+    shared_ = std::make_shared<Shared>(abandoned_.back()->options);
+    started_ = false;
 }
 
 void LiveCopy::WriteBegins() {
@@ -99,11 +115,16 @@ std::size_t LiveCopy::TakeFound() {
 }
 
 bool LiveCopy::End(std::chrono::milliseconds patience) {
-    if (std::exchange(ended_, true) || !started_) return true;
+    if (std::exchange(ended_, true)) return true;
+    const bool all = std::all_of(abandoned_.begin(), abandoned_.end(), [](const auto& shared) {
+        const std::scoped_lock lock(shared->mutex);
+        return shared->stopped;
+    });
+    if (!started_) return all;
     std::unique_lock lock(shared_->mutex);
     shared_->stop = true;
     shared_->wake.notify_one();
-    return shared_->over.wait_for(lock, patience, [this] { return shared_->stopped; });
+    return shared_->over.wait_for(lock, patience, [this] { return shared_->stopped; }) && all;
 }
 
 void LiveCopy::Run(const std::shared_ptr<Shared>& shared) {
@@ -125,6 +146,7 @@ void LiveCopy::Run(const std::shared_ptr<Shared>& shared) {
             const DateTime now = shared->options.universal();
             lock.lock();
             shared->busySince.reset();
+            if (shared->dropped) break;
             shared->copying = false;
             shared->found += outcome.found;
             const bool news = outcome.done != shared->last.done || outcome.reason != shared->last.reason || !changed.empty() || adopt;

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "datetime.h"
 #include "second_copy.h"
@@ -41,6 +42,8 @@ public:
         std::function<void()> changed = [] {};
         /// How often the directory is looked for.
         std::chrono::milliseconds every{1000};
+        /// After this the thread counts as hanging.
+        std::chrono::milliseconds patience{2000};
     };
 
     explicit LiveCopy(Options options);
@@ -50,6 +53,7 @@ public:
     LiveCopy& operator=(const LiveCopy&) = delete;
 
     /// From now on the thread works with `work`, which is used on it alone. Null turns the copy off. `adopt` takes the directory in use.
+    /// A thread that has been waiting for its disk for `patience` is abandoned, and another one takes its place.
     void Follow(std::unique_ptr<CopyWork> work, bool adopt);
     /// A log is about to be written, or has been written, also if that failed. Calls come in pairs.
     void WriteBegins();
@@ -60,16 +64,19 @@ public:
     CopyStatus Status() const;
     /// How many contacts were found in copies since the last call that no log has.
     std::size_t TakeFound();
-    /// Brings the copies up to date once more, then ends the thread. Returns false if that took longer than `patience`; the thread is
-    /// then abandoned in the middle of a call of the disk, so the process must end without destroying what it may use.
+    /// Brings the copies up to date once more, then ends the thread. Returns false if that took longer than `patience`, or if an abandoned
+    /// thread is still waiting; the thread is then in the middle of a call of the disk, so the process must end without destroying what it
+    /// may use.
     bool End(std::chrono::milliseconds patience);
 
 private:
     struct Shared;
 
     static void Run(const std::shared_ptr<Shared>& shared);
+    void Abandon();
 
     std::shared_ptr<Shared> shared_;
+    std::vector<std::shared_ptr<Shared>> abandoned_;
     bool started_ = false;
     bool ended_ = false;
 };

@@ -154,6 +154,23 @@ TEST(LiveCopies, NeverKeepTheProgramWaiting) {
     disk->Hang(false);
 }
 
+TEST(LiveCopies, GoOnInAnotherDirectoryWhileOneHangs) {
+    const auto hanging = std::make_shared<Disk>();
+    hanging->hangs = true;
+    const auto sound = std::make_shared<Disk>();
+    LiveCopy::Options options = Quick();
+    options.patience = milliseconds(20);
+    LiveCopy copy(std::move(options));
+    copy.Follow(std::make_unique<DiskWork>(hanging), false);
+    ASSERT_TRUE(Eventually([&] { return copy.Status().busy > milliseconds(20); }));
+    copy.Follow(std::make_unique<DiskWork>(sound), true);
+    EXPECT_TRUE(Eventually([&] { return copy.Status().current; }));
+    Write(copy, "FD80mSSB.txt");
+    EXPECT_TRUE(Eventually([&] { return sound->Copied("FD80mSSB.txt"); }));
+    EXPECT_FALSE(copy.End(kPatience)) << "the first thread still waits";
+    hanging->Hang(false);
+}
+
 TEST(LiveCopies, AreNotCurrentWhileAChangeIsOnItsWay) {
     const auto disk = std::make_shared<Disk>();
     LiveCopy copy(Quick());
