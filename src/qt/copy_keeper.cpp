@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QFile>
+#include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -42,6 +44,19 @@ constexpr std::chrono::milliseconds kPatience{2000};
 
 std::string Counted(std::size_t contacts) {
     return Joined({std::to_string(contacts), contacts == 1 ? " kontakt" : " kontakter"});
+}
+
+/// Where removable volumes are mounted, from the system's list; the volumes are not touched.
+QStringList MountedVolumes() {
+    QStringList volumes;
+    QFile mounts(QStringLiteral("/proc/self/mounts"));
+    if (!mounts.open(QIODevice::ReadOnly)) return volumes;
+    for (const QByteArray& line : mounts.readAll().split('\n')) {
+        const QString point = QString::fromUtf8(line.split(' ').value(1).replace("\\040", " "));
+        for (const char* place : {"/media/", "/run/media/", "/mnt/"})
+            if (point.startsWith(QLatin1String(place))) volumes.append(point);
+    }
+    return volumes;
 }
 
 /// The directory of a path that the program was given, spelled as on the disk.
@@ -105,7 +120,7 @@ void CopyKeeper::Look() {
 /// Whether a window may open now: nothing else is open, and nothing has been typed.
 bool CopyKeeper::MayOffer() const {
     return !InsideEvent() && !TicksHeld() && QApplication::activeModalWidget() == nullptr && QApplication::activePopupWidget() == nullptr &&
-           frmMain->fields[kCallField].Text().empty();
+           frmMain->fields[kCallField].Text().empty() && frmMain->fields[kNumberReceivedField].Text().empty();
 }
 
 void CopyKeeper::Offer() {
@@ -127,7 +142,7 @@ Lamp CopyKeeper::Shown() const {
 
 void CopyKeeper::Choose() {
     if (found_ > 0) {
-        if (frmMain->fields[kCallField].Text().empty()) return Offer();
+        if (frmMain->fields[kCallField].Text().empty() && frmMain->fields[kNumberReceivedField].Text().empty()) return Offer();
         MsgBox("Log kontakten først, eller tøm felterne med Esc. Vælg så Ekstra, Løbende kopi igen."_t);
         return;
     }
@@ -153,14 +168,34 @@ void CopyKeeper::Choose() {
     Follow(false);
 }
 
-void CopyKeeper::AskForDirectory() {
-    std::string chosen;
+/// Empty if the operator has cancelled.
+std::string CopyKeeper::ChosenDirectory() {
     try {
-        chosen = DirectoryOf(ChooseMarkerFile("vatro.kopi", "Vælg bibliotek til løbende kopi"_t));
+        return DirectoryOf(ChooseMarkerFile("vatro.kopi", "Vælg bibliotek til løbende kopi"_t));
     } catch (const RunTimeError&) {
-        // The operator has cancelled; everything stays as it was.
-        return;
+        return {};
     }
+}
+
+/// Like ChosenDirectory, but touches no directory: a dialogue that shows directories would wait for the one that does not answer.
+std::string CopyKeeper::TypedDirectory() {
+    QInputDialog dialog(DialogOwner());
+    dialog.setWindowTitle(QStringLiteral("Vælg bibliotek til løbende kopi"));
+    dialog.setLabelText(QStringLiteral("Det gamle bibliotek svarer ikke, så bibliotekerne kan ikke vises.\nVælg eller skriv det nye:"));
+    dialog.setComboBoxItems(MountedVolumes());
+    dialog.setComboBoxEditable(true);
+    dialog.setTextValue(QString());
+    dialog.setOkButtonText(QStringLiteral("&Vælg"));
+    dialog.setCancelButtonText(QStringLiteral("&Annuller"));
+    connect(&dialog, &QDialog::finished, &dialog, [] { WaitLoop::Look(); });
+    RunDialog(dialog);
+    LeaveIfEnding();
+    return dialog.result() == QDialog::Accepted ? FromQt(dialog.textValue().trimmed()) : std::string();
+}
+
+void CopyKeeper::AskForDirectory() {
+    const std::string chosen = copy_.Status().busy >= kPatience ? TypedDirectory() : ChosenDirectory();
+    if (chosen.empty()) return;
     const auto isSame = [&](const std::string& other) { return !other.empty() && Directory(chosen) == Directory(other); };
     if (isSame(desk().gsLogLib) || isSame(desk().gsBackupLib)) {
         MessageBox refused;

@@ -50,6 +50,8 @@ private:
     LiveCopy::Options Options();
     void Follow(bool adopt);
     CopyPlaces Places() const;
+    std::string ChosenDirectory();
+    std::string TypedDirectory();
     void AskForDirectory();
     void Offer();
     bool MayOffer() const;

@@ -196,7 +196,11 @@ void LampRow::FitIn() {
         const Lamp::State state = lamps_[i]->Shown().state;
         if (state == Lamp::State::Off || (state == Lamp::State::Good) != good) continue;
         const int more = lamps_[i]->WidthOf(false) - lamps_[i]->WidthOf(true);
-        if (more > room) continue;
+        if (more > room) {
+            // What is good must not look more important than what is wrong.
+            if (!good) room = 0;
+            continue;
+        }
         room -= more;
         words[i] = true;
     }

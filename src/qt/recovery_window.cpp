@@ -89,11 +89,29 @@ RecoveryWindow::RecoveryWindow(const std::filesystem::path& directory, const std
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(this, &QDialog::finished, this, [] { WaitLoop::Look(); });
 
+    buttons_ = buttons;
+    cards_ = scroll;
+    accept_ = accept;
     const QSize room = (owner != nullptr ? owner->screen() : QGuiApplication::primaryScreen())->availableSize();
     const int width = std::min(fontMetrics().averageCharWidth() * kWidth, room.width() * 9 / 10);
     cards->setFixedWidth(width);
     const int height = column->heightForWidth(width);
     scroll->setMinimumSize(width + style()->pixelMetric(QStyle::PM_ScrollBarExtent), std::min(height, room.height() * 6 / 10));
+}
+
+void RecoveryWindow::TakeNoEnter() {
+    if (hasProposals_) {
+        accept_->setText(QStringLiteral("&Gør det (Alt+G)"));
+        // The box of buttons would make a button that accepts the default one again.
+        buttons_->addButton(accept_, QDialogButtonBox::ActionRole);
+        connect(accept_, &QPushButton::clicked, this, &QDialog::accept);
+    }
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+        button->setAutoDefault(false);
+        button->setDefault(false);
+    }
+    cards_->setFocusPolicy(Qt::StrongFocus);
+    cards_->setFocus();
 }
 
 void RecoveryWindow::AddCard(const Finding& finding, QVBoxLayout& cards) {
@@ -135,7 +153,10 @@ std::vector<std::filesystem::path> Recover(const RecoveryPlaces& places, History
     if (scope == RecoveryScope::SecondCopy) std::erase_if(findings, [](const Finding& finding) { return !finding.fromCopy; });
     if (findings.empty()) return {};
     RecoveryWindow window(places.logs, findings, DialogOwner());
-    if (scope == RecoveryScope::SecondCopy) window.setWindowTitle(QStringLiteral("Vatro - løbende kopi"));
+    if (scope == RecoveryScope::SecondCopy) {
+        window.setWindowTitle(QStringLiteral("Vatro - løbende kopi"));
+        window.TakeNoEnter();
+    }
     RunDialog(window);
     LeaveIfEnding();
     std::vector<std::filesystem::path> left;

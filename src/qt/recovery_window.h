@@ -11,6 +11,9 @@
 #include "recovery.h"
 
 class QComboBox;
+class QDialogButtonBox;
+class QPushButton;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace vatro {
@@ -19,6 +22,9 @@ class RecoveryWindow : public QDialog {
 public:
     /// `directory` is shown as the place concerned. `findings` must not be empty.
     RecoveryWindow(const std::filesystem::path& directory, const std::vector<Finding>& findings, QWidget* owner = nullptr);
+    /// For a window that opens in the middle of the program: only Alt and a letter, or a click, answers it, so that a contact that somebody
+    /// goes on typing does not.
+    void TakeNoEnter();
     /// Whether there is anything to repair; otherwise the window only informs.
     bool HasProposals() const { return hasProposals_; }
     /// For each finding, the log chosen for a copy; empty if there was no choice.
@@ -28,6 +34,9 @@ private:
     void AddCard(const Finding& finding, QVBoxLayout& cards);
 
     bool hasProposals_ = false;
+    QDialogButtonBox* buttons_ = nullptr;
+    QScrollArea* cards_ = nullptr;
+    QPushButton* accept_ = nullptr;
     std::vector<QComboBox*> choices_;
 };
 

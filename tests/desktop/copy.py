@@ -33,7 +33,7 @@ HEAD = (100, 100, 900, 70)
 
 
 def contact(number, call):
-    return (f"12:{number:02d} {call:15s} 59 -{number:04d} 59 -{number:04d}  3 {'DL' if number == 1 else '':10s} OZ1AB         SSB   "
+    return (f"12:{number:02d} {call:15s} 59 -{number:04d} 59 -{number:04d}  3 {'DL' if number == 1 else '':10s} OZ1AB      SSB   "
             + time.strftime("%d-%m-%y"))
 
 
@@ -111,7 +111,12 @@ def contacts_of_the_copy_are_offered_at_the_start():
         desktop.set(**STATION)
         desktop.start(PROGRAM)
         choose_and_wait(desktop, stick, "Vatro - løbende kopi")
+        # What somebody goes on typing is no answer.
+        desktop.xdotool("type", "--delay", "60", "sm7aa 13")
         desktop.press("Return")
+        time.sleep(1)
+        assert (desktop.log / LOG).read_bytes().decode() != whole, "a contact typed blindly has merged the logs"
+        desktop.press("alt+g")
         until(lambda: (desktop.log / LOG).read_bytes().decode() == whole, "the merged log")
         desktop.keys_go_to(MAIN)
         log_contact(desktop, "sm7aa", 13)

@@ -135,6 +135,16 @@ TEST_F(ALampRow, AWrongTimeKeepsItsWordsLongerThanAMissingCopy) {
     EXPECT_FALSE(row->Button(LampKind::Utc).Brief());
 }
 
+TEST_F(ALampRow, NothingGoodHasWordsWhileSomethingWrongHasNone) {
+    row->Show(LampKind::Utc, {Lamp::State::Good, "UTC 08:50", "tip"});
+    row->Show(LampKind::Copy, kBad);
+    for (int width = 1000; width > 300; width -= 10) {
+        window.resize(width, 300);
+        Settle();
+        EXPECT_TRUE(!row->Button(LampKind::Copy).Brief() || row->Button(LampKind::Utc).Brief()) << width;
+    }
+}
+
 TEST_F(ALampRow, GivesRoomBackWhenWordsGetShorter) {
     row->Show(LampKind::LastContact, {Lamp::State::Good, std::string(300, 'x'), "tip"});
     Settle();

@@ -71,6 +71,20 @@ TEST(RecoveryWindow, EnterTakesTheProposalAndEscChangesNothing) {
     }
 }
 
+TEST(RecoveryWindow, TakesNoEnterInTheMiddleOfTheProgram) {
+    RecoveryWindow window("/media/log", {MergeOf("FD80mSSB.txt", 500)});
+    window.TakeNoEnter();
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClicks(&window, QStringLiteral("sm7aa 13"));
+    QTest::keyClick(&window, Qt::Key_Return);
+    EXPECT_TRUE(window.isVisible());
+    for (QPushButton* button : window.findChildren<QPushButton*>())
+        if (button->text().startsWith(QStringLiteral("&G"))) QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(window.result(), QDialog::Accepted);
+    EXPECT_FALSE(window.isVisible());
+}
+
 TEST(RecoveryWindow, ALetterChangesNothing) {
     RecoveryWindow window("/media/log", {MergeOf("FD80mSSB.txt", 500)});
     window.show();
