@@ -78,6 +78,15 @@ public:
     /// Repaints the form now.
     void Refresh();
 
+    // Habits that a desktop gives to the window. No rule depends on them, and other fronts do not ask.
+
+    /// The window is only looked at and never needs the keyboard.
+    bool onlyShows = false;
+    /// Tab selects the text of the field that it enters, so that typing replaces it.
+    bool tabSelects = false;
+    /// Whether Esc closes the window now, like the button in its frame.
+    virtual bool EscCloses() const { return false; }
+
     /// All controls, in the order of their declaration.
     const std::vector<Control*>& Controls() const { return controls_; }
     /// The control with this name and index (-1 for none), or null.

@@ -148,7 +148,10 @@ bool Input::TakeKeyEvent(QKeyEvent& event) {
     if (plain && (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)) {
         const bool back = event.key() == Qt::Key_Backtab || event.modifiers().testFlag(Qt::ShiftModifier);
         Deliver([&] {
-            if (form.Reachable()) form.UserTab(back);
+            if (!form.Reachable()) return;
+            form.UserTab(back);
+            auto* text = As<TextControl>(form.ActiveControl());
+            if (text != nullptr && surroundings_.selectsOnTab()) text->SelectAll();
         });
         return true;
     }

@@ -28,6 +28,8 @@ struct InputSurroundings {
     std::function<void()> followFocusSoon;
     /// Whether pasted text goes through the field's key filter.
     std::function<bool()> filtersPaste;
+    /// Whether Tab selects the text of the field that it enters.
+    std::function<bool()> selectsOnTab;
 };
 
 class Input : public QObject {

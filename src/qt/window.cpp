@@ -76,7 +76,8 @@ FormWindow::~FormWindow() {
 
 InputSurroundings FormWindow::Surroundings() {
     return {.followFocusSoon = [this] { QTimer::singleShot(0, &bindings_.Scope(), [this] { FollowFocus(); }); },
-            .filtersPaste = [this] { return front_.filterPaste; }};
+            .filtersPaste = [this] { return front_.filterPaste; },
+            .selectsOnTab = [this] { return front_.desktopHabits && form_.tabSelects; }};
 }
 
 void FormWindow::Build(QWidget* owner) {
@@ -104,6 +105,7 @@ void FormWindow::Build(QWidget* owner) {
         top_ = content;
     }
     content->setObjectName(name);
+    if (RefusesKeys()) top_->setWindowFlag(Qt::WindowDoesNotAcceptFocus);
     top_->setProperty("vatroForm", true);
     if (form_.Kind() == FormKind::Tool || form_.Kind() == FormKind::Splash) top_->setAttribute(Qt::WA_ShowWithoutActivating);
     captionHead_ = top_->findChild<ColumnHead*>(QStringLiteral("FormCaption"));
@@ -118,6 +120,10 @@ void FormWindow::AddExtraMenu() {
     window->menuBar()->insertMenu(window->menuBar()->actions().constLast(), menu);
     ReturnKeysAfter(*menu, bindings_);
     for (const auto& add : front_.extraEntries) add(*window, *menu);
+}
+
+bool FormWindow::RefusesKeys() const {
+    return front_.desktopHabits && form_.onlyShows;
 }
 
 void FormWindow::TakeDesignSize() {
@@ -336,7 +342,8 @@ bool FormWindow::TakeKey(const QKeyEvent& event) {
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched != top_) {
         // The window sees keys and clicks before its widgets do.
-        if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) front_.WindowUsed(form_);
+        const bool used = event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress;
+        if (used && !RefusesKeys()) front_.WindowUsed(form_);
         if (event->type() == QEvent::Expose && arriving_ && top_->windowHandle()->isExposed()) Arrive();
         return false;
     }

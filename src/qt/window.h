@@ -66,6 +66,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Whether the window leaves the keyboard to the others.
+    bool RefusesKeys() const;
     InputSurroundings Surroundings();
     void Build(QWidget* owner);
     void AddExtraMenu();

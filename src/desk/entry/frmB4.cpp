@@ -10,6 +10,7 @@ FrmB4::FrmB4()
     : Form("frmB4", FormKind::Tool, "Call check                         QSOnr/modt.     UTC"),
       earlierContacts(*this, "List1", {"Fixedsys", 9}) {
     SetTabOrder({&earlierContacts});
+    onlyShows = true;
 }
 
 void FrmB4::ShowContacts(std::vector<std::string> contacts) {

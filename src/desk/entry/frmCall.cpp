@@ -22,6 +22,7 @@ FrmCall::FrmCall()
     okButton.isDefault = true;
     cancelButton.isCancel = true;
     SetTabOrder({&callBox, &telephone, &okButton, &cancelButton});
+    tabSelects = true;
     callBox.KeyFilter = [](KeyCode& key) {
         key = UpperKey(key);
         FilterKey(key, kCallCharacters);

@@ -9,6 +9,7 @@
 namespace vatro {
 
 FrmContestCall::FrmContestCall() : Form("frmContestCall", FormKind::Tool, "Contest Call"), call(*this, "Label1", "", {"Arial", 48, true}) {
+    onlyShows = true;
     call.Change = [this] { FitWidth(*this, call); };
 }
 

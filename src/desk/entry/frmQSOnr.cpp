@@ -14,6 +14,7 @@ namespace vatro {
 using namespace literals;
 
 FrmQSOnr::FrmQSOnr() : Form("frmQSOnr", FormKind::Tool, "Næste QSO nr"_t), exchange(*this, "label1", "", {"Arial", 72, true}) {
+    onlyShows = true;
     exchange.Change = [this] { FitWidth(*this, exchange); };
 }
 

@@ -44,6 +44,7 @@ FormRigAnt::FormRigAnt()
     order.push_back(&okButton);
     order.push_back(&cancelButton);
     SetTabOrder(order);
+    tabSelects = true;
     okButton.Click = [this] { CommandOK_Click(); };
     cancelButton.Click = [this] { Unload(); };
 }
@@ -53,6 +54,12 @@ void FormRigAnt::Form_Load() {
         rigs[i].SetText(desk().rigs[i]);
         antennas[i].SetText(desk().antennas[i]);
     }
+}
+
+bool FormRigAnt::EscCloses() const {
+    for (std::size_t i = 0; i < kEquipmentBands.size(); ++i)
+        if (rigs[i].Text() != desk().rigs[i] || antennas[i].Text() != desk().antennas[i]) return false;
+    return true;
 }
 
 void FormRigAnt::CommandOK_Click() {

@@ -29,6 +29,8 @@ public:
     Label bandLabels[10];
 
     void Form_Load() override;
+    /// While nothing has been changed.
+    bool EscCloses() const override;
 
 private:
     void CommandOK_Click();

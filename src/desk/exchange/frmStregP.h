@@ -28,6 +28,7 @@ public:
     /// Fills the list in the steps below, while the user watches.
     void Form_Load() override;
     void StoreState() override;
+    bool EscCloses() const override { return true; }
 
     /// Adds the contacts of all ten logs, read from the files.
     void IndlæsLogs();

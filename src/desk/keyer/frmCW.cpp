@@ -72,6 +72,7 @@ FrmCW::FrmCW()
     order.insert(order.end(), {&speed, &pitch, &volume, &reportOptions[0], &reportOptions[1], &numberOptions[0], &numberOptions[1]});
     order.insert(order.end(), {&resetButton, &okButton, &cancelButton});
     SetTabOrder(order);
+    tabSelects = true;
     resetButton.Click = [this] { cmdReset_Click(); };
     okButton.Click = [this] { cmdOK_Click(); };
     cancelButton.Click = [this] { Unload(); };
@@ -85,6 +86,27 @@ void FrmCW::Form_Load() {
     numberOptions[cw.gsCWNummerFormat == kNumberWithZeros ? 0 : 1].SetValue(true);
     reportOptions[cw.gsCWRSTFormat == kReportInFigures ? 0 : 1].SetValue(true);
     for (std::size_t i = 0; i < kCwTextCount; ++i) texts[i].SetText(cw.CWTekster[i]);
+}
+
+namespace {
+
+/// Makes new pieces if the sound changes. Fails with 6 if speed or pitch exceeds 16 bits; failures of DanLydBuffer are not caught.
+void SetSound(double wpm, double tone, std::int32_t volume) {
+    KeyerState& cw = desk().cw;
+    if (wpm == cw.giCWWPM && tone == cw.giCWTone && volume == cw.glCWVolume) return;
+    cw.giCWWPM = ToInt16(wpm);
+    cw.giCWTone = ToInt16(tone);
+    cw.glCWVolume = volume;
+    // If there is no buffer yet, the first send makes it.
+    if (frmCWTX.Loaded() && frmCWTX->CWBuffer) frmCWTX->DanLydBuffer();
+}
+
+}  // namespace
+
+void ChangeCwSpeed(int wpm) {
+    const KeyerState& cw = desk().cw;
+    SetSound(wpm, cw.giCWTone, cw.glCWVolume);
+    GemCWIndstillinger();
 }
 
 void FrmCW::cmdReset_Click() {
@@ -102,15 +124,7 @@ void FrmCW::cmdOK_Click() {
     KeyerState& cw = desk().cw;
     for (std::size_t i = 0; i < kCwTextCount; ++i) cw.CWTekster[i] = texts[i].Text();
 
-    const double wpm = NumericValue(speed.Text());
-    const double tone = NumericValue(pitch.Text());
-    if (wpm != cw.giCWWPM || tone != cw.giCWTone || cw.glCWVolume != volume.Value()) {
-        cw.giCWWPM = ToInt16(wpm);
-        cw.giCWTone = ToInt16(tone);
-        cw.glCWVolume = volume.Value();
-        // If there is no buffer yet, the first send makes it.
-        if (frmCWTX.Loaded() && frmCWTX->CWBuffer) frmCWTX->DanLydBuffer();
-    }
+    SetSound(NumericValue(speed.Text()), NumericValue(pitch.Text()), volume.Value());
     cw.gsCWRSTFormat = reportOptions[0].Value() ? kReportInFigures : kReportWithN;
     cw.gsCWNummerFormat = numberOptions[0].Value() ? kNumberWithZeros : kNumberWithT;
 

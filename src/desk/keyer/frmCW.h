@@ -46,4 +46,8 @@ private:
 
 inline FormSlot<FrmCW> frmCW{"frmCW"};
 
+/// What OK does with a changed speed, in words per minute from 6 to 60: makes new pieces and stores the settings. Sound that is playing
+/// breaks off, so call this between texts. Failures of DanLydBuffer are not caught.
+void ChangeCwSpeed(int wpm);
+
 }  // namespace vatro

@@ -17,6 +17,7 @@ public:
     void Form_Load() override;
     void StoreState() override;
     void Form_Resize() override;
+    bool EscCloses() const override { return true; }
 };
 
 inline FormSlot<FrmEDR> frmEDR{"frmEDR"};
