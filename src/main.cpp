@@ -63,7 +63,7 @@ Outcome Run() {
                                    printer,
                                    {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
-    const vatro::Desktop desktop(front);
+    const vatro::Desktop desktop(front, help);
     const vatro::Ends ends(settings);
     vatro::CopyKeeper copy(front, safety, settings);
     vatro::Lamps lamps(front, safety, copy);

@@ -6,10 +6,11 @@
 
 namespace vatro {
 
-Desktop::Desktop(QtFront& front) : typing_(front) {
+Desktop::Desktop(QtFront& front, QtHelp& help) : typing_(front), helpKey_(front, help) {
     front.fitToScreen = true;
     front.filterPaste = true;
     front.keepKeys = true;
+    front.desktopHabits = true;
     front.extraEntries.emplace_back([](QMainWindow& window, QMenu& menu) { new Appearance(window, menu); });
 }
 

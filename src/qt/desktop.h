@@ -5,20 +5,23 @@
 // The program creates this object beside its front. Scenario players do not, so scenarios see only the rules.
 #pragma once
 
+#include "help_key.h"
 #include "typing_guard.h"
 
 namespace vatro {
 
 class QtFront;
+class QtHelp;
 
 class Desktop {
 public:
-    /// `front` must outlive this object.
-    explicit Desktop(QtFront& front);
+    /// Both arguments must outlive this object.
+    Desktop(QtFront& front, QtHelp& help);
     TypingGuard& Typing() { return typing_; }
 
 private:
     TypingGuard typing_;
+    HelpKey helpKey_;
 };
 
 }  // namespace vatro

@@ -33,7 +33,7 @@ QUrl UrlOf(const QString& link) {
 
 }  // namespace
 
-HelpWindow::HelpWindow() : contents_(new QTreeWidget), browser_(new QTextBrowser) {
+HelpWindow::HelpWindow(QWidget* owner) : QMainWindow(owner, Qt::Window), contents_(new QTreeWidget), browser_(new QTextBrowser) {
     setWindowTitle(QStringLiteral("Vatro - hjælp"));
     browser_->setAccessibleName(QStringLiteral("Håndbogens side"));
     browser_->setOpenExternalLinks(true);

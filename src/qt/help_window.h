@@ -17,7 +17,7 @@ class HelpWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    HelpWindow();
+    explicit HelpWindow(QWidget* owner = nullptr);
     /// Opens a page, such as "fdmanager.html#backup", and brings the window to the front.
     void ShowPage(const QString& link);
     /// The file name of the current page.

@@ -47,8 +47,18 @@ QtHelp::~QtHelp() = default;
 void QtHelp::Show(std::string_view /*path*/) {
     const QString contents = QStringLiteral("indhold.html");
     if (!QFile::exists(HandbookFile(contents))) throw RunTimeError(Failure::FileNotFound);
+    ShowPage(contents, nullptr);
+}
+
+void QtHelp::ShowPage(const QString& page, QWidget* modal) {
+    if (modal != nullptr) {
+        auto* above = modal->findChild<HelpWindow*>({}, Qt::FindDirectChildrenOnly);
+        if (above == nullptr) above = new HelpWindow(modal);
+        above->ShowPage(page);
+        return;
+    }
     if (!window_) window_ = std::make_unique<HelpWindow>();
-    window_->ShowPage(contents);
+    window_->ShowPage(page);
 }
 
 }  // namespace vatro

@@ -34,6 +34,9 @@ public:
     QtHelp();
     ~QtHelp() override;
     void Show(std::string_view path) override;
+    /// Opens the handbook at this page. While a modal window is open no other window gets keys, so then the handbook is a window of its
+    /// own above `modal`, and goes with it.
+    void ShowPage(const QString& page, QWidget* modal);
     /// The window, or null if it has not been opened.
     HelpWindow* Window() const { return window_.get(); }
 

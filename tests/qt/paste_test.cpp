@@ -14,6 +14,7 @@
 #include "desktop.h"
 #include "entry/frmNytQSOnr.h"
 #include "qt/window_program.h"
+#include "services.h"
 
 namespace vatro {
 namespace {
@@ -30,7 +31,8 @@ protected:
     QLineEdit& Field() const { return WidgetOf<QLineEdit>(Number()); }
     QWindow* Window() const { return WindowOf(*frmMain).Top()->windowHandle(); }
 
-    Desktop desktop{dynamic_cast<QtFront&>(driver.ProgramFront())};
+    QtHelp handbook;
+    Desktop desktop{dynamic_cast<QtFront&>(driver.ProgramFront()), handbook};
 };
 
 TEST_F(DesktopPaste, ByCtrlVTakesWhatTheKeysTake) {

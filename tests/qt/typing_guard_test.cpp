@@ -19,6 +19,7 @@
 #include "frame/state.h"
 #include "keyer/frmCWTX.h"
 #include "qt/window_program.h"
+#include "services.h"
 
 namespace vatro {
 namespace {
@@ -72,7 +73,8 @@ protected:
     }
 
     Moment moment{10s};
-    Desktop desktop{dynamic_cast<QtFront&>(driver.ProgramFront())};
+    QtHelp handbook;
+    Desktop desktop{dynamic_cast<QtFront&>(driver.ProgramFront()), handbook};
 };
 
 // --- The second Enter
@@ -235,7 +237,7 @@ TEST_F(SafeTyping, TheFieldThatGetsTheKeysIsMarkedWhileTheTextPlays) {
     Type("dl9xyz ");
     EXPECT_TRUE(marked(kNumberReceivedField));
     Key({.name = "Esc"});
-    EXPECT_FALSE(marked(kNumberReceivedField));
+    EXPECT_TRUE(marked(kNumberReceivedField)) << "the keys still go there";
 }
 
 TEST_F(SafeTyping, EscStopsTheTextAndLeavesTheFields) {
