@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "field_mark.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace vatro {
@@ -17,10 +18,20 @@ FieldMark::FieldMark() {
 }
 
 void FieldMark::Surround(QWidget& widget) {
+    if (widget_ != &widget) {
+        if (widget_ != nullptr) widget_->removeEventFilter(this);
+        widget_ = &widget;
+        widget.installEventFilter(this);
+    }
     if (parentWidget() != widget.parentWidget()) setParent(widget.parentWidget());
     setGeometry(widget.geometry().adjusted(-kBroad, -kBroad, kBroad, kBroad));
     show();
     raise();
+}
+
+bool FieldMark::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == widget_ && isVisible() && (event->type() == QEvent::Move || event->type() == QEvent::Resize)) Surround(*widget_);
+    return false;
 }
 
 void FieldMark::paintEvent(QPaintEvent* /*event*/) {

@@ -3,6 +3,7 @@
 // Marks the field that receives the keys while another window is active, because Qt draws no caret in an inactive window.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 namespace vatro {
@@ -12,13 +13,17 @@ class FieldMark : public QWidget {
     Q_OBJECT
 
 public:
-    /// Shows the frame around this widget until it is hidden. It becomes a child of the widget's window.
+    /// Shows the frame around this widget until it is hidden, and follows it. It becomes a child of the widget's window.
     void Surround(QWidget& widget);
 
     FieldMark();
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QPointer<QWidget> widget_;
 };
 
 }  // namespace vatro

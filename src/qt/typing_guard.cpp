@@ -16,11 +16,13 @@
 #include "deliver.h"
 #include "entry/frmMain.h"
 #include "entry/qso_fields.h"
+#include "field_characters.h"
 #include "field_mark.h"
 #include "input.h"
 #include "item_list.h"
 #include "keyer/frmCWTX.h"
 #include "qt_front.h"
+#include "stations/frmEDR.h"
 #include "window.h"
 
 namespace vatro {
@@ -77,6 +79,8 @@ void GiveKeysBackToSending() {
 TypingGuard::TypingGuard(QtFront& front) : now([this] { return Moment(clock_.elapsed()); }), front_(front) {
     clock_.start();
     qApp->installEventFilter(this);
+    // Handlers may move the focus several times before it rests.
+    connect(qApp, &QApplication::focusChanged, this, [this] { QTimer::singleShot(0, this, &TypingGuard::MarkField); });
 }
 
 bool TypingGuard::eventFilter(QObject* watched, QEvent* event) {
@@ -133,7 +137,7 @@ bool TypingGuard::TakeKey(const QWindow& window, QKeyEvent& event) {
     if (form == nullptr) return false;
     WatchLog();
     if (Sending() && (form == frmCWTX.Peek() || form == frmMain.Peek())) return TakeWhileSending(event, key);
-    return press && TakeOnForm(*form, key);
+    return press && TakeOnForm(*form, event, key);
 }
 
 bool TypingGuard::HandOn(const QKeyEvent& event, bool repeated) const {
@@ -167,14 +171,39 @@ bool TypingGuard::TakeWhileSending(QKeyEvent& event, const PressedKey& key) {
     return true;
 }
 
-bool TypingGuard::TakeOnForm(const Form& form, const PressedKey& key) {
+bool TypingGuard::TakeOnForm(Form& form, const QKeyEvent& event, const PressedKey& key) {
     if (EntryKeys::Held(key)) return true;
+    if (key.kind == KeyKind::Esc && form.Reachable() && form.EscCloses()) {
+        Deliver([&form] { form.UserClosed(); });
+        return true;
+    }
+    if (&form == frmEDR.Peek()) return TakeInStations(event);
     if (&form != frmMain.Peek()) return false;
     if (morse_.StillMeansText(key, now())) return true;
+    if (key.kind == KeyKind::Character && form.ActiveControl() == &frmMain->log) GoToCall(event);
     // Enter has another meaning in these controls: in the list it corrects a contact, in the combo box it selects the operator.
     const Control* active = form.ActiveControl();
     if (As<ListBox>(active) != nullptr || As<ComboBox>(active) != nullptr) return false;
     return entry_.Swallows(key, frmMain->fields[kCallField].Text().empty(), now());
+}
+
+void TypingGuard::GoToCall(const QKeyEvent& event) {
+    TextBox& call = frmMain->fields[kCallField];
+    const std::optional<KeyCode> code = CodeOf(event);
+    if (!code || CharacterInto(call, *code) == kNoKey) return;
+    Deliver([&call] {
+        if (frmMain->Reachable()) frmMain->UserFocus(call);
+    });
+}
+
+bool TypingGuard::TakeInStations(const QKeyEvent& event) {
+    if (event.modifiers() != Qt::NoModifier || (event.key() != Qt::Key_F3 && event.key() != Qt::Key_F4)) return false;
+    if (event.isAutoRepeat()) return true;
+    Deliver([worked = event.key() == Qt::Key_F3] {
+        if (!frmMain.Loaded() || !frmMain->Reachable()) return;
+        (worked ? frmMain->mnuFunktionerKørteEDRstns : frmMain->mnuFunktionerIkkeKørteEDRstns).Choose();
+    });
+    return true;
 }
 
 void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {
@@ -223,8 +252,7 @@ bool TypingGuard::TakeInputMethod(const QWidget& widget, QInputMethodEvent& even
 
 void TypingGuard::MarkField() {
     sending_ = Sending();
-    const Control* active = sending_ ? frmMain->ActiveControl() : nullptr;
-    QWidget* field = active != nullptr ? front_.WidgetOf(*active) : nullptr;
+    QWidget* field = FieldWithKeys();
     if (field == nullptr) {
         if (mark_ != nullptr) mark_->hide();
         return;
@@ -233,14 +261,22 @@ void TypingGuard::MarkField() {
     mark_->Surround(*field);
 }
 
+QWidget* TypingGuard::FieldWithKeys() const {
+    const Form* main = frmMain.Peek();
+    const FormWindow* window = main != nullptr ? front_.WindowOf(*main) : nullptr;
+    if (window == nullptr || main->ActiveControl() == nullptr) return nullptr;
+    const bool inFront = ActiveForm() == main && QApplication::activeWindow() == window->Top();
+    return Sending() || inFront ? front_.WidgetOf(*main->ActiveControl()) : nullptr;
+}
+
 void TypingGuard::SendingOver() {
-    if (mark_ != nullptr) mark_->hide();
     // Without the focus in the sending window, keys went to the fields of the main form all along, so Esc and Enter were not meant for
     // the text.
     if (std::exchange(sending_, false) && frmCWTX->EndedByItself())
         morse_.EndedByItself(now());
     else
         morse_.Forget();
+    MarkField();
 }
 
 void TypingGuard::WatchLog() {

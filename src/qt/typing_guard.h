@@ -5,6 +5,9 @@
 //
 // While a Morse text is being sent, the sending window has the focus, but uses only a few keys. All other keys are passed to the main
 // form, which handles them as if it were in front. The sending window keeps the focus, so Esc and Enter still stop the text.
+//
+// Some keys that no rule uses go where the operator means them: letters typed over the log to the call field, Esc in a window that only
+// shows something to its close button, F3 and F4 from one list of stations to the other.
 #pragma once
 
 #include <QElapsedTimer>
@@ -50,12 +53,18 @@ private:
     /// Handles keys while a text is being sent. They arrive at the sending window or, before it has received the focus, at the main
     /// form's.
     bool TakeWhileSending(QKeyEvent& event, const PressedKey& key);
-    bool TakeOnForm(const Form& form, const PressedKey& key);
+    bool TakeOnForm(Form& form, const QKeyEvent& event, const PressedKey& key);
+    /// Moves the focus from the log to the call field if the key is a character for it, which then arrives there.
+    void GoToCall(const QKeyEvent& event);
+    /// The keys of the two lists of the society's stations change from one list to the other.
+    static bool TakeInStations(const QKeyEvent& event);
     /// Handles input-method text while a Morse text is being sent.
     bool TakeInputMethod(const QWidget& widget, QInputMethodEvent& event);
     void HandToMain(QKeyEvent& event, const PressedKey& key);
-    /// Marks the field of the main form that receives the keys while another window has the focus.
+    /// Marks the field of the main form that receives the keys, also while the sending window has the focus. Marks none if the keys go
+    /// to another window.
     void MarkField();
+    QWidget* FieldWithKeys() const;
     /// The sending window has been hidden.
     void SendingOver();
     void WatchLog();
