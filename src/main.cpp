@@ -10,6 +10,7 @@
 
 #include "application.h"
 #include "clock.h"
+#include "codepage.h"
 #include "copy_keeper.h"
 #include "deliver.h"
 #include "desktop.h"
@@ -20,6 +21,7 @@
 #include "entry/frmMain.h"
 #include "frame/start.h"
 #include "lamps.h"
+#include "morse_speed.h"
 #include "printer.h"
 #include "program.h"
 #include "qt_front.h"
@@ -30,6 +32,8 @@
 #include "spread.h"
 
 namespace {
+
+using namespace vatro::literals;
 
 struct Outcome {
     int result = 0;
@@ -67,6 +71,10 @@ Outcome Run() {
     const vatro::Ends ends(settings);
     vatro::CopyKeeper copy(front, safety, settings);
     vatro::Lamps lamps(front, safety, copy);
+    vatro::MorseSpeed speed(front);
+    speed.told = [&lamps](int wpm) {
+        lamps.Tell("CW " + std::to_string(wpm) + " WPM", "Den næste tekst bliver sendt med denne hastighed."_t);
+    };
     front.ended = [] { QCoreApplication::quit(); };
     // The start procedure may open boxes, so it runs inside the event loop, like every other event.
     QTimer::singleShot(0, &front, [&front, &copy, &lamps] {

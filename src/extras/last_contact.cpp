@@ -22,4 +22,8 @@ void LastContact::Failed(std::string_view file, std::string_view why) {
              Joined({file, ": ", why, ". Se Beskeder og fejl i håndbogen (Hjælp, Indhold)."_t})};
 }
 
+void LastContact::Tell(std::string_view text, std::string_view tip) {
+    if (lamp_.state != Lamp::State::Bad) lamp_ = {Lamp::State::Good, std::string(text), std::string(tip)};
+}
+
 }  // namespace vatro

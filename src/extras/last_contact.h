@@ -20,6 +20,10 @@ public:
     /// page. Shown until the next contact is saved.
     void Failed(std::string_view file, std::string_view why);
 
+    /// Something else that the operator has just done and should see confirmed. Shown until the next contact is saved; does not hide a
+    /// failure.
+    void Tell(std::string_view text, std::string_view tip);
+
     Lamp Shown() const { return lamp_; }
 
 private:

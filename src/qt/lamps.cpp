@@ -130,6 +130,11 @@ void Lamps::Clicked(LampKind kind) {
     LookAtClock();
 }
 
+void Lamps::Tell(std::string_view text, std::string_view tip) {
+    lastContact_.Tell(text, tip);
+    ShowLastContact();
+}
+
 void Lamps::ShowLastContact() {
     if (row_) row_->Show(LampKind::LastContact, lastContact_.Shown());
 }

@@ -29,6 +29,9 @@ public:
     /// Call when the main window is there: puts the lamps into its menu bar.
     void Begin();
 
+    /// Confirms in the lamp of the last contact what the operator has just done. The texts are in the code page.
+    void Tell(std::string_view text, std::string_view tip);
+
     /// Reads the computer's clocks; replaceable. The offset is filled in afterwards.
     std::function<ClockWatch::Reading()> clocks;
 
