@@ -285,8 +285,8 @@ bool Input::TakeInputMethod(QInputMethodEvent& event) {
     const QPointer<Input> self(this);
     const QPointer<QWidget> widget(widget_);
     const std::string commit = FromQt(event.commitString());
-    const QString preedit = event.preeditString();
-    const QList<QInputMethodEvent::Attribute> attributes = event.attributes();
+    const QString& preedit = event.preeditString();
+    const QList<QInputMethodEvent::Attribute>& attributes = event.attributes();
     // Let the widget end the composition before the characters come in as keys.
     QInputMethodEvent rest(preedit, attributes);
     static_cast<QObject*>(widget)->event(&rest);

@@ -9,6 +9,8 @@
 
 #include "platform.h"
 
+class QWidget;
+
 namespace vatro {
 
 class HelpWindow;
