@@ -26,6 +26,7 @@ done <<CALLS
 house/format.sh $tests/..
 house/package.sh $tests/..
 house/out_parameters.py $tests/../src build
+house/spelling.py $tests/..
 morse/decode_morse.py vatro-replay
 sound/with_sound_card.sh true
 sound/cw_on_air.sh vatro data 20 TEST
