@@ -42,7 +42,7 @@ HIDING_STATEMENT = re.compile(r"\b[oO]bjectName|setObjectName|qC(Debug|Warning)\
 SKIPPED = re.compile(
     r"(?:Ctrl|Alt|Shift)\+\S+"
     r"|\b(?:Page (?:Up|Down)|Home|End|Insert|Delete|Shift|Ctrl|Alt)\b"
-    r"|[\w-]+\.(?:adi|com|dat|html?|ini|kopi|lock|puls|txt)\b"
+    r"|[\w-]+\.(?:adi|com|dat|html?|ini|kopi|lock|puls|txt)\b(?:#\w+)?"
     r"|\bvatro-\w+"
     r"|\w*\d\w*", re.IGNORECASE)
 WORD = re.compile(r"[^\W\d_]+(?:['’][^\W\d_]+)*")
