@@ -288,7 +288,7 @@ TEST_F(SecondCopyTest, TakesNoLinkToTheLogForACopy) {
     EXPECT_EQ(Copy(), LogOf(3));
 }
 
-TEST_F(SecondCopyTest, AMarkerWithoutAnIdIsNobodys) {
+TEST_F(SecondCopyTest, AMarkerWithoutAnIdBelongsToNobody) {
     Log(LogOf(3));
     Put("kopi/vatro.kopi", "");
     CopyPlaces places = Places();
