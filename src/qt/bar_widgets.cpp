@@ -9,13 +9,13 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
-#include <QToolButton>
 
 #include "bindings.h"
 #include "by_kind.h"
 #include "deliver.h"
 #include "fields.h"
 #include "forms.h"
+#include "press_button.h"
 #include "qt_text.h"
 
 namespace vatro {
@@ -130,7 +130,8 @@ void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings) {
             widget.addSeparator();
             continue;
         }
-        QAction* action = widget.addAction(ToQt(button.caption));
+        auto* action = new PressAction(&widget);
+        action->setText(ToQt(button.caption));
         action->setProperty(kToolIndex, button.index);
         action->setCheckable(true);
         action->setVisible(button.visible);
@@ -142,20 +143,8 @@ void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings) {
                 if (control.Parent().Reachable()) control.UserPressed(index);
             });
         });
-        if (auto* face = qobject_cast<QToolButton*>(widget.widgetForAction(action))) {
-            face->setFocusPolicy(Qt::NoFocus);
-            face->setAccessibleName(ToQt(button.caption));
-            // The pressed button has a bold caption as well. Reserve the width of the bold text, so that buttons do not change their
-            // width.
-            QFont bold = face->font();
-            bold.setBold(true);
-            face->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(ToQt(button.caption)) + 2 * face->fontMetrics().averageCharWidth());
-            QObject::connect(action, &QAction::toggled, face, [face](bool on) {
-                QFont font = face->font();
-                font.setBold(on);
-                face->setFont(font);
-            });
-        }
+        widget.addAction(action);
+        if (QWidget* face = widget.widgetForAction(action)) face->setAccessibleName(ToQt(button.caption));
     }
     PushPressed(control, widget);
     widget.setEnabled(control.Enabled());
