@@ -64,6 +64,9 @@ struct Colours {
 };
 Colours ColoursOf(Lamp::State state, const QPalette& palette) {
     const bool dark = palette.color(QPalette::Window).lightness() < kDark;
+    // In the night scheme nothing is brighter than its text.
+    const QColor ink = palette.color(QPalette::WindowText);
+    if (dark && ink.lightness() <= kDark && state != Lamp::State::Off && state != Lamp::State::Good) return {ink, Qt::black};
     switch (state) {
         case Lamp::State::Bad:
             return dark ? Colours{QColor(0xff, 0x8a, 0x80), Qt::black} : Colours{QColor(0xb0, 0x00, 0x20), Qt::white};
@@ -191,14 +194,16 @@ void LampRow::FitIn() {
     for (LampButton* lamp : lamps_)
         if (lamp->Shown().state != Lamp::State::Off) room -= lamp->WidthOf(true) + layout()->spacing();
     std::array<bool, kLampKinds> words{};
+    bool wrongIsBrief = false;
     for (const auto& [good, kind] : kWordsFirst) {
         const auto i = static_cast<std::size_t>(kind);
         const Lamp::State state = lamps_[i]->Shown().state;
         if (state == Lamp::State::Off || (state == Lamp::State::Good) != good) continue;
         const int more = lamps_[i]->WidthOf(false) - lamps_[i]->WidthOf(true);
+        // What is good must not look more important than what is wrong.
+        if (good && wrongIsBrief) break;
         if (more > room) {
-            // What is good must not look more important than what is wrong.
-            if (!good) room = 0;
+            wrongIsBrief = wrongIsBrief || !good;
             continue;
         }
         room -= more;

@@ -11,7 +11,6 @@
 #include <QPushButton>
 #include <QTest>
 #include <algorithm>
-#include <cmath>
 #include <fstream>
 #include <map>
 
@@ -21,6 +20,7 @@
 #include "entry/frmUTC.h"
 #include "entry/qso_fields.h"
 #include "frame/state.h"
+#include "qt/contrast.h"
 #include "qt/window_program.h"
 #include "qt_text.h"
 #include "safety.h"
@@ -33,15 +33,6 @@ using namespace std::chrono_literals;
 using namespace literals;
 using testing::HasSubstr;
 
-/// The relative brightness of a colour, for contrast as it is usually computed for text on screens.
-double Brightness(QRgb colour) {
-    const auto linear = [](int value) {
-        const double part = value / 255.0;
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
-}
-
 /// The greatest contrast of any pixel against the commonest colour.
 double Contrast(QWidget& widget) {
     const QImage image = widget.grab().toImage();
@@ -49,12 +40,8 @@ double Contrast(QWidget& widget) {
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
     const auto commonest = std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
-    const double back = Brightness(commonest->first);
     double best = 1;
-    for (const auto& [colour, count] : counts) {
-        const double ink = Brightness(colour);
-        best = std::max(best, (std::max(back, ink) + 0.05) / (std::min(back, ink) + 0.05));
-    }
+    for (const auto& [colour, count] : counts) best = std::max(best, ContrastOf(colour, commonest->first));
     return best;
 }
 
