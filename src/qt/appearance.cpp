@@ -9,11 +9,15 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
+#include <utility>
 
 #include "bind_common.h"
+#include "border_style.h"
 #include "fields.h"
 #include "numbers.h"
 #include "platform.h"
+#include "qt_text.h"
 
 namespace vatro {
 
@@ -21,6 +25,7 @@ namespace {
 
 constexpr std::string_view kSection = "Settings";
 constexpr std::string_view kSun = "Solskin";
+constexpr std::string_view kNight = "Nat";
 constexpr std::string_view kTextSize = "TekstStr";
 
 /// Each step changes the text size by this fraction.
@@ -43,28 +48,68 @@ QPalette SunPalette() {
     return sun;
 }
 
+/// Dim red, which leaves the eyes used to the dark.
+QPalette NightPalette() {
+    const QColor red(0xd8, 0x38, 0x28);
+    const QColor dim(0x78, 0x20, 0x18);
+    QPalette night(Qt::black);
+    for (const QPalette::ColorRole back :
+         {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button, QPalette::ToolTipBase})
+        night.setColor(back, Qt::black);
+    for (const QPalette::ColorRole front : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText,
+                                            QPalette::BrightText, QPalette::Link, QPalette::LinkVisited})
+        night.setColor(front, red);
+    night.setColor(QPalette::Highlight, red);
+    night.setColor(QPalette::HighlightedText, Qt::black);
+    night.setColor(QPalette::PlaceholderText, dim);
+    for (const QPalette::ColorRole front : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        night.setColor(QPalette::Disabled, front, dim);
+    return night;
+}
+
+/// The frames of the scheme, or the desktop's own style. An empty palette means the desktop's own too, light or dark.
+void UseScheme(bool frames, const QPalette& palette) {
+    const auto* framed = qobject_cast<BorderStyle*>(QApplication::style());
+    const QString own = (framed != nullptr ? framed->baseStyle() : QApplication::style())->name();
+    if (frames && framed == nullptr) QApplication::setStyle(new BorderStyle(own));
+    if (!frames && framed != nullptr) QApplication::setStyle(own);
+    QApplication::setPalette(palette);
+}
+
 }  // namespace
 
 Appearance::Appearance(QMainWindow& window, QMenu& menu) : QObject(&window), window_(window) {
-    sun_ = menu.addAction(QStringLiteral("&Solskin"));
-    sun_->setObjectName(QStringLiteral("appearanceSun"));
-    sun_->setCheckable(true);
+    sun_ = AddScheme(menu, QStringLiteral("&Solskin"), kSun);
+    night_ = AddScheme(menu, QStringLiteral("&Nat"), kNight);
     AddEntry(menu, QStringLiteral("St&ørre tekst"), QKeySequence(QStringLiteral("Ctrl++")), +1);
     AddEntry(menu, QStringLiteral("&Mindre tekst"), QKeySequence(QStringLiteral("Ctrl+-")), -1);
     AddEntry(menu, QStringLiteral("No&rmal tekst"), QKeySequence(QStringLiteral("Ctrl+0")), 0);
 
     Settings& settings = platform().settings;
-    sun_->setChecked(settings.Read(kSection, kSun) == "True");
     step_ = static_cast<int>(qBound<double>(kSmallest, NumericValue(settings.Read(kSection, kTextSize).value_or("")), kLargest));
-    if (Sun() || step_ != 0) Apply();
-    connect(sun_, &QAction::toggled, this, [this] {
-        Apply();
-        Store();
-    });
+    if (Sun() || Night() || step_ != 0) Apply();
+    for (const auto& [chosen, other] : {std::pair(sun_, night_), std::pair(night_, sun_)})
+        connect(chosen, &QAction::triggered, this, [this, other = other] {
+            other->setChecked(false);
+            Apply();
+            Store();
+        });
+}
+
+QAction* Appearance::AddScheme(QMenu& menu, const QString& caption, std::string_view key) {
+    QAction* scheme = menu.addAction(caption);
+    scheme->setObjectName(QStringLiteral("appearance") + ToQt(key));
+    scheme->setCheckable(true);
+    scheme->setChecked(platform().settings.Read(kSection, key) == "True");
+    return scheme;
 }
 
 bool Appearance::Sun() const {
     return sun_->isChecked();
+}
+
+bool Appearance::Night() const {
+    return night_->isChecked() && !Sun();
 }
 
 QAction* Appearance::AddEntry(QMenu& menu, const QString& caption, const QKeySequence& key, int step) {
@@ -81,8 +126,7 @@ void Appearance::SetTextSize(int step) {
 }
 
 void Appearance::Apply() {
-    // An empty palette means the desktop's own, light or dark.
-    QApplication::setPalette(Sun() ? SunPalette() : QPalette());
+    UseScheme(Sun() || Night(), Sun() ? SunPalette() : Night() ? NightPalette() : QPalette());
     QList<QWidget*> widgets{&window_};
     for (QWidget* widget : window_.findChildren<QWidget*>())
         // Other windows that belong to this one keep their text size.
@@ -118,6 +162,7 @@ void Appearance::GrowToContent() {
 void Appearance::Store() const {
     Settings& settings = platform().settings;
     settings.Write(kSection, kSun, Sun() ? "True" : "False");
+    settings.Write(kSection, kNight, Night() ? "True" : "False");
     settings.Write(kSection, kTextSize, PlainNumber(step_));
 }
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// The user's display options for the main window: bold black on white for bright sunlight, and the text size. They are stored with the
-// settings; nothing else in the program depends on them.
+// The user's display options: a colour scheme, bold black on white for bright sunlight or dim red on black for the night, and the text size
+// of the main window. They are stored with the settings; nothing else in the program depends on them.
 #pragma once
 
 #include <QObject>
+#include <string_view>
 
 class QAction;
 class QMainWindow;
@@ -24,8 +25,10 @@ public:
     static constexpr int kLargest = 10;
     int TextSize() const { return step_; }
     bool Sun() const;
+    bool Night() const;
 
 private:
+    QAction* AddScheme(QMenu& menu, const QString& caption, std::string_view key);
     QAction* AddEntry(QMenu& menu, const QString& caption, const QKeySequence& key, int step);
     void SetTextSize(int step);
     void Apply();
@@ -34,6 +37,7 @@ private:
 
     QMainWindow& window_;
     QAction* sun_;
+    QAction* night_;
     int step_ = 0;
 };
 

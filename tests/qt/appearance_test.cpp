@@ -8,10 +8,12 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QTest>
+#include <QToolBar>
 
 #include "bar_widgets.h"
 #include "entry/frmMain.h"
 #include "fields.h"
+#include "qt/contrast.h"
 #include "qt/window_program.h"
 
 namespace vatro {
@@ -26,7 +28,8 @@ protected:
     }
     ~AppearanceOfTheWindow() override { QApplication::setPalette(QPalette()); }
     QMainWindow& Window() { return dynamic_cast<QMainWindow&>(*WindowOf(*frmMain).Top()); }
-    QAction& Sun() { return *Window().findChild<QAction*>(QStringLiteral("appearanceSun")); }
+    QAction& Sun() { return *Window().findChild<QAction*>(QStringLiteral("appearanceSolskin")); }
+    QAction& Night() { return *Window().findChild<QAction*>(QStringLiteral("appearanceNat")); }
     QWidget& Call() { return WidgetOf<QWidget>(frmMain->fields[kCallField]); }
     /// The font size of the call field.
     double Points() { return Call().font().pointSizeF(); }
@@ -50,6 +53,58 @@ TEST_F(AppearanceOfTheWindow, SunIsBlackOnWhiteAndBoldAndIsRemembered) {
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), usual.color(QPalette::Window));
     EXPECT_FALSE(WidgetOf<QWidget>(frmMain->log).font().bold());
     EXPECT_EQ(settings.Read("Settings", "Solskin"), "False");
+}
+
+TEST_F(AppearanceOfTheWindow, NightIsDimRedOnBlackInPlaceOfTheSun) {
+    StartVatro();
+    Sun().trigger();
+    Night().trigger();
+    driver.Settle();
+    EXPECT_FALSE(Sun().isChecked());
+    EXPECT_EQ(Window().palette().color(QPalette::Window), QColor(Qt::black));
+    const QColor ink = Call().palette().color(QPalette::Text);
+    EXPECT_EQ(ink.hue() / 30, 0);
+    EXPECT_LT(ink.lightness(), 140);
+    EXPECT_EQ(settings.Read("Settings", "Nat"), "True");
+    EXPECT_EQ(settings.Read("Settings", "Solskin"), "False");
+    Night().trigger();
+    driver.Settle();
+    EXPECT_EQ(settings.Read("Settings", "Nat"), "False");
+    EXPECT_NE(Window().palette().color(QPalette::Window), QColor(Qt::black));
+}
+
+/// Band and mode must be read from two metres: the ground of the pressed button differs from that of the others.
+TEST_F(AppearanceOfTheWindow, ThePressedButtonsStandOutInEveryScheme) {
+    StartVatro();
+    auto& bar = WidgetOf<QToolBar>(frmMain->toolbar);
+    const auto ground = [&bar](int index) {
+        QWidget* button = bar.widgetForAction(ActionOf(index, bar));
+        return button->grab().toImage().pixel(button->width() / 2, 3);
+    };
+    const auto expectContrast = [&](const char* scheme) {
+        driver.Settle();
+        EXPECT_GE(ContrastOf(ground(5), ground(4)), 3) << scheme << ", 80m beside 40m";
+        EXPECT_GE(ContrastOf(ground(8), ground(9)), 3) << scheme << ", SSB beside CW";
+    };
+    expectContrast("light");
+    Sun().trigger();
+    expectContrast("sun");
+    Night().trigger();
+    expectContrast("night");
+    Night().trigger();
+    QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30)));
+    expectContrast("dark");
+}
+
+TEST_F(AppearanceOfTheWindow, BandAndModeAreTheLargestWordsOfTheHead) {
+    StartVatro();
+    auto& bar = WidgetOf<QToolBar>(frmMain->toolbar);
+    const double band = bar.widgetForAction(ActionOf(5, bar))->font().pointSizeF();
+    EXPECT_GE(band, 1.2 * Window().menuBar()->font().pointSizeF());
+    for (const QWidget* widget : Window().findChildren<QWidget*>())
+        if (widget->isVisible() && widget->mapTo(&Window(), QPoint()).y() < bar.geometry().bottom()) {
+            EXPECT_LE(widget->font().pointSizeF(), band) << widget->objectName().toStdString();
+        }
 }
 
 TEST_F(AppearanceOfTheWindow, TextGrowsAndShrinksByTenthsAndGoesBack) {
