@@ -3,6 +3,7 @@
 
 #include <QResizeEvent>
 #include <QStyledItemDelegate>
+#include <QTimer>
 
 #include "qt_text.h"
 
@@ -121,11 +122,33 @@ void ItemList::focusInEvent(QFocusEvent* event) {
 void ItemList::resizeEvent(QResizeEvent* event) {
     FitGrid();
     QListView::resizeEvent(event);
+    KeepSelectedInSight();
 }
 
 void ItemList::changeEvent(QEvent* event) {
     QListView::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) FitGrid();
+    if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+    FitGrid();
+    KeepSelectedInSight();
+}
+
+void ItemList::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    const QModelIndex selected = Selected();
+    selectedSeen_ = selected.isValid() && viewport()->rect().contains(visualRect(selected).center());
+}
+
+QModelIndex ItemList::Selected() const {
+    const QModelIndexList selected = selectionModel() != nullptr ? selectionModel()->selectedIndexes() : QModelIndexList();
+    return selected.isEmpty() ? QModelIndex() : selected.constFirst();
+}
+
+void ItemList::KeepSelectedInSight() {
+    if (!selectedSeen_) return;
+    // The rows are laid out anew after this event.
+    QTimer::singleShot(0, this, [this] {
+        if (const QModelIndex selected = Selected(); selected.isValid()) scrollTo(selected);
+    });
 }
 
 void ItemList::FitGrid() {

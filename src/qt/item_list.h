@@ -56,11 +56,17 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
+    QModelIndex Selected() const;
+    /// The list has another size, or its rows have.
+    void KeepSelectedInSight();
     void FitGrid();
 
     int columns_ = 0;
+    /// Whether the selected row was in sight when the list was last painted.
+    bool selectedSeen_ = false;
 };
 
 }  // namespace vatro
