@@ -21,6 +21,7 @@
 #include "entry/frmMain.h"
 #include "frame/start.h"
 #include "lamps.h"
+#include "main_size.h"
 #include "morse_speed.h"
 #include "printer.h"
 #include "program.h"
@@ -68,6 +69,7 @@ Outcome Run() {
                                    {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
     const vatro::Desktop desktop(front, help);
+    const vatro::MainSize size(front, settings);
     const vatro::Ends ends(settings);
     vatro::CopyKeeper copy(front, safety, settings);
     vatro::Lamps lamps(front, safety, copy);

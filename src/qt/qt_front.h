@@ -47,6 +47,8 @@ public:
 
     /// Waits while a modal form is open; replaceable.
     std::function<void(const std::function<bool()>& over)> waitModal;
+    /// Called before a main window is first shown, with the size of its layout.
+    std::function<void(QMainWindow& window)> beforeFirstShow;
     /// Whether a main window is shrunk to fit the screen when it is first shown.
     bool fitToScreen = false;
     /// Whether pasted text goes through the fields' key filters.

@@ -193,6 +193,8 @@ void FormWindow::FollowVisible() {
     top_->setWindowModality(form_.Modal() ? Qt::ApplicationModal : Qt::NonModal);
     placing_ = true;
     if (!placed_) FirstPlace();
+    if (auto* window = qobject_cast<QMainWindow*>(top_.data()); window != nullptr && front_.beforeFirstShow)
+        front_.beforeFirstShow(*window);
     if (form_.Kind() == FormKind::Main && front_.fitToScreen) FitToScreen();
     PutOnScreen();
     if (form_.Kind() == FormKind::Main) front_.FollowAll();
@@ -238,6 +240,7 @@ int FormWindow::TitleHeight() const {
 }
 
 void FormWindow::FitToScreen() {
+    if (top_->isMaximized() || top_->isFullScreen()) return;
     const QRect room = top_->screen()->availableGeometry();
     const QSize left(room.right() - top_->x(), room.bottom() - top_->y() - TitleHeight());
     top_->resize(top_->size().boundedTo(left.expandedTo(top_->minimumSizeHint())));

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "main_size.h"
+
+#include <gtest/gtest.h>
+
+#include <QListView>
+#include <QMainWindow>
+#include <QScreen>
+#include <QTest>
+
+#include "qt/window_program.h"
+
+namespace vatro {
+namespace {
+
+class SizeOfTheMainWindow : public WindowProgram {
+protected:
+    QMainWindow& Window() { return dynamic_cast<QMainWindow&>(*WindowOf(*frmMain).Top()); }
+    bool Becomes(const char* key, const std::string& value) {
+        return QTest::qWaitFor([&] { return settings.Read("Vindue", key) == value; });
+    }
+
+    MainSize size{dynamic_cast<QtFront&>(driver.ProgramFront()), settings};
+};
+
+TEST_F(SizeOfTheMainWindow, IsStoredWhenTheWindowHasComeToRest) {
+    StartVatro();
+    const QSize wanted = Window().minimumSizeHint() + QSize(30, 20);
+    Window().resize(wanted);
+    EXPECT_TRUE(Becomes("Bredde", std::to_string(wanted.width())));
+    EXPECT_TRUE(Becomes("Hojde", std::to_string(wanted.height())));
+}
+
+TEST_F(SizeOfTheMainWindow, ComesBackAtTheNextStart) {
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    settings.Write("Vindue", "Bredde", std::to_string(screen.width() - 10));
+    settings.Write("Vindue", "Hojde", std::to_string(screen.height() - 20));
+    StartVatro();
+    EXPECT_EQ(Window().width(), screen.width() - 10);
+    EXPECT_EQ(Window().height(), screen.height() - 20);
+}
+
+TEST_F(SizeOfTheMainWindow, IsNoLargerThanTheScreen) {
+    settings.Write("Vindue", "Bredde", "99999999");
+    settings.Write("Vindue", "Hojde", "99999999");
+    StartVatro();
+    const QSize screen = Window().screen()->availableSize();
+    EXPECT_LE(Window().width(), screen.width());
+    EXPECT_LE(Window().height(), screen.height());
+}
+
+TEST_F(SizeOfTheMainWindow, IsThatOfTheLayoutAtAFirstStartOrWithoutASensibleSetting) {
+    settings.Write("Vindue", "Bredde", "-5");
+    settings.Write("Vindue", "Hojde", "wide");
+    settings.Write("Vindue", "Tilstand", "wide");
+    StartVatro();
+    EXPECT_GT(Window().width(), 300);
+    EXPECT_FALSE(Window().isMaximized());
+    EXPECT_FALSE(Window().isFullScreen());
+}
+
+TEST_F(SizeOfTheMainWindow, RemembersThatItWasMaximised) {
+    settings.Write("Vindue", "Tilstand", "maksimeret");
+    StartVatro();
+    EXPECT_TRUE(Window().isMaximized());
+    Window().showNormal();
+    EXPECT_TRUE(Becomes("Tilstand", ""));
+}
+
+TEST_F(SizeOfTheMainWindow, FillsTheScreenWithF11AndGoesBack) {
+    StartVatro();
+    QTest::keyClick(&Window(), Qt::Key_F11);
+    driver.Settle();
+    EXPECT_TRUE(Window().isFullScreen());
+    EXPECT_TRUE(Becomes("Tilstand", "hele"));
+    QTest::keyClick(&Window(), Qt::Key_F11);
+    driver.Settle();
+    EXPECT_FALSE(Window().isFullScreen());
+    EXPECT_TRUE(Becomes("Tilstand", ""));
+}
+
+TEST_F(SizeOfTheMainWindow, LeavesTheNewestContactInSight) {
+    settings.texts["SETTINGS/BAND"] = "80m";
+    settings.texts["SETTINGS/MODE"] = "CW";
+    settings.texts["SETTINGS/QSOMODE"] = "CW";
+    files.files["LOG\\FD80MCW.TXT"] =
+        std::vector<std::string>(200, "13:00 DL9XYZ          599-0001 599-0012  3 DL         OZ1DEF     CW    05-09-26");
+    StartVatro();
+    auto& log = WidgetOf<QListView>(frmMain->log);
+    const auto seen = [&log] {
+        const QModelIndex newest = log.model()->index(log.model()->rowCount() - 1, 0);
+        return log.viewport()->rect().contains(log.visualRect(newest));
+    };
+    ASSERT_GE(log.model()->rowCount(), 200);
+    ASSERT_TRUE(seen());
+    for (const int height : {700, 450, 600, 380}) {
+        Window().resize(Window().width(), height);
+        driver.Settle();
+        EXPECT_TRUE(QTest::qWaitFor(seen)) << height;
+    }
+}
+
+}  // namespace
+}  // namespace vatro
