@@ -142,7 +142,7 @@ CopyOutcome SecondCopy::Try(bool adopt, const std::set<std::string>& changed) {
 /// Finds logs and copies that something else has changed since they were last compared.
 void SecondCopy::LookForChanges(const fs::path& directory) {
     for (const auto& [name, left] : left_)
-        if (SizeOf(FindPath(directory / name).path) != left.size || SizeOf(FindPath(places_.logs / name).path) != left.size)
+        if (SizeOf(FindPath(directory / name).path) != left.size || SizeOf(FindPath(places_.logs / name).path) != left.logSize)
             due_.insert(name);
 }
 
@@ -223,7 +223,7 @@ void SecondCopy::CopyLog(const fs::path& directory, const std::string& name) {
     if (IsSame(copy, source)) SetAside(copy);
     const auto left = left_.find(name);
     if (log && left != left_.end() && Append(copy, *log, left->second)) {
-        left->second = {log->size(), ContentHash(*log)};
+        left->second = {log->size(), ContentHash(*log), log->size()};
         return;
     }
     const std::optional<std::string> old = ReadIfThere(copy);
@@ -237,9 +237,12 @@ void SecondCopy::CopyLog(const fs::path& directory, const std::string& name) {
         // If the log is missing, its copy stays: it is the best there is.
         if (otherLogs_ || (log && unknown.lines)) SetAside(copy);
     }
-    if (!log) return;
+    if (!log) {
+        left_[name] = {SizeOf(copy), ContentHash(old.value_or(std::string())), 0};
+        return;
+    }
     if (old != log) WriteWhole(copy, *log);
-    left_[name] = {log->size(), ContentHash(*log)};
+    left_[name] = {log->size(), ContentHash(*log), log->size()};
 }
 
 /// Appends what the log has more than the copy. Returns false if the copy is not known to be the beginning of the log, or if it has to be

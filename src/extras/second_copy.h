@@ -83,6 +83,8 @@ private:
     struct Left {
         std::size_t size = 0;
         std::size_t hash = 0;
+        /// The length of the log then; 0 if it was missing.
+        std::size_t logSize = 0;
     };
 
     /// What a copy holds that its log does not.

@@ -196,6 +196,24 @@ TEST_F(SecondCopyTest, KeepsTheCopyOfALogThatIsGoneAndTellsOfItOnce) {
     EXPECT_THAT(FromCopy(), ElementsAre(LogOf(4)));
 }
 
+TEST_F(SecondCopyTest, ComparesTheCopyOfALogThatIsGoneOnceAndCopiesTheLogWhenItIsBack) {
+    Log(LogOf(4));
+    SecondCopy copy = Make();
+    copy.Adopt();
+    fs::remove(root_ / "log" / kName);
+    copy.Update({kName});
+    int reads = 0;
+    writes_ = [&reads] {
+        ++reads;
+        return 0U;
+    };
+    EXPECT_TRUE(copy.Update({}).done);
+    EXPECT_EQ(reads, 0);
+    Log(LogOf(5));
+    EXPECT_TRUE(copy.Update({}).done);
+    EXPECT_EQ(Copy(), LogOf(5));
+}
+
 TEST_F(SecondCopyTest, DoesNotProposeTheContactsOfLastYear) {
     now_.year = 2027;
     Log("");
