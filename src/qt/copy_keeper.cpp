@@ -59,7 +59,7 @@ QStringList MountedVolumes() {
     return volumes;
 }
 
-/// The directory of a path that the program was given, spelled as on the disk.
+/// A directory of the program as a path of the file system; empty if there is none.
 std::filesystem::path Directory(std::string_view path) {
     return path.empty() ? std::filesystem::path() : NativePath(path);
 }

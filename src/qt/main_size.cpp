@@ -47,6 +47,8 @@ MainSize::MainSize(QtFront& front, Settings& settings) : settings_(settings) {
 }
 
 void MainSize::Restore(QMainWindow& window) {
+    // A window that is shown again has the size that it was left with.
+    if (window_ == &window) return;
     window_ = &window;
     const QSize stored(Length(settings_, kWidth), Length(settings_, kHeight));
     const QSize room = window.screen()->availableSize();
