@@ -23,7 +23,9 @@ public:
         const int characters = model != nullptr ? model->WidestRow() : 0;
         const int margin = option.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
         const double text = QFontMetricsF(option.font).horizontalAdvance(QString(characters, u'0'));
-        return {qRound(text) + 2 * margin, QStyledItemDelegate::sizeHint(option, index).height()};
+        const int height = QStyledItemDelegate::sizeHint(option, index).height();
+        const auto* list = qobject_cast<const ItemList*>(option.widget);
+        return {qRound(text) + 2 * margin, list != nullptr ? list->RowHeight(height) : height};
     }
 };
 
@@ -147,12 +149,27 @@ void ItemList::KeepSelectedInSight() {
     if (!selectedSeen_) return;
     // The rows are laid out anew after this event.
     QTimer::singleShot(0, this, [this] {
-        if (const QModelIndex selected = Selected(); selected.isValid()) scrollTo(selected);
+        const QModelIndex selected = Selected();
+        if (!selected.isValid()) return;
+        scrollTo(selected);
+        // The size may change again before the list is painted.
+        selectedSeen_ = true;
     });
 }
 
+int ItemList::RowHeight(int least) const {
+    const int room = viewport()->height();
+    return columns_ > 0 || room < least ? least : room / (room / least);
+}
+
 void ItemList::FitGrid() {
-    if (columns_ <= 0) return;
+    if (columns_ <= 0) {
+        if (model() != nullptr && model()->rowCount() > 0 && sizeHintForRow(0) != rowHeight_) {
+            rowHeight_ = sizeHintForRow(0);
+            scheduleDelayedItemsLayout();
+        }
+        return;
+    }
     const QSize cell(qMax(1, viewport()->width() / columns_), fontMetrics().height() + 2);
     if (gridSize() != cell) setGridSize(cell);
 }

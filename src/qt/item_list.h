@@ -49,6 +49,8 @@ public:
     void SetColumns(int columns);
     /// Where a column of the text begins in the viewport, in pixels. Columns are counted from 1, in characters of the list's font.
     int ColumnLeft(int column) const;
+    /// The height of a row that needs `least` pixels: as much more as it takes for whole rows to fill the list.
+    int RowHeight(int least) const;
     void keyboardSearch(const QString& /*search*/) override {}
 
 protected:
@@ -65,6 +67,8 @@ private:
     void FitGrid();
 
     int columns_ = 0;
+    /// The height that the rows had when the list was last resized.
+    int rowHeight_ = 0;
     /// Whether the selected row was in sight when the list was last painted.
     bool selectedSeen_ = false;
 };
