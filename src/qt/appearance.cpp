@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QEvent>
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenu>
@@ -15,6 +16,7 @@
 #include "bind_common.h"
 #include "border_style.h"
 #include "fields.h"
+#include "main_size.h"
 #include "numbers.h"
 #include "platform.h"
 #include "qt_text.h"
@@ -67,6 +69,12 @@ QPalette NightPalette() {
     return night;
 }
 
+/// Whether this is a window with texts of its own, and not a menu or the list of a combo box, whose owner gives it its font.
+bool HasOwnText(const QWidget& window) {
+    const Qt::WindowType type = window.windowType();
+    return window.isWindow() && (type == Qt::Window || type == Qt::Dialog || type == Qt::Tool);
+}
+
 /// The frames of the scheme, or the desktop's own style. An empty palette means the desktop's own too, light or dark.
 void UseScheme(bool frames, const QPalette& palette) {
     const auto* framed = qobject_cast<BorderStyle*>(QApplication::style());
@@ -88,6 +96,7 @@ Appearance::Appearance(QMainWindow& window, QMenu& menu) : QObject(&window), win
     Settings& settings = platform().settings;
     step_ = static_cast<int>(qBound<double>(kSmallest, NumericValue(settings.Read(kSection, kTextSize).value_or("")), kLargest));
     if (Sun() || Night() || step_ != 0) Apply();
+    qApp->installEventFilter(this);
     for (const auto& [chosen, other] : {std::pair(sun_, night_), std::pair(night_, sun_)})
         connect(chosen, &QAction::triggered, this, [this, other = other] {
             other->setChecked(false);
@@ -127,10 +136,17 @@ void Appearance::SetTextSize(int step) {
 
 void Appearance::Apply() {
     UseScheme(Sun() || Night(), Sun() ? SunPalette() : Night() ? NightPalette() : QPalette());
-    QList<QWidget*> widgets{&window_};
-    for (QWidget* widget : window_.findChildren<QWidget*>())
-        // Other windows that belong to this one keep their text size.
-        if (widget->window() == &window_ || qobject_cast<QMenu*>(widget) != nullptr) widgets.append(widget);
+    Dress(window_);
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window != &window_ && HasOwnText(*window) && window->testAttribute(Qt::WA_WState_Polished)) Dress(*window);
+    GrowToContent();
+}
+
+void Appearance::Dress(QWidget& window) const {
+    QList<QWidget*> widgets{&window};
+    for (QWidget* widget : window.findChildren<QWidget*>())
+        // Windows that belong to this one are dressed on their own.
+        if (widget->window() == &window || qobject_cast<QMenu*>(widget) != nullptr) widgets.append(widget);
     // Store all fonts before changing the first, because widgets inherit their parent's font.
     for (QWidget* widget : widgets)
         if (!widget->property(kOwnFont).isValid()) widget->setProperty(kOwnFont, widget->font());
@@ -141,22 +157,30 @@ void Appearance::Apply() {
         widget->setFont(font);
         if (auto* button = qobject_cast<QPushButton*>(widget)) WidenButton(*button);
     }
-    GrowToContent();
+}
+
+bool Appearance::eventFilter(QObject* watched, QEvent* event) {
+    // A window is polished before it asks for the size of its content.
+    if (event->type() == QEvent::Polish && watched != &window_ && (Sun() || step_ != 0)) {
+        auto* window = qobject_cast<QWidget*>(watched);
+        if (window != nullptr && HasOwnText(*window)) Dress(*window);
+    }
+    if (event->type() == QEvent::Show && watched == &window_ && step_ != 0) GrowToContent();
+    // The program has ended; the window itself may be deleted later.
+    if (event->type() == QEvent::Hide && watched == &window_ && !event->spontaneous()) qApp->removeEventFilter(this);
+    return false;
 }
 
 void Appearance::GrowToContent() {
     const auto* room = qobject_cast<ScrollRoom*>(window_.centralWidget());
-    if (room == nullptr || window_.isMaximized()) return;
+    if (room == nullptr || window_.isMaximized() || window_.isFullScreen()) return;
     // Activate the layouts from the innermost outwards, so that the new font sizes reach the window's layout even before the window is
     // shown.
     const QList<QWidget*> inside = room->findChildren<QWidget*>();
     for (auto widget = inside.crbegin(); widget != inside.crend(); ++widget)
         if ((*widget)->layout() != nullptr) (*widget)->layout()->activate();
     window_.layout()->activate();
-    const QSize missing = room->Missing();
-    const QRect screen = window_.screen()->availableGeometry();
-    const QSize left(screen.right() - window_.x(), screen.bottom() - window_.y());
-    window_.resize((window_.size() + missing).boundedTo(left.expandedTo(window_.size())));
+    Grow(window_, step_ > 0 ? window_.size() - room->size() + room->Needed() : OwnSize(window_));
 }
 
 void Appearance::Store() const {

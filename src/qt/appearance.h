@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The user's display options: a colour scheme, bold black on white for bright sunlight or dim red on black for the night, and the text size
-// of the main window. They are stored with the settings; nothing else in the program depends on them.
+// of all windows. They are stored with the settings; nothing else in the program depends on them.
 #pragma once
 
 #include <QObject>
@@ -10,6 +10,7 @@
 class QAction;
 class QMainWindow;
 class QMenu;
+class QWidget;
 
 namespace vatro {
 
@@ -27,11 +28,15 @@ public:
     bool Sun() const;
     bool Night() const;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QAction* AddScheme(QMenu& menu, const QString& caption, std::string_view key);
     QAction* AddEntry(QMenu& menu, const QString& caption, const QKeySequence& key, int step);
     void SetTextSize(int step);
     void Apply();
+    /// Gives all widgets of a window their fonts.
+    void Dress(QWidget& window) const;
     void GrowToContent();
     void Store() const;
 

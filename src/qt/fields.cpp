@@ -20,6 +20,8 @@ constexpr double kEntryPoints = 14.25;
 constexpr int kSightMargin = 6;
 /// Device-independent pixels per point, at 96 dpi.
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
+/// The part of a widget that a text fills which is drawn as large as possible; the rest is its margin.
+constexpr double kPartFilled = 0.85;
 
 }  // namespace
 
@@ -84,8 +86,8 @@ void ScrollRoom::BringIntoSight(const QWidget& inside) {
     for (const QPoint& corner : {place.bottomRight(), place.topLeft()}) ensureVisible(corner.x(), corner.y(), kSightMargin, kSightMargin);
 }
 
-QSize ScrollRoom::Missing() const {
-    return widget()->minimumSizeHint().expandedTo(size()) - size();
+QSize ScrollRoom::Needed() const {
+    return widget()->minimumSizeHint();
 }
 
 void ScrollRoom::keyPressEvent(QKeyEvent* event) {
@@ -114,6 +116,11 @@ void FittedText::SetTextFont(const QString& family, double points, bool bold) {
     update();
 }
 
+void FittedText::SetFills(bool fills) {
+    fills_ = fills;
+    update();
+}
+
 void FittedText::SetColours(const QColor& text, const QColor& ground) {
     text_ = text;
     ground_ = ground;
@@ -128,8 +135,8 @@ void FittedText::paintEvent(QPaintEvent* /*event*/) {
     if (letters.isEmpty()) return;
     const QRectF ink = letters.boundingRect();
     const double advance = QFontMetricsF(font_).horizontalAdvance(text());
-    const double told = points_ * kPixelsPerPoint / kMeasurePixels;
-    const double scale = qMin(told, qMin(height() / ink.height(), width() / qMax(advance, ink.right())));
+    const double whole = qMin(height() / ink.height(), width() / qMax(advance, ink.right()));
+    const double scale = fills_ ? kPartFilled * whole : qMin(points_ * kPixelsPerPoint / kMeasurePixels, whole);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate((width() - advance * scale) / 2, height() / 2.0 - ink.center().y() * scale);
     painter.scale(scale, scale);

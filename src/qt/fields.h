@@ -33,6 +33,8 @@ public:
     explicit FittedText(QWidget* parent = nullptr);
     /// `points` is the largest size at which the text is drawn.
     void SetTextFont(const QString& family, double points, bool bold);
+    /// Whether the text is drawn as large as the widget permits, whatever its size.
+    void SetFills(bool fills);
     /// An invalid colour means that of the palette; with an invalid `ground` no background is drawn.
     void SetColours(const QColor& text, const QColor& ground);
     QSize sizeHint() const override { return {1, 1}; }
@@ -44,6 +46,7 @@ protected:
 private:
     QFont font_;
     double points_ = 12;
+    bool fills_ = false;
     QColor text_;
     QColor ground_;
 };
@@ -97,8 +100,8 @@ class ScrollRoom : public QScrollArea {
 
 public:
     explicit ScrollRoom(QWidget& content);
-    /// How much larger the container would have to be to show all of its content.
-    QSize Missing() const;
+    /// The size in which the container shows all of its content.
+    QSize Needed() const;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

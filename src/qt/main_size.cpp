@@ -16,7 +16,6 @@ namespace vatro {
 
 namespace {
 
-constexpr std::string_view kSection = "Vindue";
 constexpr std::string_view kWidth = "Bredde";
 constexpr std::string_view kHeight = "Hojde";
 constexpr std::string_view kState = "Tilstand";
@@ -24,14 +23,42 @@ constexpr std::string_view kState = "Tilstand";
 constexpr std::string_view kMaximised = "maksimeret";
 constexpr std::string_view kFullScreen = "hele";
 
+/// On a smaller screen than this a first window fills it; on a larger one it takes a part of each side.
+constexpr QSize kSmallScreen(1200, 700);
+constexpr double kPartOfScreen = 0.85;
+
+/// Properties of a window that has been made larger than its own size, and how large.
+constexpr const char* kOwnSize = "vatroOwnSize";
+constexpr const char* kGrownSize = "vatroGrownSize";
+
 /// Milliseconds without a change after which the size is stored.
 constexpr int kRest = 1000;
 
 int Length(Settings& settings, std::string_view key) {
-    return static_cast<int>(qBound(0.0, NumericValue(settings.Read(kSection, key).value_or("")), 100'000.0));
+    return static_cast<int>(qBound(0.0, NumericValue(settings.Read(kWindowSection, key).value_or("")), 100'000.0));
 }
 
 }  // namespace
+
+std::optional<QSize> FirstSize(const QSize& layout, const QSize& screen) {
+    if (screen.width() < kSmallScreen.width() || screen.height() < kSmallScreen.height()) return {};
+    return layout.expandedTo(screen * kPartOfScreen).boundedTo(screen);
+}
+
+void Grow(QMainWindow& window, const QSize& size) {
+    const QSize own = OwnSize(window);
+    const QRect screen = window.screen()->availableGeometry();
+    const QSize left(screen.right() - window.x(), screen.bottom() - window.y());
+    const QSize grown = size.expandedTo(own).boundedTo(left.expandedTo(own));
+    window.setProperty(kOwnSize, own);
+    window.setProperty(kGrownSize, grown);
+    if (window.size() != grown) window.resize(grown);
+}
+
+QSize OwnSize(const QMainWindow& window) {
+    const bool grown = window.property(kGrownSize).toSize() == window.size();
+    return grown ? window.property(kOwnSize).toSize() : window.size();
+}
 
 MainSize::MainSize(QtFront& front, Settings& settings) : settings_(settings) {
     soon_.setSingleShot(true);
@@ -52,8 +79,13 @@ void MainSize::Restore(QMainWindow& window) {
     window_ = &window;
     const QSize stored(Length(settings_, kWidth), Length(settings_, kHeight));
     const QSize room = window.screen()->availableSize();
-    if (!stored.isEmpty()) window.resize(stored.expandedTo(window.minimumSizeHint()).boundedTo(room));
-    const std::string state = settings_.Read(kSection, kState).value_or("");
+    if (!stored.isEmpty())
+        window.resize(stored.expandedTo(window.minimumSizeHint()).boundedTo(room));
+    else if (const auto first = FirstSize(window.size(), room))
+        window.resize(*first);
+    else
+        window.setWindowState(window.windowState() | Qt::WindowMaximized);
+    const std::string state = settings_.Read(kWindowSection, kState).value_or("");
     if (state == kMaximised) window.setWindowState(window.windowState() | Qt::WindowMaximized);
     if (state == kFullScreen) window.setWindowState(window.windowState() | Qt::WindowFullScreen);
     if (fullScreen_ != nullptr) fullScreen_->setChecked(state == kFullScreen);
@@ -80,13 +112,13 @@ void MainSize::Store() {
     if (window_ == nullptr || window_->isMinimized()) return;
     const bool whole = window_->isFullScreen();
     const bool large = whole || window_->isMaximized();
-    const QSize size = large ? window_->normalGeometry().size() : window_->size();
+    const QSize size = large ? window_->normalGeometry().size() : OwnSize(*window_);
     settings_.BeginBatch();
     if (!size.isEmpty()) {
-        settings_.Write(kSection, kWidth, PlainNumber(size.width()));
-        settings_.Write(kSection, kHeight, PlainNumber(size.height()));
+        settings_.Write(kWindowSection, kWidth, PlainNumber(size.width()));
+        settings_.Write(kWindowSection, kHeight, PlainNumber(size.height()));
     }
-    settings_.Write(kSection, kState, whole ? kFullScreen : large ? kMaximised : std::string_view());
+    settings_.Write(kWindowSection, kState, whole ? kFullScreen : large ? kMaximised : std::string_view());
     settings_.EndBatch();
 }
 

@@ -6,7 +6,10 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QSize>
 #include <QTimer>
+#include <optional>
+#include <string_view>
 
 class QAction;
 class QMainWindow;
@@ -15,6 +18,18 @@ namespace vatro {
 
 class QtFront;
 class Settings;
+
+/// The section of the settings that the windows of the desktop keep to themselves.
+inline constexpr std::string_view kWindowSection = "Vindue";
+
+/// The size of a window at a first start, of which `layout` is the smallest useful one, or nothing if it is to fill the screen.
+std::optional<QSize> FirstSize(const QSize& layout, const QSize& screen);
+
+/// Makes the window as large as its content needs it now, `size`, but no larger than its screen and no smaller than its own size, which
+/// the user has given it. That one is remembered, and is the one that is stored.
+void Grow(QMainWindow& window, const QSize& size);
+/// The size that the user has given the window.
+QSize OwnSize(const QMainWindow& window);
 
 class MainSize : public QObject {
     Q_OBJECT

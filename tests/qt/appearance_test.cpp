@@ -6,13 +6,17 @@
 #include <QAction>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QScreen>
 #include <QTest>
 #include <QToolBar>
 
 #include "bar_widgets.h"
+#include "entry/frmB4.h"
 #include "entry/frmMain.h"
+#include "entry/frmUTC.h"
 #include "fields.h"
+#include "main_size.h"
 #include "qt/contrast.h"
 #include "qt/window_program.h"
 
@@ -129,10 +133,50 @@ TEST_F(AppearanceOfTheWindow, WindowGrowsWithItsTextAsFarAsTheScreenGoes) {
     const auto* room = dynamic_cast<const ScrollRoom*>(Window().centralWidget());
     for (int i = 0; i < 10; ++i) Press(Qt::Key_Plus);
     // Either everything is visible, or the window uses all of the screen.
-    EXPECT_TRUE(room->Missing().width() == 0 || Window().width() >= screen.right() - Window().x());
-    EXPECT_TRUE(room->Missing().height() == 0 || Window().height() >= screen.bottom() - Window().y());
+    EXPECT_TRUE(room->width() >= room->Needed().width() || Window().width() >= screen.right() - Window().x());
+    EXPECT_TRUE(room->height() >= room->Needed().height() || Window().height() >= screen.bottom() - Window().y());
     EXPECT_GE(Window().width(), usual.width());
     EXPECT_GT(room->widget()->minimumSizeHint().width(), usual.width());
+}
+
+TEST_F(AppearanceOfTheWindow, NormalTextGivesTheWindowItsOwnSizeBack) {
+    StartVatro();
+    Window().resize(Window().minimumSizeHint().expandedTo({400, 300}));
+    driver.Settle();
+    const QSize own = Window().size();
+    for (int i = 0; i < 6; ++i) Press(Qt::Key_Plus);
+    ASSERT_GT(Window().width(), own.width());
+    EXPECT_EQ(OwnSize(Window()), own);
+    Press(Qt::Key_Minus);
+    Press(Qt::Key_0);
+    EXPECT_EQ(Window().size(), own);
+    // A size that the user gives the window meanwhile is its own.
+    Press(Qt::Key_Plus);
+    const QSize chosen = Window().size() + QSize(11, 7);
+    Window().resize(chosen);
+    driver.Settle();
+    Press(Qt::Key_0);
+    EXPECT_EQ(Window().size(), chosen);
+}
+
+TEST_F(AppearanceOfTheWindow, AllWindowsGrow) {
+    StartVatro();
+    const double list = WidgetOf<QWidget>(frmB4->earlierContacts).font().pointSizeF();
+    frmUTC.Load();
+    const double dialogue = WidgetOf<QWidget>(frmUTC->okButton).font().pointSizeF();
+    const double box = QMessageBox().font().pointSizeF();
+    Press(Qt::Key_Plus);
+    Press(Qt::Key_Plus);
+    EXPECT_NEAR(WidgetOf<QWidget>(frmB4->earlierContacts).font().pointSizeF(), 1.2 * list, 0.01);
+    // Windows that open later grow when they are about to be shown.
+    WindowOf(*frmUTC).Top()->ensurePolished();
+    EXPECT_NEAR(WidgetOf<QWidget>(frmUTC->okButton).font().pointSizeF(), 1.2 * dialogue, 0.01);
+    QMessageBox later;
+    later.ensurePolished();
+    EXPECT_NEAR(later.font().pointSizeF(), 1.2 * box, 0.01);
+    Press(Qt::Key_0);
+    for (const Control* control : {static_cast<const Control*>(&frmB4->earlierContacts), static_cast<const Control*>(&frmUTC->okButton)})
+        EXPECT_NEAR(WidgetOf<QWidget>(*control).font().pointSizeF(), control == &frmUTC->okButton ? dialogue : list, 0.01);
 }
 
 TEST_F(AppearanceOfTheWindow, StartsAsItWasLeft) {
