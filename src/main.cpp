@@ -17,12 +17,14 @@
 #include "dialogs.h"
 #include "disk_files.h"
 #include "disk_settings.h"
+#include "docking.h"
 #include "ends.h"
 #include "entry/frmMain.h"
 #include "frame/start.h"
 #include "lamps.h"
 #include "main_size.h"
 #include "morse_speed.h"
+#include "places.h"
 #include "printer.h"
 #include "program.h"
 #include "qt_front.h"
@@ -30,7 +32,6 @@
 #include "safety.h"
 #include "services.h"
 #include "sound_card.h"
-#include "spread.h"
 
 namespace {
 
@@ -70,6 +71,8 @@ Outcome Run() {
 
     const vatro::Desktop desktop(front, help);
     const vatro::MainSize size(front, settings);
+    const vatro::Docking docking(front, settings);
+    const vatro::Places places(front);
     const vatro::Ends ends(settings);
     vatro::CopyKeeper copy(front, safety, settings);
     vatro::Lamps lamps(front, safety, copy);
@@ -85,7 +88,6 @@ Outcome Run() {
         if (!vatro::ProgramRuns()) return;
         copy.Begin();
         lamps.Begin();
-        if (!vatro::FrmMain::HasPlace()) vatro::SpreadWindows(front);
     });
     Outcome outcome;
     outcome.result = QApplication::exec();

@@ -32,7 +32,11 @@ QSize ColumnHead::sizeHint() const {
 }
 
 QWidget* ColumnHead::Sibling(const QString& name) const {
-    return window()->findChild<QWidget*>(name);
+    // A window of another form that is docked in this one may have a widget of the same name.
+    QWidget* found = nullptr;
+    for (const QWidget* around = parentWidget(); around != nullptr && found == nullptr; around = around->parentWidget())
+        found = around->findChild<QWidget*>(name);
+    return found;
 }
 
 QList<int> ColumnHead::Places() const {

@@ -11,6 +11,7 @@
 #include <chrono>
 
 #include "deliver.h"
+#include "dock_room.h"
 #include "fields.h"
 #include "program.h"
 #include "qt_text.h"
@@ -43,9 +44,8 @@ QWidget* QtFront::WidgetOf(const Control& control) const {
 }
 
 void QtFront::Created(Form& form) {
-    QWidget* owner = nullptr;
-    for (const auto& [other, window] : windows_)
-        if (other->Kind() == FormKind::Main && form.Kind() != FormKind::Main) owner = window->Top();
+    const FormWindow* main = form.Kind() != FormKind::Main ? MainWindow() : nullptr;
+    QWidget* owner = main != nullptr ? main->Top() : nullptr;
     windows_[&form] = std::make_unique<FormWindow>(form, owner, *this);
     windows_[&form]->TakeDesignSize();
 }
@@ -79,6 +79,12 @@ void QtFront::FollowActivation() {
     // An open box keeps the focus; the form gets it back when the box closes.
     if (window == nullptr || QApplication::activeModalWidget() != (form->Modal() ? window->Top() : nullptr)) return;
     if (!window->Top()->isVisible()) return;
+    // The keys of a docked window are those of the main window.
+    if (window->Docked()) {
+        awaited_ = nullptr;
+        Deliver([this] { MainWindow()->Its().UserActivated(); });
+        return;
+    }
     window->FollowFocus();
     if (QApplication::activeWindow() == window->Top()) {
         // An earlier request for another window is obsolete, and may never be fulfilled.
@@ -120,10 +126,34 @@ void QtFront::FollowOwners() {
     for (const auto& [form, window] : windows_) window->FollowOwner();
 }
 
+void QtFront::FollowDocking() {
+    for (const auto& [form, window] : windows_) window->FollowDocking();
+}
+
+std::vector<FormWindow*> QtFront::Windows() const {
+    std::vector<FormWindow*> windows;
+    for (const Form* form : LoadedForms())
+        if (FormWindow* window = WindowOf(*form)) windows.push_back(window);
+    return windows;
+}
+
+FormWindow* QtFront::MainWindow() const {
+    const auto found =
+        std::find_if(windows_.begin(), windows_.end(), [](const auto& entry) { return entry.first->Kind() == FormKind::Main; });
+    return found == windows_.end() ? nullptr : found->second.get();
+}
+
+DockRoom* QtFront::RoomFor(const Form& form) const {
+    const FormWindow* main = docksWindows ? MainWindow() : nullptr;
+    if (main == nullptr || main->Top() == nullptr) return nullptr;
+    for (DockRoom* room : main->Top()->findChildren<DockRoom*>())
+        if (room->Takes(ToQt(form.Name()))) return room;
+    return nullptr;
+}
+
 bool QtFront::MainMinimised() const {
-    return std::any_of(windows_.begin(), windows_.end(), [](const auto& entry) {
-        return entry.first->Kind() == FormKind::Main && entry.second->Top()->isVisible() && entry.second->Top()->isMinimized();
-    });
+    const FormWindow* main = MainWindow();
+    return main != nullptr && main->Top()->isVisible() && main->Top()->isMinimized();
 }
 
 void QtFront::WindowActivated(Form& form) {

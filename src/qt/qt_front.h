@@ -19,6 +19,7 @@ class QWidget;
 
 namespace vatro {
 
+class DockRoom;
 class FormWindow;
 
 class QtFront : public QObject, public Front {
@@ -49,6 +50,10 @@ public:
     std::function<void(const std::function<bool()>& over)> waitModal;
     /// Called before a main window is first shown, with the size of its layout.
     std::function<void(QMainWindow& window)> beforeFirstShow;
+    /// Called before a window is put on the screen, to lend it another place.
+    std::function<void(FormWindow& window)> beforeShow;
+    /// Whether side windows are docked in the main window if it has room for them. Call FollowDocking after a change.
+    bool docksWindows = false;
     /// Whether a main window is shrunk to fit the screen when it is first shown.
     bool fitToScreen = false;
     /// Whether pasted text goes through the fields' key filters.
@@ -62,7 +67,17 @@ public:
     /// Called when the program has ended.
     std::function<void()> ended;
 
+    /// docksWindows has changed.
+    void FollowDocking();
+    /// The windows of all loaded forms, in the order in which the forms were loaded.
+    std::vector<FormWindow*> Windows() const;
+    /// The window of the main form, or null.
+    FormWindow* MainWindow() const;
+
     // Called by the windows.
+
+    /// The place where the window of this form is to be docked, or null.
+    DockRoom* RoomFor(const Form& form) const;
 
     /// `leaving` is about to be hidden. If keys are preserved, activates the active form's window below it first. Otherwise keys would
     /// be lost until the window system has chosen the next window.

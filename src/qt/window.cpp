@@ -17,6 +17,7 @@
 #include "binder.h"
 #include "column_head.h"
 #include "deliver.h"
+#include "dock_room.h"
 #include "fields.h"
 #include "input.h"
 #include "layouts.h"
@@ -43,6 +44,9 @@ Qt::WindowFlags Flags(FormKind kind) {
     return Qt::Window;
 }
 
+/// Milliseconds after which a window that has been shown or moved by the program is moved only by the user.
+constexpr int kSettling = 1000;
+
 /// Lengths are at least one pixel.
 int ToLength(int twips) {
     return qMax(1, ToPixels(twips));
@@ -54,9 +58,11 @@ int ToPixels(int twips) {
     return static_cast<int>(std::lround(static_cast<double>(twips) / kTwipsPerPixel));
 }
 
-FormWindow::FormWindow(Form& form, QWidget* owner, QtFront& front) : form_(form), front_(front), bindings_(Surroundings()) {
+FormWindow::FormWindow(Form& form, QWidget* owner, QtFront& front) : form_(form), front_(front), bindings_(Surroundings()), owner_(owner) {
     Build(owner);
     BindForm(form, *top_, bindings_);
+    if (RefusesKeys())
+        for (QWidget* widget : top_->findChildren<QWidget*>()) widget->setFocusPolicy(Qt::NoFocus);
     AddExtraMenu();
     Follow();
     top_->installEventFilter(this);
@@ -66,6 +72,8 @@ FormWindow::~FormWindow() {
     bindings_.Close();
     if (!top_) return;
     top_->removeEventFilter(this);
+    if (Docked()) room_->Release(*top_);
+    for (DockRoom* room : top_->findChildren<DockRoom*>()) room->ReleaseAll();
     // Windows above this one get another owner soon, or are deleted themselves; detach them so that they are not deleted with this one.
     for (QWidget* child : top_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
         if (child->isWindow() && child->property("vatroForm").toBool()) child->setParent(nullptr, child->windowFlags());
@@ -142,9 +150,46 @@ void FormWindow::Follow() {
         top_->setCursor(Qt::WaitCursor);
     else if (top_->testAttribute(Qt::WA_SetCursor))
         top_->unsetCursor();
+    FollowDocking();
     FollowPlace();
     FollowVisible();
     FollowFocus();
+}
+
+bool FormWindow::Docked() const {
+    return room_ != nullptr && top_ != nullptr && room_->Has(*top_);
+}
+
+void FormWindow::FollowDocking() {
+    DockRoom* room = form_.Kind() == FormKind::Tool ? front_.RoomFor(form_) : nullptr;
+    if (Docked() ? room == room_ : room == nullptr) return;
+    if (Docked()) LeaveDock();
+    if (room != nullptr) Dock(*room);
+}
+
+void FormWindow::Dock(DockRoom& room) {
+    // A window gets its fonts when it is polished, and keeps them here.
+    top_->ensurePolished();
+    if (QWindow* handle = top_->windowHandle()) handle->removeEventFilter(this);
+    placing_ = true;
+    top_->hide();
+    room.Take(*top_);
+    placing_ = false;
+    arriving_ = false;
+    loan_.reset();
+    room_ = &room;
+    FollowVisible();
+}
+
+void FormWindow::LeaveDock() {
+    room_->Release(*top_);
+    room_ = nullptr;
+    Qt::WindowFlags flags = Flags(form_.Kind());
+    flags.setFlag(Qt::WindowDoesNotAcceptFocus, RefusesKeys());
+    top_->setParent(owner_, flags);
+    place_.reset();
+    FollowPlace();
+    FollowVisible();
 }
 
 void FormWindow::FollowEnabled() {
@@ -164,7 +209,7 @@ WindowPlace FormWindow::Told() const {
 void FormWindow::FollowPlace() {
     const WindowPlace told = Told();
     // Do not move a window that is not on the screen yet: its frame would be misplaced.
-    if (!form_.Placed() || told == place_ || arriving_) return;
+    if (!form_.Placed() || told == place_ || arriving_ || Docked()) return;
     // If only the size has changed, keep the position that the user or the window manager has chosen.
     const bool moved = !place_ || told.left != place_->left || told.top != place_->top;
     place_ = told;
@@ -173,15 +218,55 @@ void FormWindow::FollowPlace() {
     placed_ = true;
     if (!top_->isMinimized()) {
         const QPoint at(ToPixels(told.left), ToPixels(told.top));
-        if (moved) top_->move(at);
-        const QSize size(ToLength(told.width), ToLength(told.height));
+        if (moved) {
+            loan_.reset();
+            top_->move(at);
+        }
+        QSize size(ToLength(told.width), ToLength(told.height));
+        // A lent place may be smaller, and keeps its proportions.
+        if (loan_) size = QSize(size.width() * loan_->height() / size.height(), loan_->height());
         if (top_->size() != size) SetSize(size);
+        if (loan_) Lend(QRect(top_->pos(), size));
     }
     placing_ = false;
     if (top_->isVisible()) TellPlace();
 }
 
+QRect FormWindow::OwnPlace() const {
+    return {ToPixels(form_.Left()), ToPixels(form_.Top()), ToLength(form_.Width()), ToLength(form_.Height())};
+}
+
+void FormWindow::Lend(const QRect& place) {
+    if (loan_ == place) return;
+    placing_ = true;
+    if (top_->pos() != place.topLeft()) top_->move(place.topLeft());
+    if (top_->size() != place.size()) SetSize(place.size());
+    placing_ = false;
+    loan_ = place;
+    loanSince_.start();
+}
+
+void FormWindow::EndLoan() {
+    if (!loan_) return;
+    loan_.reset();
+    place_.reset();
+    FollowPlace();
+}
+
+bool FormWindow::OnLoan() {
+    if (!loan_) return false;
+    // The size of a main window is its own affair.
+    const bool main = form_.Kind() == FormKind::Main;
+    const QRect now(top_->pos(), main ? loan_->size() : top_->size());
+    // Moves at first are those of the window manager.
+    if (loanSince_.elapsed() < kSettling) loan_ = now;
+    if (now == loan_) return true;
+    loan_.reset();
+    return false;
+}
+
 void FormWindow::FollowVisible() {
+    if (Docked()) return top_->setVisible(form_.Visible());
     if (form_.Visible() == top_->isVisible()) return;
     if (!form_.Visible()) {
         front_.HandKeysOver(*top_);
@@ -195,6 +280,7 @@ void FormWindow::FollowVisible() {
     if (!placed_) FirstPlace();
     if (auto* window = qobject_cast<QMainWindow*>(top_.data()); window != nullptr && front_.beforeFirstShow)
         front_.beforeFirstShow(*window);
+    if (front_.beforeShow) front_.beforeShow(*this);
     if (form_.Kind() == FormKind::Main && front_.fitToScreen) FitToScreen();
     PutOnScreen();
     if (form_.Kind() == FormKind::Main) front_.FollowAll();
@@ -218,7 +304,7 @@ void FormWindow::PutOnScreen() {
 }
 
 void FormWindow::FollowOwner() {
-    if (form_.Kind() != FormKind::Tool || !form_.Visible() || !top_->isVisible()) return;
+    if (form_.Kind() != FormKind::Tool || !form_.Visible() || !top_->isVisible() || Docked()) return;
     const bool alone = front_.MainMinimised();
     if (alone ? !top_->isMinimized() || form_.State() == WindowState::Minimised : owned_) return;
     // The owner of a window can only be changed while the window is hidden.
@@ -271,7 +357,7 @@ void FormWindow::SetSize(const QSize& size) {
 void FormWindow::FollowFocus() {
     const Control* active = form_.ActiveControl();
     // Setting the focus can make Qt activate the window. A window that should not be active gets its focus when it is activated.
-    if (active == nullptr || &form_ != ActiveForm()) return;
+    if (active == nullptr || &form_ != ActiveForm() || Docked()) return;
     QWidget* widget = WidgetOf(*active);
     if (widget == nullptr) return;
     QWidget* const focused = top_->focusWidget();
@@ -297,7 +383,9 @@ void FormWindow::TellPlace() {
 }
 
 void FormWindow::TellPlace(const WindowPlace& finer) {
-    if (placing_ || arriving_ || !top_->isVisible() || top_->isMinimized()) return;
+    if (placing_ || arriving_ || Docked() || !top_->isVisible() || top_->isMinimized() || OnLoan()) return;
+    // On a desktop a window keeps its place while it fills the screen.
+    if (front_.desktopHabits && (top_->isMaximized() || top_->isFullScreen())) return;
     // If the form changes its new place, that is shown but not reported back; otherwise form and window system might correct each other
     // for ever.
     if (telling_) return;
@@ -350,6 +438,8 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
         if (event->type() == QEvent::Expose && arriving_ && top_->windowHandle()->isExposed()) Arrive();
         return false;
     }
+    // A docked window passes everything on to the main window.
+    if (Docked() && event->type() != QEvent::EnabledChange) return false;
     switch (event->type()) {
         case QEvent::Close:
             event->ignore();

@@ -6,8 +6,10 @@
 // pixel position is not changed, so that windows do not drift.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 #include <QStringList>
 #include <optional>
 
@@ -18,6 +20,7 @@ class QWidget;
 
 namespace vatro {
 
+class DockRoom;
 class QtFront;
 
 inline constexpr int kTwipsPerPixel = 15;
@@ -50,6 +53,9 @@ public:
 
     /// Whether the window has been shown but is not on the screen yet.
     bool Arriving() const { return arriving_; }
+    /// Whether the window is a part of the main window now. The form is then not told of places and sizes.
+    bool Docked() const;
+    Form& Its() const { return form_; }
 
     /// Updates the window's frame from the form.
     void Follow();
@@ -57,6 +63,14 @@ public:
     void FollowFocus();
     /// Moves the window as if the user had moved it. Measures are in twips, which are finer than pixels.
     void MoveByUser(int left, int top, int width, int height);
+    /// Docks the window or makes it a window of its own again, as the front wants it.
+    void FollowDocking();
+    /// Shows the window in another place than the form's. The form is told of a place only after the user has moved the window.
+    void Lend(const QRect& place);
+    /// Shows the window in the form's own place again.
+    void EndLoan();
+    /// The window's own place on the screen, without its frame.
+    QRect OwnPlace() const;
     /// Handles minimising of the main window. Window managers minimise the windows above a main window together with it, although the
     /// program may want them visible. Such a window is detached while the main window is minimised, and put above it again afterwards.
     void FollowOwner();
@@ -70,6 +84,8 @@ private:
     bool RefusesKeys() const;
     InputSurroundings Surroundings();
     void Build(QWidget* owner);
+    void Dock(DockRoom& room);
+    void LeaveDock();
     void AddExtraMenu();
     WindowPlace Told() const;
     /// Restores the enabled state of each control. When Qt enables or disables a window, it does the same to everything in it,
@@ -87,6 +103,8 @@ private:
     int TitleHeight() const;
     void TellPlace(const WindowPlace& finer);
     void TellPlace();
+    /// Whether the window still is where it has been lent a place, so that there is nothing to tell.
+    bool OnLoan();
     void TellState();
     /// Shows the window, also if Qt still considers it minimised from before it was hidden. Sets whether it stands above its owner.
     void PutOnScreen();
@@ -106,6 +124,13 @@ private:
     bool placed_ = false;
     /// Whether the window system keeps the window above its owner.
     bool owned_ = true;
+    QPointer<DockRoom> room_;
+    /// The window above which this one stands when it is not docked.
+    QPointer<QWidget> owner_;
+    /// The place that the window has been lent, as the window system has made it, if any.
+    std::optional<QRect> loan_;
+    /// Since when the loan has had this place and size.
+    QElapsedTimer loanSince_;
 };
 
 }  // namespace vatro

@@ -71,8 +71,4 @@ void FrmMain::SetToolTips() {
     for (int i = kUtcField; i <= kNumberReceivedField; ++i) fields[i].SetToolTip(kTips[i]);
 }
 
-bool FrmMain::HasPlace() {
-    return IsStored(setting::kMainLeft);
-}
-
 }  // namespace vatro

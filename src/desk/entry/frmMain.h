@@ -35,9 +35,6 @@ public:
     /// Whether the start has read all settings. Before that there is nothing to store.
     bool up = false;
 
-    /// Whether a position of the window is stored. None is stored before the first regular end.
-    static bool HasPlace();
-
 private:
     void SetToolTips();
 };

@@ -46,10 +46,6 @@ bool ReadSetting(const FlagSetting& row) {
     return ToNumber(*text) != 0;
 }
 
-bool IsStored(const LongSetting& row) {
-    return Stored(row).has_value();
-}
-
 void StoreSetting(const TextSetting& row, std::string_view text) {
     Store(row, text);
 }

@@ -22,8 +22,6 @@ std::int16_t ReadSetting(const ShortSetting& row);
 std::int32_t ReadSetting(const LongSetting& row);
 /// Reads "True" or "False", ignoring case, or a number: 0 is false, any other number true.
 bool ReadSetting(const FlagSetting& row);
-/// Whether a value is stored for the key.
-bool IsStored(const LongSetting& row);
 
 /// Stores a value. It is on the disk on return.
 void StoreSetting(const TextSetting& row, std::string_view text);

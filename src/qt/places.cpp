@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: MIT
+#include "places.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QStyle>
+#include <QWidget>
+#include <algorithm>
+
+#include "by_kind.h"
+#include "qt_front.h"
+#include "window.h"
+
+namespace vatro {
+
+namespace {
+
+/// Milliseconds after a change of the main window until it has its new size and frame.
+constexpr int kRest = 200;
+
+/// A window needs at least this much room to be useful.
+constexpr int kLeastHeight = 100;
+constexpr int kLeastWidth = 250;
+
+/// Whether the window shows one line of large letters; before it has any letters, it is as narrow as possible. The height of such a
+/// window determines its width.
+bool IsOneLine(const QRect& window) {
+    return window.width() >= 2 * window.height() || 2 * window.width() <= window.height();
+}
+
+/// The width for a new height, with the same aspect ratio.
+int WidthFor(const QRect& line, int height) {
+    return line.width() * height / line.height();
+}
+
+/// Places the windows side by side, with equal shares of the width and equal heights.
+void PlaceLines(const QRect& room, const std::vector<QRect*>& lines) {
+    if (lines.empty()) return;
+    const int width = room.width() / static_cast<int>(lines.size());
+    int height = room.height();
+    for (const QRect* line : lines) {
+        height = std::min(height, line->height());
+        if (WidthFor(*line, height) > width) height = line->height() * width / line->width();
+    }
+    QPoint at = room.topLeft();
+    for (QRect* line : lines) {
+        *line = QRect(at, QSize(WidthFor(*line, height), height));
+        at.rx() += width;
+    }
+}
+
+/// Places the windows one below the other, with equal shares of the height.
+void PlaceOthers(const QRect& room, const std::vector<QRect*>& windows) {
+    if (windows.empty()) return;
+    const int height = room.height() / static_cast<int>(windows.size());
+    QPoint at = room.topLeft();
+    for (QRect* window : windows) {
+        *window = QRect(at, window->size().boundedTo({room.width(), height}));
+        at.ry() += height;
+    }
+}
+
+std::vector<QRect> Screens() {
+    std::vector<QRect> screens;
+    for (const QScreen* screen : QGuiApplication::screens()) screens.push_back(screen->availableGeometry());
+    return screens;
+}
+
+/// Width and height of what the window system adds to windows. Before the main window is on the screen, only the title is estimated.
+QSize FrameOf(const QWidget& main) {
+    if (main.isVisible() && !main.isFullScreen()) return main.frameGeometry().size() - main.size();
+    return {0, main.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &main)};
+}
+
+QRect GlobalPlace(const QWidget& widget) {
+    return {widget.mapToGlobal(QPoint()), widget.size()};
+}
+
+int Area(const QRect& place) {
+    return place.isEmpty() ? 0 : place.width() * place.height();
+}
+
+}  // namespace
+
+std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, const QRect& upper, std::vector<QRect> windows) {
+    QRect lines(QPoint(screen.left(), main.bottom() + 1), screen.bottomRight());
+    QRect others(QPoint(main.right() + 1, screen.top()), screen.bottomRight());
+    const bool roomBelow = lines.height() >= kLeastHeight;
+    const bool roomBeside = others.width() >= kLeastWidth;
+    if (roomBelow)
+        others.setBottom(main.bottom());
+    else
+        lines = upper;
+    if (!roomBeside) others = upper;
+    if (!roomBelow && !roomBeside) {
+        lines.setHeight(upper.height() / 3);
+        others.setTop(lines.bottom() + 1);
+    }
+
+    std::vector<QRect*> ofOneLine;
+    std::vector<QRect*> ofMany;
+    for (QRect& window : windows) (IsOneLine(window) ? ofOneLine : ofMany).push_back(&window);
+    PlaceLines(lines, ofOneLine);
+    PlaceOthers(others, ofMany);
+    return windows;
+}
+
+bool OnScreens(const QRect& frame, int title, const std::vector<QRect>& screens) {
+    const QRect bar(frame.topLeft(), QSize(frame.width(), qMax(1, title)));
+    return std::any_of(screens.begin(), screens.end(),
+                       [&](const QRect& screen) { return 2 * Area(screen & frame) >= Area(frame) && 2 * Area(screen & bar) >= Area(bar); });
+}
+
+Places::Places(QtFront& front) : front_(front) {
+    soon_.setSingleShot(true);
+    soon_.setInterval(kRest);
+    connect(&soon_, &QTimer::timeout, this, &Places::Settle);
+    front.beforeShow = [this](FormWindow& window) { Show(window); };
+    connect(qApp, &QGuiApplication::screenAdded, this, [this] { soon_.start(); });
+    connect(qApp, &QGuiApplication::screenRemoved, this, [this] { soon_.start(); });
+}
+
+void Places::Show(FormWindow& window) {
+    QWidget& top = *window.Top();
+    if (window.Its().Kind() == FormKind::Main) {
+        if (main_ != &top) top.installEventFilter(this);
+        main_ = &top;
+        const QSize frame = FrameOf(top);
+        const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+        if (!OnScreens(QRect(top.pos(), top.size() + frame), frame.height(), Screens()))
+            window.Lend(QRect(room.topLeft(), top.size().boundedTo(room.size() - frame)));
+    } else if (window.Its().Kind() == FormKind::Tool && main_ != nullptr && InTheWay(window.OwnPlace())) {
+        std::vector<FormWindow*> windows = Displaced();
+        windows.push_back(&window);
+        arranged_.clear();
+        Arrange(windows);
+    }
+    soon_.start();
+}
+
+std::vector<FormWindow*> Places::Displaced() const {
+    std::vector<FormWindow*> displaced;
+    for (FormWindow* window : front_.Windows()) {
+        const bool floats = window->Its().Kind() == FormKind::Tool && !window->Docked() && window->Top()->isVisible();
+        if (floats && InTheWay(window->OwnPlace())) displaced.push_back(window);
+    }
+    return displaced;
+}
+
+bool Places::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == (watched == main_ ? QEvent::WindowStateChange : QEvent::Resize)) soon_.start();
+    if (event->type() == QEvent::WindowStateChange) arranged_.clear();
+    return false;
+}
+
+void Places::Settle() {
+    if (main_ == nullptr || !main_->isVisible() || main_->isMinimized()) return;
+    const std::vector<FormWindow*> displaced = Displaced();
+    for (FormWindow* window : front_.Windows())
+        if (std::find(displaced.begin(), displaced.end(), window) == displaced.end() && window->Its().Kind() == FormKind::Tool)
+            window->EndLoan();
+    const auto frame = [](const FormWindow* window) { return window->Top()->frameGeometry(); };
+    const bool badly = std::any_of(displaced.begin(), displaced.end(), [&](const FormWindow* window) {
+        return InTheWay(QRect(window->Top()->pos(), window->Top()->size())) ||
+               std::any_of(displaced.begin(), displaced.end(),
+                           [&](const FormWindow* other) { return other != window && frame(other).intersects(frame(window)); });
+    });
+    if (badly) Arrange(displaced);
+}
+
+bool Places::InTheWay(const QRect& window) const {
+    const QSize frame = FrameOf(*main_);
+    const QRect place(window.topLeft(), window.size() + frame);
+    return place.intersects(EntryFields()) || !OnScreens(place, frame.height(), Screens());
+}
+
+void Places::Arrange(const std::vector<FormWindow*>& windows) {
+    if (windows.empty()) return;
+    const QSize frame = FrameOf(*main_);
+    std::vector<QRect> frames;
+    frames.reserve(windows.size());
+    for (const FormWindow* window : windows) frames.emplace_back(window->OwnPlace().topLeft(), window->OwnPlace().size() + frame);
+    const std::vector<QRect> places = BesideMain(main_->screen()->availableGeometry(), main_->frameGeometry(), Log(), frames);
+    // Do not repeat what a window manager or a window itself does not accept.
+    if (windows == arranged_ && places == arrangement_) return;
+    arranged_ = windows;
+    arrangement_ = places;
+    for (std::size_t i = 0; i < windows.size(); ++i) {
+        windows[i]->Top()->installEventFilter(this);
+        windows[i]->Lend(QRect(places[i].topLeft(), places[i].size() - frame));
+    }
+}
+
+QRect Places::EntryFields() const {
+    const FormWindow* window = front_.MainWindow();
+    QRect fields;
+    if (window == nullptr || !main_->isVisible()) return fields;
+    for (const Control* control : window->Its().TabOrder())
+        if (const QWidget* widget = window->WidgetOf(*control); widget != nullptr && As<ListBox>(control) == nullptr)
+            fields |= GlobalPlace(*widget);
+    return fields;
+}
+
+QRect Places::Log() const {
+    const FormWindow* window = front_.MainWindow();
+    for (const Control* control : window->Its().Controls())
+        if (const auto* list = As<ListBox>(control)) return GlobalPlace(*window->WidgetOf(*list));
+    return main_->frameGeometry();
+}
+
+}  // namespace vatro

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+//
+// Where windows are shown whose stored place would be in the way: side windows that would cover the entry fields, and windows that would
+// lie outside the screens. They are lent another place; the program's own place of the window changes only when the user moves it.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QRect>
+#include <QTimer>
+#include <vector>
+
+class QWidget;
+
+namespace vatro {
+
+class FormWindow;
+class QtFront;
+
+/// Returns a frame for each of `windows`, none wider or higher than before, arranged around the main window. Windows with one line of
+/// large letters go below the main window and keep their aspect ratio; the others go to its right. If the screen has no room there,
+/// they go over the part `upper` of the main window.
+std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, const QRect& upper, std::vector<QRect> windows);
+
+/// Whether a window with this frame can be seen and moved: at least half of it, and of its title bar, lies on one of the screens.
+bool OnScreens(const QRect& frame, int title, const std::vector<QRect>& screens);
+
+class Places : public QObject {
+    Q_OBJECT
+
+public:
+    /// `front` must outlive this object.
+    explicit Places(QtFront& front);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void Show(FormWindow& window);
+    /// Looks at all side windows anew, after the main window, the screens, or a text in a lent place have changed.
+    void Settle();
+    /// The floating side windows whose own place is in the way.
+    std::vector<FormWindow*> Displaced() const;
+    void Arrange(const std::vector<FormWindow*>& windows);
+    /// Whether a side window with this place, without its frame, would cover fields or lie outside the screens.
+    bool InTheWay(const QRect& window) const;
+    /// The fields and buttons of the main form below its log; empty if it is not on the screen.
+    QRect EntryFields() const;
+    /// The log of the main form.
+    QRect Log() const;
+
+    QtFront& front_;
+    QPointer<QWidget> main_;
+    QTimer soon_;
+    /// What Arrange has last arranged, and where.
+    std::vector<FormWindow*> arranged_;
+    std::vector<QRect> arrangement_;
+};
+
+}  // namespace vatro

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include "places.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QWidget>
+
+#include "desktop.h"
+#include "entry/frmB4.h"
+#include "entry/frmContestCall.h"
+#include "entry/frmMain.h"
+#include "entry/frmQSOnr.h"
+#include "qt/window_program.h"
+#include "services.h"
+
+namespace vatro {
+namespace {
+
+/// A window with one line, another one with no letters yet, and a list.
+const std::vector<QRect> kWindows{{0, 0, 1100, 200}, {0, 0, 40, 200}, {130, 130, 400, 400}};
+
+/// The part of a main window at (66, 66) above its fields, which begin in row kEntry.
+constexpr int kEntry = 430;
+const QRect kUpper(QPoint(66, 0), QPoint(985, kEntry - 1));
+
+TEST(BesideMain, LeavesTheMainWindowFreeOnALargeScreen) {
+    const QRect screen(0, 0, 1920, 1080);
+    const QRect main(66, 66, 920, 480);
+    const std::vector<QRect> places = BesideMain(screen, main, kUpper, kWindows);
+    // Below the main window each gets half of the screen, with a height of 960 * 200 / 1100. The list beside it keeps its size.
+    EXPECT_EQ(places, (std::vector<QRect>{{0, 546, 957, 174}, {960, 546, 34, 174}, {986, 0, 400, 400}}));
+    for (const QRect& place : places) EXPECT_FALSE(place.intersects(main));
+}
+
+TEST(BesideMain, CutsWindowsToTheRoomThereIs) {
+    // 110 rows of pixels below, and 280 columns beside.
+    const std::vector<QRect> places = BesideMain({0, 0, 1266, 656}, {66, 66, 920, 480}, kUpper, kWindows);
+    EXPECT_EQ(places, (std::vector<QRect>{{0, 546, 605, 110}, {633, 546, 22, 110}, {986, 0, 280, 400}}));
+}
+
+TEST(BesideMain, KeepsToTheSideOfABottomThatHasNoRoom) {
+    const std::vector<QRect> places = BesideMain({0, 0, 1400, 600}, {66, 66, 920, 480}, kUpper, {kWindows[0], kWindows[2]});
+    EXPECT_EQ(places, (std::vector<QRect>{{66, 0, 918, 167}, {986, 0, 400, 400}}));
+}
+
+TEST(BesideMain, NeverCoversTheEntryFields) {
+    for (const QSize size :
+         {QSize(1024, 600), QSize(1024, 768), QSize(1280, 720), QSize(1366, 768), QSize(1920, 1080), QSize(3840, 2160)}) {
+        const QRect main(66, 66, 920, 480);
+        const QRect free(QPoint(main.left(), kEntry), main.bottomRight());
+        const std::vector<QRect> places = BesideMain({QPoint(), size}, main, kUpper, kWindows);
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            EXPECT_FALSE(places[i].intersects(free)) << size.width() << " window " << i;
+            EXPECT_TRUE(QRect(QPoint(), size).contains(places[i])) << size.width() << " window " << i;
+            for (std::size_t j = 0; j < i; ++j) EXPECT_FALSE(places[i].intersects(places[j])) << size.width() << ": " << i << ", " << j;
+        }
+    }
+}
+
+TEST(BesideMain, HasNothingToDoWithoutWindows) {
+    EXPECT_TRUE(BesideMain({0, 0, 1920, 1080}, {66, 66, 920, 480}, kUpper, {}).empty());
+}
+
+TEST(OnScreens, NeedsHalfOfTheWindowAndOfItsTitle) {
+    const std::vector<QRect> screens{{0, 0, 1024, 600}, {1024, 0, 1024, 600}};
+    const auto seen = [&](int left, int top) { return OnScreens({left, top, 400, 200}, 20, screens); };
+    EXPECT_TRUE(seen(0, 0));
+    EXPECT_TRUE(seen(100, 499));
+    EXPECT_FALSE(seen(100, 501));
+    EXPECT_TRUE(seen(1800, 100));
+    EXPECT_FALSE(seen(1900, 100));
+    EXPECT_FALSE(seen(100, -21)) << "a window without its title cannot be moved";
+    EXPECT_FALSE(seen(-5000, -5000));
+}
+
+class PlacesOfWindows : public WindowProgram {
+protected:
+    void Stored(const char* name, int left, int top, int width, int height) {
+        const std::string key = std::string("SETTINGS/") + name;
+        settings.texts[key + "LEFT"] = std::to_string(left * kTwipsPerPixel);
+        settings.texts[key + "TOP"] = std::to_string(top * kTwipsPerPixel);
+        settings.texts[key + "WIDTH"] = std::to_string(width * kTwipsPerPixel);
+        settings.texts[key + "HEIGHT"] = std::to_string(height * kTwipsPerPixel);
+    }
+    QWidget& Top(const Form& form) const { return *WindowOf(form).Top(); }
+    QRect Fields() const {
+        QRect fields;
+        for (const Control* control : std::initializer_list<const Control*>{&frmMain->fields[0], &frmMain->operatorBox}) {
+            const auto& widget = WidgetOf<QWidget>(*control);
+            fields |= QRect(widget.mapToGlobal(QPoint()), widget.size());
+        }
+        return fields;
+    }
+    bool InSight(const Form& form) const {
+        const QWidget& top = Top(form);
+        return top.screen()->availableGeometry().contains(top.geometry()) && !top.frameGeometry().intersects(Fields());
+    }
+
+    QtHelp handbook;
+    Desktop desktop{dynamic_cast<QtFront&>(driver.ProgramFront()), handbook};
+    Places places{dynamic_cast<QtFront&>(driver.ProgramFront())};
+};
+
+TEST_F(PlacesOfWindows, AStoredPlaceOverTheFieldsOrOutsideTheScreenIsLentAnother) {
+    Stored("B4", 150, 380, 300, 200);
+    Stored("QSO", 5000, 3000, 300, 100);
+    StartVatro();
+    for (const Form* form : std::initializer_list<const Form*>{&*frmB4, &*frmQSOnr}) EXPECT_TRUE(InSight(*form)) << form->Name();
+    // The program keeps the places that were stored.
+    EXPECT_EQ(frmB4->Left(), 150 * kTwipsPerPixel);
+    EXPECT_EQ(frmB4->Top(), 380 * kTwipsPerPixel);
+    EXPECT_EQ(frmQSOnr->Left(), 5000 * kTwipsPerPixel);
+    EndProgram();
+    EXPECT_EQ(settings.Read("Settings", "QSOTop"), std::to_string(3000 * kTwipsPerPixel));
+}
+
+TEST_F(PlacesOfWindows, LentPlacesDoNotOverlap) {
+    for (const char* name : {"B4", "QSO", "CALL"}) Stored(name, 5000, 3000, 300, 60);
+    settings.texts["SETTINGS/MYCALL"] = "OZ7FD/P";
+    StartVatro();
+    const auto overlap = [this](const Form& one, const Form& other) {
+        return Top(one).frameGeometry().intersects(Top(other).frameGeometry());
+    };
+    const auto apart = [&] {
+        return !overlap(*frmB4, *frmQSOnr) && !overlap(*frmB4, *frmContestCall) && !overlap(*frmQSOnr, *frmContestCall);
+    };
+    EXPECT_TRUE(QTest::qWaitFor(apart));
+    // A longer text needs a wider window.
+    Dispatch([] { frmQSOnr->visDupe(); });
+    EXPECT_TRUE(QTest::qWaitFor(apart));
+}
+
+TEST_F(PlacesOfWindows, AStoredPlaceInSightIsKept) {
+    Stored("B4", 400, 10, 300, 200);
+    StartVatro();
+    EXPECT_EQ(Top(*frmB4).pos(), QPoint(400, 10));
+    EXPECT_EQ(Top(*frmB4).size(), QSize(300, 200));
+}
+
+TEST_F(PlacesOfWindows, AWindowThatTheUserMovesIsStoredThere) {
+    Stored("B4", 5000, 3000, 300, 200);
+    StartVatro();
+    // A window manager may still be putting the window in its place.
+    Top(*frmB4).move(Top(*frmB4).pos() + QPoint(1, 1));
+    driver.Settle();
+    EXPECT_EQ(frmB4->Left(), 5000 * kTwipsPerPixel);
+    QTest::qWait(1100);
+    Top(*frmB4).move(20, 30);
+    driver.Settle();
+    EXPECT_EQ(frmB4->Left(), 20 * kTwipsPerPixel);
+    EXPECT_EQ(frmB4->Top(), 30 * kTwipsPerPixel);
+}
+
+TEST_F(PlacesOfWindows, ATextThatGrowsStaysInTheLentPlace) {
+    Stored("QSO", 5000, 3000, 300, 60);
+    StartVatro();
+    const int height = Top(*frmQSOnr).height();
+    Dispatch([] { frmQSOnr->visDupe(); });
+    driver.Settle();
+    EXPECT_LE(Top(*frmQSOnr).height(), height);
+    EXPECT_TRUE(InSight(*frmQSOnr));
+    EXPECT_EQ(frmQSOnr->Left(), 5000 * kTwipsPerPixel);
+}
+
+TEST_F(PlacesOfWindows, AMaximisedMainWindowPushesThemAsideAndLetsThemBack) {
+    Stored("B4", 400, 10, 300, 200);
+    StartVatro();
+    QWidget& main = Top(*frmMain);
+    main.resize(500, 300);
+    Top(*frmB4).move(480, 500);
+    driver.Settle();
+    for (int i = 0; i < 2; ++i) {
+        main.showMaximized();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return InSight(*frmB4); }));
+        EXPECT_EQ(frmB4->Left(), 480 * kTwipsPerPixel);
+        main.showNormal();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Top(*frmB4).pos() == QPoint(480, 500); }));
+    }
+}
+
+TEST_F(PlacesOfWindows, AMainWindowOutsideTheScreenIsShownOnIt) {
+    settings.texts["SETTINGS/MAINLEFT"] = "90000";
+    settings.texts["SETTINGS/MAINTOP"] = "45000";
+    StartVatro();
+    const QRect screen = Top(*frmMain).screen()->availableGeometry();
+    const QRect window = Top(*frmMain).geometry();
+    // The width of the frame is not known before the window is on the screen.
+    EXPECT_TRUE(screen.contains(window.adjusted(0, 0, -5, -5))) << window.width() << 'x' << window.height();
+    EndProgram();
+    EXPECT_EQ(settings.Read("Settings", "MainLeft"), "90000");
+    EXPECT_EQ(settings.Read("Settings", "MainTop"), "45000");
+}
+
+}  // namespace
+}  // namespace vatro
