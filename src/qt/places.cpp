@@ -131,18 +131,17 @@ void Places::Show(FormWindow& window) {
         if (!OnScreens(QRect(top.pos(), top.size() + frame), frame.height(), Screens()))
             window.Lend(QRect(room.topLeft(), top.size().boundedTo(room.size() - frame)));
     } else if (window.Its().Kind() == FormKind::Tool && main_ != nullptr && InTheWay(window.OwnPlace())) {
-        std::vector<FormWindow*> windows = Displaced();
-        windows.push_back(&window);
         arranged_.clear();
-        Arrange(windows);
+        Arrange(Displaced(&window));
     }
     soon_.start();
 }
 
-std::vector<FormWindow*> Places::Displaced() const {
+std::vector<FormWindow*> Places::Displaced(const FormWindow* coming) const {
     std::vector<FormWindow*> displaced;
     for (FormWindow* window : front_.Windows()) {
-        const bool floats = window->Its().Kind() == FormKind::Tool && !window->Docked() && window->Top()->isVisible();
+        const bool shown = window == coming || window->Top()->isVisible();
+        const bool floats = window->Its().Kind() == FormKind::Tool && !window->Docked() && shown;
         if (floats && InTheWay(window->OwnPlace())) displaced.push_back(window);
     }
     return displaced;

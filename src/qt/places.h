@@ -38,8 +38,8 @@ private:
     void Show(FormWindow& window);
     /// Looks at all side windows anew, after the main window, the screens, or a text in a lent place have changed.
     void Settle();
-    /// The floating side windows whose own place is in the way.
-    std::vector<FormWindow*> Displaced() const;
+    /// The floating side windows whose own place is in the way: the visible ones, and one that is about to be shown.
+    std::vector<FormWindow*> Displaced(const FormWindow* coming = nullptr) const;
     void Arrange(const std::vector<FormWindow*>& windows);
     /// Whether a side window with this place, without its frame, would cover fields or lie outside the screens.
     bool InTheWay(const QRect& window) const;

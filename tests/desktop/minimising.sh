@@ -30,6 +30,11 @@ QSOHeight=900
 CallLeft=9000
 CallTop=9000
 CallHeight=750
+
+[Vindue]
+Saml=False
+Bredde=920
+Hojde=480
 SETTINGS
 
 program=
