@@ -189,6 +189,9 @@ void SafeFiles::Open(int number, std::string_view path, FileMode mode) {
     Slot slot;
     slot.path = *file;
     slot.mode = mode;
+    const std::size_t separator = path.find_last_of(disk_.Separator());
+    if (mode == FileMode::Output && HasName(*file, kMarkerName) && separator != std::string_view::npos)
+        slot.chosen = path.substr(0, separator);
     if (mode == FileMode::Output && IsLogName(*file)) surroundings_.writeBegins();
     slots_[static_cast<std::size_t>(number - 1)] = std::move(slot);
 }
@@ -319,6 +322,7 @@ void SafeFiles::Close(int number) {
     if (slot.mode == FileMode::Input) return disk_.Close(number);
     const EndOfWriting end(slot.path, surroundings_.writeEnded);
     Write(slot.path, [&] { disk_.Close(number); });
+    if (slot.chosen) surroundings_.directoryChosen(*slot.chosen);
     if (slot.mode != FileMode::Append || !IsLogName(slot.path)) return;
     LearnAppended(slot);
     for (const std::string_view line : ReadLogText(slot.appended).lines) surroundings_.saved(line);

@@ -52,6 +52,9 @@ public:
         std::function<bool()> askSilent = [] { return false; };
         /// Called when a directory has been locked, before it is first read.
         std::function<void(const std::filesystem::path&)> directoryWon = [](const std::filesystem::path&) {};
+        /// Called when the program has chosen a log directory: its marker file is on the disk. The directory is spelled as the program
+        /// spells it, without a final separator.
+        std::function<void(std::string_view directory)> directoryChosen = [](std::string_view) {};
         /// Called when a line that was appended to a log is on the disk.
         std::function<void(std::string_view line)> saved = [](std::string_view) {};
         /// Called when a file could not be written, before the caller gets the failure.
@@ -110,6 +113,8 @@ private:
         /// Of a log that is being appended to: its size before.
         std::size_t sizeBefore = 0;
         std::string appended;
+        /// Of a marker file: the directory that it marks, as the program spells it.
+        std::optional<std::string> chosen;
     };
     /// The log directory, and the identity it had when it was locked.
     struct Place {

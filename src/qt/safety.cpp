@@ -73,6 +73,10 @@ SafeFiles::Surroundings Safety::Surroundings() {
     surroundings.writeEnded = [this](const fs::path& log) {
         if (writeEnded) writeEnded(log);
     };
+    // The program stores the directory at its end. A power cut on the first day would make the next start ask for it again.
+    surroundings.directoryChosen = [this](std::string_view directory) {
+        settings_.Write(setting::kLogDirectory.section, setting::kLogDirectory.writeKey, directory);
+    };
     surroundings.directoryWon = [this](const fs::path& directory) { LookThrough(directory); };
     return surroundings;
 }

@@ -27,6 +27,7 @@ protected:
         surroundings.state = root_ / "state";
         surroundings.now = [this] { return now_; };
         surroundings.tellTaken = [this] { ++taken_; };
+        surroundings.directoryChosen = [this](std::string_view directory) { chosen_.emplace_back(directory); };
         surroundings.directoryWon = [this](const fs::path& directory) { won_.push_back(directory.filename().string()); };
         return surroundings;
     }
@@ -61,6 +62,7 @@ protected:
     DateTime now_{2026, 9, 5, 14, 5, 30, 0};
     int taken_ = 0;
     std::vector<std::string> won_;
+    std::vector<std::string> chosen_;
     DiskFiles disk_;
     SafeFiles files_{disk_, Surroundings()};
 };
@@ -378,6 +380,19 @@ TEST_F(SafeFilesTest, ChoosesTheSameDirectoryAgain) {
     files_.Close(1);
     EXPECT_THAT(won_, ElementsAre("log"));
     EXPECT_EQ(taken_, 0);
+}
+
+TEST_F(SafeFilesTest, TellsWhichDirectoryWasChosenOnceItsMarkerIsOnTheDisk) {
+    fs::create_directory(root_ / "Other");
+    files_.Open(1, At("Other/setlog.txt"), FileMode::Output);
+    EXPECT_THAT(chosen_, IsEmpty());
+    files_.Close(1);
+    EXPECT_THAT(chosen_, ElementsAre(At("Other")));
+    files_.Open(1, At("Other/setBackup.txt"), FileMode::Output);
+    files_.Close(1);
+    files_.Open(1, At("Other/setlog.txt"), FileMode::Input);
+    files_.Close(1);
+    EXPECT_THAT(chosen_, SizeIs(1));
 }
 
 TEST_F(SafeFilesTest, ClosesWhatAHandlerHasLeftOpen) {

@@ -139,6 +139,14 @@ TEST_F(SafetyTest, ClosesWhatAHandlerHasLeftOpenWhenTheOutermostIsOver) {
     EXPECT_EQ(NumberOf([&] { safeFiles.LineInput(2); }), 52);
 }
 
+TEST_F(SafetyTest, ALogDirectoryThatWasChosenIsInTheSettingsAtOnce) {
+    const std::string directory = NativeText(directory_.Path());
+    SafeFiles& safeFiles = safety_.ProgramFiles();
+    safeFiles.Open(1, directory + safeFiles.Separator() + "setlog.txt", FileMode::Output);
+    safeFiles.Close(1);
+    EXPECT_EQ(settings.Read("Settings", "gsLogLib"), directory);
+}
+
 TEST_F(SafetyTest, TheLogDirectoryOfTheSettingsIsLocked) {
     settings.Write("Settings", "gsLogLib", NativeText(directory_.Path()));
     settings.Write("Settings", "gsFDLib", NativeText(directory_.Path() / "none"));
