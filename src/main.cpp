@@ -20,6 +20,7 @@
 #include "docking.h"
 #include "ends.h"
 #include "entry/frmMain.h"
+#include "first_page.h"
 #include "frame/start.h"
 #include "lamps.h"
 #include "main_size.h"
@@ -82,9 +83,13 @@ Outcome Run() {
     };
     front.ended = [] { QCoreApplication::quit(); };
     // The start procedure may open boxes, so it runs inside the event loop, like every other event.
-    QTimer::singleShot(0, &front, [&front, &copy, &lamps] {
+    QTimer::singleShot(0, &front, [&front, &ends, &copy, &lamps] {
         vatro::BeginProgram();
-        vatro::Deliver([] { vatro::StartProgram(); });
+        vatro::Deliver([&ends] {
+            vatro::AskAtFirstStart();
+            if (ends.Asked()) vatro::EndProgram();
+            vatro::StartProgram();
+        });
         if (!vatro::ProgramRuns()) return;
         copy.Begin();
         lamps.Begin();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QLabel>
@@ -102,7 +103,9 @@ QWidget* DialogOwner() {
     for (const Form* loaded : LoadedForms())
         if (form == nullptr && loaded->Kind() == FormKind::Main) form = loaded;
     const FormWindow* window = front != nullptr && form != nullptr ? front->WindowOf(*form) : nullptr;
-    return window != nullptr && window->Top()->isVisible() ? window->Top() : nullptr;
+    if (window != nullptr && window->Top()->isVisible()) return window->Top();
+    // Before the main window is up, the page of a first start may be.
+    return QApplication::activeModalWidget();
 }
 
 bool RunDialog(QDialog& dialog) {

@@ -44,7 +44,7 @@ private:
 QMessageBox* MakeBox(const MessageBox& box, QWidget* owner);
 /// The answer that the user gave. Esc or closing the window means No, or OK if there is no other button.
 Answer AnswerOf(const QMessageBox& box);
-/// The window that dialogues belong to, or null.
+/// The window that dialogues belong to, or null. Before the main window is there, it is the dialogue in front.
 QWidget* DialogOwner();
 /// Opens the dialogue and waits until it is closed. Returns false if the program ends in the meantime.
 bool RunDialog(QDialog& dialog);

@@ -121,6 +121,14 @@ TEST(RecoveryWindow, FitsASmallScreen) {
 
 class SafetyTest : public WindowProgram {
 protected:
+    /// Without tables the recovery window would come.
+    void PutTables() {
+        const std::filesystem::path tables = directory_.Path() / "tables";
+        settings.Write("Settings", "gsFDLib", NativeText(tables));
+        std::filesystem::create_directory(tables);
+        for (const char* table : {"lande.txt", "refpfx.txt"}) std::ofstream(tables / table) << "x\n";
+    }
+
     TemporaryDirectory directory_;
     DiskFiles disk_;
     Safety safety_{disk_, clock, settings, instance};
@@ -140,6 +148,7 @@ TEST_F(SafetyTest, ClosesWhatAHandlerHasLeftOpenWhenTheOutermostIsOver) {
 }
 
 TEST_F(SafetyTest, ALogDirectoryThatWasChosenIsInTheSettingsAtOnce) {
+    PutTables();
     const std::string directory = NativeText(directory_.Path());
     SafeFiles& safeFiles = safety_.ProgramFiles();
     safeFiles.Open(1, directory + safeFiles.Separator() + "setlog.txt", FileMode::Output);
@@ -149,11 +158,7 @@ TEST_F(SafetyTest, ALogDirectoryThatWasChosenIsInTheSettingsAtOnce) {
 
 TEST_F(SafetyTest, TheLogDirectoryOfTheSettingsIsLocked) {
     settings.Write("Settings", "gsLogLib", NativeText(directory_.Path()));
-    settings.Write("Settings", "gsFDLib", NativeText(directory_.Path() / "none"));
-    for (const char* table : {"lande.txt", "refpfx.txt"}) {
-        std::filesystem::create_directory(directory_.Path() / "none");
-        std::ofstream(directory_.Path() / "none" / table) << "x\n";
-    }
+    PutTables();
     EXPECT_FALSE(safety_.ProgramInstance().AnotherCopyRuns());
     DiskFiles elsewhere;
     FakeInstance alone;
