@@ -9,7 +9,7 @@ namespace vatro {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 19> kPages{{{"frmMain", "operatoer.html"},
+constexpr std::array<std::pair<std::string_view, std::string_view>, 20> kPages{{{"frmMain", "operatoer.html"},
                                                                                 {"frmB4", "vinduer.html#smaa"},
                                                                                 {"frmQSOnr", "vinduer.html#smaa"},
                                                                                 {"frmContestCall", "vinduer.html#smaa"},
@@ -27,7 +27,8 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 19> kPages{{
                                                                                 {"frmInfo", "vinduer.html#papirer"},
                                                                                 {"frmTilFloppy", "vinduer.html#kopier"},
                                                                                 {"frmVisTekst", "vinduer.html#information"},
-                                                                                {"FormQuickInfo", "vinduer.html#information"}}};
+                                                                                {"FormQuickInfo", "vinduer.html#information"},
+                                                                                {"FirstPage", "fdmanager.html#start"}}};
 
 }  // namespace
 

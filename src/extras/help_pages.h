@@ -7,8 +7,8 @@
 
 namespace vatro {
 
-/// The page, such as "vinduer.html#note", for the form of this name. For any other window, such as a message box, the page of the
-/// messages.
+/// The page, such as "vinduer.html#note", for the form of this name, or for the page of a first start ("FirstPage"). For any other window,
+/// such as a message box, the page of the messages.
 std::string_view HelpPageOf(std::string_view form);
 
 }  // namespace vatro

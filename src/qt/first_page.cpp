@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "first_page.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDateTime>
 #include <QDir>
@@ -16,16 +17,17 @@
 #include <QSpinBox>
 #include <QStyle>
 #include <QTimer>
-#include <QValidator>
 #include <algorithm>
 #include <utility>
 
+#include "capitals.h"
 #include "clock.h"
 #include "codepage.h"
 #include "columns.h"
 #include "deliver.h"
 #include "dialogs.h"
 #include "entry/keys.h"
+#include "field_mark.h"
 #include "fields.h"
 #include "frame/settings.h"
 #include "frame/station.h"
@@ -48,31 +50,6 @@ constexpr int kCallWidth = 12;
 
 const QColor kWrongOnLight(0xb0, 0x00, 0x20);
 const QColor kWrongOnDark(0xff, 0x9d, 0x91);
-
-/// Lets only some characters into a field, typed or pasted, and makes them capital letters, as the dialogue of the contest call does.
-class Capitals : public QValidator {
-public:
-    Capitals(std::string_view characters, QObject* parent) : QValidator(parent), characters_(characters) {}
-
-    State validate(QString& text, int& caret) const override {
-        QString kept;
-        int before = 0;
-        for (int i = 0; i < text.size(); ++i) {
-            const std::string one = FromQt(text.mid(i, 1));
-            KeyCode key = UpperKey(static_cast<unsigned char>(one.empty() ? ' ' : one.front()));
-            FilterKey(key, characters_);
-            if (key == kNoKey) continue;
-            kept += ToQt(std::string(1, static_cast<char>(static_cast<unsigned char>(key))));
-            if (i < caret) ++before;
-        }
-        caret = before;
-        text = kept;
-        return Acceptable;
-    }
-
-private:
-    std::string_view characters_;
-};
 
 QLabel* Words(const QString& text) {
     auto* label = new QLabel(text);
@@ -125,8 +102,6 @@ std::string ChosenDirectory() {
 FirstPage::FirstPage(const FirstAnswers& proposed, Surroundings surroundings) : surroundings_(std::move(surroundings)) {
     setObjectName(QStringLiteral("FirstPage"));
     setWindowTitle(QStringLiteral("Vatro - første start"));
-    // Some styles mark the focus of a button only after Tab, but Enter moves it here too.
-    setAttribute(Qt::WA_KeyboardFocusChange);
     auto* content = new QWidget;
     grid_ = new QGridLayout(content);
     grid_->setContentsMargins(0, 0, 0, 0);
@@ -168,6 +143,11 @@ FirstPage::FirstPage(const FirstAnswers& proposed, Surroundings surroundings) : 
     auto* clock = new QTimer(this);
     connect(clock, &QTimer::timeout, this, &FirstPage::ShowClock);
     clock->start(kSecond);
+    mark_ = new FieldMark;
+    mark_->setParent(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
+        if (now != nullptr && isAncestorOf(now)) mark_->Surround(*now);
+    });
     connect(this, &QDialog::finished, this, [] { WaitLoop::Look(); });
     LookAtDirectory();
     Fit();
@@ -209,6 +189,7 @@ QLineEdit* FirstPage::AddField(const QString& caption, const QString& name, int 
 
 void FirstPage::AddClass(char chosen) {
     auto* fields = new QHBoxLayout;
+    fields->setSpacing(fontMetrics().averageCharWidth() * 3);
     for (auto& [option, letter] : {std::pair{&classA_, 'A'}, std::pair{&classB_, 'B'}}) {
         *option = new QRadioButton(QStringLiteral("&") + QLatin1Char(letter));
         (*option)->setAccessibleName(QStringLiteral("Klasse ") + QLatin1Char(letter));

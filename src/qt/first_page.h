@@ -27,6 +27,7 @@ class QSpinBox;
 
 namespace vatro {
 
+class FieldMark;
 class ScrollRoom;
 
 class FirstPage : public QDialog {
@@ -103,6 +104,8 @@ private:
     QLabel* useLogsMessage_ = nullptr;
     /// The directory that LookAtDirectory last looked at.
     QString seen_;
+    /// Shows which field gets the keys, also where the style shows little.
+    FieldMark* mark_ = nullptr;
     HeldKeys held_;
 };
 

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QWidget>
 #include <QWindow>
+#include <string>
 
 #include "help_pages.h"
 #include "help_window.h"
@@ -35,7 +36,9 @@ bool HelpKey::Open(const QWindow& window) {
     std::string_view form;
     for (const Form* loaded : LoadedForms())
         if (const FormWindow* its = front_.WindowOf(*loaded); its != nullptr && its->Top() == front) form = loaded->Name();
-    help_.ShowPage(ToQt(HelpPageOf(form)), front->isModal() ? front : nullptr);
+    // A window that is no form may be known by its own name.
+    const std::string name = form.empty() ? FromQt(front->objectName()) : std::string(form);
+    help_.ShowPage(ToQt(HelpPageOf(name)), front->isModal() ? front : nullptr);
     return true;
 }
 

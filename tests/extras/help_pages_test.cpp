@@ -10,10 +10,10 @@
 namespace vatro {
 namespace {
 
-/// The forms that can have the focus.
-constexpr const char* kForms[]{"frmMain",   "frmB4",   "frmQSOnr",     "frmContestCall", "frmRetQSO",    "frmNote", "frmNytQSOnr",
-                               "frmCall",   "frmUTC",  "FormRigAnt",   "frmCW",          "frmCWTX",      "frmEDR",  "frmStregP",
-                               "frmCtyDat", "frmInfo", "frmTilFloppy", "frmVisTekst",    "FormQuickInfo"};
+/// The forms that can have the focus, and the page of a first start.
+constexpr const char* kForms[]{"frmMain",   "frmB4",   "frmQSOnr",     "frmContestCall", "frmRetQSO",     "frmNote",  "frmNytQSOnr",
+                               "frmCall",   "frmUTC",  "FormRigAnt",   "frmCW",          "frmCWTX",       "frmEDR",   "frmStregP",
+                               "frmCtyDat", "frmInfo", "frmTilFloppy", "frmVisTekst",    "FormQuickInfo", "FirstPage"};
 
 TEST(HelpPages, ExistForEveryForm) {
     for (const char* form : kForms) {

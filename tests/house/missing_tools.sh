@@ -38,6 +38,7 @@ desktop/ends.py vatro data
 desktop/print_server.py vatro data
 desktop/clock.py vatro data
 desktop/copy.py vatro data
+desktop/first_page.py vatro data
 typing/typing.sh vatro data
 typing/typing_while_sending.sh vatro data
 power/kill_corrections.py vatro data
