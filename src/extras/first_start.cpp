@@ -201,9 +201,8 @@ std::string ClockQuestion(const DateTime& local, int offset) {
 }
 
 std::string ClockAdvice(const DateTime& local) {
-    const std::string date = FormatDate(local, "dd-mm-yyyy");
     return Joined({"Er timen forkert, så ret tallet med pil op og pil ned. Er minutter eller dato forkerte, så stil computerens ur: "_t,
-                   FormatTime(local.hour, local.minute), " den ", date, "."});
+                   FormatTime(local.hour, local.minute), " den ", FormatDate(local), "."});
 }
 
 DirectoryFinding ExamineDirectory(std::string_view typed, const fs::path& home) {
