@@ -85,8 +85,8 @@ struct Complaint {
 std::vector<Complaint> CheckAnswers(const FirstAnswers& answers, const std::filesystem::path& home);
 
 /// Prepares the disk for answers that have been checked: creates the log directory with its marker file, and adds the operator to the list
-/// in the directory of the tables. Everything is on the disk on return. If a step fails, returns what is wrong; a directory that was
-/// created is then removed again.
+/// in the directory of the tables. Everything is on the disk on return. If a step fails, returns what is wrong; a new directory is then
+/// removed again as long as it is empty.
 std::vector<Complaint> PrepareDisk(const FirstAnswers& answers, const std::filesystem::path& home, const std::filesystem::path& tables);
 
 /// The log directory as the settings spell it: text of the code page without a final separator.
