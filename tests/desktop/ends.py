@@ -102,10 +102,16 @@ def an_open_menu_does_not_hold_the_end():
         expect_regular_end(desktop)
 
 
+def ask_for_log_directory(desktop):
+    """Starts the program for the first time and leaves its page, so that it asks."""
+    desktop.start(PROGRAM, "Vatro - første start")
+    desktop.press("Escape")
+    desktop.window("Vælg eller opret logbibliotek")
+
+
 def the_first_start_ends_without_a_log_directory():
     with Desktop(DATA) as desktop:
-        desktop.start(PROGRAM, None)
-        desktop.window("Vælg eller opret logbibliotek")
+        ask_for_log_directory(desktop)
         desktop.signal(signal.SIGTERM)
         code, _ = desktop.ended()
         expect(code, 0, "the exit code")
@@ -189,8 +195,7 @@ def a_lost_wayland_compositor_loses_no_setting():
 
 def a_screen_lost_at_the_first_start_stores_nothing():
     with Desktop(DATA) as desktop:
-        desktop.start(PROGRAM, None)
-        desktop.window("Vælg eller opret logbibliotek")
+        ask_for_log_directory(desktop)
         desktop.lose_screen()
         desktop.ended()
         expect(desktop.setting("Band"), None, "the band")

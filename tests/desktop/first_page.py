@@ -153,9 +153,20 @@ def a_signal_ends_the_program_at_the_page():
         assert not desktop.settings_file.exists(), "the signal has stored something"
 
 
+def a_screen_lost_at_the_page_stores_nothing():
+    with Desktop(DATA) as desktop:
+        start(desktop)
+        type_in(desktop, "oz7fd/p")
+        desktop.lose_screen()
+        desktop.ended()
+        assert not desktop.settings_file.exists(), "the loss of the screen has stored something"
+        assert not proposed(desktop).exists(), "the loss of the screen has created a directory"
+
+
 if __name__ == "__main__":
     skip_without_tools()
     CASES = [answers_typed_fast_are_on_the_disk_and_a_kill_loses_none, enter_alone_asks_for_the_call,
              a_held_enter_does_not_run_through_the_page, a_wrong_directory_is_told_and_nothing_is_lost,
-             esc_leaves_the_question_to_the_program_and_a_kill_forgets_no_directory, a_signal_ends_the_program_at_the_page]
+             esc_leaves_the_question_to_the_program_and_a_kill_forgets_no_directory, a_signal_ends_the_program_at_the_page,
+             a_screen_lost_at_the_page_stores_nothing]
     sys.exit(run([case for case in CASES if not sys.argv[3:] or case.__name__ in sys.argv[3:]]))
