@@ -19,10 +19,12 @@ void Toolbar::UserPressed(int index) {
     if (ButtonClick) ButtonClick(index);
 }
 
-void StatusBar::SetPanel(std::size_t number, std::string_view text) {
+void StatusBar::SetPanel(std::size_t number, std::string_view text, PanelMark mark) {
     std::string& panel = panels_.at(number - 1);
-    if (panel == text) return;
+    PanelMark& its = marks_.at(number - 1);
+    if (panel == text && its == mark) return;
     panel = text;
+    its = mark;
     Tell(Aspect::Panels, static_cast<int>(number));
 }
 

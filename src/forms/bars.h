@@ -46,20 +46,26 @@ private:
     std::vector<ToolButton> buttons_;
 };
 
+/// What the text of a panel is about. A front may show it beside the text; no rule depends on it.
+enum class PanelMark { None, NewCountry, WorkedCountry, Unknown, Station, Duplicate };
+
 /// Text panels along the bottom of a form, numbered from 1.
 class StatusBar : public Control {
 public:
     ControlKind Kind() override { return this; }
     ReadOnlyControlKind Kind() const override { return this; }
-    StatusBar(Form& form, std::string_view name, std::vector<std::string> panels) : Control(form, name), panels_(std::move(panels)) {}
+    StatusBar(Form& form, std::string_view name, std::vector<std::string> panels)
+        : Control(form, name), panels_(std::move(panels)), marks_(panels_.size()) {}
     const std::vector<std::string>& Panels() const { return panels_; }
     /// The text of a panel. The panel must exist.
     const std::string& Panel(std::size_t number) const { return panels_.at(number - 1); }
+    PanelMark Mark(std::size_t number) const { return marks_.at(number - 1); }
     /// Shows a text in a panel, which must exist.
-    void SetPanel(std::size_t number, std::string_view text);
+    void SetPanel(std::size_t number, std::string_view text, PanelMark mark = PanelMark::None);
 
 private:
     std::vector<std::string> panels_;
+    std::vector<PanelMark> marks_;
 };
 
 /// Properties of a menu entry other than its caption.

@@ -127,7 +127,8 @@ void FrmRetQSO::Calculate() {
     desk().gsCall = StripCall(call);
     RecordDuplicateAbove();
     RecordPoints(call);
-    statusBar.SetPanel(1, ShownCountry(call).text);
+    const CountryStatus country = ShownCountry(call);
+    statusBar.SetPanel(1, country.text, MarkOf(country));
     ShowCalculated(RecordCountry(call, MarkAction::Test));
 }
 

@@ -190,7 +190,8 @@ void EntryForm::FieldChanged(int Index) {
     const TextBox& field = fields[kCallField];
     if (field.Text().size() < 2) frmB4->earlierContacts.Clear();
     if (!field.Text().empty()) {
-        statusBar.SetPanel(1, ShownCountry(field.Text()).text);
+        const CountryStatus country = ShownCountry(field.Text());
+        statusBar.SetPanel(1, country.text, MarkOf(country));
     }
     if (field.Text().size() > 1) frmB4->ShowContacts(WkdB4(field.Text(), desk().log.Lines()));
     frmQSOnr->visQSOnr();
@@ -206,11 +207,11 @@ void EntryForm::FieldLeft(int Index) {
     if (Index != kCallField) return;
     desk().gsCall = StripCall(fields[kCallField].Text());
     if (desk().gsCall.size() > 1)
-        if (const auto station = desk().stations.findEDRstn(desk().gsCall)) statusBar.SetPanel(1, *station);
+        if (const auto station = desk().stations.findEDRstn(desk().gsCall)) statusBar.SetPanel(1, *station, PanelMark::Station);
     RecordDuplicate();
     if (desk().gbDupe) {
         frmQSOnr->visDupe();
-        statusBar.SetPanel(1, kDupeWarning);
+        statusBar.SetPanel(1, kDupeWarning, PanelMark::Duplicate);
     }
 }
 

@@ -8,6 +8,7 @@
 #include "entry/frmMain.h"
 #include "frame/log_file.h"
 #include "log/contact_line.h"
+#include "tables/worked.h"
 
 namespace vatro {
 
@@ -27,7 +28,8 @@ void ShowCountryNow() {
         call = Trim(Columns(lines.back(), kCall.from, kCall.width + 1));
         if (call.empty()) return;
     }
-    frmMain->statusBar.SetPanel(1, desk().countries.LandStatusTekst(call).text);
+    const CountryStatus country = desk().countries.LandStatusTekst(call);
+    frmMain->statusBar.SetPanel(1, country.text, MarkOf(country));
 }
 
 }  // namespace vatro

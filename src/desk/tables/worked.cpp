@@ -44,4 +44,10 @@ void ClearWorked() {
     desk().giMult = 0;
 }
 
+PanelMark MarkOf(const CountryStatus& status) {
+    if (status.text.empty()) return PanelMark::None;
+    if (status.unknown) return PanelMark::Unknown;
+    return status.isNew ? PanelMark::NewCountry : PanelMark::WorkedCountry;
+}
+
 }  // namespace vatro

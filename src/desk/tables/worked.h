@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "bars.h"
 #include "country/lookup.h"
 
 namespace vatro {
@@ -29,6 +30,8 @@ void RecordPoints(std::string_view call);
 /// Returns the country of a call as the status bar shows it. While gbVisLand is off the text is empty and the country does not count
 /// as unknown.
 CountryStatus ShownCountry(std::string_view call);
+/// What a panel with the text of this status is about.
+PanelMark MarkOf(const CountryStatus& status);
 
 /// Sets gbDupe: whether gsCall is in the current log already.
 void RecordDuplicate();

@@ -76,12 +76,13 @@ WorkedCountries::Result WorkedCountries::LandWkd(std::string_view call, MarkActi
 
 CountryStatus WorkedCountries::LandStatusTekst(std::string_view call) const {
     const FoundCountry found = FindCountry(tables_, call);
-    CountryStatus status{{}, IsUnknown(tables_, found)};
+    CountryStatus status{{}, IsUnknown(tables_, found), false};
     if (found.row) {
+        status.isNew = !Wkd(*found.row);
         const LandRec& country = CountryAt(tables_, *found.row);
         status.text.append(country.Pfx.Trimmed()).append(": ").append(country.Navn.Trimmed());
         status.text.append(" (").append(country.Kontinent.Padded());
-        status.text.append(Wkd(*found.row) ? "), er kørt."_t : "), er nyt land."_t);
+        status.text.append(status.isNew ? "), er nyt land."_t : "), er kørt."_t);
     } else if (status.unknown) {
         status.text = Trim(found.prefixText);
         status.text += ": er ukendt præfix. Call'et bliver gemt i filen 'ukendt.txt', hvis QSOen logges. Kør den!"_t;

@@ -46,6 +46,8 @@ struct CountryStatus {
     std::string text;
     /// Whether the text contains the word "ukendt".
     bool unknown = false;
+    /// Whether the text says that the country has not been worked.
+    bool isNew = false;
 };
 
 /// Which countries of the tables a log has worked.

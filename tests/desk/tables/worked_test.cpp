@@ -72,6 +72,17 @@ TEST_F(Worked, ACountryIsNeitherShownNorUnknownWhileTheDisplayIsOff) {
     EXPECT_TRUE(ShownCountry("XZ9XYZ").unknown);
 }
 
+TEST_F(Worked, TheMarkOfACountryFollowsItsText) {
+    desk().gbVisLand = true;
+    EXPECT_EQ(MarkOf(ShownCountry("DL1ABC")), PanelMark::NewCountry);
+    RecordCountry("DL1ABC", MarkAction::Mark);
+    EXPECT_EQ(MarkOf(ShownCountry("DL2ABC")), PanelMark::WorkedCountry);
+    EXPECT_EQ(MarkOf(ShownCountry("XZ9XYZ")), PanelMark::Unknown);
+    EXPECT_EQ(MarkOf(ShownCountry("X")), PanelMark::None);
+    desk().gbVisLand = false;
+    EXPECT_EQ(MarkOf(ShownCountry("DL1ABC")), PanelMark::None);
+}
+
 TEST_F(Worked, DuplicatesAreSoughtAgainInALogThatHasChanged) {
     Log& log = desk().log;
     EXPECT_FALSE(IsDuplicate("DL1ABC"));

@@ -128,8 +128,11 @@ TEST_F(Lookup, ACallOfOneFigureCountsAsEuropean) {
 
 TEST_F(Lookup, TheStatusTellsNewAndWorked) {
     EXPECT_EQ(Status("DL1ABC"), "DL: Fed. Rep. of Germany (EU), er nyt land.");
+    EXPECT_TRUE(countries.LandStatusTekst("DL1ABC").isNew);
     Result("DL1ABC", MarkAction::Mark);
     EXPECT_EQ(Status("DL1ABC"), "DL: Fed. Rep. of Germany (EU), er kørt."_t);
+    EXPECT_FALSE(countries.LandStatusTekst("DL1ABC").isNew);
+    EXPECT_FALSE(countries.LandStatusTekst("XZ9XYZ").isNew);
 }
 
 TEST_F(Lookup, TheStatusOfAnUnknownPrefixNamesWhatWasLookedUp) {
