@@ -7,19 +7,17 @@
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenu>
-#include <QPalette>
 #include <QPushButton>
 #include <QScreen>
-#include <QStyle>
 #include <utility>
 
 #include "bind_common.h"
-#include "border_style.h"
 #include "fields.h"
 #include "main_size.h"
 #include "numbers.h"
 #include "platform.h"
 #include "qt_text.h"
+#include "schemes.h"
 
 namespace vatro {
 
@@ -35,53 +33,10 @@ constexpr double kStep = 0.1;
 /// Property that stores a widget's font as its layout sets it.
 constexpr const char* kOwnFont = "vatroOwnFont";
 
-QPalette SunPalette() {
-    QPalette sun(Qt::white);
-    for (const QPalette::ColorRole back :
-         {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button, QPalette::ToolTipBase})
-        sun.setColor(back, Qt::white);
-    for (const QPalette::ColorRole front :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::BrightText})
-        sun.setColor(front, Qt::black);
-    sun.setColor(QPalette::Highlight, Qt::black);
-    sun.setColor(QPalette::HighlightedText, Qt::white);
-    for (const QPalette::ColorRole front : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        sun.setColor(QPalette::Disabled, front, Qt::darkGray);
-    return sun;
-}
-
-/// Dim red, which leaves the eyes used to the dark.
-QPalette NightPalette() {
-    const QColor red(0xd8, 0x38, 0x28);
-    const QColor dim(0x78, 0x20, 0x18);
-    QPalette night(Qt::black);
-    for (const QPalette::ColorRole back :
-         {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button, QPalette::ToolTipBase})
-        night.setColor(back, Qt::black);
-    for (const QPalette::ColorRole front : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText,
-                                            QPalette::BrightText, QPalette::Link, QPalette::LinkVisited})
-        night.setColor(front, red);
-    night.setColor(QPalette::Highlight, red);
-    night.setColor(QPalette::HighlightedText, Qt::black);
-    night.setColor(QPalette::PlaceholderText, dim);
-    for (const QPalette::ColorRole front : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        night.setColor(QPalette::Disabled, front, dim);
-    return night;
-}
-
 /// Whether this is a window with texts of its own, and not a menu or the list of a combo box, whose owner gives it its font.
 bool HasOwnText(const QWidget& window) {
     const Qt::WindowType type = window.windowType();
     return window.isWindow() && (type == Qt::Window || type == Qt::Dialog || type == Qt::Tool);
-}
-
-/// The frames of the scheme, or the desktop's own style. An empty palette means the desktop's own too, light or dark.
-void UseScheme(bool frames, const QPalette& palette) {
-    const auto* framed = qobject_cast<BorderStyle*>(QApplication::style());
-    const QString own = (framed != nullptr ? framed->baseStyle() : QApplication::style())->name();
-    if (frames && framed == nullptr) QApplication::setStyle(new BorderStyle(own));
-    if (!frames && framed != nullptr) QApplication::setStyle(own);
-    QApplication::setPalette(palette);
 }
 
 }  // namespace
@@ -135,7 +90,7 @@ void Appearance::SetTextSize(int step) {
 }
 
 void Appearance::Apply() {
-    UseScheme(Sun() || Night(), Sun() ? SunPalette() : Night() ? NightPalette() : QPalette());
+    UseScheme(Sun() ? Scheme::Sun : Night() ? Scheme::Night : Scheme::Desktop);
     Dress(window_);
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window != &window_ && HasOwnText(*window) && window->testAttribute(Qt::WA_WState_Polished)) Dress(*window);

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "border_style.h"
 
+#include <QApplication>
+#include <QLineEdit>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QStyleOption>
+
+#include "signal_colours.h"
 
 namespace vatro {
 
@@ -10,17 +15,81 @@ namespace {
 
 constexpr int kWidth = 2;
 
-void Frame(const QStyleOption& option, QPainter& painter) {
+void Frame(const QStyleOption& option, QPainter& painter, bool enabled) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    const QPalette::ColorGroup group = option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
-    painter.setPen(QPen(option.palette.color(group, QPalette::WindowText), kWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    const QPalette::ColorGroup group = enabled ? QPalette::Active : QPalette::Disabled;
+    painter.setPen(QPen(option.palette.color(group, kFrameRole), kWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(option.rect.adjusted(kWidth / 2, kWidth / 2, -kWidth / 2, -kWidth / 2));
     painter.restore();
 }
 
+constexpr QLatin1String kVeil("caretVeil");
+
+/// Covers a field. Qt draws the text cursor as the negative of the ground, which is white on black; at night the veil lets nothing
+/// through that is brighter than the text.
+class CaretVeil : public QWidget {
+public:
+    explicit CaretVeil(QLineEdit& field) : QWidget(&field) {
+        setObjectName(QString(kVeil));
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setFocusPolicy(Qt::NoFocus);
+        resize(field.size());
+        field.installEventFilter(this);
+        show();
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Resize) resize(static_cast<QResizeEvent*>(event)->size());
+        return QWidget::eventFilter(watched, event);
+    }
+    void paintEvent(QPaintEvent* event) override {
+        if (!IsNight(palette())) return;
+        QPainter painter(this);
+        painter.setCompositionMode(QPainter::CompositionMode_Darken);
+        painter.fillRect(event->rect(), palette().color(QPalette::WindowText));
+    }
+};
+
+/// The icon in shades of this colour.
+QIcon Tinted(const QIcon& icon, const QColor& ink) {
+    QIcon tinted;
+    constexpr int kSizes[]{16, 24, 32, 48, 64, 128};
+    for (const int size : kSizes) {
+        QImage image = icon.pixmap(size, size).toImage().convertToFormat(QImage::Format_ARGB32);
+        if (image.isNull()) continue;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) {
+                const QRgb pixel = image.pixel(x, y);
+                const QColor shade = Mixed(Qt::black, ink, qGray(pixel) / 255.0);
+                image.setPixel(x, y, qRgba(shade.red(), shade.green(), shade.blue(), qAlpha(pixel)));
+            }
+        tinted.addPixmap(QPixmap::fromImage(image));
+    }
+    return tinted;
+}
+
 }  // namespace
+
+void BorderStyle::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    auto* field = qobject_cast<QLineEdit*>(widget);
+    if (field != nullptr && field->findChild<QWidget*>(QString(kVeil), Qt::FindDirectChildrenOnly) == nullptr) new CaretVeil(*field);
+}
+
+void BorderStyle::unpolish(QWidget* widget) {
+    QWidget* veil =
+        qobject_cast<QLineEdit*>(widget) != nullptr ? widget->findChild<QWidget*>(QString(kVeil), Qt::FindDirectChildrenOnly) : nullptr;
+    if (veil != nullptr) {
+        // Not deleted at once: the application is going through a list of all its widgets.
+        veil->setObjectName(QString());
+        veil->hide();
+        veil->deleteLater();
+    }
+    QProxyStyle::unpolish(widget);
+}
 
 void BorderStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -29,7 +98,12 @@ void BorderStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         case PE_Frame:
         case PE_PanelButtonCommand:
         case PE_IndicatorCheckBox:
-            Frame(*option, *painter);
+            Frame(*option, *painter, option->state.testFlag(State_Enabled));
+            break;
+        case PE_FrameMenu:
+        case PE_PanelTipLabel:
+            // Qt leaves the state out.
+            Frame(*option, *painter, true);
             break;
         default:
             break;
@@ -39,7 +113,19 @@ void BorderStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
 void BorderStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                      const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control == CC_ComboBox) Frame(*option, *painter);
+    if (control == CC_ComboBox) Frame(*option, *painter, option->state.testFlag(State_Enabled));
+}
+
+int BorderStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    // Room for the frame beside the entries, which some styles fill from edge to edge.
+    return metric == PM_MenuPanelWidth ? qMax(usual, kWidth) : usual;
+}
+
+QIcon BorderStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const {
+    const QIcon icon = QProxyStyle::standardIcon(which, option, widget);
+    const QPalette palette = QApplication::palette();
+    return IsNight(palette) ? Tinted(icon, palette.color(QPalette::WindowText)) : icon;
 }
 
 }  // namespace vatro

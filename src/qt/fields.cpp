@@ -11,6 +11,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "signal_colours.h"
+
 namespace vatro {
 
 namespace {
@@ -129,7 +131,11 @@ void FittedText::SetColours(const QColor& text, const QColor& ground) {
 
 void FittedText::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    if (ground_.isValid()) painter.fillRect(rect(), ground_);
+    // At night nothing is brighter than the text of the scheme, whatever colours the text has been given.
+    const bool night = ground_.isValid() && IsNight(palette());
+    const QColor ground = night ? palette().color(QPalette::WindowText) : ground_;
+    const QColor colour = night ? palette().color(QPalette::Window) : text_;
+    if (ground.isValid()) painter.fillRect(rect(), ground);
     QPainterPath letters;
     letters.addText(0, 0, font_, text());
     if (letters.isEmpty()) return;
@@ -140,7 +146,7 @@ void FittedText::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate((width() - advance * scale) / 2, height() / 2.0 - ink.center().y() * scale);
     painter.scale(scale, scale);
-    painter.fillPath(letters, text_.isValid() ? text_ : palette().color(foregroundRole()));
+    painter.fillPath(letters, colour.isValid() ? colour : palette().color(foregroundRole()));
 }
 
 StatusPanel::StatusPanel(QWidget* parent) : QLabel(parent) {

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+//
+// The colours of the program's own schemes, and what they do to things that have colours of their own.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTest>
+
+#include "qt/all_schemes.h"
+#include "qt/contrast.h"
+#include "schemes.h"
+#include "signal_colours.h"
+
+namespace vatro {
+namespace {
+
+/// Whether no pixel is brighter than the text of the scheme, or of another hue.
+void ExpectNothingButRed(QWidget& widget) {
+    const QColor text = NightPalette().color(QPalette::Text);
+    const QImage image = widget.grab().toImage();
+    int wrong = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            if (qRed(pixel) > text.red() || qGreen(pixel) > text.green() || qBlue(pixel) > text.blue()) ++wrong;
+        }
+    EXPECT_EQ(wrong, 0) << widget.metaObject()->className();
+}
+
+bool HasRed(QWidget& widget) {
+    const QImage image = widget.grab().toImage();
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qRed(image.pixel(x, y)) > 100) return true;
+    return false;
+}
+
+class Night : public ::testing::Test {
+protected:
+    Night() { UseScheme(Scheme::Night); }
+    ~Night() override { UseScheme(Scheme::Desktop); }
+};
+
+TEST_F(Night, TheTextCursorIsRed) {
+    QLineEdit field;
+    field.resize(200, 40);
+    field.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&field));
+    field.activateWindow();
+    field.setFocus();
+    QTRY_VERIFY_WITH_TIMEOUT(field.hasFocus(), 2000);
+    ExpectNothingButRed(field);
+    // Still there: a bar of at least half the height in the text's colour, in an empty field.
+    const QImage image = field.grab(QRect(3, 3, 20, 34)).toImage();
+    int lit = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) lit += qRed(image.pixel(x, y)) > 200 ? 1 : 0;
+    EXPECT_GE(lit, 10);
+}
+
+TEST_F(Night, IconsOfMessagesAreRed) {
+    for (const QMessageBox::Icon icon : {QMessageBox::Information, QMessageBox::Question, QMessageBox::Warning, QMessageBox::Critical}) {
+        QMessageBox box(icon, QStringLiteral("t"), QStringLiteral("text"), QMessageBox::Ok);
+        box.show();
+        auto* picture = box.findChild<QWidget*>(QStringLiteral("qt_msgboxex_icon_label"));
+        ASSERT_NE(picture, nullptr);
+        ExpectNothingButRed(*picture);
+        EXPECT_TRUE(HasRed(*picture)) << icon;
+    }
+}
+
+TEST_F(Night, MenusHaveAnEdge) {
+    QMenu menu;
+    menu.addAction(QStringLiteral("entry"));
+    menu.popup(QPoint(10, 10));
+    const QImage image = menu.grab().toImage();
+    for (const QPoint& at : {QPoint(0, image.height() / 2), QPoint(image.width() - 1, image.height() / 2), QPoint(image.width() / 2, 0),
+                             QPoint(image.width() / 2, image.height() - 1)})
+        EXPECT_GE(ContrastOf(image.pixel(at), qRgb(0, 0, 0)), 3) << at.x() << ' ' << at.y();
+}
+
+TEST_F(Night, GoesAwayWithoutATrace) {
+    UseScheme(Scheme::Desktop);
+    QLineEdit field;
+    EXPECT_TRUE(field.findChildren<QWidget*>().isEmpty());
+    EXPECT_FALSE(IsNight(field.palette()));
+    EXPECT_EQ(QApplication::palette("vatro::ColumnHead").color(QPalette::WindowText), QApplication::palette().color(QPalette::WindowText));
+}
+
+TEST(TheNightPalette, IsBrightestInTheTextAndDimmestInWhatIsDisabled) {
+    const QPalette night = NightPalette();
+    const auto contrast = [&](QPalette::ColorGroup group, QPalette::ColorRole role) {
+        return ContrastOf(night.color(group, role).rgb(), qRgb(0, 0, 0));
+    };
+    EXPECT_GE(contrast(QPalette::Active, QPalette::Text), 4.5);
+    EXPECT_GE(contrast(QPalette::Active, QPalette::Mid), 3) << "frames of fields";
+    EXPECT_GT(contrast(QPalette::Active, QPalette::Text), contrast(QPalette::Active, QPalette::Mid));
+    EXPECT_GT(contrast(QPalette::Active, QPalette::Mid), contrast(QPalette::Disabled, QPalette::Text));
+    EXPECT_FALSE(IsNight(SunPalette()));
+    EXPECT_FALSE(IsNight(QPalette(QColor(0x30, 0x30, 0x30))));
+    EXPECT_TRUE(IsNight(night));
+}
+
+}  // namespace
+}  // namespace vatro
