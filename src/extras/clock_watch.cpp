@@ -69,7 +69,8 @@ Lamp ClockWatch::Shown() const {
     if (differs_)
         return {Lamp::State::Bad, Joined({"UTC er ", computer, ", loggen siger ", logged}),
                 Joined({"Computeren siger, at UTC er ", computer, ", men kontakterne bliver logget med ", logged,
-                        ". Ret UTC offset eller computerens ur. Klik her for at rette UTC offset."})};
+                        ". Ret UTC offset eller computerens ur. Klik her for at rette UTC offset."}),
+                logged};
     if (jump_ != 0 && last_->steady < jumpShownUntil_)
         return {Lamp::State::Notice, Joined({"Uret sprang ", LengthText(jump_), jump_ > 0 ? " frem" : " tilbage"_t, ": UTC ", logged}),
                 "Computerens ur er stillet, eller computeren har været i dvale. Se efter, at klokken passer."};

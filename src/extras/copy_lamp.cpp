@@ -21,6 +21,7 @@ Lamp NoCopy(const CopyStatus& status, std::string_view reason) {
     Lamp lamp;
     lamp.state = Lamp::State::Bad;
     lamp.text = status.good ? "INGEN KOPI siden " + TimeOf(*status.good) : "INGEN KOPI";
+    if (status.good) lamp.brief = TimeOf(*status.good);
     lamp.tip = Joined({reason, " Loggen selv er gemt."});
     return lamp;
 }

@@ -24,6 +24,8 @@ struct Lamp {
     std::string text;
     /// One sentence or two: the tooltip, and what a screen reader reads.
     std::string tip;
+    /// What is shown beside the sign where `text` has no room: a time or two words, or nothing.
+    std::string brief{};
 
     friend bool operator==(const Lamp&, const Lamp&) = default;
 };

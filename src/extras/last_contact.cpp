@@ -19,7 +19,7 @@ void LastContact::Saved(std::string_view line, const DateTime& universal) {
 
 void LastContact::Failed(std::string_view file, std::string_view why) {
     lamp_ = {Lamp::State::Bad, Joined({"IKKE GEMT: ", why}),
-             Joined({file, ": ", why, ". Se Beskeder og fejl i håndbogen (Hjælp, Indhold)."_t})};
+             Joined({file, ": ", why, ". Se Beskeder og fejl i håndbogen (Hjælp, Indhold)."_t}), "IKKE GEMT"};
 }
 
 void LastContact::Tell(std::string_view text, std::string_view tip) {

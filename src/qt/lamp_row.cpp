@@ -10,14 +10,13 @@
 #include <utility>
 
 #include "qt_text.h"
+#include "signal_colours.h"
 
 namespace vatro {
 
 namespace {
 
 constexpr double kLineWidth = 0.12;
-/// Below this lightness a colour counts as dark.
-constexpr int kDark = 128;
 
 QString NameOf(LampKind kind) {
     switch (kind) {
@@ -57,21 +56,13 @@ int WidthOfMenus(const QMenuBar& bar) {
     return width;
 }
 
-/// Background and ink of a lamp. A good lamp has the colours of the menu bar.
-struct Colours {
-    QColor back;
-    QColor ink;
-};
-Colours ColoursOf(Lamp::State state, const QPalette& palette) {
-    const bool dark = palette.color(QPalette::Window).lightness() < kDark;
-    // In the night scheme nothing is brighter than its text.
-    const QColor ink = palette.color(QPalette::WindowText);
-    if (dark && ink.lightness() <= kDark && state != Lamp::State::Off && state != Lamp::State::Good) return {ink, Qt::black};
+/// A good lamp has the colours of the menu bar.
+SignalColours LampColours(Lamp::State state, const QPalette& palette) {
     switch (state) {
         case Lamp::State::Bad:
-            return dark ? Colours{QColor(0xff, 0x8a, 0x80), Qt::black} : Colours{QColor(0xb0, 0x00, 0x20), Qt::white};
+            return ColoursOf(Signal::Wrong, palette);
         case Lamp::State::Notice:
-            return dark ? Colours{QColor(0xff, 0xd5, 0x4f), Qt::black} : Colours{QColor(0xff, 0xd5, 0x4f), Qt::black};
+            return ColoursOf(Signal::Notice, palette);
         case Lamp::State::Off:
         case Lamp::State::Good:
             break;
@@ -100,43 +91,56 @@ void LampButton::Show(const Lamp& lamp) {
     update();
 }
 
-void LampButton::SetBrief(bool brief) {
-    if (brief == brief_) return;
-    brief_ = brief;
+void LampButton::SetWords(Words words) {
+    if (words == words_) return;
+    words_ = words;
     updateGeometry();
     update();
+}
+
+QString LampButton::TextOf(Words words) const {
+    return words == Words::All ? text() : words == Words::Short ? ToQt(lamp_.brief) : QString();
 }
 
 int LampButton::SignSize() const {
     return fontMetrics().ascent();
 }
 
-int LampButton::WidthOf(bool brief) const {
+int LampButton::WidthOf(Words words) const {
     const int sign = SignSize();
-    const int words = brief ? 0 : fontMetrics().horizontalAdvance(text()) + sign / 2;
-    return sign / 2 + sign + words + sign / 2;
+    const QString shown = TextOf(words);
+    return sign / 2 + sign + (shown.isEmpty() ? 0 : fontMetrics().horizontalAdvance(shown) + sign / 2) + sign / 2;
 }
 
 QSize LampButton::sizeHint() const {
     // No taller than the menus, which would move away from the lower edge of their bar.
-    return {WidthOf(brief_), fontMetrics().height() + 2};
+    return {WidthOf(words_), fontMetrics().height() + 2};
 }
 
 void LampButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const Colours colours = ColoursOf(lamp_.state, palette());
+    const SignalColours colours = LampColours(lamp_.state, palette());
     const QRectF whole(rect());
-    if (lamp_.state != Lamp::State::Good) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(colours.back);
-        painter.drawRoundedRect(whole.adjusted(1, 1, -1, -1), SignSize() / 4.0, SignSize() / 4.0);
-    }
     const double sign = SignSize();
+    if (lamp_.state != Lamp::State::Good) {
+        const double corner = sign / 4;
+        QRectF inside = whole.adjusted(1, 1, -1, -1);
+        if (lamp_.state == Lamp::State::Bad && IsNight(palette())) {
+            // At night the pressed buttons are filled with the same red.
+            constexpr double kPen = 1;
+            painter.setPen(QPen(colours.ground, kPen));
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRoundedRect(whole.adjusted(kPen / 2, kPen / 2, -kPen / 2, -kPen / 2), corner, corner);
+            inside = whole.adjusted(2 * kPen + 1, 2 * kPen + 1, -2 * kPen - 1, -2 * kPen - 1);
+        }
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(colours.ground);
+        painter.drawRoundedRect(inside, corner, corner);
+    }
     PaintSign(painter, QRectF(sign / 2, (height() - sign) / 2, sign, sign), colours.ink);
-    if (brief_) return;
     painter.setPen(colours.ink);
-    painter.drawText(whole.adjusted(2 * sign, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
+    painter.drawText(whole.adjusted(2 * sign, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, TextOf(words_));
 }
 
 /// A clock, two sheets or a tick; crossed out, or a cross, if something is wrong.
@@ -190,26 +194,34 @@ void LampRow::Show(LampKind kind, const Lamp& lamp) {
 
 /// Leaves out the words of as many lamps as necessary, so that the menus keep their room. Words of what is wrong stay longest.
 void LampRow::FitIn() {
+    using Words = LampButton::Words;
     int room = bar_.width() - WidthOfMenus(bar_);
-    for (LampButton* lamp : lamps_)
-        if (lamp->Shown().state != Lamp::State::Off) room -= lamp->WidthOf(true) + layout()->spacing();
-    std::array<bool, kLampKinds> words{};
+    std::array<Words, kLampKinds> words{};
+    for (const LampButton* lamp : lamps_)
+        if (lamp->Shown().state != Lamp::State::Off) room -= lamp->WidthOf(Words::None) + layout()->spacing();
+    /// Whether there was room.
+    const auto give = [&](std::size_t i, Words more) {
+        const int needed = lamps_[i]->WidthOf(more) - lamps_[i]->WidthOf(words[i]);
+        if (needed > room) return false;
+        room -= needed;
+        words[i] = more;
+        return true;
+    };
+    const auto isOf = [this](std::size_t i, bool good) {
+        const Lamp::State state = lamps_[i]->Shown().state;
+        return state != Lamp::State::Off && (state == Lamp::State::Good) == good;
+    };
+    for (const auto& [good, kind] : kWordsFirst)
+        if (const auto i = static_cast<std::size_t>(kind); !good && isOf(i, good)) give(i, Words::Short);
     bool wrongIsBrief = false;
     for (const auto& [good, kind] : kWordsFirst) {
         const auto i = static_cast<std::size_t>(kind);
-        const Lamp::State state = lamps_[i]->Shown().state;
-        if (state == Lamp::State::Off || (state == Lamp::State::Good) != good) continue;
-        const int more = lamps_[i]->WidthOf(false) - lamps_[i]->WidthOf(true);
+        if (!isOf(i, good)) continue;
         // What is good must not look more important than what is wrong.
         if (good && wrongIsBrief) break;
-        if (more > room) {
-            wrongIsBrief = wrongIsBrief || !good;
-            continue;
-        }
-        room -= more;
-        words[i] = true;
+        if (!give(i, Words::All) && !good) wrongIsBrief = true;
     }
-    for (std::size_t i = 0; i < lamps_.size(); ++i) lamps_[i]->SetBrief(!words[i]);
+    for (std::size_t i = 0; i < lamps_.size(); ++i) lamps_[i]->SetWords(words[i]);
     // The menu bar asks for the size of its corner only when its own layout changes.
     bar_.setCornerWidget(this, Qt::TopRightCorner);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The lamps in the corner of the menu bar. Each has a sign, words and a colour, so that none of them carries the meaning alone. Where the
-// menu bar is too narrow, words are left out, those of good lamps first.
+// menu bar is too narrow, words are left out, those of good lamps first; what is wrong keeps a short form, such as a time, longest.
 #pragma once
 
 #include <QAbstractButton>
@@ -27,11 +27,14 @@ public:
     LampButton(LampKind kind, QWidget* parent);
     void Show(const Lamp& lamp);
     const Lamp& Shown() const { return lamp_; }
-    /// Whether only the sign is shown.
-    void SetBrief(bool brief);
-    bool Brief() const { return brief_; }
-    /// The width with words, or with the sign alone.
-    int WidthOf(bool brief) const;
+    /// What is shown beside the sign.
+    enum class Words { None, Short, All };
+    void SetWords(Words words);
+    Words ShownWords() const { return words_; }
+    /// Whether words are left out.
+    bool Brief() const { return words_ != Words::All; }
+    /// The width with these words.
+    int WidthOf(Words words) const;
     QSize sizeHint() const override;
 
 protected:
@@ -40,10 +43,11 @@ protected:
 private:
     void PaintSign(QPainter& painter, const QRectF& place, const QColor& ink) const;
     int SignSize() const;
+    QString TextOf(Words words) const;
 
     LampKind kind_;
     Lamp lamp_;
-    bool brief_ = false;
+    Words words_ = Words::All;
 };
 
 class LampRow : public QWidget {

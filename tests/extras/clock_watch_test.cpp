@@ -60,6 +60,7 @@ TEST_F(AClock, OfALaptopSetToUniversalTimeDiffersByTheOffset) {
     EXPECT_TRUE(watch_.Differs());
     EXPECT_EQ(watch_.Shown().state, Lamp::State::Bad);
     EXPECT_EQ(watch_.Shown().text, "UTC er 19:36, loggen siger 17:36");
+    EXPECT_EQ(watch_.Shown().brief, "17:36");
 }
 
 TEST_F(AClock, DiffersInEveryZoneThatTheOffsetDoesNotFit) {

@@ -44,9 +44,11 @@ TEST(CopyLampTest, TellsSinceWhenThereIsNoCopyAndWhy) {
     const Lamp lamp = CopyLamp(status, "/media/stick");
     EXPECT_EQ(lamp.state, Lamp::State::Bad);
     EXPECT_EQ(lamp.text, "INGEN KOPI siden 12:07");
+    EXPECT_EQ(lamp.brief, "12:07");
     EXPECT_THAT(lamp.tip, HasSubstr("Disken er fuld."));
     status.good.reset();
     EXPECT_EQ(CopyLamp(status, "/media/stick").text, "INGEN KOPI");
+    EXPECT_EQ(CopyLamp(status, "/media/stick").brief, "");
 }
 
 TEST(CopyLampTest, TellsIfTheDiskDoesNotAnswer) {

@@ -37,6 +37,7 @@ TEST(LastContact, TellsAWriteThatFailedUntilTheNextContactIsSaved) {
     last.Failed("FD80mSSB.txt", "disken er fuld");
     EXPECT_EQ(last.Shown().state, Lamp::State::Bad);
     EXPECT_EQ(last.Shown().text, "IKKE GEMT: disken er fuld");
+    EXPECT_EQ(last.Shown().brief, "IKKE GEMT");
     EXPECT_EQ(last.Shown().tip, "FD80mSSB.txt: disken er fuld. Se Beskeder og fejl i håndbogen (Hjælp, Indhold)."_t);
     last.Saved("NOTE: hej", kNow);
     EXPECT_EQ(last.Shown().state, Lamp::State::Bad);

@@ -20,6 +20,7 @@
 #include "entry/frmUTC.h"
 #include "entry/qso_fields.h"
 #include "frame/state.h"
+#include "qt/all_schemes.h"
 #include "qt/contrast.h"
 #include "qt/window_program.h"
 #include "qt_text.h"
@@ -132,6 +133,41 @@ TEST_F(ALampRow, NothingGoodHasWordsWhileSomethingWrongHasNone) {
     }
 }
 
+TEST_F(ALampRow, WhatIsWrongKeepsAShortFormLongest) {
+    Lamp bad = kBad;
+    bad.brief = "12:07";
+    row->Show(LampKind::Copy, bad);
+    row->Show(LampKind::Utc, kGood);
+    LampButton& lamp = row->Button(LampKind::Copy);
+    int brief = 0;
+    for (int width = 1000; width > 400; width -= 10) {
+        window.resize(width, 300);
+        Settle();
+        EXPECT_NE(lamp.ShownWords(), LampButton::Words::None) << width;
+        if (lamp.ShownWords() != LampButton::Words::Short) continue;
+        ++brief;
+        EXPECT_TRUE(AllMenusAreShown()) << width;
+        EXPECT_EQ(row->Button(LampKind::Utc).ShownWords(), LampButton::Words::None) << width;
+    }
+    EXPECT_GT(brief, 0);
+}
+
+TEST_F(ALampRow, WhatIsWrongHasAnOutlineAtNight) {
+    QApplication::setPalette(NightPalette());
+    const auto across = [this](const Lamp& lamp) {
+        row->Show(LampKind::Copy, lamp);
+        Settle();
+        const QImage image = row->Button(LampKind::Copy).grab().toImage();
+        // From the left edge, in the middle: how often the colour changes between lit and dark before the sign begins.
+        int changes = 0;
+        for (int x = 1; x < 6 * image.devicePixelRatio(); ++x)
+            changes += (qRed(image.pixel(x, image.height() / 2)) > 100) != (qRed(image.pixel(x - 1, image.height() / 2)) > 100) ? 1 : 0;
+        return changes;
+    };
+    EXPECT_GE(across(kBad), 2);
+    EXPECT_LE(across(kNotice), 1);
+}
+
 TEST_F(ALampRow, GivesRoomBackWhenWordsGetShorter) {
     row->Show(LampKind::LastContact, {Lamp::State::Good, std::string(300, 'x'), "tip"});
     Settle();
@@ -139,17 +175,16 @@ TEST_F(ALampRow, GivesRoomBackWhenWordsGetShorter) {
     row->Show(LampKind::LastContact, kGood);
     Settle();
     EXPECT_FALSE(row->Button(LampKind::LastContact).Brief());
-    EXPECT_GE(row->Button(LampKind::LastContact).width(), row->Button(LampKind::LastContact).WidthOf(false));
+    EXPECT_GE(row->Button(LampKind::LastContact).width(), row->Button(LampKind::LastContact).WidthOf(LampButton::Words::All));
 }
 
 TEST_F(ALampRow, IsLegibleInEveryScheme) {
-    QPalette dark(QColor(0x30, 0x30, 0x30));
-    for (const QPalette& palette : {QPalette(QColor(0xef, 0xef, 0xef)), dark, QPalette(Qt::white)}) {
+    for (const auto& [scheme, palette] : AllSchemes()) {
         QApplication::setPalette(palette);
         for (const Lamp& lamp : {kGood, kNotice, kBad}) {
             row->Show(LampKind::Copy, lamp);
             Settle();
-            EXPECT_GE(Contrast(row->Button(LampKind::Copy)), 4.5) << lamp.text;
+            EXPECT_GE(Contrast(row->Button(LampKind::Copy)), 4.5) << scheme << ", " << lamp.text;
         }
     }
 }
