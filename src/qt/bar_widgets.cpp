@@ -13,10 +13,10 @@
 #include "bindings.h"
 #include "by_kind.h"
 #include "deliver.h"
-#include "fields.h"
 #include "forms.h"
 #include "press_button.h"
 #include "qt_text.h"
+#include "status_panel.h"
 
 namespace vatro {
 
@@ -157,18 +157,20 @@ void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings) {
 
 void Bind(StatusBar& control, QStatusBar& widget, Bindings& /*bindings*/) {
     const auto push = [&control, &widget](std::size_t number) {
-        PanelsOf(widget).at(static_cast<qsizetype>(number) - 1)->SetPanelText(ToQt(control.Panel(number)), ToQt(control.ToolTip()));
+        PanelsOf(widget)
+            .at(static_cast<qsizetype>(number) - 1)
+            ->SetPanelText(ToQt(control.Panel(number)), ToQt(control.ToolTip()), control.Mark(number));
     };
+    // In line with the fields above.
+    constexpr int kEdge = 6;
+    widget.setContentsMargins(kEdge, 0, 0, kEdge / 2);
     for (std::size_t number = 1; number <= control.Panels().size(); ++number) {
         auto* panel = new StatusPanel(&widget);
         panel->setObjectName(ObjectName(control) + u'_' + QString::number(number));
+        // The others are pairs of a value and its caption; a gap tells one pair from the next.
+        if (number > 1 && number % 2 == 0) panel->SetGap(2 * panel->fontMetrics().averageCharWidth());
         // The first panel takes the space that the others do not need.
-        if (number == 1) {
-            panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-            QFont bold = panel->font();
-            bold.setBold(true);
-            panel->setFont(bold);
-        }
+        if (number == 1) panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         widget.addWidget(panel, number == 1 ? 1 : 0);
         push(number);
     }

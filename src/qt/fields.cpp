@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QResizeEvent>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QToolButton>
@@ -147,31 +146,6 @@ void FittedText::paintEvent(QPaintEvent* /*event*/) {
     painter.translate((width() - advance * scale) / 2, height() / 2.0 - ink.center().y() * scale);
     painter.scale(scale, scale);
     painter.fillPath(letters, colour.isValid() ? colour : palette().color(foregroundRole()));
-}
-
-StatusPanel::StatusPanel(QWidget* parent) : QLabel(parent) {
-    setTextFormat(Qt::PlainText);
-    setMargin(2);
-}
-
-void StatusPanel::SetPanelText(const QString& text, const QString& toolTip) {
-    whole_ = text;
-    toolTip_ = toolTip;
-    setAccessibleName(text);
-    Show();
-}
-
-void StatusPanel::resizeEvent(QResizeEvent* event) {
-    QLabel::resizeEvent(event);
-    Show();
-}
-
-void StatusPanel::Show() {
-    // A panel that shrinks with the window does not ask for a width of its own.
-    const bool elastic = sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
-    const QString shown = elastic ? fontMetrics().elidedText(whole_, Qt::ElideRight, contentsRect().width() - 2 * margin()) : whole_;
-    setToolTip(shown == whole_ ? toolTip_ : whole_ + u'\n' + toolTip_);
-    if (text() != shown) setText(shown);
 }
 
 }  // namespace vatro

@@ -51,27 +51,6 @@ private:
     QColor ground_;
 };
 
-/// One panel of a status bar. A text that is too long is shortened with an ellipsis; the tooltip shows all of it.
-class StatusPanel : public QLabel {
-    Q_OBJECT
-
-public:
-    explicit StatusPanel(QWidget* parent = nullptr);
-    /// Shows the text, or the beginning of it if there is no room.
-    void SetPanelText(const QString& text, const QString& toolTip);
-    /// The whole text, even if it is shown shortened.
-    const QString& PanelText() const { return whole_; }
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
-private:
-    void Show();
-
-    QString whole_;
-    QString toolTip_;
-};
-
 /// Two arrow buttons that step the number in a field up and down, together as high as the field.
 class SpinArrows : public QWidget {
     Q_OBJECT

@@ -20,6 +20,7 @@
 #include "forms.h"
 #include "item_list.h"
 #include "qt_text.h"
+#include "status_panel.h"
 #include "window_driver.h"
 
 namespace vatro {

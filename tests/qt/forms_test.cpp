@@ -22,6 +22,7 @@
 #include "memory_front.h"
 #include "qt/window_program.h"
 #include "stations/frmEDR.h"
+#include "status_panel.h"
 
 namespace vatro {
 
