@@ -9,6 +9,7 @@
 #include <string>
 
 #include "application.h"
+#include "call_mark.h"
 #include "clock.h"
 #include "codepage.h"
 #include "copy_keeper.h"
@@ -71,6 +72,7 @@ Outcome Run() {
                                    {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
     const vatro::Desktop desktop(front, help);
+    vatro::MarkCalls(front);
     const vatro::MainSize size(front, settings);
     const vatro::Docking docking(front, settings);
     const vatro::Places places(front);

@@ -34,10 +34,14 @@ void PushLimit(const TextControl& control, QLineEdit& editor) {
 void PushText(const TextControl& control, QLineEdit& editor) {
     const QString text = ToQt(control.Text());
     if (editor.text() != text) {
-        const QSignalBlocker quiet(editor);
-        editor.setMaxLength(kNoLimit);
-        editor.setText(text);
-        PushSelection(control, editor);
+        {
+            const QSignalBlocker quiet(editor);
+            editor.setMaxLength(kNoLimit);
+            editor.setText(text);
+            PushSelection(control, editor);
+        }
+        // Only the caret's movements are kept from the control; others may follow the text.
+        Q_EMIT editor.textChanged(text);
     }
     // If the text came from the editor, leave the caret alone; the selection is updated separately.
     PushLimit(control, editor);
