@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "item_list.h"
 
+#include <QPainter>
 #include <QResizeEvent>
 #include <QStyledItemDelegate>
 #include <QTimer>
 
 #include "qt_text.h"
+#include "signal_colours.h"
 
 namespace vatro {
 
@@ -26,6 +28,37 @@ public:
         const int height = QStyledItemDelegate::sizeHint(option, index).height();
         const auto* list = qobject_cast<const ItemList*>(option.widget);
         return {qRound(text) + 2 * margin, list != nullptr ? list->RowHeight(height) : height};
+    }
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        if (!option.state.testFlag(QStyle::State_Selected) || option.widget == nullptr || option.widget->hasFocus())
+            return QStyledItemDelegate::paint(painter, option, index);
+        // While the keys go elsewhere, the selected row is only marked.
+        QStyleOptionViewItem quiet = option;
+        const QColor text = option.palette.color(QPalette::Text);
+        const QColor edge = option.palette.color(QPalette::Highlight);
+        for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+            quiet.palette.setColor(group, QPalette::Highlight, PaleHighlight(option.palette));
+            quiet.palette.setColor(group, QPalette::HighlightedText, text);
+        }
+        QStyledItemDelegate::paint(painter, quiet, index);
+        painter->save();
+        painter->setPen(QPen(edge, 1));
+        painter->drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+        painter->restore();
+    }
+
+private:
+    /// Between the background and the colour of a selection, as strong as the text on it permits.
+    static QColor PaleHighlight(const QPalette& palette) {
+        constexpr double kStrongest = 0.25;
+        constexpr double kStep = 0.05;
+        constexpr double kLegible = 4.5;
+        const QColor ground = palette.color(QPalette::Base);
+        for (double part = kStrongest; part > 0; part -= kStep) {
+            const QColor pale = Mixed(ground, palette.color(QPalette::Highlight), part);
+            if (Contrast(palette.color(QPalette::Text), pale) >= kLegible) return pale;
+        }
+        return ground;
     }
 };
 
