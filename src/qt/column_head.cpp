@@ -8,8 +8,16 @@
 #include <QStyle>
 
 #include "item_list.h"
+#include "signal_colours.h"
 
 namespace vatro {
+
+namespace {
+
+/// How far a line between two heads is from the text colour towards the background.
+constexpr double kLine = 0.6;
+
+}  // namespace
 
 ColumnHead::ColumnHead(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -51,40 +59,75 @@ QList<int> ColumnHead::Places() const {
     return places;
 }
 
-QList<int> ColumnHead::SpreadPlaces(const QStringList& texts) const {
+QList<int> ColumnHead::SpreadPlaces(const QStringList& texts, const QFontMetrics& metrics) const {
     int room = width();
-    for (const QString& text : texts) room -= fontMetrics().size(Qt::TextShowMnemonic, text).width();
+    for (const QString& text : texts) room -= metrics.size(Qt::TextShowMnemonic, text).width();
     const int gap = texts.size() < 2 ? 0 : room / static_cast<int>(texts.size() - 1);
     QList<int> places;
     int at = 0;
     for (const QString& text : texts) {
         places.append(at);
-        at += fontMetrics().size(Qt::TextShowMnemonic, text).width() + gap;
+        at += metrics.size(Qt::TextShowMnemonic, text).width() + gap;
     }
     return places;
 }
 
-QList<ColumnHead::Piece> ColumnHead::Pieces() const {
+QStringList ColumnHead::Texts() const {
     static const QRegularExpression blank(QStringLiteral(" +"));
     static const QRegularExpression blanks(QStringLiteral("  +"));
-    const QStringList texts = caption_.split(words_ ? blank : blanks, Qt::SkipEmptyParts);
-    const QList<int> places = spread_ ? SpreadPlaces(texts) : Places();
+    return caption_.split(words_ ? blank : blanks, Qt::SkipEmptyParts);
+}
+
+QFont ColumnHead::HeadFont() const {
+    if (list_.isEmpty()) return font();
+    constexpr double kLargest = 0.9;
+    constexpr double kSmallest = 0.6;
+    constexpr double kStep = 0.05;
+    const QStringList texts = Texts();
+    const QList<int> places = Places();
+    QFont head = font();
+    for (double part = kLargest; part > kSmallest; part -= kStep) {
+        head.setPointSizeF(font().pointSizeF() * part);
+        const QFontMetrics metrics(head);
+        bool fits = true;
+        for (qsizetype i = 0; i + 1 < qMin(texts.size(), places.size()); ++i) {
+            const int width = metrics.size(Qt::TextShowMnemonic, texts[i]).width() + metrics.horizontalAdvance(u' ');
+            fits = fits && width <= places[i + 1] - places[i];
+        }
+        if (fits) break;
+    }
+    return head;
+}
+
+QList<ColumnHead::Piece> ColumnHead::Pieces() const {
+    const QFontMetrics metrics(HeadFont());
+    const QStringList texts = Texts();
+    const QList<int> places = spread_ ? SpreadPlaces(texts, metrics) : Places();
     QList<Piece> pieces;
     int end = 0;
     for (qsizetype i = 0; i < texts.size(); ++i) {
         // A piece that has no place of its own, or whose place is taken by a long piece before it, follows after a blank.
         const int x = i < places.size() ? qMax(places[i], end) : end;
         pieces.append({texts[i], x});
-        end = x + fontMetrics().size(Qt::TextShowMnemonic, texts[i]).width() + fontMetrics().horizontalAdvance(u' ');
+        end = x + metrics.size(Qt::TextShowMnemonic, texts[i]).width() + metrics.horizontalAdvance(u' ');
     }
     return pieces;
 }
 
 void ColumnHead::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    painter.setFont(HeadFont());
     int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine | Qt::TextShowMnemonic;
     if (style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) == 0) flags |= Qt::TextHideMnemonic;
-    for (const Piece& piece : Pieces()) {
+    const QList<Piece> pieces = Pieces();
+    if (!list_.isEmpty()) {
+        // Heads of narrow columns stand close to each other.
+        const int half = painter.fontMetrics().horizontalAdvance(u' ') / 2 + 1;
+        painter.setPen(Mixed(palette().color(foregroundRole()), palette().color(backgroundRole()), kLine));
+        for (qsizetype i = 1; i < pieces.size(); ++i)
+            painter.drawLine(pieces[i].x - half, height() / 5, pieces[i].x - half, height() * 4 / 5);
+    }
+    for (const Piece& piece : pieces) {
         const QRect place(piece.x, 0, qMax(0, width() - piece.x), height());
         style()->drawItemText(&painter, place, flags, palette(), isEnabled(), piece.text, foregroundRole());
     }
@@ -100,11 +143,6 @@ void ColumnHead::showEvent(QShowEvent* event) {
     if (watching_) return;
     watching_ = true;
     if (auto* list = qobject_cast<ItemList*>(Sibling(list_))) {
-        // Use a slightly smaller font, so that no word pushes the next one off its column.
-        constexpr double kSmaller = 0.9;
-        QFont smaller = font();
-        smaller.setPointSizeF(smaller.pointSizeF() * kSmaller);
-        setFont(smaller);
         list->installEventFilter(this);
         connect(list->horizontalScrollBar(), &QScrollBar::valueChanged, this, qOverload<>(&QWidget::update));
     }

@@ -44,8 +44,11 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// The font of the pieces over the columns of a list: small enough that no word pushes the next one off its column.
+    QFont HeadFont() const;
+    QStringList Texts() const;
     QList<int> Places() const;
-    QList<int> SpreadPlaces(const QStringList& texts) const;
+    QList<int> SpreadPlaces(const QStringList& texts, const QFontMetrics& metrics) const;
     QWidget* Sibling(const QString& name) const;
 
     QString caption_;
