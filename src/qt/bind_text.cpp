@@ -162,7 +162,6 @@ void Bind(ComboBox& control, QComboBox& widget, Bindings& bindings) {
     widget.setEditable(true);
     widget.setInsertPolicy(QComboBox::NoInsert);
     widget.setCompleter(nullptr);
-    if (widget.property("fixedPitch").toBool()) widget.setFont(FixedPitchFont());
     PushState(control, widget);
     PushItems(control, widget);
     QLineEdit& editor = *widget.lineEdit();

@@ -8,7 +8,9 @@ namespace vatro {
 
 namespace {
 
-constexpr int kBroad = 3;
+constexpr int kBroad = 4;
+/// The rest covers the field's own frame, so that there are not two frames.
+constexpr int kOutside = 2;
 
 }  // namespace
 
@@ -24,7 +26,7 @@ void FieldMark::Surround(QWidget& widget) {
         widget.installEventFilter(this);
     }
     if (parentWidget() != widget.parentWidget()) setParent(widget.parentWidget());
-    setGeometry(widget.geometry().adjusted(-kBroad, -kBroad, kBroad, kBroad));
+    setGeometry(widget.geometry().adjusted(-kOutside, -kOutside, kOutside, kOutside));
     show();
     raise();
 }

@@ -16,7 +16,7 @@ namespace vatro {
 
 namespace {
 
-constexpr double kEntryPoints = 14.25;
+constexpr double kEntryPoints = 17;
 /// Margin in pixels around a widget that is scrolled into view.
 constexpr int kSightMargin = 6;
 /// Device-independent pixels per point, at 96 dpi.
@@ -31,15 +31,28 @@ EntryField::EntryField(QWidget* parent) : QLineEdit(parent) {
     font.setPointSizeF(kEntryPoints);
     font.setBold(true);
     setFont(font);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 QSize EntryField::sizeHint() const {
-    // A width between that of a digit and of the widest letter, because calls contain both.
-    const int wide = fontMetrics().horizontalAdvance(u'0') * 6 / 5;
+    const int digit = fontMetrics().horizontalAdvance(u'0');
+    // For letters, a width between that of a digit and of the widest letter, because calls contain both.
+    const int wide = letters_ ? digit * 6 / 5 : digit;
     QStyleOptionFrame option;
     initStyleOption(&option);
     const QSize content(wide * chars_ + fontMetrics().averageCharWidth(), fontMetrics().height() + 4);
     return style()->sizeFromContents(QStyle::CT_LineEdit, &option, content, this);
+}
+
+void TickBox::paintEvent(QPaintEvent* event) {
+    QCheckBox::paintEvent(event);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    constexpr double kTowardsGround = 0.35;
+    constexpr double kPen = 1.5;
+    QPainter painter(this);
+    painter.setPen(QPen(Mixed(palette().color(foregroundRole()), palette().color(backgroundRole()), kTowardsGround), kPen));
+    painter.drawRect(QRectF(style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, this)).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 SpinArrows::SpinArrows(QWidget* parent) : QWidget(parent), up_(MakeArrow(true)), down_(MakeArrow(false)) {

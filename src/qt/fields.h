@@ -3,6 +3,7 @@
 // Small widgets used by the layouts.
 #pragma once
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
@@ -11,10 +12,13 @@ class QToolButton;
 
 namespace vatro {
 
-/// A field of the entry form with text readable at arm's length, wide enough for the given number of characters.
+/// A field of the entry form with text readable at arm's length, wide enough for the given number of characters, and no wider unless its
+/// layout says so.
 class EntryField : public QLineEdit {
     Q_OBJECT
     Q_PROPERTY(int chars MEMBER chars_)
+    /// Whether letters are written into the field, which are wider than digits.
+    Q_PROPERTY(bool letters MEMBER letters_)
 
 public:
     explicit EntryField(QWidget* parent = nullptr);
@@ -23,6 +27,18 @@ public:
 
 private:
     int chars_ = 4;
+    bool letters_ = false;
+};
+
+/// A check box whose square is outlined clearly enough to be seen beside the large fields.
+class TickBox : public QCheckBox {
+    Q_OBJECT
+
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 /// A text of a given size, centred in the widget and never cut off: it is drawn smaller if it does not fit.

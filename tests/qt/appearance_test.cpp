@@ -10,12 +10,17 @@
 #include <QScreen>
 #include <QTest>
 #include <QToolBar>
+#include <string>
+#include <vector>
 
 #include "bar_widgets.h"
+#include "column_head.h"
 #include "entry/frmB4.h"
 #include "entry/frmMain.h"
 #include "entry/frmUTC.h"
+#include "entry/qso_fields.h"
 #include "fields.h"
+#include "item_list.h"
 #include "main_size.h"
 #include "qt/contrast.h"
 #include "qt/window_program.h"
@@ -177,6 +182,58 @@ TEST_F(AppearanceOfTheWindow, AllWindowsGrow) {
     Press(Qt::Key_0);
     for (const Control* control : {static_cast<const Control*>(&frmB4->earlierContacts), static_cast<const Control*>(&frmUTC->okButton)})
         EXPECT_NEAR(WidgetOf<QWidget>(*control).font().pointSizeF(), control == &frmUTC->okButton ? dialogue : list, 0.01);
+}
+
+TEST_F(AppearanceOfTheWindow, AllFieldsStayInAWindowOfANetbookAtLargerText) {
+    StartVatro();
+    for (int i = 0; i < 3; ++i) Press(Qt::Key_Plus);
+    Window().resize(1000, 560);
+    driver.Settle();
+    const auto& room = dynamic_cast<const ScrollRoom&>(*Window().centralWidget());
+    EXPECT_LE(room.Needed().width(), room.width());
+    EXPECT_LE(room.Needed().height(), room.height());
+    for (const Control* control : frmMain->TabOrder()) {
+        const auto& widget = WidgetOf<QWidget>(*control);
+        const QRect place(widget.mapTo(&Window(), QPoint()), widget.size());
+        EXPECT_TRUE(Window().rect().contains(place)) << control->FullName();
+        EXPECT_GE(widget.width(), widget.minimumSizeHint().width()) << control->FullName();
+    }
+}
+
+TEST_F(AppearanceOfTheWindow, SpareWidthGoesToTheCallField) {
+    StartVatro();
+    std::vector<int> before;
+    for (const TextBox& field : frmMain->fields) before.push_back(WidgetOf<QWidget>(field).width());
+    Window().resize(Window().width() + 200, Window().height());
+    driver.Settle();
+    for (std::size_t i = 0; i < before.size(); ++i)
+        EXPECT_EQ(WidgetOf<QWidget>(frmMain->fields[static_cast<int>(i)]).width() - before[i], i == kCallField ? 200 : 0) << i;
+}
+
+TEST_F(AppearanceOfTheWindow, HeadsStayOverTheirColumnsInEverySchemeAndSize) {
+    StartVatro();
+    const auto& head = WidgetOf<ColumnHead>(frmMain->columnHeads);
+    const auto& list = WidgetOf<ItemList>(frmMain->log);
+    const auto expectOver = [&](const std::string& look) {
+        driver.Settle();
+        const QList<ColumnHead::Piece> pieces = head.Pieces();
+        ASSERT_EQ(pieces.size(), 10);
+        qsizetype i = 0;
+        for (const int column : {1, 7, 23, 32, 41, 44, 55, 62, 66, 72}) {
+            const int left = list.viewport()->mapTo(&Window(), QPoint(list.ColumnLeft(column), 0)).x();
+            EXPECT_EQ(head.mapTo(&Window(), QPoint(pieces[i].x, 0)).x(), left) << look << ", " << pieces[i].text.toStdString();
+            ++i;
+        }
+    };
+    expectOver("light");
+    Sun().trigger();
+    expectOver("sun");
+    for (int step = 1; step <= 3; ++step) {
+        Press(Qt::Key_Plus);
+        expectOver("sun, text size " + std::to_string(step));
+    }
+    Sun().trigger();
+    expectOver("light, text size 3");
 }
 
 TEST_F(AppearanceOfTheWindow, StartsAsItWasLeft) {
