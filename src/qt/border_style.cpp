@@ -110,6 +110,28 @@ void BorderStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     }
 }
 
+void BorderStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
+    if (!IsNight(option->palette)) return QProxyStyle::drawControl(element, option, painter, widget);
+    // Some styles draw these with greys of their own.
+    const QColor line = option->palette.color(QPalette::Dark);
+    switch (element) {
+        case CE_ToolBar:
+        case CE_MenuBarEmptyArea:
+            painter->fillRect(option->rect, option->palette.window());
+            painter->fillRect(QRect(option->rect.left(), option->rect.bottom(), option->rect.width(), 1), line);
+            break;
+        case CE_SizeGrip:
+            break;
+        case CE_MenuBarItem:
+            QProxyStyle::drawControl(element, option, painter, widget);
+            painter->fillRect(QRect(option->rect.left(), option->rect.bottom(), option->rect.width(), 1), line);
+            break;
+        default:
+            QProxyStyle::drawControl(element, option, painter, widget);
+            break;
+    }
+}
+
 void BorderStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                      const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);

@@ -14,6 +14,8 @@ constexpr QColor kNightText(0xe4, 0x3c, 0x2c);
 constexpr QColor kNightCaption(0xc8, 0x34, 0x28);
 constexpr QColor kNightFrame(0xa8, 0x2c, 0x20);
 constexpr QColor kNightDisabled(0x78, 0x20, 0x18);
+/// Lines and shades that a style draws by itself.
+constexpr QColor kNightShade(0x48, 0x14, 0x0e);
 
 constexpr QPalette::ColorRole kBacks[]{QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button, QPalette::ToolTipBase};
 
@@ -39,6 +41,8 @@ QPalette NightPalette() {
     for (const QPalette::ColorRole front : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText,
                                             QPalette::BrightText, QPalette::Link, QPalette::LinkVisited})
         night.setColor(front, kNightText);
+    for (const QPalette::ColorRole shade : {QPalette::Light, QPalette::Midlight, QPalette::Dark, QPalette::Shadow})
+        night.setColor(shade, kNightShade);
     night.setColor(kFrameRole, kNightFrame);
     night.setColor(QPalette::Highlight, kNightText);
     night.setColor(QPalette::HighlightedText, Qt::black);

@@ -17,13 +17,17 @@
 #include "column_head.h"
 #include "entry/frmB4.h"
 #include "entry/frmMain.h"
+#include "entry/frmQSOnr.h"
 #include "entry/frmUTC.h"
 #include "entry/qso_fields.h"
 #include "fields.h"
+#include "frame/state.h"
 #include "item_list.h"
 #include "main_size.h"
-#include "qt/contrast.h"
+#include "keyer/frmCW.h"
+#include "qt/picture.h"
 #include "qt/window_program.h"
+#include "schemes.h"
 
 namespace vatro {
 namespace {
@@ -80,6 +84,25 @@ TEST_F(AppearanceOfTheWindow, NightIsDimRedOnBlackInPlaceOfTheSun) {
     driver.Settle();
     EXPECT_EQ(settings.Read("Settings", "Nat"), "False");
     EXPECT_NE(Window().palette().color(QPalette::Window), QColor(Qt::black));
+}
+
+TEST_F(AppearanceOfTheWindow, NightLeavesNothingButRedInAnyWindow) {
+    StartVatro();
+    desk().log.Append("12:07 DL1ABC          59 -0001 59 -0345  3            OZ1AB      SSB   05-09-26");
+    Night().trigger();
+    Dispatch([] {
+        frmMain->fields[kCallField].SetText("DL1ABC");
+        frmMain->fields[kCallField].SetFocus();
+        frmMain->fields[kReportSentField].SetFocus();
+    });
+    driver.Settle();
+    const QRgb text = NightPalette().color(QPalette::Text).rgb();
+    for (Form* form : {static_cast<Form*>(&*frmMain), static_cast<Form*>(&*frmQSOnr), static_cast<Form*>(&*frmB4),
+                       static_cast<Form*>(&*frmCW), static_cast<Form*>(&*frmUTC)}) {
+        Dispatch([&] { form->Show(); });
+        driver.Settle();
+        EXPECT_EQ(Brighter(WindowOf(*form).Top()->grab().toImage(), text), 0) << form->Name();
+    }
 }
 
 /// Band and mode must be read from two metres: the ground of the pressed button differs from that of the others.

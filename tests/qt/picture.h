@@ -37,4 +37,15 @@ inline double Contrast(const QImage& image, const QRect& part, QRgb ground) {
     return best;
 }
 
+/// How many pixels have more of red, green or blue than this colour.
+inline int Brighter(const QImage& image, QRgb colour) {
+    int brighter = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            if (qRed(pixel) > qRed(colour) || qGreen(pixel) > qGreen(colour) || qBlue(pixel) > qBlue(colour)) ++brighter;
+        }
+    return brighter;
+}
+
 }  // namespace vatro

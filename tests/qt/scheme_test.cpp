@@ -10,24 +10,15 @@
 #include <QTest>
 
 #include "qt/all_schemes.h"
-#include "qt/contrast.h"
+#include "qt/picture.h"
 #include "schemes.h"
 #include "signal_colours.h"
 
 namespace vatro {
 namespace {
 
-/// Whether no pixel is brighter than the text of the scheme, or of another hue.
 void ExpectNothingButRed(QWidget& widget) {
-    const QColor text = NightPalette().color(QPalette::Text);
-    const QImage image = widget.grab().toImage();
-    int wrong = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb pixel = image.pixel(x, y);
-            if (qRed(pixel) > text.red() || qGreen(pixel) > text.green() || qBlue(pixel) > text.blue()) ++wrong;
-        }
-    EXPECT_EQ(wrong, 0) << widget.metaObject()->className();
+    EXPECT_EQ(Brighter(widget.grab().toImage(), NightPalette().color(QPalette::Text).rgb()), 0) << widget.metaObject()->className();
 }
 
 bool HasRed(QWidget& widget) {
