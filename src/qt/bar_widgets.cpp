@@ -161,9 +161,9 @@ void Bind(StatusBar& control, QStatusBar& widget, Bindings& /*bindings*/) {
             .at(static_cast<qsizetype>(number) - 1)
             ->SetPanelText(ToQt(control.Panel(number)), ToQt(control.ToolTip()), control.Mark(number));
     };
-    // In line with the fields above.
+    // In line with the fields above; in a dialogue the layout sees to that.
     constexpr int kEdge = 6;
-    widget.setContentsMargins(kEdge, 0, 0, kEdge / 2);
+    if (qobject_cast<QMainWindow*>(widget.parentWidget()) != nullptr) widget.setContentsMargins(kEdge, 0, 0, kEdge / 2);
     for (std::size_t number = 1; number <= control.Panels().size(); ++number) {
         auto* panel = new StatusPanel(&widget);
         panel->setObjectName(ObjectName(control) + u'_' + QString::number(number));

@@ -15,13 +15,17 @@ namespace {
 
 constexpr int kWidth = 2;
 
+/// The control with the focus has a broader frame, in the colour of the text.
 void Frame(const QStyleOption& option, QPainter& painter, bool enabled) {
+    const bool focus = enabled && option.state.testFlag(QStyle::State_HasFocus);
+    const double width = focus ? kWidth + 1 : kWidth;
+    const QPalette::ColorGroup group = enabled ? QPalette::Active : QPalette::Disabled;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    const QPalette::ColorGroup group = enabled ? QPalette::Active : QPalette::Disabled;
-    painter.setPen(QPen(option.palette.color(group, kFrameRole), kWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setPen(
+        QPen(option.palette.color(group, focus ? QPalette::WindowText : kFrameRole), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRect(option.rect.adjusted(kWidth / 2, kWidth / 2, -kWidth / 2, -kWidth / 2));
+    painter.drawRect(QRectF(option.rect).adjusted(width / 2, width / 2, -width / 2, -width / 2));
     painter.restore();
 }
 

@@ -52,6 +52,32 @@ TEST_F(Night, TheTextCursorIsRed) {
     EXPECT_GE(lit, 10);
 }
 
+TEST(TheFieldWithTheFocus, HasABroaderFrameInTheSchemesWithFrames) {
+    for (const Scheme scheme : {Scheme::Sun, Scheme::Night}) {
+        UseScheme(scheme);
+        QWidget window;
+        QLineEdit field(&window);
+        QLineEdit other(&window);
+        for (QLineEdit* one : {&field, &other}) one->resize(200, 40);
+        other.move(0, 50);
+        window.show();
+        window.activateWindow();
+        field.setFocus();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return field.hasFocus(); }));
+        const QRgb ground = window.palette().color(QPalette::Base).rgb();
+        // Pixels from the upper edge, in the middle, where there is neither text nor cursor.
+        const auto broad = [&](QLineEdit& one) {
+            const QImage picture = PictureOf(one);
+            int pixels = 0;
+            while (pixels < picture.height() / 2 && ContrastOf(picture.pixel(100, pixels), ground) > 2) ++pixels;
+            return pixels;
+        };
+        EXPECT_GE(broad(other), 1);
+        EXPECT_GT(broad(field), broad(other));
+        UseScheme(Scheme::Desktop);
+    }
+}
+
 TEST_F(Night, IconsOfMessagesAreRed) {
     for (const QMessageBox::Icon icon : {QMessageBox::Information, QMessageBox::Question, QMessageBox::Warning, QMessageBox::Critical}) {
         QMessageBox box(icon, QStringLiteral("t"), QStringLiteral("text"), QMessageBox::Ok);
