@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "deliver.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -15,7 +16,7 @@ std::vector<WaitLoop*> waiting;
 
 /// Number of nested events that are running.
 int depth = 0;
-std::function<void()> afterHandlers;
+std::vector<AfterHandlers*> afterHandlers;
 
 }  // namespace
 
@@ -24,11 +25,18 @@ void Deliver(const std::function<void()>& event) {
     Dispatch(event);
     --depth;
     WaitLoop::Look();
-    if (depth == 0 && afterHandlers) afterHandlers();
+    if (depth > 0) return;
+    const std::vector<AfterHandlers*> all = afterHandlers;
+    for (const AfterHandlers* one : all)
+        if (std::ranges::find(afterHandlers, one) != afterHandlers.end()) one->what_();
 }
 
-void SetAfterHandlers(std::function<void()> what) {
-    afterHandlers = std::move(what);
+AfterHandlers::AfterHandlers(std::function<void()> what) : what_(std::move(what)) {
+    afterHandlers.push_back(this);
+}
+
+AfterHandlers::~AfterHandlers() {
+    std::erase(afterHandlers, this);
 }
 
 bool WaitLoop::Over() const {

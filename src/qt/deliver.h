@@ -12,8 +12,19 @@ namespace vatro {
 /// Runs one event to completion. Afterwards the form and control it belongs to may no longer exist.
 void Deliver(const std::function<void()>& event);
 
-/// Sets a callback that runs whenever the outermost event has ended; no handler, box, dialogue or modal form is open then.
-void SetAfterHandlers(std::function<void()> what);
+/// As long as this object lives, `what` runs whenever the outermost event has ended; no handler, box, dialogue or modal form is open
+/// then. The callbacks run in the order in which they were made.
+class AfterHandlers {
+public:
+    explicit AfterHandlers(std::function<void()> what);
+    ~AfterHandlers();
+    AfterHandlers(const AfterHandlers&) = delete;
+    AfterHandlers& operator=(const AfterHandlers&) = delete;
+
+private:
+    friend void Deliver(const std::function<void()>& event);
+    std::function<void()> what_;
+};
 
 /// Waits inside an event for an open modal form or box, while all events are delivered.
 class WaitLoop {

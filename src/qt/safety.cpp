@@ -48,13 +48,7 @@ bool GoOnInASilentDirectory() {
 }  // namespace
 
 Safety::Safety(Files& disk, Clock& clock, Settings& settings, Instance& perUser)
-    : settings_(settings), clock_(clock), perUser_(perUser), files_(disk, Surroundings()) {
-    SetAfterHandlers([this] { HandlersAreOver(); });
-}
-
-Safety::~Safety() {
-    SetAfterHandlers({});
-}
+    : settings_(settings), clock_(clock), perUser_(perUser), files_(disk, Surroundings()) {}
 
 SafeFiles::Surroundings Safety::Surroundings() {
     SafeFiles::Surroundings surroundings;

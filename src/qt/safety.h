@@ -4,6 +4,7 @@
 // recovery window, and the boxes that inform the operator. Created only by src/main.cpp.
 #pragma once
 
+#include "deliver.h"
 #include "platform.h"
 #include "recovery.h"
 #include "safe_files.h"
@@ -14,7 +15,6 @@ class Safety {
 public:
     /// `disk` provides the files, `perUser` the lock against another copy of the same user. All arguments must outlive this object.
     Safety(Files& disk, Clock& clock, Settings& settings, Instance& perUser);
-    ~Safety();
     Safety(const Safety&) = delete;
     Safety& operator=(const Safety&) = delete;
 
@@ -55,6 +55,7 @@ private:
     SafeFiles files_;
     BothLocks instance_{*this};
     bool telling_ = false;
+    AfterHandlers afterHandlers_{[this] { HandlersAreOver(); }};
 };
 
 }  // namespace vatro
