@@ -37,7 +37,7 @@ void MakeErrorList() {
     frmMain->SetHourglass(true);
     frmMain->SetEnabled(false);
     ShowProgress("Dan fejlliste");
-    FileSink list = OpenPaper("Fejllist.txt");
+    FileSink list = OpenPaper(kErrorListName);
     WriteErrorListHead(list, CurrentPaperContext());
     {
         ErrorListOfDesk checker;

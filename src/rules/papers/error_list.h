@@ -21,6 +21,9 @@
 
 namespace vatro {
 
+/// The file name of the error list.
+inline constexpr std::string_view kErrorListName = "Fejllist.txt";
+
 /// Writes the head of the list.
 void WriteErrorListHead(LineSink& list, const PaperContext& context);
 /// Writes the line above a log's section.
