@@ -21,6 +21,8 @@ public:
     virtual double TextWidth(std::string_view text, const Font& font) const = 0;
     /// Height of one line.
     virtual double TextHeight(const Font& font) const = 0;
+    /// Names the next job. A device may use the name as a title or for a file.
+    virtual void NameJob(std::string_view name) { static_cast<void>(name); }
     /// Begins a job, at its first page.
     virtual void BeginJob() = 0;
     /// Draws the text with its upper left corner at (x, y).
@@ -51,6 +53,8 @@ public:
     /// Number of the current page in the current job, from 1.
     int Page() const { return page_; }
 
+    /// Names the job that the next print begins. The name is not printed.
+    void NameJob(std::string_view name) { device_.NameJob(name); }
     /// Prints the text and moves to the left edge of the next line. An empty text only moves to the next line. A text that does
     /// not fit above the bottom of the page is printed at the top of a new page.
     void Print(std::string_view text = {});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "printer.h"
 
+#include <QDir>
 #include <QFontMetricsF>
 #include <QPrinterInfo>
 #include <utility>
@@ -16,10 +17,6 @@ using namespace literals;
 namespace {
 
 constexpr double kPointsPerInch = 72;
-
-QString DocumentName() {
-    return QStringLiteral("Vatro");
-}
 
 void Tell(std::string_view text) {
     MessageBox box;
@@ -38,7 +35,6 @@ QPrinter* QtPrinter::Printer() const {
     if (!answers_()) return nullptr;
     if (!printer_) {
         printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-        printer_->setDocName(DocumentName());
         printer_->setPageSize(QPageSize(QPageSize::A4));
     }
     return printer_.get();
@@ -62,7 +58,6 @@ QPagedPaintDevice& QtPrinter::Device() const {
         if (target_ != Target::Printer) {
             // The default margins are the same as those of a printer that does not report its own.
             pdf_ = std::make_unique<QPdfWriter>(&file_);
-            pdf_->setTitle(DocumentName());
             pdf_->setPageSize(QPageSize(QPageSize::A4));
         }
     }
@@ -101,6 +96,11 @@ double QtPrinter::TextHeight(const Font& font) const {
 void QtPrinter::BeginJob() {
     pending_ = 0;
     dropped_ = false;
+    job_ = {};
+}
+
+QString QtPrinter::Title() const {
+    return name_.empty() ? QStringLiteral("Vatro") : ToQt(name_);
 }
 
 /// Empty if the user cancels.
@@ -109,7 +109,9 @@ QString QtPrinter::AskForFile() const {
     FileDialog dialog;
     dialog.title =
         target_ == Target::FileForWantOfAnAnswer ? "Printserveren svarer ikke: gem udskriften som PDF" : "Gem udskriften som PDF";
-    dialog.fileName = "vatro.pdf";
+    const QString file = Title() + QStringLiteral(".pdf");
+    const QString proposed = directory();
+    dialog.fileName = FromQt(proposed.isEmpty() ? file : QDir::toNativeSeparators(QDir(proposed).absoluteFilePath(file)));
     dialog.filter = "PDF (*.pdf)|*.pdf";
     dialog.defaultExtension = "pdf";
     dialog.overwritePrompt = true;
@@ -120,7 +122,8 @@ QString QtPrinter::AskForFile() const {
     }
 }
 
-void QtPrinter::TellFailure() const {
+void QtPrinter::Fail() {
+    job_.state = PrintJob::State::Failed;
     if (target_ == Target::Printer)
         Tell("Printeren kan ikke bruges.");
     else
@@ -132,14 +135,25 @@ bool QtPrinter::Start() {
     if (painter_.isActive()) return true;
     if (dropped_) return false;
     QPagedPaintDevice& device = Device();
-    if (target_ != Target::Printer) {
-        file_.setFileName(AskForFile());
-        dropped_ = file_.fileName().isEmpty();
-        if (dropped_) return false;
+    if (target_ == Target::Printer) {
+        printer_->setDocName(Title());
+        job_.file = FromQt(printer_->outputFileName());
+        job_.printer = FromQt(printer_->printerName());
+    } else {
+        pdf_->setTitle(Title());
+        const QString chosen = AskForFile();
+        dropped_ = chosen.isEmpty();
+        if (dropped_) {
+            job_.state = PrintJob::State::Dropped;
+            return false;
+        }
+        job_.file = FromQt(chosen);
+        file_.setFileName(chosen);
         dropped_ = !file_.open(QIODevice::WriteOnly);
     }
     dropped_ = dropped_ || !painter_.begin(&device);
-    if (dropped_) TellFailure();
+    if (dropped_) Fail();
+    job_.pages = pending_ + 1;
     for (; !dropped_ && pending_ > 0; --pending_) device.newPage();
     return !dropped_;
 }
@@ -154,20 +168,24 @@ void QtPrinter::Place(double x, double y, const Font& font, std::string_view tex
 }
 
 void QtPrinter::NextPage() {
-    if (painter_.isActive())
+    if (painter_.isActive()) {
         Device().newPage();
-    else
+        ++job_.pages;
+    } else {
         ++pending_;
+    }
 }
 
 void QtPrinter::EndJob() {
     if (painter_.isActive()) painter_.end();
     if (file_.isOpen()) {
         file_.close();
-        if (file_.error() != QFile::NoError) TellFailure();
+        if (file_.error() != QFile::NoError) Fail();
     }
     // Choose the target again for the next job.
     target_ = Target::Unknown;
+    name_.clear();
+    ended(job_);
 }
 
 }  // namespace vatro

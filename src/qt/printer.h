@@ -14,6 +14,7 @@
 #include <memory>
 
 #include "page.h"
+#include "paper_watch.h"
 #include "print_server.h"
 
 namespace vatro {
@@ -30,11 +31,16 @@ public:
     QPrinter* Printer() const;
     /// Sends all jobs to this file, without asking any server.
     void PrintToFile(const QString& pdf);
+    /// Returns the directory that is proposed for PDF files, or an empty text; replaceable.
+    std::function<QString()> directory = [] { return QString(); };
+    /// Runs when a job has ended.
+    std::function<void(const PrintJob&)> ended = [](const PrintJob&) {};
 
     double Width() const override;
     double Height() const override;
     double TextWidth(std::string_view text, const Font& font) const override;
     double TextHeight(const Font& font) const override;
+    void NameJob(std::string_view name) override { name_ = name; }
     void BeginJob() override;
     void Place(double x, double y, const Font& font, std::string_view text) override;
     void NextPage() override;
@@ -49,8 +55,10 @@ private:
     QPagedPaintDevice& Device() const;
     QFont FontOnPaper(const Font& font) const;
     QString AskForFile() const;
-    void TellFailure() const;
     bool Start();
+    /// The job cannot be printed: tells the user.
+    void Fail();
+    QString Title() const;
 
     std::function<bool()> answers_;
     mutable Target target_ = Target::Unknown;
@@ -60,6 +68,10 @@ private:
     /// Writes to file_.
     mutable std::unique_ptr<QPdfWriter> pdf_;
     QPainter painter_;
+    /// The name of the next job, in the code page.
+    std::string name_;
+    /// What has become of the current job. If it has no pages, nothing was printed.
+    PrintJob job_;
     /// Number of pages begun before anything was printed on the first one.
     int pending_ = 0;
     /// Whether the job is discarded: the user chose no file, or the output cannot be opened, which has been reported.

@@ -94,7 +94,7 @@ def a_job_is_offered_as_a_pdf_after_two_seconds():
             assert len(silent.connections) > connections, "the server was not asked"
             assert PATIENCE - 1 < took < PATIENCE + SLACK, f"the offer came after {took:.1f} s"
             print(f"        offered after {took:.1f} s")
-            pdf = desktop.home / "Documents/vatro.pdf"
+            pdf = desktop.log / f"Log 80m SSB {time.localtime().tm_year}.pdf"
             pdf.unlink(missing_ok=True)
             desktop.press("Return")
             until(lambda: is_pdf(pdf), "the PDF")

@@ -48,6 +48,42 @@ TEST_F(Printer, AsksEachJobForAFile) {
     EXPECT_TRUE(IsPdf(File("second.pdf")));
 }
 
+TEST_F(Printer, ProposesAFileNamedAfterTheJobInTheDirectoryThatItIsGiven) {
+    pages_.directory = [this] { return directory_.path(); };
+    surface_.NameJob("Summary 2026");
+    PrintPage();
+    // The name is that of one job.
+    PrintPage();
+    ASSERT_EQ(dialogs.asked.size(), 2U);
+    EXPECT_EQ(dialogs.asked[0].fileName, File("Summary 2026.pdf"));
+    EXPECT_EQ(dialogs.asked[1].fileName, File("Vatro.pdf"));
+}
+
+TEST_F(Printer, TellsWhatHasBecomeOfAJob) {
+    std::vector<PrintJob> jobs;
+    pages_.ended = [&jobs](const PrintJob& job) { jobs.push_back(job); };
+    dialogs.chosen = File("first.pdf");
+    surface_.Print("80m CW");
+    surface_.NewPage();
+    PrintPage();
+    surface_.NewPage();
+    PrintPage();
+    surface_.EndDoc();
+    dialogs.chosen.reset();
+    PrintPage();
+    dialogs.chosen = File("gone/paper.pdf");
+    dialogs.Expect("Udskriften kan ikke skrives til " + *dialogs.chosen);
+    PrintPage();
+    ASSERT_EQ(jobs.size(), 5U);
+    EXPECT_EQ(jobs[0].state, PrintJob::State::Done);
+    EXPECT_EQ(jobs[0].file, File("first.pdf"));
+    EXPECT_EQ(jobs[0].pages, 2);
+    EXPECT_EQ(jobs[1].pages, 2) << "also if the first page is empty";
+    EXPECT_EQ(jobs[2].pages, 0);
+    EXPECT_EQ(jobs[3].state, PrintJob::State::Dropped);
+    EXPECT_EQ(jobs[4].state, PrintJob::State::Failed);
+}
+
 TEST_F(Printer, DropsAJobThatIsGivenNoFile) {
     surface_.Print("80m CW");
     PrintPage();

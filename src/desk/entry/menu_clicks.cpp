@@ -68,7 +68,7 @@ void BindPapers(FrmMain& main) {
         &main.mnuUdskriv20mSSB, &main.mnuUdskriv40mCW,  &main.mnuUdskriv40mSSB, &main.mnuUdskriv80mCW,  &main.mnuUdskriv80mSSB};
     for (std::size_t i = 0; i < kTenLogs.size(); ++i) {
         sheets[i]->Click = [log = kTenLogs[i]] { Danlog(log); };
-        print[i]->Click = [log = kTenLogs[i]] { RunPrintJob([&log](PageSurface& surface) { PrintLog(surface, log); }); };
+        print[i]->Click = [log = kTenLogs[i]] { RunPrintJob(LogJobName(log), [&log](PageSurface& surface) { PrintLog(surface, log); }); };
     }
     main.mnuFilerDanMult.Click = DanMultCheck;
     main.mnuEfterSummary.Click = DanSummary;
@@ -78,10 +78,10 @@ void BindPapers(FrmMain& main) {
     main.mnuFilerEksportAdif.Click = ExportAdif;
 
     main.mnuFilePageSetup.Click = ChoosePrinter;
-    main.mnuUdskrivUkendt.Click = [] { RunPrintJob(PrintUkendt); };
-    main.mnuFilerUdskrivMult.Click = [] { RunPrintJob(PrintMultCheck); };
-    main.mnuUdskrivSummary.Click = [] { RunPrintJob(PrintSummary); };
-    main.mnuUdskrivAlt.Click = [] { RunPrintJob(PrintAll); };
+    main.mnuUdskrivUkendt.Click = [] { RunPrintJob("Ukendte", PrintUkendt); };
+    main.mnuFilerUdskrivMult.Click = [] { RunPrintJob("Mult Check", PrintMultCheck); };
+    main.mnuUdskrivSummary.Click = [] { RunPrintJob("Summary", PrintSummary); };
+    main.mnuUdskrivAlt.Click = [] { RunPrintJob("Alle papirer", PrintAll); };
 }
 
 }  // namespace

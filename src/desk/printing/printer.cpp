@@ -27,8 +27,13 @@ void ChoosePrinter() {
     }
 }
 
-void RunPrintJob(const std::function<void(PageSurface&)>& paper) {
+std::string LogJobName(const LogId& log) {
+    return "Log " + BandAndMode(log.band, log.mode);
+}
+
+void RunPrintJob(std::string_view name, const std::function<void(PageSurface&)>& paper) {
     PageSurface& surface = platform().printer;
+    surface.NameJob(std::string(name).append(1, ' ').append(FormatDate(platform().clock.Now(), "yyyy")));
     paper(surface);
     surface.EndDoc();
 }

@@ -7,6 +7,8 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <string_view>
 
 #include "log/ten_logs.h"
 
@@ -17,8 +19,11 @@ class PageSurface;
 /// Asks for the printer and its paper; Cancel changes nothing.
 void ChoosePrinter();
 
-/// Runs one print job: calls `paper` with the printer's surface and then ends the job.
-void RunPrintJob(const std::function<void(PageSurface&)>& paper);
+/// Runs one print job: calls `paper` with the printer's surface and then ends the job. The job is named `name` and the year, such as
+/// "Summary 2026".
+void RunPrintJob(std::string_view name, const std::function<void(PageSurface&)>& paper);
+/// The name for the job of one log: "Log 80m CW".
+std::string LogJobName(const LogId& log);
 
 /// Prints a log. A log that cannot be opened prints nothing and uses no page. If a failure occurs during printing, the log ends there
 /// without a message.
