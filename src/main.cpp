@@ -26,6 +26,8 @@
 #include "lamps.h"
 #include "main_size.h"
 #include "morse_speed.h"
+#include "paper_ends.h"
+#include "paper_watch.h"
 #include "places.h"
 #include "printer.h"
 #include "program.h"
@@ -61,9 +63,10 @@ Outcome Run() {
     vatro::QtPrinter pages;
     vatro::PageSurface printer(pages);
     vatro::QtDialogs dialogs(&pages);
+    vatro::PaperWatch papers(safety.ProgramFiles());
     vatro::InstallPlatform(front, {dialogs,
                                    settings,
-                                   safety.ProgramFiles(),
+                                   papers,
                                    clock,
                                    help,
                                    safety.ProgramInstance(),
@@ -73,6 +76,7 @@ Outcome Run() {
 
     const vatro::Desktop desktop(front, help);
     vatro::MarkCalls(front);
+    const vatro::PaperEnds paperEnds(front, papers, pages);
     const vatro::MainSize size(front, settings);
     const vatro::Docking docking(front, settings);
     const vatro::Places places(front);

@@ -21,6 +21,7 @@
 #include "input.h"
 #include "item_list.h"
 #include "keyer/frmCWTX.h"
+#include "printing/frmInfo.h"
 #include "qt_front.h"
 #include "stations/frmEDR.h"
 #include "window.h"
@@ -136,6 +137,7 @@ bool TypingGuard::TakeKey(const QWindow& window, QKeyEvent& event) {
     Form* const form = FormOf(top);
     if (form == nullptr) return false;
     WatchLog();
+    if (form == frmInfo.Peek() && TakeBesideProgress(event, key)) return true;
     if (Sending() && (form == frmCWTX.Peek() || form == frmMain.Peek())) return TakeWhileSending(event, key);
     return press && TakeOnForm(*form, event, key);
 }
@@ -171,6 +173,17 @@ bool TypingGuard::TakeWhileSending(QKeyEvent& event, const PressedKey& key) {
     return true;
 }
 
+bool TypingGuard::TakeBesideProgress(QKeyEvent& event, const PressedKey& key) {
+    Form* main = frmMain.Peek();
+    if (main == nullptr || !main->Reachable()) return false;
+    if (ActiveForm() != main) {
+        if (key.kind != KeyKind::Character || event.type() != QEvent::KeyPress || !GoToCall(event)) return false;
+        Deliver([main] { main->SetFocus(); });
+    }
+    HandToMain(event, key);
+    return true;
+}
+
 bool TypingGuard::TakeOnForm(Form& form, const QKeyEvent& event, const PressedKey& key) {
     if (EntryKeys::Held(key)) return true;
     if (key.kind == KeyKind::Esc && form.Reachable() && form.EscCloses()) {
@@ -187,13 +200,12 @@ bool TypingGuard::TakeOnForm(Form& form, const QKeyEvent& event, const PressedKe
     return entry_.Swallows(key, frmMain->fields[kCallField].Text().empty(), now());
 }
 
-void TypingGuard::GoToCall(const QKeyEvent& event) {
+bool TypingGuard::GoToCall(const QKeyEvent& event) {
     TextBox& call = frmMain->fields[kCallField];
     const std::optional<KeyCode> code = CodeOf(event);
-    if (!code || CharacterInto(call, *code) == kNoKey) return;
-    Deliver([&call] {
-        if (frmMain->Reachable()) frmMain->UserFocus(call);
-    });
+    if (!code || CharacterInto(call, *code) == kNoKey || !frmMain->Reachable()) return false;
+    Deliver([&call] { frmMain->UserFocus(call); });
+    return true;
 }
 
 bool TypingGuard::TakeInStations(const QKeyEvent& event) {

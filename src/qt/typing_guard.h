@@ -7,7 +7,8 @@
 // form, which handles them as if it were in front. The sending window keeps the focus, so Esc and Enter still stop the text.
 //
 // Some keys that no rule uses go where the operator means them: letters typed over the log to the call field, Esc in a window that only
-// shows something to its close button, F3 and F4 from one list of stations to the other.
+// shows something to its close button, letters typed after a paper was made to the call field, F3 and F4 from one list of stations to
+// the other.
 #pragma once
 
 #include <QElapsedTimer>
@@ -53,9 +54,12 @@ private:
     /// Handles keys while a text is being sent. They arrive at the sending window or, before it has received the focus, at the main
     /// form's.
     bool TakeWhileSending(QKeyEvent& event, const PressedKey& key);
+    /// Handles keys on the progress window of the papers, which has the focus but no use for letters: a character goes to the call field
+    /// of the main form, and so do the keys that follow until the main form's window has the focus.
+    bool TakeBesideProgress(QKeyEvent& event, const PressedKey& key);
     bool TakeOnForm(Form& form, const QKeyEvent& event, const PressedKey& key);
-    /// Moves the focus from the log to the call field if the key is a character for it, which then arrives there.
-    void GoToCall(const QKeyEvent& event);
+    /// Moves the focus to the call field if the key is a character for it. Returns whether it has.
+    static bool GoToCall(const QKeyEvent& event);
     /// The keys of the two lists of the society's stations change from one list to the other.
     static bool TakeInStations(const QKeyEvent& event);
     /// Handles input-method text while a Morse text is being sent.
