@@ -18,6 +18,7 @@
 #include "program.h"
 #include "qt_front.h"
 #include "qt_text.h"
+#include "title_room.h"
 #include "window.h"
 
 namespace vatro {
@@ -118,8 +119,12 @@ bool RunDialog(QDialog& dialog) {
 }
 
 QMessageBox* MakeBox(const MessageBox& box, QWidget* owner) {
+    const QtFront* front = FrontOnQt();
+    const bool desktop = front != nullptr && front->desktopHabits;
     auto* made = new Box(owner);
-    made->setWindowTitle(box.title.empty() ? QStringLiteral("vatro") : ToQt(box.title));
+    // The title of the rules is all lower case, unlike the name of the program.
+    const QString programsTitle = desktop ? QStringLiteral("Vatro") : QStringLiteral("vatro");
+    made->setWindowTitle(box.title.empty() ? programsTitle : ToQt(box.title));
     made->setTextFormat(Qt::PlainText);
     made->setText(ToQt(box.text));
     made->setIcon(QtIcon(box.icon));
@@ -134,6 +139,7 @@ QMessageBox* MakeBox(const MessageBox& box, QWidget* owner) {
         made->setDefaultButton(box.defaultNo ? no : yes);
         made->setEscapeButton(no);
     }
+    if (desktop) KeepTitleWhole(*made);
     QObject::connect(made, &QDialog::finished, made, [] { WaitLoop::Look(); });
     return made;
 }

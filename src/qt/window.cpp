@@ -23,6 +23,7 @@
 #include "layouts.h"
 #include "qt_front.h"
 #include "qt_text.h"
+#include "title_room.h"
 
 namespace vatro {
 
@@ -47,6 +48,11 @@ Qt::WindowFlags Flags(FormKind kind) {
 /// Milliseconds after which a window that has been shown or moved by the program is moved only by the user.
 constexpr int kSettling = 1000;
 
+/// Whether the window first has the size that its layout asks for.
+bool HasDialogSize(FormKind kind) {
+    return kind == FormKind::Dialog || kind == FormKind::FixedDialog || kind == FormKind::FixedTool;
+}
+
 /// Lengths are at least one pixel.
 int ToLength(int twips) {
     return qMax(1, ToPixels(twips));
@@ -65,6 +71,7 @@ FormWindow::FormWindow(Form& form, QWidget* owner, QtFront& front) : form_(form)
         for (QWidget* widget : top_->findChildren<QWidget*>()) widget->setFocusPolicy(Qt::NoFocus);
     AddExtraMenu();
     Follow();
+    if (front_.desktopHabits && HasDialogSize(form_.Kind())) KeepTitleWhole(*top_);
     top_->installEventFilter(this);
 }
 
@@ -335,7 +342,7 @@ void FormWindow::FitToScreen() {
 void FormWindow::FirstPlace() {
     const QRect screen = top_->screen()->availableGeometry();
     // Use the size that the layout asks for; Qt does not apply it before the window is shown.
-    if (form_.Kind() == FormKind::Dialog || form_.Kind() == FormKind::FixedDialog || form_.Kind() == FormKind::FixedTool) {
+    if (HasDialogSize(form_.Kind())) {
         top_->ensurePolished();
         SetSize(top_->sizeHint().boundedTo(screen.size()));
     }

@@ -108,9 +108,9 @@ def the_printer_cannot_be_chosen_meanwhile():
         prepared(desktop)
         desktop.start(PROGRAM, CUPS_SERVER=silent.address)
         desktop.press("alt+f", "p")
-        desktop.keys_go_to("vatro")
+        desktop.keys_go_to("Vatro")
         desktop.press("Return")
-        until(lambda: not desktop.windows("vatro"), "the end of the box")
+        until(lambda: not desktop.windows("Vatro"), "the end of the box")
 
 
 def a_server_that_refuses_costs_nothing():

@@ -25,6 +25,7 @@
 #include "qt/window_program.h"
 #include "qt_text.h"
 #include "services.h"
+#include "title_room.h"
 
 namespace vatro {
 
@@ -102,7 +103,7 @@ TEST(OneCopy, TakesTheLockOfAKilledOne) {
 
 // --- Boxes
 
-class Box : public ::testing::Test {
+class Box : public WindowProgram {
 protected:
     std::unique_ptr<QMessageBox> Make(const MessageBox& box) {
         std::unique_ptr<QMessageBox> made(MakeBox(box, nullptr));
@@ -122,6 +123,25 @@ TEST_F(Box, HasDanishButtonsAndTheProgramsTitle) {
     EXPECT_EQ(Texts(*Make(question)), (QStringList{QStringLiteral("Ja"), QStringLiteral("Nej")}));
     EXPECT_EQ(Texts(*Make({})), (QStringList{QStringLiteral("OK")}));
     EXPECT_EQ(Make({})->windowTitle(), QStringLiteral("vatro"));
+}
+
+TEST_F(Box, HasTheProgramsNameOnADesktop) {
+    dynamic_cast<QtFront&>(driver.ProgramFront()).desktopHabits = true;
+    EXPECT_EQ(Make({})->windowTitle(), QStringLiteral("Vatro"));
+    MessageBox titled;
+    titled.title = "UTC offset";
+    EXPECT_EQ(Make(titled)->windowTitle(), QStringLiteral("UTC offset"));
+}
+
+TEST_F(Box, IsAsWideAsItsTitleOnADesktop) {
+    dynamic_cast<QtFront&>(driver.ProgramFront()).desktopHabits = true;
+    MessageBox box;
+    box.title = "Logbiblioteket er måske i brug"_t;
+    box.text = "?";
+    const auto made = Make(box);
+    EXPECT_GE(made->width(), WidthForTitle(made->windowTitle()));
+    const auto shorter = Make({});
+    EXPECT_LT(shorter->width(), made->width());
 }
 
 TEST_F(Box, WithoutAnIconHasItsTextInTheMiddle) {
