@@ -95,7 +95,8 @@ class Item:
         self.caption = found["caption"].replace("&", "")
         options = found["options"] or ""
         key = re.search(r'\.shortcut\s*=\s*"([^"]*)"', options)
-        self.key = key[1] if key else ""
+        # As it is written on the screen.
+        self.key = key[1].replace("Shift+", "Skift+") if key else ""
         self.shown = "separator" not in options and "hidden" not in options
 
 

@@ -3,9 +3,16 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QFileIconProvider>
+#include <QGroupBox>
 #include <QIcon>
 #include <QImage>
+#include <QKeySequence>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QTemporaryDir>
 #include <set>
 
 namespace vatro {
@@ -25,6 +32,24 @@ TEST(TheApplication, HasAnIconOfItsOwnAtEverySizeOfADesktop) {
 
 TEST(TheApplication, IsNamedAsItsDesktopEntryIs) {
     EXPECT_EQ(QGuiApplication::desktopFileName(), QStringLiteral("dk.vatro.Vatro"));
+}
+
+TEST(TheApplication, CallsADirectoryAndAKeyWhatTheHandbookCallsThem) {
+    const QTemporaryDir directory;
+    EXPECT_EQ(QFileIconProvider().type(QFileInfo(directory.path())), QStringLiteral("Mappe"));
+    EXPECT_EQ(QKeySequence(QStringLiteral("Shift+F5")).toString(QKeySequence::NativeText), QStringLiteral("Skift+F5"));
+    EXPECT_EQ(QKeySequence(QStringLiteral("Shift+F5")), QKeySequence(Qt::SHIFT | Qt::Key_F5));
+}
+
+TEST(TheApplication, ChoosesThePrinterInDanish) {
+    QPrinter printer;
+    const QPrintDialog dialog(&printer);
+    QStringList words;
+    for (const auto* button : dialog.findChildren<QAbstractButton*>()) words.append(button->text());
+    for (const auto* group : dialog.findChildren<QGroupBox*>()) words.append(group->title());
+    EXPECT_TRUE(words.contains(QStringLiteral("Tosidet udskrift"))) << words.join(u' ').toStdString();
+    for (const char* english : {"Double Sided Printing", "Off", "Long side binding", "Short side binding"})
+        EXPECT_FALSE(words.contains(QLatin1String(english))) << english;
 }
 
 }  // namespace
