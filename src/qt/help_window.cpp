@@ -2,11 +2,13 @@
 #include "help_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QStyle>
@@ -15,6 +17,7 @@
 #include <QTreeWidget>
 
 #include "handbook.h"
+#include "readable.h"
 
 namespace vatro {
 
@@ -45,10 +48,35 @@ HelpWindow::HelpWindow(QWidget* owner) : QMainWindow(owner, Qt::Window), content
     setCentralWidget(both);
     told_ = new QLabel;
     statusBar()->addWidget(told_);
+    statusBar()->setAccessibleName(QStringLiteral("Statuslinje"));
     AddContents();
     AddTools();
     resize(kSize);
+    ChooseInks();
     connect(browser_, &QTextBrowser::sourceChanged, this, [this] { told_->clear(); });
+}
+
+void HelpWindow::ChooseInks() {
+    // Qt colours links when it reads a page, in the colour of the scheme, and a dark scheme may have only the blue for a light ground.
+    // The widgets get a new scheme only after this window.
+    const QPalette palette = QApplication::palette();
+    const QColor ground = palette.color(QPalette::Base);
+    const QColor link = ReadableOn(ground, palette.color(QPalette::Link));
+    QPalette hint;
+    hint.setColor(QPalette::PlaceholderText, ReadableOn(ground, palette.color(QPalette::Disabled, QPalette::Text)));
+    wanted_->setPalette(hint);
+    QTextDocument& page = *browser_->document();
+    const QString before = page.defaultStyleSheet();
+    page.setDefaultStyleSheet(QStringLiteral("a { color: %1; }").arg(link.name()));
+    if (page.defaultStyleSheet() == before || browser_->source().isEmpty()) return;
+    const int at = browser_->verticalScrollBar()->value();
+    browser_->reload();
+    browser_->verticalScrollBar()->setValue(at);
+}
+
+void HelpWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && wanted_ != nullptr) ChooseInks();
 }
 
 void HelpWindow::AddContents() {

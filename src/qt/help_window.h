@@ -28,7 +28,12 @@ public:
     /// match. If no page contains the text, returns false and shows a message in the window.
     bool FindNext(const QString& text);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    /// Chooses colours that can be read on the ground of the page for links and for the hint in the search field.
+    void ChooseInks();
     void AddContents();
     void AddTools();
     void FindAgain();

@@ -13,13 +13,16 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
 
 #include "exchange/FormQuickInfo.h"
 #include "handbook.h"
 #include "picture_view.h"
+#include "qt/contrast.h"
 #include "qt/window_program.h"
+#include "readable.h"
 #include "services.h"
 
 namespace vatro {
@@ -49,6 +52,47 @@ TEST_F(HelpViewer, OpensAtTheContents) {
     EXPECT_TRUE(Window().isVisible());
     EXPECT_EQ(Window().windowModality(), Qt::NonModal);
     EXPECT_EQ(Window().Page(), QStringLiteral("indhold.html"));
+}
+
+/// The ground and the ink of desktops: light, dark with and without a link colour of its own, and the program's scheme for the night.
+struct Scheme {
+    QRgb ground;
+    QRgb text;
+    QRgb link;
+};
+constexpr Scheme kSchemes[]{{0xffffffff, 0xff000000, 0xff0000ff},
+                            {0xff1b1e20, 0xfffcfcfc, 0xff0000ff},
+                            {0xff1b1e20, 0xfffcfcfc, 0xff2980b9},
+                            {0xff000000, 0xffd83828, 0xffd83828}};
+
+TEST_F(HelpViewer, HasLinksThatCanBeReadInEveryScheme) {
+    for (const Scheme& scheme : kSchemes) {
+        QPalette palette;
+        palette.setColor(QPalette::Base, scheme.ground);
+        palette.setColor(QPalette::Text, scheme.text);
+        palette.setColor(QPalette::Link, scheme.link);
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        const auto& browser = *Window().findChild<QTextBrowser*>();
+        int links = 0;
+        for (QTextBlock block = browser.document()->begin(); block.isValid(); block = block.next())
+            for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+                const QTextCharFormat format = piece.fragment().charFormat();
+                if (!format.isAnchor() || format.anchorHref().isEmpty()) continue;
+                ++links;
+                EXPECT_GE(ContrastOf(format.foreground().color().rgb(), browser.palette().color(QPalette::Base).rgb()), 4.5);
+                EXPECT_EQ(browser.palette().color(QPalette::Base).rgb(), scheme.ground);
+            }
+        EXPECT_GT(links, 10);
+        EXPECT_GE(ContrastOf(Wanted().palette().color(QPalette::PlaceholderText).rgb(), scheme.ground), 4.5);
+    }
+    QApplication::setPalette(QPalette());
+}
+
+TEST(ReadableInk, IsTheInkItselfWhereItCanBeRead) {
+    EXPECT_EQ(ReadableOn(Qt::white, Qt::blue), QColor(Qt::blue));
+    EXPECT_NE(ReadableOn(Qt::black, Qt::blue), QColor(Qt::blue));
+    EXPECT_EQ(ReadableOn(Qt::black, Qt::black).lightness() > 100, true);
 }
 
 TEST_F(HelpViewer, IsOneWindowHoweverOftenItIsOpened) {
