@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QComboBox>
+#include <QFrame>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -75,6 +76,9 @@ private:
 QAccessibleInterface* Present(const QString& /*className*/, QObject* object) {
     if (auto* combo = qobject_cast<QComboBox*>(object)) return new AccessibleCombo(*combo);
     if (auto* option = qobject_cast<QRadioButton*>(object)) return new AccessibleOption(*option);
+    // The frame around controls that belong together, as opposed to the many widgets derived from it.
+    if (object->metaObject() == &QFrame::staticMetaObject && object->findChild<ColumnHead*>({}, Qt::FindDirectChildrenOnly) != nullptr)
+        return new QAccessibleWidget(qobject_cast<QFrame*>(object), QAccessible::Grouping);
     if (auto* head = qobject_cast<ColumnHead*>(object)) return new QAccessibleWidget(head, QAccessible::StaticText);
     if (auto* picture = qobject_cast<PictureView*>(object)) return new QAccessibleWidget(picture, QAccessible::Graphic);
     return nullptr;

@@ -30,6 +30,11 @@ void PushTick(const MenuItem& item, QAction& action) {
     action.setChecked(item.Ticked());
 }
 
+/// A hidden entry or button has no text, because a screen reader would list it by its text.
+QString TextUnlessHidden(const std::string& caption, bool visible) {
+    return visible ? ToQt(caption) : QString();
+}
+
 QAction* AddEntry(MenuItem& item, QMenu& menu, QObject& scope);
 
 QAction* AddMenu(MenuItem& item, QMenu& menu, QObject& scope) {
@@ -38,7 +43,7 @@ QAction* AddMenu(MenuItem& item, QMenu& menu, QObject& scope) {
 }
 
 QAction* AddEntry(MenuItem& item, QMenu& menu, QObject& scope) {
-    const QString caption = ToQt(item.Caption());
+    const QString caption = TextUnlessHidden(item.Caption(), item.Visible());
     QAction* action = nullptr;
     if (item.Separator())
         action = menu.addSeparator();
@@ -52,7 +57,7 @@ QAction* AddEntry(MenuItem& item, QMenu& menu, QObject& scope) {
     action->setVisible(item.Visible());
     PushTick(item, *action);
     item.mirror = [&item, action](Aspect aspect, int /*row*/) {
-        if (aspect == Aspect::Text) action->setText(ToQt(item.Caption()));
+        if (aspect == Aspect::Text || aspect == Aspect::Visible) action->setText(TextUnlessHidden(item.Caption(), item.Visible()));
         if (aspect == Aspect::Enabled) action->setEnabled(item.Enabled());
         if (aspect == Aspect::Visible) action->setVisible(item.Visible());
         if (aspect == Aspect::Value) PushTick(item, *action);
@@ -93,6 +98,7 @@ void AddBars(const Form& form, QMainWindow& window) {
             },
             [&window](const StatusBar& bar) { window.statusBar()->setObjectName(ObjectName(bar)); }, [](const Control&) {});
     }
+    window.menuBar()->setAccessibleName(QStringLiteral("Menulinje"));
 }
 
 void BindMenu(Form& form, QMainWindow& window, Bindings& bindings) {
@@ -131,7 +137,7 @@ void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings) {
             continue;
         }
         auto* action = new PressAction(&widget);
-        action->setText(ToQt(button.caption));
+        action->setText(TextUnlessHidden(button.caption, button.visible));
         action->setProperty(kToolIndex, button.index);
         action->setCheckable(true);
         action->setVisible(button.visible);
@@ -144,7 +150,7 @@ void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings) {
             });
         });
         widget.addAction(action);
-        if (QWidget* face = widget.widgetForAction(action)) face->setAccessibleName(ToQt(button.caption));
+        if (QWidget* face = widget.widgetForAction(action)) face->setAccessibleName(action->text());
     }
     PushPressed(control, widget);
     widget.setEnabled(control.Enabled());
@@ -156,6 +162,7 @@ void Bind(Toolbar& control, QToolBar& widget, Bindings& bindings) {
 }
 
 void Bind(StatusBar& control, QStatusBar& widget, Bindings& /*bindings*/) {
+    widget.setAccessibleName(QStringLiteral("Statuslinje"));
     const auto push = [&control, &widget](std::size_t number) {
         PanelsOf(widget)
             .at(static_cast<qsizetype>(number) - 1)

@@ -200,6 +200,7 @@ void Bind(Button& control, QPushButton& widget, Bindings& bindings) {
 
 void Bind(UpDown& control, SpinArrows& widget, Bindings& bindings) {
     PushState(control, widget);
+    widget.setAccessibleName(QStringLiteral("Op og ned"));
     QObject::connect(&widget, &SpinArrows::Stepped, &bindings.Scope(), [&control](bool up) {
         Deliver([&] {
             if (control.Parent().Reachable()) control.Spin(up);
@@ -312,10 +313,12 @@ void Bind(Label& control, ColumnHead& widget, Bindings& /*bindings*/) {
 void Bind(Frame& control, QFrame& widget, Bindings& bindings) {
     PushState(control, widget);
     const QString head = widget.objectName() + QStringLiteral("Caption");
-    if (auto* caption = widget.findChild<ColumnHead*>(head))
+    if (auto* caption = widget.findChild<ColumnHead*>(head)) {
         caption->SetCaption(ToQt(control.Caption()));
-    else
+        widget.setAccessibleName(PlainCaption(control.Caption()).simplified());
+    } else {
         bindings.AddProblem(QStringLiteral("no head %1").arg(head));
+    }
     control.mirror = [&control, &widget](Aspect aspect, int /*row*/) { FollowState(control, widget, aspect); };
 }
 

@@ -2,6 +2,7 @@
 #include "dialogs.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QLabel>
@@ -76,6 +77,11 @@ public:
     }
 };
 
+/// Names the row of buttons for screen readers, which announce it as a group.
+void NameButtons(const QDialog& dialog) {
+    if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) buttons->setAccessibleName(QStringLiteral("Knapper"));
+}
+
 /// Removes the space that Qt reserves for an icon from a box without one.
 void CloseUp(QMessageBox& box) {
     if (auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
@@ -139,6 +145,7 @@ QMessageBox* MakeBox(const MessageBox& box, QWidget* owner) {
         made->setDefaultButton(box.defaultNo ? no : yes);
         made->setEscapeButton(no);
     }
+    NameButtons(*made);
     if (desktop) KeepTitleWhole(*made);
     QObject::connect(made, &QDialog::finished, made, [] { WaitLoop::Look(); });
     return made;
@@ -179,6 +186,7 @@ std::string QtDialogs::OpenFile(const FileDialog& dialog) {
 QString QtDialogs::Choose(QFileDialog& chooser) {
     chooser.setLabelText(QFileDialog::LookIn, QStringLiteral("Søg i:"));
     chooser.setLabelText(QFileDialog::Reject, QStringLiteral("Annuller"));
+    NameButtons(chooser);
     QObject::connect(&chooser, &QDialog::finished, &chooser, [] { WaitLoop::Look(); });
     RunDialog(chooser);
     LeaveIfEnding();

@@ -5,12 +5,16 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <map>
 
+#include "dialogs.h"
+#include "help_window.h"
 #include "item_list.h"
 #include "keyer/frmCW.h"
 #include "qt/window_program.h"
@@ -62,6 +66,86 @@ QAccessible::Role RoleOf(const QObject& widget) {
     if (qobject_cast<const QPushButton*>(&widget) != nullptr) return QAccessible::PushButton;
     if (qobject_cast<const QScrollBar*>(&widget) != nullptr) return QAccessible::ScrollBar;
     return QAccessible::NoRole;
+}
+
+/// What is announced as a thing of its own, and so needs a name.
+bool NeedsName(const QAccessibleInterface& one) {
+    switch (one.role()) {
+        case QAccessible::Dialog:
+        case QAccessible::Window:
+        case QAccessible::AlertMessage:
+        case QAccessible::Grouping:
+        case QAccessible::MenuBar:
+        case QAccessible::ToolBar:
+        case QAccessible::StatusBar:
+        case QAccessible::List:
+        case QAccessible::Tree:
+        case QAccessible::ComboBox:
+        case QAccessible::EditableText:
+        case QAccessible::PushButton:
+        case QAccessible::CheckBox:
+        case QAccessible::RadioButton:
+        case QAccessible::MenuItem:
+            return true;
+        default:
+            return one.state().focusable;
+    }
+}
+
+/// Describes everything in the tree that a test does not want to find.
+template <class Unwanted>
+std::string Search(QAccessibleInterface& in, const Unwanted& unwanted, const std::string& road = {}) {
+    const std::string here =
+        road + "/" + (in.object() != nullptr ? in.object()->metaObject()->className() : "?") + in.text(QAccessible::Name).toStdString();
+    std::string found = unwanted(in) ? here + "\n" : "";
+    for (int i = 0; i < in.childCount(); ++i)
+        if (in.child(i) != nullptr) found += Search(*in.child(i), unwanted, here);
+    return found;
+}
+
+bool Nameless(const QAccessibleInterface& one) {
+    return !one.state().invisible && NeedsName(one) && one.text(QAccessible::Name).trimmed().isEmpty();
+}
+
+std::string NamelessIn(QWidget& window) {
+    return Search(*QAccessible::queryAccessibleInterface(&window), Nameless);
+}
+
+TEST_F(Accessibility, NamesEverythingThatIsAnnounced) {
+    for (const Form* form : LoadedForms()) EXPECT_EQ(NamelessIn(*WindowOf(*form).Top()), "") << form->Name();
+}
+
+TEST_F(Accessibility, NamesEveryBoxAndEverythingInIt) {
+    for (const Buttons buttons : {Buttons::Ok, Buttons::YesNo}) {
+        MessageBox box;
+        box.text = "?";
+        box.buttons = buttons;
+        box.icon = Icon::Question;
+        const std::unique_ptr<QMessageBox> made(MakeBox(box, nullptr));
+        made->show();
+        EXPECT_EQ(NamelessIn(*made), "");
+    }
+}
+
+TEST_F(Accessibility, NamesEverythingOfTheHandbook) {
+    HelpWindow handbook;
+    handbook.ShowPage(QStringLiteral("indhold.html"));
+    EXPECT_EQ(NamelessIn(handbook), "");
+}
+
+TEST_F(Accessibility, NamesNothingAfterTheHiddenBand) {
+    const auto hidden = [](const QAccessibleInterface& one) { return one.text(QAccessible::Name) == QStringLiteral("XXm"); };
+    for (const Form* form : LoadedForms())
+        EXPECT_EQ(Search(*QAccessible::queryAccessibleInterface(WindowOf(*form).Top()), hidden), "") << form->Name();
+    // Qt lists the entries of a menu only while something asks for them.
+    const auto menus = WindowOf(*frmMain).Top()->findChildren<QMenu*>();
+    EXPECT_GT(menus.size(), 7);
+    for (QMenu* menu : menus) EXPECT_EQ(Search(*QAccessible::queryAccessibleInterface(menu), hidden), "");
+}
+
+TEST_F(Accessibility, FramesAreGroupsNamedAfterTheirCaption) {
+    EXPECT_EQ(Of(frmMain->operatorFrame).role(), QAccessible::Grouping);
+    EXPECT_EQ(NameOf(Of(frmMain->operatorFrame)), "Operatør Call:");
 }
 
 TEST_F(Accessibility, FindsEveryControlThatTakesTheFocus) {
