@@ -137,7 +137,8 @@ void FollowState(const Control& control, QWidget& widget, Aspect aspect) {
 
 void WidenButton(QPushButton& button) {
     const QFontMetrics metrics = button.fontMetrics();
-    button.setMinimumWidth(metrics.size(Qt::TextShowMnemonic, button.text()).width() + 4 * metrics.averageCharWidth());
+    const int needed = metrics.size(Qt::TextShowMnemonic, button.text()).width() + 4 * metrics.averageCharWidth();
+    button.setMinimumWidth(qMax(needed, button.minimumSizeHint().width()));
 }
 
 QFont FixedPitchFont() {

@@ -34,13 +34,13 @@ EntryField::EntryField(QWidget* parent) : QLineEdit(parent) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-QSize EntryField::sizeHint() const {
+QSize EntryField::SizeFor(int chars) const {
     const int digit = fontMetrics().horizontalAdvance(u'0');
     // For letters, a width between that of a digit and of the widest letter, because calls contain both.
     const int wide = letters_ ? digit * 6 / 5 : digit;
     QStyleOptionFrame option;
     initStyleOption(&option);
-    const QSize content(wide * chars_ + fontMetrics().averageCharWidth(), fontMetrics().height() + 4);
+    const QSize content(wide * chars + fontMetrics().averageCharWidth(), fontMetrics().height() + 4);
     return style()->sizeFromContents(QStyle::CT_LineEdit, &option, content, this);
 }
 

@@ -12,21 +12,25 @@ class QToolButton;
 
 namespace vatro {
 
-/// A field of the entry form with text readable at arm's length, wide enough for the given number of characters, and no wider unless its
-/// layout says so.
+/// A field of the entry form with text readable at arm's length, wide enough for the given number of characters, and no wider.
 class EntryField : public QLineEdit {
     Q_OBJECT
     Q_PROPERTY(int chars MEMBER chars_)
+    /// Where the window is narrow, the field shrinks to this number of characters; 0 means not at all.
+    Q_PROPERTY(int leastChars MEMBER leastChars_)
     /// Whether letters are written into the field, which are wider than digits.
     Q_PROPERTY(bool letters MEMBER letters_)
 
 public:
     explicit EntryField(QWidget* parent = nullptr);
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize sizeHint() const override { return SizeFor(chars_); }
+    QSize minimumSizeHint() const override { return SizeFor(leastChars_ > 0 ? leastChars_ : chars_); }
 
 private:
+    QSize SizeFor(int chars) const;
+
     int chars_ = 4;
+    int leastChars_ = 0;
     bool letters_ = false;
 };
 

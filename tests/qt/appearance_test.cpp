@@ -223,14 +223,29 @@ TEST_F(AppearanceOfTheWindow, AllFieldsStayInAWindowOfANetbookAtLargerText) {
     }
 }
 
-TEST_F(AppearanceOfTheWindow, SpareWidthGoesToTheCallField) {
+TEST_F(AppearanceOfTheWindow, SpareWidthGoesToTheCallFieldAsFarAsACallNeedsIt) {
     StartVatro();
-    std::vector<int> before;
-    for (const TextBox& field : frmMain->fields) before.push_back(WidgetOf<QWidget>(field).width());
-    Window().resize(Window().width() + 200, Window().height());
+    const auto widths = [&] {
+        std::vector<int> all;
+        for (const TextBox& field : frmMain->fields) all.push_back(WidgetOf<QWidget>(field).width());
+        return all;
+    };
+    const std::vector<int> usual = widths();
+    Window().resize(Window().width() + 40, Window().height());
     driver.Settle();
-    for (std::size_t i = 0; i < before.size(); ++i)
-        EXPECT_EQ(WidgetOf<QWidget>(frmMain->fields[static_cast<int>(i)]).width() - before[i], i == kCallField ? 200 : 0) << i;
+    const std::vector<int> wider = widths();
+    Window().resize(Window().width() + 1000, Window().height());
+    driver.Settle();
+    const std::vector<int> widest = widths();
+    for (std::size_t i = 0; i < usual.size(); ++i) {
+        if (i == kCallField) continue;
+        EXPECT_EQ(wider[i], usual[i]) << i;
+        EXPECT_EQ(widest[i], usual[i]) << i;
+    }
+    EXPECT_EQ(wider[kCallField], usual[kCallField] + 40);
+    const int broadest = Call().fontMetrics().horizontalAdvance(QString(15, u'W'));
+    EXPECT_GE(widest[kCallField], broadest);
+    EXPECT_LE(widest[kCallField], 2 * broadest);
 }
 
 TEST_F(AppearanceOfTheWindow, HeadsStayOverTheirColumnsInEverySchemeAndSize) {
