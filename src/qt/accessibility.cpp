@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "accessibility.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QComboBox>

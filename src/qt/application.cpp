@@ -22,6 +22,7 @@ constexpr double kLeastPoints = 11;
 
 /// A text of Qt, by its context and its English.
 struct QtText {
+    constexpr QtText(const char* its, const char* words) : context(its), english(words) {}
     const char* context;
     const char* english;
 };
