@@ -101,7 +101,7 @@ TEST_F(SizeOfTheMainWindow, LeavesTheNewestContactInSight) {
         return log.viewport()->rect().contains(log.visualRect(newest));
     };
     ASSERT_GE(log.model()->rowCount(), 200);
-    ASSERT_TRUE(seen());
+    ASSERT_TRUE(QTest::qWaitFor(seen));
     for (const int height : {700, 450, 600, 380}) {
         Window().resize(Window().width(), height);
         driver.Settle();
