@@ -3,6 +3,7 @@
 import collections
 import os
 import pathlib
+import re
 import shutil
 import signal
 import struct
@@ -16,8 +17,9 @@ SKIPPED = 77
 PATIENCE = 20
 
 
-def skip_without_tools(*more):
-    missing = [tool for tool in TOOLS + more if shutil.which(tool) is None]
+def skip_without_tools(*more, others=()):
+    """`others`: what is missing besides programs."""
+    missing = [tool for tool in TOOLS + more if shutil.which(tool) is None] + list(others)
     if missing:
         print("not installed:", *missing)
         # CI skips nothing silently.
@@ -40,7 +42,8 @@ Compositor = collections.namedtuple("Compositor", "name process")
 class Desktop:
     """A screen with a window manager, and a home directory."""
 
-    def __init__(self, data):
+    def __init__(self, data, manager="openbox", bus=False):
+        """`bus`: starts a session bus that nobody else is on; xfwm4 always needs one."""
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="vatro-desktop-"))
         self.log = self.home / "log"
         self.data = self.home / "data"
@@ -57,16 +60,30 @@ class Desktop:
         self.surroundings = dict(os.environ, DISPLAY=display, HOME=str(self.home), XDG_CONFIG_HOME=str(self.home / ".config"),
                                  XDG_RUNTIME_DIR=str(self.home / "runtime"), QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8",
                                  CUPS_SERVER="/nowhere")
-        self.manager = self.program = self.compositor = None
+        self.manager = self.program = self.compositor = self.bus = None
+        # Openbox runs this command when it has looked for windows.
+        self.command = ["openbox", "--startup", f"touch {self.home}/managed"] if manager == "openbox" else ["xfwm4", "--compositor=off"]
+        if bus or manager == "xfwm4":
+            self.start_bus()
         # A window shown before the window manager starts is not always managed by it.
         until(self.managed, "the window manager")
-        # The window manager sets this property before it looks for windows.
-        time.sleep(1)
+        if manager == "xfwm4":
+            # It sets the property before it looks for windows, and has no other sign.
+            time.sleep(1)
 
     def managed(self):
         if self.manager is None or self.manager.poll() is not None:
-            self.manager = subprocess.Popen(["openbox"], env=self.surroundings, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            self.manager = subprocess.Popen(self.command, env=self.surroundings, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        if self.command[0] == "openbox":
+            return (self.home / "managed").exists()
         return subprocess.run(["xdotool", "get_desktop"], env=self.surroundings, capture_output=True, check=False).returncode == 0
+
+    def start_bus(self):
+        for variable in ("AT_SPI_BUS_ADDRESS", "XDG_CURRENT_DESKTOP", "SESSION_MANAGER"):
+            self.surroundings.pop(variable, None)
+        self.bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address"], env=self.surroundings,
+                                    stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        self.surroundings["DBUS_SESSION_BUS_ADDRESS"] = self.bus.stdout.readline().strip()
 
     def start_compositor(self):
         """Starts a Wayland compositor without a display."""
@@ -77,12 +94,12 @@ class Desktop:
         return Compositor(name, self.compositor)
 
     def close(self):
-        for process in (self.program, self.compositor, self.manager, self.screen):
+        for process in (self.program, self.compositor, self.manager, self.bus, self.screen):
             if process is None:
                 continue
             if process.poll() is None:
                 # The X server removes its lock file when it ends.
-                process.terminate() if process is self.screen else process.kill()
+                process.terminate() if process in (self.screen, self.bus) else process.kill()
             process.wait()
         shutil.rmtree(self.home)
 
@@ -124,6 +141,19 @@ class Desktop:
         self.program = subprocess.Popen([program], cwd=self.data, env=dict(self.surroundings, **more), stderr=subprocess.PIPE)
         if main is not None:
             self.keys_go_to(main)
+
+    def rectangle(self, title):
+        """Left, top, width and height of the window without its frame."""
+        told = subprocess.run(["xwininfo", "-id", self.window(title)], env=self.surroundings, capture_output=True, text=True,
+                              check=True).stdout
+        return tuple(int(re.search(key + r":\s+(-?\d+)", told)[1])
+                     for key in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+
+    def states(self, title):
+        """What the window manager says of the window, such as "_NET_WM_STATE_MAXIMIZED_VERT"."""
+        told = subprocess.run(["xprop", "-id", self.window(title), "_NET_WM_STATE"], env=self.surroundings, capture_output=True, text=True,
+                              check=True).stdout
+        return set(told.partition("=")[2].replace(",", " ").split())
 
     def windows(self, title):
         """The visible windows with exactly this title."""

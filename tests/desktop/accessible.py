@@ -1,0 +1,237 @@
+# SPDX-License-Identifier: MIT
+"""The windows of a program as a screen reader finds them: names, roles, states, texts and rectangles, read from the accessibility bus."""
+import collections
+import os
+import subprocess
+import sys
+
+from desktop import Desktop, until
+
+# The bindings of the system belong to the system's Python, which need not be the first in the path.
+SYSTEM = "/usr/bin/python3"
+LAUNCHERS = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
+# Of the main window.
+MAIN = "Vatro OZ7FD/P"
+PACKAGE = "org.a11y.atspi."
+ROOT = "/org/a11y/atspi/accessible/root"
+PATIENCE = 5000
+
+# Of AtspiStateType, the bits that the tests ask for.
+STATES = {"active": 1, "checked": 4, "editable": 7, "enabled": 8, "focused": 12, "selected": 23, "sensitive": 24, "showing": 25,
+          "visible": 30}
+# Of AtspiCoordType.
+SCREEN = 0
+
+Rectangle = collections.namedtuple("Rectangle", "left top width height")
+
+
+def missing_tools():
+    """What a test of the accessibility tree needs and cannot find. May start the script anew with the system's Python."""
+    missing = [] if any(os.path.exists(path) for path in LAUNCHERS) else ["at-spi2-core"]
+    try:
+        import gi  # noqa: F401
+    except ImportError:
+        found = os.path.realpath(sys.executable) != os.path.realpath(SYSTEM) and os.path.exists(SYSTEM) and subprocess.run(
+            [SYSTEM, "-c", "import gi"], stderr=subprocess.DEVNULL, check=False).returncode == 0
+        if found and not missing:
+            sys.stdout.flush()
+            os.execv(SYSTEM, [SYSTEM, *sys.argv])
+        missing.append("python3-gi")
+    return missing
+
+
+def overlap(one, other):
+    """The pixels that both rectangles cover."""
+    width = min(one.left + one.width, other.left + other.width) - max(one.left, other.left)
+    height = min(one.top + one.height, other.top + other.height) - max(one.top, other.top)
+    return max(0, width) * max(0, height)
+
+
+def within(inner, outer):
+    return overlap(inner, outer) == inner.width * inner.height
+
+
+class Node:
+    """One accessible object. Every question goes to the program, so no answer is older than the question."""
+
+    def __init__(self, tree, sender, path):
+        self.tree, self.sender, self.path = tree, sender, path
+
+    def __eq__(self, other):
+        return (self.sender, self.path) == (other.sender, other.path)
+
+    def __hash__(self):
+        return hash((self.sender, self.path))
+
+    def ask(self, interface, method, *arguments):
+        return self.tree.call(self.sender, self.path, PACKAGE + interface, method, *arguments)
+
+    def get(self, interface, name):
+        return self.tree.property(self.sender, self.path, PACKAGE + interface, name)
+
+    @property
+    def name(self):
+        return self.get("Accessible", "Name")
+
+    @property
+    def role(self):
+        return self.ask("Accessible", "GetRoleName")[0]
+
+    @property
+    def states(self):
+        words = self.ask("Accessible", "GetState")[0]
+        return {name for name, bit in STATES.items() if words[bit // 32] >> bit % 32 & 1}
+
+    @property
+    def children(self):
+        return [Node(self.tree, sender, path) for sender, path in self.ask("Accessible", "GetChildren")[0]]
+
+    @property
+    def text(self):
+        return self.ask("Text", "GetText", "(ii)", 0, self.get("Text", "CharacterCount"))[0]
+
+    @property
+    def rectangle(self):
+        """On the screen."""
+        return Rectangle(*self.ask("Component", "GetExtents", "(u)", SCREEN)[0])
+
+    def all(self):
+        """This object and all below it."""
+        yield self
+        for child in self.children:
+            yield from child.all()
+
+    def find(self, role, name=None):
+        """The objects below this one with this role and name."""
+        return [node for node in self.all() if node.role == role and name in (None, node.name)]
+
+    def __repr__(self):
+        return f"{self.role} {self.name!r}"
+
+
+class Tree:
+    """What the program with this number tells, by the session bus at this address."""
+
+    def __init__(self, address, process):
+        from gi.repository import Gio, GLib
+        self.gio, self.glib = Gio, GLib
+        self.faults = (GLib.Error,)
+        self.process = process
+        session = self.connect(address)
+        answer = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, PATIENCE, None)
+        session.close_sync(None)
+        self.bus = self.connect(answer.unpack()[0])
+
+    def connect(self, address):
+        flags = self.gio.DBusConnectionFlags
+        return self.gio.DBusConnection.new_for_address_sync(
+            address, flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None)
+
+    def close(self):
+        self.bus.close_sync(None)
+
+    def call(self, sender, path, interface, method, signature=None, *arguments):
+        packed = self.glib.Variant(signature, arguments) if signature else None
+        return self.bus.call_sync(sender, path, interface, method, packed, None, 0, PATIENCE, None).unpack()
+
+    def property(self, sender, path, interface, name):
+        return self.call(sender, path, "org.freedesktop.DBus.Properties", "Get", "(ss)", interface, name)[0]
+
+    def program(self):
+        """The program, or None while it has not connected."""
+        for sender, path in self.call(PACKAGE + "Registry", ROOT, PACKAGE + "Accessible", "GetChildren")[0]:
+            number, = self.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "GetConnectionUnixProcessID",
+                                "(s)", sender)
+            if number == self.process:
+                return Node(self, sender, path)
+        return None
+
+    def windows(self):
+        program = self.program()
+        return program.children if program else []
+
+
+# The side windows leave the main window and its title free.
+TWIPS = 15
+PLACES = {name: TWIPS * pixels for name, pixels in {
+    "MainLeft": 60, "MainTop": 60, "QSOLeft": 20, "QSOTop": 760, "QSOHeight": 60, "CallLeft": 420, "CallTop": 760, "CallHeight": 60,
+    "B4Left": 900, "B4Top": 740, "B4Width": 300, "B4Height": 100}.items()}
+
+
+class ReadableDesktop(Desktop):
+    """A desktop whose program tells what is on the screen."""
+
+    def __init__(self, data, manager="openbox"):
+        super().__init__(data, manager, bus=True)
+        self.surroundings["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        self.tree = None
+
+    def close(self):
+        if self.tree is not None:
+            self.tree.close()
+        super().close()
+
+    def start(self, program, main=MAIN, **more):
+        super().start(program, main, **more)
+        if self.tree is not None:
+            self.tree.close()
+        self.tree = Tree(self.surroundings["DBUS_SESSION_BUS_ADDRESS"], self.program.pid)
+        until(self.tree.program, "the accessibility of the program")
+
+    def set(self, **settings):
+        super().set(**PLACES | settings)
+
+    # What is there
+
+    def told(self, question):
+        """The answer, or None if what was asked about has gone."""
+        try:
+            return question()
+        except self.tree.faults:
+            return None
+
+    def top(self, title):
+        """The shown window with this title, or None."""
+        found = self.told(lambda: [node for node in self.tree.windows() if node.name == title and "showing" in node.states])
+        return found[0] if found else None
+
+    def active(self):
+        """The title of the window of the program that has the keys, or None."""
+        found = self.told(lambda: [node.name for node in self.tree.windows() if "active" in node.states])
+        return found[0] if found else None
+
+    def focus(self):
+        """The name of the widget with the keys, or None. The current line of a list without the keys calls itself focused too."""
+        def focused():
+            return [node.name for window in self.tree.windows() if "active" in window.states for node in window.all()
+                    if "focused" in node.states and node.role not in ("list item", "menu item")]
+        found = self.told(focused)
+        return found[0] if found else None
+
+    def node(self, role, name, title=MAIN):
+        return until(lambda: self.told(lambda: self.top(title).find(role, name)), f"{role} {name} of {title}")[0]
+
+    def text(self, name):
+        return self.node("text", name).text.strip()
+
+    def status(self):
+        """The texts of the status bar, from the left."""
+        return [label.name for label in self.node("status bar", "").find("label")]
+
+    # Waiting
+
+    def wait_active(self, title):
+        until(lambda: self.active() == title, f"the keys of {title}; they are at {self.active()}")
+
+    def wait_focus(self, name):
+        until(lambda: self.focus() == name, f"the focus in {name}; it is in {self.focus()}")
+
+    def wait_text(self, name, wanted):
+        until(lambda: self.text(name) == wanted, f"{wanted!r} in {name}, which has {self.text(name)!r}")
+
+    def wait_gone(self, title):
+        until(lambda: self.told(lambda: not [node for node in self.tree.windows() if node.name == title and "showing" in node.states]),
+              "the end of " + title)
+
+    def type(self, *keys, delay=15):
+        self.xdotool("key", "--delay", str(delay), *keys)
