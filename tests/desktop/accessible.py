@@ -1,17 +1,23 @@
 # SPDX-License-Identifier: MIT
 """The windows of a program as a screen reader finds them: names, roles, states, texts and rectangles, read from the accessibility bus."""
 import collections
+import contextlib
+import functools
 import os
 import subprocess
 import sys
 
-from desktop import Desktop, until
+from desktop import Desktop, Gone, until
 
 # The bindings of the system belong to the system's Python, which need not be the first in the path.
 SYSTEM = "/usr/bin/python3"
 LAUNCHERS = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
-# Of the main window.
+# The title of a side window.
+CHECK = "Call check                         QSOnr/modt.     UTC"
+# The main window, and the names of its widgets.
 MAIN = "Vatro OZ7FD/P"
+CALL, NUMBER = "Indtast call for den kørte station", "Modtaget rapportløbenr"
+LOG, OPERATOR, CLOCK = "Loggede QSO'er", "Operatør Call", "Tidspunkt"
 PACKAGE = "org.a11y.atspi."
 ROOT = "/org/a11y/atspi/accessible/root"
 PATIENCE = 5000
@@ -49,6 +55,28 @@ def overlap(one, other):
 
 def within(inner, outer):
     return overlap(inner, outer) == inner.width * inner.height
+
+
+def contrast(one, other):
+    """The contrast of two colours such as 0xff0000, from 1 to 21, as the guidelines for web content define it."""
+    def light(colour):
+        parts = [(colour >> shift & 0xff) / 255 for shift in (16, 8, 0)]
+        return sum(weight * (part / 12.92 if part <= 0.04045 else ((part + 0.055) / 1.055) ** 2.4)
+                   for weight, part in zip((0.2126, 0.7152, 0.0722), parts))
+
+    lights = sorted((light(one), light(other)))
+    return (lights[1] + 0.05) / (lights[0] + 0.05)
+
+
+def persistent(question):
+    """Asks again if a window has closed meanwhile."""
+    @functools.wraps(question)
+    def asked(*arguments):
+        for _ in range(20):
+            with contextlib.suppress(Gone):
+                return question(*arguments)
+        return question(*arguments)
+    return asked
 
 
 class Node:
@@ -95,11 +123,13 @@ class Node:
         """On the screen."""
         return Rectangle(*self.ask("Component", "GetExtents", "(u)", SCREEN)[0])
 
-    def all(self):
-        """This object and all below it."""
+    def all(self, closed=()):
+        """This object and all below it, but nothing below objects with a role in `closed`."""
         yield self
+        if closed and self.role in closed:
+            return
         for child in self.children:
-            yield from child.all()
+            yield from child.all(closed)
 
     def find(self, role, name=None):
         """The objects below this one with this role and name."""
@@ -115,7 +145,6 @@ class Tree:
     def __init__(self, address, process):
         from gi.repository import Gio, GLib
         self.gio, self.glib = Gio, GLib
-        self.faults = (GLib.Error,)
         self.process = process
         session = self.connect(address)
         answer = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, PATIENCE, None)
@@ -132,7 +161,10 @@ class Tree:
 
     def call(self, sender, path, interface, method, signature=None, *arguments):
         packed = self.glib.Variant(signature, arguments) if signature else None
-        return self.bus.call_sync(sender, path, interface, method, packed, None, 0, PATIENCE, None).unpack()
+        try:
+            return self.bus.call_sync(sender, path, interface, method, packed, None, 0, PATIENCE, None).unpack()
+        except self.glib.Error as fault:
+            raise Gone(fault.message) from fault
 
     def property(self, sender, path, interface, name):
         return self.call(sender, path, "org.freedesktop.DBus.Properties", "Get", "(ss)", interface, name)[0]
@@ -165,6 +197,7 @@ class ReadableDesktop(Desktop):
         super().__init__(data, manager, bus=True)
         self.surroundings["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         self.tree = None
+        self.nodes = {}
 
     def close(self):
         if self.tree is not None:
@@ -173,6 +206,7 @@ class ReadableDesktop(Desktop):
 
     def start(self, program, main=MAIN, **more):
         super().start(program, main, **more)
+        self.nodes = {}
         if self.tree is not None:
             self.tree.close()
         self.tree = Tree(self.surroundings["DBUS_SESSION_BUS_ADDRESS"], self.program.pid)
@@ -181,35 +215,55 @@ class ReadableDesktop(Desktop):
     def set(self, **settings):
         super().set(**PLACES | settings)
 
+    @contextlib.contextmanager
+    def alive(self, program, **more):
+        """The program, which is asked to end at the end, and is gone behind it in any case: cases share a screen."""
+        self.start(program, **more)
+        try:
+            yield
+            self.end()
+        except BaseException:
+            self.picture_of_fault()
+            raise
+        finally:
+            self.program.kill()
+            self.program.wait()
+
+    def end(self):
+        self.program.terminate()
+        told = self.ended()
+        assert told == (0, ""), f"the program ended with {told}"
+
     # What is there
 
-    def told(self, question):
-        """The answer, or None if what was asked about has gone."""
-        try:
-            return question()
-        except self.tree.faults:
-            return None
+    @persistent
+    def shown(self):
+        return [node for node in self.tree.windows() if "showing" in node.states]
 
     def top(self, title):
-        """The shown window with this title, or None."""
-        found = self.told(lambda: [node for node in self.tree.windows() if node.name == title and "showing" in node.states])
-        return found[0] if found else None
+        """The shown window with this title."""
+        for node in self.shown():
+            if node.name == title:
+                return node
+        raise Gone(title)
 
+    @persistent
     def active(self):
         """The title of the window of the program that has the keys, or None."""
-        found = self.told(lambda: [node.name for node in self.tree.windows() if "active" in node.states])
-        return found[0] if found else None
+        return next((node.name for node in self.tree.windows() if "active" in node.states), None)
 
+    @persistent
     def focus(self):
-        """The name of the widget with the keys, or None. The current line of a list without the keys calls itself focused too."""
-        def focused():
-            return [node.name for window in self.tree.windows() if "active" in window.states for node in window.all()
-                    if "focused" in node.states and node.role not in ("list item", "menu item")]
-        found = self.told(focused)
-        return found[0] if found else None
+        """The name of the widget with the keys, or None. Not looked for in a list, whose current line always calls itself focused."""
+        return next((node.name for window in self.tree.windows() if "active" in window.states
+                     for node in window.all(("menu bar", "list")) if "focused" in node.states), None)
 
     def node(self, role, name, title=MAIN):
-        return until(lambda: self.told(lambda: self.top(title).find(role, name)), f"{role} {name} of {title}")[0]
+        """Found once in the life of the program, because looking through a whole window takes long."""
+        key = role, name, title
+        if key not in self.nodes:
+            self.nodes[key] = until(lambda: self.top(title).find(role, name), f"{role} {name} of {title}")[0]
+        return self.nodes[key]
 
     def text(self, name):
         return self.node("text", name).text.strip()
@@ -221,17 +275,16 @@ class ReadableDesktop(Desktop):
     # Waiting
 
     def wait_active(self, title):
-        until(lambda: self.active() == title, f"the keys of {title}; they are at {self.active()}")
+        until(lambda: self.active() == title, lambda: f"the keys of {title}; they are at {self.active()}")
 
     def wait_focus(self, name):
-        until(lambda: self.focus() == name, f"the focus in {name}; it is in {self.focus()}")
+        until(lambda: self.focus() == name, lambda: f"the focus in {name}; it is in {self.focus()}")
 
     def wait_text(self, name, wanted):
-        until(lambda: self.text(name) == wanted, f"{wanted!r} in {name}, which has {self.text(name)!r}")
+        until(lambda: self.text(name) == wanted, lambda: f"{wanted!r} in {name}, which has {self.text(name)!r}")
 
     def wait_gone(self, title):
-        until(lambda: self.told(lambda: not [node for node in self.tree.windows() if node.name == title and "showing" in node.states]),
-              "the end of " + title)
+        until(lambda: all(node.name != title for node in self.shown()), "the end of " + title)
 
     def type(self, *keys, delay=15):
         self.xdotool("key", "--delay", str(delay), *keys)

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """The program on a virtual screen with a temporary home, settings and logs, operated with keys."""
 import collections
+import contextlib
 import os
 import pathlib
 import re
@@ -14,7 +15,7 @@ import time
 
 TOOLS = ("Xvfb", "openbox", "xdotool", "weston")
 SKIPPED = 77
-PATIENCE = 20
+PATIENCE = int(os.environ.get("PAT", 20))
 
 
 def skip_without_tools(*more, others=()):
@@ -26,14 +27,19 @@ def skip_without_tools(*more, others=()):
         sys.exit(1 if os.environ.get("CI") == "true" else SKIPPED)
 
 
+class Gone(AssertionError):
+    """What the question is about has closed."""
+
+
 def until(holds, what):
-    """Waits until `holds` returns a true value, and returns it."""
+    """Waits until `holds` returns a true value, and returns it. `what` may be a procedure that tells it at the end."""
     end = time.monotonic() + PATIENCE
     while time.monotonic() < end:
-        if result := holds():
-            return result
-        time.sleep(0.05)
-    raise AssertionError("waited in vain for " + what)
+        with contextlib.suppress(Gone):
+            if result := holds():
+                return result
+        time.sleep(0.02)
+    raise AssertionError("waited in vain for " + (what if isinstance(what, str) else what()))
 
 
 Compositor = collections.namedtuple("Compositor", "name process")
@@ -107,9 +113,13 @@ class Desktop:
         return self
 
     def __exit__(self, fault, *_):
-        if fault is not None and "VATRO_PICTURES" in os.environ:
-            self.picture(os.path.join(os.environ["VATRO_PICTURES"], f"fault-{os.getpid()}-{time.time():.0f}.png"))
+        if fault is not None and fault is not SystemExit:
+            self.picture_of_fault()
         self.close()
+
+    def picture_of_fault(self):
+        if "VATRO_PICTURES" in os.environ:
+            self.picture(os.path.join(os.environ["VATRO_PICTURES"], f"fault-{os.getpid()}-{time.time():.0f}.png"))
 
     def lose_screen(self):
         self.screen.kill()
@@ -223,9 +233,10 @@ def run(cases):
     """Runs each test and prints its result; returns the exit code of the script."""
     faults = 0
     for case in cases:
+        begin = time.monotonic()
         try:
             case()
-            print("ok    ", case.__name__.replace("_", " "), flush=True)
+            print("ok    ", case.__name__.replace("_", " "), f"({time.monotonic() - begin:.1f} s)", flush=True)
         except (AssertionError, subprocess.CalledProcessError) as fault:
             faults += 1
             print("FAILED", case.__name__.replace("_", " ") + ":", fault, flush=True)

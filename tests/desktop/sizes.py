@@ -1,0 +1,163 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""
+    sizes.py PROGRAM DATA MANAGER [CASE...]
+
+Checks the main window while it is maximised, restored and restarted, and while the text grows and shrinks: the size and the state are
+those of before, and the newest line of the log is in sight. Runs every case, or those named, under this window manager. Skipped if
+something it needs is not installed.
+"""
+import contextlib
+import sys
+
+from accessible import MAIN, ReadableDesktop, missing_tools, within
+from desktop import run, skip_without_tools, until
+
+PROGRAM, DATA, MANAGER = sys.argv[1:4]
+CONTACTS = 60
+LOG = "Loggede QSO'er"
+CALL = "Indtast call for den kørte station"
+MAXIMISED = {"_NET_WM_STATE_MAXIMIZED_VERT", "_NET_WM_STATE_MAXIMIZED_HORZ"}
+FULL_SCREEN = "_NET_WM_STATE_FULLSCREEN"
+
+
+def expect(found, wanted, what):
+    assert found == wanted, f"{what} is {found!r} instead of {wanted!r}"
+
+
+class Station(ReadableDesktop):
+    """One screen for all cases; each case starts the program with fresh settings."""
+
+    @contextlib.contextmanager
+    def up(self):
+        (self.log / "FD80mSSB.txt").write_text("".join(
+            f"13:{number % 60:02d} DL{number}AA".ljust(21) + f"59 -{number:04d} 59 -{number:04d}  3 {'DL' if number == 1 else '':10s} "
+            "OZ1AB      SSB   05-09-26\r\n" for number in range(1, CONTACTS + 1)), newline="")
+        self.set(UTC=0)
+        with self.alive(PROGRAM):
+            yield
+
+    def restart(self):
+        self.end()
+        self.start(PROGRAM)
+
+    # The window
+
+    def size(self):
+        return self.rectangle(MAIN)[2:]
+
+    def wait_size(self, wanted, what):
+        until(lambda: self.size() == wanted, lambda: f"{what}, {wanted}; it is {self.size()}")
+
+    def maximised(self):
+        return MAXIMISED <= self.states(MAIN)
+
+    def click_title(self):
+        """Maximises or restores the window with a double click on its title."""
+        before = self.maximised()
+        left, top, width, _ = self.rectangle(MAIN)
+        self.xdotool("mousemove", str(left + width // 2), str(top - 8), "click", "--repeat", "2", "--delay", "50", "1")
+        until(lambda: self.maximised() != before, "the effect of a double click on the title")
+        # The program follows the window manager.
+        self.settled()
+
+    def full_screen(self):
+        before = FULL_SCREEN in self.states(MAIN)
+        self.type("F11")
+        until(lambda: (FULL_SCREEN in self.states(MAIN)) != before, "the effect of F11")
+        self.settled()
+
+    def settled(self):
+        """Waits until the window of the screen and the one that the program knows are the same."""
+        until(lambda: self.size() == self.top(MAIN).rectangle[2:], "a size that the program and the screen agree on")
+
+    def zoom(self, key, times=1):
+        """Presses a key that changes the size of the text, and waits for each change."""
+        for _ in range(times):
+            before = self.text_size()
+            self.type(key)
+            until(lambda: self.text_size() != before, f"the effect of {key}")
+        self.settled()
+
+    def text_size(self):
+        return self.node("label", "UTC: Call: RST sendt: RST modtaget:").rectangle.height, self.node("text", CALL).rectangle.height
+
+    # The log
+
+    def newest_in_sight(self):
+        rows = self.node("list", LOG)
+        newest = rows.children[-1]
+        assert f"DL{CONTACTS}AA" in newest.name, f"the last line is {newest.name!r}"
+        # A window that is too narrow can be scrolled; the lines begin at its left edge.
+        left, top, width, height = self.top(MAIN).rectangle
+        row = newest.rectangle
+        return within(row, rows.rectangle) and top <= row.top and row.top + row.height <= top + height and left <= row.left < left + width
+
+    def expect_newest_in_sight(self, when):
+        until(self.newest_in_sight, "the newest line " + when)
+
+
+def the_newest_line_is_in_sight_at_each_size():
+    with station.up():
+        station.expect_newest_in_sight("at the start")
+        for when, change in (("when maximised", station.click_title), ("with larger text", lambda: station.zoom("ctrl+plus", 3)),
+                             ("when restored", station.click_title), ("in full screen", station.full_screen),
+                             ("behind full screen", station.full_screen), ("with smaller text", lambda: station.zoom("ctrl+minus", 5))):
+            change()
+            station.expect_newest_in_sight(when)
+        station.restart()
+        station.expect_newest_in_sight("behind a restart")
+
+
+def a_maximised_window_comes_back_maximised_and_restores_to_its_size():
+    with station.up():
+        normal = station.size()
+        station.click_title()
+        large = station.size()
+        station.restart()
+        until(station.maximised, "the maximised window")
+        station.settled()
+        station.wait_size(large, "the maximised size behind the restart")
+        station.click_title()
+        station.wait_size(normal, "the restored size")
+
+
+def a_size_and_a_text_size_come_back():
+    with station.up():
+        station.zoom("ctrl+plus", 2)
+        zoomed, text = station.size(), station.text_size()
+        station.restart()
+        station.settled()
+        expect(station.text_size(), text, "the size of the text behind the restart")
+        station.wait_size(zoomed, "the size of the window behind the restart")
+
+
+def the_normal_text_brings_back_the_size_of_before():
+    with station.up():
+        normal, text = station.size(), station.text_size()
+        for key in ("ctrl+plus", "ctrl+minus"):
+            station.zoom(key, 3)
+            station.zoom("ctrl+0")
+            expect(station.text_size(), text, f"the size of the text behind {key} and Ctrl+0")
+            station.wait_size(normal, f"the size behind {key} and Ctrl+0")
+
+
+def the_normal_text_in_a_maximised_window_leaves_its_size():
+    with station.up():
+        normal = station.size()
+        station.click_title()
+        large = station.size()
+        station.zoom("ctrl+plus", 3)
+        station.wait_size(large, "the maximised size with larger text")
+        station.zoom("ctrl+0")
+        station.wait_size(large, "the maximised size behind Ctrl+0")
+        station.click_title()
+        station.wait_size(normal, "the restored size")
+
+
+if __name__ == "__main__":
+    skip_without_tools(MANAGER, "dbus-daemon", "xprop", "xwininfo", others=missing_tools())
+    chosen = sys.argv[4:]
+    with Station(DATA, MANAGER) as station:
+        sys.exit(run([case for name, case in list(globals().items())
+                      if name.startswith(("a_", "the_")) and (not chosen or name in chosen)]))
