@@ -216,12 +216,12 @@ class ReadableDesktop(Desktop):
         super().set(**PLACES | settings)
 
     @contextlib.contextmanager
-    def alive(self, program, **more):
-        """The program, which is asked to end at the end, and is gone behind it in any case: cases share a screen."""
+    def alive(self, program, said="", **more):
+        """The program, which is asked to end at the end, having said this, and is gone behind it in any case: cases share a screen."""
         self.start(program, **more)
         try:
             yield
-            self.end()
+            self.end(said)
         except BaseException:
             self.picture_of_fault()
             raise
@@ -229,10 +229,10 @@ class ReadableDesktop(Desktop):
             self.program.kill()
             self.program.wait()
 
-    def end(self):
+    def end(self, said=""):
         self.program.terminate()
         told = self.ended()
-        assert told == (0, ""), f"the program ended with {told}"
+        assert told == (0, said), f"the program ended with {told}"
 
     # What is there
 

@@ -39,6 +39,10 @@ desktop/print_server.py vatro data
 desktop/clock.py vatro data
 desktop/copy.py vatro data
 desktop/first_page.py vatro data
+desktop/sizes.py vatro data openbox
+desktop/keyboard.py vatro data openbox
+desktop/menus.py vatro data openbox
+desktop/keys.py vatro data
 typing/typing.sh vatro data
 typing/typing_while_sending.sh vatro data
 power/kill_corrections.py vatro data
