@@ -270,7 +270,7 @@ class ReadableDesktop(Desktop):
 
     def status(self):
         """The texts of the status bar, from the left."""
-        return [label.name for label in self.node("status bar", "").find("label")]
+        return [label.name.strip() for label in self.node("status bar", "").find("label")]
 
     # Waiting
 

@@ -3,7 +3,7 @@
 #
 #   with_window_manager.sh MANAGER minimising.sh VATRO DATA
 #
-# Minimises and restores the program twice, as the window frame and the task bar do. While it is minimised, the main window, the
+# Minimises and restores the program ten times, as the window frame and the task bar do. While it is minimised, the main window, the
 # next number and the worked-before list are off the screen, and the contest call stays visible. When it is restored, all of
 # them are where they were, and the main window has the focus. The positions stored at the end are those of the start.
 set -euo pipefail
@@ -51,7 +51,8 @@ main='^Vatro OZ1AB$' number='^Næste QSO nr$' call='^Contest Call$' before='^Cal
 all=("$main" "$number" "$call" "$before")
 window_of() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
 seen() { if [ -n "$(window_of "$1")" ]; then echo shown; else echo hidden; fi; }
-# The required state of the screen: "shown" or "hidden" for each window. It must be reached, and must then stay.
+# The required state of the screen: "shown" or "hidden" for each window. It must be reached, and must then stay for $stays seconds.
+stays=0.5
 becomes() {
     local wanted="$*" now=
     for _ in $(seq 100); do
@@ -59,7 +60,7 @@ becomes() {
         [ "$now" != "$wanted" ] || break
         sleep 0.1
     done
-    sleep 0.5
+    sleep $stays
     # Tries again if needed: the search finds nothing if any window closes at that moment.
     for _ in 1 2 3; do
         now=$(for window in "${all[@]}"; do seen "$window"; done | xargs)
@@ -87,7 +88,9 @@ becomes shown shown shown shown
 first=$(places)
 main_id=$(window_of "$main")
 
-for round in 1 2; do
+for round in $(seq 10); do
+    # What creeps in from round to round does not depend on the time between them.
+    [ "$round" -lt 3 ] || stays=0.1
     xdotool windowminimize "$main_id"
     becomes hidden hidden shown hidden
     xdotool windowactivate "$main_id"

@@ -9,12 +9,12 @@ set -euo pipefail
 . "$(dirname "$0")/../skip.sh"
 manager=$1
 shift
-need Xvfb xdotool xprop dbus-run-session "$manager"
+need Xvfb xdotool xprop dbus-daemon "$manager"
 
 world=$(mktemp -d)
-screen= running=
+screen= running= bus=
 finish() {
-    for process in $running $screen; do
+    for process in $running $bus $screen; do
         kill "$process" 2>/dev/null && wait "$process" 2>/dev/null || true
     done
     rm -rf "$world"
@@ -34,7 +34,13 @@ read -r number <"$world/display" || { cat "$world/screen.log"; exit 1; }
 export DISPLAY=:$number
 
 case $manager in
-    xfwm4) dbus-run-session -- xfwm4 --compositor=off >"$HOME/wm.log" 2>&1 & ;;
+    xfwm4)
+        mkfifo "$world/address"
+        dbus-daemon --session --nofork --nopidfile --print-address=3 3>"$world/address" >"$world/bus.log" 2>&1 &
+        bus=$!
+        read -r address <"$world/address" || { cat "$world/bus.log"; exit 1; }
+        DBUS_SESSION_BUS_ADDRESS=$address xfwm4 --compositor=off >"$HOME/wm.log" 2>&1 &
+        ;;
     *) "$manager" >"$HOME/wm.log" 2>&1 & ;;
 esac
 running=$!
