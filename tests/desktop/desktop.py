@@ -150,7 +150,7 @@ class Desktop:
     def start(self, program, main="Vatro OZ7FD/P", **more):
         self.program = subprocess.Popen([program], cwd=self.data, env=dict(self.surroundings, **more), stderr=subprocess.PIPE)
         if main is not None:
-            self.keys_go_to(main)
+            self.keys_go_to(main, rest=0.1)
 
     def rectangle(self, title):
         """Left, top, width and height of the window without its frame."""
@@ -181,18 +181,21 @@ class Desktop:
     def window(self, title):
         return until(lambda: self.windows(title), "the window " + title)[0]
 
-    def keys_go_to(self, title):
+    def keys_go_to(self, title, rest=0.25):
+        """`rest`: the seconds to wait behind that. A box answers no key for a fifth of a second."""
         window = self.window(title)
 
+        def told(question):
+            return subprocess.run(["xdotool", question], env=self.surroundings, capture_output=True, text=True, check=False).stdout.strip()
 
         def active():
+            if told("getactivewindow") == told("getwindowfocus") == window:
+                return True
             subprocess.run(["xdotool", "windowactivate", window], env=self.surroundings, capture_output=True, check=False)
-            time.sleep(0.1)
-            return subprocess.run(["xdotool", "getactivewindow"], env=self.surroundings, capture_output=True, text=True,
-                                  check=False).stdout.strip() == window
+            return False
 
         until(active, "the keys of " + title)
-        time.sleep(0.2)
+        time.sleep(rest)
 
     def xdotool(self, *words):
         subprocess.run(["xdotool", *words], env=self.surroundings, check=True, stderr=subprocess.DEVNULL)
