@@ -134,6 +134,11 @@ def a_maximised_window_comes_back_maximised_and_restores_to_its_size():
 
 def a_size_and_a_text_size_come_back():
     with station.up():
+        # Another size than the one that fits the text.
+        width, height = station.size()
+        wanted = width + 130, height + 70
+        station.xdotool("windowsize", station.window(MAIN), *map(str, wanted))
+        station.wait_size(wanted, "the size that the operator gives the window")
         station.zoom("ctrl+plus", 2)
         zoomed, text = station.size(), station.text_size()
         station.restart()
