@@ -17,7 +17,7 @@ CHECK = "Call check                         QSOnr/modt.     UTC"
 # The main window, and the names of its widgets.
 MAIN = "Vatro OZ7FD/P"
 CALL, NUMBER = "Indtast call for den kørte station", "Modtaget rapportløbenr"
-LOG, OPERATOR, CLOCK = "Loggede QSO'er", "Operatør Call", "Tidspunkt"
+LOG = "Loggede QSO'er"
 PACKAGE = "org.a11y.atspi."
 ROOT = "/org/a11y/atspi/accessible/root"
 PATIENCE = 5000
@@ -144,7 +144,7 @@ class Tree:
 
     def __init__(self, address, process):
         from gi.repository import Gio, GLib
-        self.gio, self.glib = Gio, GLib
+        self.connections, self.values = Gio, GLib
         self.process = process
         session = self.connect(address)
         answer = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, PATIENCE, None)
@@ -152,18 +152,18 @@ class Tree:
         self.bus = self.connect(answer.unpack()[0])
 
     def connect(self, address):
-        flags = self.gio.DBusConnectionFlags
-        return self.gio.DBusConnection.new_for_address_sync(
+        flags = self.connections.DBusConnectionFlags
+        return self.connections.DBusConnection.new_for_address_sync(
             address, flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None)
 
     def close(self):
         self.bus.close_sync(None)
 
     def call(self, sender, path, interface, method, signature=None, *arguments):
-        packed = self.glib.Variant(signature, arguments) if signature else None
+        packed = self.values.Variant(signature, arguments) if signature else None
         try:
             return self.bus.call_sync(sender, path, interface, method, packed, None, 0, PATIENCE, None).unpack()
-        except self.glib.Error as fault:
+        except self.values.Error as fault:
             raise Gone(fault.message) from fault
 
     def property(self, sender, path, interface, name):

@@ -11,13 +11,11 @@ import contextlib
 import sys
 import time
 
-from accessible import MAIN, ReadableDesktop, missing_tools, within
+from accessible import CALL, LOG, MAIN, ReadableDesktop, missing_tools, within
 from desktop import run, skip_without_tools, until
 
 PROGRAM, DATA, MANAGER = sys.argv[1:4]
 CONTACTS = 60
-LOG = "Loggede QSO'er"
-CALL = "Indtast call for den kørte station"
 MAXIMISED = {"_NET_WM_STATE_MAXIMIZED_VERT", "_NET_WM_STATE_MAXIMIZED_HORZ"}
 FULL_SCREEN = "_NET_WM_STATE_FULLSCREEN"
 
