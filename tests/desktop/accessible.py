@@ -217,7 +217,7 @@ class ReadableDesktop(Desktop):
 
     @contextlib.contextmanager
     def alive(self, program, said="", **more):
-        """The program, which is asked to end at the end, having said this, and is gone behind it in any case: cases share a screen."""
+        """The program. It is asked to end afterwards and must have said this; it is killed if the case fails, because cases share a screen."""
         self.start(program, **more)
         try:
             yield

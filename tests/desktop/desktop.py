@@ -182,7 +182,7 @@ class Desktop:
         return until(lambda: self.windows(title), "the window " + title)[0]
 
     def keys_go_to(self, title, rest=0.25):
-        """`rest`: the seconds to wait behind that. A box answers no key for a fifth of a second."""
+        """`rest`: the seconds to wait after that. A box answers no key for a fifth of a second."""
         window = self.window(title)
 
         def told(question):

@@ -95,7 +95,7 @@ def an_enter_that_bounces_logs_one_contact_and_opens_no_box():
             station.type(*f"dl{number}aa", "space", "1", str(number))
             station.type("Return", "Return", delay=bounce)
             station.wait_for_contacts(number)
-            # The next call arrives behind the second Enter, so that one has been dealt with.
+            # The letter arrives after the second Enter, so that one has been dealt with.
             station.type("x")
             station.wait_text(CALL, "X")
             expect(station.boxes(), [], f"with {bounce} ms between two Enters, what has opened")

@@ -71,9 +71,9 @@ class Player(ReadableDesktop):
         super().__init__(DATA)
         self.presses = 0
 
-    def play(self, steps, typed=(), behind=()):
-        """`typed`: what to type for a step that is no key. `behind`: what to wait for behind the key of this number, from 1."""
-        typed, behind = dict(typed), dict(behind)
+    def play(self, steps, typed=(), after=()):
+        """`typed`: what to type for a step that is no key. `after`: what to wait for after the key of this number, from 1."""
+        typed, after = dict(typed), dict(after)
         self.presses = 0
         for is_key, step in steps:
             if not is_key:
@@ -82,8 +82,8 @@ class Player(ReadableDesktop):
                 continue
             self.type(PRESSES.get(step, step[:-1] + step[-1].lower() if step[-2:-1] == "+" else step))
             self.presses += 1
-            if self.presses in behind:
-                behind[self.presses]()
+            if self.presses in after:
+                after[self.presses]()
 
     def lines(self, log):
         file = self.log / log

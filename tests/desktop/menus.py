@@ -4,7 +4,7 @@
     menus.py PROGRAM DATA MANAGER
 
 Chooses every command of every menu by keyboard under this window manager, except the one that ends the program, and closes what opens.
-Behind each of them a typed letter must arrive in the call field. Commands that open a window are listed here with its title; a command
+After each of them a typed letter must arrive in the call field. Commands that open a window are listed here with its title; a command
 that is not listed must open none. Skipped if something it needs is not installed.
 """
 import sys
@@ -19,7 +19,7 @@ LINE = "13:00 DL9XYZ          59 -0001 59 -0345  3 DL         OZ1AB      SSB   0
 BOX, QUESTION = "vatro", "Bånd/modeskift"
 PDF = "Gem udskriften som PDF"
 ENDS = ("Filer", "Afslut")
-# What opens, one behind the other, by the command or by the menu that it is in.
+# What opens, one after the other, by the command or by the menu that it is in.
 OPENS = {
     ("Filer", "Sæt Logbibliotek..."): ["Vælg eller opret logbibliotek", BOX],
     ("Filer", "Backup", "Kopi af log"): [BOX],
@@ -90,7 +90,7 @@ class Station(ReadableDesktop):
             if title != opens[0] and title not in BOXES:
                 # When a box over this window closes, the window manager may give the keys back to the main window.
                 self.keys_go_to(title)
-            until(lambda: self.active() == title, lambda: f"{title} behind {', '.join(path)}; the keys are at {self.active()}")
+            until(lambda: self.active() == title, lambda: f"{title} after {', '.join(path)}; the keys are at {self.active()}")
             if title in BOXES:
                 time.sleep(UNSEEN)
             self.type(ANSWERS.get(title, "Escape"))
@@ -99,11 +99,11 @@ class Station(ReadableDesktop):
 
     def expect_letter_in_call(self, path):
         self.type("x")
-        until(lambda: self.text(CALL) == "X", lambda: f"the letter in the call field behind {', '.join(path)}; the keys are at {self.focus()}")
+        until(lambda: self.text(CALL) == "X", lambda: f"the letter in the call field after {', '.join(path)}; the keys are at {self.focus()}")
         self.type("Escape")
         self.wait_text(CALL, "")
 
-    def expect_letters_behind(self, menus):
+    def expect_letters_after(self, menus):
         """Chooses every command of these menus, and those that can be ticked twice, so that they end as they were."""
         faults, count = [], 0
         for menu in self.top(MAIN).find("menu bar")[0].children:
@@ -116,18 +116,18 @@ class Station(ReadableDesktop):
                 self.choose(path, steps, item)
                 self.close_what_opens(path)
                 again = ("checked" in item.states) != ticked and path[:-1] not in ONE_OF_SOME
-                faults += self.faults_behind(path)
+                faults += self.faults_after(path)
                 if again:
                     self.choose(path, steps, item)
                     if path in SIDES:
                         # It must not take the keys when the window manager shows it.
                         self.window(SIDES[path])
-                    faults += self.faults_behind(path)
+                    faults += self.faults_after(path)
                 count += 1
         assert not faults, "\n".join(faults)
         return count
 
-    def faults_behind(self, path):
+    def faults_after(self, path):
         try:
             self.expect_letter_in_call(path)
         except AssertionError as fault:
@@ -137,22 +137,22 @@ class Station(ReadableDesktop):
         return []
 
 
-def behind_each_command_a_letter_goes_to_the_call():
+def after_each_command_a_letter_goes_to_the_call():
     station.set(UTC=0)
     (station.log / "FD80mSSB.txt").write_text(LINE, newline="")
     with station.alive(PROGRAM):
-        count = station.expect_letters_behind(set(ACCESS) - {"CW"})
+        count = station.expect_letters_after(set(ACCESS) - {"CW"})
         assert count > 70, f"only {count} commands were found"
 
 
-def behind_each_text_that_cannot_be_sent_a_letter_goes_to_the_call():
+def after_each_text_that_cannot_be_sent_a_letter_goes_to_the_call():
     station.set(UTC=0, Mode="CW", QsoMode="CW")
     with station.alive(PROGRAM, said=SILENT, PULSE_SERVER="unix:/nowhere/native"):
-        count = station.expect_letters_behind({"CW"})
+        count = station.expect_letters_after({"CW"})
         assert count == 9, f"{count} commands were found"
 
 
 if __name__ == "__main__":
     skip_without_tools(MANAGER, "dbus-daemon", others=missing_tools())
     with Station(DATA, MANAGER) as station:
-        sys.exit(run([behind_each_command_a_letter_goes_to_the_call, behind_each_text_that_cannot_be_sent_a_letter_goes_to_the_call]))
+        sys.exit(run([after_each_command_a_letter_goes_to_the_call, after_each_text_that_cannot_be_sent_a_letter_goes_to_the_call]))

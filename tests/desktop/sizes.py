@@ -110,11 +110,11 @@ def the_newest_line_is_in_sight_at_each_size():
         station.expect_newest_in_sight("at the start")
         for when, change in (("when maximised", station.click_title), ("with larger text", lambda: station.zoom("ctrl+plus", 3)),
                              ("when restored", station.click_title), ("in full screen", station.full_screen),
-                             ("behind full screen", station.full_screen), ("with smaller text", lambda: station.zoom("ctrl+minus", 5))):
+                             ("after full screen", station.full_screen), ("with smaller text", lambda: station.zoom("ctrl+minus", 5))):
             change()
             station.expect_newest_in_sight(when)
         station.restart()
-        station.expect_newest_in_sight("behind a restart")
+        station.expect_newest_in_sight("after a restart")
 
 
 def a_maximised_window_comes_back_maximised_and_restores_to_its_size():
@@ -125,7 +125,7 @@ def a_maximised_window_comes_back_maximised_and_restores_to_its_size():
         station.restart()
         until(station.maximised, "the maximised window")
         station.settled()
-        station.wait_size(large, "the maximised size behind the restart")
+        station.wait_size(large, "the maximised size after the restart")
         station.click_title()
         station.wait_size(normal, "the restored size")
 
@@ -141,8 +141,8 @@ def a_size_and_a_text_size_come_back():
         zoomed, text = station.size(), station.text_size()
         station.restart()
         station.settled()
-        expect(station.text_size(), text, "the size of the text behind the restart")
-        station.wait_size(zoomed, "the size of the window behind the restart")
+        expect(station.text_size(), text, "the size of the text after the restart")
+        station.wait_size(zoomed, "the size of the window after the restart")
 
 
 def the_normal_text_brings_back_the_size_of_before():
@@ -151,8 +151,8 @@ def the_normal_text_brings_back_the_size_of_before():
         for key in ("ctrl+plus", "ctrl+minus"):
             station.zoom(key, 3)
             station.zoom("ctrl+0")
-            expect(station.text_size(), text, f"the size of the text behind {key} and Ctrl+0")
-            station.wait_size(normal, f"the size behind {key} and Ctrl+0")
+            expect(station.text_size(), text, f"the size of the text after {key} and Ctrl+0")
+            station.wait_size(normal, f"the size after {key} and Ctrl+0")
 
 
 def the_normal_text_in_a_maximised_window_leaves_its_size():
@@ -163,7 +163,7 @@ def the_normal_text_in_a_maximised_window_leaves_its_size():
         station.zoom("ctrl+plus", 3)
         station.wait_size(large, "the maximised size with larger text")
         station.zoom("ctrl+0")
-        station.wait_size(large, "the maximised size behind Ctrl+0")
+        station.wait_size(large, "the maximised size after Ctrl+0")
         station.click_title()
         station.wait_size(normal, "the restored size")
 
