@@ -217,7 +217,7 @@ class ReadableDesktop(Desktop):
 
     @contextlib.contextmanager
     def alive(self, program, said="", **more):
-        """The program. It is asked to end afterwards and must have said this; it is killed if the case fails, because cases share a screen."""
+        """The program. Asked to end afterwards, when it must have said this; killed if the case fails, because cases share a screen."""
         self.start(program, **more)
         try:
             yield

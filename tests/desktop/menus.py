@@ -99,7 +99,8 @@ class Station(ReadableDesktop):
 
     def expect_letter_in_call(self, path):
         self.type("x")
-        until(lambda: self.text(CALL) == "X", lambda: f"the letter in the call field after {', '.join(path)}; the keys are at {self.focus()}")
+        until(lambda: self.text(CALL) == "X",
+              lambda: f"the letter in the call field after {', '.join(path)}; the keys are at {self.focus()}")
         self.type("Escape")
         self.wait_text(CALL, "")
 
