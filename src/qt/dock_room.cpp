@@ -106,7 +106,8 @@ void DockRoom::FitWidth() {
     const auto* own = findChild<ItemList*>();
     if (list == nullptr || own == nullptr) return;
     layout()->setContentsMargins(kGap, 0, 0, 0);
-    const int room = parentWidget()->layout()->contentsRect().width() - kGap;
+    const QMargins margins = parentWidget()->layout()->contentsMargins();
+    const int room = parentWidget()->width() - margins.left() - margins.right() - kGap;
     const int wanted = WidthOf(*own, columns_) + BarOf(*own);
     const int rest = room - WidthOf(*list, listColumns_) - BarOf(*list) - wanted;
     setFixedWidth(kGap + qMax(wanted + (rest > 0 ? rest / kShareOfRest : rest), WidthOf(*own, least_)));
