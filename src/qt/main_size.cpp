@@ -85,6 +85,7 @@ void MainSize::Restore(QMainWindow& window) {
         window.resize(*first);
     else
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
+    own_ = window.size();
     const std::string state = settings_.Read(kWindowSection, kState).value_or("");
     if (state == kMaximised) window.setWindowState(window.windowState() | Qt::WindowMaximized);
     if (state == kFullScreen) window.setWindowState(window.windowState() | Qt::WindowFullScreen);
@@ -112,12 +113,10 @@ void MainSize::Store() {
     if (window_ == nullptr || window_->isMinimized()) return;
     const bool whole = window_->isFullScreen();
     const bool large = whole || window_->isMaximized();
-    const QSize size = large ? window_->normalGeometry().size() : OwnSize(*window_);
+    if (!large) own_ = OwnSize(*window_);
     settings_.BeginBatch();
-    if (!size.isEmpty()) {
-        settings_.Write(kWindowSection, kWidth, PlainNumber(size.width()));
-        settings_.Write(kWindowSection, kHeight, PlainNumber(size.height()));
-    }
+    settings_.Write(kWindowSection, kWidth, PlainNumber(own_.width()));
+    settings_.Write(kWindowSection, kHeight, PlainNumber(own_.height()));
     settings_.Write(kWindowSection, kState, whole ? kFullScreen : large ? kMaximised : std::string_view());
     settings_.EndBatch();
 }

@@ -48,6 +48,8 @@ private:
     Settings& settings_;
     QPointer<QMainWindow> window_;
     QPointer<QAction> fullScreen_;
+    /// The window's own size when it last did not fill the screen. Not every window manager lets Qt know it.
+    QSize own_;
     /// A window that is being dragged changes its size many times a second.
     QTimer soon_;
 };
