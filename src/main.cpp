@@ -24,6 +24,7 @@
 #include "first_page.h"
 #include "frame/start.h"
 #include "lamps.h"
+#include "last_line.h"
 #include "main_size.h"
 #include "morse_speed.h"
 #include "paper_ends.h"
@@ -77,6 +78,7 @@ Outcome Run() {
     const vatro::Desktop desktop(front, help);
     vatro::MarkCalls(front);
     const vatro::PaperEnds paperEnds(front, papers, pages);
+    vatro::AddLastLine(front);
     const vatro::MainSize size(front, settings);
     const vatro::Docking docking(front, settings);
     const vatro::Places places(front);

@@ -80,6 +80,7 @@ class Player(ReadableDesktop):
                 if step in typed:
                     self.type(*typed[step])
                 continue
+            step = step.replace("Skift+", "shift+")
             self.type(PRESSES.get(step, step[:-1] + step[-1].lower() if step[-2:-1] == "+" else step))
             self.presses += 1
             if self.presses in after:
@@ -141,7 +142,7 @@ def see_a_duplicate(steps):
 
 def correct_the_last_line(steps):
     before = player.lines("FD80mSSB.txt")
-    player.play(steps, {"kaldesignal": "dl7qrs"}, {3: lambda: player.wait_active("Ret QSO")})
+    player.play(steps, {"kaldesignal": "dl7qrs"}, {1: lambda: player.wait_active("Ret QSO")})
     wanted = [*before[:-1], before[-1].replace("DL1XYZ", "DL7QRS")]
     until(lambda: player.lines("FD80mSSB.txt") == wanted, lambda: f"the corrected line; there is {player.lines('FD80mSSB.txt')[-1]}")
     player.wait_active(MAIN)

@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QWindow>
 
+#include "correction/frmRetQSO.h"
 #include "deliver.h"
 #include "desktop.h"
 #include "dialogs.h"
@@ -25,6 +26,7 @@
 #include "frame/state.h"
 #include "help_window.h"
 #include "keyer/frmCWTX.h"
+#include "last_line.h"
 #include "morse_speed.h"
 #include "qt/window_program.h"
 #include "services.h"
@@ -36,6 +38,7 @@ namespace {
 class DesktopKeys : public WindowProgram {
 protected:
     DesktopKeys() {
+        AddLastLine(front);
         settings.texts["SETTINGS/MODE"] = "CW";
         settings.texts["SETTINGS/QSOMODE"] = "CW";
         settings.texts["CW/TEKST1"] = "PARIS";
@@ -80,6 +83,28 @@ protected:
     MorseSpeed speed{front};
     std::vector<int> told;
 };
+
+// --- The newest line
+
+TEST_F(DesktopKeys, CtrlROpensTheNewestLineForCorrection) {
+    Key({.name = {}, .character = 'r', .ctrl = true});
+    EXPECT_FALSE(frmRetQSO.Loaded()) << "the log is empty";
+    for (const char* call : {"dl1aa", "dl2bb"}) {
+        Type(call);
+        Key({.name = "Space"});
+        Type("1");
+        Key({.name = "Enter"});
+    }
+    ASSERT_EQ(frmMain->log.ListCount(), 2);
+    bool open = false;
+    driver.playUntil = [&](const std::function<bool()>&) {
+        open = true;
+        EXPECT_EQ(frmRetQSO->fields[kCallField].Text(), "DL2BB");
+        frmRetQSO->Hide();
+    };
+    Key({.name = {}, .character = 'r', .ctrl = true});
+    EXPECT_TRUE(open);
+}
 
 // --- Where keys go
 
