@@ -58,7 +58,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     BeginProgram();
     Dispatch(StartProgram);
     for (void (*paper)() : {MakeAllPapers, MakeHtmlPage, ExportAdif}) Make(paper);
-    Make([] { RunPrintJob(PrintAll); });
+    Make([] { RunPrintJob("Alle papirer", PrintAll); });
     world->pages.TakeJobs();
     for (const auto& [name, text] : texts)
         if (name.ends_with(".ADI") && !ReadsAsAdif(text)) __builtin_trap();

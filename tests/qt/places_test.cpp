@@ -132,14 +132,14 @@ TEST_F(PlacesOfWindows, LentPlacesDoNotOverlap) {
 }
 
 TEST_F(PlacesOfWindows, AStoredPlaceInSightIsKept) {
-    Stored("B4", 400, 10, 300, 200);
+    Stored("B4", 60, 10, 120, 80);
     StartVatro();
-    EXPECT_EQ(Top(*frmB4).pos(), QPoint(400, 10));
-    EXPECT_EQ(Top(*frmB4).size(), QSize(300, 200));
+    EXPECT_EQ(Top(*frmB4).pos(), QPoint(60, 10));
+    EXPECT_EQ(Top(*frmB4).size(), QSize(120, 80));
 }
 
 TEST_F(PlacesOfWindows, AWindowThatTheUserMovesIsStoredThere) {
-    Stored("B4", 5000, 3000, 300, 200);
+    Stored("B4", 5000, 3000, 120, 80);
     StartVatro();
     // A window manager may still be putting the window in its place.
     Top(*frmB4).move(Top(*frmB4).pos() + QPoint(1, 1));
@@ -164,18 +164,19 @@ TEST_F(PlacesOfWindows, ATextThatGrowsStaysInTheLentPlace) {
 }
 
 TEST_F(PlacesOfWindows, AMaximisedMainWindowPushesThemAsideAndLetsThemBack) {
-    Stored("B4", 400, 10, 300, 200);
+    Stored("B4", 60, 10, 120, 80);
     StartVatro();
     QWidget& main = Top(*frmMain);
-    main.resize(500, 300);
-    Top(*frmB4).move(480, 500);
+    main.resize(300, 250);
+    const QPoint corner = main.screen()->availableGeometry().bottomRight() - QPoint(150, 110);
+    Top(*frmB4).move(corner);
     driver.Settle();
     for (int i = 0; i < 2; ++i) {
         main.showMaximized();
         EXPECT_TRUE(QTest::qWaitFor([&] { return InSight(*frmB4); }));
-        EXPECT_EQ(frmB4->Left(), 480 * kTwipsPerPixel);
+        EXPECT_EQ(frmB4->Left(), corner.x() * kTwipsPerPixel);
         main.showNormal();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Top(*frmB4).pos() == QPoint(480, 500); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Top(*frmB4).pos() == corner; }));
     }
 }
 
