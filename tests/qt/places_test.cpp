@@ -145,7 +145,7 @@ TEST_F(PlacesOfWindows, AWindowThatTheUserMovesIsStoredThere) {
     Top(*frmB4).move(Top(*frmB4).pos() + QPoint(1, 1));
     driver.Settle();
     EXPECT_EQ(frmB4->Left(), 5000 * kTwipsPerPixel);
-    QTest::qWait(1100);
+    QTest::qWait(2000);
     Top(*frmB4).move(20, 30);
     driver.Settle();
     EXPECT_EQ(frmB4->Left(), 20 * kTwipsPerPixel);
