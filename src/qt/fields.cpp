@@ -109,6 +109,8 @@ void ScrollRoom::keyPressEvent(QKeyEvent* event) {
 }
 
 bool ScrollRoom::focusNextPrevChild(bool next) {
+    // BringIntoSight shows all of the widget with the focus; the scroll area would show a part of it.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return QWidget::focusNextPrevChild(next);
 }
 

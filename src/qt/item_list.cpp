@@ -150,6 +150,7 @@ QItemSelectionModel::SelectionFlags ItemList::selectionCommand(const QModelIndex
 
 void ItemList::focusInEvent(QFocusEvent* event) {
     // Bypass the view's own handler, which would make the first row the current one.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
 }
