@@ -3,8 +3,8 @@
 // Decides which keys may answer a message box.
 //
 // A box may come up while the operator is typing and looking at paper. A key meant for a field must not answer a question that nobody
-// has read. So letters and digits never answer a box, nor does Space while typing; nor does any key pressed before the box can have
-// been seen, nor one held down since before the box appeared.
+// has read. So letters and digits never answer a box, nor does Space while typing, nor the Enter that ends what was typed; nor does any
+// key pressed before the box can have been seen, nor one held down since before the box appeared.
 #pragma once
 
 #include <optional>
@@ -30,6 +30,10 @@ public:
     static constexpr Moment kUnseen{200};
     /// A Space that follows a character within this time is part of the typing.
     static constexpr Moment kTyping{250};
+    /// An Enter that follows this many characters without a pause as long as kPause ends a contact that was typed at the box. One or two
+    /// characters and Enter are how people answer.
+    static constexpr int kBlind = 3;
+    static constexpr Moment kPause{1000};
 
     /// Call when a box comes to the front.
     void CameUp(Moment now);
@@ -40,6 +44,8 @@ private:
     std::optional<Moment> cameUp_;
     /// When a character, or the Space after it, was last ignored.
     std::optional<Moment> typed_;
+    /// How many characters have been ignored without a pause.
+    int count_ = 0;
 };
 
 }  // namespace vatro

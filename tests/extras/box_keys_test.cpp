@@ -57,6 +57,18 @@ TEST_F(BoxInFront, IsNotAnsweredByAKeyHeldDown) {
     EXPECT_EQ(box.Press(kEnterKey, 20s), Take);
 }
 
+TEST_F(BoxInFront, TakesNoEnterThatEndsAContactTypedAtIt) {
+    for (const Moment at : {11s + 0ms, 11s + 20ms, 11s + 40ms}) box.Press(kLetter, at);
+    box.Press(kSpaceKey, 11s + 60ms);
+    box.Press(kLetter, 11s + 80ms);
+    EXPECT_EQ(box.Press(kEnterKey, 11s + 500ms), DropAndFlash);
+    EXPECT_EQ(box.Press(kEnterKey, 11s + 800ms), Take) << "the second one is meant";
+    for (const Moment at : {20s + 0ms, 20s + 20ms, 20s + 40ms}) box.Press(kLetter, at);
+    EXPECT_EQ(box.Press(kEnterKey, 21s + 40ms), Take) << "after a second the box has been seen";
+    for (const Moment at : {30s, 31s, 32s}) box.Press(kLetter, at);
+    EXPECT_EQ(box.Press(kEnterKey, 32s + 100ms), Take) << "that slowly nobody types a call";
+}
+
 TEST_F(BoxInFront, TakesNoBlankInTheMiddleOfTyping) {
     box.Press(kLetter, 12s);
     EXPECT_EQ(box.Press(kSpaceKey, 12s + 180ms), DropAndFlash);

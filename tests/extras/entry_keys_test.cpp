@@ -12,9 +12,21 @@ constexpr PressedKey kEnterKey{.kind = KeyKind::Enter};
 constexpr PressedKey kHeldEnter{.kind = KeyKind::Enter, .repeated = true};
 
 TEST(EntryKeys, TakeEveryEnterBeforeTheFirstContact) {
-    const EntryKeys keys;
+    EntryKeys keys;
     EXPECT_FALSE(keys.Swallows(kEnterKey, true, 0ms));
     EXPECT_FALSE(keys.Swallows(kEnterKey, false, 0ms));
+}
+
+TEST(EntryKeys, SwallowTheBounceOfASpace) {
+    constexpr PressedKey kSpaceKey{.kind = KeyKind::Space};
+    EntryKeys keys;
+    EXPECT_FALSE(keys.Swallows(kSpaceKey, false, 10s));
+    EXPECT_TRUE(keys.Swallows(kSpaceKey, false, 10s + 100ms));
+    EXPECT_TRUE(keys.Swallows(kSpaceKey, false, 10s + 200ms)) << "a key that bounces twice";
+    EXPECT_FALSE(keys.Swallows(kSpaceKey, false, 10s + 350ms)) << "back to the call";
+    // Another key in between shows that both were meant.
+    EXPECT_FALSE(keys.Swallows({.kind = KeyKind::Character}, false, 10s + 360ms));
+    EXPECT_FALSE(keys.Swallows(kSpaceKey, false, 10s + 370ms));
 }
 
 TEST(EntryKeys, SwallowASecondEnterForHalfASecondBehindAContact) {
@@ -45,7 +57,7 @@ TEST(EntryKeys, CountFromTheContactLoggedLast) {
 }
 
 TEST(EntryKeys, NeverTakeAnEnterThatIsHeldDown) {
-    const EntryKeys keys;
+    EntryKeys keys;
     EXPECT_TRUE(keys.Swallows(kHeldEnter, false, 0ms));
     EXPECT_TRUE(EntryKeys::Held(kHeldEnter));
     EXPECT_TRUE(EntryKeys::Held({.kind = KeyKind::Esc, .repeated = true}));
