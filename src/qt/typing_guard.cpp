@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "typing_guard.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemModel>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QTimer>
 #include <QWindow>
 #include <utility>
@@ -273,12 +279,28 @@ void TypingGuard::MarkField() {
     mark_->Surround(*field);
 }
 
+QWidget* TypingGuard::FocusElsewhere() const {
+    QWidget* focus = QApplication::focusWidget();
+    if (focus == nullptr || focus->window() != QApplication::activeWindow()) return nullptr;
+    // The editor of a combo box or a number is a part of it.
+    QWidget* around = focus->parentWidget();
+    if (qobject_cast<QComboBox*>(around) != nullptr || qobject_cast<QAbstractSpinBox*>(around) != nullptr) focus = around;
+    const bool marked = qobject_cast<QLineEdit*>(focus) != nullptr || qobject_cast<QAbstractButton*>(focus) != nullptr ||
+                        qobject_cast<QComboBox*>(focus) != nullptr || qobject_cast<QAbstractSpinBox*>(focus) != nullptr ||
+                        qobject_cast<QAbstractSlider*>(focus) != nullptr || qobject_cast<QPlainTextEdit*>(focus) != nullptr;
+    if (!marked) return nullptr;
+    // A window may mark its fields itself.
+    for (const FieldMark* other : focus->window()->findChildren<FieldMark*>())
+        if (other != mark_) return nullptr;
+    return focus;
+}
+
 QWidget* TypingGuard::FieldWithKeys() const {
     const Form* main = frmMain.Peek();
     const FormWindow* window = main != nullptr ? front_.WindowOf(*main) : nullptr;
-    if (window == nullptr || main->ActiveControl() == nullptr) return nullptr;
+    if (window == nullptr || main->ActiveControl() == nullptr) return FocusElsewhere();
     const bool inFront = ActiveForm() == main && QApplication::activeWindow() == window->Top();
-    return Sending() || inFront ? front_.WidgetOf(*main->ActiveControl()) : nullptr;
+    return Sending() || inFront ? front_.WidgetOf(*main->ActiveControl()) : FocusElsewhere();
 }
 
 void TypingGuard::SendingOver() {

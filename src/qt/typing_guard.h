@@ -65,10 +65,12 @@ private:
     /// Handles input-method text while a Morse text is being sent.
     bool TakeInputMethod(const QWidget& widget, QInputMethodEvent& event);
     void HandToMain(QKeyEvent& event, const PressedKey& key);
-    /// Marks the field of the main form that receives the keys, also while the sending window has the focus. Marks none if the keys go
-    /// to another window.
+    /// Marks the field that receives the keys: that of the main form, also while the sending window has the focus, or the one with the
+    /// focus in another window.
     void MarkField();
     QWidget* FieldWithKeys() const;
+    /// The field or button with the focus in a window other than the main form's.
+    QWidget* FocusElsewhere() const;
     /// The sending window has been hidden.
     void SendingOver();
     void WatchLog();

@@ -84,6 +84,27 @@ protected:
     std::vector<int> told;
 };
 
+// --- The field with the keys
+
+TEST_F(DesktopKeys, TheFieldOrButtonWithTheKeysIsMarkedInADialogueToo) {
+    WithModal([] { frmMain->mnuFunktionerCall.Choose(); },
+              [&] {
+                  for (int i = 0; i < 4; ++i) {
+                      const QWidget* top = WindowOf(*frmCall).Top();
+                      const auto* mark = top->findChild<FieldMark*>();
+                      const QWidget* field = WidgetOf<QWidget>(*frmCall->ActiveControl()).isVisible()
+                                                 ? &WidgetOf<QWidget>(*frmCall->ActiveControl())
+                                                 : nullptr;
+                      ASSERT_NE(mark, nullptr) << i;
+                      ASSERT_NE(field, nullptr) << i;
+                      EXPECT_TRUE(mark->isVisible()) << i;
+                      EXPECT_TRUE(mark->geometry().contains(field->geometry())) << i;
+                      Key({.name = "Tab"});
+                  }
+                  Key({.name = "Esc"});
+              });
+}
+
 // --- The newest line
 
 TEST_F(DesktopKeys, CtrlROpensTheNewestLineForCorrection) {
