@@ -215,6 +215,7 @@ void Form::SetDesignSize(int width, int height) {
 }
 
 void Form::UserPlaced(int left, int top, int width, int height) {
+    atUsualPlace = false;
     Place(left, top, width, height);
 }
 

@@ -82,6 +82,8 @@ public:
 
     /// The window is only looked at and never needs the keyboard.
     bool onlyShows = false;
+    /// The window is at a place that nobody has chosen.
+    bool atUsualPlace = false;
     /// Tab selects the text of the field that it enters, so that typing replaces it.
     bool tabSelects = false;
     /// Whether Esc closes the window now, like the button in its frame.

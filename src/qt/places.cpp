@@ -130,7 +130,7 @@ void Places::Show(FormWindow& window) {
         const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
         if (!OnScreens(QRect(top.pos(), top.size() + frame), frame.height(), Screens()))
             window.Lend(QRect(room.topLeft(), top.size().boundedTo(room.size() - frame)));
-    } else if (window.Its().Kind() == FormKind::Tool && main_ != nullptr && InTheWay(window.OwnPlace())) {
+    } else if (window.Its().Kind() == FormKind::Tool && main_ != nullptr && Unwanted(window)) {
         arranged_.clear();
         Arrange(Displaced(&window));
     }
@@ -142,7 +142,7 @@ std::vector<FormWindow*> Places::Displaced(const FormWindow* coming) const {
     for (FormWindow* window : front_.Windows()) {
         const bool shown = window == coming || window->Top()->isVisible();
         const bool floats = window->Its().Kind() == FormKind::Tool && !window->Docked() && shown;
-        if (floats && InTheWay(window->OwnPlace())) displaced.push_back(window);
+        if (floats && Unwanted(*window)) displaced.push_back(window);
     }
     return displaced;
 }
@@ -161,11 +161,15 @@ void Places::Settle() {
             window->EndLoan();
     const auto frame = [](const FormWindow* window) { return window->Top()->frameGeometry(); };
     const bool badly = std::any_of(displaced.begin(), displaced.end(), [&](const FormWindow* window) {
-        return InTheWay(QRect(window->Top()->pos(), window->Top()->size())) ||
+        return !window->Lent() || InTheWay(QRect(window->Top()->pos(), window->Top()->size())) ||
                std::any_of(displaced.begin(), displaced.end(),
                            [&](const FormWindow* other) { return other != window && frame(other).intersects(frame(window)); });
     });
     if (badly) Arrange(displaced);
+}
+
+bool Places::Unwanted(const FormWindow& window) const {
+    return window.Its().atUsualPlace || InTheWay(window.OwnPlace());
 }
 
 bool Places::InTheWay(const QRect& window) const {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Where windows are shown whose stored place would be in the way: side windows that would cover the entry fields, and windows that would
-// lie outside the screens. They are lent another place; the program's own place of the window changes only when the user moves it.
+// Where windows are shown whose stored place would be in the way: side windows that would cover the entry fields or that the user has never
+// moved, and windows that would lie outside the screens. They are lent another place; the program's own place of the window changes only
+// when the user moves it.
 #pragma once
 
 #include <QObject>
@@ -41,6 +42,8 @@ private:
     /// The floating side windows whose own place is in the way: the visible ones, and one that is about to be shown.
     std::vector<FormWindow*> Displaced(const FormWindow* coming = nullptr) const;
     void Arrange(const std::vector<FormWindow*>& windows);
+    /// Whether the window should not be shown at its own place: that is in the way, or nobody has chosen it.
+    bool Unwanted(const FormWindow& window) const;
     /// Whether a side window with this place, without its frame, would cover fields or lie outside the screens.
     bool InTheWay(const QRect& window) const;
     /// The fields and buttons of the main form below its log; empty if it is not on the screen.

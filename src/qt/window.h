@@ -67,6 +67,7 @@ public:
     void FollowDocking();
     /// Shows the window in another place than the form's. The form is told of a place only after the user has moved the window.
     void Lend(const QRect& place);
+    bool Lent() const { return loan_.has_value(); }
     /// Shows the window in the form's own place again.
     void EndLoan();
     /// The window's own place on the screen, without its frame.

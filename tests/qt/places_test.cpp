@@ -131,6 +131,13 @@ TEST_F(PlacesOfWindows, LentPlacesDoNotOverlap) {
     EXPECT_TRUE(QTest::qWaitFor(apart));
 }
 
+TEST_F(PlacesOfWindows, AWindowThatNobodyHasMovedIsNotShownOnTopOfAnother) {
+    settings.texts["SETTINGS/MYCALL"] = "OZ7FD/P";
+    StartVatro();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Top(*frmQSOnr).frameGeometry().intersects(Top(*frmContestCall).frameGeometry()); }));
+    EXPECT_EQ(frmQSOnr->Left(), 0) << "its own place is the usual one";
+}
+
 TEST_F(PlacesOfWindows, AStoredPlaceInSightIsKept) {
     Stored("B4", 60, 10, 120, 80);
     StartVatro();

@@ -68,6 +68,7 @@ void RestorePlace(Form& form, const PlaceSetting& place) {
     const int width = ReadSetting(place.width);
     const int height = ReadSetting(place.height);
     form.Place(left, top, width, height);
+    form.atUsualPlace = left == place.left.fallback && top == place.top.fallback;
 }
 
 void StorePlace(const Form& form, const PlaceSetting& place) {
