@@ -79,13 +79,16 @@ void MainSize::Restore(QMainWindow& window) {
     window_ = &window;
     const QSize stored(Length(settings_, kWidth), Length(settings_, kHeight));
     const QSize room = window.screen()->availableSize();
-    if (!stored.isEmpty())
+    if (!stored.isEmpty()) {
         window.resize(stored.expandedTo(window.minimumSizeHint()).boundedTo(room));
-    else if (const auto first = FirstSize(window.size(), room))
+        // A window of a larger screen fills a small one, as at a first start.
+        if (stored.width() > room.width() && !FirstSize(window.size(), room))
+            window.setWindowState(window.windowState() | Qt::WindowMaximized);
+    } else if (const auto first = FirstSize(window.size(), room))
         window.resize(*first);
     else
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
-    own_ = window.size();
+    own_ = stored.isEmpty() ? window.size() : stored;
     const std::string state = settings_.Read(kWindowSection, kState).value_or("");
     if (state == kMaximised) window.setWindowState(window.windowState() | Qt::WindowMaximized);
     if (state == kFullScreen) window.setWindowState(window.windowState() | Qt::WindowFullScreen);

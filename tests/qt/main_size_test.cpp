@@ -40,6 +40,15 @@ TEST_F(SizeOfTheMainWindow, ComesBackAtTheNextStart) {
     EXPECT_EQ(Window().height(), screen.height() - 20);
 }
 
+TEST_F(SizeOfTheMainWindow, OfALargerScreenFillsASmallOneAndIsKeptForTheLargerOne) {
+    settings.Write("Vindue", "Bredde", "1632");
+    settings.Write("Vindue", "Hojde", "884");
+    StartVatro();
+    EXPECT_TRUE(Window().isMaximized());
+    QTest::qWait(1200);
+    EXPECT_EQ(settings.Read("Vindue", "Bredde"), "1632");
+}
+
 TEST_F(SizeOfTheMainWindow, IsNoLargerThanTheScreen) {
     settings.Write("Vindue", "Bredde", "99999999");
     settings.Write("Vindue", "Hojde", "99999999");
