@@ -204,7 +204,10 @@ void ItemList::FitGrid() {
         }
         return;
     }
-    const QSize cell(qMax(1, viewport()->width() / columns_), fontMetrics().height() + 2);
+    // A call that runs into the next column would be another call.
+    const auto* model = qobject_cast<const ItemModel*>(this->model());
+    const int widest = fontMetrics().horizontalAdvance(QString((model != nullptr ? model->WidestRow() : 0) + 2, u'M'));
+    const QSize cell(qMax(qMax(1, widest), viewport()->width() / columns_), fontMetrics().height() + 2);
     if (gridSize() != cell) setGridSize(cell);
 }
 
