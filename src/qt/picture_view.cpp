@@ -22,6 +22,17 @@ void PictureView::SetPicture(const QString& file) {
     update();
 }
 
+QPixmap PictureView::Dark(const QColor& ink) const {
+    // Shades of the ink on black, whatever the colours of the picture, so that it does not light up the tent.
+    QImage image = picture_.toImage().convertToFormat(QImage::Format_Grayscale8);
+    image.invertPixels();
+    QPixmap dark = QPixmap::fromImage(image.convertToFormat(QImage::Format_RGB32));
+    QPainter painter(&dark);
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    painter.fillRect(dark.rect(), ink);
+    return dark;
+}
+
 QSize PictureView::sizeHint() const {
     if (picture_.isNull()) return kWithoutPicture;
     const QSize room = screen()->availableSize() * kShareOfScreen;
@@ -32,6 +43,8 @@ void PictureView::paintEvent(QPaintEvent* /*event*/) {
     if (picture_.isNull()) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QColor ground = palette().color(QPalette::Window);
+    if (ground == Qt::black) return painter.drawPixmap(rect(), Dark(palette().color(QPalette::WindowText)));
     painter.drawPixmap(rect(), picture_);
 }
 

@@ -31,6 +31,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    /// The picture as shown at night.
+    QPixmap Dark(const QColor& ink) const;
+
     QPixmap picture_;
 };
 
