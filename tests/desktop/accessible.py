@@ -12,8 +12,12 @@ from desktop import Desktop, Gone, until
 # The bindings of the system belong to the system's Python, which need not be the first in the path.
 SYSTEM = "/usr/bin/python3"
 LAUNCHERS = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
-# The title of a side window.
+# The titles of the side windows.
+NEXT, OWN = "Næste QSO nr", "Contest Call"
 CHECK = "Call check                         QSOnr/modt.     UTC"
+SIDES = (NEXT, OWN, CHECK)
+# What shows their content in the main window: the role, and how the name begins.
+DOCKED = {NEXT: ("label", ("SSB 59 ", "CW 599 ", "*** DUPE")), OWN: ("label", "OZ7FD/P"), CHECK: ("list", "Call check")}
 # The main window, and the names of its widgets.
 MAIN = "Vatro OZ7FD/P"
 CALL, NUMBER = "Indtast call for den kørte station", "Modtaget rapportløbenr"
@@ -212,8 +216,12 @@ class ReadableDesktop(Desktop):
         self.tree = Tree(self.surroundings["DBUS_SESSION_BUS_ADDRESS"], self.program.pid)
         until(self.tree.program, "the accessibility of the program")
 
-    def set(self, **settings):
+    def set(self, docked=True, **settings):
+        """`docked`: as at a first start. Otherwise the side windows float at PLACES."""
         super().set(**PLACES | settings)
+        if not docked:
+            with self.settings_file.open("a") as file:
+                file.write("[Vindue]\nSaml=False\n")
 
     @contextlib.contextmanager
     def alive(self, program, said="", **more):
@@ -265,12 +273,20 @@ class ReadableDesktop(Desktop):
             self.nodes[key] = until(lambda: self.top(title).find(role, name), f"{role} {name} of {title}")[0]
         return self.nodes[key]
 
+    def docked(self, side):
+        """What a side window in the main window shows."""
+        role, begin = DOCKED[side]
+        for node in self.top(MAIN).all(("menu bar", "list")):
+            if node.role == role and node.name.startswith(begin) and "showing" in node.states:
+                return node
+        raise Gone(side)
+
     def text(self, name):
         return self.node("text", name).text.strip()
 
     def status(self):
         """The texts of the status bar, from the left."""
-        return [label.name.strip() for label in self.node("status bar", "").find("label")]
+        return [label.name.strip() for label in self.node("status bar", "Statuslinje").find("label")]
 
     # Waiting
 

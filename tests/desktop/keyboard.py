@@ -10,7 +10,7 @@ import contextlib
 import sys
 import time
 
-from accessible import CALL, MAIN, NUMBER, ReadableDesktop, contrast, missing_tools
+from accessible import CALL, MAIN, NUMBER, SIDES, ReadableDesktop, contrast, missing_tools
 from desktop import run, skip_without_tools, until
 
 PROGRAM, DATA, MANAGER = sys.argv[1:4]
@@ -22,8 +22,6 @@ BOUNCES = (0, 40, 180)
 UNSEEN = 0.25
 # Milliseconds between two Enters that no box can count as more than that.
 LONGEST = 195
-# Side windows, by a text in the title.
-SIDES = ("Næste QSO nr", "Contest Call", "Call check")
 # The least contrast of what must be seen at arm's length (WCAG, for graphics).
 VISIBLE = 3
 
@@ -36,10 +34,10 @@ class Station(ReadableDesktop):
     """One screen for all cases; each case starts the program with an empty log."""
 
     @contextlib.contextmanager
-    def up(self):
+    def up(self, **settings):
         for old in self.log.glob("FD*"):
             old.unlink()
-        self.set(UTC=0)
+        self.set(UTC=0, **settings)
         with self.alive(PROGRAM):
             self.wait_focus(CALL)
             yield
@@ -53,13 +51,20 @@ class Station(ReadableDesktop):
     def wait_for_contacts(self, count):
         until(lambda: len(self.contacts()) >= count, f"contact {count}")
 
-    def side(self, title):
-        """The side window whose title begins so."""
-        return until(lambda: [node for node in self.shown() if node.name.startswith(title)], "the window " + title)[0]
-
     def boxes(self):
-        return [node.name for node in self.shown() if node.name != MAIN and not node.name.startswith(SIDES)]
+        return [node.name for node in self.shown() if node.name not in (MAIN, *SIDES)]
 
+    def click(self, left, top, button="1"):
+        self.xdotool("mousemove", str(left), str(top), "click", button)
+
+    def click_middle(self, rectangle, button):
+        self.click(rectangle.left + rectangle.width // 2, rectangle.top + rectangle.height // 2, button)
+
+    def expect_letters_in_call(self, letters):
+        self.type(*letters)
+        self.wait_text(CALL, letters.upper())
+        self.type("Escape")
+        self.wait_text(CALL, "")
 
     def asked_with_two_enters(self, bounce):
         """Whether the machine was fast enough for two Enters at this distance. If not, the question is answered."""
@@ -138,22 +143,24 @@ def thirty_contacts_at_four_milliseconds_a_key_are_thirty_right_lines():
         expect(station.boxes(), [], "what has opened")
 
 
-def letters_go_to_the_call_whatever_side_window_was_clicked():
+def letters_go_to_the_call_whatever_docked_window_was_clicked():
     with station.up():
         for title in SIDES:
             for button in "1", "3":
-                left, top, width, height = station.side(title).rectangle
-                station.xdotool("mousemove", str(left + width // 2), str(top + height // 2), "click", button)
-                station.type(*"dl9x")
-                station.wait_text(CALL, "DL9X")
-                station.type("Escape")
-                station.wait_text(CALL, "")
-                # By the title, which drags the window.
-                station.xdotool("mousemove", str(left + width // 2), str(top - 8), "click", "1")
-                station.type(*"sm7a")
-                station.wait_text(CALL, "SM7A")
-                station.type("Escape")
-                station.wait_text(CALL, "")
+                station.click_middle(until(lambda: station.docked(title), title + " in the main window").rectangle, button)
+                station.expect_letters_in_call("dl9x")
+
+
+def letters_go_to_the_call_whatever_floating_window_was_clicked():
+    with station.up(docked=False):
+        for title in SIDES:
+            place = until(lambda: station.top(title), "the window " + title).rectangle
+            for button in "1", "3":
+                station.click_middle(place, button)
+                station.expect_letters_in_call("dl9x")
+            # By the title, which drags the window.
+            station.click(place.left + place.width // 2, place.top - 8)
+            station.expect_letters_in_call("sm7a")
 
 
 def the_field_with_the_keys_has_a_frame_that_can_be_seen():

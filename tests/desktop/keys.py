@@ -12,14 +12,14 @@ import pathlib
 import sys
 import time
 
-from accessible import CALL, LOG, MAIN, NUMBER, ReadableDesktop, missing_tools
+from accessible import CALL, LOG, MAIN, NEXT, NUMBER, ReadableDesktop, missing_tools
 from desktop import skip_without_tools, until
 
 PROGRAM, DATA = sys.argv[1:3]
 HANDBOOK = pathlib.Path(__file__).resolve().parents[2] / "help/operatoer.html"
 # The section of the handbook.
 SECTION = "tryk"
-QUESTION, NEXT, SENDER = "Bånd/modeskift", "Næste QSO nr", "CW TX"
+QUESTION, SENDER = "Bånd/modeskift", "CW TX"
 # A box answers no key for a fifth of a second. In seconds, with some to spare.
 UNSEEN = 0.25
 PRESSES = {"mellemrum": "space", "Enter": "Return", "Esc": "Escape", "Ctrl+PgUp": "ctrl+Prior"}
@@ -134,7 +134,7 @@ def wipe(steps):
 
 def see_a_duplicate(steps):
     player.play(steps, {"kaldesignal": "dl1xyz"})
-    until(lambda: "DUPE" in player.top(NEXT).children[0].name, "the word DUPE beside the number")
+    until(lambda: "DUPE" in player.docked(NEXT).name, "the word DUPE beside the number")
     until(lambda: "DUPE" in player.status()[0], "the word DUPE in the status bar")
     player.type("Escape")
     player.wait_text(CALL, "")

@@ -10,13 +10,13 @@ that is not listed must open none. Skipped if something it needs is not installe
 import sys
 import time
 
-from accessible import CALL, CHECK, MAIN, ReadableDesktop, missing_tools
+from accessible import CALL, CHECK, MAIN, NEXT, OWN, ReadableDesktop, missing_tools
 from desktop import run, skip_without_tools, until
 
 PROGRAM, DATA, MANAGER = sys.argv[1:4]
 ACCESS = {"Filer": "f", "Vis": "v", "Bånd/mode": "b", "Indstillinger": "i", "Funktioner": "k", "CW": "w", "Ekstra": "e", "Hjælp": "h"}
 LINE = "13:00 DL9XYZ          59 -0001 59 -0345  3 DL         OZ1AB      SSB   05-09-26\r\n"
-BOX, QUESTION = "vatro", "Bånd/modeskift"
+BOX, QUESTION = "Vatro", "Bånd/modeskift"
 PDF = "Gem udskriften som PDF"
 ENDS = ("Filer", "Afslut")
 # What opens, one after the other, by the command or by the menu that it is in.
@@ -55,7 +55,7 @@ OPENS = {
 }
 # A tick moves from one to the other.
 ONE_OF_SOME = {("Bånd/mode",), ("Indstillinger", "Klasse")}
-SIDES = {("Vis", "Næste QSOnr"): "Næste QSO nr", ("Vis", "Call check"): CHECK, ("Vis", "Contest Call"): "Contest Call"}
+SIDES = {("Vis", "Næste QSOnr"): NEXT, ("Vis", "Call check"): CHECK, ("Vis", "Contest Call"): OWN}
 # Yes to a change of band or mode; everything else is closed with Esc.
 ANSWERS = {QUESTION: "Return"}
 # What Qt says when there is no sound system.
@@ -121,8 +121,8 @@ class Station(ReadableDesktop):
                 if again:
                     self.choose(path, steps, item)
                     if path in SIDES:
-                        # It must not take the keys when the window manager shows it.
-                        self.window(SIDES[path])
+                        # It must not take the keys.
+                        until(lambda path=path: self.docked(SIDES[path]), SIDES[path])
                     faults += self.faults_after(path)
                 count += 1
         assert not faults, "\n".join(faults)

@@ -94,12 +94,12 @@ class Station(ReadableDesktop):
 
     def newest_in_sight(self):
         rows = self.node("list", LOG)
-        newest = rows.children[-1]
+        shown, newest = rows.rectangle, rows.children[-1]
         assert f"DL{CONTACTS}AA" in newest.name, f"the last line is {newest.name!r}"
-        # A window that is too narrow can be scrolled; the lines begin at its left edge.
-        left, top, width, height = self.top(MAIN).rectangle
+        # A list that is too narrow can be scrolled; the lines begin at its left edge.
         row = newest.rectangle
-        return within(row, rows.rectangle) and top <= row.top and row.top + row.height <= top + height and left <= row.left < left + width
+        row = row._replace(width=min(row.width, shown.left + shown.width - row.left))
+        return within(row, shown) and within(row, self.top(MAIN).rectangle)
 
     def expect_newest_in_sight(self, when):
         until(self.newest_in_sight, "the newest line " + when)
