@@ -215,7 +215,7 @@ TASKS = {
     "Log en kontakt": (2, log_a_contact),
     "Tøm felterne": (1, wipe),
     "Se, om det er en dublet": (1, see_a_duplicate),
-    "Ret kaldesignalet i den sidste linje": (5, correct_the_last_line),
+    "Ret kaldesignalet i den sidste linje": (4, correct_the_last_line),
     "Skift bånd": (2, change_the_band),
     "Skift mode": (2, change_the_mode),
     "Skift operatør": (2, change_the_operator),
