@@ -187,7 +187,8 @@ class Tree:
         return program.children if program else []
 
 
-# The side windows leave the main window and its title free.
+# The side windows leave the main window of this size and its title free.
+SIZE = {"Bredde": 1000, "Hojde": 600}
 TWIPS = 15
 PLACES = {name: TWIPS * pixels for name, pixels in {
     "MainLeft": 60, "MainTop": 60, "QSOLeft": 20, "QSOTop": 760, "QSOHeight": 60, "CallLeft": 420, "CallTop": 760, "CallHeight": 60,
@@ -197,8 +198,8 @@ PLACES = {name: TWIPS * pixels for name, pixels in {
 class ReadableDesktop(Desktop):
     """A desktop whose program tells what is on the screen."""
 
-    def __init__(self, data, manager="openbox"):
-        super().__init__(data, manager, bus=True)
+    def __init__(self, data, manager="openbox", **more):
+        super().__init__(data, manager, bus=True, **more)
         self.surroundings["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         self.tree = None
         self.nodes = {}
@@ -221,7 +222,7 @@ class ReadableDesktop(Desktop):
         super().set(**PLACES | settings)
         if not docked:
             with self.settings_file.open("a") as file:
-                file.write("[Vindue]\nSaml=False\n")
+                file.write("[Vindue]\nSaml=False\n" + "".join(f"{key}={value}\n" for key, value in SIZE.items()))
 
     @contextlib.contextmanager
     def alive(self, program, said="", **more):
@@ -304,3 +305,9 @@ class ReadableDesktop(Desktop):
 
     def type(self, *keys, delay=15):
         self.xdotool("key", "--delay", str(delay), *keys)
+
+    def expect_letters_in_call(self, letters="dl9x"):
+        self.type(*letters)
+        self.wait_text(CALL, letters.upper())
+        self.type("Escape")
+        self.wait_text(CALL, "")

@@ -42,13 +42,17 @@ def until(holds, what):
     raise AssertionError("waited in vain for " + (what if isinstance(what, str) else what()))
 
 
+def expect(found, wanted, what):
+    assert found == wanted, f"{what} is {found!r} instead of {wanted!r}"
+
+
 Compositor = collections.namedtuple("Compositor", "name process")
 
 
 class Desktop:
     """A screen with a window manager, and a home directory."""
 
-    def __init__(self, data, manager="openbox", bus=False):
+    def __init__(self, data, manager="openbox", bus=False, size="1400x900"):
         """`bus`: starts a session bus that nobody else is on; xfwm4 always needs one."""
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="vatro-desktop-"))
         self.log = self.home / "log"
@@ -58,7 +62,7 @@ class Desktop:
         shutil.copytree(data, self.data)
         (self.home / "runtime").mkdir(mode=0o700)
         told, tell = os.pipe()
-        self.screen = subprocess.Popen(["Xvfb", "-displayfd", str(tell), "-screen", "0", "1400x900x24", "-nolisten", "tcp",
+        self.screen = subprocess.Popen(["Xvfb", "-displayfd", str(tell), "-screen", "0", size + "x24", "-nolisten", "tcp",
                                         "-fbdir", str(self.home)], pass_fds=[tell], stderr=subprocess.DEVNULL)
         os.close(tell)
         with os.fdopen(told) as number:

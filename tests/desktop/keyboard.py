@@ -11,7 +11,7 @@ import sys
 import time
 
 from accessible import CALL, MAIN, NUMBER, SIDES, ReadableDesktop, contrast, missing_tools
-from desktop import run, skip_without_tools, until
+from desktop import expect, run, skip_without_tools, until
 
 PROGRAM, DATA, MANAGER = sys.argv[1:4]
 LOG = "FD80mSSB.txt"
@@ -24,10 +24,6 @@ UNSEEN = 0.25
 LONGEST = 195
 # The least contrast of what must be seen at arm's length (WCAG, for graphics).
 VISIBLE = 3
-
-
-def expect(found, wanted, what):
-    assert found == wanted, f"{what} is {found!r} instead of {wanted!r}"
 
 
 class Station(ReadableDesktop):
@@ -59,12 +55,6 @@ class Station(ReadableDesktop):
 
     def click_middle(self, rectangle, button):
         self.click(rectangle.left + rectangle.width // 2, rectangle.top + rectangle.height // 2, button)
-
-    def expect_letters_in_call(self, letters):
-        self.type(*letters)
-        self.wait_text(CALL, letters.upper())
-        self.type("Escape")
-        self.wait_text(CALL, "")
 
     def asked_with_two_enters(self, bounce):
         """Whether the machine was fast enough for two Enters at this distance. If not, the question is answered."""

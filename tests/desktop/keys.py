@@ -13,7 +13,7 @@ import sys
 import time
 
 from accessible import CALL, LOG, MAIN, NEXT, NUMBER, ReadableDesktop, missing_tools
-from desktop import skip_without_tools, until
+from desktop import expect, skip_without_tools, until
 
 PROGRAM, DATA = sys.argv[1:3]
 HANDBOOK = pathlib.Path(__file__).resolve().parents[2] / "help/operatoer.html"
@@ -103,10 +103,6 @@ class Player(ReadableDesktop):
         """The points, the multipliers and their product, as the status bar tells them."""
         told = self.status()
         return [told[told.index(what) - 1] for what in ("Point", "Mult.", "I alt")]
-
-
-def expect(found, wanted, what):
-    assert found == wanted, f"{what} is {found!r} instead of {wanted!r}"
 
 
 def chosen(name):

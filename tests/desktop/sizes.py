@@ -9,22 +9,16 @@ something it needs is not installed.
 """
 import contextlib
 import sys
-import time
 
-from accessible import CALL, LOG, MAIN, ReadableDesktop, missing_tools, within
-from desktop import run, skip_without_tools, until
+from accessible import CALL, LOG, MAIN, missing_tools, within
+from desktop import expect, run, skip_without_tools, until
+from main_window import TOOLS, MainWindow
 
 PROGRAM, DATA, MANAGER = sys.argv[1:4]
 CONTACTS = 60
-MAXIMISED = {"_NET_WM_STATE_MAXIMIZED_VERT", "_NET_WM_STATE_MAXIMIZED_HORZ"}
-FULL_SCREEN = "_NET_WM_STATE_FULLSCREEN"
 
 
-def expect(found, wanted, what):
-    assert found == wanted, f"{what} is {found!r} instead of {wanted!r}"
-
-
-class Station(ReadableDesktop):
+class Station(MainWindow):
     """One screen for all cases; each case starts the program with fresh settings."""
 
     @contextlib.contextmanager
@@ -40,44 +34,7 @@ class Station(ReadableDesktop):
         self.end()
         self.start(PROGRAM)
 
-    # The window
-
-    def size(self):
-        return self.rectangle(MAIN)[2:]
-
-    def wait_size(self, wanted, what):
-        until(lambda: self.size() == wanted, lambda: f"{what}, {wanted}; it is {self.size()}")
-
-    def maximised(self):
-        return MAXIMISED <= self.states(MAIN)
-
-    def click_title(self):
-        """Maximises or restores the window with a double click on its title."""
-        before = self.maximised()
-        left, top, width, _ = self.rectangle(MAIN)
-
-
-        def changed():
-            self.xdotool("mousemove", str(left + width // 2), str(top - 8), "click", "--repeat", "2", "--delay", "50", "1")
-            # On a busy machine two clicks may be too slow to be a double click.
-            end = time.monotonic() + 2
-            while self.maximised() == before and time.monotonic() < end:
-                time.sleep(0.02)
-            return self.maximised() != before
-
-        until(changed, "the effect of a double click on the title")
-        # The program follows the window manager.
-        self.settled()
-
-    def full_screen(self):
-        before = FULL_SCREEN in self.states(MAIN)
-        self.type("F11")
-        until(lambda: (FULL_SCREEN in self.states(MAIN)) != before, "the effect of F11")
-        self.settled()
-
-    def settled(self):
-        """Waits until the window of the screen and the one that the program knows are the same."""
-        until(lambda: self.size() == self.top(MAIN).rectangle[2:], "a size that the program and the screen agree on")
+    # The text
 
     def zoom(self, key, times=1):
         """Presses a key that changes the size of the text, and waits for each change."""
@@ -169,7 +126,7 @@ def the_normal_text_in_a_maximised_window_leaves_its_size():
 
 
 if __name__ == "__main__":
-    skip_without_tools(MANAGER, "dbus-daemon", "xprop", "xwininfo", others=missing_tools())
+    skip_without_tools(MANAGER, *TOOLS, others=missing_tools())
     chosen = sys.argv[4:]
     with Station(DATA, MANAGER) as station:
         sys.exit(run([case for name, case in list(globals().items())
