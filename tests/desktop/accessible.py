@@ -187,8 +187,8 @@ class Tree:
         return program.children if program else []
 
 
-# The side windows leave the main window of this size and its title free.
-SIZE = {"Bredde": 1000, "Hojde": 600}
+# The side windows leave a main window of this width and height and its title free.
+SIZE = 1000, 600
 TWIPS = 15
 PLACES = {name: TWIPS * pixels for name, pixels in {
     "MainLeft": 60, "MainTop": 60, "QSOLeft": 20, "QSOTop": 760, "QSOHeight": 60, "CallLeft": 420, "CallTop": 760, "CallHeight": 60,
@@ -217,12 +217,12 @@ class ReadableDesktop(Desktop):
         self.tree = Tree(self.surroundings["DBUS_SESSION_BUS_ADDRESS"], self.program.pid)
         until(self.tree.program, "the accessibility of the program")
 
-    def set(self, docked=True, **settings):
-        """`docked`: as at a first start. Otherwise the side windows float at PLACES."""
+    def set(self, docked=True, size=SIZE, **settings):
+        """`docked`: as at a first start. Otherwise the side windows float at PLACES, and the main window has this size."""
         super().set(**PLACES | settings)
         if not docked:
             with self.settings_file.open("a") as file:
-                file.write("[Vindue]\nSaml=False\n" + "".join(f"{key}={value}\n" for key, value in SIZE.items()))
+                file.write("[Vindue]\nSaml=False\nBredde={}\nHojde={}\n".format(*size))
 
     @contextlib.contextmanager
     def alive(self, program, said="", **more):

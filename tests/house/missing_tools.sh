@@ -41,6 +41,8 @@ desktop/copy.py vatro data
 desktop/first_page.py vatro data
 desktop/sizes.py vatro data openbox
 desktop/keyboard.py vatro data openbox
+desktop/docking.py vatro data openbox
+desktop/places.py vatro data openbox
 desktop/menus.py vatro data openbox
 desktop/keys.py vatro data
 typing/typing.sh vatro data

@@ -1,0 +1,113 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""
+    places.py PROGRAM DATA MANAGER [CASE...]
+
+Checks floating side windows with places of a larger screen on a small one: all of them are wholly on the screen and cover no entry field, also
+while the main window is maximised or fills the screen, and only a window that the operator moves is stored in another place. Runs every case,
+or those named. Skipped if something it needs is not installed.
+"""
+import contextlib
+import sys
+import time
+
+from accessible import CALL, CHECK, MAIN, NEXT, SIDES, TWIPS, Rectangle, missing_tools, overlap, within
+from desktop import expect, run, skip_without_tools, until
+from main_window import TOOLS, MainWindow
+
+PROGRAM, DATA, MANAGER = sys.argv[1:4]
+SCREEN = Rectangle(0, 0, 1024, 600)
+# On a screen of 1366x768 the main window is in the upper left corner, the number and the call below it, and Call check right of it.
+# Twips that are no whole pixels, so that a place that was measured anew would be another one.
+STORED = {key: TWIPS * pixels + 2 for key, pixels in {
+    "QSOLeft": 10, "QSOTop": 580, "QSOHeight": 80, "CallLeft": 700, "CallTop": 580, "CallHeight": 80, "B4Left": 1000, "B4Top": 10,
+    "B4Width": 350, "B4Height": 520}.items()}
+CORNER = STORED | {"MainLeft": 10 * TWIPS, "MainTop": 10 * TWIPS}
+# The same with a main window of which a part is outside the small screen.
+MIDDLE = STORED | {"MainLeft": 300 * TWIPS, "MainTop": 100 * TWIPS}
+SIZE = 920, 480
+# A window that was shown or moved by the program less than a second ago is not moved by the operator. In seconds, with some to spare.
+SETTLED = 1.3
+# How long windows must stay where they are.
+STAYS = 0.5
+
+
+class Station(MainWindow):
+    @contextlib.contextmanager
+    def up(self, stored):
+        self.set(docked=False, size=SIZE, UTC=0, **stored)
+        with self.alive(PROGRAM):
+            self.wait_focus(CALL)
+            yield
+
+    def frames(self):
+        return {side: self.frame(side) for side in SIDES}
+
+    def faults(self):
+        """What is not as it should be now."""
+        found, fields = self.frames(), self.fields()
+        # A field that is not in sight may be covered.
+        main = self.top(MAIN).rectangle
+        told = [f"{side} is not wholly on the screen: {frame}" for side, frame in found.items() if not within(frame, SCREEN)]
+        told += [f"{side} covers {name}: {frame}, {field}" for side, frame in found.items() for name, field in fields.items()
+                 if overlap(frame, field) and overlap(main, field)]
+        told += [f"{one} covers {other}: {found[one]}, {found[other]}" for place, one in enumerate(SIDES) for other in SIDES[place + 1:]
+                 if overlap(found[one], found[other])]
+        return told
+
+    def expect_in_sight(self, when):
+        until(lambda: not self.faults(), lambda: f"{when}: " + "; ".join(self.faults()))
+        time.sleep(STAYS)
+        expect(self.faults(), [], when + ", what is wrong")
+        self.expect_letters_in_call()
+
+    def expect_stored(self, wanted):
+        expect({key: self.setting(key) for key in wanted}, {key: str(twips) for key, twips in wanted.items()}, "what is stored")
+
+
+def places_of_a_larger_screen_are_all_in_sight_and_stay_stored():
+    # A window manager may move a main window that is partly outside the screen; the side windows are stored where they were all the same.
+    for stored, kept in ((CORNER, CORNER), (MIDDLE, STORED)):
+        with station.up(stored):
+            station.expect_in_sight("at the start")
+        station.expect_stored(kept)
+
+
+def a_window_that_is_moved_is_the_only_one_stored_elsewhere():
+    for moved, key in ((NEXT, "QSO"), (CHECK, "B4")):
+        with station.up(CORNER):
+            station.expect_in_sight("at the start")
+            time.sleep(SETTLED)
+            before = station.frames()
+            # To a place that is still over the log. Some window managers move a window without its frame there, others with it.
+            left, top = station.rectangle(moved)[:2]
+            station.xdotool("windowmove", station.window(moved), str(left + 15), str(top + 9))
+            until(lambda: station.frame(moved)[:2] != before[moved][:2], "the effect of the move")
+            station.expect_letters_in_call()
+            # After this time the program has arranged its windows.
+            time.sleep(STAYS)
+            left, top = station.frame(moved)[:2]
+            expect(station.frames(), before | {moved: before[moved]._replace(left=left, top=top)}, "the places after the move")
+            # The moved window is stored as it is shown, and a list may have been lent less height than it had.
+            height = station.rectangle(moved)[3]
+        assert moved == CHECK or height == round(CORNER[key + "Height"] / TWIPS), f"{moved} is {height} pixels high"
+        heights = {key + "Height": height * TWIPS} if moved == CHECK else {}
+        station.expect_stored(CORNER | {key + "Left": left * TWIPS, key + "Top": top * TWIPS} | heights)
+
+
+def a_main_window_that_fills_the_screen_has_no_field_covered():
+    with station.up(CORNER):
+        station.expect_in_sight("at the start")
+        for when, change in (("maximised", station.click_title), ("restored", station.click_title), ("full screen", station.full_screen),
+                             ("after full screen", station.full_screen)):
+            change()
+            station.expect_in_sight(when)
+    station.expect_stored(STORED)
+
+
+if __name__ == "__main__":
+    skip_without_tools(MANAGER, *TOOLS, others=missing_tools())
+    chosen = sys.argv[4:]
+    with Station(DATA, MANAGER, size=f"{SCREEN.width}x{SCREEN.height}") as station:
+        sys.exit(run([case for name, case in list(globals().items())
+                      if name.startswith(("a_", "places_")) and (not chosen or name in chosen)]))
