@@ -22,14 +22,11 @@ HERE = pathlib.Path(__file__).resolve().parent
 MAIN = "Vatro OZ7FD/P"
 LOG = "FD80mSSB.txt"
 STATION = {"Band": "80m", "Mode": "SSB", "QsoMode": "SSB", "UTC": "0"}
-# The side windows leave the lamps free.
-STATION |= {f"{window}{side}": place for window, left in (("QSO", 0), ("Call", 7000), ("B4", 15000))
-            for side, place in (("Left", left), ("Top", 10500), ("Width", 5000), ("Height", 1200))}
 NO_MOUNT = 77
 # Of the lamps in the light scheme.
 RED = 0xb00020
 # The part of the screen where the main window has its menus: left, top, width, height.
-HEAD = (100, 100, 900, 70)
+HEAD = (100, 100, 1200, 70)
 
 
 def contact(number, call):
