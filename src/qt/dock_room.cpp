@@ -49,6 +49,7 @@ bool DockRoom::Has(const QWidget& guest) const {
 
 void DockRoom::Take(QWidget& guest) {
     auto* frame = new QFrame(this);
+    frame->setAccessibleName(guest.windowTitle().simplified());
     frame->setFrameShape(beside_.isEmpty() ? StyledPanel : NoFrame);
     auto* inside = new QHBoxLayout(frame);
     inside->setContentsMargins(0, 0, 0, 0);

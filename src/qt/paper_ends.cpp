@@ -113,9 +113,9 @@ void PaperEnds::Show(const PaperEnd& end) {
     text_->setToolTip(files_.join(u'\n'));
     file_->setVisible(files_.size() == 1);
     directory_->setVisible(!files_.isEmpty());
-    // The text has taken room from the list.
+    // The text takes room from the list when the window is laid out anew.
     if (auto* list = qobject_cast<QAbstractItemView*>(front_.WidgetOf(static_cast<const FrmInfo*>(frmInfo.Peek())->steps)))
-        list->scrollToBottom();
+        QTimer::singleShot(0, list, &QAbstractItemView::scrollToBottom);
     QAccessibleEvent told(text_, QAccessible::Alert);
     QAccessible::updateAccessibility(&told);
 }

@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QWidget>
 #include <algorithm>
+#include <utility>
 
 #include "by_kind.h"
 #include "qt_front.h"
@@ -126,6 +127,7 @@ void Places::Show(FormWindow& window) {
     if (window.Its().Kind() == FormKind::Main) {
         if (main_ != &top) top.installEventFilter(this);
         main_ = &top;
+        fresh_ = true;
         const QSize frame = FrameOf(top);
         const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
         if (!OnScreens(QRect(top.pos(), top.size() + frame), frame.height(), Screens()))
@@ -165,7 +167,9 @@ void Places::Settle() {
                std::any_of(displaced.begin(), displaced.end(),
                            [&](const FormWindow* other) { return other != window && frame(other).intersects(frame(window)); });
     });
-    if (badly) Arrange(displaced);
+    // When the main window was shown, its frame was not known.
+    if (std::exchange(fresh_, false)) arranged_.clear();
+    if (badly || arranged_.empty()) Arrange(displaced);
 }
 
 bool Places::Unwanted(const FormWindow& window) const {
@@ -191,7 +195,11 @@ void Places::Arrange(const std::vector<FormWindow*>& windows) {
     arrangement_ = places;
     for (std::size_t i = 0; i < windows.size(); ++i) {
         windows[i]->Top()->installEventFilter(this);
-        windows[i]->Lend(QRect(places[i].topLeft(), places[i].size() - frame));
+        QSize size = places[i].size() - frame;
+        // The letters follow the height without the frame.
+        const QRect own = windows[i]->OwnPlace();
+        if (IsOneLine(frames[i])) size.setWidth(qMin(size.width(), WidthFor(own, size.height())));
+        windows[i]->Lend(QRect(places[i].topLeft(), size));
     }
 }
 

@@ -54,6 +54,8 @@ private:
     QtFront& front_;
     QPointer<QWidget> main_;
     QTimer soon_;
+    /// Whether the main window has just been shown.
+    bool fresh_ = false;
     /// What Arrange has last arranged, and where.
     std::vector<FormWindow*> arranged_;
     std::vector<QRect> arrangement_;

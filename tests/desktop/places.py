@@ -53,6 +53,8 @@ class Station(MainWindow):
                  if overlap(frame, field) and overlap(main, field)]
         told += [f"{one} covers {other}: {found[one]}, {found[other]}" for place, one in enumerate(SIDES) for other in SIDES[place + 1:]
                  if overlap(found[one], found[other])]
+        bar = self.node("status bar", "Statuslinje").rectangle
+        told += [f"{side} covers the status bar: {frame}, {bar}" for side, frame in found.items() if overlap(frame, bar)]
         return told
 
     def expect_in_sight(self, when):
@@ -89,11 +91,11 @@ def windows_that_are_moved_are_the_only_ones_stored_elsewhere():
             time.sleep(STAYS)
             left, top = station.frame(moved)[:2]
             expect(station.frames(), before | {moved: before[moved]._replace(left=left, top=top)}, "the places after the move")
-            wanted |= {key + "Left": left * TWIPS, key + "Top": top * TWIPS}
-        # A moved window is stored as it is shown, and the list had been lent less height than it has.
-        height = station.rectangle(CHECK)[3] * TWIPS
-        assert height < STORED["B4Height"], "the list has not been lent less height"
-    station.expect_stored(wanted | {"B4Height": height})
+            # A moved window is stored as it is shown, and it had been lent less height than it has.
+            height = station.rectangle(moved)[3] * TWIPS
+            assert height < STORED[key + "Height"], f"{moved} has not been lent less height"
+            wanted |= {key + "Left": left * TWIPS, key + "Top": top * TWIPS, key + "Height": height}
+    station.expect_stored(wanted)
 
 
 def a_main_window_that_fills_the_screen_has_no_field_covered():
