@@ -195,10 +195,10 @@ void Places::Arrange(const std::vector<FormWindow*>& windows) {
     arrangement_ = places;
     for (std::size_t i = 0; i < windows.size(); ++i) {
         windows[i]->Top()->installEventFilter(this);
-        QSize size = places[i].size() - frame;
+        QSize size = (places[i].size() - frame).expandedTo({1, 1});
         // The letters follow the height without the frame.
         const QRect own = windows[i]->OwnPlace();
-        if (IsOneLine(frames[i])) size.setWidth(qMin(size.width(), WidthFor(own, size.height())));
+        if (IsOneLine(frames[i])) size.setWidth(qBound(1, WidthFor(own, size.height()), size.width()));
         windows[i]->Lend(QRect(places[i].topLeft(), size));
     }
 }

@@ -180,7 +180,7 @@ TEST_F(PlacesOfWindows, AMaximisedMainWindowPushesThemAsideAndLetsThemBack) {
     driver.Settle();
     for (int i = 0; i < 2; ++i) {
         main.showMaximized();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return InSight(*frmB4); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Top(*frmB4).pos() != corner && InSight(*frmB4); }));
         EXPECT_EQ(frmB4->Left(), corner.x() * kTwipsPerPixel);
         main.showNormal();
         EXPECT_TRUE(QTest::qWaitFor([&] { return Top(*frmB4).pos() == corner; }));
