@@ -33,7 +33,7 @@ public:
     /// An Enter that follows this many characters without a pause as long as kPause ends a contact that was typed at the box. One or two
     /// characters and Enter are how people answer.
     static constexpr int kBlind = 3;
-    static constexpr Moment kPause{1000};
+    static constexpr Moment kPause{400};
 
     /// Call when a box comes to the front.
     void CameUp(Moment now);

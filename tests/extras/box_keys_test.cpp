@@ -61,10 +61,10 @@ TEST_F(BoxInFront, TakesNoEnterThatEndsAContactTypedAtIt) {
     for (const Moment at : {11s + 0ms, 11s + 20ms, 11s + 40ms}) box.Press(kLetter, at);
     box.Press(kSpaceKey, 11s + 60ms);
     box.Press(kLetter, 11s + 80ms);
-    EXPECT_EQ(box.Press(kEnterKey, 11s + 500ms), DropAndFlash);
+    EXPECT_EQ(box.Press(kEnterKey, 11s + 300ms), DropAndFlash);
     EXPECT_EQ(box.Press(kEnterKey, 11s + 800ms), Take) << "the second one is meant";
     for (const Moment at : {20s + 0ms, 20s + 20ms, 20s + 40ms}) box.Press(kLetter, at);
-    EXPECT_EQ(box.Press(kEnterKey, 21s + 40ms), Take) << "after a second the box has been seen";
+    EXPECT_EQ(box.Press(kEnterKey, 21s + 40ms), Take) << "after a pause the box has been seen";
     for (const Moment at : {30s, 31s, 32s}) box.Press(kLetter, at);
     EXPECT_EQ(box.Press(kEnterKey, 32s + 100ms), Take) << "that slowly nobody types a call";
 }

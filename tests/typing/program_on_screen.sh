@@ -35,6 +35,10 @@ VisInfo2002=False
 WPM=20
 Tone=800
 Tekst2=E
+
+[Vindue]
+Bredde=1160
+Hojde=680
 SETTINGS
     mkfifo "$world/display"
     # -noreset: without it the server restarts when its last client leaves, and may drop a client that is just connecting.
