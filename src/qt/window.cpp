@@ -313,7 +313,8 @@ void FormWindow::PutOnScreen() {
 void FormWindow::FollowOwner() {
     if (form_.Kind() != FormKind::Tool || !form_.Visible() || !top_->isVisible() || Docked()) return;
     const bool alone = front_.MainMinimised();
-    if (alone ? !top_->isMinimized() || form_.State() == WindowState::Minimised : owned_) return;
+    const bool takenAlong = top_->isMinimized() && form_.State() != WindowState::Minimised;
+    if (!takenAlong && (alone || owned_)) return;
     // The owner of a window can only be changed while the window is hidden.
     placing_ = true;
     const QPoint at = top_->pos();
@@ -413,7 +414,9 @@ void FormWindow::TellState() {
                               : top_->isMaximized() ? WindowState::Maximised
                                                     : WindowState::Normal;
     // A side window that was minimised together with the main window has not changed its own state.
-    const bool along = form_.Kind() == FormKind::Tool && state == WindowState::Minimised && (!top_->isVisible() || front_.MainMinimised());
+    // On a desktop it has no button for it, and a window manager may be late in minimising it.
+    const bool along = form_.Kind() == FormKind::Tool && state == WindowState::Minimised &&
+                       (!top_->isVisible() || front_.MainMinimised() || front_.desktopHabits);
     const QPointer<FormWindow> self(this);
     if (!along) Deliver([&] { form_.UserState(state); });
     if (self != nullptr) front_.FollowOwners();
