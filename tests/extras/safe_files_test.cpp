@@ -384,13 +384,14 @@ TEST_F(SafeFilesTest, ChoosesTheSameDirectoryAgain) {
 
 TEST_F(SafeFilesTest, TellsWhichDirectoryWasChosenOnceItsMarkerIsOnTheDisk) {
     fs::create_directory(root_ / "Other");
-    files_.Open(1, At("Other/setlog.txt"), FileMode::Output);
+    const std::string marker = At("Other") + files_.Separator() + "setlog.txt";
+    files_.Open(1, marker, FileMode::Output);
     EXPECT_THAT(chosen_, IsEmpty());
     files_.Close(1);
     EXPECT_THAT(chosen_, ElementsAre(At("Other")));
     files_.Open(1, At("Other/setBackup.txt"), FileMode::Output);
     files_.Close(1);
-    files_.Open(1, At("Other/setlog.txt"), FileMode::Input);
+    files_.Open(1, marker, FileMode::Input);
     files_.Close(1);
     EXPECT_THAT(chosen_, SizeIs(1));
 }
