@@ -26,7 +26,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kMarker = "setlog.txt";
 constexpr std::string_view kOperators = "operator.txt";
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr int kSummerTime = -2;
@@ -153,7 +152,7 @@ private:
 };
 
 void WriteMarker(const fs::path& directory) {
-    const fs::path marker = FindPath(directory / kMarker).path;
+    const fs::path marker = FindPath(directory / kLogMarker).path;
     if (IsNoFile(marker)) throw RunTimeError(Failure::PathFileAccess);
     SystemFile file;
     if (const int error = file.Open(marker, SystemFile::Access::Write, true); error != 0) throw RunTimeError(FailureOf(error));

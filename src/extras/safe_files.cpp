@@ -19,7 +19,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kCopyName = "FDkopi.txt";
-constexpr std::string_view kMarkerName = "setlog.txt";
 constexpr std::string_view kLineEnd = "\r\n";
 /// A size that no file can have.
 constexpr std::size_t kUnlike = static_cast<std::size_t>(-1);
@@ -180,7 +179,7 @@ void SafeFiles::Open(int number, std::string_view path, FileMode mode) {
         case FileMode::Append:
             return Write(*file, [&] { OpenToAppend(number, path, *file); });
         case FileMode::Output:
-            if (HasName(*file, kMarkerName))
+            if (HasName(*file, kLogMarker))
                 ChooseDirectory(number, path, *file);
             else
                 Write(*file, [&] { OpenToWrite(number, path, *file); });
@@ -190,7 +189,7 @@ void SafeFiles::Open(int number, std::string_view path, FileMode mode) {
     slot.path = *file;
     slot.mode = mode;
     const std::size_t separator = path.find_last_of(disk_.Separator());
-    if (mode == FileMode::Output && HasName(*file, kMarkerName) && separator != std::string_view::npos)
+    if (mode == FileMode::Output && HasName(*file, kLogMarker) && separator != std::string_view::npos)
         slot.chosen = path.substr(0, separator);
     if (mode == FileMode::Output && IsLogName(*file)) surroundings_.writeBegins();
     slots_[static_cast<std::size_t>(number - 1)] = std::move(slot);

@@ -35,6 +35,9 @@
 
 namespace vatro {
 
+/// The empty file that marks a directory as one for logs.
+inline constexpr std::string_view kLogMarker = "setlog.txt";
+
 /// Wraps the files of the disk. Used on the program's thread only.
 class SafeFiles : public Files {
 public:
