@@ -35,6 +35,7 @@
 #include "numbers.h"
 #include "platform.h"
 #include "qt_text.h"
+#include "signal_colours.h"
 
 namespace vatro {
 
@@ -47,9 +48,6 @@ constexpr int kWidth = 84;
 constexpr int kSecond = 1000;
 /// Room for a call, in characters.
 constexpr int kCallWidth = 12;
-
-const QColor kWrongOnLight(0xb0, 0x00, 0x20);
-const QColor kWrongOnDark(0xff, 0x9d, 0x91);
 
 QLabel* Words(const QString& text) {
     auto* label = new QLabel(text);
@@ -284,7 +282,7 @@ void FirstPage::Say(const Row& row, const std::string& text, bool wrong) {
     font.setBold(wrong);
     row.message->setFont(font);
     QPalette colours = palette();
-    if (wrong) colours.setColor(QPalette::WindowText, colours.window().color().lightness() < 128 ? kWrongOnDark : kWrongOnLight);
+    if (wrong) colours.setColor(QPalette::WindowText, ColoursOf(Signal::Wrong, colours).ground);
     row.message->setPalette(colours);
     row.field->setAccessibleDescription(row.message->text());
     Fit();
