@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Marks the field that receives the keys while another window is active, because Qt draws no caret in an inactive window.
+// A frame that marks the field that receives the keys. Qt draws no caret in an inactive window, and many styles hardly show the focus.
 #pragma once
 
 #include <QPointer>

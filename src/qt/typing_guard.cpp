@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "typing_guard.h"
 
-#include <QAbstractButton>
 #include <QAbstractItemModel>
-#include <QAbstractSlider>
-#include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QTimer>
 #include <QWindow>
 #include <utility>
@@ -23,7 +17,6 @@
 #include "entry/frmMain.h"
 #include "entry/qso_fields.h"
 #include "field_characters.h"
-#include "field_mark.h"
 #include "input.h"
 #include "item_list.h"
 #include "keyer/frmCWTX.h"
@@ -64,30 +57,25 @@ QWidget* WidgetOf(const QWindow& window) {
     return nullptr;
 }
 
-/// The form in this slot if it is visible, or null.
-const Form* Shown(const FormSlotBase& slot) {
-    const Form* form = slot.Peek();
-    return form != nullptr && form->Visible() ? form : nullptr;
-}
-
 /// Whether the sending window has the focus.
 bool Sending() {
-    return Shown(frmCWTX) != nullptr && ActiveForm() == frmCWTX.Peek() && frmMain.Loaded();
+    const Form* form = frmCWTX.Peek();
+    return form != nullptr && form->Visible() && ActiveForm() == form && frmMain.Loaded();
 }
 
 /// Returns the focus to the sending window, because handling keys on the main form may have activated that form.
 void GiveKeysBackToSending() {
     Form* form = frmCWTX.Peek();
-    if (Shown(frmCWTX) != nullptr && ModalForm() == nullptr && ActiveForm() != form) form->SetFocus();
+    if (form != nullptr && form->Visible() && ModalForm() == nullptr && ActiveForm() != form) form->SetFocus();
 }
 
 }  // namespace
 
-TypingGuard::TypingGuard(QtFront& front) : now([this] { return Moment(clock_.elapsed()); }), front_(front) {
+TypingGuard::TypingGuard(QtFront& front) : now([this] { return Moment(clock_.elapsed()); }), front_(front), marked_(front) {
     clock_.start();
     qApp->installEventFilter(this);
     // Handlers may move the focus several times before it rests.
-    connect(qApp, &QApplication::focusChanged, this, [this] { QTimer::singleShot(0, this, &TypingGuard::MarkField); });
+    connect(qApp, &QApplication::focusChanged, this, [this] { QTimer::singleShot(0, this, &TypingGuard::FollowKeys); });
 }
 
 bool TypingGuard::eventFilter(QObject* watched, QEvent* event) {
@@ -105,7 +93,7 @@ bool TypingGuard::eventFilter(QObject* watched, QEvent* event) {
             return false;
         case QEvent::WindowActivate:
             // Wait until all windows have received their activation events; only then is it certain which form has the focus.
-            if (frmCWTX.Loaded() && watched->isWidgetType()) QTimer::singleShot(0, this, &TypingGuard::MarkField);
+            if (frmCWTX.Loaded() && watched->isWidgetType()) QTimer::singleShot(0, this, &TypingGuard::FollowKeys);
             return false;
         case QEvent::Hide: {
             const auto* widget = qobject_cast<QWidget*>(watched);
@@ -235,7 +223,7 @@ void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {
         // Ignore auto-repeat: holding F5 would restart its text again and again.
         if (press && !key.repeated) action->trigger();
         Deliver(GiveKeysBackToSending);
-        MarkField();
+        FollowKeys();
         return;
     }
     if (key.kind == KeyKind::AccessLetter) {
@@ -243,7 +231,7 @@ void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {
             if (press) main.UserAccessKey(key.letter);
             GiveKeysBackToSending();
         });
-        MarkField();
+        FollowKeys();
         return;
     }
     const Control* active = main.ActiveControl();
@@ -252,7 +240,7 @@ void TypingGuard::HandToMain(QKeyEvent& event, const PressedKey& key) {
     QKeyEvent same(event.type(), event.key(), event.modifiers(), event.text(), event.isAutoRepeat(), static_cast<quint16>(event.count()));
     QApplication::sendEvent(widget, &same);
     Deliver(GiveKeysBackToSending);
-    MarkField();
+    FollowKeys();
 }
 
 bool TypingGuard::TakeInputMethod(const QWidget& widget, QInputMethodEvent& event) {
@@ -264,43 +252,13 @@ bool TypingGuard::TakeInputMethod(const QWidget& widget, QInputMethodEvent& even
     same.setCommitString(event.commitString());
     QApplication::sendEvent(field, &same);
     Deliver(GiveKeysBackToSending);
-    MarkField();
+    FollowKeys();
     return true;
 }
 
-void TypingGuard::MarkField() {
+void TypingGuard::FollowKeys() {
     sending_ = Sending();
-    QWidget* field = FieldWithKeys();
-    if (field == nullptr) {
-        if (mark_ != nullptr) mark_->hide();
-        return;
-    }
-    if (mark_ == nullptr) mark_ = new FieldMark;
-    mark_->Surround(*field);
-}
-
-QWidget* TypingGuard::FocusElsewhere() const {
-    QWidget* focus = QApplication::focusWidget();
-    if (focus == nullptr || focus->window() != QApplication::activeWindow()) return nullptr;
-    // The editor of a combo box or a number is a part of it.
-    QWidget* around = focus->parentWidget();
-    if (qobject_cast<QComboBox*>(around) != nullptr || qobject_cast<QAbstractSpinBox*>(around) != nullptr) focus = around;
-    const bool marked = qobject_cast<QLineEdit*>(focus) != nullptr || qobject_cast<QAbstractButton*>(focus) != nullptr ||
-                        qobject_cast<QComboBox*>(focus) != nullptr || qobject_cast<QAbstractSpinBox*>(focus) != nullptr ||
-                        qobject_cast<QAbstractSlider*>(focus) != nullptr || qobject_cast<QPlainTextEdit*>(focus) != nullptr;
-    if (!marked) return nullptr;
-    // A window may mark its fields itself.
-    for (const FieldMark* other : focus->window()->findChildren<FieldMark*>())
-        if (other != mark_) return nullptr;
-    return focus;
-}
-
-QWidget* TypingGuard::FieldWithKeys() const {
-    const Form* main = frmMain.Peek();
-    const FormWindow* window = main != nullptr ? front_.WindowOf(*main) : nullptr;
-    if (window == nullptr || main->ActiveControl() == nullptr) return FocusElsewhere();
-    const bool inFront = ActiveForm() == main && QApplication::activeWindow() == window->Top();
-    return Sending() || inFront ? front_.WidgetOf(*main->ActiveControl()) : FocusElsewhere();
+    marked_.Follow(sending_);
 }
 
 void TypingGuard::SendingOver() {
@@ -310,7 +268,7 @@ void TypingGuard::SendingOver() {
         morse_.EndedByItself(now());
     else
         morse_.Forget();
-    MarkField();
+    FollowKeys();
 }
 
 void TypingGuard::WatchLog() {

@@ -19,6 +19,7 @@
 #include "box_keys.h"
 #include "entry_keys.h"
 #include "held_keys.h"
+#include "marked_field.h"
 #include "morse_keys.h"
 
 class QAbstractItemModel;
@@ -30,7 +31,6 @@ class QWindow;
 
 namespace vatro {
 
-class FieldMark;
 class Form;
 class QtFront;
 
@@ -65,12 +65,8 @@ private:
     /// Handles input-method text while a Morse text is being sent.
     bool TakeInputMethod(const QWidget& widget, QInputMethodEvent& event);
     void HandToMain(QKeyEvent& event, const PressedKey& key);
-    /// Marks the field that receives the keys: that of the main form, also while the sending window has the focus, or the one with the
-    /// focus in another window.
-    void MarkField();
-    QWidget* FieldWithKeys() const;
-    /// The field or button with the focus in a window other than the main form's.
-    QWidget* FocusElsewhere() const;
+    /// The focus has moved or may have moved.
+    void FollowKeys();
     /// The sending window has been hidden.
     void SendingOver();
     void WatchLog();
@@ -84,8 +80,7 @@ private:
     MorseKeys morse_;
     /// Whether the sending window had the focus when last checked.
     bool sending_ = false;
-    /// Created at first use; deleted with the main window.
-    QPointer<FieldMark> mark_;
+    MarkedField marked_;
     /// The model of the log list on the main form, once it is being watched.
     QPointer<const QAbstractItemModel> log_;
 };
