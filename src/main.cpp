@@ -76,7 +76,6 @@ Outcome Run() {
                                    {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
     const vatro::Desktop desktop(front, help);
-    vatro::MarkCalls(front);
     const vatro::PaperEnds paperEnds(front, papers, pages);
     vatro::AddLastLine(front);
     const vatro::MainSize size(front, settings);
@@ -99,6 +98,7 @@ Outcome Run() {
             vatro::StartProgram();
         });
         if (!vatro::ProgramRuns()) return;
+        vatro::MarkCall(front);
         copy.Begin();
         lamps.Begin();
     });

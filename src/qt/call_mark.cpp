@@ -3,22 +3,25 @@
 
 #include <QEvent>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QPalette>
+#include <QStatusBar>
 
+#include "bar_widgets.h"
+#include "entry/frmMain.h"
+#include "entry/qso_fields.h"
 #include "qt_front.h"
 #include "signal_colours.h"
 #include "status_panel.h"
 
 namespace vatro {
 
-CallMark::CallMark(QMainWindow& window, QLineEdit& call, StatusPanel& panel) : QObject(&window), call_(call), panel_(panel) {
+CallMark::CallMark(QLineEdit& call, StatusPanel& panel) : QObject(call.window()), call_(call), panel_(panel) {
     connect(&panel_, &StatusPanel::Told, this, &CallMark::Look);
     connect(&call_, &QLineEdit::textChanged, this, [this](const QString& text) {
         panel_.SetFaded(text.isEmpty() && panel_.Mark() != PanelMark::None);
         Look();
     });
-    window.installEventFilter(this);
+    call_.window()->installEventFilter(this);
 }
 
 void CallMark::Look() {
@@ -41,12 +44,10 @@ bool CallMark::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-void MarkCalls(QtFront& front) {
-    front.extraEntries.emplace_back([](QMainWindow& window, QMenu& /*menu*/) {
-        auto* call = window.findChild<QLineEdit*>(QStringLiteral("Text1_1"));
-        auto* panel = window.findChild<StatusPanel*>(QStringLiteral("sbStatusBar_1"));
-        if (call != nullptr && panel != nullptr) new CallMark(window, *call, *panel);
-    });
+void MarkCall(const QtFront& front) {
+    auto& call = dynamic_cast<QLineEdit&>(*front.WidgetOf(frmMain->fields[kCallField]));
+    const auto& bar = dynamic_cast<const QStatusBar&>(*front.WidgetOf(frmMain->statusBar));
+    new CallMark(call, *PanelsOf(bar).constFirst());
 }
 
 }  // namespace vatro

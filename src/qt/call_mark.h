@@ -7,7 +7,6 @@
 #include <QObject>
 
 class QLineEdit;
-class QMainWindow;
 
 namespace vatro {
 
@@ -18,8 +17,8 @@ class CallMark : public QObject {
     Q_OBJECT
 
 public:
-    /// The window must already contain all its widgets.
-    CallMark(QMainWindow& window, QLineEdit& call, StatusPanel& panel);
+    /// Both must be in the same window.
+    CallMark(QLineEdit& call, StatusPanel& panel);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -31,7 +30,7 @@ private:
     bool marked_ = false;
 };
 
-/// Marks the call field of every main window that the front makes from now on.
-void MarkCalls(QtFront& front);
+/// Marks the call field of the entry form from now on. Call when the entry form has its window.
+void MarkCall(const QtFront& front);
 
 }  // namespace vatro

@@ -20,8 +20,8 @@ namespace {
 class MarksOfTheCall : public WindowProgram {
 protected:
     MarksOfTheCall() {
-        MarkCalls(dynamic_cast<QtFront&>(driver.ProgramFront()));
         StartVatro();
+        MarkCall(dynamic_cast<QtFront&>(driver.ProgramFront()));
         desk().log.Append("12:07 DL1ABC          59 -0001 59 -0345  3            OZ1AB      SSB   05-09-26");
     }
     void Type(const char* keys) {
