@@ -13,7 +13,6 @@
 
 #include "correction/frmRetQSO.h"
 #include "deliver.h"
-#include "desktop.h"
 #include "dialogs.h"
 #include "entry/frmB4.h"
 #include "entry/frmCall.h"
@@ -28,32 +27,19 @@
 #include "keyer/frmCWTX.h"
 #include "last_line.h"
 #include "morse_speed.h"
-#include "qt/window_program.h"
-#include "services.h"
+#include "qt/desktop_program.h"
 #include "stations/frmEDR.h"
 
 namespace vatro {
 namespace {
 
-class DesktopKeys : public WindowProgram {
+class DesktopKeys : public DesktopProgram {
 protected:
     DesktopKeys() {
-        AddLastLine(front);
-        settings.texts["SETTINGS/MODE"] = "CW";
-        settings.texts["SETTINGS/QSOMODE"] = "CW";
-        settings.texts["CW/TEKST1"] = "PARIS";
-        settings.texts["CW/WPM"] = "24";
+        AddLastLine(qtFront);
         speed.told = [this](int wpm) { told.push_back(wpm); };
-        StartVatro();
+        StartInMorse();
     }
-    void Key(const KeyStroke& key) {
-        driver.Press(key);
-        driver.Settle();
-    }
-    void Type(std::string_view text) {
-        for (const char c : text) Key({.name = {}, .character = c});
-    }
-    std::string Field(int index) const { return frmMain->fields[index].Text(); }
     void Focus(Control& control) {
         Deliver([&control] { control.Parent().UserFocus(control); });
         driver.Settle();
@@ -77,10 +63,7 @@ protected:
     }
     HelpWindow* Handbook() const { return handbook.Window(); }
 
-    QtFront& front = dynamic_cast<QtFront&>(driver.ProgramFront());
-    QtHelp handbook;
-    Desktop desktop{front, handbook};
-    MorseSpeed speed{front};
+    MorseSpeed speed{qtFront};
     std::vector<int> told;
 };
 

@@ -8,20 +8,18 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "desktop.h"
 #include "entry/qso_fields.h"
 #include "printer.h"
 #include "printing/frmInfo.h"
-#include "qt/window_program.h"
+#include "qt/desktop_program.h"
 #include "qt_text.h"
-#include "services.h"
 
 namespace vatro {
 namespace {
 
 using namespace literals;
 
-class PaperEndInTheWindow : public WindowProgram {
+class PaperEndInTheWindow : public DesktopProgram {
 protected:
     PaperEndInTheWindow() {
         InstallPlatform(driver.ProgramFront(), {dialogs, settings, watch, clock, help, instance, sound, paper, {1, 2, 3}});
@@ -42,10 +40,6 @@ protected:
         return Window().findChild<W*>(QLatin1String(name));
     }
     std::string Told() const { return In<QLabel>("paperEnd")->text().toStdString(); }
-    void Key(const KeyStroke& key) {
-        driver.Press(key);
-        driver.Settle();
-    }
 
     QTemporaryDir directory;
     QStringList opened;
@@ -53,9 +47,7 @@ protected:
     PaperWatch watch{files};
     QtPrinter device{[] { return false; }};
     PageSurface paper{device};
-    QtHelp handbook;
-    Desktop desktop{dynamic_cast<QtFront&>(driver.ProgramFront()), handbook};
-    PaperEnds ends{dynamic_cast<QtFront&>(driver.ProgramFront()), watch, device};
+    PaperEnds ends{qtFront, watch, device};
 };
 
 TEST_F(PaperEndInTheWindow, TellsTheFileAndOpensItOrItsDirectory) {

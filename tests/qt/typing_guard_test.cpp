@@ -11,15 +11,13 @@
 #include <QWindow>
 
 #include "box_flash.h"
-#include "desktop.h"
 #include "dialogs.h"
 #include "entry/frmNytQSOnr.h"
 #include "entry/qso_fields.h"
 #include "field_mark.h"
 #include "frame/state.h"
 #include "keyer/frmCWTX.h"
-#include "qt/window_program.h"
-#include "services.h"
+#include "qt/desktop_program.h"
 
 namespace vatro {
 namespace {
@@ -27,34 +25,18 @@ namespace {
 using namespace std::chrono_literals;
 using namespace literals;
 
-class SafeTyping : public WindowProgram {
+class SafeTyping : public DesktopProgram {
 protected:
     SafeTyping() {
-        settings.texts["SETTINGS/MODE"] = "CW";
-        settings.texts["SETTINGS/QSOMODE"] = "CW";
-        settings.texts["CW/TEKST1"] = "PARIS";
         desktop.Typing().now = [this] { return moment; };
-        StartVatro();
+        StartInMorse();
     }
 
-    void Key(const KeyStroke& key) {
-        driver.Press(key);
-        driver.Settle();
-    }
-    void Type(std::string_view text) {
-        for (const char c : text) {
-            if (c == ' ')
-                Key({.name = "Space"});
-            else
-                Key({.name = {}, .character = c});
-        }
-    }
     /// The auto-repeat of a held key.
     void Repeat(Form& form, Qt::Key key, const QString& text) const {
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text, true);
         QApplication::sendEvent(WindowOf(form).Top()->windowHandle(), &event);
     }
-    static std::string Field(int index) { return frmMain->fields[index].Text(); }
     std::size_t Contacts() { return LinesOf("log\\FD80mCW.txt").size(); }
 
     /// The text of F5.
@@ -73,8 +55,6 @@ protected:
     }
 
     Moment moment{10s};
-    QtHelp handbook;
-    Desktop desktop{dynamic_cast<QtFront&>(driver.ProgramFront()), handbook};
 };
 
 // --- The second Enter
@@ -368,12 +348,10 @@ class PlainTyping : public WindowProgram {};
 
 TEST_F(PlainTyping, ASecondEnterIsAnEmptyCall) {
     StartVatro();
-    for (const char c : std::string("dl9xyz")) driver.Press({.name = {}, .character = c});
-    driver.Press({.name = "Space"});
-    driver.Press({.name = {}, .character = '7'});
-    driver.Press({.name = "Enter"});
+    Type("dl9xyz 7");
+    Key({.name = "Enter"});
     dialogs.Expect("Et kaldesignal skal være på mindst 3 tegn");
-    driver.Press({.name = "Enter"});
+    Key({.name = "Enter"});
 }
 
 }  // namespace

@@ -36,6 +36,16 @@ protected:
         Start();
         driver.Settle();
     }
+    void Key(const KeyStroke& key) {
+        driver.Press(key);
+        driver.Settle();
+    }
+    /// Presses the keys one by one; a blank is the space bar.
+    void Type(std::string_view text) {
+        for (const char c : text) Key(c == ' ' ? KeyStroke{.name = "Space"} : KeyStroke{.name = {}, .character = c});
+    }
+    /// The text of a field of the entry form.
+    static std::string Field(int index) { return frmMain->fields[index].Text(); }
     const FormWindow& WindowOf(const Form& form) const {
         const FormWindow* window = Qt().WindowOf(form);
         if (window == nullptr) throw std::logic_error("no window");
