@@ -23,10 +23,6 @@ constexpr long long kSteady = 1500;
 constexpr long long kSlept = 10'000;
 constexpr auto kShown = 60s;
 
-std::string TimeText(const DateTime& moment) {
-    return FormatTime(moment.hour, moment.minute);
-}
-
 /// A length of time for the operator, such as "12 min." or "3 t. 5 min.".
 std::string LengthText(long long milliseconds) {
     const long long minutes = (std::llabs(milliseconds) + kMinute / 2) / kMinute;
@@ -61,11 +57,11 @@ bool ClockWatch::Look(const Reading& reading) {
 
 Lamp ClockWatch::Shown() const {
     if (!last_) return {};
-    const std::string computer = TimeText(last_->universal);
+    const std::string computer = FormatTime(last_->universal);
     if (!logged_)
         return {Lamp::State::Bad, "UTC er " + computer + ", loggen har ingen tid",
                 std::string("UTC offset er ikke et tal. Vælg det i Indstillinger, UTC offset..."_t)};
-    const std::string logged = TimeText(*logged_);
+    const std::string logged = FormatTime(*logged_);
     if (differs_)
         return {Lamp::State::Bad, Joined({"UTC er ", computer, ", loggen siger ", logged}),
                 Joined({"Computeren siger, at UTC er ", computer, ", men kontakterne bliver logget med ", logged,

@@ -13,15 +13,11 @@ namespace {
 /// A stick may take a while to wake up. After this the operator is told.
 constexpr std::chrono::milliseconds kPatience{5000};
 
-std::string TimeOf(const DateTime& moment) {
-    return FormatTime(moment.hour, moment.minute);
-}
-
 Lamp NoCopy(const CopyStatus& status, std::string_view reason) {
     Lamp lamp;
     lamp.state = Lamp::State::Bad;
-    lamp.text = status.good ? "INGEN KOPI siden " + TimeOf(*status.good) : "INGEN KOPI";
-    if (status.good) lamp.brief = TimeOf(*status.good);
+    lamp.text = status.good ? "INGEN KOPI siden " + FormatTime(*status.good) : "INGEN KOPI";
+    if (status.good) lamp.brief = FormatTime(*status.good);
     lamp.tip = Joined({reason, " Loggen selv er gemt."});
     return lamp;
 }
@@ -37,11 +33,14 @@ Lamp CopyLamp(const CopyStatus& status, std::string_view directory) {
     if (!status.reason.empty()) return NoCopy(status, status.reason);
     Lamp lamp;
     lamp.state = Lamp::State::Good;
-    lamp.text = status.good ? "kopi " + TimeOf(*status.good) : std::string("kopi ..."_t);
-    lamp.tip =
-        status.good
-            ? Joined({"Den løbende kopi i "_t, directory, " er som loggene. Den blev sidst skrevet kl. "_t, TimeOf(*status.good), " UTC."})
-            : Joined({"Den løbende kopi i "_t, directory, " sammenlignes med loggene."_t});
+    if (status.good) {
+        const std::string time = FormatTime(*status.good);
+        lamp.text = "kopi " + time;
+        lamp.tip = Joined({"Den løbende kopi i "_t, directory, " er som loggene. Den blev sidst skrevet kl. "_t, time, " UTC."});
+    } else {
+        lamp.text = "kopi ..."_t;
+        lamp.tip = Joined({"Den løbende kopi i "_t, directory, " sammenlignes med loggene."_t});
+    }
     if (status.sameDisk)
         lamp.tip += " Den ligger på samme disk som loggen: går disken i stykker, er begge væk. Vælg hellere en USB-nøgle."_t;
     return lamp;

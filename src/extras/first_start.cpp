@@ -196,12 +196,12 @@ int ProposedOffset(const DateTime& local, const DateTime& universal) {
 
 std::string ClockQuestion(const DateTime& local, int offset) {
     const DateTime now = AddHours(local, offset);
-    return Joined({"Klokken er nu ", FormatTime(now.hour, now.minute), " UTC. Rigtigt?"});
+    return Joined({"Klokken er nu ", FormatTime(now), " UTC. Rigtigt?"});
 }
 
 std::string ClockAdvice(const DateTime& local) {
     return Joined({"Er timen forkert, så ret tallet med pil op og pil ned. Er minutter eller dato forkerte, så stil computerens ur: "_t,
-                   FormatTime(local.hour, local.minute), " den ", FormatDate(local), "."});
+                   FormatTime(local), " den ", FormatDate(local), "."});
 }
 
 DirectoryFinding ExamineDirectory(std::string_view typed, const fs::path& home) {

@@ -12,7 +12,7 @@ using namespace literals;
 void LastContact::Saved(std::string_view line, const DateTime& universal) {
     if (IsNote(line)) return;
     const std::string contact = Joined({kNumberSent.TrimmedOf(line), " ", kCall.TrimmedOf(line)});
-    const std::string time = FormatTime(universal.hour, universal.minute);
+    const std::string time = FormatTime(universal);
     lamp_ = {Lamp::State::Good, Joined({contact, " gemt ", time}),
              Joined({"Den sidste kontakt, "_t, contact, ", har ligget på disken siden "_t, time, " UTC."})};
 }

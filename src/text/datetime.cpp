@@ -152,6 +152,10 @@ std::string FormatTime(int hour, int minute) {
     return text;
 }
 
+std::string FormatTime(const DateTime& moment) {
+    return FormatTime(moment.hour, moment.minute);
+}
+
 std::string FormatDate(const DateTime& moment) {
     return FormatDate(moment, "dd-mm-yy");
 }

@@ -44,6 +44,8 @@ int Weekday(const DateTime& moment);
 
 /// Formats a time as "Hh:Nn": hours and minutes with two digits each, as in "09:05".
 std::string FormatTime(int hour, int minute);
+/// The time of day of a moment in the same format.
+std::string FormatTime(const DateTime& moment);
 /// Formats the date as "dd-mm-yy".
 std::string FormatDate(const DateTime& moment);
 /// Formats the date by a pattern: "dd", "mm", "yy" and "yyyy" stand for day, month and year; other characters are copied.

@@ -42,6 +42,7 @@ TEST(DateTime, WeekdayCountsFromMonday) {
 TEST(DateTime, FormatsHaveTwoDigitsEach) {
     EXPECT_EQ(FormatTime(9, 5), "09:05");
     EXPECT_EQ(FormatTime(23, 59), "23:59");
+    EXPECT_EQ(FormatTime({2026, 9, 5, 7, 45, 12, 0}), "07:45");
     EXPECT_EQ(FormatDate(Moment(2002, 9, 7)), "07-09-02");
     EXPECT_EQ(FormatDate(Moment(1999, 12, 31)), "31-12-99");
 }

@@ -16,8 +16,7 @@ DateTime UtcNow() {
 }
 
 std::string UtcTimeText() {
-    const DateTime now = UtcNow();
-    return FormatTime(now.hour, now.minute);
+    return FormatTime(UtcNow());
 }
 
 std::string PathIn(const std::string& directory, std::string_view name) {

@@ -234,7 +234,7 @@ std::optional<std::string> ValiderTid(std::string_view text, const DateTime& now
         time[2] = ':';
         if (ParseTime(time)) return std::nullopt;
     }
-    return std::string("Fejl i tidspunkt. Tidspunkt skal angives som: '").append(FormatTime(now.hour, now.minute)).append("'.");
+    return std::string("Fejl i tidspunkt. Tidspunkt skal angives som: '").append(FormatTime(now)).append("'.");
 }
 
 bool GyldigDato(std::string_view text) {
