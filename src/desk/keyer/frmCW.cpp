@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "keyer/frmCW.h"
-#include "frame/state.h"
 
 #include <algorithm>
 
@@ -26,6 +25,17 @@ constexpr std::string_view kTextCharacters = " ABCDEFGHIJKLMNOPQRSTUVWXYZÆØÅ1
 /// gets only the texts that every contact needs.
 constexpr std::array<std::string_view, kCwTextCount> kDefaultTexts{"CQ TEST DE #R #R TEST K", "CL?",   "#R",
                                                                    "#C UR #T #N BK",          "TU #R", "#C?"};
+
+/// Makes new pieces if the sound changes. Fails with 6 if speed or pitch exceeds 16 bits; failures of DanLydBuffer are not caught.
+void SetSound(double wpm, double tone, std::int32_t volume) {
+    KeyerState& cw = desk().cw;
+    if (wpm == cw.giCWWPM && tone == cw.giCWTone && volume == cw.glCWVolume) return;
+    cw.giCWWPM = ToInt16(wpm);
+    cw.giCWTone = ToInt16(tone);
+    cw.glCWVolume = volume;
+    // If there is no buffer yet, the first send makes it.
+    if (frmCWTX.Loaded() && frmCWTX->CWBuffer) frmCWTX->DanLydBuffer();
+}
 
 }  // namespace
 
@@ -88,27 +98,6 @@ void FrmCW::Form_Load() {
     for (std::size_t i = 0; i < kCwTextCount; ++i) texts[i].SetText(cw.CWTekster[i]);
 }
 
-namespace {
-
-/// Makes new pieces if the sound changes. Fails with 6 if speed or pitch exceeds 16 bits; failures of DanLydBuffer are not caught.
-void SetSound(double wpm, double tone, std::int32_t volume) {
-    KeyerState& cw = desk().cw;
-    if (wpm == cw.giCWWPM && tone == cw.giCWTone && volume == cw.glCWVolume) return;
-    cw.giCWWPM = ToInt16(wpm);
-    cw.giCWTone = ToInt16(tone);
-    cw.glCWVolume = volume;
-    // If there is no buffer yet, the first send makes it.
-    if (frmCWTX.Loaded() && frmCWTX->CWBuffer) frmCWTX->DanLydBuffer();
-}
-
-}  // namespace
-
-void ChangeCwSpeed(int wpm) {
-    const KeyerState& cw = desk().cw;
-    SetSound(wpm, cw.giCWTone, cw.glCWVolume);
-    GemCWIndstillinger();
-}
-
 void FrmCW::cmdReset_Click() {
     MessageBox question;
     question.text = "Er du sikker på at du vil ændre teksterne?"_t;
@@ -133,6 +122,12 @@ void FrmCW::cmdOK_Click() {
     GemUdstyr();
     SetCwMenuTekster();
     Unload();
+}
+
+void ChangeCwSpeed(int wpm) {
+    const KeyerState& cw = desk().cw;
+    SetSound(wpm, cw.giCWTone, cw.glCWVolume);
+    GemCWIndstillinger();
 }
 
 }  // namespace vatro
