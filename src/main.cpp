@@ -9,6 +9,7 @@
 #include <string>
 
 #include "application.h"
+#include "ask_at_first_start.h"
 #include "call_mark.h"
 #include "clock.h"
 #include "codepage.h"
@@ -21,7 +22,6 @@
 #include "docking.h"
 #include "ends.h"
 #include "entry/frmMain.h"
-#include "first_page.h"
 #include "frame/start.h"
 #include "lamps.h"
 #include "last_line.h"

@@ -4,12 +4,13 @@
 // itself has nothing to ask. Esc leaves everything to the questions of the program itself.
 //
 // Enter goes to the next field, and from the last one it accepts. An answer that is wrong is told below its field; nothing that was typed
-// is lost. Logic and texts are in extras/first_start.h.
+// is lost. The fields are in first_fields.h, logic and texts in extras/first_start.h, and ask_at_first_start.h shows the page.
 #pragma once
 
 #include <QDialog>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,17 +18,12 @@
 #include "first_start.h"
 #include "held_keys.h"
 
-class QCheckBox;
-class QGridLayout;
-class QLabel;
-class QLineEdit;
 class QPushButton;
-class QRadioButton;
-class QSpinBox;
 
 namespace vatro {
 
 class FieldMark;
+class FirstFields;
 class ScrollRoom;
 
 class FirstPage : public QDialog {
@@ -56,24 +52,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    /// A field with the line below it that says what is wrong.
-    struct Row {
-        QWidget* field = nullptr;
-        QLabel* message = nullptr;
-    };
-
-    QLabel* AddMessage();
-    void AddRow(const QString& caption, QWidget& buddy, class QLayout& fields);
-    QLineEdit* AddField(const QString& caption, const QString& name, int characters, const QString& hint);
-    void AddClass(char chosen);
-    void AddDirectory(const FirstAnswers& proposed);
-    void AddClock(int offset);
-    void AddButtons();
-    Row RowOf(FirstQuestion about) const;
-    void Say(const Row& row, const std::string& text, bool wrong);
+    QLayout* MakeButtons();
+    void Say(FirstQuestion about, const std::string& text, bool wrong);
+    void Unsay(FirstQuestion about);
     /// Shows what is wrong, and goes to the first of it. Returns whether nothing is.
     bool Tell(const std::vector<Complaint>& complaints);
-    void ForgetComplaint(const Row& row);
+    /// Says what there is to say about an answer that has just been given.
+    void LookAt(FirstQuestion about);
     /// Says what the directory holds.
     void LookAtDirectory();
     void ShowClock();
@@ -84,33 +69,14 @@ private:
     void Fit();
 
     Surroundings surroundings_;
-    ScrollRoom* room_ = nullptr;
-    QGridLayout* grid_ = nullptr;
-    QLineEdit* call_ = nullptr;
-    QRadioButton* classA_ = nullptr;
-    QRadioButton* classB_ = nullptr;
-    QLineEdit* telephone_ = nullptr;
-    QLineEdit* operator_ = nullptr;
-    QLineEdit* directory_ = nullptr;
-    QPushButton* choose_ = nullptr;
-    QCheckBox* useLogs_ = nullptr;
-    QSpinBox* offset_ = nullptr;
-    QLabel* question_ = nullptr;
-    QLabel* advice_ = nullptr;
+    FirstFields* fields_;
+    ScrollRoom* room_;
     QPushButton* goOn_ = nullptr;
-    QLabel* callMessage_ = nullptr;
-    QLabel* operatorMessage_ = nullptr;
-    QLabel* directoryMessage_ = nullptr;
-    QLabel* useLogsMessage_ = nullptr;
     /// The directory that LookAtDirectory last looked at.
-    QString seen_;
+    std::optional<std::string> seen_;
     /// Shows which field gets the keys, also where the style shows little.
     FieldMark* mark_ = nullptr;
     HeldKeys held_;
 };
-
-/// At the very first start: shows the page, and stores its answers in the settings at once. Does nothing at any other start, or if another
-/// copy of the program runs. Call as an event, before StartProgram.
-void AskAtFirstStart();
 
 }  // namespace vatro

@@ -16,6 +16,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "ask_at_first_start.h"
 #include "deliver.h"
 #include "disk/temporary_world.h"
 #include "extras/log_lines.h"
