@@ -228,6 +228,11 @@ std::vector<Complaint> CheckAnswers(const FirstAnswers& answers, const fs::path&
     return complaints;
 }
 
+std::string CallHint(std::string_view call) {
+    if (call.empty() || call.ends_with("/P")) return {};
+    return std::string("Uden /P finder sammentællingen ikke jeres navn på EDRs liste."_t);
+}
+
 std::vector<Complaint> PrepareDisk(const FirstAnswers& answers, const fs::path& home, const fs::path& tables) {
     const fs::path path = ExamineDirectory(answers.directory, home).path;
     std::string_view what = "Biblioteket kan ikke oprettes: "_t;

@@ -84,6 +84,10 @@ struct Complaint {
 /// What is wrong with the answers, from the top of the page; nothing if they can be used.
 std::vector<Complaint> CheckAnswers(const FirstAnswers& answers, const std::filesystem::path& home);
 
+/// What there is to say about a call that can be used; usually nothing. The summary looks for the station's name under its call with "/P"
+/// and prints none for any other. Which class it is in makes no difference.
+std::string CallHint(std::string_view call);
+
 /// Prepares the disk for answers that have been checked: creates the log directory with its marker file, and adds the operator to the list
 /// in the directory of the tables. Everything is on the disk on return. If a step fails, returns what is wrong; a new directory is then
 /// removed again as long as it is empty.

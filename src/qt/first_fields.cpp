@@ -24,6 +24,8 @@ namespace {
 
 /// Room for a call, in characters.
 constexpr int kCallWidth = 12;
+/// The property with the hint beside a field.
+constexpr const char* kHint = "hint";
 
 void Embolden(QWidget& widget) {
     QFont font = widget.font();
@@ -93,6 +95,7 @@ QLineEdit* FirstFields::AddField(const QString& caption, const QString& name, in
     auto* field = new QLineEdit;
     field->setAccessibleName(name);
     field->setAccessibleDescription(hint);
+    field->setProperty(kHint, hint);
     // Some more than the text, for the frame and the caret.
     field->setFixedWidth(fontMetrics().horizontalAdvance(u'W') * (characters + 2));
     auto* fields = new QHBoxLayout;
@@ -195,7 +198,7 @@ void FirstFields::Say(FirstQuestion about, const std::string& text, bool wrong) 
     QPalette colours = palette();
     if (wrong) colours.setColor(QPalette::WindowText, ColoursOf(Signal::Wrong, colours).ground);
     row.message->setPalette(colours);
-    row.field->setAccessibleDescription(row.message->text());
+    row.field->setAccessibleDescription(text.empty() ? row.field->property(kHint).toString() : row.message->text());
 }
 
 void FirstFields::Unsay(FirstQuestion about) {

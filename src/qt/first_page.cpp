@@ -102,6 +102,8 @@ bool FirstPage::Tell(const std::vector<Complaint>& complaints) {
 
 void FirstPage::LookAt(FirstQuestion about) {
     if (about == FirstQuestion::Directory) LookAtDirectory();
+    if (about != FirstQuestion::Call) return;
+    if (const std::string hint = CallHint(Answers().call); !hint.empty()) Say(about, hint, false);
 }
 
 void FirstPage::LookAtDirectory() {

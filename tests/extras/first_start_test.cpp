@@ -186,6 +186,16 @@ TEST_F(FirstDirectory, OfAnotherCopyIsRefused) {
     EXPECT_EQ(complaints[0].text, "En anden Vatro bruger biblioteket. Vælg et andet."_t);
 }
 
+TEST(FirstCall, WithoutPortableSuffixGetsAHintBecauseTheSummaryFindsNoName) {
+    const std::string hint = "Uden /P finder sammentællingen ikke jeres navn på EDRs liste.";
+    EXPECT_EQ(ToUtf8(CallHint("OZ7FD")), hint);
+    EXPECT_EQ(ToUtf8(CallHint("OZ7FD/M")), hint);
+    EXPECT_EQ(ToUtf8(CallHint("OZ7FD/P/QRP")), hint);
+    EXPECT_EQ(CallHint("OZ7FD/P"), "");
+    // An empty call is a complaint.
+    EXPECT_EQ(CallHint(""), "");
+}
+
 class FirstOperator : public FirstDirectory {
 protected:
     void SetUp() override { fs::create_directory(root_ / "tables"); }

@@ -118,6 +118,31 @@ TEST_F(FirstPageTest, EnterStaysInAnEmptyCallAndSaysWhy) {
     EXPECT_THAT(Words(), testing::Not(HasSubstr("Skriv jeres kaldesignal.")));
 }
 
+TEST_F(FirstPageTest, RemindsQuietlyOfAMissingPortableSuffix) {
+    Type("oz7fd");
+    EXPECT_THAT(Words(), testing::Not(HasSubstr("Uden /P")));
+    Press(Qt::Key_Return);
+    EXPECT_EQ(FocusName(), QStringLiteral("Klasse A")) << "a reminder is no complaint";
+    ASSERT_THAT(Words(), HasSubstr("Uden /P finder sammentællingen ikke jeres navn på EDRs liste."));
+    for (const QLabel* label : Page().findChildren<QLabel*>())
+        if (label->text().startsWith(QStringLiteral("Uden /P"))) EXPECT_FALSE(label->font().bold());
+    auto& call = Named<QLineEdit>("Kaldesignal");
+    call.setFocus();
+    Press(Qt::Key_End);
+    EXPECT_THAT(call.accessibleDescription().toStdString(), HasSubstr("Uden /P"));
+    Type("/p");
+    EXPECT_THAT(Words(), testing::Not(HasSubstr("Uden /P")));
+    EXPECT_EQ(call.accessibleDescription(), QStringLiteral("med /P, nøjagtig som på EDRs liste"));
+    Press(Qt::Key_Return);
+    EXPECT_THAT(Words(), testing::Not(HasSubstr("Uden /P")));
+}
+
+TEST_F(FirstPageTest, LeavingAnEmptyCallDoesNotTakeTheComplaintAway) {
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Tab);
+    EXPECT_THAT(Words(), HasSubstr("Skriv jeres kaldesignal."));
+}
+
 TEST_F(FirstPageTest, AHeldEnterIsOneEnter) {
     Type("oz7fd");
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
