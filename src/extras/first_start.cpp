@@ -208,7 +208,7 @@ DirectoryFinding ExamineDirectory(std::string_view typed, const fs::path& home) 
     if (Trim(typed).empty()) return Unusable({}, "Skriv, hvor loggene skal ligge."_t);
     const fs::path path = Meant(typed, home);
     const FoundPath found = FindPath(path);
-    if (LeavesCodePage(typed) || LeavesCodePage(Utf8Of(found.path)))
+    if (LeavesCodePage(Utf8Of(found.path)))
         return Unusable(path, "Vatro kender ikke alle tegn i stien. Vælg et bibliotek med danske og andre vesteuropæiske bogstaver."_t);
     if (path.empty()) return Unusable(path, Joined({"Skriv hele stien, for eksempel "_t, NativeText(home / "log"), "."}));
     if (!path.has_relative_path()) return Unusable(path, "Loggene kan ikke ligge her. Vælg et bibliotek."_t);

@@ -44,12 +44,16 @@ TEST(FirstStart, ProposesTheOffsetOfTheComputer) {
     EXPECT_EQ(ProposedOffset(At(6, 1, 30), At(5, 23, 30)), -2);
     EXPECT_EQ(ProposedOffset(At(5, 20, 0), At(6, 6, 0)), 10);
     // Read one after the other, with the second turning between them.
-    EXPECT_EQ(ProposedOffset(At(5, 14, 29, 59), At(5, 12, 30, 0)), -2);
+    EXPECT_EQ(ProposedOffset(At(5, 15, 29, 59), At(5, 12, 30, 0)), -3);
+    EXPECT_EQ(ProposedOffset(At(5, 12, 29, 59), At(5, 14, 30, 0)), 2);
+    EXPECT_EQ(ProposedOffset(At(5, 15, 29, 55), At(5, 12, 30, 0)), -3);
+    EXPECT_EQ(ProposedOffset(At(5, 15, 29, 54), At(5, 12, 30, 0)), -2) << "too far apart";
 }
 
 TEST(FirstStart, ProposesDanishSummerTimeIfTheOffsetCannotBeSet) {
     EXPECT_EQ(ProposedOffset(At(5, 18, 0), At(5, 12, 30)), -2);
     EXPECT_EQ(ProposedOffset(At(5, 13, 0), At(5, 0, 0)), -2);
+    EXPECT_EQ(ProposedOffset(At(5, 0, 0), At(5, 13, 0)), -2);
     EXPECT_EQ(ProposedOffset(At(5, 0, 0), At(5, 12, 0)), 12);
     EXPECT_EQ(ProposedOffset(At(5, 12, 0), At(5, 1, 0)), -11);
 }
@@ -93,6 +97,7 @@ TEST_F(FirstDirectory, IsFoundRegardlessOfCaseAsTheProgramFindsIt) {
     fs::create_directory(root_ / "Feltdag");
     EXPECT_EQ(Examine("FELTDAG").kind, Kind::Free);
     EXPECT_EQ(Examine("FELTDAG").path.filename(), "Feltdag");
+    EXPECT_EQ(Examine("FELTDAG/2026").path, root_ / "Feltdag" / "2026");
 }
 
 TEST_F(FirstDirectory, MustBeNamedWhole) {
@@ -131,6 +136,23 @@ TEST_F(FirstDirectory, TellsHowManyContactsItHolds) {
     EXPECT_EQ(Examine("log").kind, Kind::Free);
 }
 
+TEST_F(FirstDirectory, TellsTheLatestContactWhateverTheOrderOfTheFiles) {
+    fs::create_directory(root_ / "log");
+    const std::string early = ContactLine(1, 3) + "\r\n";
+    const std::string late = ContactLine(1, 59) + "\r\n";
+    Put("log/FD80mSSB.txt", early);
+    Put("log/FD20mCW.txt", late);
+    EXPECT_THAT(Examine("log").text, HasSubstr("12:59"));
+    Put("log/FD80mSSB.txt", late);
+    Put("log/FD20mCW.txt", early);
+    EXPECT_THAT(Examine("log").text, HasSubstr("12:59"));
+}
+
+TEST_F(FirstDirectory, MayHoldADirectoryThatIsNamedLikeALog) {
+    fs::create_directories(root_ / "log" / "FD80mSSB.txt");
+    EXPECT_EQ(Examine("log").kind, Kind::Free);
+}
+
 TEST_F(FirstDirectory, WithLogsIsUsedOnlyIfTheOperatorWantsThem) {
     fs::create_directory(root_ / "log");
     Put("log/FD80mSSB.txt", LogOf(3));
@@ -157,6 +179,14 @@ TEST_F(FirstDirectory, GetsItsMarker) {
     EXPECT_EQ(Content("FD/2026/setlog.txt"), "");
     EXPECT_EQ(PathOf(LogDirectorySetting(Answers("FD/2026"), root_)), root_ / "FD" / "2026");
     EXPECT_EQ(PathOf(LogDirectorySetting(Answers("FD/2026/"), root_)), root_ / "FD" / "2026");
+}
+
+TEST_F(FirstDirectory, KeepsAMarkerThatIsSpelledDifferentlyAndEmptiesIt) {
+    fs::create_directory(root_ / "log");
+    Put("log/SetLog.TXT", "x");
+    EXPECT_THAT(Prepare(Answers("log")), IsEmpty());
+    EXPECT_EQ(Content("log/SetLog.TXT"), "");
+    EXPECT_THAT(Names("log"), testing::Not(testing::Contains("setlog.txt")));
 }
 
 TEST_F(FirstDirectory, ThatCannotBeCreatedIsToldAndNothingIsLeft) {
@@ -216,6 +246,15 @@ TEST_F(FirstOperator, StandsAtTheEndOfTheListOnce) {
     EXPECT_EQ(ListAfter("OZ1ABC\r\n", "OZ1AB"), "OZ1ABC\r\nOZ1AB\r\n");
     // Only six characters of a line are an operator.
     EXPECT_EQ(ListAfter("OZ1ABCD\n", "OZ1ABC"), "OZ1ABCD\n");
+}
+
+TEST_F(FirstOperator, GoesIntoAListThatIsSpelledDifferently) {
+    Put("tables/Operator.txt", "OZ7FD\r\n");
+    FirstAnswers answers = Answers("log");
+    answers.operatorCall = "OZ1AB";
+    EXPECT_THAT(Prepare(answers), IsEmpty());
+    EXPECT_EQ(Content("tables/Operator.txt"), "OZ7FD\r\nOZ1AB\r\n");
+    EXPECT_THAT(Names("tables"), SizeIs(1));
 }
 
 TEST_F(FirstOperator, MayBeLeftOut) {

@@ -152,6 +152,61 @@ TEST_F(ALampRow, WhatIsWrongKeepsAShortFormLongest) {
     EXPECT_GT(brief, 0);
 }
 
+TEST_F(ALampRow, AShortFormIsShownBesideTheSign) {
+    Lamp bad = kBad;
+    bad.brief = "12:07";
+    row->Show(LampKind::Copy, bad);
+    LampButton& lamp = row->Button(LampKind::Copy);
+    const auto inked = [&lamp](LampButton::Words words) {
+        lamp.SetWords(words);
+        lamp.resize(lamp.sizeHint());
+        const QImage image = lamp.grab().toImage();
+        // How many columns differ from the ground within themselves; the outermost belong to the frame.
+        const int edge = qCeil(4 * image.devicePixelRatio());
+        int columns = 0;
+        for (int x = edge; x < image.width() - edge; ++x) {
+            bool plain = true;
+            for (int y = edge; y < image.height() - edge; ++y) plain = plain && image.pixel(x, y) == image.pixel(x, edge);
+            columns += plain ? 0 : 1;
+        }
+        return columns;
+    };
+    const int sign = inked(LampButton::Words::None);
+    const int brief = inked(LampButton::Words::Short);
+    EXPECT_GT(brief, sign);
+    EXPECT_GT(inked(LampButton::Words::All), brief);
+}
+
+TEST_F(ALampRow, ACopyLosesItsShortFormFirstAndTheLastContactLast) {
+    const Lamp bad{Lamp::State::Bad, kBad.text, "tip", "12:07"};
+    for (const LampKind kind : {LampKind::Utc, LampKind::Copy, LampKind::LastContact}) row->Show(kind, bad);
+    const auto words = [this](LampKind kind) { return row->Button(kind).ShownWords(); };
+    int different = 0;
+    for (int width = 1000; width > 300; width -= 10) {
+        window.resize(width, 300);
+        Settle();
+        EXPECT_GE(words(LampKind::LastContact), words(LampKind::Utc)) << width;
+        EXPECT_GE(words(LampKind::Utc), words(LampKind::Copy)) << width;
+        if (words(LampKind::Copy) == LampButton::Words::None && words(LampKind::LastContact) == LampButton::Words::Short) ++different;
+    }
+    EXPECT_GT(different, 0);
+}
+
+TEST_F(ALampRow, AShortFormTakesNoRoomFromTheWholeText) {
+    const auto leastWidth = [this](const std::string& brief) {
+        row->Show(LampKind::Copy, {Lamp::State::Bad, kBad.text, brief, brief});
+        for (int width = 1000; width > 300; width -= 3) {
+            window.resize(width, 300);
+            Settle();
+            if (row->Button(LampKind::Copy).Brief()) return width;
+        }
+        return 0;
+    };
+    const int without = leastWidth("");
+    EXPECT_GT(without, 0);
+    EXPECT_EQ(leastWidth("12:07"), without);
+}
+
 TEST_F(ALampRow, WhatIsWrongHasAnOutlineAtNight) {
     QApplication::setPalette(NightPalette());
     const auto across = [this](const Lamp& lamp) {
