@@ -71,11 +71,6 @@ FirstFields::FirstFields(const FirstAnswers& proposed) : grid_(new QGridLayout(t
     Watch(*directory_, FirstQuestion::Directory);
 }
 
-FirstFields::~FirstFields() {
-    // The field with the focus loses it when Qt deletes it, after this destructor.
-    for (QLineEdit* field : {call_, operator_, directory_}) field->disconnect(this);
-}
-
 QLabel* FirstFields::AddMessage() {
     QLabel* message = Words({});
     message->hide();

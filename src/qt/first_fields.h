@@ -25,7 +25,6 @@ class FirstFields : public QWidget {
 
 public:
     explicit FirstFields(const FirstAnswers& proposed);
-    ~FirstFields() override;
 
     FirstAnswers Answers() const;
     QWidget& Field(FirstQuestion about) const;

@@ -58,7 +58,7 @@ FirstPage::FirstPage(const FirstAnswers& proposed, Surroundings surroundings)
 }
 
 FirstPage::~FirstPage() {
-    // The field with the focus loses it when Qt deletes it, after this destructor.
+    // The field with the focus loses it when Qt hides the page, after this destructor.
     fields_->disconnect(this);
 }
 

@@ -138,8 +138,11 @@ TEST_F(FirstPageTest, RemindsQuietlyOfAMissingPortableSuffix) {
 }
 
 TEST_F(FirstPageTest, LeavingAnEmptyCallDoesNotTakeTheComplaintAway) {
+    Type("o");
+    Press(Qt::Key_Backspace);
     Press(Qt::Key_Return);
     Press(Qt::Key_Tab);
+    EXPECT_NE(FocusName(), QStringLiteral("Kaldesignal"));
     EXPECT_THAT(Words(), HasSubstr("Skriv jeres kaldesignal."));
 }
 
