@@ -60,6 +60,8 @@ public:
         std::function<void(std::string_view directory)> directoryChosen = [](std::string_view) {};
         /// Called when a line that was appended to a log is on the disk.
         std::function<void(std::string_view line)> saved = [](std::string_view) {};
+        /// Called when a log was rewritten with one line changed and is on the disk, with this line as it is now.
+        std::function<void(std::string_view line)> corrected = [](std::string_view) {};
         /// Called when a file could not be written, before the caller gets the failure.
         std::function<void(const std::filesystem::path& file, Failure failure)> notSaved = [](const std::filesystem::path&, Failure) {};
         /// Called before a log is written, and when it has been written, also if that failed.

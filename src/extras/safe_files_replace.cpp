@@ -24,6 +24,13 @@ namespace {
     throw RunTimeError(failure);
 }
 
+/// The line that has changed from one version of a log to the next, or empty if none has, or more than one.
+std::string ChangedLine(const LogText& old, const LogText& now) {
+    if (!GoesOn(old.lines, now.lines)) return {};
+    const auto [before, after] = std::mismatch(old.lines.begin(), old.lines.end(), now.lines.begin());
+    return before == old.lines.end() ? std::string() : std::string(*after);
+}
+
 }  // namespace
 
 /// Keeps the whole file in the history before the next contact cuts off its damaged end. Returns a sentence that says where it is.
@@ -83,6 +90,7 @@ void SafeFiles::ReplaceLog(const fs::path& copy, const fs::path& log) {
     const std::string now = ReadWhole(copy);
     std::size_t unseen = 0;
     std::string where;
+    std::string corrected;
     if (fs::exists(log, error)) {
         const std::string old = ReadWhole(log);
         const LogText oldText = ReadLogText(old);
@@ -105,12 +113,14 @@ void SafeFiles::ReplaceLog(const fs::path& copy, const fs::path& log) {
                              "Gør plads på disken."_t));
         }
         CopyRights(log, copy);
+        corrected = ChangedLine(oldText, nowText);
     }
     if (const int failed = RenameOver(copy, log); failed != 0) Fail(FailureOf(failed));
     Changed(log);
     SyncDirectory(log.parent_path());
     Learn(log, now);
     damaged_.erase(log);
+    if (!corrected.empty()) surroundings_.corrected(corrected);
     if (!where.empty()) HistoryOf(log.parent_path()).Prune(NativeText(log.filename()));
     if (unseen > 0)
         Tell(Matter::Unseen, where,

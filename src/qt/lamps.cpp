@@ -66,6 +66,10 @@ Lamps::Lamps(QtFront& front, Safety& safety, CopyKeeper& copy) : clocks(ReadCloc
         lastContact_.Saved(line, FromQtTime(QDateTime::currentDateTimeUtc()));
         ShowLastContact();
     };
+    safety_.corrected = [this](std::string_view line) {
+        lastContact_.Corrected(line, FromQtTime(QDateTime::currentDateTimeUtc()));
+        ShowLastContact();
+    };
     safety_.notSaved = [this](const std::filesystem::path& file, Failure failure) {
         lastContact_.Failed(NativeText(file.filename()), Meaning(failure));
         ShowLastContact();
@@ -80,6 +84,7 @@ Lamps::Lamps(QtFront& front, Safety& safety, CopyKeeper& copy) : clocks(ReadCloc
 
 Lamps::~Lamps() {
     safety_.saved = {};
+    safety_.corrected = {};
     safety_.notSaved = {};
 }
 

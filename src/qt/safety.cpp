@@ -58,6 +58,9 @@ SafeFiles::Surroundings Safety::Surroundings() {
     surroundings.saved = [this](std::string_view line) {
         if (saved) saved(line);
     };
+    surroundings.corrected = [this](std::string_view line) {
+        if (corrected) corrected(line);
+    };
     surroundings.notSaved = [this](const fs::path& file, Failure failure) {
         if (notSaved) notSaved(file, failure);
     };

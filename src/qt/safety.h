@@ -24,6 +24,8 @@ public:
     Instance& ProgramInstance() { return instance_; }
     /// Runs when a line of a log is on the disk.
     std::function<void(std::string_view line)> saved;
+    /// Runs when a line of a log was corrected and is on the disk.
+    std::function<void(std::string_view line)> corrected;
     /// Runs when a file could not be written.
     std::function<void(const std::filesystem::path& file, Failure failure)> notSaved;
     /// Run when a log is about to be written, and when it has been written or that has failed.

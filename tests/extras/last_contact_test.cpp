@@ -31,6 +31,23 @@ TEST(LastContact, IsNotReplacedByANote) {
     EXPECT_EQ(last.Shown().text, "0034 SM7AA gemt 17:53");
 }
 
+TEST(LastContact, IsTheCorrectedOneAfterACorrection) {
+    LastContact last;
+    last.Saved(kLine, kNow);
+    last.Corrected("17:40 OZ7XYZ          59 -0021 59 -0003  1 OZ         OZ1AB      SSB   05-09-26", {2026, 9, 5, 17, 55, 2, 0});
+    EXPECT_EQ(last.Shown().state, Lamp::State::Good);
+    EXPECT_EQ(last.Shown().text, "0021 OZ7XYZ rettet 17:55");
+    last.Corrected("NOTE: antennen er faldet ned", {2026, 9, 5, 18, 1, 0, 0});
+    EXPECT_EQ(last.Shown().text, "0021 OZ7XYZ rettet 17:55");
+}
+
+TEST(LastContact, IsNoLongerBadWhenACorrectionIsSaved) {
+    LastContact last;
+    last.Failed("FD80mSSB.txt", "disken er fuld");
+    last.Corrected(kLine, kNow);
+    EXPECT_EQ(last.Shown().state, Lamp::State::Good);
+}
+
 TEST(LastContact, TellsAWriteThatFailedUntilTheNextContactIsSaved) {
     LastContact last;
     last.Saved(kLine, kNow);

@@ -299,6 +299,24 @@ TEST_F(SafeFilesTest, TellsThatALineOfALogIsOnTheDisk) {
     EXPECT_THAT(told, SizeIs(1));
 }
 
+TEST_F(SafeFilesTest, TellsThatACorrectedLineIsOnTheDisk) {
+    std::vector<std::string> told;
+    auto surroundings = Surroundings();
+    surroundings.corrected = [&](std::string_view line) {
+        told.emplace_back(line);
+        EXPECT_THAT(Content("log/FD80mSSB.txt"), HasSubstr(told.back()));
+    };
+    DiskFiles disk;
+    SafeFiles files(disk, surroundings);
+    Put("log/FD80mSSB.txt", LogOf(3));
+    Lines(files, At("log/FD80mSSB.txt"));
+    Rewrite(files, {kOne, kCorrected, kThree});
+    EXPECT_THAT(told, ElementsAre(kCorrected));
+    // Cancelling a correction writes the log again as it was.
+    Rewrite(files, {kOne, kCorrected, kThree});
+    EXPECT_THAT(told, SizeIs(1));
+}
+
 TEST_F(SafeFilesTest, TellsOfAFileThatCannotBeWritten) {
     for (const auto step : {FaultyFiles::Step::Open, FaultyFiles::Step::Write, FaultyFiles::Step::Close}) {
         std::vector<std::string> told;

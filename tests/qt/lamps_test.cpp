@@ -378,6 +378,12 @@ TEST_F(LampsOfTheProgram, TellAnOffsetThatIsNoNumber) {
     EXPECT_TRUE(dialogs.failures.empty());
 }
 
+TEST_F(LampsOfTheProgram, TellOfACorrection) {
+    safety.saved("17:52 SM7AA           59 -0034 59 -0012  3 SM         OZ1AB      SSB   05-09-26");
+    safety.corrected("17:52 SM7AB           59 -0034 59 -0012  3 SM         OZ1AB      SSB   05-09-26");
+    EXPECT_THAT(Button(LampKind::LastContact).Shown().text, HasSubstr("0034 SM7AB rettet"));
+}
+
 TEST_F(LampsOfTheProgram, TellWhatBecameOfTheLastContact) {
     safety.saved("17:52 SM7AA           59 -0034 59 -0012  3 SM         OZ1AB      SSB   05-09-26");
     EXPECT_THAT(Button(LampKind::LastContact).Shown().text, HasSubstr("0034 SM7AA gemt"));
