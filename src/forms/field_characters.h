@@ -18,7 +18,7 @@ namespace vatro {
 KeyCode CharacterInto(const TextControl& field, KeyCode key);
 
 /// Replaces the selection by the first line of the text as if it were typed: each character goes through CharacterInto, as far as
-/// there is room. Changes nothing if the field accepts none of it.
-void PasteInto(TextControl& field, std::string_view text);
+/// there is room. Changes nothing if the field accepts none of it. Returns whether all of it is in the field now, apart from blanks.
+bool PasteInto(TextControl& field, std::string_view text);
 
 }  // namespace vatro

@@ -199,11 +199,14 @@ bool Input::TakeKey(KeyCode key) {
         Form& form = control_->Parent();
         if (!form.Reachable()) return;
         if ((key == kEnter || key == kEsc) && form.UserDefaultKey(key)) return;
+        const bool character = editor_ != nullptr && key > kSpace;
         KeyCode taken = control_->PressKey(key);
         if (self != nullptr && control_ != nullptr && Text() != nullptr && surroundings_.filtersPaste())
             taken = CharacterInto(*Text(), taken);
-        if (taken == kNoKey || self == nullptr || control_ == nullptr) return;
-        if (editor_ != nullptr) return Edit(taken);
+        if (self == nullptr || control_ == nullptr) return;
+        const bool kept = taken != kNoKey && (editor_ == nullptr || Edit(taken));
+        if (character && !kept && widget_ != nullptr && form.ActiveControl() == control_) surroundings_.refused(*widget_);
+        if (!kept || editor_ != nullptr) return;
         ByKind(
             *control_,
             [&](Button& button) {
@@ -218,25 +221,28 @@ bool Input::TakeKey(KeyCode key) {
     return wanted;
 }
 
-void Input::Edit(KeyCode key) {
+bool Input::Edit(KeyCode key) {
     TextControl& text = *Text();
-    if (text.Locked() || !text.Enabled()) return;
+    if (text.Locked() || !text.Enabled()) return false;
     if (key == kBackspace) {
         editor_->backspace();
-    } else if (key >= kSpace && text.Room() > 0) {
+    } else if (key >= kSpace) {
+        if (text.Room() <= 0) return false;
         const char byte = static_cast<char>(key);
         editor_->insert(ToQt({&byte, 1}));
     }
+    return true;
 }
 
 void Input::Paste(const QString& text) {
     const std::string line = PastedText(text);
     Deliver([&] {
         if (control_ == nullptr) return;
-        if (surroundings_.filtersPaste())
-            PasteInto(*Text(), line);
-        else
+        if (surroundings_.filtersPaste()) {
+            if (!PasteInto(*Text(), line)) surroundings_.refused(*widget_);
+        } else {
             Text()->Insert(line);
+        }
     });
 }
 

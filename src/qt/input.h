@@ -30,6 +30,8 @@ struct InputSurroundings {
     std::function<bool()> filtersPaste;
     /// Whether Tab selects the text of the field that it enters.
     std::function<bool()> selectsOnTab;
+    /// A field has not taken a character that the user has typed or pasted.
+    std::function<void(QWidget& field)> refused;
 };
 
 class Input : public QObject {
@@ -57,7 +59,8 @@ private:
     bool TakeMove(int key);
     /// Passes the key through form and control. Returns true if the widget should still handle it.
     bool TakeKey(KeyCode key);
-    void Edit(KeyCode key);
+    /// Returns false if the field cannot take this character, because it is full or cannot be changed.
+    bool Edit(KeyCode key);
     /// Replaces the selection by text that the user brings in from outside.
     void Paste(const QString& text);
     /// Handles the kinds of paste that Qt would do on its own: middle button, drop and context menu. Returns true if the event has been

@@ -61,7 +61,7 @@ public:
     /// Whether keys typed while one window gives way to another are preserved.
     bool keepKeys = false;
     /// Whether windows have the habits that their forms ask for on a desktop (Form::onlyShows, Form::tabSelects), dialogues are wide
-    /// enough for their titles, and boxes without a title have the program's name.
+    /// enough for their titles, boxes without a title have the program's name, and fields show that they refuse a character.
     bool desktopHabits = false;
     /// Add entries to the menu Ekstra of a main window, which stands before the last menu. Without any there is no such menu.
     std::vector<std::function<void(QMainWindow& window, QMenu& menu)>> extraEntries;

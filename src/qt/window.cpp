@@ -23,6 +23,7 @@
 #include "layouts.h"
 #include "qt_front.h"
 #include "qt_text.h"
+#include "refusal_flash.h"
 #include "title_room.h"
 
 namespace vatro {
@@ -92,7 +93,11 @@ FormWindow::~FormWindow() {
 InputSurroundings FormWindow::Surroundings() {
     return {.followFocusSoon = [this] { QTimer::singleShot(0, &bindings_.Scope(), [this] { FollowFocus(); }); },
             .filtersPaste = [this] { return front_.filterPaste; },
-            .selectsOnTab = [this] { return front_.desktopHabits && form_.tabSelects; }};
+            .selectsOnTab = [this] { return front_.desktopHabits && form_.tabSelects; },
+            .refused =
+                [this](QWidget& field) {
+                    if (front_.desktopHabits) RefusalFlash::Flash(field);
+                }};
 }
 
 void FormWindow::Build(QWidget* owner) {

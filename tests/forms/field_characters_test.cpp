@@ -84,6 +84,15 @@ TEST_F(Pasting, TheFirstLineCounts) {
     EXPECT_EQ(Pasted(frmMain->fields[kCallField], "OZ1AB\r\nOZ2CD"), "OZ1AB");
 }
 
+TEST_F(Pasting, TellsWhetherAnythingButBlanksWasRefused) {
+    TextBox& number = frmMain->fields[kNumberReceivedField];
+    EXPECT_TRUE(PasteInto(number, " 1 2\t"));
+    EXPECT_FALSE(PasteInto(number, "3E"));
+    EXPECT_EQ(number.Text(), "123");
+    EXPECT_FALSE(PasteInto(number, "45"));
+    EXPECT_EQ(number.Text(), "1234");
+}
+
 TEST_F(Pasting, TheSelectionGoesIfTheFieldTakesAnything) {
     TextBox& call = frmMain->fields[kCallField];
     call.SetText("OZ1AB");
