@@ -134,11 +134,14 @@ std::optional<PaperEnd> PaperWatch::TakeEnd(bool papersMade) {
     if (papersMade) {
         end.emplace();
         end->text = job_ ? AboutPrint() : AboutFiles();
-        if (const std::string unfinished = AboutUnfinished(); !unfinished.empty())
+        const std::string unfinished = AboutUnfinished();
+        if (!unfinished.empty())
             end->text = end->text.empty() ? unfinished : Joined({end->text, " ", unfinished});
         for (const Paper& paper : papers_)
             if (paper.complete) end->files.push_back(paper.path);
         if (job_ && job_->state == PrintJob::State::Done && !job_->file.empty() && job_->pages > 0) end->files.push_back(job_->file);
+        const bool printed = job_ && job_->state == PrintJob::State::Done && job_->pages > 0;
+        end->made = unfinished.empty() && (job_ ? printed : !end->files.empty());
     }
     slots_ = {};
     papers_.clear();

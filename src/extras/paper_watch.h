@@ -31,6 +31,8 @@ struct PaperEnd {
     std::string text;
     /// Paths of the files that are complete, as the program has named them.
     std::vector<std::string> files;
+    /// Whether there is a paper, and no paper is unfinished.
+    bool made = false;
 };
 
 /// Wraps the files of the program.

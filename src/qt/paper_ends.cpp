@@ -3,7 +3,7 @@
 
 #include <QAbstractItemView>
 #include <QAccessible>
-#include <QDesktopServices>
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -20,6 +21,8 @@
 #include "frame/state.h"
 #include "input.h"
 #include "names.h"
+#include "open_file.h"
+#include "outcome_sign.h"
 #include "platform.h"
 #include "printer.h"
 #include "printing/frmInfo.h"
@@ -33,6 +36,10 @@ using namespace literals;
 
 namespace {
 
+using namespace std::chrono_literals;
+
+constexpr std::chrono::milliseconds kRetry = 200ms;
+
 /// The file in the spelling that it has on the disk.
 QString OnDisk(const std::string& path) {
     return QFileInfo(QString::fromStdU16String(FindPath(NativePath(path)).path.u16string())).absoluteFilePath();
@@ -41,7 +48,7 @@ QString OnDisk(const std::string& path) {
 }  // namespace
 
 PaperEnds::PaperEnds(QtFront& front, PaperWatch& watch, QtPrinter& printer)
-    : open(&QDesktopServices::openUrl), front_(front), watch_(watch), printer_(printer), afterHandlers_([this] { Look(); }) {
+    : open(&OpenWithDesktop), front_(front), watch_(watch), printer_(printer), afterHandlers_([this] { Look(); }) {
     printer_.directory = [] { return ToQt(desk().gsLogLib); };
     printer_.ended = [this](const PrintJob& job) { watch_.Printed(job); };
 }
@@ -74,7 +81,12 @@ bool PaperEnds::Furnish() {
     QFont bold = text_->font();
     bold.setBold(true);
     text_->setFont(bold);
-    rows->insertWidget(rows->indexOf(buttons), text_);
+    sign_ = new OutcomeSign(window->Top());
+    sign_->setObjectName(QStringLiteral("paperSign"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(sign_, 0, Qt::AlignTop);
+    row->addWidget(text_, 1);
+    rows->insertLayout(rows->indexOf(buttons), row);
     // The keyboard stays where it is; access keys press the buttons.
     const auto add = [&](int at, const QString& caption, const char* name) {
         auto* button = new QPushButton(caption, window->Top());
@@ -109,6 +121,7 @@ void PaperEnds::Show(const PaperEnd& end) {
     if (!Furnish()) return;
     files_.clear();
     for (const std::string& file : end.files) files_.append(OnDisk(file));
+    sign_->SetGood(end.made);
     text_->setText(ToQt(end.text));
     text_->setToolTip(files_.join(u'\n'));
     file_->setVisible(files_.size() == 1);
@@ -120,10 +133,29 @@ void PaperEnds::Show(const PaperEnd& end) {
     QAccessible::updateAccessibility(&told);
 }
 
-void PaperEnds::Open(const QString& path) const {
-    if (open(QUrl::fromLocalFile(path))) return;
+void PaperEnds::Open(const QString& path) {
+    const QPointer<PaperEnds> self(this);
+    open(QUrl::fromLocalFile(path), [self, path] {
+        if (self) self->TellNotOpened(path);
+    });
+}
+
+void PaperEnds::TellNotOpened(const QString& path) {
+    // The answer can come while a handler is repainting its window or a box waits for an answer.
+    if (TicksHeld() || QApplication::activeModalWidget() != nullptr) {
+        QTimer::singleShot(kRetry, this, [this, path] { TellNotOpened(path); });
+        return;
+    }
+    const QFileInfo file(path);
+    const bool isDirectory = file.isDir();
+    const QString directory = QDir::toNativeSeparators(isDirectory ? file.absoluteFilePath() : file.absolutePath());
+    const QString name = isDirectory ? QStringLiteral("Mappen") : file.fileName();
+    const QString why = file.exists() ? QStringLiteral("%1 kan ikke åbnes: systemet har intet program, der kan vise den.")
+                                      : QStringLiteral("%1 findes ikke mere.");
+    const QString where = isDirectory ? QStringLiteral("Den ligger her:") : QStringLiteral("Filen ligger i mappen");
+    const QString place = file.exists() ? where + u'\n' + directory : directory;
     MessageBox box;
-    box.text = FromQt(QStringLiteral("Dette system har intet program, der kan åbne\n\n%1").arg(QDir::toNativeSeparators(path)));
+    box.text = FromQt(why.arg(name) + QStringLiteral("\n\n") + place);
     box.icon = Icon::Exclamation;
     Deliver([&box] { MsgBox(box); });
 }

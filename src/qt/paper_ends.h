@@ -18,6 +18,7 @@ class QPushButton;
 
 namespace vatro {
 
+class OutcomeSign;
 class QtFront;
 class QtPrinter;
 
@@ -29,8 +30,8 @@ public:
     PaperEnds(QtFront& front, PaperWatch& watch, QtPrinter& printer);
     ~PaperEnds() override;
 
-    /// Opens a file or directory with the program that the desktop has for it. Returns false if there is none. Replaceable.
-    std::function<bool(const QUrl&)> open;
+    /// Opens a file or directory, and calls `failed` if nothing can, perhaps later. Replaceable.
+    std::function<void(const QUrl& url, const std::function<void()>& failed)> open;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -41,7 +42,9 @@ private:
     bool Furnish();
     /// Moves the window up if it covers the entry fields, which the operator may need at once.
     void UncoverFields(QWidget& window) const;
-    void Open(const QString& path) const;
+    void Open(const QString& path);
+    /// Tells that nothing opens this file or directory, as soon as no handler is running.
+    void TellNotOpened(const QString& path);
 
     QtFront& front_;
     PaperWatch& watch_;
@@ -50,6 +53,7 @@ private:
     int steps_ = 0;
     QStringList files_;
     // In the progress window, and deleted with it.
+    QPointer<OutcomeSign> sign_;
     QPointer<QLabel> text_;
     QPointer<QPushButton> file_;
     QPointer<QPushButton> directory_;

@@ -30,16 +30,19 @@ protected:
     std::string End() {
         const auto end = watch.TakeEnd(true);
         made = end->files;
+        good = end->made;
         return ToUtf8(end->text);
     }
 
     PaperWatch watch{files};
     std::vector<std::string> made;
+    bool good = false;
 };
 
 TEST_F(Papers, OneTellsItsFileAndItsContacts) {
     Danlog({"80m", "CW"});
     EXPECT_EQ(End(), "SM80mCW.txt: 2 kontakter.");
+    EXPECT_TRUE(good);
     EXPECT_EQ(made, std::vector<std::string>{"log\\SM80mCW.txt"});
     Danlog({"40m", "CW"});
     EXPECT_EQ(End(), "SM40mCW.txt: 1 kontakt.");
@@ -63,6 +66,7 @@ TEST_F(Papers, TogetherTellHowManyFiles) {
 TEST_F(Papers, TheErrorListTellsHowManyContactsItShows) {
     MakeErrorList();
     EXPECT_EQ(End(), "Fejllist.txt: ingen af 3 kontakter står på listen.");
+    EXPECT_TRUE(good);
     files.files["LOG\\FD40MCW.TXT"] = {kGood, kFaulty};
     MakeErrorList();
     EXPECT_EQ(End(), "Fejllist.txt: 1 af 4 kontakter står på listen.");
@@ -71,6 +75,7 @@ TEST_F(Papers, TheErrorListTellsHowManyContactsItShows) {
 TEST_F(Papers, WithoutALogSayWhyThereIsNoFile) {
     Danlog({"10m", "SSB"});
     EXPECT_EQ(End(), "Der er ikke lavet nogen fil: FD10mSSB.txt findes ikke.");
+    EXPECT_FALSE(good);
     EXPECT_TRUE(made.empty());
 }
 

@@ -1,17 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "paper_ends.h"
 
+#include <QFile>
 #include <QLabel>
 #include <QListView>
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <vector>
 
 #include "entry/qso_fields.h"
+#include "outcome_sign.h"
 #include "printer.h"
 #include "printing/frmInfo.h"
+#include "qt/all_schemes.h"
 #include "qt/desktop_program.h"
+#include "qt/picture.h"
 #include "qt_text.h"
 
 namespace vatro {
@@ -24,9 +29,9 @@ protected:
     PaperEndInTheWindow() {
         InstallPlatform(driver.ProgramFront(), {dialogs, settings, watch, clock, help, instance, sound, paper, {1, 2, 3}});
         files.files["LOG\\FD80MSSB.TXT"] = {"13:00 DL9XYZ          59 -0001 59 -0012  3 DL         OZ1DEF     SSB   05-09-26"};
-        ends.open = [this](const QUrl& url) {
+        ends.open = [this](const QUrl& url, const std::function<void()>& failed) {
             opened.append(url.toLocalFile());
-            return opens;
+            notOpened = failed;
         };
         StartVatro();
     }
@@ -43,7 +48,8 @@ protected:
 
     QTemporaryDir directory;
     QStringList opened;
-    bool opens = true;
+    /// The answer that the last one could not be opened.
+    std::function<void()> notOpened;
     PaperWatch watch{files};
     QtPrinter device{[] { return false; }};
     PageSurface paper{device};
@@ -73,13 +79,54 @@ TEST_F(PaperEndInTheWindow, OpensByAccessKeys) {
     EXPECT_FALSE(frmInfo.Loaded());
 }
 
-TEST_F(PaperEndInTheWindow, TellsWhenNothingCanOpenTheFile) {
+TEST_F(PaperEndInTheWindow, TellsTheFileAndItsDirectoryIfNothingCanOpenIt) {
+    settings.texts["SETTINGS/GSLOGLIB"] = FromQt(directory.path());
+    const QString pdf = directory.filePath(QStringLiteral("a.pdf"));
+    dialogs.chosen = FromQt(pdf);
+    Choose(frmMain->mnuUdskriv80mSSB);
+    In<QPushButton>("openPaper")->click();
+    dialogs.Expect("a.pdf kan ikke åbnes: systemet har intet program, der kan vise den.\n\nFilen ligger i mappen\n" +
+                   directory.path().toStdString());
+    notOpened();
+    In<QPushButton>("openDirectory")->click();
+    dialogs.Expect("Mappen kan ikke åbnes: systemet har intet program, der kan vise den.\n\nDen ligger her:\n" +
+                   directory.path().toStdString());
+    notOpened();
+    QFile::remove(pdf);
+    In<QPushButton>("openPaper")->click();
+    dialogs.Expect("a.pdf findes ikke mere.\n\n" + directory.path().toStdString());
+    notOpened();
+    EXPECT_TRUE(dialogs.expected.empty());
+}
+
+TEST_F(PaperEndInTheWindow, HasATickOrACross) {
     Choose(frmMain->mnuEfter80mSSB);
-    In<QPushButton>("openPaper")->click();
-    ASSERT_EQ(opened.size(), 1);
-    opens = false;
-    dialogs.Expect("Dette system har intet program, der kan åbne\n\n" + opened[0].toStdString());
-    In<QPushButton>("openPaper")->click();
+    ASSERT_NE(In<OutcomeSign>("paperSign"), nullptr);
+    EXPECT_TRUE(In<OutcomeSign>("paperSign")->Good());
+    EXPECT_TRUE(In<OutcomeSign>("paperSign")->isVisible());
+    Choose(frmMain->mnuEfter10mCW);
+    EXPECT_FALSE(In<OutcomeSign>("paperSign")->Good());
+}
+
+TEST(TheSignOfAnOutcome, IsSeenInEverySchemeAndNotByItsColourAlone) {
+    for (const auto& [scheme, palette] : AllSchemes()) {
+        OutcomeSign sign;
+        sign.setPalette(palette);
+        sign.resize(sign.sizeHint());
+        const QRgb around = palette.color(QPalette::Window).rgb();
+        // Which pixels belong to the sign, whatever the colours.
+        std::vector<bool> shapes[2];
+        for (const bool good : {false, true}) {
+            sign.SetGood(good);
+            const QImage picture = PictureOf(sign);
+            const QRgb chip = Ground(picture, picture.rect());
+            EXPECT_GE(ContrastOf(chip, around), 3) << scheme;
+            EXPECT_GE(Contrast(picture, picture.rect().adjusted(3, 3, -3, -3), chip), 4.5) << scheme;
+            for (int y = 3; y < picture.height() - 3; ++y)
+                for (int x = 3; x < picture.width() - 3; ++x) shapes[good ? 1 : 0].push_back(ContrastOf(picture.pixel(x, y), chip) > 2);
+        }
+        EXPECT_NE(shapes[0], shapes[1]) << scheme;
+    }
 }
 
 TEST_F(PaperEndInTheWindow, OfSeveralFilesOnlyTheDirectoryIsOpened) {
