@@ -6,6 +6,7 @@
 #pragma once
 
 #include "help_key.h"
+#include "scroll_tips.h"
 #include "typing_guard.h"
 
 namespace vatro {
@@ -22,6 +23,7 @@ public:
 private:
     TypingGuard typing_;
     HelpKey helpKey_;
+    ScrollTips scrollTips_;
 };
 
 }  // namespace vatro
