@@ -50,7 +50,10 @@ Appearance::Appearance(QMainWindow& window, QMenu& menu) : QObject(&window), win
 
     Settings& settings = platform().settings;
     step_ = static_cast<int>(qBound<double>(kSmallest, NumericValue(settings.Read(kSection, kTextSize).value_or("")), kLargest));
-    if (Sun() || Night() || step_ != 0) Apply();
+    if (Sun() || Night() || step_ != 0)
+        Apply();
+    else
+        UseScheme(Scheme::Desktop);
     qApp->installEventFilter(this);
     for (const auto& [chosen, other] : {std::pair(sun_, night_), std::pair(night_, sun_)})
         connect(chosen, &QAction::triggered, this, [this, other = other] {

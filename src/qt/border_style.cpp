@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "border_style.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QLineEdit>
 #include <QPainter>
@@ -16,16 +17,37 @@ namespace {
 constexpr int kWidth = 2;
 
 /// The control with the focus has a broader frame, in the colour of the text.
-void Frame(const QStyleOption& option, QPainter& painter, bool enabled) {
+void Frame(const QStyleOption& option, QPainter& painter, bool enabled, bool round = false) {
     const bool focus = enabled && option.state.testFlag(QStyle::State_HasFocus);
     const double width = focus ? kWidth + 1 : kWidth;
     const QPalette::ColorGroup group = enabled ? QPalette::Active : QPalette::Disabled;
     painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setRenderHint(QPainter::Antialiasing, round);
     painter.setPen(
         QPen(option.palette.color(group, focus ? QPalette::WindowText : kFrameRole), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(option.rect).adjusted(width / 2, width / 2, -width / 2, -width / 2));
+    const QRectF edge = QRectF(option.rect).adjusted(width / 2, width / 2, -width / 2, -width / 2);
+    if (round)
+        painter.drawEllipse(edge);
+    else
+        painter.drawRect(edge);
+    painter.restore();
+}
+
+/// Leaves the control with the focus to the style and to the mark of the field that receives the keys.
+void ThinFrame(const QStyleOption& option, QPainter& painter, bool round) {
+    if (!option.state.testFlag(QStyle::State_Enabled) || option.state.testFlag(QStyle::State_HasFocus)) return;
+    constexpr double kHalf = 0.5;
+    constexpr double kCorner = 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(FadedInk(option.palette), 1));
+    painter.setBrush(Qt::NoBrush);
+    const QRectF edge = QRectF(option.rect).adjusted(kHalf, kHalf, -kHalf, -kHalf);
+    if (round)
+        painter.drawEllipse(edge);
+    else
+        painter.drawRoundedRect(edge, kCorner, kCorner);
     painter.restore();
 }
 
@@ -57,21 +79,23 @@ protected:
     }
 };
 
-/// The icon in shades of this colour.
+/// The picture in shades of this colour.
+QPixmap Tinted(const QPixmap& pixmap, const QColor& ink) {
+    QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            const QColor shade = Mixed(Qt::black, ink, qGray(pixel) / 255.0);
+            image.setPixel(x, y, qRgba(shade.red(), shade.green(), shade.blue(), qAlpha(pixel)));
+        }
+    return QPixmap::fromImage(image);
+}
+
 QIcon Tinted(const QIcon& icon, const QColor& ink) {
     QIcon tinted;
     constexpr int kSizes[]{16, 24, 32, 48, 64, 128};
-    for (const int size : kSizes) {
-        QImage image = icon.pixmap(size, size).toImage().convertToFormat(QImage::Format_ARGB32);
-        if (image.isNull()) continue;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x) {
-                const QRgb pixel = image.pixel(x, y);
-                const QColor shade = Mixed(Qt::black, ink, qGray(pixel) / 255.0);
-                image.setPixel(x, y, qRgba(shade.red(), shade.green(), shade.blue(), qAlpha(pixel)));
-            }
-        tinted.addPixmap(QPixmap::fromImage(image));
-    }
+    for (const int size : kSizes)
+        if (const QPixmap pixmap = icon.pixmap(size, size); !pixmap.isNull()) tinted.addPixmap(Tinted(pixmap, ink));
     return tinted;
 }
 
@@ -79,7 +103,7 @@ QIcon Tinted(const QIcon& icon, const QColor& ink) {
 
 void BorderStyle::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
-    auto* field = qobject_cast<QLineEdit*>(widget);
+    auto* field = frames_ == Frames::Broad ? qobject_cast<QLineEdit*>(widget) : nullptr;
     if (field != nullptr && field->findChild<QWidget*>(QString(kVeil), Qt::FindDirectChildrenOnly) == nullptr) new CaretVeil(*field);
 }
 
@@ -97,12 +121,22 @@ void BorderStyle::unpolish(QWidget* widget) {
 
 void BorderStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (frames_ == Frames::Thin) {
+        const bool filledIn = element == PE_FrameLineEdit || element == PE_IndicatorCheckBox;
+        const bool chosenFrom = element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+        if (filledIn || chosenFrom || element == PE_IndicatorRadioButton)
+            ThinFrame(*option, *painter, element == PE_IndicatorRadioButton);
+        return;
+    }
     switch (element) {
         case PE_FrameLineEdit:
         case PE_Frame:
         case PE_PanelButtonCommand:
         case PE_IndicatorCheckBox:
             Frame(*option, *painter, option->state.testFlag(State_Enabled));
+            break;
+        case PE_IndicatorRadioButton:
+            Frame(*option, *painter, option->state.testFlag(State_Enabled), true);
             break;
         case PE_FrameMenu:
         case PE_PanelTipLabel:
@@ -139,19 +173,41 @@ void BorderStyle::drawControl(ControlElement element, const QStyleOption* option
 void BorderStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                      const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control == CC_ComboBox) Frame(*option, *painter, option->state.testFlag(State_Enabled));
+    if (control != CC_ComboBox) return;
+    if (frames_ == Frames::Thin)
+        ThinFrame(*option, *painter, false);
+    else
+        Frame(*option, *painter, option->state.testFlag(State_Enabled));
 }
 
 int BorderStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-    // Room for the frame beside the entries, which some styles fill from edge to edge.
-    return metric == PM_MenuPanelWidth ? qMax(usual, kWidth) : usual;
+    switch (metric) {
+        case PM_MenuPanelWidth:
+            // Room for the frame beside the entries, which some styles fill from edge to edge.
+            return frames_ == Frames::Broad ? qMax(usual, kWidth) : usual;
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight:
+            // Most styles have one size for all texts.
+            return widget != nullptr ? qMax(usual, widget->fontMetrics().ascent()) : usual;
+        default:
+            return usual;
+    }
 }
 
 QIcon BorderStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const {
     const QIcon icon = QProxyStyle::standardIcon(which, option, widget);
     const QPalette palette = QApplication::palette();
     return IsNight(palette) ? Tinted(icon, palette.color(QPalette::WindowText)) : icon;
+}
+
+QPixmap BorderStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const {
+    // What a style makes of the icon of a button that cannot be pressed is grey.
+    if (mode == QIcon::Disabled && IsNight(option->palette))
+        return Tinted(pixmap, option->palette.color(QPalette::Disabled, QPalette::ButtonText));
+    return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
 }
 
 }  // namespace vatro

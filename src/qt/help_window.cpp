@@ -15,9 +15,11 @@
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QTreeWidget>
+#include <utility>
 
 #include "handbook.h"
 #include "readable.h"
+#include "signal_colours.h"
 
 namespace vatro {
 
@@ -58,6 +60,7 @@ HelpWindow::HelpWindow(QWidget* owner) : QMainWindow(owner, Qt::Window), content
 
 void HelpWindow::ChooseInks() {
     // Qt colours links when it reads a page, in the colour of the scheme, and a dark scheme may have only the blue for a light ground.
+    // The lines of tables are grey in every scheme.
     // The widgets get a new scheme only after this window.
     const QPalette palette = QApplication::palette();
     const QColor ground = palette.color(QPalette::Base);
@@ -65,9 +68,14 @@ void HelpWindow::ChooseInks() {
     QPalette hint;
     hint.setColor(QPalette::PlaceholderText, ReadableOn(ground, palette.color(QPalette::Disabled, QPalette::Text)));
     wanted_->setPalette(hint);
+    for (const auto& [action, icon] : std::as_const(tools_)) action->setIcon(style()->standardIcon(icon));
+    // The field makes its icon when it gets the button.
+    wanted_->setClearButtonEnabled(false);
+    wanted_->setClearButtonEnabled(true);
     QTextDocument& page = *browser_->document();
     const QString before = page.defaultStyleSheet();
-    page.setDefaultStyleSheet(QStringLiteral("a { color: %1; }").arg(link.name()));
+    page.setDefaultStyleSheet(QStringLiteral("a { color: %1; } table { border-style: solid; border-color: %2; }")
+                                  .arg(link.name(), FadedInk(palette).name()));
     if (page.defaultStyleSheet() == before || browser_->source().isEmpty()) return;
     const int at = browser_->verticalScrollBar()->value();
     browser_->reload();
@@ -113,7 +121,8 @@ void HelpWindow::AddTools() {
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     const auto add = [&](QStyle::StandardPixmap icon, const QString& text, const QKeySequence& key) {
-        QAction* action = bar->addAction(style()->standardIcon(icon), text);
+        QAction* action = bar->addAction(text);
+        tools_.append({action, icon});
         action->setShortcut(key);
         action->setToolTip(text + QStringLiteral(" (") + key.toString(QKeySequence::NativeText) + u')');
         return action;
@@ -136,7 +145,6 @@ void HelpWindow::AddTools() {
     wanted_->setObjectName(QStringLiteral("wanted"));
     wanted_->setPlaceholderText(QStringLiteral("Søg i håndbogen (Ctrl+F)"));
     wanted_->setAccessibleName(QStringLiteral("Søg i håndbogen"));
-    wanted_->setClearButtonEnabled(true);
     bar->addWidget(wanted_);
     QAction* next = bar->addAction(QStringLiteral("Find næste"));
     next->setShortcut(Qt::Key_F3);

@@ -3,8 +3,12 @@
 // The help viewer: shows a page of the handbook beside the table of contents, with buttons to go back, search and print.
 #pragma once
 
+#include <QList>
 #include <QMainWindow>
+#include <QStyle>
+#include <utility>
 
+class QAction;
 class QLabel;
 class QLineEdit;
 class QTextBrowser;
@@ -32,7 +36,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// Chooses colours that can be read on the ground of the page for links and for the hint in the search field.
+    /// Chooses colours that can be read on the ground of the page for links and for the hint in the search field, and icons in the
+    /// colours of the scheme.
     void ChooseInks();
     void AddContents();
     void AddTools();
@@ -42,6 +47,8 @@ private:
 
     QTreeWidget* contents_;
     QTextBrowser* browser_;
+    /// The buttons of the toolbar that have icons.
+    QList<std::pair<QAction*, QStyle::StandardPixmap>> tools_;
     QLineEdit* wanted_ = nullptr;
     QLabel* told_ = nullptr;
 };

@@ -54,11 +54,10 @@ QPalette NightPalette() {
 }
 
 void UseScheme(Scheme scheme) {
-    const bool frames = scheme != Scheme::Desktop;
+    const Frames frames = scheme == Scheme::Desktop ? Frames::Thin : Frames::Broad;
     const auto* framed = qobject_cast<BorderStyle*>(QApplication::style());
     const QString own = (framed != nullptr ? framed->baseStyle() : QApplication::style())->name();
-    if (frames && framed == nullptr) QApplication::setStyle(new BorderStyle(own));
-    if (!frames && framed != nullptr) QApplication::setStyle(own);
+    if (framed == nullptr || framed->Drawn() != frames) QApplication::setStyle(new BorderStyle(own, frames));
     // An empty palette is the desktop's own.
     QApplication::setPalette(scheme == Scheme::Sun ? SunPalette() : scheme == Scheme::Night ? NightPalette() : QPalette());
     // Captions over lists and fields are read once, and are dimmer than what changes.

@@ -14,7 +14,7 @@ QPalette SunPalette();
 /// Dim red on black, which leaves the eyes used to the dark. Text is the brightest; captions, then frames, then what is disabled follow.
 QPalette NightPalette();
 
-/// Shows the whole program in this scheme, with frames around fields and buttons in those of the program's own.
+/// Shows the whole program in this scheme, with edges of fields that can be seen, and broad frames in those of the program's own.
 void UseScheme(Scheme scheme);
 
 }  // namespace vatro

@@ -15,14 +15,17 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QToolBar>
 #include <QTreeWidget>
 
 #include "exchange/FormQuickInfo.h"
 #include "handbook.h"
 #include "picture_view.h"
 #include "qt/contrast.h"
+#include "qt/picture.h"
 #include "qt/window_program.h"
 #include "readable.h"
+#include "schemes.h"
 #include "services.h"
 
 namespace vatro {
@@ -55,18 +58,18 @@ TEST_F(HelpViewer, OpensAtTheContents) {
 }
 
 /// The ground and the ink of desktops: light, dark with and without a link colour of its own, and the program's scheme for the night.
-struct Scheme {
+struct DesktopColours {
     QRgb ground;
     QRgb text;
     QRgb link;
 };
-constexpr Scheme kSchemes[]{{0xffffffff, 0xff000000, 0xff0000ff},
-                            {0xff1b1e20, 0xfffcfcfc, 0xff0000ff},
-                            {0xff1b1e20, 0xfffcfcfc, 0xff2980b9},
-                            {0xff000000, 0xffd83828, 0xffd83828}};
+constexpr DesktopColours kSchemes[]{{0xffffffff, 0xff000000, 0xff0000ff},
+                                    {0xff1b1e20, 0xfffcfcfc, 0xff0000ff},
+                                    {0xff1b1e20, 0xfffcfcfc, 0xff2980b9},
+                                    {0xff000000, 0xffd83828, 0xffd83828}};
 
 TEST_F(HelpViewer, HasLinksThatCanBeReadInEveryScheme) {
-    for (const Scheme& scheme : kSchemes) {
+    for (const DesktopColours& scheme : kSchemes) {
         QPalette palette;
         palette.setColor(QPalette::Base, scheme.ground);
         palette.setColor(QPalette::Text, scheme.text);
@@ -87,6 +90,18 @@ TEST_F(HelpViewer, HasLinksThatCanBeReadInEveryScheme) {
         EXPECT_GE(ContrastOf(Wanted().palette().color(QPalette::PlaceholderText).rgb(), scheme.ground), 4.5);
     }
     QApplication::setPalette(QPalette());
+}
+
+TEST_F(HelpViewer, IsNothingButRedAtNight) {
+    UseScheme(Scheme::Night);
+    // A page with a table.
+    Window().ShowPage(QStringLiteral("morse.html"));
+    QTest::qWait(50);
+    const auto* bar = Window().findChild<QToolBar*>();
+    ASSERT_NE(bar, nullptr);
+    for (QWidget* part : {static_cast<QWidget*>(Window().findChild<QToolBar*>()), static_cast<QWidget*>(Window().findChild<QTextBrowser*>())})
+        EXPECT_EQ(Brighter(PictureOf(*part), NightPalette().color(QPalette::Text).rgb()), 0) << part->metaObject()->className();
+    UseScheme(Scheme::Desktop);
 }
 
 TEST(ReadableInk, IsTheInkItselfWhereItCanBeRead) {

@@ -4,10 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QMessageBox>
+#include <QRadioButton>
 #include <QTest>
+#include <QToolButton>
 
 #include "qt/all_schemes.h"
 #include "qt/picture.h"
@@ -87,6 +92,64 @@ TEST_F(Night, IconsOfMessagesAreRed) {
         ExpectNothingButRed(*picture);
         EXPECT_TRUE(HasRed(*picture)) << icon;
     }
+}
+
+TEST_F(Night, IconsOfButtonsThatCannotBePressedAreRed) {
+    QToolButton button;
+    button.setIcon(QApplication::style()->standardIcon(QStyle::SP_ArrowBack));
+    button.setEnabled(false);
+    button.resize(40, 40);
+    ExpectNothingButRed(button);
+    const QImage image = button.grab().toImage();
+    int lit = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) lit += qRed(image.pixel(x, y)) > 30 ? 1 : 0;
+    EXPECT_GT(lit, 10);
+}
+
+TEST(EdgesOfFields, DifferFromTheirSurroundingsInEveryScheme) {
+    for (const auto& [scheme, palette] : AllSchemes()) {
+        const bool own = palette == SunPalette() || palette == NightPalette();
+        UseScheme(palette == SunPalette() ? Scheme::Sun : own ? Scheme::Night : Scheme::Desktop);
+        if (!own) QApplication::setPalette(palette);
+        QWidget window;
+        QLineEdit line(&window);
+        QComboBox box(&window);
+        QListView list(&window);
+        QCheckBox tick(&window);
+        QRadioButton option(&window);
+        box.setEditable(true);
+        int top = 10;
+        for (QWidget* field : std::initializer_list<QWidget*>{&line, &box, &list, &tick, &option}) {
+            field->setGeometry(10, top, 200, 40);
+            top += 50;
+        }
+        window.resize(220, top);
+        const QImage picture = PictureOf(window);
+        for (const QWidget* field : std::initializer_list<const QWidget*>{&line, &box, &list, &tick, &option}) {
+            // The best of the outermost pixels, across the left edge in the middle.
+            const QRect across(field->x(), field->y() + field->height() / 2, 4, 1);
+            EXPECT_GE(Contrast(picture, across, window.palette().color(QPalette::Window).rgb()), 3)
+                << scheme << ' ' << field->metaObject()->className();
+        }
+        UseScheme(Scheme::Desktop);
+    }
+}
+
+TEST(TheIndicatorsOfTicksAndOptions, GrowWithTheirText) {
+    UseScheme(Scheme::Desktop);
+    const auto size = [](QAbstractButton& button, double points, QStyle::PixelMetric metric) {
+        QFont font = button.font();
+        font.setPointSizeF(points);
+        button.setFont(font);
+        return button.style()->pixelMetric(metric, nullptr, &button);
+    };
+    QCheckBox tick;
+    QRadioButton option;
+    for (const QStyle::PixelMetric metric : {QStyle::PM_IndicatorWidth, QStyle::PM_IndicatorHeight})
+        EXPECT_GE(size(tick, 22, metric), 1.5 * size(tick, 11, metric));
+    for (const QStyle::PixelMetric metric : {QStyle::PM_ExclusiveIndicatorWidth, QStyle::PM_ExclusiveIndicatorHeight})
+        EXPECT_GE(size(option, 22, metric), 1.5 * size(option, 11, metric));
 }
 
 TEST_F(Night, MenusHaveAnEdge) {
