@@ -30,7 +30,7 @@ void CallMark::Look() {
     marked_ = mark;
     QPalette palette;
     if (mark) {
-        const SignalColours colours = ColoursOf(Signal::Wrong, panel_.palette());
+        const SignalColours colours = ColoursOf(Signal::Duplicate, panel_.palette());
         palette.setColor(QPalette::Base, colours.ground);
         palette.setColor(QPalette::Text, colours.ink);
         palette.setColor(QPalette::Highlight, colours.ink);

@@ -57,6 +57,8 @@ SignalColours ColoursOf(Signal signal, const QPalette& palette) {
     switch (signal) {
         case Signal::Wrong:
             return dark ? SignalColours{QColor(0xff, 0x8a, 0x80), Qt::black} : SignalColours{QColor(0xb0, 0x00, 0x20), Qt::white};
+        case Signal::Duplicate:
+            return {QColor(0xff, 0x00, 0x00), Qt::black};
         case Signal::Notice:
             return {QColor(0xff, 0xd5, 0x4f), Qt::black};
         case Signal::Gain:

@@ -13,6 +13,8 @@ namespace vatro {
 enum class Signal {
     /// Something is wrong, or must not be done.
     Wrong,
+    /// A station that has been worked already. The window of the next number shows it in the same colours.
+    Duplicate,
     /// Look at this.
     Notice,
     /// Good news.

@@ -10,6 +10,7 @@
 #include <numbers>
 #include <optional>
 
+#include "sign_lines.h"
 #include "signal_colours.h"
 
 namespace vatro {
@@ -27,7 +28,7 @@ bool IsLoud(PanelMark mark) {
 std::optional<Signal> SignalOf(PanelMark mark) {
     switch (mark) {
         case PanelMark::Duplicate:
-            return Signal::Wrong;
+            return Signal::Duplicate;
         case PanelMark::NewCountry:
             return Signal::Gain;
         case PanelMark::Station:
@@ -68,16 +69,14 @@ void PaintSign(QPainter& painter, PanelMark mark, const QRectF& place, const QCo
     painter.setBrush(ink);
     switch (mark) {
         case PanelMark::Duplicate:
-            painter.drawLine(at(0.1, 0.1), at(0.9, 0.9));
-            painter.drawLine(at(0.9, 0.1), at(0.1, 0.9));
+            PaintCross(painter, place);
             break;
         case PanelMark::NewCountry:
             painter.setPen(Qt::NoPen);
             painter.drawPolygon(Star(place));
             break;
         case PanelMark::WorkedCountry:
-            painter.setBrush(Qt::NoBrush);
-            painter.drawPolyline(QPolygonF({at(0.08, 0.55), at(0.38, 0.86), at(0.94, 0.14)}));
+            PaintTick(painter, place);
             break;
         case PanelMark::Station:
             painter.setPen(Qt::NoPen);

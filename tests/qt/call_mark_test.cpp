@@ -8,6 +8,7 @@
 
 #include "bar_widgets.h"
 #include "entry/frmMain.h"
+#include "entry/frmQSOnr.h"
 #include "entry/qso_fields.h"
 #include "frame/state.h"
 #include "qt/picture.h"
@@ -51,6 +52,16 @@ TEST_F(MarksOfTheCall, ADuplicateColoursTheCallFieldUntilTheCallIsChanged) {
     driver.Settle();
     EXPECT_NE(Panel().Mark(), PanelMark::Duplicate);
     EXPECT_EQ(CallGround(), plain);
+}
+
+TEST_F(MarksOfTheCall, ADuplicateHasTheSameColoursInThreePlaces) {
+    Type("DL1ABC ");
+    QWidget& next = WidgetOf<QWidget>(frmQSOnr->exchange);
+    for (QWidget* place : {&next, static_cast<QWidget*>(&Panel()), static_cast<QWidget*>(&Call())}) {
+        const QImage picture = PictureOf(*place);
+        EXPECT_EQ(Ground(picture, picture.rect()), qRgb(255, 0, 0)) << place->metaObject()->className();
+        EXPECT_GE(Contrast(picture, picture.rect(), qRgb(255, 0, 0)), 4.5);
+    }
 }
 
 TEST_F(MarksOfTheCall, FadeWithAnEmptyFieldAndComeBackWithTheNextCall) {
