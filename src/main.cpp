@@ -27,6 +27,7 @@
 #include "last_line.h"
 #include "main_size.h"
 #include "morse_speed.h"
+#include "operator_mark.h"
 #include "paper_ends.h"
 #include "paper_watch.h"
 #include "places.h"
@@ -76,6 +77,7 @@ Outcome Run() {
                                    {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
     const vatro::Desktop desktop(front, help);
+    vatro::MarkOperator(front);
     const vatro::PaperEnds paperEnds(front, papers, pages);
     vatro::AddLastLine(front);
     const vatro::MainSize size(front, settings);
