@@ -27,6 +27,7 @@
 #include "last_line.h"
 #include "main_size.h"
 #include "morse_speed.h"
+#include "morse_tries.h"
 #include "operator_mark.h"
 #include "paper_ends.h"
 #include "paper_watch.h"
@@ -90,6 +91,7 @@ Outcome Run() {
     speed.told = [&lamps](int wpm) {
         lamps.Tell("CW " + std::to_string(wpm) + " WPM", "Den næste tekst bliver sendt med denne hastighed."_t);
     };
+    vatro::WatchMorseTries(front, [&lamps](bool sent) { lamps.MorseTried(sent); });
     front.ended = [] { QCoreApplication::quit(); };
     // The start procedure may open boxes, so it runs inside the event loop, like every other event.
     QTimer::singleShot(0, &front, [&front, &ends, &copy, &lamps] {

@@ -10,13 +10,17 @@
 #include <utility>
 
 #include "qt_text.h"
+#include "sign_lines.h"
 #include "signal_colours.h"
 
 namespace vatro {
 
 namespace {
 
+using namespace std::chrono_literals;
+
 constexpr double kLineWidth = 0.12;
+constexpr std::chrono::milliseconds kBlink = 300ms;
 
 QString NameOf(LampKind kind) {
     switch (kind) {
@@ -26,6 +30,8 @@ QString NameOf(LampKind kind) {
             return QStringLiteral("Løbende kopi");
         case LampKind::LastContact:
             return QStringLiteral("Sidste kontakt");
+        case LampKind::Morse:
+            return QStringLiteral("Morse");
     }
     return {};
 }
@@ -35,9 +41,11 @@ QString NameOf(LampKind kind) {
 constexpr std::array<std::pair<bool, LampKind>, 2 * kLampKinds> kWordsFirst{{{false, LampKind::LastContact},
                                                                              {false, LampKind::Utc},
                                                                              {false, LampKind::Copy},
+                                                                             {false, LampKind::Morse},
                                                                              {true, LampKind::LastContact},
                                                                              {true, LampKind::Copy},
-                                                                             {true, LampKind::Utc}}};
+                                                                             {true, LampKind::Utc},
+                                                                             {true, LampKind::Morse}}};
 
 /// The room that all menus need side by side, whether they are shown now or not.
 int WidthOfMenus(const QMenuBar& bar) {
@@ -76,7 +84,17 @@ LampButton::LampButton(LampKind kind, QWidget* parent) : QAbstractButton(parent)
     setFocusPolicy(Qt::NoFocus);
     setObjectName(QStringLiteral("lamp%1").arg(static_cast<int>(kind)));
     setAccessibleName(NameOf(kind));
+    blink_.setSingleShot(true);
+    blink_.setInterval(kBlink);
+    connect(&blink_, &QTimer::timeout, this, [this] { update(); });
     hide();
+}
+
+void LampButton::Blink() {
+    blink_.start();
+    update();
+    QAccessibleEvent told(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&told);
 }
 
 void LampButton::Show(const Lamp& lamp) {
@@ -120,7 +138,8 @@ QSize LampButton::sizeHint() const {
 void LampButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const SignalColours colours = LampColours(lamp_.state, palette());
+    SignalColours colours = LampColours(lamp_.state, palette());
+    if (blink_.isActive()) std::swap(colours.ground, colours.ink);
     const QRectF whole(rect());
     const double sign = SignSize();
     if (lamp_.state != Lamp::State::Good) {
@@ -143,7 +162,7 @@ void LampButton::paintEvent(QPaintEvent*) {
     painter.drawText(whole.adjusted(2 * sign, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, TextOf(words_));
 }
 
-/// A clock, two sheets or a tick; crossed out, or a cross, if something is wrong.
+/// A clock, two sheets, a tick or a loudspeaker; crossed out, or a cross, if something is wrong.
 void LampButton::PaintSign(QPainter& painter, const QRectF& place, const QColor& ink) const {
     const double unit = place.width();
     painter.setPen(QPen(ink, unit * kLineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -163,7 +182,12 @@ void LampButton::PaintSign(QPainter& painter, const QRectF& place, const QColor&
             if (bad)
                 painter.drawLine(at(0.94, 0.06), at(0.06, 0.94));
             else
-                painter.drawPolyline(QPolygonF({at(0.08, 0.55), at(0.38, 0.86), at(0.94, 0.14)}));
+                PaintTick(painter, place);
+            break;
+        case LampKind::Morse:
+            painter.drawPolygon(
+                QPolygonF({at(0.06, 0.34), at(0.3, 0.34), at(0.56, 0.1), at(0.56, 0.9), at(0.3, 0.66), at(0.06, 0.66)}));
+            painter.drawArc(QRectF(at(0.44, 0.24), at(0.94, 0.76)), -60 * 16, 120 * 16);
             break;
     }
     if (bad) painter.drawLine(at(0.06, 0.06), at(0.94, 0.94));
@@ -173,7 +197,7 @@ LampRow::LampRow(QMenuBar& bar) : QWidget(&bar), bar_(bar) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2);
-    for (const LampKind kind : {LampKind::LastContact, LampKind::Copy, LampKind::Utc}) {
+    for (const LampKind kind : {LampKind::Morse, LampKind::LastContact, LampKind::Copy, LampKind::Utc}) {
         auto* lamp = new LampButton(kind, this);
         lamps_[static_cast<std::size_t>(kind)] = lamp;
         row->addWidget(lamp);

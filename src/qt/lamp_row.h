@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QEvent>
+#include <QTimer>
 #include <array>
 #include <functional>
 
@@ -16,8 +17,8 @@ class QMenuBar;
 namespace vatro {
 
 /// The lamps from right to left.
-enum class LampKind { Utc, Copy, LastContact };
-inline constexpr std::size_t kLampKinds = 3;
+enum class LampKind { Utc, Copy, LastContact, Morse };
+inline constexpr std::size_t kLampKinds = 4;
 
 /// One lamp. A click runs `clicked` of the row; the keyboard never stops here.
 class LampButton : public QAbstractButton {
@@ -27,6 +28,8 @@ public:
     LampButton(LampKind kind, QWidget* parent);
     void Show(const Lamp& lamp);
     const Lamp& Shown() const { return lamp_; }
+    /// Shows the lamp the other way round for a moment, because the same has happened again.
+    void Blink();
     /// What is shown beside the sign.
     enum class Words { None, Short, All };
     void SetWords(Words words);
@@ -48,6 +51,7 @@ private:
     LampKind kind_;
     Lamp lamp_;
     Words words_ = Words::All;
+    QTimer blink_;
 };
 
 class LampRow : public QWidget {

@@ -140,6 +140,18 @@ void Lamps::Tell(std::string_view text, std::string_view tip) {
     ShowLastContact();
 }
 
+void Lamps::MorseTried(bool sent) {
+    if (!row_) return;
+    LampButton& lamp = row_->Button(LampKind::Morse);
+    const bool again = lamp.Shown().state == Lamp::State::Bad;
+    Lamp shown;
+    if (!sent)
+        shown = {Lamp::State::Bad, "CW ikke sendt",
+                 std::string("Der blev ikke sendt noget: programmet har intet lydkort. Se Morse i håndbogen (Hjælp, Indhold)."_t), "CW"};
+    row_->Show(LampKind::Morse, shown);
+    if (!sent && again) lamp.Blink();
+}
+
 void Lamps::ShowLastContact() {
     if (row_) row_->Show(LampKind::LastContact, lastContact_.Shown());
 }

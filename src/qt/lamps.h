@@ -32,6 +32,9 @@ public:
     /// Confirms in the lamp of the last contact what the operator has just done. The texts are in the code page.
     void Tell(std::string_view text, std::string_view tip);
 
+    /// A Morse text was to be sent. Tells each time it was not, until one is.
+    void MorseTried(bool sent);
+
     /// Reads the computer's clocks; replaceable. The offset is filled in afterwards.
     std::function<ClockWatch::Reading()> clocks;
 

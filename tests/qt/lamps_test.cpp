@@ -20,6 +20,8 @@
 #include "entry/frmUTC.h"
 #include "entry/qso_fields.h"
 #include "frame/state.h"
+#include "keyer/frmCWTX.h"
+#include "morse_tries.h"
 #include "qt/all_schemes.h"
 #include "qt/contrast.h"
 #include "qt/window_program.h"
@@ -260,8 +262,9 @@ TEST_F(ALampRow, ShowsNothingThatIsOff) {
 
 class LampsOfTheProgram : public WindowProgram {
 protected:
-    LampsOfTheProgram() {
+    explicit LampsOfTheProgram(const char* mode = "SSB") {
         settings.texts["SETTINGS/GSUTC"] = "-2";
+        for (const char* key : {"SETTINGS/MODE", "SETTINGS/QSOMODE"}) settings.texts[key] = mode;
         lamps.clocks = [this] {
             ClockWatch::Reading reading;
             reading.local = clock.now;
@@ -269,6 +272,7 @@ protected:
             reading.steady = steady;
             return reading;
         };
+        WatchMorseTries(qtFront, [this](bool sent) { lamps.MorseTried(sent); });
         StartVatro();
         Deliver([this] { lamps.Begin(); });
     }
@@ -376,6 +380,42 @@ TEST_F(LampsOfTheProgram, TellAnOffsetThatIsNoNumber) {
     QTest::mouseClick(&Button(LampKind::Utc), Qt::LeftButton);
     EXPECT_TRUE(dialogs.expected.empty());
     EXPECT_TRUE(dialogs.failures.empty());
+}
+
+class LampsWithoutASoundCard : public LampsOfTheProgram {
+protected:
+    LampsWithoutASoundCard() : LampsOfTheProgram("CW") { sound.there = false; }
+    void Send() {
+        driver.Press({.name = "F5"});
+        driver.Settle();
+    }
+};
+
+TEST_F(LampsWithoutASoundCard, TellEachTimeThatNothingWasSent) {
+    LampButton& lamp = Button(LampKind::Morse);
+    EXPECT_FALSE(lamp.isVisible());
+    dialogs.Expect("Lydkort findes ikke.");
+    Send();
+    EXPECT_TRUE(dialogs.expected.empty());
+    EXPECT_TRUE(lamp.isVisible());
+    EXPECT_EQ(lamp.Shown().text, "CW ikke sendt");
+    const QImage once = lamp.grab().toImage();
+    Send();
+    EXPECT_NE(lamp.grab().toImage(), once) << "blinks";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lamp.grab().toImage() == once; }, 3000));
+}
+
+TEST_F(LampsWithoutASoundCard, TellNoLongerWhenATextIsSent) {
+    dialogs.Expect("Lydkort findes ikke.");
+    Send();
+    sound.there = true;
+    Deliver([] {
+        frmCWTX.Unload();
+        frmMain->SetFocus();
+    });
+    driver.Settle();
+    Send();
+    EXPECT_FALSE(Button(LampKind::Morse).isVisible());
 }
 
 TEST_F(LampsOfTheProgram, TellOfACorrection) {
