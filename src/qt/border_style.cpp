@@ -173,6 +173,14 @@ void BorderStyle::drawControl(ControlElement element, const QStyleOption* option
 void BorderStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                      const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ScrollBar) {
+        const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        if (bar == nullptr || bar->maximum <= bar->minimum || styleHint(SH_ScrollBar_Transient, option, widget) != 0) return;
+        QStyleOption slider(*option);
+        slider.rect = subControlRect(CC_ScrollBar, bar, SC_ScrollBarSlider, widget);
+        slider.state.setFlag(State_HasFocus, false);
+        ThinFrame(slider, *painter, false);
+    }
     if (control != CC_ComboBox) return;
     if (frames_ == Frames::Thin)
         ThinFrame(*option, *painter, false);

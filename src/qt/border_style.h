@@ -17,7 +17,8 @@ inline constexpr QPalette::ColorRole kFrameRole = QPalette::Mid;
 enum class Frames {
     /// Broad ones around all that can be used, in kFrameRole; for the schemes of the program's own.
     Broad,
-    /// Thin ones around what is filled in, ticked or chosen from, in a shade of the text; for the schemes of the desktop.
+    /// Thin ones around what is filled in, ticked or chosen from, in a shade of the text; for the schemes of the desktop. The sliders of
+    /// scroll bars have them in all schemes.
     Thin,
 };
 

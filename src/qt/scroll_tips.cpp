@@ -5,8 +5,6 @@
 #include <QApplication>
 #include <QEvent>
 #include <QScrollBar>
-#include <QStyle>
-#include <QStyleOptionSlider>
 #include <QToolTip>
 
 namespace vatro {
@@ -26,9 +24,9 @@ QString ShareOf(const QScrollBar& bar, int value) {
     return QStringLiteral("%1 %").arg(range > 0 ? qRound(100.0 * (value - bar.minimum()) / range) : 0);
 }
 
-/// Above the middle of the bar, so that it hides nothing that is being moved.
+/// Below the middle of the bar: Qt shows a tooltip somewhat below the place that it is given.
 void Tell(QScrollBar& bar, const QString& text) {
-    QToolTip::showText(bar.mapToGlobal(QPoint(bar.width() / 2, -3 * bar.fontMetrics().height())), text, &bar);
+    QToolTip::showText(bar.mapToGlobal(QPoint(bar.width() / 2, 0)), text, &bar);
 }
 
 }  // namespace

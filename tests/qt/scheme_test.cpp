@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
 
@@ -132,6 +133,22 @@ TEST(EdgesOfFields, DifferFromTheirSurroundingsInEveryScheme) {
             EXPECT_GE(Contrast(picture, across, window.palette().color(QPalette::Window).rgb()), 3)
                 << scheme << ' ' << field->metaObject()->className();
         }
+        UseScheme(Scheme::Desktop);
+    }
+}
+
+TEST(TheSliderOfAScrollBar, HasAnEdgeInEveryScheme) {
+    for (const auto& [scheme, palette] : AllSchemes()) {
+        const bool own = palette == SunPalette() || palette == NightPalette();
+        UseScheme(palette == SunPalette() ? Scheme::Sun : own ? Scheme::Night : Scheme::Desktop);
+        if (!own) QApplication::setPalette(palette);
+        QScrollBar bar(Qt::Horizontal);
+        bar.setRange(0, 100);
+        bar.setPageStep(20);
+        bar.setValue(50);
+        bar.resize(300, 20);
+        const QImage picture = PictureOf(bar);
+        EXPECT_GE(Contrast(picture, QRect(100, 10, 100, 1), picture.pixel(60, 10)), 3) << scheme;
         UseScheme(Scheme::Desktop);
     }
 }
