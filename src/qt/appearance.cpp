@@ -50,10 +50,7 @@ Appearance::Appearance(QMainWindow& window, QMenu& menu) : QObject(&window), win
 
     Settings& settings = platform().settings;
     step_ = static_cast<int>(qBound<double>(kSmallest, NumericValue(settings.Read(kSection, kTextSize).value_or("")), kLargest));
-    if (Sun() || Night() || step_ != 0)
-        Apply();
-    else
-        UseScheme(Scheme::Desktop);
+    if (Sun() || Night() || step_ != 0) Apply();
     qApp->installEventFilter(this);
     for (const auto& [chosen, other] : {std::pair(sun_, night_), std::pair(night_, sun_)})
         connect(chosen, &QAction::triggered, this, [this, other = other] {

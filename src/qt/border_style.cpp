@@ -124,8 +124,7 @@ void BorderStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     if (frames_ == Frames::Thin) {
         const bool filledIn = element == PE_FrameLineEdit || element == PE_IndicatorCheckBox;
         const bool chosenFrom = element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
-        if (filledIn || chosenFrom || element == PE_IndicatorRadioButton)
-            ThinFrame(*option, *painter, element == PE_IndicatorRadioButton);
+        if (filledIn || chosenFrom || element == PE_IndicatorRadioButton) ThinFrame(*option, *painter, element == PE_IndicatorRadioButton);
         return;
     }
     switch (element) {
