@@ -135,8 +135,7 @@ std::optional<PaperEnd> PaperWatch::TakeEnd(bool papersMade) {
         end.emplace();
         end->text = job_ ? AboutPrint() : AboutFiles();
         const std::string unfinished = AboutUnfinished();
-        if (!unfinished.empty())
-            end->text = end->text.empty() ? unfinished : Joined({end->text, " ", unfinished});
+        if (!unfinished.empty()) end->text = end->text.empty() ? unfinished : Joined({end->text, " ", unfinished});
         for (const Paper& paper : papers_)
             if (paper.complete) end->files.push_back(paper.path);
         if (job_ && job_->state == PrintJob::State::Done && !job_->file.empty() && job_->pages > 0) end->files.push_back(job_->file);

@@ -74,8 +74,8 @@ void HelpWindow::ChooseInks() {
     wanted_->setClearButtonEnabled(true);
     QTextDocument& page = *browser_->document();
     const QString before = page.defaultStyleSheet();
-    page.setDefaultStyleSheet(QStringLiteral("a { color: %1; } table { border-style: solid; border-color: %2; }")
-                                  .arg(link.name(), FadedInk(palette).name()));
+    page.setDefaultStyleSheet(
+        QStringLiteral("a { color: %1; } table { border-style: solid; border-color: %2; }").arg(link.name(), FadedInk(palette).name()));
     if (page.defaultStyleSheet() == before || browser_->source().isEmpty()) return;
     const int at = browser_->verticalScrollBar()->value();
     browser_->reload();

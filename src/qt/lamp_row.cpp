@@ -21,6 +21,8 @@ using namespace std::chrono_literals;
 
 constexpr double kLineWidth = 0.12;
 constexpr std::chrono::milliseconds kBlink = 300ms;
+/// Qt measures angles in sixteenths.
+constexpr int kDegree = 16;
 
 QString NameOf(LampKind kind) {
     switch (kind) {
@@ -185,9 +187,8 @@ void LampButton::PaintSign(QPainter& painter, const QRectF& place, const QColor&
                 PaintTick(painter, place);
             break;
         case LampKind::Morse:
-            painter.drawPolygon(
-                QPolygonF({at(0.06, 0.34), at(0.3, 0.34), at(0.56, 0.1), at(0.56, 0.9), at(0.3, 0.66), at(0.06, 0.66)}));
-            painter.drawArc(QRectF(at(0.44, 0.24), at(0.94, 0.76)), -60 * 16, 120 * 16);
+            painter.drawPolygon(QPolygonF({at(0.06, 0.34), at(0.3, 0.34), at(0.56, 0.1), at(0.56, 0.9), at(0.3, 0.66), at(0.06, 0.66)}));
+            painter.drawArc(QRectF(at(0.44, 0.24), at(0.94, 0.76)), -60 * kDegree, 120 * kDegree);
             break;
     }
     if (bad) painter.drawLine(at(0.06, 0.06), at(0.94, 0.94));

@@ -16,7 +16,8 @@
 
 namespace vatro {
 
-OperatorMark::OperatorMark(QMainWindow& window, QComboBox& box) : QObject(&window), box_(box), toolTip_(box.toolTip()), word_(new QLabel(QStringLiteral("ingen"), box.lineEdit())) {
+OperatorMark::OperatorMark(QMainWindow& window, QComboBox& box)
+    : QObject(&window), box_(box), toolTip_(box.toolTip()), word_(new QLabel(QStringLiteral("ingen"), box.lineEdit())) {
     word_->setAttribute(Qt::WA_TransparentForMouseEvents);
     word_->setIndent(word_->fontMetrics().averageCharWidth() / 2);
     word_->hide();

@@ -99,7 +99,8 @@ TEST_F(HelpViewer, IsNothingButRedAtNight) {
     QTest::qWait(50);
     const auto* bar = Window().findChild<QToolBar*>();
     ASSERT_NE(bar, nullptr);
-    for (QWidget* part : {static_cast<QWidget*>(Window().findChild<QToolBar*>()), static_cast<QWidget*>(Window().findChild<QTextBrowser*>())})
+    for (QWidget* part :
+         {static_cast<QWidget*>(Window().findChild<QToolBar*>()), static_cast<QWidget*>(Window().findChild<QTextBrowser*>())})
         EXPECT_EQ(Brighter(PictureOf(*part), NightPalette().color(QPalette::Text).rgb()), 0) << part->metaObject()->className();
     UseScheme(Scheme::Desktop);
 }

@@ -19,7 +19,9 @@ protected:
 #endif
         qputenv("PATH", directory_.path().toLocal8Bit());
     }
-    ~TheDesktopsOpener() override { qputenv("PATH", before_); }
+    ~TheDesktopsOpener() override {
+        qputenv("PATH", before_);
+    }
     void Answers(int code) {
         QFile script(directory_.filePath(QStringLiteral("xdg-open")));
         ASSERT_TRUE(script.open(QIODevice::WriteOnly));
@@ -27,7 +29,9 @@ protected:
         script.close();
         script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
     }
-    QString Asked() const { return directory_.filePath(QStringLiteral("asked")); }
+    QString Asked() const {
+        return directory_.filePath(QStringLiteral("asked"));
+    }
     bool AskedFor(const QByteArray& path) const {
         return QTest::qWaitFor([&] {
             QFile asked(Asked());
