@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "form_place.h"
+
+#include <QScreen>
+#include <QStyle>
+#include <QWidget>
+#include <cmath>
+
+#include "deliver.h"
+#include "qt_front.h"
+
+namespace vatro {
+
+namespace {
+
+/// Milliseconds after which a window that has been shown or moved by the program is moved only by the user.
+constexpr int kSettling = 1000;
+
+/// Lengths are at least one pixel.
+int ToLength(int twips) {
+    return qMax(1, ToPixels(twips));
+}
+
+}  // namespace
+
+int ToPixels(int twips) {
+    return static_cast<int>(std::lround(static_cast<double>(twips) / kTwipsPerPixel));
+}
+
+bool HasDialogSize(FormKind kind) {
+    return kind == FormKind::Dialog || kind == FormKind::FixedDialog || kind == FormKind::FixedTool;
+}
+
+FormPlace::FormPlace(Form& form, QtFront& front, QWidget& top) : form_(form), front_(front), top_(&top) {}
+
+void FormPlace::Arrive() {
+    arriving_ = false;
+    Follow();
+    Tell();
+}
+
+void FormPlace::Leave() {
+    arriving_ = false;
+    loan_.reset();
+}
+
+void FormPlace::Follow() {
+    const Measures told = Told();
+    // Do not move a window that is not on the screen yet: its frame would be misplaced.
+    if (!form_.Placed() || told == place_ || arriving_) return;
+    // If only the size has changed, keep the position that the user or the window manager has chosen.
+    const bool moved = !place_ || told.left != place_->left || told.top != place_->top;
+    place_ = told;
+    if (placing_) return;
+    placed_ = true;
+    if (!top_->isMinimized()) {
+        const auto held = Hold();
+        const QPoint at(ToPixels(told.left), ToPixels(told.top));
+        if (moved) {
+            loan_.reset();
+            top_->move(at);
+        }
+        QSize size(ToLength(told.width), ToLength(told.height));
+        // A lent place may be smaller, and keeps its proportions.
+        if (loan_) size = QSize(size.width() * loan_->height() / size.height(), loan_->height());
+        if (top_->size() != size) SetSize(size);
+        if (loan_) Lend(QRect(top_->pos(), size));
+    }
+    if (top_->isVisible()) Tell();
+}
+
+void FormPlace::Return() {
+    place_.reset();
+    Follow();
+}
+
+void FormPlace::Tell() {
+    // A form without a place of its own is not told where the front has put its window.
+    if (form_.Placed()) Tell(Told());
+}
+
+void FormPlace::Tell(const Measures& finer) {
+    if (placing_ || arriving_ || !top_->isVisible() || top_->isMinimized() || OnLoan()) return;
+    // On a desktop a window keeps its place while it fills the screen.
+    if (front_.desktopHabits && (top_->isMaximized() || top_->isFullScreen())) return;
+    // If the form changes its new place, that is shown but not reported back; otherwise form and window system might correct each other
+    // for ever.
+    if (telling_) return;
+    const auto at = [](int pixels, int twips) { return ToPixels(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
+    const auto length = [](int pixels, int twips) { return ToLength(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
+    const Measures now{at(top_->pos().x(), finer.left), at(top_->pos().y(), finer.top), length(top_->width(), finer.width),
+                       length(top_->height(), finer.height)};
+    if (now == Told()) return;
+    place_ = now;
+    telling_ = true;
+    const QPointer<FormPlace> self(this);
+    Deliver([&] { form_.UserPlaced(now.left, now.top, now.width, now.height); });
+    if (self != nullptr) telling_ = false;
+}
+
+FormPlace::Measures FormPlace::Told() const {
+    return {form_.Left(), form_.Top(), form_.Width(), form_.Height()};
+}
+
+void FormPlace::PlaceFirst() {
+    if (placed_) return;
+    const QRect screen = top_->screen()->availableGeometry();
+    // Use the size that the layout asks for; Qt does not apply it before the window is shown.
+    if (HasDialogSize(form_.Kind())) {
+        top_->ensurePolished();
+        SetSize(top_->sizeHint().boundedTo(screen.size()));
+    }
+    const QWidget* owner = top_->parentWidget();
+    const bool above = form_.Kind() != FormKind::FixedTool && owner != nullptr && owner->isVisible();
+    const QPoint middle = (above ? owner->frameGeometry() : screen).center() - QRect(QPoint(), top_->size()).center();
+    const QPoint last = screen.bottomRight() - QPoint(top_->width(), top_->height() + TitleHeight());
+    top_->move(qMax(screen.left(), qMin(middle.x(), last.x())), qMax(screen.top(), qMin(middle.y(), last.y())));
+    placed_ = true;
+}
+
+void FormPlace::FitToScreen() {
+    if (top_->isMaximized() || top_->isFullScreen()) return;
+    const QRect room = top_->screen()->availableGeometry();
+    const QSize left(room.right() - top_->x(), room.bottom() - top_->y() - TitleHeight());
+    top_->resize(top_->size().boundedTo(left.expandedTo(top_->minimumSizeHint())));
+}
+
+void FormPlace::MoveByUser(int left, int top, int width, int height) {
+    {
+        const auto held = Hold();
+        top_->move(ToPixels(left), ToPixels(top));
+        SetSize({ToLength(width), ToLength(height)});
+    }
+    Tell({left, top, width, height});
+}
+
+void FormPlace::Lend(const QRect& place) {
+    if (loan_ == place) return;
+    const auto held = Hold();
+    if (top_->pos() != place.topLeft()) top_->move(place.topLeft());
+    if (top_->size() != place.size()) SetSize(place.size());
+    loan_ = place;
+    loanSince_.start();
+}
+
+void FormPlace::EndLoan() {
+    if (!loan_) return;
+    loan_.reset();
+    Return();
+}
+
+QRect FormPlace::Own() const {
+    return {ToPixels(form_.Left()), ToPixels(form_.Top()), ToLength(form_.Width()), ToLength(form_.Height())};
+}
+
+void FormPlace::SetSize(const QSize& size) {
+    if (form_.Kind() == FormKind::FixedTool)
+        top_->setFixedSize(size);
+    else
+        top_->resize(size);
+}
+
+int FormPlace::TitleHeight() const {
+    return top_->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, top_);
+}
+
+bool FormPlace::OnLoan() {
+    if (!loan_) return false;
+    // The size of a main window is its own affair.
+    const bool main = form_.Kind() == FormKind::Main;
+    const QRect now(top_->pos(), main ? loan_->size() : top_->size());
+    // Moves at first are those of the window manager.
+    if (loanSince_.elapsed() < kSettling) loan_ = now;
+    if (now == loan_) return true;
+    loan_.reset();
+    return false;
+}
+
+}  // namespace vatro
