@@ -5,6 +5,7 @@
 #include <QStyle>
 #include <QWidget>
 #include <cmath>
+#include <utility>
 
 #include "deliver.h"
 #include "qt_front.h"
@@ -13,7 +14,7 @@ namespace vatro {
 
 namespace {
 
-/// Milliseconds after which a window that has been shown or moved by the program is moved only by the user.
+/// Milliseconds after which a window that has been lent a place is moved only by the user.
 constexpr int kSettling = 1000;
 
 /// Lengths are at least one pixel.
@@ -31,10 +32,18 @@ bool HasDialogSize(FormKind kind) {
     return kind == FormKind::Dialog || kind == FormKind::FixedDialog || kind == FormKind::FixedTool;
 }
 
-FormPlace::FormPlace(Form& form, QtFront& front, QWidget& top) : form_(form), front_(front), top_(&top) {}
+FormPlace::FormPlace(Form& form, QtFront& front, QWidget& top)
+    : form_(form), front_(front), top_(&top), settling_([this](bool byManager) { Rest(byManager); }) {}
+
+void FormPlace::BeginArrival() {
+    arriving_ = true;
+    put_ = top_->pos();
+    shownLarge_ = Large();
+}
 
 void FormPlace::Arrive() {
     arriving_ = false;
+    if (KnowsUser()) settling_.Begin();
     Follow();
     Tell();
 }
@@ -59,6 +68,7 @@ void FormPlace::Follow() {
         if (moved) {
             loan_.reset();
             top_->move(at);
+            put_ = at;
         }
         QSize size(ToLength(told.width), ToLength(told.height));
         // A lent place may be smaller, and keeps its proportions.
@@ -66,7 +76,9 @@ void FormPlace::Follow() {
         if (top_->size() != size) SetSize(size);
         if (loan_) Lend(QRect(top_->pos(), size));
     }
-    if (top_->isVisible()) Tell();
+    if (!top_->isVisible()) return;
+    if (KnowsUser()) settling_.Begin();
+    Tell();
 }
 
 void FormPlace::Return() {
@@ -80,22 +92,73 @@ void FormPlace::Tell() {
 }
 
 void FormPlace::Tell(const Measures& finer) {
-    if (placing_ || arriving_ || !top_->isVisible() || top_->isMinimized() || OnLoan()) return;
+    if (placing_ || arriving_ || settling_.Active() || !top_->isVisible() || top_->isMinimized() || OnLoan()) return;
     // On a desktop a window keeps its place while it fills the screen.
-    if (front_.desktopHabits && (top_->isMaximized() || top_->isFullScreen())) return;
+    if (front_.desktopHabits && Large()) return;
+    TellForm(ToTwips(Now(), finer));
+}
+
+void FormPlace::TellForm(const Measures& now) {
     // If the form changes its new place, that is shown but not reported back; otherwise form and window system might correct each other
     // for ever.
-    if (telling_) return;
-    const auto at = [](int pixels, int twips) { return ToPixels(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
-    const auto length = [](int pixels, int twips) { return ToLength(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
-    const Measures now{at(top_->pos().x(), finer.left), at(top_->pos().y(), finer.top), length(top_->width(), finer.width),
-                       length(top_->height(), finer.height)};
-    if (now == Told()) return;
+    if (telling_ || now == Told()) return;
     place_ = now;
     telling_ = true;
     const QPointer<FormPlace> self(this);
     Deliver([&] { form_.UserPlaced(now.left, now.top, now.width, now.height); });
     if (self != nullptr) telling_ = false;
+}
+
+FormPlace::Measures FormPlace::ToTwips(const QRect& now, const Measures& finer) const {
+    const auto at = [](int pixels, int twips) { return ToPixels(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
+    const auto length = [](int pixels, int twips) { return ToLength(twips) == pixels ? twips : pixels * kTwipsPerPixel; };
+    Measures told{at(now.x(), finer.left), at(now.y(), finer.top), length(now.width(), finer.width), length(now.height(), finer.height)};
+    if (!choice_) return told;
+    const auto& [seen, chosen] = *choice_;
+    if (now.x() == seen.x()) told.left = chosen.left;
+    if (now.y() == seen.y()) told.top = chosen.top;
+    if (now.width() == seen.width()) told.width = chosen.width;
+    if (now.height() == seen.height()) told.height = chosen.height;
+    return told;
+}
+
+QRect FormPlace::Now() const {
+    return {top_->pos(), top_->size()};
+}
+
+void FormPlace::Moved() {
+    if (KnowsUser()) settling_.Moved();
+    Tell();
+}
+
+void FormPlace::StateChanged() {
+    if (!KnowsUser()) return;
+    if (Large() && settling_.Doubtful() && choice_) TellForm(choice_->chosen);
+    settling_.Begin();
+}
+
+void FormPlace::Rest(bool byManager) {
+    if (arriving_ || !top_ || !top_->isVisible() || top_->isMinimized() || Large()) return;
+    if (byManager && std::exchange(shownLarge_, false) && ShiftedByFrame()) {
+        top_->move(put_);
+        settling_.Begin();
+        return;
+    }
+    choice_ = {Now(), Told()};
+}
+
+bool FormPlace::ShiftedByFrame() const {
+    const QPoint frame = top_->geometry().topLeft() - top_->pos();
+    const QPoint shift = put_ - top_->pos();
+    return !shift.isNull() && QRect(QPoint(), frame).contains(shift);
+}
+
+bool FormPlace::KnowsUser() const {
+    return front_.desktopHabits && form_.Kind() == FormKind::Main;
+}
+
+bool FormPlace::Large() const {
+    return top_->isMaximized() || top_->isFullScreen();
 }
 
 FormPlace::Measures FormPlace::Told() const {
@@ -119,7 +182,7 @@ void FormPlace::PlaceFirst() {
 }
 
 void FormPlace::FitToScreen() {
-    if (top_->isMaximized() || top_->isFullScreen()) return;
+    if (Large()) return;
     const QRect room = top_->screen()->availableGeometry();
     const QSize left(room.right() - top_->x(), room.bottom() - top_->y() - TitleHeight());
     top_->resize(top_->size().boundedTo(left.expandedTo(top_->minimumSizeHint())));
@@ -139,6 +202,8 @@ void FormPlace::Lend(const QRect& place) {
     const auto held = Hold();
     if (top_->pos() != place.topLeft()) top_->move(place.topLeft());
     if (top_->size() != place.size()) SetSize(place.size());
+    // Nothing is told of a main window before its user moves it.
+    if (KnowsUser()) return;
     loan_ = place;
     loanSince_.start();
 }
@@ -166,9 +231,7 @@ int FormPlace::TitleHeight() const {
 
 bool FormPlace::OnLoan() {
     if (!loan_) return false;
-    // The size of a main window is its own affair.
-    const bool main = form_.Kind() == FormKind::Main;
-    const QRect now(top_->pos(), main ? loan_->size() : top_->size());
+    const QRect now = Now();
     // Moves at first are those of the window manager.
     if (loanSince_.elapsed() < kSettling) loan_ = now;
     if (now == loan_) return true;

@@ -4,6 +4,9 @@
 //
 // 15 twips of a form are one pixel at 96 dpi; Qt does any further scaling. A position in the form that already rounds to the window's
 // pixel position is not changed, so that windows do not drift.
+//
+// On a desktop the main form is told only of places that its user has chosen: where and how large the window manager shows, maximises or
+// restores the window changes nothing, and only what differs from that is the user's.
 #pragma once
 
 #include <QElapsedTimer>
@@ -14,6 +17,7 @@
 #include <optional>
 
 #include "forms.h"
+#include "settling.h"
 
 class QWidget;
 
@@ -38,7 +42,7 @@ public:
     /// Whether the window has been shown but is not on the screen yet.
     bool Arriving() const { return arriving_; }
     /// The window will be shown.
-    void BeginArrival() { arriving_ = true; }
+    void BeginArrival();
     /// The window is on the screen.
     void Arrive();
     /// The window has become a part of another one.
@@ -50,6 +54,10 @@ public:
     void Return();
     /// Tells the form where the window is now.
     void Tell();
+    /// The window has been moved or resized.
+    void Moved();
+    /// The window has been minimised, maximised or restored.
+    void StateChanged();
     /// While the result exists, changes of the window are not told.
     [[nodiscard]] QScopedValueRollback<bool> Hold() { return QScopedValueRollback<bool>(placing_, true); }
 
@@ -79,6 +87,17 @@ private:
 
     Measures Told() const;
     void Tell(const Measures& finer);
+    void TellForm(const Measures& now);
+    /// What to tell the form of a window that is here now. A measure that is the same in pixels keeps its twips, those of `finer`.
+    Measures ToTwips(const QRect& now, const Measures& finer) const;
+    QRect Now() const;
+    /// Whether the window manager's moves of this window are told from its user's.
+    bool KnowsUser() const;
+    /// Whether the window fills the screen.
+    bool Large() const;
+    void Rest(bool byManager);
+    /// Whether the window manager has put the window itself in the place of its frame, as some do that have first shown it large.
+    bool ShiftedByFrame() const;
     /// Sets the window's size. A fixed tool window is fixed at this size.
     void SetSize(const QSize& size);
     /// Estimated height of the title bar; the real frame is not known before the window is on the screen.
@@ -100,6 +119,17 @@ private:
     std::optional<QRect> loan_;
     /// Since when the loan has had this place and size.
     QElapsedTimer loanSince_;
+    /// Where the program has put the window.
+    QPoint put_;
+    /// The window was large when it was shown, and still is.
+    bool shownLarge_ = false;
+    Settling settling_;
+    /// The window as it was when it last was at rest and not large, and the place that the user had chosen then.
+    struct Choice {
+        QRect seen;
+        Measures chosen;
+    };
+    std::optional<Choice> choice_;
 };
 
 }  // namespace vatro

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QScreen>
 #include <string>
+#include <utility>
 
 #include "numbers.h"
 #include "platform.h"
@@ -27,15 +28,22 @@ constexpr std::string_view kFullScreen = "hele";
 constexpr QSize kSmallScreen(1200, 700);
 constexpr double kPartOfScreen = 0.85;
 
-/// Properties of a window that has been made larger than its own size, and how large.
+/// Properties of a window: the size that its user has given it, and the size that the program or the window manager has made of that. The
+/// latter is empty while the window manager changes it, and while the window fills the screen.
 constexpr const char* kOwnSize = "vatroOwnSize";
-constexpr const char* kGrownSize = "vatroGrownSize";
+constexpr const char* kMadeSize = "vatroMadeSize";
 
 /// Milliseconds without a change after which the size is stored.
 constexpr int kRest = 1000;
 
 int Length(Settings& settings, std::string_view key) {
     return static_cast<int>(qBound(0.0, NumericValue(settings.Read(kWindowSection, key).value_or("")), 100'000.0));
+}
+
+/// From now on, the size of the window stands for this one, until the user changes it.
+void SetOwnSize(QMainWindow& window, const QSize& own) {
+    window.setProperty(kOwnSize, own);
+    window.setProperty(kMadeSize, window.size());
 }
 
 }  // namespace
@@ -49,18 +57,24 @@ void Grow(QMainWindow& window, const QSize& size) {
     const QSize own = OwnSize(window);
     const QRect screen = window.screen()->availableGeometry();
     const QSize left(screen.right() - window.x(), screen.bottom() - window.y());
-    const QSize grown = size.expandedTo(own).boundedTo(left.expandedTo(own));
-    window.setProperty(kOwnSize, own);
-    window.setProperty(kGrownSize, grown);
+    // If the window manager has reduced the window, there is no room for its own size.
+    const QSize grown = size.expandedTo(own).boundedTo(left.expandedTo(own.boundedTo(window.size())));
     if (window.size() != grown) window.resize(grown);
+    const bool settling = window.property(kOwnSize).isValid() && !window.property(kMadeSize).toSize().isValid();
+    if (!settling) SetOwnSize(window, own);
 }
 
 QSize OwnSize(const QMainWindow& window) {
-    const bool grown = window.property(kGrownSize).toSize() == window.size();
-    return grown ? window.property(kOwnSize).toSize() : window.size();
+    const QSize own = window.property(kOwnSize).toSize();
+    if (!own.isValid()) return window.size();
+    const QSize made = window.property(kMadeSize).toSize();
+    if (!made.isValid()) return own;
+    // The user may have changed only one of them.
+    return {window.width() == made.width() ? own.width() : window.width(),
+            window.height() == made.height() ? own.height() : window.height()};
 }
 
-MainSize::MainSize(QtFront& front, Settings& settings) : settings_(settings) {
+MainSize::MainSize(QtFront& front, Settings& settings) : settings_(settings), settling_([this](bool /*byManager*/) { Rest(); }) {
     soon_.setSingleShot(true);
     soon_.setInterval(kRest);
     connect(&soon_, &QTimer::timeout, this, &MainSize::Store);
@@ -88,12 +102,13 @@ void MainSize::Restore(QMainWindow& window) {
         window.resize(*first);
     else
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
-    own_ = stored.isEmpty() ? window.size() : stored;
+    SetOwnSize(window, stored.isEmpty() ? window.size() : stored);
     const std::string state = settings_.Read(kWindowSection, kState).value_or("");
     if (state == kMaximised) window.setWindowState(window.windowState() | Qt::WindowMaximized);
     if (state == kFullScreen) window.setWindowState(window.windowState() | Qt::WindowFullScreen);
     if (fullScreen_ != nullptr) fullScreen_->setChecked(state == kFullScreen);
     window.installEventFilter(this);
+    BeginSettling();
 }
 
 void MainSize::ToggleFullScreen() {
@@ -103,6 +118,8 @@ void MainSize::ToggleFullScreen() {
 bool MainSize::eventFilter(QObject* watched, QEvent* event) {
     if (watched != window_) return false;
     if (event->type() == QEvent::Resize || event->type() == QEvent::WindowStateChange) soon_.start();
+    if (event->type() == QEvent::Resize) settling_.Moved();
+    if (event->type() == QEvent::WindowStateChange || (event->type() == QEvent::Paint && std::exchange(fresh_, false))) BeginSettling();
     if (event->type() == QEvent::WindowStateChange && fullScreen_ != nullptr) fullScreen_->setChecked(window_->isFullScreen());
     // The program may end before the window has come to rest.
     if (event->type() == QEvent::Hide && soon_.isActive()) {
@@ -112,15 +129,25 @@ bool MainSize::eventFilter(QObject* watched, QEvent* event) {
     return false;
 }
 
+void MainSize::BeginSettling() {
+    window_->setProperty(kMadeSize, QSize());
+    settling_.Begin();
+}
+
+void MainSize::Rest() {
+    if (window_ == nullptr || !window_->isVisible()) return;
+    if (window_->isMinimized() || window_->isMaximized() || window_->isFullScreen()) return;
+    SetOwnSize(*window_, OwnSize(*window_));
+}
+
 void MainSize::Store() {
     if (window_ == nullptr || window_->isMinimized()) return;
     const bool whole = window_->isFullScreen();
-    const bool large = whole || window_->isMaximized();
-    if (!large) own_ = OwnSize(*window_);
+    const QSize own = OwnSize(*window_);
     settings_.BeginBatch();
-    settings_.Write(kWindowSection, kWidth, PlainNumber(own_.width()));
-    settings_.Write(kWindowSection, kHeight, PlainNumber(own_.height()));
-    settings_.Write(kWindowSection, kState, whole ? kFullScreen : large ? kMaximised : std::string_view());
+    settings_.Write(kWindowSection, kWidth, PlainNumber(own.width()));
+    settings_.Write(kWindowSection, kHeight, PlainNumber(own.height()));
+    settings_.Write(kWindowSection, kState, whole ? kFullScreen : window_->isMaximized() ? kMaximised : std::string_view());
     settings_.EndBatch();
 }
 

@@ -11,6 +11,8 @@
 #include <optional>
 #include <string_view>
 
+#include "settling.h"
+
 class QAction;
 class QMainWindow;
 
@@ -28,7 +30,7 @@ std::optional<QSize> FirstSize(const QSize& layout, const QSize& screen);
 /// Makes the window as large as its content needs it now, `size`, but no larger than its screen and no smaller than its own size, which
 /// the user has given it. That one is remembered, and is the one that is stored.
 void Grow(QMainWindow& window, const QSize& size);
-/// The size that the user has given the window.
+/// The size that the user has given the window, whatever the program and the window manager have made of it.
 QSize OwnSize(const QMainWindow& window);
 
 class MainSize : public QObject {
@@ -42,14 +44,18 @@ public:
 
 private:
     void Restore(QMainWindow& window);
+    /// The window manager changes the size now.
+    void BeginSettling();
+    void Rest();
     void Store();
     void ToggleFullScreen();
 
     Settings& settings_;
     QPointer<QMainWindow> window_;
     QPointer<QAction> fullScreen_;
-    /// The window's own size when it last did not fill the screen. Not every window manager lets Qt know it.
-    QSize own_;
+    Settling settling_;
+    /// The window has not been painted yet.
+    bool fresh_ = true;
     /// A window that is being dragged changes its size many times a second.
     QTimer soon_;
 };

@@ -244,12 +244,13 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
             return true;
         case QEvent::Move:
         case QEvent::Resize:
-            place_.Tell();
+            place_.Moved();
             return false;
         case QEvent::EnabledChange:
             FollowEnabled();
             return false;
         case QEvent::WindowStateChange:
+            place_.StateChanged();
             TellState();
             return false;
         case QEvent::WindowActivate:

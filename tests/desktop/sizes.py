@@ -9,24 +9,27 @@ something it needs is not installed.
 """
 import contextlib
 import sys
+import time
 
-from accessible import CALL, LOG, MAIN, missing_tools, within
+from accessible import CALL, LOG, MAIN, TWIPS, missing_tools, within
 from desktop import expect, run, skip_without_tools, until
 from main_window import TOOLS, MainWindow
 
 PROGRAM, DATA, MANAGER = sys.argv[1:4]
 CONTACTS = 60
+# A window that was shown, maximised or restored less than a quarter of a second ago is not moved by the operator. With some to spare.
+SETTLED = 0.6
 
 
 class Station(MainWindow):
     """One screen for all cases; each case starts the program with fresh settings."""
 
     @contextlib.contextmanager
-    def up(self):
+    def up(self, **settings):
         (self.log / "FD80mSSB.txt").write_text("".join(
             f"13:{number % 60:02d} DL{number}AA".ljust(21) + f"59 -{number:04d} 59 -{number:04d}  3 {'DL' if number == 1 else '':10s} "
             "OZ1AB      SSB   05-09-26\r\n" for number in range(1, CONTACTS + 1)), newline="")
-        self.set(UTC=0)
+        self.set(UTC=0, **settings)
         with self.alive(PROGRAM):
             yield
 
@@ -85,6 +88,31 @@ def a_maximised_window_comes_back_maximised_and_restores_to_its_size():
         station.wait_size(large, "the maximised size after the restart")
         station.click_title()
         station.wait_size(normal, "the restored size")
+
+
+def a_place_comes_back_however_large_the_window_was():
+    for change in (station.full_screen, station.click_title):
+        with station.up(MainLeft=1502, MainTop=1204):
+            before = station.frame(MAIN)
+            for _ in range(2):
+                change()
+                station.restart()
+                change()
+                until(lambda: station.frame(MAIN) == before, lambda: f"the place of before, {before}; it is {station.frame(MAIN)}")
+                station.restart()
+                expect(station.frame(MAIN), before, "the place after a restart")
+        expect([station.setting(key) for key in ("MainLeft", "MainTop")], ["1502", "1204"], "the stored place")
+
+
+def a_place_that_the_operator_chooses_is_stored_at_once():
+    with station.up():
+        station.click_title()
+        station.click_title()
+        time.sleep(SETTLED)
+        station.xdotool("windowmove", station.window(MAIN), "300", "200")
+        until(lambda: station.rectangle(MAIN)[:2] != (0, 0) and station.frame(MAIN).left in (300, 295), "the effect of the move")
+        place = station.frame(MAIN)
+    expect([station.setting(key) for key in ("MainLeft", "MainTop")], [str(TWIPS * place.left), str(TWIPS * place.top)], "the stored place")
 
 
 def a_size_and_a_text_size_come_back():

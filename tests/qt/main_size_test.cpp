@@ -19,12 +19,30 @@ protected:
     bool Becomes(const char* key, const std::string& value) {
         return QTest::qWaitFor([&] { return settings.Read("Vindue", key) == value; });
     }
+    /// Long enough for the window manager, which may still be changing the size of a window that was shown.
+    void Rest() {
+        QTest::qWait(400);
+        driver.Settle();
+    }
+    void ExpectOwn(const QSize& wanted) {
+        Rest();
+        EXPECT_EQ(OwnSize(Window()).width(), wanted.width());
+        EXPECT_EQ(OwnSize(Window()).height(), wanted.height());
+    }
+    void ExpectStored(const QSize& wanted) {
+        QTest::qWait(1300);
+        EXPECT_EQ(settings.Read("Vindue", "Bredde"), std::to_string(wanted.width()));
+        EXPECT_EQ(settings.Read("Vindue", "Hojde"), std::to_string(wanted.height()));
+    }
 
     MainSize size{dynamic_cast<QtFront&>(driver.ProgramFront()), settings};
 };
 
 TEST_F(SizeOfTheMainWindow, IsStoredWhenTheWindowHasComeToRest) {
+    settings.Write("Vindue", "Bredde", "500");
+    settings.Write("Vindue", "Hojde", "400");
     StartVatro();
+    Rest();
     const QSize wanted = Window().minimumSizeHint() + QSize(30, 20);
     Window().resize(wanted);
     EXPECT_TRUE(Becomes("Bredde", std::to_string(wanted.width())));
@@ -47,6 +65,46 @@ TEST_F(SizeOfTheMainWindow, OfALargerScreenFillsASmallOneAndIsKeptForTheLargerOn
     EXPECT_TRUE(Window().isMaximized());
     QTest::qWait(1200);
     EXPECT_EQ(settings.Read("Vindue", "Bredde"), "1632");
+}
+
+TEST_F(SizeOfTheMainWindow, IsKeptWhenTheWindowManagerReducesTheWindow) {
+    settings.Write("Vindue", "Bredde", "500");
+    settings.Write("Vindue", "Hojde", "400");
+    StartVatro();
+    Window().resize(500, 380);
+    ExpectStored({500, 400});
+    // The user makes it wider.
+    Window().resize(520, 380);
+    ExpectOwn({520, 400});
+    Window().resize(520, 390);
+    ExpectOwn({520, 390});
+    Window().resize(520, 380);
+    ExpectStored({520, 380});
+}
+
+TEST_F(SizeOfTheMainWindow, IsThatOfBeforeWhenItWasMaximised) {
+    settings.Write("Vindue", "Bredde", "500");
+    settings.Write("Vindue", "Hojde", "400");
+    StartVatro();
+    Rest();
+    // Some window managers give it the size before they announce that it is maximised.
+    Window().resize(Window().screen()->availableSize());
+    Window().showMaximized();
+    ExpectOwn({500, 400});
+    Window().showNormal();
+    Window().resize(490, 380);
+    ExpectStored({500, 400});
+}
+
+TEST_F(SizeOfTheMainWindow, IsThatOfTheUserAlsoWhenTheTextGrowsInAReducedWindow) {
+    settings.Write("Vindue", "Bredde", "500");
+    settings.Write("Vindue", "Hojde", "400");
+    StartVatro();
+    Window().resize(500, 380);
+    Rest();
+    Grow(Window(), {550, 390});
+    EXPECT_EQ(Window().width(), 550);
+    ExpectOwn({500, 400});
 }
 
 TEST_F(SizeOfTheMainWindow, IsNoLargerThanTheScreen) {

@@ -11,6 +11,7 @@
 #include "entry/frmContestCall.h"
 #include "entry/frmMain.h"
 #include "entry/frmQSOnr.h"
+#include "frame/start.h"
 #include "qt/window_program.h"
 #include "services.h"
 
@@ -187,6 +188,84 @@ TEST_F(PlacesOfWindows, AMaximisedMainWindowPushesThemAsideAndLetsThemBack) {
     }
 }
 
+/// The main window, moved by its user and by the window manager. The stored place is no whole number of pixels.
+class PlaceOfTheMainWindow : public PlacesOfWindows {
+protected:
+    static constexpr int kLeft = 302;
+    static constexpr int kTop = 454;
+    PlaceOfTheMainWindow() {
+        settings.texts["SETTINGS/MAINLEFT"] = std::to_string(kLeft);
+        settings.texts["SETTINGS/MAINTOP"] = std::to_string(kTop);
+        settings.Write("Vindue", "Bredde", "500");
+        settings.Write("Vindue", "Hojde", "400");
+        StartVatro();
+    }
+    QWidget& Main() const { return Top(*frmMain); }
+    void ExpectPlace(int left, int top) {
+        EXPECT_EQ(frmMain->Left(), left);
+        EXPECT_EQ(frmMain->Top(), top);
+    }
+    /// Long enough for the window manager.
+    void Rest() {
+        QTest::qWait(400);
+        driver.Settle();
+    }
+};
+
+TEST_F(PlaceOfTheMainWindow, IsNotThatAtWhichTheWindowManagerShowsIt) {
+    Main().move(Main().pos() + QPoint(5, 26));
+    ExpectPlace(kLeft, kTop);
+    Rest();
+    ExpectPlace(kLeft, kTop);
+    StoreRunningProgram();
+    EXPECT_EQ(settings.Read("Settings", "MainLeft"), std::to_string(kLeft));
+}
+
+TEST_F(PlaceOfTheMainWindow, IsNotThatOfAMaximisedOrRestoredWindow) {
+    Rest();
+    Main().showMaximized();
+    Main().move(0, 24);
+    Rest();
+    Main().move(0, 0);
+    Main().showNormal();
+    Main().move(15, 25);
+    ExpectPlace(kLeft, kTop);
+    Rest();
+    ExpectPlace(kLeft, kTop);
+}
+
+TEST_F(PlaceOfTheMainWindow, IsNotThatOfAWindowThatIsMovedBeforeItIsMaximised) {
+    Rest();
+    const QRect normal = Main().geometry();
+    Main().setGeometry(Main().screen()->availableGeometry());
+    Main().showMaximized();
+    ExpectPlace(kLeft, kTop);
+    Rest();
+    Main().setGeometry(normal);
+    Main().showNormal();
+    Rest();
+    ExpectPlace(kLeft, kTop);
+}
+
+TEST_F(PlaceOfTheMainWindow, IsStoredAtOnceWhenTheUserMovesIt) {
+    Rest();
+    Main().move(40, 50);
+    StoreRunningProgram();
+    EXPECT_EQ(settings.Read("Settings", "MainLeft"), std::to_string(40 * kTwipsPerPixel));
+    EXPECT_EQ(settings.Read("Settings", "MainTop"), std::to_string(50 * kTwipsPerPixel));
+}
+
+TEST_F(PlaceOfTheMainWindow, ChangesOnlyInTheDirectionInWhichTheUserMovesIt) {
+    Main().move(Main().pos() + QPoint(5, 26));
+    Rest();
+    Main().move(40, Main().y());
+    ExpectPlace(40 * kTwipsPerPixel, kTop);
+    Rest();
+    Main().showMaximized();
+    Rest();
+    ExpectPlace(40 * kTwipsPerPixel, kTop);
+}
+
 TEST_F(PlacesOfWindows, AMainWindowOutsideTheScreenIsShownOnIt) {
     settings.texts["SETTINGS/MAINLEFT"] = "90000";
     settings.texts["SETTINGS/MAINTOP"] = "45000";
@@ -195,7 +274,7 @@ TEST_F(PlacesOfWindows, AMainWindowOutsideTheScreenIsShownOnIt) {
     const QRect window = Top(*frmMain).geometry();
     // The width of the frame is not known before the window is on the screen.
     EXPECT_TRUE(screen.contains(window.adjusted(0, 0, -5, -5))) << window.width() << 'x' << window.height();
-    EndProgram();
+    StoreRunningProgram();
     EXPECT_EQ(settings.Read("Settings", "MainLeft"), "90000");
     EXPECT_EQ(settings.Read("Settings", "MainTop"), "45000");
 }
