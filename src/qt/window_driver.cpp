@@ -21,8 +21,6 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QWindow>
-#include <array>
-#include <utility>
 
 #include "bar_widgets.h"
 #include "by_kind.h"
@@ -34,6 +32,7 @@
 #include "program.h"
 #include "qt_text.h"
 #include "window.h"
+#include "window_driver_input.h"
 
 namespace vatro {
 
@@ -45,82 +44,9 @@ constexpr int kPatience = 3000;
 constexpr int kShortly = 25;
 constexpr int kTries = 10;
 
-Qt::Key QtKey(const KeyStroke& key) {
-    static const std::array<std::pair<std::string_view, Qt::Key>, 14> kNames{{{"Enter", Qt::Key_Return},
-                                                                              {"Esc", Qt::Key_Escape},
-                                                                              {"Space", Qt::Key_Space},
-                                                                              {"Tab", Qt::Key_Tab},
-                                                                              {"Backspace", Qt::Key_Backspace},
-                                                                              {"Delete", Qt::Key_Delete},
-                                                                              {"Home", Qt::Key_Home},
-                                                                              {"End", Qt::Key_End},
-                                                                              {"Left", Qt::Key_Left},
-                                                                              {"Right", Qt::Key_Right},
-                                                                              {"Up", Qt::Key_Up},
-                                                                              {"Down", Qt::Key_Down},
-                                                                              {"PageUp", Qt::Key_PageUp},
-                                                                              {"PageDown", Qt::Key_PageDown}}};
-    if (key.name.empty()) return static_cast<Qt::Key>(ToQt({&key.character, 1}).toUpper().at(0).unicode());
-    for (const auto& [name, code] : kNames)
-        if (key.name == name) return name == "Tab" && key.shift ? Qt::Key_Backtab : code;
-    if (key.name[0] == 'F') return static_cast<Qt::Key>(Qt::Key_F1 + std::stoi(key.name.substr(1)) - 1);
-    throw CannotDeliver("there is no key " + key.name);
-}
-
-QString KeyText(const KeyStroke& key) {
-    if (key.ctrl || key.alt) return {};
-    if (key.name.empty()) return ToQt({&key.character, 1});
-    if (key.name == "Enter") return QStringLiteral("\r");
-    if (key.name == "Esc") return QStringLiteral("\x1b");
-    if (key.name == "Space") return QStringLiteral(" ");
-    if (key.name == "Backspace") return QStringLiteral("\b");
-    return {};
-}
-
-void Tap(QWindow& window, Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers) {
-    const QPointer<QWindow> alive(&window);
-    QTest::sendKeyEvent(QTest::Press, &window, key, text, modifiers);
-    if (alive != nullptr) QTest::sendKeyEvent(QTest::Release, alive, key, text, modifiers);
-}
-
-/// The release that must follow a press. If the press opens a window, the release is sent before the scenario continues there, as a
-/// real user would have released the button by then; otherwise the window system would not accept another press.
-std::function<void()> owedRelease;
-
-void LetGo() {
-    if (owedRelease) std::exchange(owedRelease, {})();
-}
-
-/// Presses and releases the mouse button, as long as the window exists.
-void ClickAt(QWidget& widget, const QPoint& at) {
-    const QPointer<QWindow> window(widget.window()->windowHandle());
-    if (window == nullptr || !widget.isVisible()) throw CannotDeliver("a widget is not shown");
-    const QPoint there = widget.mapTo(widget.window(), at);
-    owedRelease = [window, there] {
-        if (window != nullptr) QTest::mouseRelease(window.data(), Qt::LeftButton, {}, there);
-    };
-    QTest::mousePress(window.data(), Qt::LeftButton, {}, there);
-    LetGo();
-}
-
 /// The position after the last character of a field.
 QPoint BehindText(const QLineEdit& field) {
     return {field.width() - 3, field.height() / 2};
-}
-
-/// The middle of a scroll bar's slider.
-QPoint SlideOf(const QScrollBar& bar) {
-    QStyleOptionSlider option;
-    option.initFrom(&bar);
-    option.orientation = bar.orientation();
-    option.minimum = bar.minimum();
-    option.maximum = bar.maximum();
-    option.singleStep = bar.singleStep();
-    option.pageStep = bar.pageStep();
-    option.sliderPosition = bar.sliderPosition();
-    option.sliderValue = bar.value();
-    if (bar.orientation() == Qt::Horizontal) option.state |= QStyle::State_Horizontal;
-    return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &bar).center();
 }
 
 QMainWindow& MainOf(QWidget& window) {
@@ -173,11 +99,7 @@ QWindow& WindowDriver::KeyWindow() const {
 // --- Keys
 
 void WindowDriver::Press(const KeyStroke& key) {
-    Qt::KeyboardModifiers modifiers;
-    if (key.shift) modifiers |= Qt::ShiftModifier;
-    if (key.ctrl) modifiers |= Qt::ControlModifier;
-    if (key.alt) modifiers |= Qt::AltModifier;
-    Tap(KeyWindow(), QtKey(key), KeyText(key), modifiers);
+    Tap(KeyWindow(), key);
 }
 
 void WindowDriver::Paste(std::string_view text) {
@@ -255,12 +177,7 @@ void WindowDriver::DoubleClick(ListBox& list, int row) {
     auto& view = WidgetAs<ItemList>(WidgetOf(list));
     const QModelIndex index = view.model()->index(row, 0);
     view.scrollTo(index);
-    const QPoint at = view.viewport()->mapTo(view.window(), view.visualRect(index).center());
-    QWindow* const window = view.window()->windowHandle();
-    owedRelease = [window, at] { QTest::mouseRelease(window, Qt::LeftButton, {}, at); };
-    QTest::mouseDClick(window, Qt::LeftButton, {}, at);
-    // The release has already been sent.
-    owedRelease = {};
+    DoubleClickAt(*view.viewport(), view.visualRect(index).center());
 }
 
 void WindowDriver::Spin(UpDown& arrows, bool up) {
@@ -389,16 +306,7 @@ void WindowDriver::Settle() {
 }
 
 std::string WindowDriver::Mismatch(const Control& control) {
-    if (const auto* item = As<MenuItem>(&control)) {
-        const FormWindow* window = front_.WindowOf(item->Parent());
-        const QAction* action = ActionOf(*item, MainOf(*window->Top()));
-        if (action == nullptr) return "no entry in the menu";
-        if (item->Separator()) return action->isSeparator() ? "" : "a line is missing";
-        if (action->text() != (item->Visible() ? ToQt(item->Caption()) : QString())) return "the text is another one";
-        if (action->isChecked() != item->Ticked()) return "the tick is another one";
-        // Qt counts an invisible entry as disabled; an entry of a disabled menu still reports its own state.
-        return action->isEnabled() == (item->Enabled() && item->Visible()) ? "" : "it is disabled on one side only";
-    }
+    if (const auto* item = As<MenuItem>(&control)) return Difference(*item, MainOf(*front_.WindowOf(item->Parent())->Top()));
     const QWidget* widget = front_.WidgetOf(control);
     if (widget == nullptr) return As<Timer>(&control) != nullptr ? "" : "no widget";
     return Difference(control, *widget);
@@ -406,20 +314,7 @@ std::string WindowDriver::Mismatch(const Control& control) {
 
 std::string WindowDriver::Mismatch(const Form& form) {
     const FormWindow* window = front_.WindowOf(form);
-    if (window == nullptr) return "no window";
-    const QWidget& top = *window->Top();
-    if (top.windowTitle() != ToQt(form.Caption())) return "the caption is another one";
-    if (top.isVisible() != form.Visible()) return "one is hidden, the other shown";
-    if (!top.isVisible() || top.isMinimized()) return {};
-    if (top.isEnabled() != form.Enabled()) return "one is disabled, the other enabled";
-    if (form.Placed() && top.pos() != QPoint(ToPixels(form.Left()), ToPixels(form.Top()))) return "the place is another one";
-    const QSize size(qMax(1, ToPixels(form.Width())), qMax(1, ToPixels(form.Height())));
-    if (form.Placed() && top.size() != size) return "the size is another one";
-    const Control* active = form.ActiveControl();
-    const QWidget* focused = top.focusWidget();
-    if (&form == ActiveForm() && active != nullptr && active->Enabled() && focused != front_.WidgetOf(*active))
-        return "the focus is elsewhere";
-    return {};
+    return window == nullptr ? "no window" : Difference(form, *window);
 }
 
 void WindowDriver::Shot(const std::string& file) {

@@ -12,6 +12,7 @@
 #include "driver.h"
 #include "qt_front.h"
 
+class QMainWindow;
 class QMessageBox;
 class QWindow;
 
@@ -78,6 +79,9 @@ const W& WidgetAs(const QWidget& widget) {
 
 /// Describes how the widget differs from its control; empty if it does not.
 std::string Difference(const Control& control, const QWidget& widget);
+/// The same for an entry in the menu of a window, and for a form.
+std::string Difference(const MenuItem& item, QMainWindow& main);
+std::string Difference(const Form& form, const FormWindow& window);
 /// Saves one picture of all visible windows at their places on the screen.
 void SaveWindows(const std::string& file);
 

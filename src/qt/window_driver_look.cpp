@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QPainter>
 #include <QPixmap>
 #include <QPlainTextEdit>
@@ -21,6 +22,7 @@
 #include "item_list.h"
 #include "qt_text.h"
 #include "status_panel.h"
+#include "window.h"
 #include "window_driver.h"
 
 namespace vatro {
@@ -137,6 +139,32 @@ std::string Difference(const Control& control, const QWidget& widget) {
         [&](const Button& button) { return Differs(button, WidgetAs<QAbstractButton>(widget)); },
         // The appearance of other controls never changes, or is checked elsewhere.
         [](const Control&) { return std::string(); });
+}
+
+std::string Difference(const MenuItem& item, QMainWindow& main) {
+    const QAction* action = ActionOf(item, main);
+    if (action == nullptr) return "no entry in the menu";
+    if (item.Separator()) return action->isSeparator() ? "" : "a line is missing";
+    if (action->text() != (item.Visible() ? ToQt(item.Caption()) : QString())) return "the text is another one";
+    if (action->isChecked() != item.Ticked()) return "the tick is another one";
+    // Qt counts an invisible entry as disabled; an entry of a disabled menu still reports its own state.
+    return action->isEnabled() == (item.Enabled() && item.Visible()) ? "" : "it is disabled on one side only";
+}
+
+std::string Difference(const Form& form, const FormWindow& window) {
+    const QWidget& top = *window.Top();
+    if (top.windowTitle() != ToQt(form.Caption())) return "the caption is another one";
+    if (top.isVisible() != form.Visible()) return "one is hidden, the other shown";
+    if (!top.isVisible() || top.isMinimized()) return {};
+    if (top.isEnabled() != form.Enabled()) return "one is disabled, the other enabled";
+    if (form.Placed() && top.pos() != QPoint(ToPixels(form.Left()), ToPixels(form.Top()))) return "the place is another one";
+    const QSize size(qMax(1, ToPixels(form.Width())), qMax(1, ToPixels(form.Height())));
+    if (form.Placed() && top.size() != size) return "the size is another one";
+    const Control* active = form.ActiveControl();
+    const QWidget* focused = top.focusWidget();
+    if (&form == ActiveForm() && active != nullptr && active->Enabled() && focused != window.WidgetOf(*active))
+        return "the focus is elsewhere";
+    return {};
 }
 
 void SaveWindows(const std::string& file) {
