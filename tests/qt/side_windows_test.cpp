@@ -6,7 +6,6 @@
 #include <QFontMetricsF>
 #include <QWidget>
 
-#include "deliver.h"
 #include "entry/frmContestCall.h"
 #include "entry/frmMain.h"
 #include "entry/frmQSOnr.h"
