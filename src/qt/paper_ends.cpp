@@ -126,6 +126,12 @@ void PaperEnds::Show(const PaperEnd& end) {
     text_->setToolTip(files_.join(u'\n'));
     file_->setVisible(files_.size() == 1);
     directory_->setVisible(!files_.isEmpty());
+    // A side window does not grow by itself; the user may make it small, but not so small at first that its buttons overlap.
+    QWidget& window = *text_->window();
+    const QRect screen = window.screen()->availableGeometry();
+    window.layout()->activate();
+    window.resize(window.size().expandedTo(window.layout()->totalMinimumSize()).boundedTo(screen.size()));
+    UncoverFields(window);
     // The text takes room from the list when the window is laid out anew.
     if (auto* list = qobject_cast<QAbstractItemView*>(front_.WidgetOf(static_cast<const FrmInfo*>(frmInfo.Peek())->steps)))
         QTimer::singleShot(0, list, &QAbstractItemView::scrollToBottom);

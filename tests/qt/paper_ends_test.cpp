@@ -6,6 +6,7 @@
 #include <QListView>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <vector>
@@ -66,6 +67,19 @@ TEST_F(PaperEndInTheWindow, TellsTheFileAndOpensItOrItsDirectory) {
     EXPECT_TRUE(opened[0].endsWith(QStringLiteral("SM80mSSB.txt"))) << opened[0].toStdString();
     EXPECT_TRUE(opened[0].startsWith(opened[1])) << opened[1].toStdString();
     EXPECT_NE(opened[0], opened[1]);
+}
+
+TEST_F(PaperEndInTheWindow, ItsButtonsHaveRoomAtLargeText) {
+    for (int i = 0; i < 6; ++i) QTest::keyClick(WindowOf(*frmMain).Top(), Qt::Key_Plus, Qt::ControlModifier);
+    Choose(frmMain->mnuEfter80mSSB);
+    const QList<QPushButton*> buttons = Window().findChildren<QPushButton*>();
+    ASSERT_EQ(buttons.size(), 3);
+    for (const QPushButton* button : buttons) {
+        EXPECT_TRUE(Window().rect().contains(button->geometry())) << button->text().toStdString();
+        for (const QPushButton* other : buttons)
+            EXPECT_TRUE(other == button || !button->geometry().intersects(other->geometry())) << button->text().toStdString();
+    }
+    EXPECT_TRUE(Window().screen()->availableGeometry().contains(Window().frameGeometry()));
 }
 
 TEST_F(PaperEndInTheWindow, OpensByAccessKeys) {
