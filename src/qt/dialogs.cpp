@@ -9,7 +9,9 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
+#include <QScreen>
 #include <QStandardPaths>
+#include <QStyle>
 #include <memory>
 
 #include "codepage.h"
@@ -96,6 +98,16 @@ void CloseUp(QMessageBox& box) {
     grid->setColumnStretch(1, 1);
 }
 
+/// Makes a dialogue that would be larger than its screen as large as that, with its title.
+void FitToScreen(QDialog& dialog) {
+    dialog.ensurePolished();
+    constexpr int kFrame = 8;
+    const int title = dialog.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &dialog);
+    const QSize room = dialog.screen()->availableSize() - QSize(kFrame, title + kFrame);
+    const QSize wanted = dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : dialog.sizeHint();
+    if (wanted.boundedTo(room) != wanted) dialog.resize(wanted.boundedTo(room));
+}
+
 /// Returns the focus to the active form. Qt would return it to the window that had it before, but the active form may have changed.
 void GiveKeysBack() {
     if (Form* form = ActiveForm()) InstalledFront().Activated(*form);
@@ -117,6 +129,7 @@ QWidget* DialogOwner() {
 
 bool RunDialog(QDialog& dialog) {
     dialog.setWindowModality(Qt::ApplicationModal);
+    FitToScreen(dialog);
     dialog.show();
     WaitLoop([open = QPointer<QDialog>(&dialog)] { return open == nullptr || !open->isVisible(); }).Run();
     dialog.hide();

@@ -11,6 +11,7 @@
 #include <QLockFile>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QStyle>
 #include <QTemporaryDir>
@@ -19,6 +20,7 @@
 #include <csignal>
 
 #include "clock.h"
+#include "desktop.h"
 #include "dialogs.h"
 #include "disk_settings.h"
 #include "fields.h"
@@ -227,6 +229,8 @@ public:
 
     /// The directory in which each dialogue started.
     QStringList begun;
+    /// The last dialogue with its frame.
+    QRect frame;
     /// The boxes shown instead of a dialogue; they are closed.
     QStringList told;
 
@@ -241,6 +245,7 @@ private:
         auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         if (chooser == nullptr) return;
         begun.append(chooser->directory().absolutePath());
+        frame = chooser->frameGeometry();
         if (answers_.isEmpty()) {
             chooser->reject();
             return;
@@ -253,6 +258,19 @@ private:
     /// Exists while the question is open.
     std::unique_ptr<QObject> scope_;
 };
+
+TEST_F(WindowProgram, AFileDialogueIsNoLargerThanTheScreenAtLargeText) {
+    QtHelp handbook;
+    const Desktop desktop(dynamic_cast<QtFront&>(driver.ProgramFront()), handbook);
+    settings.texts["SETTINGS/TEKSTSTR"] = "6";
+    StartVatro();
+    QtDialogs asked;
+    DirectoryAsked directory({});
+    EXPECT_EQ(directory.Ask(asked), "cancelled");
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    EXPECT_LE(directory.frame.width(), screen.width());
+    EXPECT_LE(directory.frame.height(), screen.height());
+}
 
 TEST_F(WindowProgram, ADirectoryIsSoughtAmongTheUsersOwnAndThenWhereTheLastOneWas) {
     const QTemporaryDir home;
