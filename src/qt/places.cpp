@@ -7,6 +7,8 @@
 #include <QStyle>
 #include <QWidget>
 #include <algorithm>
+#include <optional>
+#include <set>
 #include <utility>
 
 #include "by_kind.h"
@@ -62,6 +64,45 @@ void PlaceOthers(const QRect& room, const std::vector<QRect*>& windows) {
     }
 }
 
+/// The first place for a frame of this size in one of the rooms that covers none of `taken`; of any room the highest, then the leftmost.
+std::optional<QRect> FreePlace(const std::vector<QRect>& rooms, const QSize& size, const std::vector<QRect>& taken) {
+    for (const QRect& room : rooms) {
+        std::set<int> lefts{room.left()};
+        std::set<int> tops{room.top()};
+        for (const QRect& other : taken) {
+            lefts.insert(other.right() + 1);
+            tops.insert(other.bottom() + 1);
+        }
+        for (const int top : tops)
+            for (const int left : lefts) {
+                const QRect place(QPoint(left, top), size);
+                const bool covers = std::any_of(taken.begin(), taken.end(), [&](const QRect& other) { return other.intersects(place); });
+                if (room.contains(place) && !covers) return place;
+            }
+    }
+    return std::nullopt;
+}
+
+/// Moves the windows that cover a taken place or each other to a free one, in their own size if there is room for it.
+void KeepOff(const std::vector<QRect>& rooms, const std::vector<QRect>& own, std::vector<QRect>& windows, std::vector<QRect> taken) {
+    const auto covers = [&taken](const QRect& window) {
+        return std::any_of(taken.begin(), taken.end(), [&](const QRect& other) { return other.intersects(window); });
+    };
+    std::vector<std::size_t> displaced;
+    for (std::size_t i = 0; i < windows.size(); ++i) {
+        if (covers(windows[i]))
+            displaced.push_back(i);
+        else
+            taken.push_back(windows[i]);
+    }
+    for (const std::size_t i : displaced) {
+        std::optional<QRect> place = FreePlace(rooms, own[i].size(), taken);
+        if (!place) place = FreePlace(rooms, windows[i].size(), taken);
+        windows[i] = place.value_or(windows[i]);
+        taken.push_back(windows[i]);
+    }
+}
+
 std::vector<QRect> Screens() {
     std::vector<QRect> screens;
     for (const QScreen* screen : QGuiApplication::screens()) screens.push_back(screen->availableGeometry());
@@ -84,7 +125,9 @@ int Area(const QRect& place) {
 
 }  // namespace
 
-std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, const QRect& upper, std::vector<QRect> windows) {
+std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, const QRect& upper, std::vector<QRect> windows,
+                              std::vector<QRect> taken) {
+    const std::vector<QRect> own = windows;
     QRect lines(QPoint(screen.left(), main.bottom() + 1), screen.bottomRight());
     QRect others(QPoint(main.right() + 1, screen.top()), screen.bottomRight());
     const bool roomBelow = lines.height() >= kLeastHeight;
@@ -104,6 +147,12 @@ std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, const QRec
     for (QRect& window : windows) (IsOneLine(window) ? ofOneLine : ofMany).push_back(&window);
     PlaceLines(lines, ofOneLine);
     PlaceOthers(others, ofMany);
+    const std::vector<QRect> rooms{{QPoint(screen.left(), main.bottom() + 1), screen.bottomRight()},
+                                   {QPoint(main.right() + 1, screen.top()), screen.bottomRight()},
+                                   {screen.topLeft(), QPoint(screen.right(), main.top() - 1)},
+                                   {screen.topLeft(), QPoint(main.left() - 1, screen.bottom())},
+                                   upper};
+    KeepOff(rooms, own, windows, std::move(taken));
     return windows;
 }
 
@@ -188,7 +237,13 @@ void Places::Arrange(const std::vector<FormWindow*>& windows) {
     std::vector<QRect> frames;
     frames.reserve(windows.size());
     for (const FormWindow* window : windows) frames.emplace_back(window->OwnPlace().topLeft(), window->OwnPlace().size() + frame);
-    const std::vector<QRect> places = BesideMain(main_->screen()->availableGeometry(), main_->frameGeometry(), Log(), frames);
+    std::vector<QRect> taken;
+    for (const FormWindow* window : front_.Windows()) {
+        const bool arranged = std::find(windows.begin(), windows.end(), window) != windows.end();
+        if (window->Its().Kind() == FormKind::Tool && !arranged && !window->Docked() && window->Top()->isVisible())
+            taken.push_back(window->Top()->frameGeometry());
+    }
+    const std::vector<QRect> places = BesideMain(main_->screen()->availableGeometry(), main_->frameGeometry(), Log(), frames, taken);
     // Do not repeat what a window manager or a window itself does not accept.
     if (windows == arranged_ && places == arrangement_) return;
     arranged_ = windows;

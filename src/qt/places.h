@@ -20,8 +20,10 @@ class QtFront;
 
 /// Returns a frame for each of `windows`, none wider or higher than before, arranged around the main window. Windows with one line of
 /// large letters go below the main window and keep their aspect ratio; the others go to its right. If the screen has no room there,
-/// they go over the part `upper` of the main window.
-std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, const QRect& upper, std::vector<QRect> windows);
+/// they go over the part `upper` of the main window. A window that would then cover one of `taken` goes where it covers none, if there is
+/// such a place outside the main window or over `upper`.
+std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, const QRect& upper, std::vector<QRect> windows,
+                              std::vector<QRect> taken = {});
 
 /// Whether a window with this frame can be seen and moved: at least half of it, and of its title bar, lies on one of the screens.
 bool OnScreens(const QRect& frame, int title, const std::vector<QRect>& screens);

@@ -59,6 +59,24 @@ TEST(BesideMain, NeverCoversTheEntryFields) {
     }
 }
 
+/// Number and call stand in the upper left corner of the log, where the list would go.
+TEST(BesideMain, KeepsOffWindowsThatStayWhereTheyAre) {
+    const QRect screen(0, 0, 1024, 600);
+    const QRect main(0, 0, 1024, 600);
+    const QRect upper(QPoint(0, 100), QPoint(1023, kEntry - 1));
+    const std::vector<QRect> taken{{10, 110, 300, 110}, {320, 110, 300, 110}};
+    EXPECT_EQ(BesideMain(screen, main, upper, {{0, 0, 300, 200}}, taken), (std::vector<QRect>{{620, 100, 300, 200}}));
+    // A window that covers nothing stays where it would go otherwise.
+    EXPECT_EQ(BesideMain(screen, main, upper, {{0, 0, 300, 200}}, {{800, 100, 100, 80}}),
+              BesideMain(screen, main, upper, {{0, 0, 300, 200}}));
+    // Two that are moved keep off each other.
+    const std::vector<QRect> two = BesideMain(screen, main, upper, {{0, 0, 300, 100}, {0, 0, 300, 100}}, taken);
+    EXPECT_FALSE(two[0].intersects(two[1]));
+    // Free room outside the main window comes first.
+    EXPECT_EQ(BesideMain({0, 0, 1024, 600}, {0, 200, 1024, 400}, {0, 300, 1024, 130}, {{0, 0, 300, 120}}, {{0, 300, 300, 100}}),
+              (std::vector<QRect>{{0, 0, 300, 120}}));
+}
+
 TEST(BesideMain, HasNothingToDoWithoutWindows) {
     EXPECT_TRUE(BesideMain({0, 0, 1920, 1080}, {66, 66, 920, 480}, kUpper, {}).empty());
 }
@@ -130,6 +148,23 @@ TEST_F(PlacesOfWindows, LentPlacesDoNotOverlap) {
     // A longer text needs a wider window.
     Dispatch([] { frmQSOnr->visDupe(); });
     EXPECT_TRUE(QTest::qWaitFor(apart));
+}
+
+TEST_F(PlacesOfWindows, LentPlacesCoverNoWindowThatStaysInItsOwn) {
+    settings.texts["SETTINGS/MYCALL"] = "OZ7FD/P";
+    settings.texts["SETTINGS/MAINLEFT"] = "0";
+    settings.texts["SETTINGS/MAINTOP"] = "0";
+    Stored("QSO", 10, 100, 300, 60);
+    Stored("CALL", 10, 190, 300, 60);
+    Stored("B4", 5000, 3000, 300, 200);
+    StartVatro();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return InSight(*frmB4); }));
+    QTest::qWait(500);
+    EXPECT_TRUE(InSight(*frmB4));
+    for (const Form* form : std::initializer_list<const Form*>{&*frmQSOnr, &*frmContestCall}) {
+        EXPECT_EQ(Top(*form).x(), 10) << form->Name();
+        EXPECT_FALSE(Top(*form).frameGeometry().intersects(Top(*frmB4).frameGeometry())) << form->Name();
+    }
 }
 
 TEST_F(PlacesOfWindows, AWindowThatNobodyHasMovedIsNotShownOnTopOfAnother) {
