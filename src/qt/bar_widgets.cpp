@@ -13,6 +13,7 @@
 #include "bindings.h"
 #include "by_kind.h"
 #include "deliver.h"
+#include "entry/validation.h"
 #include "forms.h"
 #include "press_button.h"
 #include "qt_text.h"
@@ -170,14 +171,19 @@ void Bind(StatusBar& control, QStatusBar& widget, Bindings& /*bindings*/) {
     };
     // In line with the fields above; in a dialogue the layout sees to that.
     constexpr int kEdge = 6;
-    if (qobject_cast<QMainWindow*>(widget.parentWidget()) != nullptr) widget.setContentsMargins(kEdge, 0, 0, kEdge / 2);
+    const bool main = qobject_cast<QMainWindow*>(widget.parentWidget()) != nullptr;
+    if (main) widget.setContentsMargins(kEdge, 0, 0, kEdge / 2);
     for (std::size_t number = 1; number <= control.Panels().size(); ++number) {
         auto* panel = new StatusPanel(&widget);
         panel->setObjectName(ObjectName(control) + u'_' + QString::number(number));
         // The others are pairs of a value and its caption; a gap tells one pair from the next.
         if (number > 1 && number % 2 == 0) panel->SetGap(2 * panel->fontMetrics().averageCharWidth());
         // The first panel takes the space that the others do not need.
-        if (number == 1) panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        if (number == 1) {
+            panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+            // The longest of the program's own messages.
+            if (main) panel->KeepRoomFor(ToQt(kDupeWarning), PanelMark::Duplicate);
+        }
         widget.addWidget(panel, number == 1 ? 1 : 0);
         push(number);
     }

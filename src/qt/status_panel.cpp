@@ -118,10 +118,25 @@ void StatusPanel::SetGap(int gap) {
     LayOut(true);
 }
 
+void StatusPanel::KeepRoomFor(const QString& text, PanelMark mark) {
+    longest_ = text.trimmed();
+    longestMark_ = mark;
+    LayOut(true);
+}
+
 void StatusPanel::SetFaded(bool faded) {
     if (faded_ == faded) return;
     faded_ = faded;
     LayOut(false);
+}
+
+QSize StatusPanel::sizeHint() const {
+    // A label remembers the minimum that it had when it was given its text.
+    return {QLabel::sizeHint().width() + gap_, minimumHeight()};
+}
+
+QSize StatusPanel::minimumSizeHint() const {
+    return {QLabel::minimumSizeHint().width() + gap_, minimumHeight()};
 }
 
 void StatusPanel::resizeEvent(QResizeEvent* event) {
@@ -134,15 +149,15 @@ void StatusPanel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) LayOut(true);
 }
 
-QFont StatusPanel::TextFont() const {
+QFont StatusPanel::TextFont(PanelMark mark) const {
     QFont its = font();
-    if (IsLoud(mark_) && !faded_) its.setBold(true);
+    if (IsLoud(mark) && !faded_) its.setBold(true);
     return its;
 }
 
-int StatusPanel::SignWidth() const {
-    if (mark_ == PanelMark::None) return 0;
-    return mark_ == PanelMark::Duplicate ? fontMetrics().height() * kMostRows : fontMetrics().height() * 3 / 2;
+int StatusPanel::SignWidth(PanelMark mark) const {
+    if (mark == PanelMark::None) return 0;
+    return mark == PanelMark::Duplicate ? fontMetrics().height() * kMostRows : fontMetrics().height() * 3 / 2;
 }
 
 QRect StatusPanel::Inside() const {
@@ -154,8 +169,8 @@ bool StatusPanel::Elastic() const {
 }
 
 void StatusPanel::LayOut(bool anew) {
-    const QFontMetrics metrics(TextFont());
-    const int room = Inside().width() - SignWidth();
+    const QFontMetrics metrics(TextFont(mark_));
+    const int room = Inside().width() - SignWidth(mark_);
     // Some texts are padded with blanks.
     qsizetype length = whole_.size();
     while (Elastic() && length > 0 && whole_[length - 1] == u' ') --length;
@@ -163,7 +178,7 @@ void StatusPanel::LayOut(bool anew) {
     lines_.clear();
     QString rest = words;
     if (Elastic() && metrics.horizontalAdvance(words) > room) {
-        QTextLayout layout(words, TextFont());
+        QTextLayout layout(words, TextFont(mark_));
         layout.setTextOption(WrappedAnywhere());
         layout.beginLayout();
         QTextLine first = layout.createLine();
@@ -173,7 +188,11 @@ void StatusPanel::LayOut(bool anew) {
         rest = words.mid(first.textLength());
     }
     lines_.append(Elastic() ? metrics.elidedText(rest, Qt::ElideRight, room) : rest);
-    rows_ = anew ? Lines() : qMax(rows_, Lines());
+    QFont loud = font();
+    loud.setBold(IsLoud(longestMark_));
+    const int longest = QFontMetrics(loud).horizontalAdvance(longest_) + SignWidth(longestMark_);
+    const int least = Elastic() && longest > Inside().width() ? kMostRows : 1;
+    rows_ = qMax(anew ? least : rows_, Lines());
     setMinimumHeight(rows_ * metrics.lineSpacing() + 2 * margin());
     const bool cut = lines_.constLast() != rest;
     setToolTip(cut ? whole_ + u'\n' + toolTip_ : toolTip_);
@@ -187,9 +206,9 @@ void StatusPanel::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     QColor ink = faded_ ? FadedInk(palette()) : palette().color(foregroundRole());
     QColor signInk = ink;
-    const QFontMetrics metrics(TextFont());
+    const QFontMetrics metrics(TextFont(mark_));
     // A duplicate has the largest sign that its panel has room for.
-    const double chip = mark_ == PanelMark::Duplicate ? qMin(Inside().height(), SignWidth()) : metrics.height();
+    const double chip = mark_ == PanelMark::Duplicate ? qMin(Inside().height(), SignWidth(mark_)) : metrics.height();
     const QRectF place(Inside().left(), (height() - chip) / 2, chip, chip);
     if (const auto signal = faded_ ? std::nullopt : SignalOf(mark_)) {
         const SignalColours colours = ColoursOf(*signal, palette());
@@ -203,12 +222,12 @@ void StatusPanel::paintEvent(QPaintEvent* /*event*/) {
             painter.drawRoundedRect(place, chip / 5, chip / 5);
         }
     }
-    painter.setFont(TextFont());
+    painter.setFont(TextFont(mark_));
     constexpr double kInset = 0.2;
     PaintSign(painter, mark_, place.adjusted(chip * kInset, chip * kInset, -chip * kInset, -chip * kInset), signInk);
-    painter.setFont(TextFont());
+    painter.setFont(TextFont(mark_));
     painter.setPen(isEnabled() ? ink : palette().color(QPalette::Disabled, foregroundRole()));
-    const QRect inside = Inside().adjusted(SignWidth(), 0, 0, 0);
+    const QRect inside = Inside().adjusted(SignWidth(mark_), 0, 0, 0);
     int top = inside.top() + (inside.height() - Lines() * metrics.lineSpacing()) / 2;
     for (const QString& line : lines_) {
         painter.drawText(QRect(inside.left(), top, inside.width(), metrics.lineSpacing()), Qt::AlignVCenter | Qt::AlignLeft, line);

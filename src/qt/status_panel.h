@@ -21,6 +21,8 @@ public:
     /// The whole text, even if it is shown shortened.
     const QString& PanelText() const { return whole_; }
     PanelMark Mark() const { return mark_; }
+    /// Keeps the room that this text needs, so that it does not move what is above the panel when it is first shown.
+    void KeepRoomFor(const QString& text, PanelMark mark);
     /// Keeps the text this far away from the panel before.
     void SetGap(int gap);
     /// Shows the text faintly and without colours until there is another one, because it is about something that is over.
@@ -28,8 +30,8 @@ public:
     bool Faded() const { return faded_; }
     /// Number of lines in which the text is shown.
     int Lines() const { return static_cast<int>(lines_.size()); }
-    QSize sizeHint() const override { return QLabel::sizeHint() + QSize(gap_, 0); }
-    QSize minimumSizeHint() const override { return QLabel::minimumSizeHint() + QSize(gap_, 0); }
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     /// The panel has been given a text or a mark.
@@ -43,8 +45,8 @@ protected:
 private:
     /// Lays the text out in the width of the panel. `anew` forgets the height that earlier texts needed.
     void LayOut(bool anew);
-    QFont TextFont() const;
-    int SignWidth() const;
+    QFont TextFont(PanelMark mark) const;
+    int SignWidth(PanelMark mark) const;
     /// Where the sign and the text are.
     QRect Inside() const;
     /// Whether the panel shrinks with the window, and so does not ask for a width of its own.
@@ -53,6 +55,8 @@ private:
     PanelMark mark_ = PanelMark::None;
     bool faded_ = false;
     int gap_ = 0;
+    QString longest_;
+    PanelMark longestMark_ = PanelMark::None;
     QString whole_;
     QString toolTip_;
     QStringList lines_;

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
+#include <QScreen>
 #include <QTest>
 
 #include "bar_widgets.h"
@@ -18,8 +19,10 @@
 #include "entry/frmMain.h"
 #include "entry/frmQSOnr.h"
 #include "entry/qso_fields.h"
+#include "entry/validation.h"
 #include "fields.h"
 #include "item_list.h"
+#include "qt/picture.h"
 #include "qt/window_program.h"
 #include "services.h"
 
@@ -113,6 +116,21 @@ TEST_F(DockedWindows, GrowWithTheWindow) {
     EXPECT_GT(Top(*frmQSOnr).width(), number.width());
     EXPECT_GT(Top(*frmB4).height(), before.height());
     EXPECT_GT(Top(*frmB4).width(), before.width());
+}
+
+TEST_F(DockedWindows, LongMessagesDoNotMoveTheFields) {
+    Begin();
+    for (const int width : {500, 700, 1024, 1500}) {
+        Main().resize(width, 560);
+        QTest::qWait(100);
+        const QRect call = Of(frmMain->fields[kCallField]);
+        Dispatch([] { frmMain->statusBar.SetPanel(1, kDupeWarning, PanelMark::Duplicate); });
+        driver.Settle();
+        EXPECT_EQ(Of(frmMain->fields[kCallField]), call) << width;
+        Dispatch([] { frmMain->statusBar.SetPanel(1, "Vatro 80m SSB"); });
+        driver.Settle();
+        EXPECT_EQ(Of(frmMain->fields[kCallField]), call) << width;
+    }
 }
 
 TEST_F(DockedWindows, AreNotToldOfPlacesAndSizes) {
