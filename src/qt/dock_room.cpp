@@ -62,7 +62,7 @@ void DockRoom::Take(QWidget& guest) {
     qobject_cast<QHBoxLayout*>(layout())->insertWidget(place, frame, 1);
     guest.setParent(frame, Qt::Widget);
     inside->addWidget(&guest);
-    for (FittedText* text : guest.findChildren<FittedText*>()) text->SetFills(true);
+    for (FittedText* text : guest.findChildren<FittedText*>()) text->SetRow(this);
     for (ItemList* list : guest.findChildren<ItemList*>()) list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     guest.installEventFilter(this);
     parentWidget()->installEventFilter(this);
@@ -73,7 +73,7 @@ void DockRoom::Release(QWidget& guest) {
     const auto found = std::find_if(berths_.begin(), berths_.end(), [&](const Berth& berth) { return berth.guest == &guest; });
     if (found == berths_.end()) return;
     guest.removeEventFilter(this);
-    for (FittedText* text : guest.findChildren<FittedText*>()) text->SetFills(false);
+    for (FittedText* text : guest.findChildren<FittedText*>()) text->SetRow(nullptr);
     for (ItemList* list : guest.findChildren<ItemList*>()) list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     guest.setParent(nullptr);
     delete found->frame;

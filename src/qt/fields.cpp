@@ -9,6 +9,7 @@
 #include <QStyleOptionFrame>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "signal_colours.h"
 
@@ -23,6 +24,29 @@ constexpr int kSightMargin = 6;
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 /// The part of a widget that a text fills which is drawn as large as possible; the rest is its margin.
 constexpr double kPartFilled = 0.85;
+
+/// The letters by which the height of a row is measured. Those of a number and of most calls are no higher, and do not reach below.
+constexpr const char16_t* kOfRow = u"O0/";
+
+/// A text in the font in which it is measured.
+struct Letters {
+    QPainterPath path;
+    QRectF ink;
+    double advance = 0;
+};
+
+Letters LettersOf(const QString& text, const QFont& font) {
+    Letters letters;
+    letters.path.addText(0, 0, font, text);
+    letters.ink = letters.path.boundingRect();
+    letters.advance = QFontMetricsF(font).horizontalAdvance(text);
+    return letters;
+}
+
+/// The ink of the letters by which a row is measured.
+QRectF RowOf(const QFont& font) {
+    return LettersOf(QString::fromUtf16(kOfRow), font).ink;
+}
 
 }  // namespace
 
@@ -132,8 +156,8 @@ void FittedText::SetTextFont(const QString& family, double points, bool bold) {
     update();
 }
 
-void FittedText::SetFills(bool fills) {
-    fills_ = fills;
+void FittedText::SetRow(const QWidget* row) {
+    row_ = row;
     update();
 }
 
@@ -143,6 +167,25 @@ void FittedText::SetColours(const QColor& text, const QColor& ground) {
     update();
 }
 
+double FittedText::LargestScale() const {
+    const Letters letters = LettersOf(text(), font_);
+    // Without letters there is nothing to limit.
+    if (letters.path.isEmpty()) return height();
+    const double broad = width() / qMax(letters.advance, letters.ink.right());
+    if (row_ == nullptr) return qMin(height() / letters.ink.height(), broad);
+    // A letter that reaches below the line may use the margin.
+    const QRectF row = RowOf(font_);
+    const double reach = qMax(letters.ink.bottom() - row.center().y(), row.center().y() - letters.ink.top());
+    return qMin(kPartFilled * qMin(height() / row.height(), broad), height() / (2 * reach));
+}
+
+QList<FittedText*> FittedText::InRow() const {
+    QList<FittedText*> texts;
+    for (FittedText* text : row_->findChildren<FittedText*>())
+        if (text->isVisible() && text->row_ == row_) texts.append(text);
+    return texts;
+}
+
 void FittedText::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     // At night nothing is brighter than the text of the scheme, whatever colours the text has been given.
@@ -150,17 +193,24 @@ void FittedText::paintEvent(QPaintEvent* /*event*/) {
     const QColor ground = night ? palette().color(QPalette::WindowText) : ground_;
     const QColor colour = night ? palette().color(QPalette::Window) : text_;
     if (ground.isValid()) painter.fillRect(rect(), ground);
-    QPainterPath letters;
-    letters.addText(0, 0, font_, text());
-    if (letters.isEmpty()) return;
-    const QRectF ink = letters.boundingRect();
-    const double advance = QFontMetricsF(font_).horizontalAdvance(text());
-    const double whole = qMin(height() / ink.height(), width() / qMax(advance, ink.right()));
-    const double scale = fills_ ? kPartFilled * whole : qMin(points_ * kPixelsPerPoint / kMeasurePixels, whole);
+    const double largest = LargestScale();
+    double scale = qMin(points_ * kPixelsPerPoint / kMeasurePixels, largest);
+    if (row_ != nullptr) {
+        scale = largest;
+        const QList<FittedText*> inRow = InRow();
+        for (const FittedText* other : inRow) scale = qMin(scale, other->LargestScale());
+        // This text may be the one that limits the others.
+        if (std::exchange(drawnLargest_, largest) != largest)
+            for (FittedText* other : inRow)
+                if (other != this) other->update();
+    }
+    const Letters letters = LettersOf(text(), font_);
+    if (letters.path.isEmpty()) return;
+    const double middle = (row_ != nullptr ? RowOf(font_) : letters.ink).center().y();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate((width() - advance * scale) / 2, height() / 2.0 - ink.center().y() * scale);
+    painter.translate((width() - letters.advance * scale) / 2, height() / 2.0 - middle * scale);
     painter.scale(scale, scale);
-    painter.fillPath(letters, colour.isValid() ? colour : palette().color(foregroundRole()));
+    painter.fillPath(letters.path, colour.isValid() ? colour : palette().color(foregroundRole()));
 }
 
 }  // namespace vatro

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QScrollArea>
 
 class QToolButton;
@@ -53,8 +54,9 @@ public:
     explicit FittedText(QWidget* parent = nullptr);
     /// `points` is the largest size at which the text is drawn.
     void SetTextFont(const QString& family, double points, bool bold);
-    /// Whether the text is drawn as large as the widget permits, whatever its size.
-    void SetFills(bool fills);
+    /// Draws the text as large as the widget permits, whatever its size, but no larger than the other texts that fill their widgets in
+    /// this row, so that they read as one line. Null ends that.
+    void SetRow(const QWidget* row);
     /// An invalid colour means that of the palette; with an invalid `ground` no background is drawn.
     void SetColours(const QColor& text, const QColor& ground);
     QSize sizeHint() const override { return {1, 1}; }
@@ -64,9 +66,16 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// How large the text can be drawn here, as a factor of the font in which it is measured.
+    double LargestScale() const;
+    /// The texts that are drawn in one size with this one, itself included.
+    QList<FittedText*> InRow() const;
+
     QFont font_;
     double points_ = 12;
-    bool fills_ = false;
+    QPointer<const QWidget> row_;
+    /// The largest scale when the text was last drawn.
+    double drawnLargest_ = 0;
     QColor text_;
     QColor ground_;
 };

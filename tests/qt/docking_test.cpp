@@ -118,6 +118,43 @@ TEST_F(DockedWindows, GrowWithTheWindow) {
     EXPECT_GT(Top(*frmB4).width(), before.width());
 }
 
+/// The first letters of the number and of the call begin and end in the same rows of pixels of the main window.
+TEST_F(DockedWindows, NumberAndOwnCallReadAsOneLine) {
+    Begin();
+    // A slash reaches below the line, and a long call is limited by the width of its window.
+    for (const char* call : {"OZ7FD/P", "OZ7FD", "SM7/OZ1ABC/P"}) {
+        Dispatch([&] { frmContestCall->call.SetCaption(call); });
+        for (const QSize size : {QSize(700, 560), QSize(1024, 560), QSize(1366, 700), QSize(1900, 1000)}) {
+            Main().resize(size);
+            driver.Settle();
+            const auto ink = [this](const Form& form) {
+                QWidget& top = Top(form);
+                const QImage picture = PictureOf(top);
+                const QRgb ground = Ground(picture, top.rect());
+                // The first letters, of which none is a slash.
+                const auto inked = [&](int x, int y) { return ContrastOf(picture.pixel(x, y), ground) > 3; };
+                int first = picture.width();
+                for (int y = 0; y < picture.height(); ++y)
+                    for (int x = 0; x < first; ++x)
+                        if (inked(x, y)) first = x;
+                int above = picture.height();
+                int below = 0;
+                for (int x = first; x < qMin(picture.width(), first + picture.height() * 3 / 4); ++x)
+                    for (int y = 0; y < picture.height(); ++y)
+                        if (inked(x, y)) {
+                            above = qMin(above, y);
+                            below = qMax(below, y);
+                        }
+                return std::pair(top.mapTo(&Main(), QPoint(0, above)).y(), top.mapTo(&Main(), QPoint(0, below)).y());
+            };
+            const auto number = ink(*frmQSOnr);
+            const auto own = ink(*frmContestCall);
+            EXPECT_NEAR(number.first, own.first, 2) << call << ' ' << size.width();
+            EXPECT_NEAR(number.second, own.second, 2) << call << ' ' << size.width();
+        }
+    }
+}
+
 TEST_F(DockedWindows, LongMessagesDoNotMoveTheFields) {
     Begin();
     for (const int width : {500, 700, 1024, 1500}) {
