@@ -145,6 +145,7 @@ void ColumnHead::showEvent(QShowEvent* event) {
     if (auto* list = qobject_cast<ItemList*>(Sibling(list_))) {
         list->installEventFilter(this);
         connect(list->horizontalScrollBar(), &QScrollBar::valueChanged, this, qOverload<>(&QWidget::update));
+        connect(list, &ItemList::RowsFitted, this, qOverload<>(&QWidget::update));
     }
     for (const QString& field : fields_.split(u' ', Qt::SkipEmptyParts))
         if (QWidget* widget = Sibling(field)) widget->installEventFilter(this);

@@ -3,7 +3,6 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QScrollBar>
 #include <QStyle>
 #include <algorithm>
 
@@ -21,11 +20,6 @@ constexpr int kFewestLines = 2;
 constexpr int kGap = 6;
 /// Of the width that neither the list nor the room needs, the room takes one part in this many.
 constexpr int kShareOfRest = 3;
-
-/// The width of a list whose rows have this many characters, with its frame.
-int WidthOf(const ItemList& list, int columns) {
-    return list.ColumnLeft(columns + 1) + list.horizontalScrollBar()->value() + 2 * list.frameWidth();
-}
 
 int BarOf(const ItemList& list) {
     return list.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &list);
@@ -74,7 +68,10 @@ void DockRoom::Release(QWidget& guest) {
     if (found == berths_.end()) return;
     guest.removeEventFilter(this);
     for (FittedText* text : guest.findChildren<FittedText*>()) text->SetRow(nullptr);
-    for (ItemList* list : guest.findChildren<ItemList*>()) list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    for (ItemList* list : guest.findChildren<ItemList*>()) {
+        list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+        list->FitRows(0, 0);
+    }
     guest.setParent(nullptr);
     delete found->frame;
     berths_.erase(found);
@@ -103,15 +100,23 @@ void DockRoom::FollowGuests() {
 
 void DockRoom::FitWidth() {
     if (beside_.isEmpty() || isHidden()) return;
-    const auto* list = parentWidget()->findChild<ItemList*>(beside_);
-    const auto* own = findChild<ItemList*>();
-    if (list == nullptr || own == nullptr) return;
+    auto* own = findChild<ItemList*>();
+    if (own == nullptr) return;
     layout()->setContentsMargins(kGap, 0, 0, 0);
+    const int wanted = own->WidthFor(columns_) + BarOf(*own);
+    const int rest = parentWidget()->width() - WantedWidth();
+    const int width = qMax(wanted + (rest > 0 ? rest / kShareOfRest : rest), own->WidthFor(least_));
+    setFixedWidth(kGap + width);
+    own->FitRows(width - BarOf(*own), columns_);
+}
+
+int DockRoom::WantedWidth() const {
+    const auto* list = beside_.isEmpty() ? nullptr : parentWidget()->findChild<ItemList*>(beside_);
+    if (list == nullptr) return 0;
     const QMargins margins = parentWidget()->layout()->contentsMargins();
-    const int room = parentWidget()->width() - margins.left() - margins.right() - kGap;
-    const int wanted = WidthOf(*own, columns_) + BarOf(*own);
-    const int rest = room - WidthOf(*list, listColumns_) - BarOf(*list) - wanted;
-    setFixedWidth(kGap + qMax(wanted + (rest > 0 ? rest / kShareOfRest : rest), WidthOf(*own, least_)));
+    const int alone = margins.left() + list->WidthFor(listColumns_) + BarOf(*list) + margins.right();
+    const auto* own = findChild<ItemList*>();
+    return own == nullptr || isHidden() ? alone : alone + kGap + own->WidthFor(columns_) + BarOf(*own);
 }
 
 QSize DockRoom::sizeHint() const {

@@ -16,7 +16,8 @@ class DockRoom : public QFrame {
     /// The names of the forms whose windows go here, in this order from left to right.
     Q_PROPERTY(QString forms MEMBER forms_)
     /// For a room beside a list: the object name of that list, and the number of characters that the rows of the list and of the docked
-    /// window are wide. The list gets its width first; the room never gets less than its `least` characters.
+    /// window are wide. The list gets its width first, and the rows of the docked window are made to fit what is left; the room never
+    /// gets less than its `least` characters.
     Q_PROPERTY(QString beside MEMBER beside_)
     Q_PROPERTY(int listColumns MEMBER listColumns_)
     Q_PROPERTY(int columns MEMBER columns_)
@@ -33,6 +34,8 @@ public:
     /// Releases the window, which then has no parent and is hidden.
     void Release(QWidget& guest);
     void ReleaseAll();
+    /// The width of the widget around the room in which the rows of both lists are shown whole; 0 for a room that is not beside a list.
+    int WantedWidth() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

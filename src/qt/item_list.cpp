@@ -5,6 +5,7 @@
 #include <QResizeEvent>
 #include <QStyledItemDelegate>
 #include <QTimer>
+#include <cmath>
 
 #include "qt_text.h"
 #include "signal_colours.h"
@@ -16,10 +17,18 @@ namespace {
 /// Longer lines are shown cut off. Logs have no such lines, but other files may, and laying out a million characters takes seconds.
 constexpr std::size_t kMostShown = 4000;
 
+/// What is left of rows that are made to fit: the first part, which is a call and a blank, and the size of the letters.
+constexpr int kLeastFirst = 9;
+constexpr double kLeastLetters = 0.8;
+
 /// Makes every row as wide as the longest one, so that the scroll bar reaches all of it. Trailing blanks do not count.
 class RowDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (const auto* list = qobject_cast<const ItemList*>(option->widget)) option->text = list->Shown(option->text);
+    }
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         const auto* model = qobject_cast<const ItemModel*>(index.model());
         const int characters = model != nullptr ? model->WidestRow() : 0;
@@ -139,8 +148,54 @@ void ItemList::SetColumns(int columns) {
 int ItemList::ColumnLeft(int column) const {
     // The same margin as the style uses before the text of a row.
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
-    const QFontMetricsF metrics(font());
-    return margin - horizontalOffset() + qRound(metrics.horizontalAdvance(QString(column - 1, u'0')));
+    const QFontMetricsF metrics(RowFont());
+    const int before = column < second_ ? column - 1 : column - 1 - dropped_;
+    return margin - horizontalOffset() + qRound(metrics.horizontalAdvance(QString(qMax(0, before), u'0')));
+}
+
+int ItemList::WidthFor(int columns) const {
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    return margin + qRound(QFontMetricsF(font()).horizontalAdvance(QString(columns, u'0'))) + 2 * frameWidth();
+}
+
+void ItemList::FitRows(int width, int columns) {
+    const double letter = QFontMetricsF(font()).horizontalAdvance(u'0');
+    const double room = (width - WidthFor(0)) / letter;
+    int dropped = 0;
+    double letters = 1;
+    if (width > 0 && room < columns) {
+        dropped = qBound(0, static_cast<int>(std::ceil(columns - room)), qMax(0, second_ - 1 - kLeastFirst));
+        letters = qBound(kLeastLetters, room / (columns - dropped), 1.0);
+    }
+    if (dropped == dropped_ && letters == letters_) return;
+    dropped_ = dropped;
+    letters_ = letters;
+    FitGrid();
+    scheduleDelayedItemsLayout();
+    viewport()->update();
+    Q_EMIT RowsFitted();
+}
+
+QString ItemList::Shown(const QString& row) const {
+    if (dropped_ == 0 || row.size() < second_) return row;
+    QString first = row.left(second_ - 1);
+    // A longer call keeps a blank after it.
+    const QString second = row.mid(second_ - 1);
+    while (!first.isEmpty() && first.back() == u' ') first.chop(1);
+    return first.leftJustified(qMax(second_ - 1 - dropped_, static_cast<int>(first.size()) + 1)) + second;
+}
+
+QFont ItemList::RowFont() const {
+    QFont rows = font();
+    if (letters_ < 1) rows.setPointSizeF(rows.pointSizeF() * letters_);
+    return rows;
+}
+
+void ItemList::initViewItemOption(QStyleOptionViewItem* option) const {
+    QListView::initViewItemOption(option);
+    if (letters_ == 1) return;
+    option->font = RowFont();
+    option->fontMetrics = QFontMetrics(option->font);
 }
 
 QItemSelectionModel::SelectionFlags ItemList::selectionCommand(const QModelIndex& index, const QEvent* /*event*/) const {

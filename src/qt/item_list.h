@@ -42,6 +42,8 @@ private:
 
 class ItemList : public QListView {
     Q_OBJECT
+    /// Where the second part of a row begins: the column after the blanks that fill up the first one. 0 in lists without such parts.
+    Q_PROPERTY(int second MEMBER second_)
 
 public:
     explicit ItemList(QWidget* parent = nullptr);
@@ -49,11 +51,23 @@ public:
     void SetColumns(int columns);
     /// Where a column of the text begins in the viewport, in pixels. Columns are counted from 1, in characters of the list's font.
     int ColumnLeft(int column) const;
+    /// The width that rows of this many characters need in the list's own font, with the frame.
+    int WidthFor(int columns) const;
+    /// Makes rows of `columns` characters fit into this width, with the frame, as far as they stay legible: fewer of the blanks before the
+    /// second part of a row, then smaller letters. A width of 0 shows the rows as they are.
+    void FitRows(int width, int columns);
+    /// A row as FitRows lets it be shown.
+    QString Shown(const QString& row) const;
     /// The height of a row that needs `least` pixels: as much more as it takes for whole rows to fill the list.
     int RowHeight(int least) const;
     void keyboardSearch(const QString& /*search*/) override {}
 
+Q_SIGNALS:
+    /// The columns of the rows are in other places.
+    void RowsFitted();
+
 protected:
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
     void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -65,8 +79,13 @@ private:
     /// The list has another size, or its rows have.
     void KeepSelectedInSight();
     void FitGrid();
+    QFont RowFont() const;
 
     int columns_ = 0;
+    int second_ = 0;
+    /// The number of blanks before the second part of a row that are not shown, and the size of the letters.
+    int dropped_ = 0;
+    double letters_ = 1;
     /// The height that the rows had when the list was last resized.
     int rowHeight_ = 0;
     /// Whether the selected row was in sight when the list was last painted.

@@ -118,6 +118,17 @@ TEST_F(DockedWindows, GrowWithTheWindow) {
     EXPECT_GT(Top(*frmB4).width(), before.width());
 }
 
+TEST_F(DockedWindows, ShowAllColumnsOfBothListsOnANetbook) {
+    Begin();
+    Main().resize(1024, 560);
+    driver.Settle();
+    const auto& log = WidgetOf<ItemList>(frmMain->log);
+    const auto& earlier = WidgetOf<ItemList>(frmB4->earlierContacts);
+    EXPECT_LE(log.ColumnLeft(80), log.viewport()->width());
+    EXPECT_LE(earlier.ColumnLeft(31), earlier.viewport()->width());
+    EXPECT_GE(earlier.ColumnLeft(16), earlier.ColumnLeft(9)) << "room for the calls";
+}
+
 /// The first letters of the number and of the call begin and end in the same rows of pixels of the main window.
 TEST_F(DockedWindows, NumberAndOwnCallReadAsOneLine) {
     Begin();

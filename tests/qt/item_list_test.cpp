@@ -57,5 +57,26 @@ TEST_F(TheSelectedRow, IsPaleUntilTheListHasTheKeys) {
     }
 }
 
+TEST(AListWithLittleRoom, DropsBlanksBeforeItMakesItsLettersSmaller) {
+    ItemList list;
+    list.setProperty("second", 16);
+    const QString call = QStringLiteral("DL7AAQ         0007/0008 12:07");
+    EXPECT_EQ(list.Shown(call), call);
+    const int column = list.ColumnLeft(26) - list.ColumnLeft(16);
+    // Three characters too few.
+    list.FitRows(list.WidthFor(28), 31);
+    EXPECT_EQ(list.Shown(call), QStringLiteral("DL7AAQ      0007/0008 12:07"));
+    EXPECT_NEAR(list.ColumnLeft(26) - list.ColumnLeft(16), column, 1) << "letters of their own size";
+    // Nine of the fifteen characters before the second part stay. A longer call moves the rest of its row.
+    list.FitRows(list.WidthFor(21), 31);
+    EXPECT_EQ(list.Shown(call), QStringLiteral("DL7AAQ   0007/0008 12:07"));
+    EXPECT_EQ(list.Shown(QStringLiteral("SM7/OZ1AB/P    0007/0008 12:07")), QStringLiteral("SM7/OZ1AB/P 0007/0008 12:07"));
+    EXPECT_LT(list.ColumnLeft(26) - list.ColumnLeft(16), column - 5);
+    EXPECT_LE(list.ColumnLeft(31), list.WidthFor(21));
+    list.FitRows(0, 0);
+    EXPECT_EQ(list.Shown(call), call);
+    EXPECT_EQ(list.ColumnLeft(26) - list.ColumnLeft(16), column);
+}
+
 }  // namespace
 }  // namespace vatro
