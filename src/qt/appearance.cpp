@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "bind_common.h"
+#include "dock_room.h"
 #include "fields.h"
 #include "main_size.h"
 #include "numbers.h"
@@ -30,6 +31,8 @@ constexpr std::string_view kTextSize = "TekstStr";
 
 /// Each step changes the text size by this fraction.
 constexpr double kStep = 0.1;
+/// Milliseconds after which a window that is being shown has its frame; before that it would be misplaced by another size.
+constexpr int kRest = 200;
 /// Property that stores a widget's font as its layout sets it.
 constexpr const char* kOwnFont = "vatroOwnFont";
 
@@ -52,6 +55,9 @@ Appearance::Appearance(QMainWindow& window, QMenu& menu) : QObject(&window), win
     step_ = static_cast<int>(qBound<double>(kSmallest, NumericValue(settings.Read(kSection, kTextSize).value_or("")), kLargest));
     if (Sun() || Night() || step_ != 0) Apply();
     qApp->installEventFilter(this);
+    soon_.setSingleShot(true);
+    soon_.setInterval(kRest);
+    connect(&soon_, &QTimer::timeout, this, &Appearance::GrowToContent);
     for (const auto& [chosen, other] : {std::pair(sun_, night_), std::pair(night_, sun_)})
         connect(chosen, &QAction::triggered, this, [this, other = other] {
             other->setChecked(false);
@@ -120,7 +126,13 @@ bool Appearance::eventFilter(QObject* watched, QEvent* event) {
         auto* window = qobject_cast<QWidget*>(watched);
         if (window != nullptr && HasOwnText(*window)) Dress(*window);
     }
-    if (event->type() == QEvent::Show && watched == &window_ && step_ != 0) GrowToContent();
+    if (event->type() == QEvent::Show && watched == &window_ && step_ != 0) {
+        GrowToContent();
+        // The frame is not known yet.
+        soon_.start();
+    }
+    // A window has been docked beside the log.
+    if (event->type() == QEvent::ShowToParent && step_ != 0 && qobject_cast<DockRoom*>(watched) != nullptr) soon_.start();
     // The program has ended; the window itself may be deleted later.
     if (event->type() == QEvent::Hide && watched == &window_ && !event->spontaneous()) qApp->removeEventFilter(this);
     return false;
@@ -135,7 +147,9 @@ void Appearance::GrowToContent() {
     for (auto widget = inside.crbegin(); widget != inside.crend(); ++widget)
         if ((*widget)->layout() != nullptr) (*widget)->layout()->activate();
     window_.layout()->activate();
-    Grow(window_, step_ > 0 ? window_.size() - room->size() + room->Needed() : OwnSize(window_));
+    QSize needed = room->Needed();
+    for (const DockRoom* dock : room->findChildren<DockRoom*>()) needed.rwidth() = qMax(needed.width(), dock->WantedWidth());
+    Grow(window_, step_ > 0 ? window_.size() - room->size() + needed : OwnSize(window_));
 }
 
 void Appearance::Store() const {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <string_view>
 
 class QAction;
@@ -44,6 +45,7 @@ private:
     QAction* sun_;
     QAction* night_;
     int step_ = 0;
+    QTimer soon_;
 };
 
 }  // namespace vatro

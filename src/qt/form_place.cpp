@@ -102,6 +102,7 @@ void FormPlace::TellForm(const Measures& now) {
     // If the form changes its new place, that is shown but not reported back; otherwise form and window system might correct each other
     // for ever.
     if (telling_ || now == Told()) return;
+    away_ = false;
     place_ = now;
     telling_ = true;
     const QPointer<FormPlace> self(this);
@@ -202,13 +203,24 @@ void FormPlace::Lend(const QRect& place) {
     const auto held = Hold();
     if (top_->pos() != place.topLeft()) top_->move(place.topLeft());
     if (top_->size() != place.size()) SetSize(place.size());
-    // Nothing is told of a main window before its user moves it.
-    if (KnowsUser()) return;
+    if (KnowsUser()) {
+        // What the window manager makes of it stands for the form's place, so that nothing is told before the user moves the window.
+        away_ = true;
+        if (!arriving_) settling_.Begin();
+        return;
+    }
     loan_ = place;
     loanSince_.start();
 }
 
 void FormPlace::EndLoan() {
+    if (std::exchange(away_, false)) {
+        // The size of a main window is its own affair.
+        const auto held = Hold();
+        put_ = Own().topLeft();
+        top_->move(put_);
+        settling_.Begin();
+    }
     if (!loan_) return;
     loan_.reset();
     Return();

@@ -69,7 +69,7 @@ public:
     void MoveByUser(int left, int top, int width, int height);
     /// Shows the window in another place than the form's. The form is told of a place only after the user has moved the window.
     void Lend(const QRect& place);
-    bool Lent() const { return loan_.has_value(); }
+    bool Lent() const { return loan_.has_value() || away_; }
     /// Shows the window in the form's own place again.
     void EndLoan();
     /// The form's own place on the screen, without the window's frame.
@@ -117,6 +117,8 @@ private:
     bool placed_ = false;
     /// The place that the window has been lent, as the window system has made it, if any.
     std::optional<QRect> loan_;
+    /// The main window stands in a place that it has been lent.
+    bool away_ = false;
     /// Since when the loan has had this place and size.
     QElapsedTimer loanSince_;
     /// Where the program has put the window.

@@ -6,12 +6,15 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QScreen>
+#include <QWindow>
 #include <string>
 #include <utility>
 
 #include "numbers.h"
+#include "places.h"
 #include "platform.h"
 #include "qt_front.h"
+#include "window.h"
 
 namespace vatro {
 
@@ -27,6 +30,9 @@ constexpr std::string_view kFullScreen = "hele";
 /// On a smaller screen than this a first window fills it; on a larger one it takes a part of each side.
 constexpr QSize kSmallScreen(1200, 700);
 constexpr double kPartOfScreen = 0.85;
+
+/// What the window system adds to a window at most, while that is not known. Some move a window that reaches over the edge of the screen.
+constexpr QSize kLargestFrame(20, 40);
 
 /// Properties of a window: the size that its user has given it, and the size that the program or the window manager has made of that. The
 /// latter is empty while the window manager changes it, and while the window fills the screen.
@@ -46,6 +52,22 @@ void SetOwnSize(QMainWindow& window, const QSize& own) {
     window.setProperty(kMadeSize, window.size());
 }
 
+/// Lends a main window a place for this size if there is no room for it at its own one, and gives that one back as soon as there is.
+void MakeRoom(FormWindow& window, const QSize& size, const QSize& own, const QRect& room) {
+    const QPoint at = window.OwnPlace().topLeft();
+    // A window in its own size may be partly outside the screen, if the user wants it there.
+    if (size.expandedTo(own) == own) {
+        if (OnScreens(QRect(at, size), 0, {room})) window.EndLoan();
+        return;
+    }
+    const QPoint last = room.bottomRight() - QPoint(size.width() - 1, size.height() - 1);
+    const QPoint fits(qMax(room.left(), qMin(at.x(), last.x())), qMax(room.top(), qMin(at.y(), last.y())));
+    if (fits == at)
+        window.EndLoan();
+    else
+        window.Lend(QRect(fits, size));
+}
+
 }  // namespace
 
 std::optional<QSize> FirstSize(const QSize& layout, const QSize& screen) {
@@ -56,10 +78,21 @@ std::optional<QSize> FirstSize(const QSize& layout, const QSize& screen) {
 void Grow(QMainWindow& window, const QSize& size) {
     const QSize own = OwnSize(window);
     const QRect screen = window.screen()->availableGeometry();
+    const auto* front = dynamic_cast<const QtFront*>(&InstalledFront());
+    FormWindow* its = front != nullptr ? front->MainWindow() : nullptr;
+    // The frame of a window that is not on the screen yet is not known, and such a window is not moved.
+    const bool moves = its != nullptr && its->Top() == &window && window.isVisible() && !its->Arriving();
+    const QSize frame = moves ? window.frameGeometry().size() - window.size() : kLargestFrame;
     const QSize left(screen.right() - window.x(), screen.bottom() - window.y());
+    const QSize room = (moves ? screen.size() : left) - frame;
     // If the window manager has reduced the window, there is no room for its own size.
-    const QSize grown = size.expandedTo(own).boundedTo(left.expandedTo(own.boundedTo(window.size())));
-    if (window.size() != grown) window.resize(grown);
+    const QSize grown = size.expandedTo(own).boundedTo(room.expandedTo(own.boundedTo(window.size())));
+    if (moves) MakeRoom(*its, grown, own, QRect(screen.topLeft(), screen.size() - frame));
+    if (window.size() != grown) {
+        window.resize(grown);
+        // After a change of its size the window system would take the place of a new window for that of its content.
+        if (!moves && window.windowHandle() != nullptr) window.windowHandle()->setFramePosition(window.pos());
+    }
     const bool settling = window.property(kOwnSize).isValid() && !window.property(kMadeSize).toSize().isValid();
     if (!settling) SetOwnSize(window, own);
 }

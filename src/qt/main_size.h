@@ -28,7 +28,8 @@ inline constexpr std::string_view kWindowSection = "Vindue";
 std::optional<QSize> FirstSize(const QSize& layout, const QSize& screen);
 
 /// Makes the window as large as its content needs it now, `size`, but no larger than its screen and no smaller than its own size, which
-/// the user has given it. That one is remembered, and is the one that is stored.
+/// the user has given it. That one is remembered, and is the one that is stored. A window on the screen is lent another place as long as
+/// there is no room at its own.
 void Grow(QMainWindow& window, const QSize& size);
 /// The size that the user has given the window, whatever the program and the window manager have made of it.
 QSize OwnSize(const QMainWindow& window);

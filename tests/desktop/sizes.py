@@ -11,7 +11,7 @@ import contextlib
 import sys
 import time
 
-from accessible import CALL, LOG, MAIN, TWIPS, missing_tools, within
+from accessible import CALL, LOG, MAIN, TWIPS, Rectangle, missing_tools, within
 from desktop import expect, run, skip_without_tools, until
 from main_window import TOOLS, MainWindow
 
@@ -19,6 +19,7 @@ PROGRAM, DATA, MANAGER = sys.argv[1:4]
 CONTACTS = 60
 # A window that was shown, maximised or restored less than a quarter of a second ago is not moved by the operator. With some to spare.
 SETTLED = 0.6
+SCREEN = Rectangle(0, 0, 1400, 900)
 
 
 class Station(MainWindow):
@@ -140,6 +141,25 @@ def the_normal_text_brings_back_the_size_of_before():
             station.wait_size(normal, f"the size after {key} and Ctrl+0")
 
 
+def the_place_is_kept_while_larger_text_needs_more_room():
+    stored = {"MainLeft": 200 * TWIPS + 2, "MainTop": 100 * TWIPS + 2}
+    with station.up(**stored):
+        before = station.frame(MAIN)
+        expect(before[:2], (200, 100), "the place at the start")
+        # The rows of both lists no longer fit into the screen right of the window.
+        station.zoom("ctrl+plus", 3)
+        until(lambda: station.frame(MAIN).left < before.left, "a window that has moved to the left")
+        assert within(station.frame(MAIN), SCREEN), f"the window is not on the screen: {station.frame(MAIN)}"
+        station.zoom("ctrl+0")
+        until(lambda: station.frame(MAIN) == before, lambda: f"the frame of before, {before}; it is {station.frame(MAIN)}")
+        station.zoom("ctrl+plus", 3)
+    expect({key: station.setting(key) for key in stored}, {key: str(twips) for key, twips in stored.items()}, "what is stored")
+    # The text is large from the beginning now, and the stored place is the same.
+    with station.up(TekstStr=3, **stored):
+        until(lambda: station.frame(MAIN).left < before.left, "a window that is left of its place")
+    expect({key: station.setting(key) for key in stored}, {key: str(twips) for key, twips in stored.items()}, "what is still stored")
+
+
 def the_normal_text_in_a_maximised_window_leaves_its_size():
     with station.up():
         normal = station.size()
@@ -156,6 +176,6 @@ def the_normal_text_in_a_maximised_window_leaves_its_size():
 if __name__ == "__main__":
     skip_without_tools(MANAGER, *TOOLS, others=missing_tools())
     chosen = sys.argv[4:]
-    with Station(DATA, MANAGER) as station:
+    with Station(DATA, MANAGER, size=f"{SCREEN.width}x{SCREEN.height}") as station:
         sys.exit(run([case for name, case in list(globals().items())
                       if name.startswith(("a_", "the_")) and (not chosen or name in chosen)]))

@@ -129,6 +129,32 @@ TEST_F(DockedWindows, ShowAllColumnsOfBothListsOnANetbook) {
     EXPECT_GE(earlier.ColumnLeft(16), earlier.ColumnLeft(9)) << "room for the calls";
 }
 
+TEST_F(DockedWindows, LetTheWindowGrowWithItsTextUntilBothListsFitOrTheScreenEnds) {
+    Begin();
+    const QRect screen = Main().screen()->availableGeometry();
+    Main().move(60, 20);
+    Main().resize(600, 450);
+    driver.Settle();
+    const QRect before = Main().geometry();
+    const int left = frmMain->Left();
+    const int top = frmMain->Top();
+    QTest::keyClick(&Main(), Qt::Key_Plus, Qt::ControlModifier);
+    driver.Settle();
+    // The log alone is wider than this screen.
+    ASSERT_GT(WidgetOf<ItemList>(frmMain->log).fontMetrics().horizontalAdvance(QString(80, u'0')), screen.width());
+    EXPECT_EQ(Main().frameGeometry().left(), screen.left());
+    EXPECT_EQ(Main().frameGeometry().right(), screen.right());
+    EXPECT_LE(Main().frameGeometry().bottom(), screen.bottom());
+    QTest::qWait(1200);
+    EXPECT_EQ(frmMain->Left(), left) << "its place is still the user's";
+    EXPECT_EQ(frmMain->Top(), top);
+    QTest::keyClick(&Main(), Qt::Key_0, Qt::ControlModifier);
+    driver.Settle();
+    EXPECT_EQ(Main().geometry(), before);
+    EXPECT_EQ(frmMain->Left(), left);
+    EXPECT_EQ(frmMain->Top(), top);
+}
+
 /// The first letters of the number and of the call begin and end in the same rows of pixels of the main window.
 TEST_F(DockedWindows, NumberAndOwnCallReadAsOneLine) {
     Begin();
