@@ -132,6 +132,8 @@ TEST_F(DockedWindows, ShowAllColumnsOfBothListsOnANetbook) {
 TEST_F(DockedWindows, LetTheWindowGrowWithItsTextUntilBothListsFitOrTheScreenEnds) {
     Begin();
     const QRect screen = Main().screen()->availableGeometry();
+    // Until then moves are those of the window manager.
+    QTest::qWait(400);
     Main().move(60, 20);
     Main().resize(600, 450);
     driver.Settle();

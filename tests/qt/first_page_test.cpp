@@ -125,7 +125,7 @@ TEST_F(FirstPageTest, RemindsQuietlyOfAMissingPortableSuffix) {
     EXPECT_EQ(FocusName(), QStringLiteral("Klasse A")) << "a reminder is no complaint";
     ASSERT_THAT(Words(), HasSubstr("Uden /P finder sammentællingen ikke jeres navn på EDRs liste."));
     for (const QLabel* label : Page().findChildren<QLabel*>())
-        if (label->text().startsWith(QStringLiteral("Uden /P"))) EXPECT_FALSE(label->font().bold());
+        EXPECT_FALSE(label->text().startsWith(QStringLiteral("Uden /P")) && label->font().bold());
     auto& call = Named<QLineEdit>("Kaldesignal");
     call.setFocus();
     Press(Qt::Key_End);
