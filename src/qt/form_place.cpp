@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "deliver.h"
-#include "qt_front.h"
 
 namespace vatro {
 
@@ -32,8 +31,8 @@ bool HasDialogSize(FormKind kind) {
     return kind == FormKind::Dialog || kind == FormKind::FixedDialog || kind == FormKind::FixedTool;
 }
 
-FormPlace::FormPlace(Form& form, QtFront& front, QWidget& top)
-    : form_(form), front_(front), top_(&top), settling_([this](bool byManager) { Rest(byManager); }) {}
+FormPlace::FormPlace(Form& form, bool desktop, QWidget& top)
+    : form_(form), desktop_(desktop), top_(&top), settling_([this](bool byManager) { Rest(byManager); }) {}
 
 void FormPlace::BeginArrival() {
     arriving_ = true;
@@ -94,7 +93,7 @@ void FormPlace::Tell() {
 void FormPlace::Tell(const Measures& finer) {
     if (placing_ || arriving_ || settling_.Active() || !top_->isVisible() || top_->isMinimized() || OnLoan()) return;
     // On a desktop a window keeps its place while it fills the screen.
-    if (front_.desktopHabits && Large()) return;
+    if (desktop_ && Large()) return;
     TellForm(ToTwips(Now(), finer));
 }
 
@@ -155,7 +154,7 @@ bool FormPlace::ShiftedByFrame() const {
 }
 
 bool FormPlace::KnowsUser() const {
-    return front_.desktopHabits && form_.Kind() == FormKind::Main;
+    return desktop_ && form_.Kind() == FormKind::Main;
 }
 
 bool FormPlace::Large() const {

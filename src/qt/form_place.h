@@ -23,8 +23,6 @@ class QWidget;
 
 namespace vatro {
 
-class QtFront;
-
 inline constexpr int kTwipsPerPixel = 15;
 /// Converts twips to pixels, rounded.
 int ToPixels(int twips);
@@ -36,8 +34,8 @@ class FormPlace : public QObject {
     Q_OBJECT
 
 public:
-    /// All arguments must outlive this object, except that Qt may delete `top` earlier.
-    FormPlace(Form& form, QtFront& front, QWidget& top);
+    /// `desktop`: whether the window has the habits of a desktop. The form must outlive this object; Qt may delete `top` earlier.
+    FormPlace(Form& form, bool desktop, QWidget& top);
 
     /// Whether the window has been shown but is not on the screen yet.
     bool Arriving() const { return arriving_; }
@@ -106,7 +104,7 @@ private:
     bool OnLoan();
 
     Form& form_;
-    QtFront& front_;
+    bool desktop_;
     QPointer<QWidget> top_;
     /// The place last taken from the form, if any.
     std::optional<Measures> place_;

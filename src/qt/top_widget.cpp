@@ -11,7 +11,6 @@
 #include "fields.h"
 #include "forms.h"
 #include "layouts.h"
-#include "qt_front.h"
 #include "qt_text.h"
 
 namespace vatro {
@@ -48,17 +47,17 @@ QWidget* MainTop(const Form& form, QWidget* content, QWidget* owner, Qt::WindowF
 
 }  // namespace
 
-bool RefusesKeys(const Form& form, const QtFront& front) {
-    return front.desktopHabits && form.onlyShows;
+bool RefusesKeys(const Form& form, bool desktop) {
+    return desktop && form.onlyShows;
 }
 
-Qt::WindowFlags FlagsOf(const Form& form, const QtFront& front) {
+Qt::WindowFlags FlagsOf(const Form& form, bool desktop) {
     Qt::WindowFlags flags = FlagsOf(form.Kind());
-    flags.setFlag(Qt::WindowDoesNotAcceptFocus, RefusesKeys(form, front));
+    flags.setFlag(Qt::WindowDoesNotAcceptFocus, RefusesKeys(form, desktop));
     return flags;
 }
 
-QWidget* MakeTop(Form& form, const QtFront& front, QWidget* owner, Bindings& bindings) {
+QWidget* MakeTop(Form& form, bool desktop, QWidget* owner, Bindings& bindings) {
     const QString name = ToQt(form.Name());
     auto* content = new QWidget;
     QWidget* top = content;
@@ -72,9 +71,9 @@ QWidget* MakeTop(Form& form, const QtFront& front, QWidget* owner, Bindings& bin
     // The window always has the size of its layout, whatever the desktop's font.
     if (form.Kind() == FormKind::FixedDialog && content->layout() != nullptr) content->layout()->setSizeConstraint(QLayout::SetFixedSize);
     if (form.Kind() == FormKind::Main)
-        top = MainTop(form, content, owner, FlagsOf(form, front));
+        top = MainTop(form, content, owner, FlagsOf(form, desktop));
     else
-        content->setParent(owner, FlagsOf(form, front));
+        content->setParent(owner, FlagsOf(form, desktop));
     content->setObjectName(name);
     top->setProperty(kForm, true);
     if (form.Kind() == FormKind::Tool || form.Kind() == FormKind::Splash) top->setAttribute(Qt::WA_ShowWithoutActivating);
@@ -85,13 +84,13 @@ bool IsTop(const QWidget& widget) {
     return widget.isWindow() && widget.property(kForm).toBool();
 }
 
-void AddExtraMenu(QMainWindow& window, const QtFront& front, Bindings& bindings) {
-    if (front.extraEntries.empty() || window.menuBar()->actions().isEmpty()) return;
+void AddExtraMenu(QMainWindow& window, const std::vector<std::function<void(QMainWindow&, QMenu&)>>& entries, Bindings& bindings) {
+    if (entries.empty() || window.menuBar()->actions().isEmpty()) return;
     auto* menu = new QMenu(QStringLiteral("&Ekstra"), window.menuBar());
     menu->menuAction()->setObjectName(QStringLiteral("extraMenu"));
     window.menuBar()->insertMenu(window.menuBar()->actions().constLast(), menu);
     ReturnKeysAfter(*menu, bindings);
-    for (const auto& add : front.extraEntries) add(window, *menu);
+    for (const auto& add : entries) add(window, *menu);
 }
 
 }  // namespace vatro

@@ -24,14 +24,14 @@ FormWindow::FormWindow(Form& form, QWidget* owner, QtFront& front)
     : form_(form),
       front_(front),
       bindings_(Surroundings()),
-      top_(MakeTop(form, front, owner, bindings_)),
-      place_(form, front, *top_),
+      top_(MakeTop(form, front.desktopHabits, owner, bindings_)),
+      place_(form, front.desktopHabits, *top_),
       captionHead_(top_->findChild<ColumnHead*>(QStringLiteral("FormCaption"))),
       owner_(owner) {
     BindForm(form, *top_, bindings_);
-    if (RefusesKeys(form, front))
+    if (RefusesKeys(form, front.desktopHabits))
         for (QWidget* widget : top_->findChildren<QWidget*>()) widget->setFocusPolicy(Qt::NoFocus);
-    if (auto* window = qobject_cast<QMainWindow*>(top_.data())) AddExtraMenu(*window, front, bindings_);
+    if (auto* window = qobject_cast<QMainWindow*>(top_.data())) AddExtraMenu(*window, front.extraEntries, bindings_);
     Follow();
     if (front_.desktopHabits && HasDialogSize(form_.Kind())) KeepTitleWhole(*top_);
     top_->installEventFilter(this);
@@ -111,7 +111,7 @@ void FormWindow::Dock(DockRoom& room) {
 void FormWindow::LeaveDock() {
     room_->Release(*top_);
     room_ = nullptr;
-    top_->setParent(owner_, FlagsOf(form_, front_));
+    top_->setParent(owner_, FlagsOf(form_, front_.desktopHabits));
     place_.Return();
     FollowVisible();
 }
@@ -229,7 +229,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched != top_) {
         // The window sees keys and clicks before its widgets do.
         const bool used = event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress;
-        if (used && !RefusesKeys(form_, front_)) front_.WindowUsed(form_);
+        if (used && !RefusesKeys(form_, front_.desktopHabits)) front_.WindowUsed(form_);
         if (event->type() == QEvent::Expose && Arriving() && top_->windowHandle()->isExposed()) place_.Arrive();
         return false;
     }
