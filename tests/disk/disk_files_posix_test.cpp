@@ -13,6 +13,7 @@
 #endif
 
 #include "disk/temporary_world.h"
+#include "without_root.h"
 
 namespace vatro {
 namespace {
@@ -22,9 +23,10 @@ using ::testing::ElementsAre;
 using DiskFilesPosixTest = DiskWorld;
 
 TEST_F(DiskFilesPosixTest, NothingIsWrittenToAProtectedDirectory) {
-    if (geteuid() == 0) GTEST_SKIP() << "nothing is protected from root";
     Put("a.txt", "a");
     std::filesystem::permissions(root_, std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    const WithoutRoot user(root_);
+    ASSERT_TRUE(user.Holds());
     EXPECT_EQ(OpenFails(1, At("b.txt"), FileMode::Output), 70);
     EXPECT_EQ(OpenFails(1, At("b.txt"), FileMode::Append), 70);
     EXPECT_EQ(NumberOf([&] { files_.Delete(At("a.txt")); }), 70);
