@@ -36,16 +36,14 @@ void OperatorMark::Look() {
     QPalette list;
     if (mark) {
         const SignalColours colours = ColoursOf(Signal::Notice, scheme);
-        // At night a field in this colour would be the brightest thing on the screen.
-        const bool night = IsNight(scheme);
         for (const auto& [role, colour] : {std::pair(QPalette::Base, colours.ground), std::pair(QPalette::Text, colours.ink),
                                            std::pair(QPalette::Button, colours.ground), std::pair(QPalette::ButtonText, colours.ink)}) {
-            if (!night) field.setColor(role, colour);
+            field.setColor(role, colour);
             // The list would inherit the colours of the field.
             list.setColor(role, scheme.color(role));
         }
         QPalette word;
-        word.setColor(QPalette::WindowText, night ? colours.ground : colours.ink);
+        word.setColor(QPalette::WindowText, colours.ink);
         word_->setPalette(word);
         word_->setGeometry(box_.lineEdit()->rect());
     }
