@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QToolButton>
@@ -121,6 +122,8 @@ ScrollRoom::ScrollRoom(QWidget& content) {
 void ScrollRoom::BringIntoSight(const QWidget& inside) {
     // Show the whole widget, not only its caret; if there is not enough room, show its top left corner.
     const QRect place(inside.mapTo(widget(), QPoint()), inside.size());
+    // Nearest to the beginning, where the log has its times and calls.
+    if (place.right() + kSightMargin < viewport()->width()) horizontalScrollBar()->setValue(0);
     for (const QPoint& corner : {place.bottomRight(), place.topLeft()}) ensureVisible(corner.x(), corner.y(), kSightMargin, kSightMargin);
 }
 

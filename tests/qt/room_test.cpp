@@ -88,6 +88,16 @@ TEST_F(Room, FieldWithTheFocusIsInSightOfASmallWindow) {
     }
 }
 
+TEST_F(Room, ComesBackToItsBeginningWithTheFocus) {
+    Dispatch([] { frmMain->Place(0, 0, 512 * kTwipsPerPixel, 270 * kTwipsPerPixel); });
+    for (Control* control : {static_cast<Control*>(&frmMain->operatorBox), static_cast<Control*>(&frmMain->fields[kCallField])}) {
+        Dispatch([&] { control->SetFocus(); });
+        driver.Settle();
+        if (control == &frmMain->operatorBox) ASSERT_GT(Inside().horizontalScrollBar()->value(), 0);
+    }
+    EXPECT_EQ(Inside().horizontalScrollBar()->value(), 0) << "the first columns of the log are in sight again";
+}
+
 TEST_F(Room, MainWindowOfItsOwnSizeNeedsNoScrolling) {
     EXPECT_EQ(Inside().horizontalScrollBar()->maximum(), 0);
     EXPECT_EQ(Inside().verticalScrollBar()->maximum(), 0);
