@@ -32,6 +32,13 @@ bool IsOneLine(const QRect& window) {
     return window.width() >= 2 * window.height() || 2 * window.width() <= window.height();
 }
 
+/// The part of the main window that other windows may cover, which is the log; over a low log also what is above it.
+QRect Upper(QRect log, const QRect& screen) {
+    constexpr int kLeast = 250;
+    if (log.height() < kLeast) log.setTop(std::max(screen.top(), log.bottom() + 1 - kLeast));
+    return log;
+}
+
 /// The width for a new height, with the same aspect ratio.
 int WidthFor(const QRect& line, int height) {
     return line.width() * height / line.height();
@@ -243,7 +250,8 @@ void Places::Arrange(const std::vector<FormWindow*>& windows) {
         if (window->Its().Kind() == FormKind::Tool && !arranged && !window->Docked() && window->Top()->isVisible())
             taken.push_back(window->Top()->frameGeometry());
     }
-    const std::vector<QRect> places = BesideMain(main_->screen()->availableGeometry(), main_->frameGeometry(), Log(), frames, taken);
+    const QRect screen = main_->screen()->availableGeometry();
+    const std::vector<QRect> places = BesideMain(screen, main_->frameGeometry(), Upper(Log(), screen), frames, taken);
     // Do not repeat what a window manager or a window itself does not accept.
     if (windows == arranged_ && places == arrangement_) return;
     arranged_ = windows;

@@ -134,6 +134,16 @@ TEST_F(PlacesOfWindows, AStoredPlaceOverTheFieldsOrOutsideTheScreenIsLentAnother
     EXPECT_EQ(settings.Read("Settings", "QSOTop"), std::to_string(3000 * kTwipsPerPixel));
 }
 
+TEST_F(PlacesOfWindows, AWindowHasRoomForItsRowsOverALowLog) {
+    Stored("B4", 5000, 3000, 300, 200);
+    StartVatro();
+    Top(*frmMain).setGeometry(QRect(0, 420, 800, 380));
+    QTest::qWait(400);
+    ASSERT_LT(WidgetOf<QWidget>(frmMain->log).height(), 170);
+    EXPECT_TRUE(InSight(*frmB4));
+    EXPECT_GE(Top(*frmB4).height(), 150);
+}
+
 TEST_F(PlacesOfWindows, LentPlacesDoNotOverlap) {
     for (const char* name : {"B4", "QSO", "CALL"}) Stored(name, 5000, 3000, 300, 60);
     settings.texts["SETTINGS/MYCALL"] = "OZ7FD/P";
