@@ -19,6 +19,7 @@
 #include "platform.h"
 #include "qt_text.h"
 #include "schemes.h"
+#include "title_room.h"
 
 namespace vatro {
 
@@ -40,6 +41,32 @@ constexpr const char* kOwnFont = "vatroOwnFont";
 bool HasOwnText(const QWidget& window) {
     const Qt::WindowType type = window.windowType();
     return window.isWindow() && (type == Qt::Window || type == Qt::Dialog || type == Qt::Tool);
+}
+
+/// Activates the layouts from the innermost outwards, so that new font sizes reach the window's layout even before the window is shown.
+void ActivateLayouts(const QWidget& window) {
+    const QList<QWidget*> inside = window.findChildren<QWidget*>();
+    for (auto widget = inside.crbegin(); widget != inside.crend(); ++widget)
+        if ((*widget)->layout() != nullptr && (*widget)->window() == &window) (*widget)->layout()->activate();
+    if (window.layout() != nullptr) window.layout()->activate();
+}
+
+bool FitsOnScreen(const QWidget& window) {
+    if (window.layout() == nullptr) return true;
+    ActivateLayouts(window);
+    const QSize least = window.layout()->totalMinimumSize() + kLargestFrame;
+    return least.boundedTo(window.screen()->availableSize()) == least;
+}
+
+/// Gives widgets their own fonts in another size.
+void ScaleFonts(const QList<QWidget*>& widgets, double factor, bool bold) {
+    for (QWidget* widget : widgets) {
+        QFont font = widget->property(kOwnFont).value<QFont>();
+        font.setPointSizeF(font.pointSizeF() * factor);
+        if (bold) font.setBold(true);
+        widget->setFont(font);
+        if (auto* button = qobject_cast<QPushButton*>(widget)) WidenButton(*button);
+    }
 }
 
 }  // namespace
@@ -111,13 +138,10 @@ void Appearance::Dress(QWidget& window) const {
     // Store all fonts before changing the first, because widgets inherit their parent's font.
     for (QWidget* widget : widgets)
         if (!widget->property(kOwnFont).isValid()) widget->setProperty(kOwnFont, widget->font());
-    for (QWidget* widget : widgets) {
-        QFont font = widget->property(kOwnFont).value<QFont>();
-        font.setPointSizeF(font.pointSizeF() * (1 + kStep * step_));
-        if (Sun()) font.setBold(true);
-        widget->setFont(font);
-        if (auto* button = qobject_cast<QPushButton*>(widget)) WidenButton(*button);
-    }
+    // A dialogue grows only as far as the screen has room for its fields.
+    int step = step_;
+    do ScaleFonts(widgets, 1 + kStep * step, Sun());
+    while (&window != &window_ && --step >= 0 && !FitsOnScreen(window));
 }
 
 bool Appearance::eventFilter(QObject* watched, QEvent* event) {
@@ -141,12 +165,7 @@ bool Appearance::eventFilter(QObject* watched, QEvent* event) {
 void Appearance::GrowToContent() {
     const auto* room = qobject_cast<ScrollRoom*>(window_.centralWidget());
     if (room == nullptr || window_.isMaximized() || window_.isFullScreen()) return;
-    // Activate the layouts from the innermost outwards, so that the new font sizes reach the window's layout even before the window is
-    // shown.
-    const QList<QWidget*> inside = room->findChildren<QWidget*>();
-    for (auto widget = inside.crbegin(); widget != inside.crend(); ++widget)
-        if ((*widget)->layout() != nullptr) (*widget)->layout()->activate();
-    window_.layout()->activate();
+    ActivateLayouts(window_);
     QSize needed = room->Needed();
     for (const DockRoom* dock : room->findChildren<DockRoom*>()) needed.rwidth() = qMax(needed.width(), dock->WantedWidth());
     Grow(window_, step_ > 0 ? window_.size() - room->size() + needed : OwnSize(window_));

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStatusBar>
@@ -20,6 +21,7 @@
 #include "handbook.h"
 #include "readable.h"
 #include "signal_colours.h"
+#include "title_room.h"
 
 namespace vatro {
 
@@ -53,7 +55,7 @@ HelpWindow::HelpWindow(QWidget* owner) : QMainWindow(owner, Qt::Window), content
     statusBar()->setAccessibleName(QStringLiteral("Statuslinje"));
     AddContents();
     AddTools();
-    resize(kSize);
+    resize(kSize.boundedTo(screen()->availableSize() - kLargestFrame));
     ChooseInks();
     connect(browser_, &QTextBrowser::sourceChanged, this, [this] { told_->clear(); });
 }

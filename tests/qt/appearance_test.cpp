@@ -52,6 +52,22 @@ protected:
     }
 };
 
+TEST_F(AppearanceOfTheWindow, DialoguesOfAFixedSizeGrowNoLargerThanTheScreen) {
+    settings.texts["SETTINGS/TEKSTSTR"] = "10";
+    StartVatro();
+    for (Form* form : {static_cast<Form*>(&*frmCW), static_cast<Form*>(&*frmUTC)}) {
+        Dispatch([&] { form->Show(); });
+        driver.Settle();
+        const QWidget& window = *WindowOf(*form).Top();
+        const QSize screen = window.screen()->availableSize();
+        EXPECT_LE(window.frameGeometry().width(), screen.width()) << form->Name();
+        EXPECT_LE(window.frameGeometry().height(), screen.height()) << form->Name();
+        Dispatch([&] { form->Hide(); });
+    }
+    // One that has room has the text that was chosen.
+    EXPECT_NEAR(WidgetOf<QWidget>(frmUTC->okButton).font().pointSizeF(), 2 * QApplication::font().pointSizeF(), 0.1);
+}
+
 TEST_F(AppearanceOfTheWindow, SunIsBlackOnWhiteAndBoldAndIsRemembered) {
     StartVatro();
     const QPalette usual = QApplication::palette();

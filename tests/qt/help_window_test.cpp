@@ -51,6 +51,12 @@ protected:
 
 }  // namespace
 
+TEST_F(HelpViewer, IsNoLargerThanTheScreen) {
+    const QSize screen = Window().screen()->availableSize();
+    EXPECT_LE(Window().frameGeometry().width(), screen.width());
+    EXPECT_LE(Window().frameGeometry().height(), screen.height());
+}
+
 TEST_F(HelpViewer, OpensAtTheContents) {
     EXPECT_TRUE(Window().isVisible());
     EXPECT_EQ(Window().windowModality(), Qt::NonModal);
