@@ -11,27 +11,22 @@ using namespace literals;
 
 namespace {
 
-/// The number and the call, as in "0034 SM7AA".
-std::string ContactIn(std::string_view line) {
-    return Joined({kNumberSent.TrimmedOf(line), " ", kCall.TrimmedOf(line)});
+/// "0034 SM7AA gemt 14:07". `what`: how the tip names the contact.
+Lamp OnDisk(std::string_view line, std::string_view done, std::string_view what, const DateTime& universal) {
+    const std::string contact = Joined({kNumberSent.TrimmedOf(line), " ", kCall.TrimmedOf(line)});
+    const std::string time = FormatTime(universal);
+    return {Lamp::State::Good, Joined({contact, " ", done, " ", time}),
+            Joined({what, ", ", contact, ", har ligget på disken siden "_t, time, " UTC."})};
 }
 
 }  // namespace
 
 void LastContact::Saved(std::string_view line, const DateTime& universal) {
-    if (IsNote(line)) return;
-    const std::string contact = ContactIn(line);
-    const std::string time = FormatTime(universal);
-    lamp_ = {Lamp::State::Good, Joined({contact, " gemt ", time}),
-             Joined({"Den sidste kontakt, "_t, contact, ", har ligget på disken siden "_t, time, " UTC."})};
+    if (!IsNote(line)) lamp_ = OnDisk(line, "gemt", "Den sidste kontakt", universal);
 }
 
 void LastContact::Corrected(std::string_view line, const DateTime& universal) {
-    if (IsNote(line)) return;
-    const std::string contact = ContactIn(line);
-    const std::string time = FormatTime(universal);
-    lamp_ = {Lamp::State::Good, Joined({contact, " rettet ", time}),
-             Joined({"Den rettede kontakt, "_t, contact, ", har ligget på disken siden "_t, time, " UTC."})};
+    if (!IsNote(line)) lamp_ = OnDisk(line, "rettet", "Den rettede kontakt", universal);
 }
 
 void LastContact::Failed(std::string_view file, std::string_view why) {

@@ -19,8 +19,7 @@ public:
     /// A line of a log has been corrected, and the log is on the disk. Notes change nothing.
     void Corrected(std::string_view line, const DateTime& universal);
     /// A file could not be written, or a log on the disk is not the one that the program has read. `why` is a short reason in the code
-    /// page. Shown until the next contact is saved or
-    /// corrected.
+    /// page. Shown until the next contact is saved or corrected.
     void Failed(std::string_view file, std::string_view why);
 
     /// Something else that the operator has just done and should see confirmed. Shown until the next contact is saved; does not hide a
