@@ -168,7 +168,7 @@ void Appearance::GrowToContent() {
     ActivateLayouts(window_);
     QSize needed = room->Needed();
     for (const DockRoom* dock : room->findChildren<DockRoom*>()) needed.rwidth() = qMax(needed.width(), dock->WantedWidth());
-    Grow(window_, step_ > 0 ? window_.size() - room->size() + needed : OwnSize(window_));
+    Grow(window_, step_ > 0 ? window_.size() - room->size() + needed : QSize());
 }
 
 void Appearance::Store() const {

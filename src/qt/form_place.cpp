@@ -212,6 +212,10 @@ void FormPlace::Lend(const QRect& place) {
     loanSince_.start();
 }
 
+void FormPlace::BeginResize() {
+    if (KnowsUser()) settling_.Begin();
+}
+
 void FormPlace::EndLoan() {
     if (std::exchange(away_, false)) {
         // The size of a main window is its own affair.

@@ -62,6 +62,8 @@ public:
     /// Centres the window on its owner or on the screen, if it has not been placed yet.
     void PlaceFirst();
     void FitToScreen();
+    /// The program gives the main window another size. Where the window manager then moves it is not told.
+    void BeginResize();
 
     /// Moves the window as if the user had moved it. Measures are in twips, which are finer than pixels.
     void MoveByUser(int left, int top, int width, int height);

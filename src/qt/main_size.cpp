@@ -38,6 +38,9 @@ constexpr QSize kLargestFrame(20, 40);
 /// latter is empty while the window manager changes it, and while the window fills the screen.
 constexpr const char* kOwnSize = "vatroOwnSize";
 constexpr const char* kMadeSize = "vatroMadeSize";
+/// The size in which the window last stood at its own place, and the one to which it has been grown since, if it has.
+constexpr const char* kShownSize = "vatroShownSize";
+constexpr const char* kGrownSize = "vatroGrownSize";
 
 /// Milliseconds without a change after which the size is stored.
 constexpr int kRest = 1000;
@@ -52,11 +55,20 @@ void SetOwnSize(QMainWindow& window, const QSize& own) {
     window.setProperty(kMadeSize, window.size());
 }
 
-/// Lends a main window a place for this size if there is no room for it at its own one, and gives that one back as soon as there is.
-void MakeRoom(FormWindow& window, const QSize& size, const QSize& own, const QRect& room) {
+/// The size of a main window while its content needs no more: its own, or what there is room for at its own place.
+QSize UsualSize(const FormWindow& window, const QSize& own, const QRect& room) {
     const QPoint at = window.OwnPlace().topLeft();
-    // A window in its own size may be partly outside the screen, if the user wants it there.
-    if (size.expandedTo(own) == own) {
+    if (!OnScreens(QRect(at, own.boundedTo(room.size())), 0, {room})) return own;
+    const QSize left(room.right() + 1 - at.x(), room.bottom() + 1 - at.y());
+    // The user may want it partly outside the screen.
+    const QSize shown = window.Top()->property(kShownSize).toSize();
+    return own.boundedTo(shown.isValid() ? shown : left);
+}
+
+/// Lends a main window a place for this size if there is no room for it at its own one, and gives that one back as soon as there is.
+void MakeRoom(FormWindow& window, const QSize& size, const QSize& usual, const QRect& room) {
+    const QPoint at = window.OwnPlace().topLeft();
+    if (size.expandedTo(usual) == usual) {
         if (OnScreens(QRect(at, size), 0, {room})) window.EndLoan();
         return;
     }
@@ -85,10 +97,14 @@ void Grow(QMainWindow& window, const QSize& size) {
     const QSize frame = moves ? window.frameGeometry().size() - window.size() : kLargestFrame;
     const QSize left(screen.right() - window.x(), screen.bottom() - window.y());
     const QSize room = (moves ? screen.size() : left) - frame;
+    if (moves && !its->Lent() && window.property(kGrownSize).toSize() != window.size()) window.setProperty(kShownSize, window.size());
+    const QSize usual = moves ? UsualSize(*its, own, QRect(screen.topLeft(), room)) : own;
     // If the window manager has reduced the window, there is no room for its own size.
-    const QSize grown = size.expandedTo(own).boundedTo(room.expandedTo(own.boundedTo(window.size())));
-    if (moves) MakeRoom(*its, grown, own, QRect(screen.topLeft(), screen.size() - frame));
+    const QSize grown = size.expandedTo(usual).boundedTo(room.expandedTo(own.boundedTo(window.size())));
+    if (moves) MakeRoom(*its, grown, usual, QRect(screen.topLeft(), room));
+    window.setProperty(kGrownSize, grown == usual ? QSize() : grown);
     if (window.size() != grown) {
+        if (moves) its->BeginResize();
         window.resize(grown);
         // After a change of its size the window system would take the place of a new window for that of its content.
         if (!moves && window.windowHandle() != nullptr) window.windowHandle()->setFramePosition(window.pos());

@@ -27,9 +27,9 @@ inline constexpr std::string_view kWindowSection = "Vindue";
 /// The size of a window at a first start, of which `layout` is the smallest useful one, or nothing if it is to fill the screen.
 std::optional<QSize> FirstSize(const QSize& layout, const QSize& screen);
 
-/// Makes the window as large as its content needs it now, `size`, but no larger than its screen and no smaller than its own size, which
-/// the user has given it. That one is remembered, and is the one that is stored. A window on the screen is lent another place as long as
-/// there is no room at its own.
+/// Makes the window as large as its content needs it now, `size` or nothing, but no larger than its screen and no smaller than its own
+/// size, which the user has given it, or as much of it as the screen has room for at the window's place. Its own size is remembered, and is
+/// the one that is stored. A window on the screen is lent another place as long as there is no room at its own.
 void Grow(QMainWindow& window, const QSize& size);
 /// The size that the user has given the window, whatever the program and the window manager have made of it.
 QSize OwnSize(const QMainWindow& window);

@@ -54,6 +54,8 @@ public:
     bool Lent() const { return place_.Lent(); }
     /// Shows the window in the form's own place again.
     void EndLoan() { place_.EndLoan(); }
+    /// The program gives the main window another size. Where the window manager then moves it is not told.
+    void BeginResize() { place_.BeginResize(); }
     /// The window's own place on the screen, without its frame.
     QRect OwnPlace() const { return place_.Own(); }
     /// Handles minimising of the main window. Window managers minimise the windows above a main window together with it, although the
