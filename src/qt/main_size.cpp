@@ -26,6 +26,8 @@ constexpr std::string_view kState = "Tilstand";
 
 constexpr std::string_view kMaximised = "maksimeret";
 constexpr std::string_view kFullScreen = "hele";
+/// Full screen, and maximised after it.
+constexpr std::string_view kMaximisedFullScreen = "maksimeret hele";
 
 /// On a smaller screen than this a first window fills it; on a larger one it takes a part of each side.
 constexpr QSize kSmallScreen(1200, 700);
@@ -128,6 +130,9 @@ MainSize::MainSize(QtFront& front, Settings& settings) : settings_(settings), se
     soon_.setInterval(kRest);
     connect(&soon_, &QTimer::timeout, this, &MainSize::Store);
     front.beforeFirstShow = [this](QMainWindow& window) { Restore(window); };
+    front.placedFirst = [this](QMainWindow& window) {
+        if (fresh_) window.setWindowState(window.windowState() | state_);
+    };
     front.extraEntries.emplace_back([this](QMainWindow&, QMenu& menu) {
         fullScreen_ = menu.addAction(QStringLiteral("H&ele skærmen"));
         fullScreen_->setShortcut(QKeySequence(QStringLiteral("F11")));
@@ -140,28 +145,32 @@ void MainSize::Restore(QMainWindow& window) {
     // A window that is shown again has the size that it was left with.
     if (window_ == &window) return;
     window_ = &window;
+    fresh_ = true;
     const QSize stored(Length(settings_, kWidth), Length(settings_, kHeight));
     const QSize room = window.screen()->availableSize();
-    if (!stored.isEmpty()) {
-        window.resize(stored.expandedTo(window.minimumSizeHint()).boundedTo(room));
-        // A window of a larger screen fills a small one, as at a first start.
-        if (stored.width() > room.width() && !FirstSize(window.size(), room))
-            window.setWindowState(window.windowState() | Qt::WindowMaximized);
-    } else if (const auto first = FirstSize(window.size(), room))
-        window.resize(*first);
-    else
-        window.setWindowState(window.windowState() | Qt::WindowMaximized);
+    if (!stored.isEmpty()) window.resize(stored.expandedTo(window.minimumSizeHint()).boundedTo(room));
+    const auto first = FirstSize(window.size(), room);
+    if (stored.isEmpty() && first) window.resize(*first);
+    // A window of a larger screen fills a small one, as at a first start.
+    const bool fills = !first && (stored.isEmpty() || stored.width() > room.width());
     SetOwnSize(window, stored.isEmpty() ? window.size() : stored);
+    sized_ = !stored.isEmpty() || first.has_value();
     const std::string state = settings_.Read(kWindowSection, kState).value_or("");
-    if (state == kMaximised) window.setWindowState(window.windowState() | Qt::WindowMaximized);
-    if (state == kFullScreen) window.setWindowState(window.windowState() | Qt::WindowFullScreen);
-    if (fullScreen_ != nullptr) fullScreen_->setChecked(state == kFullScreen);
+    const bool maximised = state == kMaximised || state == kMaximisedFullScreen;
+    const bool whole = state == kFullScreen || state == kMaximisedFullScreen;
+    forScreen_ = fills && !maximised;
+    maximised_ = fills || maximised;
+    state_.setFlag(Qt::WindowMaximized, maximised_);
+    state_.setFlag(Qt::WindowFullScreen, whole);
+    if (fullScreen_ != nullptr) fullScreen_->setChecked(whole);
     window.installEventFilter(this);
     BeginSettling();
 }
 
 void MainSize::ToggleFullScreen() {
-    if (window_ != nullptr) window_->setWindowState(window_->windowState() ^ Qt::WindowFullScreen);
+    if (window_ == nullptr) return;
+    if (!window_->isFullScreen()) maximised_ = window_->isMaximized();
+    window_->setWindowState(state_ ^ Qt::WindowFullScreen);
 }
 
 bool MainSize::eventFilter(QObject* watched, QEvent* event) {
@@ -169,7 +178,16 @@ bool MainSize::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize || event->type() == QEvent::WindowStateChange) soon_.start();
     if (event->type() == QEvent::Resize) settling_.Moved();
     if (event->type() == QEvent::WindowStateChange || (event->type() == QEvent::Paint && std::exchange(fresh_, false))) BeginSettling();
-    if (event->type() == QEvent::WindowStateChange && fullScreen_ != nullptr) fullScreen_->setChecked(window_->isFullScreen());
+    // Some window managers take the state away from a window that is hidden.
+    if (event->type() == QEvent::WindowStateChange && window_->isVisible() && !window_->isMinimized()) {
+        state_ = window_->windowState();
+        maximised_ = maximised_ || window_->isMaximized();
+        // Some window managers keep no window maximised in full screen, and restore it first.
+        if (window_->isFullScreen()) state_.setFlag(Qt::WindowMaximized, maximised_);
+        if (fullScreen_ != nullptr) fullScreen_->setChecked(window_->isFullScreen());
+        // The screen may be lost at any time.
+        if (!fresh_) StoreState();
+    }
     // The program may end before the window has come to rest.
     if (event->type() == QEvent::Hide && soon_.isActive()) {
         soon_.stop();
@@ -187,17 +205,30 @@ void MainSize::Rest() {
     if (window_ == nullptr || !window_->isVisible()) return;
     if (window_->isMinimized() || window_->isMaximized() || window_->isFullScreen()) return;
     SetOwnSize(*window_, OwnSize(*window_));
+    maximised_ = false;
+    forScreen_ = false;
+    sized_ = true;
 }
 
 void MainSize::Store() {
-    if (window_ == nullptr || window_->isMinimized()) return;
-    const bool whole = window_->isFullScreen();
+    if (window_ == nullptr) return;
     const QSize own = OwnSize(*window_);
     settings_.BeginBatch();
-    settings_.Write(kWindowSection, kWidth, PlainNumber(own.width()));
-    settings_.Write(kWindowSection, kHeight, PlainNumber(own.height()));
-    settings_.Write(kWindowSection, kState, whole ? kFullScreen : window_->isMaximized() ? kMaximised : std::string_view());
+    if (sized_) {
+        settings_.Write(kWindowSection, kWidth, PlainNumber(own.width()));
+        settings_.Write(kWindowSection, kHeight, PlainNumber(own.height()));
+    }
+    StoreState();
     settings_.EndBatch();
+}
+
+void MainSize::StoreState() {
+    const bool maximised = state_.testFlag(Qt::WindowMaximized) && !forScreen_;
+    const bool whole = state_.testFlag(Qt::WindowFullScreen);
+    settings_.Write(kWindowSection, kState,
+                    whole       ? (maximised ? kMaximisedFullScreen : kFullScreen)
+                    : maximised ? kMaximised
+                                : std::string_view());
 }
 
 }  // namespace vatro

@@ -49,6 +49,7 @@ private:
     void BeginSettling();
     void Rest();
     void Store();
+    void StoreState();
     void ToggleFullScreen();
 
     Settings& settings_;
@@ -57,6 +58,14 @@ private:
     Settling settling_;
     /// The window has not been painted yet.
     bool fresh_ = true;
+    /// The state of the window when it was last visible and not minimised; in full screen also whether it is maximised afterwards.
+    Qt::WindowStates state_;
+    /// The window was maximised before it was in full screen, if it is.
+    bool maximised_ = false;
+    /// The window is maximised only because the screen is small.
+    bool forScreen_ = false;
+    /// The window has been given a size. One that has only filled a small screen has none.
+    bool sized_ = true;
     /// A window that is being dragged changes its size many times a second.
     QTimer soon_;
 };

@@ -50,6 +50,8 @@ public:
     std::function<void(const std::function<bool()>& over)> waitModal;
     /// Called before a main window is first shown, with the size of its layout.
     std::function<void(QMainWindow& window)> beforeFirstShow;
+    /// Called when a main window has its place and size, before it is first shown, to make it fill the screen.
+    std::function<void(QMainWindow& window)> placedFirst;
     /// Called before a window is put on the screen, to lend it another place.
     std::function<void(FormWindow& window)> beforeShow;
     /// Whether side windows are docked in the main window if it has room for them. Call FollowDocking after a change.

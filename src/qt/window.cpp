@@ -140,10 +140,12 @@ void FormWindow::FollowVisible() {
     {
         const auto held = place_.Hold();
         place_.PlaceFirst();
-        if (auto* window = qobject_cast<QMainWindow*>(top_.data()); window != nullptr && front_.beforeFirstShow)
-            front_.beforeFirstShow(*window);
+        auto* window = qobject_cast<QMainWindow*>(top_.data());
+        if (window != nullptr && front_.beforeFirstShow) front_.beforeFirstShow(*window);
         if (front_.beforeShow) front_.beforeShow(*this);
         if (form_.Kind() == FormKind::Main && front_.fitToScreen) place_.FitToScreen();
+        // A window that fills the screen can no longer be given the size that it will be restored to.
+        if (window != nullptr && front_.placedFirst) front_.placedFirst(*window);
     }
     PutOnScreen();
     if (form_.Kind() == FormKind::Main) front_.FollowAll();

@@ -110,6 +110,22 @@ def a_main_window_that_fills_the_screen_has_no_field_covered():
     station.expect_stored(CORNER | {"Bredde": SIZE[0], "Hojde": SIZE[1]})
 
 
+def a_window_that_a_small_screen_has_maximised_is_not_stored_so():
+    size = 1261, 703
+    with station.up(MIDDLE, size):
+        until(station.maximised, "the maximised window")
+        time.sleep(SETTLED)
+    station.expect_stored(MIDDLE | {"Bredde": size[0], "Hojde": size[1], "Tilstand": ""})
+    with station.up(MIDDLE, size):
+        time.sleep(SETTLED)
+        station.click_title()
+        # The width of the frame is not known before the window is on the screen.
+        room = SCREEN._replace(width=SCREEN.width + 10, height=SCREEN.height + 10)
+        until(lambda: within(station.frame(MAIN), room), lambda: f"a window on the screen; it is {station.frame(MAIN)}")
+        time.sleep(SETTLED)
+    station.expect_stored(MIDDLE | {"Bredde": size[0], "Hojde": size[1], "Tilstand": ""})
+
+
 if __name__ == "__main__":
     skip_without_tools(MANAGER, *TOOLS, others=missing_tools())
     chosen = sys.argv[4:]

@@ -13,7 +13,7 @@ import time
 
 from accessible import CALL, LOG, MAIN, TWIPS, Rectangle, missing_tools, within
 from desktop import expect, run, skip_without_tools, until
-from main_window import TOOLS, MainWindow
+from main_window import FULL_SCREEN, TOOLS, MainWindow
 
 PROGRAM, DATA, MANAGER = sys.argv[1:4]
 CONTACTS = 60
@@ -26,11 +26,15 @@ class Station(MainWindow):
     """One screen for all cases; each case starts the program with fresh settings."""
 
     @contextlib.contextmanager
-    def up(self, **settings):
+    def up(self, state=None, **settings):
+        """`state`: the stored state of the window; only together with a stored size."""
         (self.log / "FD80mSSB.txt").write_text("".join(
             f"13:{number % 60:02d} DL{number}AA".ljust(21) + f"59 -{number:04d} 59 -{number:04d}  3 {'DL' if number == 1 else '':10s} "
             "OZ1AB      SSB   05-09-26\r\n" for number in range(1, CONTACTS + 1)), newline="")
         self.set(UTC=0, **settings)
+        if state is not None:
+            with self.settings_file.open("a") as file:
+                file.write(f"Tilstand={state}\n")
         with self.alive(PROGRAM):
             yield
 
@@ -171,6 +175,71 @@ def the_normal_text_in_a_maximised_window_leaves_its_size():
         station.wait_size(large, "the maximised size after Ctrl+0")
         station.click_title()
         station.wait_size(normal, "the restored size")
+
+
+# A window that was wholly in sight on a larger screen.
+LARGER = {"MainLeft": 500 * TWIPS + 2, "MainTop": 300 * TWIPS + 2}
+LARGER_SIZE = 1200, 780
+
+
+def expect_larger_stored(state=""):
+    wanted = {key: str(twips) for key, twips in LARGER.items()} | {"Bredde": str(LARGER_SIZE[0]), "Hojde": str(LARGER_SIZE[1]),
+                                                                  "Tilstand": state}
+    expect({key: station.setting(key) for key in wanted}, wanted, "what is stored")
+
+
+def expect_on_screen(when):
+    # The width of the frame is not known before the window is on the screen.
+    screen = SCREEN._replace(width=SCREEN.width + 10, height=SCREEN.height + 10)
+    until(lambda: within(station.frame(MAIN), screen), lambda: f"{when}, a window on the screen; it is {station.frame(MAIN)}")
+    time.sleep(SETTLED)
+    assert within(station.frame(MAIN), screen), f"{when}, the window is outside: {station.frame(MAIN)}"
+
+
+def a_window_of_a_larger_screen_is_restored_on_a_smaller_one():
+    for state, change in (("hele", station.full_screen), ("maksimeret", station.click_title)):
+        with station.up(state, docked=False, size=LARGER_SIZE, **LARGER):
+            time.sleep(SETTLED)
+            change()
+            expect_on_screen("restored")
+        expect_larger_stored()
+
+
+def the_keys_for_the_text_leave_the_place_of_a_larger_screen():
+    with station.up(docked=False, size=LARGER_SIZE, **LARGER):
+        expect_on_screen("at the start")
+        before = station.frame(MAIN)
+        for keys in (["ctrl+0"], ["ctrl+plus", "ctrl+0"], ["ctrl+plus", "ctrl+plus", "ctrl+plus", "ctrl+0"], ["ctrl+plus"]):
+            for key in keys:
+                station.type(key)
+                time.sleep(SETTLED)
+                expect_on_screen(f"{key} of {keys}")
+            if keys[-1] == "ctrl+0":
+                until(lambda: station.frame(MAIN) == before, lambda: f"the frame of before, {before}; it is {station.frame(MAIN)}")
+    expect_larger_stored()
+
+
+def a_minimised_window_comes_back_as_it_was():
+    for state, change in (("hele", station.full_screen), ("maksimeret", station.click_title)):
+        with station.up(docked=False):
+            change()
+            station.xdotool("windowminimize", station.window(MAIN))
+            until(lambda: not station.windows(MAIN), "the minimised window")
+        expect(station.setting("Tilstand"), state, "the stored state")
+
+
+def a_maximised_window_is_maximised_again_after_full_screen_and_a_restart():
+    with station.up():
+        normal = station.frame(MAIN)
+        station.click_title()
+        large = station.frame(MAIN)
+        station.full_screen()
+        station.restart()
+        until(lambda: FULL_SCREEN in station.states(MAIN), "full screen")
+        station.full_screen()
+        until(lambda: station.maximised() and station.frame(MAIN) == large, lambda: f"the maximised window; it is {station.frame(MAIN)}")
+        station.click_title()
+        until(lambda: station.frame(MAIN) == normal, lambda: f"the frame of before, {normal}; it is {station.frame(MAIN)}")
 
 
 if __name__ == "__main__":

@@ -8,7 +8,12 @@
 #include <QScreen>
 #include <QTest>
 
+#include "desktop.h"
+#include "entry/frmMain.h"
+#include "frame/start.h"
+#include "places.h"
 #include "qt/window_program.h"
+#include "services.h"
 
 namespace vatro {
 namespace {
@@ -141,6 +146,88 @@ TEST_F(SizeOfTheMainWindow, RemembersThatItWasMaximised) {
     EXPECT_TRUE(Becomes("Tilstand", ""));
 }
 
+TEST_F(SizeOfTheMainWindow, IsNotStoredAsMaximisedByASmallScreen) {
+    for (const char* width : {"", "1632"}) {
+        settings.Write("Vindue", "Bredde", width);
+        settings.Write("Vindue", "Hojde", width);
+        StartVatro();
+        ASSERT_TRUE(Window().isMaximized()) << width;
+        QTest::qWait(1300);
+        EXPECT_EQ(settings.Read("Vindue", "Tilstand").value_or(""), "") << width;
+        EXPECT_EQ(settings.Read("Vindue", "Bredde").value_or(""), width) << "nobody has chosen another size";
+        EndProgram();
+        driver.Settle();
+        EXPECT_EQ(settings.Read("Vindue", "Tilstand").value_or(""), "") << width;
+    }
+}
+
+TEST_F(SizeOfTheMainWindow, IsStoredAsMaximisedByItsUserOnASmallScreen) {
+    StartVatro();
+    ASSERT_TRUE(Window().isMaximized());
+    Rest();
+    Window().showNormal();
+    Rest();
+    Window().showMaximized();
+    EXPECT_TRUE(Becomes("Tilstand", "maksimeret"));
+}
+
+TEST_F(SizeOfTheMainWindow, OnASmallScreenIsFullScreenWithoutBeingMaximised) {
+    StartVatro();
+    ASSERT_TRUE(Window().isMaximized());
+    Rest();
+    QTest::keyClick(&Window(), Qt::Key_F11);
+    EXPECT_TRUE(Becomes("Tilstand", "hele"));
+}
+
+TEST_F(SizeOfTheMainWindow, IsFullScreenAlsoWhenTheWindowIsMinimisedAtOnce) {
+    settings.Write("Vindue", "Bredde", "500");
+    settings.Write("Vindue", "Hojde", "400");
+    StartVatro();
+    Rest();
+    QTest::keyClick(&Window(), Qt::Key_F11);
+    // The screen may be lost at any time.
+    EXPECT_EQ(settings.Read("Vindue", "Tilstand"), "hele");
+    // Some window managers take the other states away from a minimised window.
+    Window().setWindowState(Qt::WindowMinimized);
+    QTest::qWait(1300);
+    EXPECT_EQ(settings.Read("Vindue", "Tilstand"), "hele");
+    EXPECT_EQ(settings.Read("Vindue", "Bredde"), "500");
+}
+
+TEST_F(SizeOfTheMainWindow, IsMaximisedAgainAfterFullScreenAndARestart) {
+    settings.Write("Vindue", "Bredde", "500");
+    settings.Write("Vindue", "Hojde", "400");
+    settings.Write("Vindue", "Tilstand", "maksimeret");
+    for (int start = 0; start < 2; ++start) {
+        StartVatro();
+        if (start == 0) QTest::keyClick(&Window(), Qt::Key_F11);
+        EXPECT_TRUE(Window().isFullScreen());
+        QTest::qWait(1300);
+        EXPECT_EQ(settings.Read("Vindue", "Tilstand"), "maksimeret hele");
+        if (start == 0) EndProgram();
+        driver.Settle();
+    }
+    QTest::keyClick(&Window(), Qt::Key_F11);
+    driver.Settle();
+    EXPECT_FALSE(Window().isFullScreen());
+    EXPECT_TRUE(Window().isMaximized());
+    EXPECT_TRUE(Becomes("Tilstand", "maksimeret"));
+}
+
+TEST_F(SizeOfTheMainWindow, IsMaximisedAfterFullScreenWhateverTheWindowManagerMakesOfIt) {
+    settings.Write("Vindue", "Bredde", "500");
+    settings.Write("Vindue", "Hojde", "400");
+    settings.Write("Vindue", "Tilstand", "maksimeret");
+    StartVatro();
+    Rest();
+    QTest::keyClick(&Window(), Qt::Key_F11);
+    Window().setWindowState(Qt::WindowNoState);
+    Window().setWindowState(Qt::WindowFullScreen);
+    EXPECT_TRUE(Becomes("Tilstand", "maksimeret hele"));
+    QTest::keyClick(&Window(), Qt::Key_F11);
+    EXPECT_TRUE(Window().isMaximized());
+}
+
 TEST_F(SizeOfTheMainWindow, FillsTheScreenWithF11AndGoesBack) {
     settings.Write("Vindue", "Bredde", "500");
     settings.Write("Vindue", "Hojde", "400");
@@ -174,6 +261,89 @@ TEST_F(SizeOfTheMainWindow, LeavesTheNewestContactInSight) {
         driver.Settle();
         EXPECT_TRUE(QTest::qWaitFor(seen)) << height;
     }
+}
+
+/// The place and the size are those of a larger screen, on which the window was wholly in sight.
+class OnASmallerScreen : public SizeOfTheMainWindow {
+protected:
+    OnASmallerScreen() {
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        own = QRect(screen.width() / 4, screen.height() / 4, screen.width() - 50, screen.height() - 50);
+        settings.texts["SETTINGS/MAINLEFT"] = std::to_string(own.x() * kTwipsPerPixel + 2);
+        settings.texts["SETTINGS/MAINTOP"] = std::to_string(own.y() * kTwipsPerPixel + 2);
+        settings.Write("Vindue", "Bredde", std::to_string(own.width()));
+        settings.Write("Vindue", "Hojde", std::to_string(own.height()));
+    }
+    void ExpectOnScreenAndStored(const char* when) {
+        Rest();
+        const QRect screen = Window().screen()->availableGeometry();
+        const QRect window = Window().geometry();
+        // The width of the frame is not known before the window is on the screen.
+        EXPECT_TRUE(screen.contains(window.adjusted(0, 0, -5, -5)))
+            << when << ": " << window.x() << ' ' << window.y() << ' ' << window.width() << 'x' << window.height();
+        ExpectStored(own.size());
+        StoreRunningProgram();
+        EXPECT_EQ(settings.Read("Settings", "MainLeft"), std::to_string(own.x() * kTwipsPerPixel + 2)) << when;
+        EXPECT_EQ(settings.Read("Settings", "MainTop"), std::to_string(own.y() * kTwipsPerPixel + 2)) << when;
+    }
+
+    QRect own;
+    QtHelp handbook;
+    Desktop desktop{dynamic_cast<QtFront&>(driver.ProgramFront()), handbook};
+    Places places{dynamic_cast<QtFront&>(driver.ProgramFront())};
+};
+
+TEST_F(OnASmallerScreen, AWindowThatWasLargeAtTheStartIsRestoredWithinIt) {
+    for (const char* state : {"hele", "maksimeret"}) {
+        settings.Write("Vindue", "Tilstand", state);
+        StartVatro();
+        Rest();
+        Window().showNormal();
+        ExpectOnScreenAndStored(state);
+        EndProgram();
+        driver.Settle();
+    }
+}
+
+TEST_F(OnASmallerScreen, TheTextKeysKeepTheWindowWithinItAndItsPlaceStored) {
+    StartVatro();
+    ExpectOnScreenAndStored("at the start");
+    const QRect before = Window().geometry();
+    QTest::keyClick(&Window(), Qt::Key_0, Qt::ControlModifier);
+    ExpectOnScreenAndStored("Ctrl+0");
+    EXPECT_EQ(Window().geometry(), before);
+    for (int i = 0; i < 2; ++i) {
+        QTest::keyClick(&Window(), Qt::Key_Plus, Qt::ControlModifier);
+        ExpectOnScreenAndStored("Ctrl+plus");
+    }
+    QTest::keyClick(&Window(), Qt::Key_0, Qt::ControlModifier);
+    ExpectOnScreenAndStored("Ctrl+0 after Ctrl+plus");
+    EXPECT_EQ(Window().geometry(), before);
+}
+
+TEST_F(OnASmallerScreen, APlaceAfterTheProgramHasChangedTheSizeIsNotTheOwnOne) {
+    StartVatro();
+    Rest();
+    Grow(Window(), Window().size() + QSize(30, 20));
+    Window().move(Window().pos() - QPoint(10, 10));
+    ExpectOnScreenAndStored("moved");
+}
+
+TEST_F(SizeOfTheMainWindow, IsGivenBackToAWindowThatTheUserHasMovedPartlyOutside) {
+    settings.Write("Vindue", "Bredde", "500");
+    settings.Write("Vindue", "Hojde", "400");
+    StartVatro();
+    Rest();
+    const QRect screen = Window().screen()->availableGeometry();
+    Window().move(screen.right() - 300, screen.top() + 10);
+    Rest();
+    const QSize before = Window().size();
+    for (const QSize needed : {QSize(), before + QSize(50, 50), QSize()}) {
+        Grow(Window(), needed);
+        Rest();
+    }
+    EXPECT_EQ(Window().size(), before);
+    EXPECT_EQ(Window().x(), screen.right() - 300);
 }
 
 }  // namespace
