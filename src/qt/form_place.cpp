@@ -50,6 +50,7 @@ void FormPlace::Arrive() {
 void FormPlace::Leave() {
     arriving_ = false;
     loan_.reset();
+    choice_.reset();
 }
 
 void FormPlace::Follow() {
@@ -74,9 +75,11 @@ void FormPlace::Follow() {
         if (loan_) size = QSize(size.width() * loan_->height() / size.height(), loan_->height());
         if (top_->size() != size) SetSize(size);
         if (loan_) Lend(QRect(top_->pos(), size));
+        if (!moved) PutBack();
     }
     if (!top_->isVisible()) return;
-    if (KnowsUser()) settling_.Begin();
+    // While the user changes the height of a window of letters, its width follows.
+    if (KnowsUser() && !telling_) settling_.Begin();
     Tell();
 }
 
@@ -91,7 +94,7 @@ void FormPlace::Tell() {
 }
 
 void FormPlace::Tell(const Measures& finer) {
-    if (placing_ || arriving_ || settling_.Active() || !top_->isVisible() || top_->isMinimized() || OnLoan()) return;
+    if (placing_ || arriving_ || !top_->isVisible() || top_->isMinimized() || OnLoan() || settling_.Active()) return;
     // On a desktop a window keeps its place while it fills the screen.
     if (desktop_ && Large()) return;
     TellForm(ToTwips(Now(), finer));
@@ -144,7 +147,7 @@ void FormPlace::Rest(bool byManager) {
         settling_.Begin();
         return;
     }
-    choice_ = {Now(), Told()};
+    if (!loan_) choice_ = {Now(), Told()};
 }
 
 bool FormPlace::ShiftedByFrame() const {
@@ -154,7 +157,17 @@ bool FormPlace::ShiftedByFrame() const {
 }
 
 bool FormPlace::KnowsUser() const {
-    return desktop_ && form_.Kind() == FormKind::Main;
+    return desktop_ && (form_.Kind() == FormKind::Main || form_.Kind() == FormKind::Tool);
+}
+
+bool FormPlace::Pushed() const {
+    return KnowsUser() && form_.Kind() == FormKind::Tool && !loan_ && top_->isVisible() && top_->pos() != Own().topLeft();
+}
+
+void FormPlace::PutBack() {
+    if (telling_ || !Pushed()) return;
+    const QPoint at = Own().topLeft();
+    if (top_->screen()->availableGeometry().contains(QRect(at, top_->frameGeometry().size()))) top_->move(at);
 }
 
 bool FormPlace::Large() const {
@@ -202,13 +215,14 @@ void FormPlace::Lend(const QRect& place) {
     const auto held = Hold();
     if (top_->pos() != place.topLeft()) top_->move(place.topLeft());
     if (top_->size() != place.size()) SetSize(place.size());
-    if (KnowsUser()) {
+    if (KnowsUser() && form_.Kind() == FormKind::Main) {
         // What the window manager makes of it stands for the form's place, so that nothing is told before the user moves the window.
         away_ = true;
         if (!arriving_) settling_.Begin();
         return;
     }
     loan_ = place;
+    choice_.reset();
     loanSince_.start();
 }
 

@@ -5,8 +5,9 @@
 // 15 twips of a form are one pixel at 96 dpi; Qt does any further scaling. A position in the form that already rounds to the window's
 // pixel position is not changed, so that windows do not drift.
 //
-// On a desktop the main form is told only of places that its user has chosen: where and how large the window manager shows, maximises or
-// restores the window changes nothing, and only what differs from that is the user's.
+// On a desktop the main form and its side windows are told only of places that the user has chosen: where and how large the window manager
+// shows, maximises or restores the window changes nothing, nor does a push to a window that its text has made wider, and only what differs
+// from that is the user's.
 #pragma once
 
 #include <QElapsedTimer>
@@ -93,6 +94,10 @@ private:
     QRect Now() const;
     /// Whether the window manager's moves of this window are told from its user's.
     bool KnowsUser() const;
+    /// Whether the window is a side window whose place is not that of the form, because the window manager has pushed it away.
+    bool Pushed() const;
+    /// Puts a pushed window back if it now is wholly on the screen at the form's place.
+    void PutBack();
     /// Whether the window fills the screen.
     bool Large() const;
     void Rest(bool byManager);

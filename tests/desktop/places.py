@@ -126,6 +126,35 @@ def a_window_that_a_small_screen_has_maximised_is_not_stored_so():
     station.expect_stored(MIDDLE | {"Bredde": size[0], "Hojde": size[1], "Tilstand": ""})
 
 
+def a_place_partly_outside_the_screen_stays_stored():
+    beyond = CORNER | {"QSOLeft": 800 * TWIPS + 2, "QSOTop": 40 * TWIPS + 2, "QSOHeight": 60 * TWIPS}
+    with station.up(beyond):
+        until(lambda: within(station.frame(NEXT), SCREEN), lambda: f"a window on the screen; it is at {station.frame(NEXT)}")
+        time.sleep(SETTLED)
+        assert station.frame(NEXT).left < 800, "the window manager has left the window alone"
+    station.expect_stored(beyond)
+
+
+def a_warning_at_the_edge_of_the_screen_leaves_the_number_where_it_was():
+    stored = CORNER | {"QSOLeft": 600 * TWIPS, "QSOTop": 40 * TWIPS, "QSOHeight": 60 * TWIPS}
+    with station.up(stored):
+        station.type(*"dl9xyz", "space", "5", "Return")
+        time.sleep(SETTLED)
+        station.xdotool("windowmove", station.window(NEXT), str(SCREEN.width - station.frame(NEXT).width), "50")
+        until(lambda: station.frame(NEXT).left > 600, "the effect of the move")
+        time.sleep(STAYS)
+        before = station.frame(NEXT)
+        for _ in range(2):
+            station.type(*"dl9xyz", "space")
+            until(lambda: station.frame(NEXT).width > before.width, "a wider window")
+            until(lambda: within(station.frame(NEXT), SCREEN), "a warning on the screen")
+            time.sleep(STAYS)
+            station.type("Escape")
+            until(lambda: station.frame(NEXT) == before, lambda: f"the place of before, {before}; it is {station.frame(NEXT)}")
+        time.sleep(STAYS)
+    station.expect_stored(stored | {"QSOLeft": before.left * TWIPS, "QSOTop": before.top * TWIPS})
+
+
 if __name__ == "__main__":
     skip_without_tools(MANAGER, *TOOLS, others=missing_tools())
     chosen = sys.argv[4:]

@@ -116,6 +116,12 @@ protected:
         return top.screen()->availableGeometry().contains(top.geometry()) && !top.frameGeometry().intersects(Fields());
     }
 
+    /// Long enough for the window manager.
+    void Rest() {
+        QTest::qWait(400);
+        driver.Settle();
+    }
+
     QtHelp handbook;
     Desktop desktop{dynamic_cast<QtFront&>(driver.ProgramFront()), handbook};
     Places places{dynamic_cast<QtFront&>(driver.ProgramFront())};
@@ -205,6 +211,66 @@ TEST_F(PlacesOfWindows, AWindowThatTheUserMovesIsStoredThere) {
     EXPECT_EQ(frmB4->Top(), 30 * kTwipsPerPixel);
 }
 
+TEST_F(PlacesOfWindows, APlaceToWhichTheWindowManagerPushesAWindowIsNotStored) {
+    Stored("QSO", 302, 20, 300, 60);
+    settings.texts["SETTINGS/QSOLEFT"] = std::to_string(302 * kTwipsPerPixel + 2);
+    StartVatro();
+    QWidget& number = Top(*frmQSOnr);
+    number.move(290, 20);
+    EXPECT_EQ(frmQSOnr->Left(), 302 * kTwipsPerPixel + 2);
+    Rest();
+    EXPECT_EQ(frmQSOnr->Left(), 302 * kTwipsPerPixel + 2);
+    // The user moves it down.
+    number.move(290, 30);
+    EXPECT_EQ(frmQSOnr->Left(), 302 * kTwipsPerPixel + 2);
+    EXPECT_EQ(frmQSOnr->Top(), 30 * kTwipsPerPixel);
+    Rest();
+    number.move(280, 30);
+    EXPECT_EQ(frmQSOnr->Left(), 280 * kTwipsPerPixel);
+}
+
+TEST_F(PlacesOfWindows, AWarningLeavesTheNumberWindowWhereItWas) {
+    Stored("QSO", 302, 20, 300, 60);
+    StartVatro();
+    QWidget& number = Top(*frmQSOnr);
+    number.move(300, 25);
+    Rest();
+    number.move(310, 26);
+    ASSERT_EQ(frmQSOnr->Left(), 310 * kTwipsPerPixel) << "moved by the user";
+    Rest();
+    for (int i = 0; i < 2; ++i) {
+        Dispatch([] { frmQSOnr->visDupe(); });
+        // The window manager does not let the wider window reach over the edge.
+        number.move(282, 26);
+        Rest();
+        EXPECT_EQ(number.x(), 282);
+        Dispatch([] { frmQSOnr->visQSOnr(); });
+        EXPECT_EQ(number.pos(), QPoint(310, 26));
+        EXPECT_EQ(frmQSOnr->Left(), 310 * kTwipsPerPixel);
+        Rest();
+    }
+    // The user takes it away while it is pushed.
+    Dispatch([] { frmQSOnr->visDupe(); });
+    number.move(282, 26);
+    Rest();
+    number.move(100, 26);
+    Dispatch([] { frmQSOnr->visQSOnr(); });
+    EXPECT_EQ(number.x(), 100);
+    EXPECT_EQ(frmQSOnr->Left(), 100 * kTwipsPerPixel);
+}
+
+TEST_F(PlacesOfWindows, AHeightThatTheUserDragsIsToldAllTheTime) {
+    Stored("QSO", 100, 20, 300, 60);
+    StartVatro();
+    Rest();
+    QWidget& number = Top(*frmQSOnr);
+    for (const int height : {62, 66, 71}) {
+        number.resize(number.width(), height);
+        EXPECT_EQ(frmQSOnr->Height(), height * kTwipsPerPixel);
+    }
+    EXPECT_EQ(frmQSOnr->Left(), 100 * kTwipsPerPixel);
+}
+
 TEST_F(PlacesOfWindows, ATextThatGrowsStaysInTheLentPlace) {
     Stored("QSO", 5000, 3000, 300, 60);
     StartVatro();
@@ -219,6 +285,7 @@ TEST_F(PlacesOfWindows, ATextThatGrowsStaysInTheLentPlace) {
 TEST_F(PlacesOfWindows, AMaximisedMainWindowPushesThemAsideAndLetsThemBack) {
     Stored("B4", 60, 10, 120, 80);
     StartVatro();
+    Rest();
     QWidget& main = Top(*frmMain);
     main.resize(300, 250);
     const QPoint corner = main.screen()->availableGeometry().bottomRight() - QPoint(150, 110);
@@ -249,11 +316,6 @@ protected:
     void ExpectPlace(int left, int top) {
         EXPECT_EQ(frmMain->Left(), left);
         EXPECT_EQ(frmMain->Top(), top);
-    }
-    /// Long enough for the window manager.
-    void Rest() {
-        QTest::qWait(400);
-        driver.Settle();
     }
 };
 
