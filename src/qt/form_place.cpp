@@ -44,6 +44,8 @@ void FormPlace::Arrive() {
     arriving_ = false;
     if (KnowsUser()) settling_.Begin();
     Follow();
+    // Until now the frame was not known.
+    if (const auto loan = std::exchange(loan_, std::nullopt)) Lend(*loan);
     Tell();
 }
 

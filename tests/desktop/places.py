@@ -155,6 +155,21 @@ def a_warning_at_the_edge_of_the_screen_leaves_the_number_where_it_was():
     station.expect_stored(stored | {"QSOLeft": before.left * TWIPS, "QSOTop": before.top * TWIPS})
 
 
+def windows_that_leave_the_main_window_cover_nothing_of_it():
+    with Station(DATA, MANAGER, size="1920x1080") as large:
+        large.set(UTC=0, MainLeft=5505, MainTop=3255, **dict.fromkeys(("QSOLeft", "QSOTop", "CallLeft", "CallTop"), 0),
+                  QSOHeight=3000, CallHeight=3000, B4Left=2000, B4Top=2000, B4Width=6000, B4Height=6000)
+        with large.settings_file.open("a") as file:
+            file.write("[Vindue]\nBredde=1261\nHojde=703\n")
+        with large.alive(PROGRAM):
+            large.wait_focus(CALL)
+            large.choose("e", "Ekstra", "Saml vinduerne")
+            until(lambda: all(large.windows(side) for side in SIDES), "three windows")
+            time.sleep(SETTLED)
+            main, places = large.frame(MAIN), large.frames()
+            expect([side for side in SIDES if overlap(places[side], main)], [], f"what covers the main window at {main} with {places}")
+
+
 if __name__ == "__main__":
     skip_without_tools(MANAGER, *TOOLS, others=missing_tools())
     chosen = sys.argv[4:]
