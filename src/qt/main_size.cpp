@@ -14,6 +14,7 @@
 #include "places.h"
 #include "platform.h"
 #include "qt_front.h"
+#include "title_room.h"
 #include "window.h"
 
 namespace vatro {
@@ -32,9 +33,6 @@ constexpr std::string_view kMaximisedFullScreen = "maksimeret hele";
 /// On a smaller screen than this a first window fills it; on a larger one it takes a part of each side.
 constexpr QSize kSmallScreen(1200, 700);
 constexpr double kPartOfScreen = 0.85;
-
-/// What the window system adds to a window at most, while that is not known. Some move a window that reaches over the edge of the screen.
-constexpr QSize kLargestFrame(20, 40);
 
 /// Properties of a window: the size that its user has given it, and the size that the program or the window manager has made of that. The
 /// latter is empty while the window manager changes it, and while the window fills the screen.

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "by_kind.h"
+#include "item_list.h"
 #include "qt_front.h"
 #include "window.h"
 
@@ -25,6 +26,9 @@ constexpr int kRest = 200;
 /// A window needs at least this much room to be useful.
 constexpr int kLeastHeight = 100;
 constexpr int kLeastWidth = 250;
+
+/// The column of the log after the call.
+constexpr int kBehindCall = 23;
 
 /// Whether the window shows one line of large letters; before it has any letters, it is as narrow as possible. The height of such a
 /// window determines its width.
@@ -44,11 +48,12 @@ int WidthFor(const QRect& line, int height) {
     return line.width() * height / line.height();
 }
 
-/// Places the windows side by side, with equal shares of the width and equal heights.
-void PlaceLines(const QRect& room, const std::vector<QRect*>& lines) {
+/// Places the windows in one row, or one below the other, with equal shares of the room and equal heights.
+void PlaceLines(const QRect& room, const std::vector<QRect*>& lines, bool oneRow) {
     if (lines.empty()) return;
-    const int width = room.width() / static_cast<int>(lines.size());
-    int height = room.height();
+    const int count = static_cast<int>(lines.size());
+    const int width = oneRow ? room.width() / count : room.width();
+    int height = oneRow ? room.height() : room.height() / count;
     for (const QRect* line : lines) {
         height = std::min(height, line->height());
         if (WidthFor(*line, height) > width) height = line->height() * width / line->width();
@@ -56,7 +61,7 @@ void PlaceLines(const QRect& room, const std::vector<QRect*>& lines) {
     QPoint at = room.topLeft();
     for (QRect* line : lines) {
         *line = QRect(at, QSize(WidthFor(*line, height), height));
-        at.rx() += width;
+        at += oneRow ? QPoint(width, 0) : QPoint(0, height);
     }
 }
 
@@ -71,27 +76,89 @@ void PlaceOthers(const QRect& room, const std::vector<QRect*>& windows) {
     }
 }
 
-/// The first place for a frame of this size in one of the rooms that covers none of `taken`; of any room the highest, then the leftmost.
-std::optional<QRect> FreePlace(const std::vector<QRect>& rooms, const QSize& size, const std::vector<QRect>& taken) {
-    for (const QRect& room : rooms) {
-        std::set<int> lefts{room.left()};
-        std::set<int> tops{room.top()};
-        for (const QRect& other : taken) {
-            lefts.insert(other.right() + 1);
-            tops.insert(other.bottom() + 1);
-        }
-        for (const int top : tops)
-            for (const int left : lefts) {
-                const QRect place(QPoint(left, top), size);
-                const bool covers = std::any_of(taken.begin(), taken.end(), [&](const QRect& other) { return other.intersects(place); });
-                if (room.contains(place) && !covers) return place;
-            }
+int Right(const std::vector<QRect*>& windows) {
+    int right = 0;
+    for (const QRect* window : windows) right = std::max(right, window->right());
+    return right;
+}
+
+/// The parts of the screen around a main window, and its log. The strips are as wide as the screen, the columns as high.
+struct Rooms {
+    QRect below;
+    QRect above;
+    QRect right;
+    QRect left;
+    QRect log;
+
+    Rooms(const QRect& screen, const QRect& main, const QRect& itsLog)
+        : below(QPoint(screen.left(), main.bottom() + 1), screen.bottomRight()),
+          above(screen.topLeft(), QPoint(screen.right(), main.top() - 1)),
+          right(QPoint(main.right() + 1, screen.top()), screen.bottomRight()),
+          left(screen.topLeft(), QPoint(main.left() - 1, screen.bottom())),
+          log(itsLog) {}
+    /// The better one of the strips, or null if both are too low.
+    const QRect* Strip() const { return below.height() >= kLeastHeight ? &below : above.height() >= kLeastHeight ? &above : nullptr; }
+    const QRect* Column() const { return right.width() >= kLeastWidth ? &right : left.width() >= kLeastWidth ? &left : nullptr; }
+};
+
+/// Arranges windows with one line and others in the room for each kind, which may be the same.
+void PlaceIn(const Rooms& rooms, const std::vector<QRect*>& ofOneLine, const std::vector<QRect*>& ofMany) {
+    const QRect* strip = rooms.Strip();
+    const QRect* column = rooms.Column();
+    const bool both = !ofOneLine.empty() && !ofMany.empty();
+    QRect lines = strip != nullptr ? *strip : column != nullptr ? *column : rooms.log;
+    QRect others = column != nullptr ? *column : lines;
+    if (strip != nullptr && column != nullptr) {
+        if (strip == &rooms.below)
+            others.setBottom(strip->top() - 1);
+        else
+            others.setTop(strip->bottom() + 1);
+    } else if (both && strip != nullptr) {
+        lines.setWidth(lines.width() * 2 / 3);
+        others.setLeft(lines.right() + 1);
+    } else if (both) {
+        lines.setHeight(lines.height() / 3);
     }
+    PlaceLines(lines, ofOneLine, strip != nullptr || column == nullptr);
+    if (both && strip == nullptr) {
+        // In a column the lines may be lower than their part of it.
+        const int below = column != nullptr ? ofOneLine.back()->bottom() : lines.bottom();
+        others.setTop(below + 1);
+    }
+    PlaceOthers(others, ofMany);
+    if (strip != nullptr || column != nullptr) return;
+    const int shift = rooms.log.right() - Right(ofOneLine);
+    for (QRect* line : ofOneLine) line->translate(shift, 0);
+    for (QRect* window : ofMany) window->moveRight(rooms.log.right());
+}
+
+/// The first place for a frame of this size in the room that covers none of `taken`: the highest, then the leftmost or rightmost.
+std::optional<QRect> FreePlace(const QRect& room, const QSize& size, const std::vector<QRect>& taken, bool rightmost) {
+    std::set<int> lefts{rightmost ? room.right() + 1 - size.width() : room.left()};
+    std::set<int> tops{room.top()};
+    for (const QRect& other : taken) {
+        lefts.insert(rightmost ? other.left() - size.width() : other.right() + 1);
+        tops.insert(other.bottom() + 1);
+    }
+    std::vector<int> inOrder(lefts.begin(), lefts.end());
+    if (rightmost) std::reverse(inOrder.begin(), inOrder.end());
+    for (const int top : tops)
+        for (const int left : inOrder) {
+            const QRect place(QPoint(left, top), size);
+            const bool covers = std::any_of(taken.begin(), taken.end(), [&](const QRect& other) { return other.intersects(place); });
+            if (room.contains(place) && !covers) return place;
+        }
     return std::nullopt;
 }
 
+std::optional<QRect> FreePlace(const Rooms& rooms, const QSize& size, const std::vector<QRect>& taken) {
+    for (const QRect& room : {rooms.below, rooms.right, rooms.above, rooms.left})
+        if (const std::optional<QRect> place = FreePlace(room, size, taken, false)) return place;
+    return FreePlace(rooms.log, size, taken, true);
+}
+
 /// Moves the windows that cover a taken place or each other to a free one, in their own size if there is room for it.
-void KeepOff(const std::vector<QRect>& rooms, const std::vector<QRect>& own, std::vector<QRect>& windows, std::vector<QRect> taken) {
+void KeepOff(const Rooms& rooms, const std::vector<QRect>& own, std::vector<QRect>& windows, std::vector<QRect> taken) {
     const auto covers = [&taken](const QRect& window) {
         return std::any_of(taken.begin(), taken.end(), [&](const QRect& other) { return other.intersects(window); });
     };
@@ -132,33 +199,14 @@ int Area(const QRect& place) {
 
 }  // namespace
 
-std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, const QRect& upper, std::vector<QRect> windows,
+std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, const QRect& log, std::vector<QRect> windows,
                               std::vector<QRect> taken) {
     const std::vector<QRect> own = windows;
-    QRect lines(QPoint(screen.left(), main.bottom() + 1), screen.bottomRight());
-    QRect others(QPoint(main.right() + 1, screen.top()), screen.bottomRight());
-    const bool roomBelow = lines.height() >= kLeastHeight;
-    const bool roomBeside = others.width() >= kLeastWidth;
-    if (roomBelow)
-        others.setBottom(main.bottom());
-    else
-        lines = upper;
-    if (!roomBeside) others = upper;
-    if (!roomBelow && !roomBeside) {
-        lines.setHeight(upper.height() / 3);
-        others.setTop(lines.bottom() + 1);
-    }
-
     std::vector<QRect*> ofOneLine;
     std::vector<QRect*> ofMany;
     for (QRect& window : windows) (IsOneLine(window) ? ofOneLine : ofMany).push_back(&window);
-    PlaceLines(lines, ofOneLine);
-    PlaceOthers(others, ofMany);
-    const std::vector<QRect> rooms{{QPoint(screen.left(), main.bottom() + 1), screen.bottomRight()},
-                                   {QPoint(main.right() + 1, screen.top()), screen.bottomRight()},
-                                   {screen.topLeft(), QPoint(screen.right(), main.top() - 1)},
-                                   {screen.topLeft(), QPoint(main.left() - 1, screen.bottom())},
-                                   upper};
+    const Rooms rooms(screen, main, log);
+    PlaceIn(rooms, ofOneLine, ofMany);
     KeepOff(rooms, own, windows, std::move(taken));
     return windows;
 }
@@ -279,7 +327,15 @@ QRect Places::EntryFields() const {
 QRect Places::Log() const {
     const FormWindow* window = front_.MainWindow();
     for (const Control* control : window->Its().Controls())
-        if (const auto* list = As<ListBox>(control)) return GlobalPlace(*window->WidgetOf(*list));
+        if (const auto* list = As<ListBox>(control)) {
+            const auto* widget = qobject_cast<const ItemList*>(window->WidgetOf(*list));
+            if (widget == nullptr) break;
+            const QRect log = GlobalPlace(*widget);
+            const int calls = widget->viewport()->x() + widget->ColumnLeft(kBehindCall);
+            // The main window may be partly outside the screen.
+            const QRect seen = main_->screen()->availableGeometry() & log.adjusted(calls, 0, 0, 0);
+            return seen.width() >= kLeastWidth && seen.height() >= kLeastHeight ? seen : log;
+        }
     return main_->frameGeometry();
 }
 

@@ -19,10 +19,10 @@ class FormWindow;
 class QtFront;
 
 /// Returns a frame for each of `windows`, none wider or higher than before, arranged around the main window. Windows with one line of
-/// large letters go below the main window and keep their aspect ratio; the others go to its right. If the screen has no room there,
-/// they go over the part `upper` of the main window. A window that would then cover one of `taken` goes where it covers none, if there is
-/// such a place outside the main window or over `upper`.
-std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, const QRect& upper, std::vector<QRect> windows,
+/// large letters go below or above the main window and keep their aspect ratio; the others go to its right or left. If the screen has room
+/// on some of these sides only, all go there; if it has none, they go over the right of `log`. A window that would then cover one of
+/// `taken` goes where it covers none, if there is such a place outside the main window or over `log`.
+std::vector<QRect> BesideMain(const QRect& screen, const QRect& main, const QRect& log, std::vector<QRect> windows,
                               std::vector<QRect> taken = {});
 
 /// Whether a window with this frame can be seen and moved: at least half of it, and of its title bar, lies on one of the screens.
@@ -50,7 +50,7 @@ private:
     bool InTheWay(const QRect& window) const;
     /// The fields and buttons of the main form below its log; empty if it is not on the screen.
     QRect EntryFields() const;
-    /// The log of the main form.
+    /// The log of the main form to the right of its calls.
     QRect Log() const;
 
     QtFront& front_;

@@ -45,6 +45,9 @@ class Station(MainWindow):
     def frames(self):
         return {side: self.frame(side) for side in SIDES}
 
+    def bars(self):
+        return [self.node("status bar", "Statuslinje")] + [bar for role in ("menu bar", "tool bar") for bar in self.top(MAIN).find(role)]
+
     def faults(self):
         """What is not as it should be now."""
         found, fields = self.frames(), self.fields()
@@ -55,8 +58,9 @@ class Station(MainWindow):
                  if overlap(frame, field) and overlap(main, field)]
         told += [f"{one} covers {other}: {found[one]}, {found[other]}" for place, one in enumerate(SIDES) for other in SIDES[place + 1:]
                  if overlap(found[one], found[other])]
-        bar = self.node("status bar", "Statuslinje").rectangle
-        told += [f"{side} covers the status bar: {frame}, {bar}" for side, frame in found.items() if overlap(frame, bar)]
+        bars = {bar: bar.rectangle for bar in self.bars()}
+        told += [f"{side} covers {bar}: {frame}, {place}" for side, frame in found.items() for bar, place in bars.items()
+                 if overlap(frame, place) and overlap(main, place)]
         return told
 
     def expect_in_sight(self, when):
@@ -133,6 +137,15 @@ def a_place_partly_outside_the_screen_stays_stored():
         time.sleep(SETTLED)
         assert station.frame(NEXT).left < 800, "the window manager has left the window alone"
     station.expect_stored(beyond)
+
+
+def a_place_of_a_larger_screen_is_not_over_the_menus():
+    # Less than half of the number would be on the screen, and the window manager would push it over the menus.
+    wide = CORNER | {"QSOLeft": 695 * TWIPS, "QSOTop": 31 * TWIPS, "QSOHeight": 152 * TWIPS, "QSOWidth": 840 * TWIPS}
+    with station.up(wide, (1261, 703)):
+        station.expect_in_sight("at the start")
+    wide.pop("QSOWidth")
+    station.expect_stored(wide)
 
 
 def a_warning_at_the_edge_of_the_screen_leaves_the_number_where_it_was():

@@ -12,6 +12,7 @@
 #include "entry/frmMain.h"
 #include "entry/frmQSOnr.h"
 #include "frame/start.h"
+#include "item_list.h"
 #include "qt/window_program.h"
 #include "services.h"
 
@@ -41,8 +42,27 @@ TEST(BesideMain, CutsWindowsToTheRoomThereIs) {
 }
 
 TEST(BesideMain, KeepsToTheSideOfABottomThatHasNoRoom) {
+    // Both go to the right, the line above the list: 414 * 200 / 1100 rows for 414 columns.
     const std::vector<QRect> places = BesideMain({0, 0, 1400, 600}, {66, 66, 920, 480}, kUpper, {kWindows[0], kWindows[2]});
-    EXPECT_EQ(places, (std::vector<QRect>{{66, 0, 918, 167}, {986, 0, 400, 400}}));
+    EXPECT_EQ(places, (std::vector<QRect>{{986, 0, 412, 75}, {986, 75, 400, 400}}));
+}
+
+TEST(BesideMain, TakesTheRoomAboveAndOnTheLeftToo) {
+    // Each line gets half of the screen, so 683 * 200 / 1100 rows.
+    EXPECT_EQ(BesideMain({0, 0, 1366, 768}, {367, 217, 999, 551}, {400, 300, 500, 200}, kWindows),
+              (std::vector<QRect>{{0, 0, 682, 124}, {683, 0, 24, 124}, {0, 217, 367, 400}}));
+    // Beside a main window as high as the screen: 400 * 200 / 1100 rows for each line.
+    EXPECT_EQ(BesideMain({0, 0, 1024, 600}, {400, 0, 624, 600}, {500, 100, 500, 200}, kWindows),
+              (std::vector<QRect>{{0, 0, 396, 72}, {0, 72, 14, 72}, {0, 144, 400, 400}}));
+    // Below a main window as wide as the screen the list gets a third of the width.
+    EXPECT_EQ(BesideMain({0, 0, 1024, 600}, {0, 0, 1024, 400}, {0, 100, 1024, 200}, kWindows),
+              (std::vector<QRect>{{0, 400, 341, 62}, {341, 400, 12, 62}, {682, 400, 342, 200}}));
+}
+
+TEST(BesideMain, KeepsToTheRightOfTheLog) {
+    const QRect full(0, 0, 1024, 600);
+    EXPECT_EQ(BesideMain(full, full, {200, 100, 820, 300}, {kWindows[2]}), (std::vector<QRect>{{620, 100, 400, 300}}));
+    EXPECT_EQ(BesideMain(full, full, {200, 100, 820, 300}, {{0, 0, 500, 100}}), (std::vector<QRect>{{520, 100, 500, 100}}));
 }
 
 TEST(BesideMain, NeverCoversTheEntryFields) {
@@ -59,15 +79,17 @@ TEST(BesideMain, NeverCoversTheEntryFields) {
     }
 }
 
-/// Number and call stand in the upper left corner of the log, where the list would go.
+/// Number and call stand in the upper left corner of the log.
 TEST(BesideMain, KeepsOffWindowsThatStayWhereTheyAre) {
     const QRect screen(0, 0, 1024, 600);
     const QRect main(0, 0, 1024, 600);
     const QRect upper(QPoint(0, 100), QPoint(1023, kEntry - 1));
     const std::vector<QRect> taken{{10, 110, 300, 110}, {320, 110, 300, 110}};
-    EXPECT_EQ(BesideMain(screen, main, upper, {{0, 0, 300, 200}}, taken), (std::vector<QRect>{{620, 100, 300, 200}}));
+    EXPECT_EQ(BesideMain(screen, main, upper, {{0, 0, 300, 200}}, taken), (std::vector<QRect>{{724, 100, 300, 200}}));
+    // Another one stands where the list would go.
+    EXPECT_EQ(BesideMain(screen, main, upper, {{0, 0, 300, 200}}, {{800, 100, 100, 80}}), (std::vector<QRect>{{500, 100, 300, 200}}));
     // A window that covers nothing stays where it would go otherwise.
-    EXPECT_EQ(BesideMain(screen, main, upper, {{0, 0, 300, 200}}, {{800, 100, 100, 80}}),
+    EXPECT_EQ(BesideMain(screen, main, upper, {{0, 0, 300, 200}}, {{300, 100, 100, 80}}),
               BesideMain(screen, main, upper, {{0, 0, 300, 200}}));
     // Two that are moved keep off each other.
     const std::vector<QRect> two = BesideMain(screen, main, upper, {{0, 0, 300, 100}, {0, 0, 300, 100}}, taken);
@@ -148,6 +170,20 @@ TEST_F(PlacesOfWindows, AWindowHasRoomForItsRowsOverALowLog) {
     ASSERT_LT(WidgetOf<QWidget>(frmMain->log).height(), 170);
     EXPECT_TRUE(InSight(*frmB4));
     EXPECT_GE(Top(*frmB4).height(), 150);
+}
+
+TEST_F(PlacesOfWindows, OverTheLogTheCallsStayInSight) {
+    settings.texts["SETTINGS/MYCALL"] = "OZ7FD/P";
+    StartVatro();
+    Top(*frmMain).showMaximized();
+    Rest();
+    const auto& log = WidgetOf<ItemList>(frmMain->log);
+    // A contact begins with the time and 16 columns for the call.
+    const QRect calls(log.mapToGlobal(QPoint()), QSize(log.ColumnLeft(23), log.height()));
+    for (const Form* form : std::initializer_list<const Form*>{&*frmB4, &*frmQSOnr, &*frmContestCall}) {
+        EXPECT_TRUE(InSight(*form)) << form->Name();
+        EXPECT_FALSE(Top(*form).frameGeometry().intersects(calls)) << form->Name();
+    }
 }
 
 TEST_F(PlacesOfWindows, LentPlacesDoNotOverlap) {
