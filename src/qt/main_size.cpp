@@ -97,7 +97,10 @@ void Grow(QMainWindow& window, const QSize& size) {
     const QSize frame = moves ? window.frameGeometry().size() - window.size() : kLargestFrame;
     const QSize left(screen.right() - window.x(), screen.bottom() - window.y());
     const QSize room = (moves ? screen.size() : left) - frame;
-    if (moves && !its->Lent() && window.property(kGrownSize).toSize() != window.size()) window.setProperty(kShownSize, window.size());
+    // A size that the user gives the window stands for what there is room for.
+    const bool chosen = window.property(kOwnSize).toSize() != own;
+    const bool shown = moves && (chosen || (!its->Lent() && window.property(kGrownSize).toSize() != window.size()));
+    if (shown) window.setProperty(kShownSize, window.size());
     const QSize usual = moves ? UsualSize(*its, own, QRect(screen.topLeft(), room)) : own;
     // If the window manager has reduced the window, there is no room for its own size.
     const QSize grown = size.expandedTo(usual).boundedTo(room.expandedTo(own.boundedTo(window.size())));
