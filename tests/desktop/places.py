@@ -4,7 +4,8 @@
     places.py PROGRAM DATA MANAGER [CASE...]
 
 Checks floating side windows with places of a larger screen on a small one: all of them are wholly on the screen and cover no entry
-field, also while the main window is maximised or fills the screen, and only a window that the operator moves is stored in another place.
+field, menu or bar, also while the main window is maximised or fills the screen, and only a window that the operator moves is stored
+in another place.
 Runs every case, or those named. Skipped if something it needs is not installed.
 """
 import contextlib
