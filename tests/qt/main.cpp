@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QLocale>
+#include <QScreen>
 #include <cstdio>
+#include <iostream>
 
 #include "application.h"
 
@@ -36,5 +38,12 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     vatro::PrepareApplication();
     QApplication::setStyle(QStringLiteral("Fusion"));
+    // Many tests count on this room, at every scale.
+    constexpr QSize kScreen(800, 800);
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    if (QGuiApplication::platformName() == QStringLiteral("offscreen") && screen != kScreen) {
+        std::cerr << "the screen has " << screen.width() << " by " << screen.height() << " pixels; see qt.scaled in CMakeLists.txt\n";
+        return 1;
+    }
     return RUN_ALL_TESTS();
 }
