@@ -78,7 +78,6 @@ Outcome Run() {
                                    {VATRO_VERSION_MAJOR, VATRO_VERSION_MINOR, VATRO_VERSION_PATCH}});
 
     const vatro::Desktop desktop(front, help);
-    vatro::MarkOperator(front);
     const vatro::PaperEnds paperEnds(front, papers, pages);
     vatro::AddLastLine(front);
     const vatro::MainSize size(front, settings);
@@ -103,6 +102,7 @@ Outcome Run() {
         });
         if (!vatro::ProgramRuns()) return;
         vatro::MarkCall(front);
+        vatro::MarkOperator(front);
         copy.Begin();
         lamps.Begin();
     });

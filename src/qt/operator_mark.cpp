@@ -11,6 +11,7 @@
 #include <QPalette>
 #include <utility>
 
+#include "entry/frmMain.h"
 #include "qt_front.h"
 #include "signal_colours.h"
 
@@ -62,11 +63,9 @@ bool OperatorMark::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-void MarkOperator(QtFront& front) {
-    front.extraEntries.emplace_back([](QMainWindow& window, QMenu& /*menu*/) {
-        auto* box = window.findChild<QComboBox*>(QStringLiteral("Combo1"));
-        if (box != nullptr && box->lineEdit() != nullptr) new OperatorMark(window, *box);
-    });
+void MarkOperator(const QtFront& front) {
+    auto& box = dynamic_cast<QComboBox&>(*front.WidgetOf(frmMain->operatorBox));
+    new OperatorMark(dynamic_cast<QMainWindow&>(*box.window()), box);
 }
 
 }  // namespace vatro

@@ -31,7 +31,7 @@ private:
     bool marked_ = false;
 };
 
-/// Marks the operator field of every main window that the front makes from now on.
-void MarkOperator(QtFront& front);
+/// Marks the operator field of the main window, which must exist, from now on.
+void MarkOperator(const QtFront& front);
 
 }  // namespace vatro

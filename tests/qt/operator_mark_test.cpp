@@ -20,8 +20,8 @@ namespace {
 class TheOperatorField : public WindowProgram {
 protected:
     TheOperatorField() {
-        MarkOperator(dynamic_cast<QtFront&>(driver.ProgramFront()));
         StartVatro();
+        MarkOperator(dynamic_cast<const QtFront&>(driver.ProgramFront()));
         SetOperator("OZ1AB");
     }
     ~TheOperatorField() override { QApplication::setPalette(QPalette()); }
