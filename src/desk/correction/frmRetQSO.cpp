@@ -3,7 +3,6 @@
 #include "frame/state.h"
 
 #include <algorithm>
-#include <span>
 
 #include "call/call_analysis.h"
 #include "correction/frmNote.h"
@@ -101,9 +100,8 @@ void FrmRetQSO::Fill(std::string_view line) {
 }
 
 void FrmRetQSO::RecordDuplicateAbove() {
-    const std::span<const std::string> lines = desk().log.Lines();
     const auto above = static_cast<std::size_t>(std::max(frmMain->log.ListIndex(), 0));
-    desk().gbDupe = CheckDupQSO(lines.first(std::min(above, lines.size())), desk().gsCall);
+    desk().gbDupe = CheckDupQSO(desk().log, above, desk().gsCall);
 }
 
 void FrmRetQSO::StoreState() {

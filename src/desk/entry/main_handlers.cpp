@@ -193,7 +193,7 @@ void EntryForm::FieldChanged(int Index) {
         const CountryStatus country = ShownCountry(field.Text());
         statusBar.SetPanel(1, country.text, MarkOf(country));
     }
-    if (field.Text().size() > 1) frmB4->ShowContacts(WkdB4(field.Text(), desk().log.Lines()));
+    if (field.Text().size() > 1) frmB4->ShowContacts(WkdB4(field.Text(), desk().log));
     frmQSOnr->visQSOnr();
 }
 

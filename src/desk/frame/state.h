@@ -83,15 +83,6 @@ struct DeskState {
     std::string gsCall;
     /// Whether the contact of gsCall is a duplicate.
     bool gbDupe = false;
-    /// The last search for a duplicate, remembered so that RecordDuplicate need not repeat it.
-    struct DuplicateSearch {
-        bool made = false;
-        std::string call;
-        /// Revision of the log at that search.
-        unsigned revision = 0;
-        bool found = false;
-    };
-    DuplicateSearch lastSearch;
     /// Points of the contact being built; set by every lookup that decides points (tables/worked.h).
     std::int32_t giQSOPoint = 0;
 };

@@ -29,13 +29,7 @@ CountryStatus ShownCountry(std::string_view call) {
 }
 
 void RecordDuplicate() {
-    // A call is searched for when its field is left and again at Enter. The second time the earlier result is still valid unless the
-    // log has changed.
-    DeskState::DuplicateSearch& last = desk().lastSearch;
-    const Log& log = desk().log;
-    if (last.revision != log.Revision() || last.call != desk().gsCall || !last.made)
-        last = {true, desk().gsCall, log.Revision(), CheckDupe(log.Lines(), desk().gsCall)};
-    desk().gbDupe = last.found;
+    desk().gbDupe = CheckDupe(desk().log, desk().gsCall);
 }
 
 void ClearWorked() {

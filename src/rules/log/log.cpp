@@ -8,22 +8,36 @@
 
 namespace vatro {
 
+const CallColumns& Log::Calls() const {
+    calls_.CatchUp(*lines_);
+    return calls_;
+}
+
+const BaseCalls& Log::StrippedCalls() const {
+    strippedCalls_.CatchUp(*lines_);
+    return strippedCalls_;
+}
+
+void Log::ForgetCalls(std::size_t row) {
+    calls_.Forget(row);
+    strippedCalls_.Forget(row);
+}
+
 void Log::Clear() {
-    ++revision_;
     lines_->clear();
+    ForgetCalls(0);
     if (observer_ != nullptr) observer_->Cleared();
 }
 
 void Log::Append(std::string line) {
-    ++revision_;
     lines_->push_back(std::move(line));
     if (observer_ != nullptr) observer_->Appended();
 }
 
 void Log::Replace(std::size_t row, std::string line) {
     if (row >= lines_->size()) throw RunTimeError(Failure::InvalidCall);
-    ++revision_;
     (*lines_)[row] = std::move(line);
+    ForgetCalls(row);
     if (observer_ != nullptr) observer_->Replaced(row);
 }
 

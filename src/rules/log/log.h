@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "log/call_index.h"
+
 namespace vatro {
 
 /// Hears of every change of the lines, after it has been made.
@@ -33,8 +35,11 @@ public:
     const std::vector<std::string>& Lines() const { return *lines_; }
     /// The same lines for a view that shows them without a copy of its own. They outlive the log as long as the view holds them.
     std::shared_ptr<const std::vector<std::string>> SharedLines() const { return lines_; }
-    /// Changes with every edit of the lines.
-    unsigned Revision() const { return revision_; }
+
+    /// The calls of the lines, for the searches of duplicates.h. The first search after a change takes the new lines over, so these two
+    /// are not for several threads at once.
+    const CallColumns& Calls() const;
+    const BaseCalls& StrippedCalls() const;
 
     /// Removes all lines. This function and those below leave the totals alone; the caller updates them.
     void Clear();
@@ -53,8 +58,11 @@ public:
     std::int16_t giQSOnr = 0;
 
 private:
+    void ForgetCalls(std::size_t row);
+
     std::shared_ptr<std::vector<std::string>> lines_ = std::make_shared<std::vector<std::string>>();
-    unsigned revision_ = 0;
+    mutable CallColumns calls_;
+    mutable BaseCalls strippedCalls_;
     LogObserver* observer_ = nullptr;
 };
 

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <memory>
 
 #include "errors.h"
@@ -34,22 +33,6 @@ TEST(Log, TellsEveryChangeOfItsLines) {
     log.Clear();
     EXPECT_TRUE(log.Lines().empty());
     EXPECT_EQ(notes.told, (std::vector<std::string>{"appended a", "appended b", "row 1 is c", "cleared, 0 left"}));
-}
-
-TEST(Log, HasAnotherRevisionAfterEveryChange) {
-    Log log;
-    std::vector<unsigned> seen{log.Revision()};
-    const auto differs = [&] {
-        const bool fresh = std::find(seen.begin(), seen.end(), log.Revision()) == seen.end();
-        seen.push_back(log.Revision());
-        return fresh;
-    };
-    log.Append("a");
-    EXPECT_TRUE(differs());
-    log.Replace(0, "a");
-    EXPECT_TRUE(differs());
-    log.Clear();
-    EXPECT_TRUE(differs());
 }
 
 TEST(Log, SharesItsLinesWithAViewThatOutlivesIt) {
