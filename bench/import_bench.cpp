@@ -105,7 +105,7 @@ void Import(benchmark::State& state) {
     state.SetLabel("vs country file into items, at most 2");
     for (auto _ : state) {
         ImporterCty();
-        if (desk().tables.giRefPfx != kTableRows) return state.SkipWithError("the file was not imported");
+        if (desk().tables.Rows().giRefPfx != kTableRows) return state.SkipWithError("the file was not imported");
     }
     ResetDesk();
 }

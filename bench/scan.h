@@ -28,9 +28,9 @@ inline std::ptrdiff_t ScanLog(const std::vector<std::string>& lines, char sought
 /// The prefixes in the table.
 inline std::ptrdiff_t ScanTable(char sought) {
     const CountryTables& tables = desk().tables;
-    const int rows = tables.giRefPfx;
+    const int rows = tables.Rows().giRefPfx;
     std::ptrdiff_t found = 0;
-    for (int row = 1; row <= rows; ++row) found += CountIn(tables.RefPfx[static_cast<std::size_t>(row)].Pfx.Padded(), sought);
+    for (int row = 1; row <= rows; ++row) found += CountIn(tables.Rows().RefPfx[static_cast<std::size_t>(row)].Pfx.Padded(), sought);
     return found;
 }
 

@@ -63,13 +63,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     try {
         ImporterCty();
     } catch (const RunTimeError& failure) {
-        if (!Expected(failure.Which()) || world->files.wrote || desk().tables.giRefPfx != 0) __builtin_trap();
+        if (!Expected(failure.Which()) || world->files.wrote || desk().tables.Rows().giRefPfx != 0) __builtin_trap();
         return 0;
     }
     const CountryTables& tables = desk().tables;
-    if (tables.giLande > kCountryRows || tables.giRefPfx > kPrefixRows) __builtin_trap();
-    for (int i = 1; i <= tables.giRefPfx; ++i) {
-        const auto found = tables.FindWholeCall(tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed(), 1);
+    if (tables.Rows().giLande > kCountryRows || tables.Rows().giRefPfx > kPrefixRows) __builtin_trap();
+    for (int i = 1; i <= tables.Rows().giRefPfx; ++i) {
+        const auto found = tables.FindWholeCall(tables.Rows().RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed(), 1);
         if (!found || *found > i) __builtin_trap();
     }
     return 0;

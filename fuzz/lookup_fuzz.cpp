@@ -21,8 +21,8 @@ using namespace vatro;
 /// The first row from `start` on that meets the condition, found by looking at each row.
 template <class Meets>
 std::optional<int> Scan(const CountryTables& tables, int start, Meets meets) {
-    for (int i = std::max(start, 1); i <= tables.giRefPfx; ++i)
-        if (meets(tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed())) return i;
+    for (int i = std::max(start, 1); i <= tables.Rows().giRefPfx; ++i)
+        if (meets(tables.Rows().RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed())) return i;
     return std::nullopt;
 }
 
@@ -40,19 +40,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view call = TakeLine(rest);
     if (call.empty()) return 0;
 
-    static CountryTables tables;
-    tables = {};
-    tables.giLande = 1;
-    tables.Lande[1].Pfx = "QQ";
-    while (!rest.empty() && tables.giRefPfx < 100) {
-        PfxRec& row = tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)];
+    static CountryRows rows;
+    rows = {};
+    rows.giLande = 1;
+    rows.Lande[1].Pfx = "QQ";
+    while (!rest.empty() && rows.giRefPfx < 100) {
+        PfxRec& row = rows.RefPfx[static_cast<std::size_t>(++rows.giRefPfx)];
         row.Pfx = Trim(TakeLine(rest));
         row.Land = "QQ";
     }
-    tables.IndexPrefixes();
+    static CountryTables tables;
+    tables.Take(rows);
 
     const std::string prefixText = findPfxCall(call);
-    for (int start = 0; start <= tables.giRefPfx; ++start) {
+    for (int start = 0; start <= rows.giRefPfx; ++start) {
         if (tables.FindWholeCall(call, start) != Scan(tables, start, [&](std::string_view prefix) { return prefix == call; }))
             __builtin_trap();
         if (tables.FindPrefix(prefixText, start) !=

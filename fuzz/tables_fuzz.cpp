@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     BeginProgram();
     Dispatch(StartProgram);
     if (!ProgramRuns()) return 0;
-    if (desk().tables.CountriesInUse() > kCountryRows || desk().tables.giRefPfx > kPrefixRows + 1 ||
+    if (desk().tables.CountriesInUse() > kCountryRows || desk().tables.Rows().giRefPfx > kPrefixRows + 1 ||
         desk().stations.StationsInUse() > kEdrRows)
         __builtin_trap();
     for (const char* call : {"OZ1ABC", "OZ1ABC/P", "W1AW", "SV9/DL1XYZ", "Q"}) {

@@ -39,7 +39,7 @@ TEST_F(CtyCommand, LinesMayEndInAnyWayAndEndWithCrLfInTheNewFile) {
         EXPECT_EQ(result.out, "") << "nothing is left out";
         EXPECT_EQ(Content("b.dat"), Joined(kTwo, "\r\n"));
         EXPECT_EQ(Import("a.dat"), 0);
-        EXPECT_EQ(desk().tables.giRefPfx, 5) << "the import takes the same line ends";
+        EXPECT_EQ(desk().tables.Rows().giRefPfx, 5) << "the import takes the same line ends";
         EXPECT_EQ(CountryOf("QB1"), "QB");
         EndProgram();
     }

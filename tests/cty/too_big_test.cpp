@@ -146,8 +146,8 @@ TEST_F(TooBig, LosesWhatIsGivenAnywayAndNoMoreThanItMust) {
     EXPECT_TRUE(after_.contains("=D03ABA"));
 
     EXPECT_EQ(Import("fit.dat"), 0);
-    EXPECT_EQ(desk().tables.giRefPfx, 5999);
-    EXPECT_EQ(desk().tables.giLande, 20);
+    EXPECT_EQ(desk().tables.Rows().giRefPfx, 5999);
+    EXPECT_EQ(desk().tables.Rows().giLande, 20);
     for (int start = 0; start < 2; ++start, ReadTables()) {
         for (const auto& [item, country] : before_) ASSERT_EQ(CountryOf(Call(item)), country) << item;
         EXPECT_EQ(CountryOf("XC0AC"), "");
@@ -164,7 +164,7 @@ TEST_F(TooBig, ThenLosesZonesAndThenCallsTheShortestFirst) {
     EXPECT_EQ(Kept(), (std::map<std::string, int>{{"own", 20}, {"Y", 5979}}));
 
     EXPECT_EQ(Import("fit.dat"), 0);
-    EXPECT_EQ(desk().tables.giRefPfx, 5999);
+    EXPECT_EQ(desk().tables.Rows().giRefPfx, 5999);
     for (int start = 0; start < 2; ++start, ReadTables()) {
         for (const auto& [item, country] : after_) ASSERT_EQ(CountryOf(Call(item)), country) << item;
         EXPECT_EQ(CountryOf("C49AB"), "C4");

@@ -65,19 +65,18 @@ void ImporterCty() {
     files.Close(1);
 
     form.ShowStage("Sorterer Præfix-referencetabel"_t);
-    form.Begin(countryImport.Tables().giRefPfx);
+    form.Begin(countryImport.Rows().giRefPfx);
     countryImport.Sort(advance);
 
     form.ShowStage("Rydder op i Præfix-referencetabel"_t);
-    form.Begin(countryImport.Tables().giRefPfx);
+    form.Begin(countryImport.Rows().giRefPfx);
     countryImport.CleanUp(advance);
-    desk().tables = countryImport.Tables();
+    desk().tables.Take(countryImport.Rows());
 
-    const CountryTables& tables = desk().tables;
-    WriteTable(form, "lande.txt", "Skriver Lande.txt fil", tables.giLande,
-               [&tables](std::size_t row) { return CountryLine(tables.Lande[row]); });
-    WriteTable(form, "refpfx.txt", "Skriver RefPfx.txt fil", tables.giRefPfx,
-               [&tables](std::size_t row) { return PrefixLine(tables.RefPfx[row]); });
+    const CountryRows& rows = countryImport.Rows();
+    WriteTable(form, "lande.txt", "Skriver Lande.txt fil", rows.giLande, [&rows](std::size_t row) { return CountryLine(rows.Lande[row]); });
+    WriteTable(form, "refpfx.txt", "Skriver RefPfx.txt fil", rows.giRefPfx,
+               [&rows](std::size_t row) { return PrefixLine(rows.RefPfx[row]); });
 }
 
 void ImportCtyFromMenu() {

@@ -36,8 +36,8 @@ std::optional<std::size_t> LengthBeforeFiller(const FixedText<kPrefixLength>& pr
 void CountryImport::Read(LineSource& file, const OverflowNotice& overflow) {
     while (!file.AtEnd()) ReadCountry(file, overflow);
     // The counts are set only here, so that rows of a file that fails in the middle are not used.
-    tables_->giLande = ToInt16(countries_);
-    tables_->giRefPfx = ToInt16(prefixes_);
+    rows_->giLande = ToInt16(countries_);
+    rows_->giRefPfx = ToInt16(prefixes_);
 }
 
 void CountryImport::ReadCountry(LineSource& file, const OverflowNotice& overflow) {
@@ -61,7 +61,7 @@ void CountryImport::ReadCountry(LineSource& file, const OverflowNotice& overflow
 
 void CountryImport::StoreCountry(const CtyHeader& header) {
     if (++countries_ > kCountryRows) throw RunTimeError(Failure::IndexOutOfRange);
-    LandRec& country = tables_->Lande[static_cast<std::size_t>(countries_)];
+    LandRec& country = rows_->Lande[static_cast<std::size_t>(countries_)];
     country.Pfx = header.prefix;
     country.Navn = header.name;
     country.Kontinent = header.continent;
@@ -75,22 +75,22 @@ void CountryImport::StorePrefix(const CtyEntry& entry, const OverflowNotice& ove
         overflow(prefixes_);
         throw RunTimeError(Failure::IndexOutOfRange);
     }
-    PfxRec& row = tables_->RefPfx[static_cast<std::size_t>(prefixes_)];
-    row.Land = tables_->Lande[static_cast<std::size_t>(countries_)].Pfx;
+    PfxRec& row = rows_->RefPfx[static_cast<std::size_t>(prefixes_)];
+    row.Land = rows_->Lande[static_cast<std::size_t>(countries_)].Pfx;
     row.Pfx.Fill(entry.text, kCtyFiller);
     row.ITUzone = entry.ituZone;
     row.CQzone = entry.cqZone;
 }
 
 void CountryImport::Sort(const RowProgress& progress) {
-    SortPrefixes(tables_->RefPfx, tables_->giRefPfx, progress);
+    SortPrefixes(rows_->RefPfx, rows_->giRefPfx, progress);
 }
 
 void CountryImport::CleanUp(const RowProgress& progress) {
     std::optional<char> last;
-    for (int i = 1; i <= tables_->giRefPfx; ++i) {
+    for (int i = 1; i <= rows_->giRefPfx; ++i) {
         progress(i);
-        FixedText<kPrefixLength>& prefix = tables_->RefPfx[static_cast<std::size_t>(i)].Pfx;
+        FixedText<kPrefixLength>& prefix = rows_->RefPfx[static_cast<std::size_t>(i)].Pfx;
         const FixedText<kPrefixLength> filled = prefix;
         const auto length = LengthBeforeFiller(filled);
         if (!length) continue;
@@ -98,9 +98,8 @@ void CountryImport::CleanUp(const RowProgress& progress) {
         const char first = prefix.Padded().front();
         if (first == last) continue;
         last = first;
-        tables_->gaPfxStart[static_cast<unsigned char>(first)] = static_cast<std::int16_t>(i);
+        rows_->gaPfxStart[static_cast<unsigned char>(first)] = static_cast<std::int16_t>(i);
     }
-    tables_->IndexPrefixes();
 }
 
 std::string CountryLine(const LandRec& country) {

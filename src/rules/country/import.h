@@ -27,7 +27,7 @@ using OverflowNotice = std::function<void(int count)>;
 /// Builds new tables from a country file. Values that the file does not set are kept from the tables it starts with.
 class CountryImport {
 public:
-    explicit CountryImport(const CountryTables& before) : tables_(std::make_unique<CountryTables>(before)) {}
+    explicit CountryImport(const CountryTables& before) : rows_(std::make_unique<CountryRows>(before.Rows())) {}
 
     /// Reads the file. Countries marked with "*" are left out. Fails with 62 if the file ends in the middle of a country, with 5 on a
     /// line that cannot be split into its fields, with 6 on a number that is too large, with 9 if there are too many countries or
@@ -40,12 +40,13 @@ public:
     /// Sorts the prefixes; see prefix_order.h.
     void Sort(const RowProgress& progress);
 
-    /// Removes the filler from the sorted prefixes, finds the first row of each first character, and indexes the table. The first two
-    /// steps skip a prefix of full length, which has no filler. If such a prefix comes first for its character, it is not found until
-    /// the program is started again; FitCty of cty_fit.h leaves such prefixes out.
+    /// Removes the filler from the sorted prefixes and finds the first row of each first character. Both steps skip a prefix of full
+    /// length, which has no filler. If such a prefix comes first for its character, it is not found until the program is started again;
+    /// FitCty of cty_fit.h leaves such prefixes out.
     void CleanUp(const RowProgress& progress);
 
-    const CountryTables& Tables() const { return *tables_; }
+    /// For CountryTables::Take.
+    const CountryRows& Rows() const { return *rows_; }
 
 private:
     void ReadCountry(LineSource& file, const OverflowNotice& overflow);
@@ -53,7 +54,7 @@ private:
     void StorePrefix(const CtyEntry& entry, const OverflowNotice& overflow);
 
     /// On the heap, because the tables are too large for the stack of some systems.
-    std::unique_ptr<CountryTables> tables_;
+    std::unique_ptr<CountryRows> rows_;
     /// Countries read so far.
     int countries_ = 0;
     int prefixes_ = 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "country/lookup.h"
 
+#include <array>
+
 #include "call/call_analysis.h"
 #include "codepage.h"
 #include "errors.h"
@@ -16,20 +18,11 @@ constexpr std::string_view kUnknown = "ukendt";
 
 int PrefixStart(const CountryTables& tables, std::string_view text) {
     if (text.empty()) throw RunTimeError(Failure::InvalidCall);
-    return tables.gaPfxStart[static_cast<unsigned char>(text.front())];
-}
-
-/// The row of Lande for a row of RefPfx: the first row whose prefix is not below the wanted one, or the last row. Lande must be sorted by
-/// prefix: equality is not tested, so in an unsorted table the row can be that of another country.
-int CountryOf(const CountryTables& tables, const PfxRec& prefix) {
-    const int last = tables.CountriesInUse();
-    int row = 1;
-    while (row < last && prefix.Land.Padded() > tables.Lande[static_cast<std::size_t>(row)].Pfx.Padded()) ++row;
-    return row;
+    return tables.Rows().gaPfxStart[static_cast<unsigned char>(text.front())];
 }
 
 const LandRec& CountryAt(const CountryTables& tables, int row) {
-    return tables.Lande[static_cast<std::size_t>(row)];
+    return tables.Rows().Lande[static_cast<std::size_t>(row)];
 }
 
 }  // namespace
@@ -42,15 +35,18 @@ FoundCountry FindCountry(const CountryTables& tables, std::string_view call) {
         if (found.prefixText.empty()) return found;
         prefix = tables.FindPrefix(found.prefixText, PrefixStart(tables, found.prefixText));
     }
-    if (prefix) found.row = CountryOf(tables, tables.RefPfx[static_cast<std::size_t>(*prefix)]);
+    if (prefix) found.row = tables.CountryOf(*prefix);
     return found;
 }
 
 std::optional<std::int32_t> CountryPoints(const CountryTables& tables, const FoundCountry& found, std::string_view call) {
     constexpr std::int32_t kOutsideEurope = 6;
     if (!found.row || CountryAt(tables, *found.row).Kontinent.Padded() == "EU") return std::nullopt;
-    const std::string area = std::string(call.substr(0, 3)) + ",";
-    if (kEuropeanExceptions.find(area) != std::string_view::npos) return std::nullopt;
+    // The first three characters and a comma. A shorter call is found too if one of the areas ends with it.
+    std::array<char, 4> area{};
+    const std::size_t length = call.copy(area.data(), 3);
+    area[length] = ',';
+    if (kEuropeanExceptions.find(std::string_view(area.data(), length + 1)) != std::string_view::npos) return std::nullopt;
     return kOutsideEurope;
 }
 

@@ -14,6 +14,7 @@
 #pragma once
 
 #include <array>
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -53,9 +54,8 @@ struct PfxRec {
     FixedText<2> CQzone;
 };
 
-/// Both tables. Call IndexPrefixes after changing rows of RefPfx or giRefPfx; the searches need it.
-class CountryTables {
-public:
+/// The rows of both tables.
+struct CountryRows {
     std::array<LandRec, kCountryRows + 1> Lande;
     std::array<PfxRec, kPrefixRows + 1> RefPfx;
     /// Rows in use. After a load that failed because the table is full, the row that did not fit is counted too.
@@ -63,6 +63,14 @@ public:
     std::int16_t giRefPfx = 0;
     /// Indexed by character code: the first row of RefPfx whose prefix begins with the character, 0 if there is none.
     std::array<std::int16_t, 257> gaPfxStart{};
+};
+
+/// Both tables with the indexes of their searches. After ReadPrefix call IndexPrefixes before the next search.
+class CountryTables {
+public:
+    const CountryRows& Rows() const { return rows_; }
+    /// Replaces all rows.
+    void Take(const CountryRows& rows);
 
     /// The number of rows of Lande that may be read: giLande, but at most the size of the table.
     int CountriesInUse() const;
@@ -75,11 +83,15 @@ public:
     /// FindWholeCall does.
     std::optional<int> FindPrefix(std::string_view text, int start) const;
 
-    /// Rebuilds the index of the two searches.
+    /// The row of Lande for a row of RefPfx: the first row in use whose prefix is not below the wanted one, or the last row. Lande must be
+    /// sorted by prefix: equality is not tested, so in an unsorted table the row can be that of another country.
+    int CountryOf(int prefixRow) const;
+
+    /// Rebuilds the index of FindWholeCall and FindPrefix.
     void IndexPrefixes();
 
     /// Empties the table of countries; ReadCountry then fills the rows from the first on.
-    void BeginCountries() { giLande = 0; }
+    void BeginCountries() { rows_.giLande = 0; }
     /// Adds a country from the next line of lande.txt. Fails with 9 if the table is full, with the row counted, and with 13 or 6 if
     /// the offset is not a valid number.
     void ReadCountry(std::string_view line);
@@ -98,6 +110,19 @@ private:
     /// Turns a row number into the result of a search: nothing for 0. Fails with 9 as FindWholeCall does.
     std::optional<int> FoundRow(int row) const;
 
+    /// A prefix as two numbers that compare as its text does.
+    struct SortKey {
+        std::uint64_t front = 0;
+        std::uint16_t back = 0;
+        friend auto operator<=>(const SortKey&, const SortKey&) = default;
+    };
+    static SortKey KeyOf(const FixedText<kPrefixLength>& prefix);
+    void IndexCountry(std::size_t row);
+
+    CountryRows rows_;
+    /// For each row of Lande the greatest prefix from the first row to this one. The first row whose prefix is not below a wanted one is
+    /// also the first whose greatest prefix is not, and these ascend, whether or not the table is sorted.
+    std::array<SortKey, kCountryRows + 1> greatest_{};
     std::array<std::int16_t, kBuckets> buckets_{};
     std::array<std::int16_t, kPrefixRows + 1> nextInBucket_{};
     /// First character of the prefix read last; nothing before the first read.

@@ -23,7 +23,7 @@ protected:
         desk().gsFDLib = "data";
     }
     void TearDown() override { ResetDesk(); }
-    static const LandRec& Country(int row) { return desk().tables.Lande[static_cast<std::size_t>(row)]; }
+    static const LandRec& Country(int row) { return desk().tables.Rows().Lande[static_cast<std::size_t>(row)]; }
     void Run(std::vector<std::string> lines) {
         files.files["DATA\\CTY.DAT"] = std::move(lines);
         ImporterCty();
@@ -46,7 +46,7 @@ protected:
 
 TEST_F(ImportingCountries, FillsARowForEachCountry) {
     Run({kSampleHeader, "    QQ;", "A Country With A Long Name05:  06:  OC:  -56.25:   110.50:    +5.5:  QS:", "    QS;"});
-    ASSERT_EQ(desk().tables.giLande, 2);
+    ASSERT_EQ(desk().tables.Rows().giLande, 2);
     EXPECT_EQ(Country(1).Pfx.Padded(), "QQ        ");
     EXPECT_EQ(Country(1).Navn.Trimmed(), "Fantasia");
     EXPECT_FLOAT_EQ(Country(1).Bredde, 56.0F);
@@ -76,8 +76,8 @@ TEST_F(ImportingCountries, ThePrefixesAreFoundAtOnce) {
 
 TEST_F(ImportingCountries, AnEmptyFileGivesEmptyTables) {
     Run({});
-    EXPECT_EQ(desk().tables.giLande, 0);
-    EXPECT_EQ(desk().tables.giRefPfx, 0);
+    EXPECT_EQ(desk().tables.Rows().giLande, 0);
+    EXPECT_EQ(desk().tables.Rows().giRefPfx, 0);
     EXPECT_EQ(LinesOf("DATA\\LANDE.TXT").size(), 0U);
     EXPECT_EQ(LinesOf("DATA\\REFPFX.TXT").size(), 0U);
 }
@@ -93,7 +93,7 @@ TEST_F(ImportingCountries, FiveHundredCountriesFitAndOneMoreFails) {
     std::vector<std::string> lines;
     for (int i = 0; i < 500; ++i) lines.insert(lines.end(), {kSampleHeader, "    QQ;"});
     Run(lines);
-    EXPECT_EQ(desk().tables.giLande, 500);
+    EXPECT_EQ(desk().tables.Rows().giLande, 500);
 
     files.files["DATA\\LANDE.TXT"] = {untouched[0]};
     files.files["DATA\\REFPFX.TXT"] = {untouched[1]};
@@ -123,7 +123,7 @@ TEST_F(ImportingCountries, ADamagedFileFailsBeforeAnythingIsWritten) {
     EXPECT_EQ(Failing({kSampleHeader, "    QQ,QR"}), 5);
     EXPECT_EQ(Failing({kSampleHeader, "    QQ;", "no header"}), 5);
     EXPECT_EQ(OldFiles(), untouched);
-    EXPECT_EQ(desk().tables.giLande, 0) << "nothing is in use before the whole file is read";
+    EXPECT_EQ(desk().tables.Rows().giLande, 0) << "nothing is in use before the whole file is read";
 }
 
 TEST_F(ImportingCountries, AFileThatCannotBeReadFails) {

@@ -27,8 +27,8 @@ TEST_F(LoadingTables, EmptyFilesAreReadInSilence) {
     IndlæsLande();
     IndlæsRefPfx();
     IndlæsEDR();
-    EXPECT_EQ(desk().tables.giLande, 0);
-    EXPECT_EQ(desk().tables.giRefPfx, 0);
+    EXPECT_EQ(desk().tables.Rows().giLande, 0);
+    EXPECT_EQ(desk().tables.Rows().giRefPfx, 0);
     EXPECT_EQ(desk().stations.giEDR, 0);
 }
 
@@ -49,11 +49,11 @@ TEST_F(LoadingTables, ATableThatIsTooLongIsToldAndWhatFitsStays) {
     files.files["DATA\\REFPFX.TXT"] = std::vector<std::string>(6001, "QQ        QQ        14 27");
     dialogs.Expect(kNoCountries);
     IndlæsLande();
-    EXPECT_EQ(desk().tables.giLande, 501);
+    EXPECT_EQ(desk().tables.Rows().giLande, 501);
     EXPECT_FALSE(files.IsOpen());
     dialogs.Expect(kNoPrefixes);
     IndlæsRefPfx();
-    EXPECT_EQ(desk().tables.giRefPfx, 6001);
+    EXPECT_EQ(desk().tables.Rows().giRefPfx, 6001);
     EXPECT_FALSE(files.IsOpen());
     EXPECT_EQ(desk().tables.FindWholeCall("QQ", 1), 1) << "the rows read so far are found";
 }

@@ -19,7 +19,7 @@ protected:
         const auto note = [this](int row) { rows.push_back(row); };
         countryImport.Sort(note);
         countryImport.CleanUp(note);
-        tables = countryImport.Tables();
+        tables.Take(countryImport.Rows());
     }
     /// The number of the failure that ends the import.
     int Failing(std::vector<std::string> lines) {
@@ -30,8 +30,8 @@ protected:
         }
         return 0;
     }
-    std::string Prefix(int row) const { return std::string(tables.RefPfx[static_cast<std::size_t>(row)].Pfx.Trimmed()); }
-    int Start(char c) const { return tables.gaPfxStart[static_cast<unsigned char>(c)]; }
+    std::string Prefix(int row) const { return std::string(tables.Rows().RefPfx[static_cast<std::size_t>(row)].Pfx.Trimmed()); }
+    int Start(char c) const { return tables.Rows().gaPfxStart[static_cast<unsigned char>(c)]; }
 
     CountryTables tables;
     std::vector<int> rows;
@@ -39,10 +39,12 @@ protected:
 };
 
 TEST_F(Import, IndexesTheFirstCharactersOfPrefixesThatAreNotOfFullLength) {
-    tables.gaPfxStart[static_cast<unsigned char>('Z')] = 77;
+    CountryRows before;
+    before.gaPfxStart[static_cast<unsigned char>('Z')] = 77;
+    tables.Take(before);
     // Sorted order: A123456789, A1, B123456789, C, an empty prefix.
     Run({kSampleHeader, "    C,B123456789,A1,A123456789,,;"});
-    ASSERT_EQ(tables.giRefPfx, 5);
+    ASSERT_EQ(tables.Rows().giRefPfx, 5);
     EXPECT_EQ(Prefix(1), "A123456789");
     EXPECT_EQ(Start('A'), 2) << "row 1 is passed over";
     EXPECT_EQ(Start('B'), 0);
@@ -70,7 +72,7 @@ TEST_F(Import, FiveThousandNineHundredAndNinetyNinePrefixesSurviveWhole) {
     // The last prefix comes first, so that there is something to sort.
     std::swap(lines[1], lines[599]);
     Run(lines);
-    ASSERT_EQ(tables.giRefPfx, 5999);
+    ASSERT_EQ(tables.Rows().giRefPfx, 5999);
     for (int i = 1; i <= 5999; ++i) ASSERT_EQ(Prefix(i), "C" + FourDigits(i));
 }
 
@@ -80,7 +82,7 @@ TEST_F(Import, TheSixThousandthPrefixIsLostInTheSort) {
     std::vector<std::string> lines = EntryOf(6000);
     lines[1].replace(4, 11, "C0002,C0001");
     Run(lines);
-    ASSERT_EQ(tables.giRefPfx, 6000);
+    ASSERT_EQ(tables.Rows().giRefPfx, 6000);
     for (int i = 1; i <= 5999; ++i) ASSERT_EQ(Prefix(i), "C" + FourDigits(i));
     EXPECT_EQ(Prefix(6000), "C5999");
 }
@@ -111,8 +113,8 @@ TEST_F(Import, OfADamagedFileFailsAndCountsNoRow) {
     EXPECT_EQ(Failing({kSampleHeader, "    QQ,"}), 62);
     EXPECT_EQ(Failing({kSampleHeader, "    QQ(15;"}), 5);
     EXPECT_EQ(Failing({kSampleHeader, "    QQ;", "no header"}), 5);
-    EXPECT_EQ(tables.giLande, 0);
-    EXPECT_EQ(tables.giRefPfx, 0);
+    EXPECT_EQ(tables.Rows().giLande, 0);
+    EXPECT_EQ(tables.Rows().giRefPfx, 0);
 }
 
 TEST_F(Import, TellsOfOnePrefixTooManyBeforeItFails) {
@@ -122,8 +124,8 @@ TEST_F(Import, TellsOfOnePrefixTooManyBeforeItFails) {
 
 TEST_F(Import, WritesRowsInTheColumnsOfTheFiles) {
     Run({"A Country With A Long Name05:  06:  OC:  -56.25:   110.50:    +5.5:  QS:", "    QS,QS1;"});
-    EXPECT_EQ(CountryLine(tables.Lande[1]), "QS        A Country With A Long NamOC  5.5 ");
-    const auto prefixLine = PrefixLine(tables.RefPfx[1]);
+    EXPECT_EQ(CountryLine(tables.Rows().Lande[1]), "QS        A Country With A Long NamOC  5.5 ");
+    const auto prefixLine = PrefixLine(tables.Rows().RefPfx[1]);
     EXPECT_EQ(std::string_view(prefixLine.data(), prefixLine.size()), "QS1       QS        05 06");
 }
 

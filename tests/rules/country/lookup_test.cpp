@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "codepage.h"
@@ -33,21 +34,21 @@ protected:
                                        {"VP8ADE/H", "VP8/H"},
                                        {"VP8", "VP8"}})
             Prefix(prefix, country);
-        tables.IndexPrefixes();
+        tables.Take(rows);
     }
 
     void Country(std::string_view prefix, std::string_view name, std::string_view continent) {
-        LandRec& row = tables.Lande[static_cast<std::size_t>(++tables.giLande)];
+        LandRec& row = rows.Lande[static_cast<std::size_t>(++rows.giLande)];
         row.Pfx = prefix;
         row.Navn = name;
         row.Kontinent = continent;
     }
     void Prefix(std::string_view prefix, std::string_view country) {
-        PfxRec& row = tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)];
+        PfxRec& row = rows.RefPfx[static_cast<std::size_t>(++rows.giRefPfx)];
         row.Pfx = prefix;
         row.Land = country;
-        auto& start = tables.gaPfxStart[static_cast<unsigned char>(prefix.front())];
-        if (start == 0) start = tables.giRefPfx;
+        auto& start = rows.gaPfxStart[static_cast<unsigned char>(prefix.front())];
+        if (start == 0) start = rows.giRefPfx;
     }
     std::string Result(std::string_view call, MarkAction action) { return std::string(countries.LandWkd(call, action).prefix); }
     std::optional<std::int32_t> PointsOf(std::string_view call, MarkAction action) { return countries.LandWkd(call, action).points; }
@@ -55,10 +56,12 @@ protected:
     bool Unknown(std::string_view call) const { return countries.LandStatusTekst(call).unknown; }
     int Marked() const {
         int marked = 0;
-        for (int row = 1; row <= tables.giLande; ++row) marked += countries.Wkd(row) ? 1 : 0;
+        for (int row = 1; row <= rows.giLande; ++row) marked += countries.Wkd(row) ? 1 : 0;
         return marked;
     }
 
+    CountryRows rows;
+    /// Has the rows above as they were at the last Take.
     CountryTables tables;
     WorkedCountries countries{tables};
 };
@@ -121,7 +124,7 @@ TEST_F(Lookup, TheEuropeanAreaIsReadFromTheCallAsGiven) {
 
 TEST_F(Lookup, ACallOfOneFigureCountsAsEuropean) {
     Prefix("1", "K");
-    tables.IndexPrefixes();
+    tables.Take(rows);
     EXPECT_EQ(Result("1", MarkAction::Test), "K         ");
     EXPECT_EQ(PointsOf("1", MarkAction::Test), std::nullopt);
 }
@@ -152,7 +155,7 @@ TEST_F(Lookup, ASingleCharacterIsNotReported) {
 TEST_F(Lookup, ACountryNamedUnknownCountsAsOne) {
     Country("ZZ", "ukendt land", "EU");
     Prefix("ZZ", "ZZ");
-    tables.IndexPrefixes();
+    tables.Take(rows);
     EXPECT_EQ(Status("ZZ1ABC"), "ZZ: ukendt land (EU), er nyt land.");
     EXPECT_TRUE(Unknown("ZZ1ABC"));
     EXPECT_TRUE(IsUnknown(tables, FindCountry(tables, "ZZ1ABC")));
@@ -181,7 +184,7 @@ TEST_F(Lookup, EmptyTablesKnowNoCall) {
 TEST_F(Lookup, ACountryNotInTheTableGivesItsNeighbour) {
     Prefix("F", "F");
     Prefix("ZL", "ZL");
-    tables.IndexPrefixes();
+    tables.Take(rows);
     EXPECT_EQ(Result("F5ABC", MarkAction::Test), "G         ");
     EXPECT_EQ(Result("ZL1ABC", MarkAction::Test), "VP8/H     ");
 }
@@ -196,8 +199,8 @@ TEST_F(Lookup, ClearingTheMarksForgetsEveryCountry) {
 }
 
 TEST_F(Lookup, InAFullTableOnlyAWholeRowIsFound) {
-    while (tables.giRefPfx < kPrefixRows) Prefix("YY", "K");
-    tables.IndexPrefixes();
+    while (rows.giRefPfx < kPrefixRows) Prefix("YY", "K");
+    tables.Take(rows);
     EXPECT_EQ(Result("YY", MarkAction::Test), "K         ");
     // The whole call is searched for first, and that search runs beyond the table before the prefix is tried.
     EXPECT_THROW(Result("YY1ABC", MarkAction::Test), RunTimeError);
@@ -221,8 +224,8 @@ TEST_F(Lookup, AnActionTakesEffectWhenItChangesAMark) {
 
 /// The same search as a plain scan, row by row.
 std::optional<int> Scanned(const CountryTables& tables, std::string_view s, int start, bool whole) {
-    for (int i = std::max(start, 1); i <= tables.giRefPfx; ++i) {
-        const std::string_view prefix = tables.RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed();
+    for (int i = std::max(start, 1); i <= tables.Rows().giRefPfx; ++i) {
+        const std::string_view prefix = tables.Rows().RefPfx[static_cast<std::size_t>(i)].Pfx.Trimmed();
         if (whole ? prefix == s : s.substr(0, prefix.size()) == prefix) return i;
     }
     return std::nullopt;
@@ -238,13 +241,14 @@ TEST(PrefixSearch, FindsTheRowThatAScanFinds) {
         return t;
     };
     for (int table = 0; table < 60; ++table) {
+        CountryRows rows;
+        const int count = std::uniform_int_distribution<int>(0, 80)(random);
+        while (rows.giRefPfx < count) rows.RefPfx[static_cast<std::size_t>(++rows.giRefPfx)].Pfx = text(5);
         CountryTables tables;
-        const int rows = std::uniform_int_distribution<int>(0, 80)(random);
-        for (tables.giRefPfx = 0; tables.giRefPfx < rows;) tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)].Pfx = text(5);
-        tables.IndexPrefixes();
+        tables.Take(rows);
         for (int round = 0; round < 200; ++round) {
             const std::string call = text(8);
-            const int start = std::uniform_int_distribution<int>(0, rows)(random);
+            const int start = std::uniform_int_distribution<int>(0, count)(random);
             ASSERT_EQ(tables.FindWholeCall(call, start), Scanned(tables, call, start, true)) << call << " from " << start;
             ASSERT_EQ(tables.FindPrefix(call, start), Scanned(tables, call, start, false)) << call << " from " << start;
         }
@@ -252,9 +256,10 @@ TEST(PrefixSearch, FindsTheRowThatAScanFinds) {
 }
 
 TEST(PrefixSearch, RunsOneRowBeyondAFullTable) {
+    CountryRows rows;
+    while (rows.giRefPfx < kPrefixRows) rows.RefPfx[static_cast<std::size_t>(++rows.giRefPfx)].Pfx = "DL";
     CountryTables tables;
-    for (tables.giRefPfx = 0; tables.giRefPfx < kPrefixRows;) tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)].Pfx = "DL";
-    tables.IndexPrefixes();
+    tables.Take(rows);
     EXPECT_EQ(tables.FindPrefix("DL1ABC", 1), 1);
     EXPECT_EQ(tables.FindPrefix("DL1ABC", 6000), 6000);
     for (const auto search : {&CountryTables::FindWholeCall, &CountryTables::FindPrefix}) {
@@ -268,11 +273,70 @@ TEST(PrefixSearch, RunsOneRowBeyondAFullTable) {
 }
 
 TEST(PrefixSearch, OneRowLessThanFullFindsNothingAndIsNoFailure) {
+    CountryRows rows;
+    while (rows.giRefPfx < kPrefixRows - 1) rows.RefPfx[static_cast<std::size_t>(++rows.giRefPfx)].Pfx = "DL";
     CountryTables tables;
-    for (tables.giRefPfx = 0; tables.giRefPfx < kPrefixRows - 1;) tables.RefPfx[static_cast<std::size_t>(++tables.giRefPfx)].Pfx = "DL";
-    tables.IndexPrefixes();
+    tables.Take(rows);
     EXPECT_EQ(tables.FindWholeCall("XZ9XYZ", 0), std::nullopt);
     EXPECT_EQ(tables.FindPrefix("XZ9XYZ", 0), std::nullopt);
+}
+
+/// The rule of CountryOf, row by row.
+int FirstNotBelow(const CountryRows& rows, std::string_view wanted) {
+    int row = 1;
+    while (row < rows.giLande && wanted > rows.Lande[static_cast<std::size_t>(row)].Pfx.Padded()) ++row;
+    return row;
+}
+
+TEST(CountryOfAPrefix, IsThatOfAScanInTablesOfAnyOrder) {
+    std::mt19937 random(13);
+    const auto below = [&random](int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random); };
+    const std::string_view characters = " ABZ09/\xE5\x01";
+    const auto text = [&] {
+        std::string t;
+        for (int n = below(13); n > 0; --n) t += characters[static_cast<std::size_t>(below(static_cast<int>(characters.size())))];
+        return t;
+    };
+    for (int table = 0; table < 300; ++table) {
+        CountryRows rows;
+        for (const int count = below(40); rows.giLande < count;) rows.Lande[static_cast<std::size_t>(++rows.giLande)].Pfx = text();
+        if (table % 2 == 0)
+            std::sort(rows.Lande.begin() + 1, rows.Lande.begin() + 1 + rows.giLande,
+                      [](const LandRec& a, const LandRec& b) { return a.Pfx.Padded() < b.Pfx.Padded(); });
+        for (int n = 0; n < 60; ++n) {
+            const bool known = rows.giLande > 0 && below(2) == 0;
+            PfxRec& row = rows.RefPfx[static_cast<std::size_t>(++rows.giRefPfx)];
+            if (known)
+                row.Land = rows.Lande[static_cast<std::size_t>(1 + below(rows.giLande))].Pfx;
+            else
+                row.Land = text();
+        }
+        CountryTables tables;
+        tables.Take(rows);
+        for (int prefix = 1; prefix <= rows.giRefPfx; ++prefix)
+            ASSERT_EQ(tables.CountryOf(prefix), FirstNotBelow(rows, rows.RefPfx[static_cast<std::size_t>(prefix)].Land.Padded()));
+    }
+}
+
+TEST(CountryOfAPrefix, FollowsEveryChangeOfTheCountries) {
+    CountryTables tables;
+    tables.BeginPrefixes();
+    tables.ReadPrefix("GM        GM        14 27");
+    EXPECT_EQ(tables.CountryOf(1), 1) << "there is no country at all";
+    tables.BeginCountries();
+    tables.ReadCountry("DL        Fed. Rep. of Germany     EU -1 ");
+    tables.ReadCountry("G         England                  EU  0 ");
+    EXPECT_EQ(tables.CountryOf(1), 2) << "the last row, as none has the prefix";
+    tables.ReadCountry("GM        Scotland                 EU  0 ");
+    tables.ReadCountry("K         United States            NA  5 ");
+    EXPECT_EQ(tables.CountryOf(1), 3);
+    tables.BeginCountries();
+    tables.ReadCountry("GM        Scotland                 EU  0 ");
+    tables.ReadCountry("K         United States            NA  5 ");
+    EXPECT_EQ(tables.CountryOf(1), 1);
+    tables.BeginPrefixes();
+    tables.ReadPrefix("K         K         05 08");
+    EXPECT_EQ(tables.CountryOf(1), 2);
 }
 
 }  // namespace

@@ -19,16 +19,16 @@ protected:
         tables.BeginPrefixes();
         for (const std::string& line : lines) tables.ReadPrefix(line);
     }
-    const LandRec& Country(int row) const { return tables.Lande[static_cast<std::size_t>(row)]; }
-    const PfxRec& Prefix(int row) const { return tables.RefPfx[static_cast<std::size_t>(row)]; }
-    int Start(char c) const { return tables.gaPfxStart[static_cast<unsigned char>(c)]; }
+    const LandRec& Country(int row) const { return tables.Rows().Lande[static_cast<std::size_t>(row)]; }
+    const PfxRec& Prefix(int row) const { return tables.Rows().RefPfx[static_cast<std::size_t>(row)]; }
+    int Start(char c) const { return tables.Rows().gaPfxStart[static_cast<unsigned char>(c)]; }
 
     CountryTables tables;
 };
 
 TEST_F(Tables, ReadTheColumnsOfACountry) {
     ReadCountries({"QQ        Fantasia                 EU -1 ", "QS        A Country With A LongnameOC  5.5 "});
-    ASSERT_EQ(tables.giLande, 2);
+    ASSERT_EQ(tables.Rows().giLande, 2);
     EXPECT_EQ(Country(1).Pfx.Padded(), "QQ        ");
     EXPECT_EQ(Country(1).Navn.Trimmed(), "Fantasia");
     EXPECT_EQ(Country(1).Kontinent.Padded(), "EU");
@@ -40,7 +40,7 @@ TEST_F(Tables, ReadTheColumnsOfACountry) {
 TEST_F(Tables, ReadTheColumnsOfAPrefix) {
     ReadPrefixes({"QQ1       QQ        14 27", "QQ2       QQ        15 27", "QQ8ABC    QQ        14 27", "QQ        QQ        14 27",
                   "QR        QQ        14 28"});
-    ASSERT_EQ(tables.giRefPfx, 5);
+    ASSERT_EQ(tables.Rows().giRefPfx, 5);
     EXPECT_EQ(Prefix(2).Pfx.Padded(), "QQ2       ");
     EXPECT_EQ(Prefix(2).Land.Padded(), "QQ        ");
     EXPECT_EQ(Prefix(2).CQzone.Padded(), "15");
@@ -59,11 +59,11 @@ TEST_F(Tables, RowZeroIsNeverFilled) {
 TEST_F(Tables, FiveHundredCountriesFitAndOneMoreFails) {
     std::vector<std::string> lines(500, "QQ        Fantasia                 EU -1 ");
     ReadCountries(lines);
-    EXPECT_EQ(tables.giLande, 500);
+    EXPECT_EQ(tables.Rows().giLande, 500);
 
     lines.emplace_back("QS        One Too Many             EU -1 ");
     EXPECT_THROW(ReadCountries(lines), RunTimeError);
-    EXPECT_EQ(tables.giLande, 501) << "the row that failed is counted";
+    EXPECT_EQ(tables.Rows().giLande, 501) << "the row that failed is counted";
     EXPECT_EQ(tables.CountriesInUse(), 500);
     EXPECT_EQ(Country(500).Pfx.Trimmed(), "QQ");
 }
@@ -71,18 +71,18 @@ TEST_F(Tables, FiveHundredCountriesFitAndOneMoreFails) {
 TEST_F(Tables, SixThousandPrefixesFitAndOneMoreFails) {
     std::vector<std::string> lines(6000, "QQ        QQ        14 27");
     ReadPrefixes(lines);
-    EXPECT_EQ(tables.giRefPfx, 6000);
+    EXPECT_EQ(tables.Rows().giRefPfx, 6000);
 
     lines.emplace_back("QS        QQ        14 27");
     EXPECT_THROW(ReadPrefixes(lines), RunTimeError);
-    EXPECT_EQ(tables.giRefPfx, 6001);
+    EXPECT_EQ(tables.Rows().giRefPfx, 6001);
 }
 
 TEST_F(Tables, ANumberThatCannotBeReadEndsTheLoadWithItsRow) {
     EXPECT_THROW(ReadCountries({"DL        Fed. Rep. of Germany     EU -1 ", "F         France                   EU x ",
                                 "G         England                  EU  0 "}),
                  RunTimeError);
-    EXPECT_EQ(tables.giLande, 2);
+    EXPECT_EQ(tables.Rows().giLande, 2);
     EXPECT_EQ(Country(2).Navn.Trimmed(), "France");
     EXPECT_EQ(Country(3).Pfx.Trimmed(), "");
 }
