@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "papers/error_list.h"
 
+#include <algorithm>
+#include <array>
+#include <functional>
 #include <memory_resource>
 #include <unordered_set>
 
@@ -20,6 +23,10 @@ namespace {
 /// Calls seen in a log are remembered with ten characters, cut or padded with blanks. A longer call is therefore never reported as a
 /// duplicate.
 constexpr std::size_t kRememberedCall = 10;
+using RememberedCall = FixedText<kRememberedCall>;
+struct HashOfCall {
+    std::size_t operator()(const RememberedCall& call) const { return std::hash<std::string_view>{}(call.Padded()); }
+};
 
 void WriteError(LineSink& list, std::string_view message) {
     list.Write(std::string(kIndent).append("- ").append(message));
@@ -86,8 +93,9 @@ public:
         CheckCall();
         CheckReport(kReportSent.TrimmedOf(line_), kSent);
         if (!IsNumeric(kNumberSent.TrimmedOf(line_))) Complain("Sendt QSOnr skal være numerisk."_t);
-        CheckReport(kReportReceived.TrimmedOf(line_), kReceived);
-        CheckReportAsNumber(kReportReceived.TrimmedOf(line_));
+        const std::string_view received = kReportReceived.TrimmedOf(line_);
+        CheckReport(received, kReceived);
+        CheckReportAsNumber(received);
         CheckPoints();
         CheckMultiplier();
         CheckRest();
@@ -110,7 +118,7 @@ private:
         if (call.size() < 3) Complain("Et kaldesignal skal være på mindst 3 tegn."_t);
         if (!HasDigitsAndLetters(call)) Complain("Der skal være både tal og bogstaver i et kaldesignal."_t);
         if (call.starts_with('0')) Complain("Første tegn i call'et er et nul."_t);
-        const bool remembered = !seen_.insert(LeftAligned(call, kRememberedCall)).second;
+        const bool remembered = !seen_.emplace(call).second;
         duplicate_ = remembered && call.size() <= kRememberedCall;
         if (duplicate_) Complain(call + " er en dublet!");
     }
@@ -142,7 +150,8 @@ private:
             return;
         }
         worth = stations_.EDRstnWkd(*left_.gsCall, MarkAction::Mark).value_or(worth);
-        left_.gsCall = StationCall(*left_.gsCall);
+        // As StationCall does, without a copy.
+        left_.gsCall->resize(kEdrCall, ' ');
         if (points != worth) Complain(PointsMessage(worth));
     }
 
@@ -163,7 +172,16 @@ private:
         if (ssb_ && mode != "SSB") Complain("Mode skal være SSB i SSB-log."_t);
         if (cw_ && mode != "PSK31" && mode != "CW" && mode != "RTTY" && mode != "HELL")
             Complain("Mode skal være CW, PSK31, RTTY eller HELL i CW-log."_t);
-        if (!GyldigDato(kDate.TrimmedOf(line_))) Complain("Dato skal være i formatet dd-mm-åå."_t);
+        CheckDate();
+    }
+
+    void CheckDate() {
+        const std::string_view date = kDate.TrimmedOf(line_);
+        if (date == validDate_.Trimmed() && !date.empty()) return;
+        if (GyldigDato(date))
+            validDate_ = date;
+        else
+            Complain("Dato skal være i formatet dd-mm-åå."_t);
     }
 
     WorkedCountries& countries_;
@@ -175,7 +193,9 @@ private:
     bool ssb_;
     /// Memory of the calls seen so far: a log has thousands of them, and all are freed together.
     std::pmr::monotonic_buffer_resource memory_;
-    std::pmr::unordered_set<std::string> seen_{&memory_};
+    std::pmr::unordered_set<RememberedCall, HashOfCall> seen_{&memory_};
+    /// The last date that was found valid. Nearly all contacts of a log have the same one.
+    FixedText<kDate.width> validDate_;
     std::string_view line_;
     /// Whether the line has been written above its first error.
     bool shown_ = false;
@@ -228,11 +248,11 @@ bool DanFejlQSO(LineSink& list, std::string_view line, bool QSOShown) {
 }
 
 std::optional<std::string> ValiderTid(std::string_view text, const DateTime& now) {
-    constexpr std::size_t kLength = 5;
-    if (text.size() == kLength) {
-        std::string time(text);
+    std::array<char, 5> time{};
+    if (text.size() == time.size()) {
+        std::ranges::copy(text, time.begin());
         time[2] = ':';
-        if (ParseTime(time)) return std::nullopt;
+        if (ParseTime(std::string_view(time.data(), time.size()))) return std::nullopt;
     }
     return std::string("Fejl i tidspunkt. Tidspunkt skal angives som: '").append(FormatTime(now)).append("'.");
 }

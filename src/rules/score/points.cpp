@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "score/points.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
 
 #include "call/call_analysis.h"
@@ -10,7 +12,10 @@ namespace vatro {
 
 bool ErDansk(std::string_view call) {
     constexpr std::string_view kDanishPrefixes = "5P,5Q,OU,OV,OW,OZ,XP,";
-    return !call.empty() && kDanishPrefixes.find(UpperText(call.substr(0, 2))) != std::string_view::npos;
+    const std::string_view prefix = call.substr(0, 2);
+    std::array<char, 2> upper{};
+    std::ranges::transform(prefix, upper.begin(), Upper);
+    return !call.empty() && kDanishPrefixes.find(std::string_view(upper.data(), prefix.size())) != std::string_view::npos;
 }
 
 std::int32_t EuropeanPoints(std::string_view call) {

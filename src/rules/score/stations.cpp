@@ -11,9 +11,11 @@ namespace {
 
 constexpr std::int32_t kStationPoints = 10;
 
-std::uint64_t PackedCall(std::string_view sixCharacters) {
+/// The six characters that identify a station, as a number.
+std::uint64_t PackedCall(std::string_view call) {
+    const FixedText<kEdrCall> station = call;
     std::uint64_t key = 0;
-    for (const char c : sixCharacters) key = (key << 8U) | static_cast<unsigned char>(c);
+    for (const char c : station.Padded()) key = (key << 8U) | static_cast<unsigned char>(c);
     return key;
 }
 
@@ -47,7 +49,7 @@ std::size_t Stations::RowBehind(std::size_t row, std::uint64_t call) const {
 }
 
 std::optional<std::int32_t> Stations::EDRstnWkd(std::string_view call, MarkAction action) {
-    const std::uint64_t wanted = PackedCall(StationCall(call));
+    const std::uint64_t wanted = PackedCall(call);
     std::optional<std::int32_t> points;
     for (std::size_t row = RowBehind(0, wanted); row != 0; row = RowBehind(row, wanted)) {
         points = kStationPoints;
@@ -57,7 +59,7 @@ std::optional<std::int32_t> Stations::EDRstnWkd(std::string_view call, MarkActio
 }
 
 std::optional<std::int32_t> Stations::StationPoints(std::string_view call) const {
-    if (RowBehind(0, PackedCall(StationCall(call))) == 0) return std::nullopt;
+    if (RowBehind(0, PackedCall(call)) == 0) return std::nullopt;
     return kStationPoints;
 }
 
