@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/frmStregP.h"
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
 #include "call/call_analysis.h"
 #include "frame/log_file.h"
 #include "frame/settings.h"
@@ -56,22 +60,28 @@ void FrmStregP::StoreState() {
 }
 
 void FrmStregP::IndlæsLogs() {
+    std::vector<std::string> rows;
+    for (const LogId& log : kTenLogs) std::ranges::move(indlæslog(log), std::back_inserter(rows));
+    // In the order of the list, so that each row goes to its end.
+    std::ranges::sort(rows);
     const ListBox::Filling filling(contacts);
-    for (const LogId& log : kTenLogs) indlæslog(log);
+    for (std::string& row : rows) contacts.AddItem(std::move(row));
 }
 
-void FrmStregP::indlæslog(const LogId& log) {
+std::vector<std::string> FrmStregP::indlæslog(const LogId& log) {
+    std::vector<std::string> rows;
     Files& files = platform().files;
     try {
         files.Open(1, LogPath(log.band, log.mode), FileMode::Input);
         while (!files.EndOfFile(1)) {
             const std::string line = files.LineInput(1);
-            if (!IsNote(line)) contacts.AddItem(ContactItem(log, line));
+            if (!IsNote(line)) rows.push_back(ContactItem(log, line));
         }
     } catch (const RunTimeError&) {
         // The contacts read so far are shown.
     }
     files.Close(1);
+    return rows;
 }
 
 void FrmStregP::IndsætBlanke() {

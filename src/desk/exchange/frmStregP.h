@@ -15,6 +15,9 @@
 // "-" sorts before the digits with which bands begin, so the line of dashes comes before the contacts of its call.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "forms.h"
 #include "frame/log_file.h"
 
@@ -32,8 +35,8 @@ public:
 
     /// Adds the contacts of all ten logs, read from the files.
     void IndlæsLogs();
-    /// Adds the contacts of one log. On a failure the log ends there without a message.
-    void indlæslog(const LogId& log);
+    /// Returns the contacts of one log, as rows of the list. On a failure the log ends there without a message.
+    static std::vector<std::string> indlæslog(const LogId& log);
     /// Puts a line of dashes before the contacts of each base call; the name says "insert blanks". The first item is skipped: if it is
     /// the only contact with its call, it gets no dashes and stays in the list. An empty list gets dashes without a call. Do not correct
     /// this: operators compare two such lists (docs/rules.md).

@@ -90,6 +90,20 @@ TEST_F(ErrorLists, ShowsALineOnceForAllItsErrors) {
     EXPECT_EQ(list.lines, Lines({" ", kColumns, "        abc", " "}));
 }
 
+TEST_F(ErrorLists, JudgesTheDateOfEveryContact) {
+    Lines log;
+    int number = 0;
+    for (const char* date : {"31-02-26", "05-09-26", "05-09-26", "31-02-26", "31-02-26", "", "05-09-26"}) {
+        Told told = Good();
+        const std::string call = "DL" + std::to_string(++number) + "AA";
+        told.call = call.c_str();
+        if (number > 1) told.mult = "";
+        told.date = date;
+        log.push_back(Contact(told));
+    }
+    EXPECT_EQ(FaultsIn("CW", log), Lines(4, "Dato skal være i formatet dd-mm-åå."));
+}
+
 TEST_F(ErrorLists, RunsAllRulesInTheirOrder) {
     EXPECT_EQ(FaultsIn("CW", {Contact(Good()), "25x00 0               67 -abcd 0  -x     1 G                     SSB"}),
               Lines({"Fejl i tidspunkt. Tidspunkt skal angives som: '15:00'.", "Et kaldesignal skal være på mindst 3 tegn.",
