@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "lines.h"
+
 namespace vatro {
 
 namespace fs = std::filesystem;
@@ -13,7 +15,6 @@ namespace {
 
 constexpr std::size_t kCopyBufferSize = 65'536;
 constexpr std::size_t kPieceSize = 32'768;
-constexpr std::string_view kLineEnd = "\r\n";
 
 bool EndsALine(char c) {
     return c == '\r' || c == '\n';

@@ -11,6 +11,7 @@
 #include "directory_lock.h"
 #include "errors.h"
 #include "joined.h"
+#include "lines.h"
 #include "log_text.h"
 #include "names.h"
 #include "numbers.h"
@@ -27,7 +28,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kOperators = "operator.txt";
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr int kSummerTime = -2;
 constexpr long long kHour = 3'600'000;
 /// The two clocks are read one after the other.

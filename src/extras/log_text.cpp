@@ -40,10 +40,6 @@ std::vector<Piece> Split(std::string_view content) {
     return pieces;
 }
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool LooksLikeALine(std::string_view line) {
     if (IsNote(line)) return true;
     return line.size() > 5 && IsDigit(line[0]) && IsDigit(line[1]) && IsDigit(line[3]) && IsDigit(line[4]);
@@ -131,7 +127,7 @@ bool BeginsAs(const std::vector<std::string_view>& old, const std::vector<std::s
     return changed == old.end() || std::equal(changed + 1, old.end(), other + 1, end);
 }
 
-std::string Moment(std::string_view line) {
+std::string MomentOf(std::string_view line) {
     std::string moment(kDate.TrimmedOf(line));
     if (!moment.empty()) moment += ' ';
     return moment.append(kTime.TrimmedOf(line));
@@ -236,7 +232,7 @@ LogSummary Summarise(const std::vector<std::string_view>& lines) {
     for (const std::string_view line : lines) {
         if (!IsContact(line)) continue;
         ++summary.contacts;
-        summary.last = Moment(line);
+        summary.last = MomentOf(line);
         if (summary.contacts == 1) summary.first = summary.last;
         const double number = NumericValue(kNumberSent.Of(line));
         if (number > summary.highestNumber && number < 32768) summary.highestNumber = static_cast<int>(number);

@@ -8,6 +8,7 @@
 #include "codepage.h"
 #include "errors.h"
 #include "joined.h"
+#include "lines.h"
 #include "whole_file.h"
 
 namespace vatro {
@@ -19,13 +20,8 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kCopyName = "FDkopi.txt";
-constexpr std::string_view kLineEnd = "\r\n";
 /// A size that no file can have.
 constexpr std::size_t kUnlike = static_cast<std::size_t>(-1);
-
-[[noreturn]] void Fail(Failure failure) {
-    throw RunTimeError(failure);
-}
 
 bool HasName(const fs::path& file, std::string_view name) {
     return EqualNoCase(NativeText(file.filename()), name);
@@ -142,7 +138,7 @@ void SafeFiles::CloseLeftovers() noexcept {
 /// Fails with 76 if `file` is in the log directory and that is no longer the directory that was locked.
 void SafeFiles::CheckPlace(const fs::path& file) const {
     if (!place_ || Normal(file.parent_path()) != place_->directory) return;
-    if (IdentityOf(place_->directory) != place_->identity || !place_->identity) Fail(Failure::PathNotFound);
+    if (IdentityOf(place_->directory) != place_->identity || !place_->identity) throw RunTimeError(Failure::PathNotFound);
 }
 
 void SafeFiles::ChooseDirectory(int number, std::string_view path, const fs::path& marker) {
@@ -154,7 +150,7 @@ void SafeFiles::ChooseDirectory(int number, std::string_view path, const fs::pat
         lock = std::make_unique<DirectoryLock>(surroundings_.lock);
         if (!Lock(*lock, directory)) {
             surroundings_.tellTaken();
-            Fail(Failure::PermissionDenied);
+            throw RunTimeError(Failure::PermissionDenied);
         }
     }
     disk_.Open(number, path, FileMode::Output);
@@ -170,7 +166,7 @@ void SafeFiles::Open(int number, std::string_view path, FileMode mode) {
     if (Slot* open = SlotOf(number); open != nullptr && open->mode == FileMode::Input && IsTable(open->path)) Close(number);
     const auto file = PathTo(path);
     if (!file || SlotOf(number) != nullptr) return disk_.Open(number, path, mode);
-    if (IsNoFile(*file)) Fail(Failure::PathFileAccess);
+    if (IsNoFile(*file)) throw RunTimeError(Failure::PathFileAccess);
     switch (mode) {
         case FileMode::Input:
             if (IsLogName(*file)) return OpenLogToRead(number, path, *file);
@@ -287,7 +283,7 @@ void SafeFiles::OpenToWrite(int number, std::string_view path, const fs::path& f
 std::string SafeFiles::LineInput(int number) {
     Slot* slot = SlotOf(number);
     if (slot == nullptr || !slot->content) return disk_.LineInput(number);
-    if (EndOfFile(number)) Fail(Failure::InputPastEnd);
+    if (EndOfFile(number)) throw RunTimeError(Failure::InputPastEnd);
     return std::string(slot->text.lines[slot->next++]);
 }
 
@@ -295,7 +291,7 @@ bool SafeFiles::EndOfFile(int number) {
     Slot* slot = SlotOf(number);
     if (slot == nullptr || !slot->content) return disk_.EndOfFile(number);
     if (slot->next < slot->text.lines.size()) return false;
-    if (!slot->whole) Fail(Failure::DiskNotReady);
+    if (!slot->whole) throw RunTimeError(Failure::DiskNotReady);
     Learn(slot->path, std::string_view(*slot->content).substr(0, slot->text.damagedFrom));
     return true;
 }

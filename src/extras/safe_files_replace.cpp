@@ -20,10 +20,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-[[noreturn]] void Fail(Failure failure) {
-    throw RunTimeError(failure);
-}
-
 /// The line that has changed from one version of a log to the next, or empty if none has, or more than one.
 std::string ChangedLine(const LogText& old, const LogText& now) {
     if (!GoesOn(old.lines, now.lines)) return {};
@@ -85,7 +81,7 @@ void SafeFiles::Replace(std::string_view copy, std::string_view name) {
 void SafeFiles::ReplaceLog(const fs::path& copy, const fs::path& log) {
     CheckPlace(log);
     std::error_code error;
-    if (!fs::exists(copy, error)) Fail(Failure::FileNotFound);
+    if (!fs::exists(copy, error)) throw RunTimeError(Failure::FileNotFound);
 
     const std::string now = ReadWhole(copy);
     std::size_t unseen = 0;
@@ -115,7 +111,7 @@ void SafeFiles::ReplaceLog(const fs::path& copy, const fs::path& log) {
         CopyRights(log, copy);
         corrected = ChangedLine(oldText, nowText);
     }
-    if (const int failed = RenameOver(copy, log); failed != 0) Fail(FailureOf(failed));
+    if (const int failed = RenameOver(copy, log); failed != 0) throw RunTimeError(FailureOf(failed));
     Changed(log);
     SyncDirectory(log.parent_path());
     Learn(log, now);
@@ -133,7 +129,7 @@ void SafeFiles::ReplaceLog(const fs::path& copy, const fs::path& log) {
 void SafeFiles::Copy(std::string_view from, std::string_view to) {
     const auto source = PathTo(from);
     const auto target = PathTo(to);
-    if ((source && IsNoFile(*source)) || (target && IsNoFile(*target))) Fail(Failure::PathFileAccess);
+    if ((source && IsNoFile(*source)) || (target && IsNoFile(*target))) throw RunTimeError(Failure::PathFileAccess);
     if (source && target && SizeOf(*target) > 0 && IdentityOf(*source) != IdentityOf(*target)) KeepOlderCopy(*source, *target);
     disk_.Copy(from, to);
 }

@@ -12,6 +12,7 @@
 #include "codepage.h"
 #include "errors.h"
 #include "joined.h"
+#include "lines.h"
 #include "log/ten_logs.h"
 #include "log_text.h"
 #include "names.h"
@@ -30,7 +31,6 @@ constexpr std::string_view kMarker = "vatro.kopi";
 constexpr std::string_view kMarkerText =
     "Vatro lægger her en kopi af hver log, hver gang den ændres. Slet ikke denne fil: uden den skriver Vatro intet her."_t;
 constexpr std::string_view kAside = "tidligere";
-constexpr std::string_view kLineEnd = "\r\n";
 /// An append within one block is done wholly or not at all, also when the process is killed or the disk is full.
 constexpr std::size_t kBlock = 4096;
 /// A log is read again for as long as this if it is being written.

@@ -9,6 +9,7 @@
 #include <limits>
 
 #include "codepage.h"
+#include "numbers.h"
 
 namespace vatro {
 
@@ -34,7 +35,7 @@ bool TakePrefix(std::string_view& text, std::string_view prefix) {
 
 /// Parses a text that consists of digits only.
 bool ReadDigits(std::string_view text, int& number) {
-    if (text.empty() || !std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; })) return false;
+    if (text.empty() || !std::all_of(text.begin(), text.end(), IsDigit)) return false;
     return std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc();
 }
 

@@ -7,6 +7,7 @@
 #include <cstddef>
 
 #include "codepage.h"
+#include "numbers.h"
 
 namespace vatro {
 
@@ -42,10 +43,6 @@ DateTime FromMilliseconds(long long milliseconds) {
 void AppendTwoDigits(std::string& text, int number) {
     text += static_cast<char>('0' + number / 10 % 10);
     text += static_cast<char>('0' + number % 10);
-}
-
-constexpr bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
 }
 
 /// Reads numbers and words from the front of a text, skipping blanks before each of them.

@@ -9,6 +9,9 @@
 
 namespace vatro {
 
+/// What ends a line in a file that the program writes.
+inline constexpr std::string_view kLineEnd = "\r\n";
+
 /// Lines to read, one after the other.
 class LineSource {
 public:

@@ -20,9 +20,6 @@ constexpr std::size_t kSurelyFits = 9;
 /// Any number below this has at most that many digits.
 constexpr double kSurelyFitting = 1e9;
 
-constexpr bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 constexpr bool IsSign(char c) {
     return c == '+' || c == '-';
 }

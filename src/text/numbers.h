@@ -12,6 +12,11 @@
 
 namespace vatro {
 
+/// Whether the character is one of 0 to 9.
+constexpr bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 /// The number at the front of a text, or 0 if there is none. Understands a sign, a decimal point and an exponent ("E" or "D"). Blanks,
 /// tabs and line ends are skipped, even inside the number. A number too large for a double gives infinity. Never fails.
 double NumericValue(std::string_view text);

@@ -82,7 +82,7 @@ TEST_F(DiskFilesPosixTest, AFailedCloseFreesTheNumber) {
         EXPECT_EQ(NumberOf([&] { files_.Close(1); }), 61);
     }
     EXPECT_EQ(NumberOf([&] { files_.Close(1); }), 0);
-    EXPECT_THAT(Lines(files_, At("a.txt")), ElementsAre("a"));
+    EXPECT_THAT(ReadLines(files_, At("a.txt")), ElementsAre("a"));
     WriteFile(files_, At("b.txt"), FileMode::Append, "b");
     EXPECT_EQ(Content("b.txt"), "b\r\n");
 }

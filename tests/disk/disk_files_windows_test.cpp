@@ -17,7 +17,7 @@ TEST_F(DiskFilesWindowsTest, PathsTakeEitherSlashAndTheDirectoryIsToldWithBacksl
     EXPECT_EQ(files_.Separator(), '\\');
     std::filesystem::create_directory(root_ / "log");
     WriteFile(files_, At("log\\a.txt"), FileMode::Output, "a");
-    EXPECT_THAT(Lines(files_, At("log/a.txt")), ElementsAre("a"));
+    EXPECT_THAT(ReadLines(files_, At("log/a.txt")), ElementsAre("a"));
     const auto before = std::filesystem::current_path();
     std::filesystem::current_path(root_ / "log");
     const std::string directory = files_.CurrentDirectory();

@@ -47,7 +47,7 @@ TEST_F(FaultTest, WithoutAFaultEverythingGoesThrough) {
     files_.Delete("log\\a.txt");
     EXPECT_THAT(Names("log"), ElementsAre("b.txt"));
     EXPECT_THAT(Names("floppy"), ElementsAre("c.txt"));
-    EXPECT_THAT(Lines(files_, "a:\\c.txt"), ElementsAre("a", "c"));
+    EXPECT_THAT(ReadLines(files_, "a:\\c.txt"), ElementsAre("a", "c"));
     EXPECT_EQ(files_.Separator(), '\\');
     EXPECT_EQ(files_.CurrentDirectory(), "log");
 }
@@ -135,7 +135,7 @@ TEST_F(FaultTest, DanishLettersHaveNoCase) {
 TEST_F(FaultTest, AFailingOpenLeavesTheNumberFree) {
     files_.Fail("log/a.txt", 53, Step::Open);
     EXPECT_EQ(NumberOf([&] { files_.Open(1, "log\\a.txt", FileMode::Output); }), 53);
-    EXPECT_THAT(Lines(files_, "log\\b.txt"), ElementsAre("b"));
+    EXPECT_THAT(ReadLines(files_, "log\\b.txt"), ElementsAre("b"));
     EXPECT_EQ(Content("log/a.txt"), "a\r\n");
     EXPECT_EQ(CopyFails("log\\a.txt", "a:\\a.txt"), 0);
 }
@@ -147,7 +147,7 @@ TEST_F(FaultTest, AFailingWriteLeavesTheFileAsItWas) {
     EXPECT_EQ(NumberOf([&] { files_.Print(1, "c"); }), 61);
     EXPECT_EQ(NumberOf([&] { files_.Close(1); }), 0);
     EXPECT_EQ(Content("log/a.txt"), "a\r\n");
-    EXPECT_THAT(Lines(files_, "log\\a.txt"), ElementsAre("a"));
+    EXPECT_THAT(ReadLines(files_, "log\\a.txt"), ElementsAre("a"));
 }
 
 TEST_F(FaultTest, AFailingCloseWritesNothingAndFreesTheNumber) {
@@ -157,7 +157,7 @@ TEST_F(FaultTest, AFailingCloseWritesNothingAndFreesTheNumber) {
     EXPECT_EQ(NumberOf([&] { files_.Close(1); }), 61);
     EXPECT_EQ(Content("log/a.txt"), "a\r\n");
     EXPECT_EQ(NumberOf([&] { files_.Close(1); }), 0);
-    EXPECT_THAT(Lines(files_, "log\\b.txt"), ElementsAre("b"));
+    EXPECT_THAT(ReadLines(files_, "log\\b.txt"), ElementsAre("b"));
     WriteFile(files_, "log\\b.txt", FileMode::Append, "c");
     EXPECT_EQ(Content("log/b.txt"), "b\r\nc\r\n");
 }
@@ -218,7 +218,7 @@ TEST_F(FaultTest, AfterAPowerFailureOnlyWhatWasClosedIsThere) {
     files_.Open(2, "log\\b.txt", FileMode::Input);
     files_.Abandon();
     EXPECT_EQ(Content("log/a.txt"), "a\r\nkept\r\n");
-    EXPECT_THAT(Lines(files_, "log\\b.txt"), ElementsAre("b"));
+    EXPECT_THAT(ReadLines(files_, "log\\b.txt"), ElementsAre("b"));
 }
 
 }  // namespace

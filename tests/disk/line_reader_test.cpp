@@ -35,7 +35,7 @@ protected:
     std::vector<std::string> Read(std::string_view content) {
         Put("file.txt", content);
         DiskFiles files;
-        return Lines(files, At("file.txt"));
+        return ReadLines(files, At("file.txt"));
     }
 };
 
@@ -104,11 +104,11 @@ TEST_F(LineReaderTest, ANumberBeginsAfreshWithEveryFile) {
     Put("one.txt", "first\r");
     Put("two.txt", "\nsecond");
     DiskFiles files;
-    EXPECT_THAT(Lines(files, At("one.txt")), ElementsAre("first"));
-    EXPECT_THAT(Lines(files, At("two.txt")), ElementsAre("", "second"));
+    EXPECT_THAT(ReadLines(files, At("one.txt")), ElementsAre("first"));
+    EXPECT_THAT(ReadLines(files, At("two.txt")), ElementsAre("", "second"));
     files.Open(1, At("two.txt"), FileMode::Input);
     files.Close(1);
-    EXPECT_THAT(Lines(files, At("one.txt")), ElementsAre("first"));
+    EXPECT_THAT(ReadLines(files, At("one.txt")), ElementsAre("first"));
 }
 
 #ifdef __linux__

@@ -76,7 +76,7 @@ inline void WriteFile(Files& files, std::string_view path, FileMode mode, std::s
     files.Close(1);
 }
 
-inline std::vector<std::string> Lines(Files& files, std::string_view path) {
+inline std::vector<std::string> ReadLines(Files& files, std::string_view path) {
     std::vector<std::string> lines;
     files.Open(1, path, FileMode::Input);
     while (!files.EndOfFile(1)) lines.push_back(files.LineInput(1));

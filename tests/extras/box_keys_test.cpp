@@ -3,16 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include "extras/keys.h"
+
 namespace vatro {
 namespace {
 
 using namespace std::chrono_literals;
 using enum BoxKeys::Verdict;
 
-constexpr PressedKey kLetter{.kind = KeyKind::Character};
-constexpr PressedKey kEnterKey{.kind = KeyKind::Enter};
-constexpr PressedKey kEscKey{.kind = KeyKind::Esc};
-constexpr PressedKey kSpaceKey{.kind = KeyKind::Space};
 constexpr PressedKey kAltJ{.kind = KeyKind::AccessLetter, .letter = 'J'};
 
 constexpr PressedKey Held(PressedKey key) {

@@ -3,12 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include "extras/keys.h"
+
 namespace vatro {
 namespace {
 
 using namespace std::chrono_literals;
 
-constexpr PressedKey kEnterKey{.kind = KeyKind::Enter};
 constexpr PressedKey kHeldEnter{.kind = KeyKind::Enter, .repeated = true};
 
 TEST(EntryKeys, TakeEveryEnterBeforeTheFirstContact) {
@@ -18,7 +19,6 @@ TEST(EntryKeys, TakeEveryEnterBeforeTheFirstContact) {
 }
 
 TEST(EntryKeys, SwallowTheBounceOfASpace) {
-    constexpr PressedKey kSpaceKey{.kind = KeyKind::Space};
     EntryKeys keys;
     EXPECT_FALSE(keys.Swallows(kSpaceKey, false, 10s));
     EXPECT_TRUE(keys.Swallows(kSpaceKey, false, 10s + 100ms));

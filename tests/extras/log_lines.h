@@ -25,4 +25,11 @@ inline std::string LogOf(int contacts) {
     return content;
 }
 
+/// Some lines of a log, without their ends.
+inline const std::string kOne = ContactLine(1, 1);
+inline const std::string kTwo = ContactLine(2, 2);
+inline const std::string kThree = ContactLine(3, 3);
+/// The second one, corrected.
+inline const std::string kCorrected = ContactLine(2, 2, "DL2BB");
+
 }  // namespace vatro

@@ -12,10 +12,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const std::string kOne = ContactLine(1, 1);
-const std::string kTwo = ContactLine(2, 2);
-const std::string kThree = ContactLine(3, 3);
-
 std::vector<std::string> LinesOf(std::string_view content) {
     const LogText text = ReadLogText(content);
     return {text.lines.begin(), text.lines.end()};

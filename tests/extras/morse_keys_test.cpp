@@ -3,14 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include "extras/keys.h"
+
 namespace vatro {
 namespace {
 
 using namespace std::chrono_literals;
-
-constexpr PressedKey kEnterKey{.kind = KeyKind::Enter};
-constexpr PressedKey kEscKey{.kind = KeyKind::Esc};
-constexpr PressedKey kLetter{.kind = KeyKind::Character};
 
 TEST(MorseKeys, OwnEscEnterAltSAndAltT) {
     EXPECT_TRUE(MorseKeys::Own(kEnterKey));

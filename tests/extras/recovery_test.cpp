@@ -57,9 +57,9 @@ protected:
     History history_{root_ / "log", root_ / "state", [this] { return now_; }};
 };
 
-const std::string kOne = ContactLine(1, 1) + "\r\n";
-const std::string kTwo = ContactLine(2, 2) + "\r\n";
-const std::string kCorrected = ContactLine(2, 2, "DL2BB") + "\r\n";
+const std::string kOneEnded = kOne + "\r\n";
+const std::string kTwoEnded = kTwo + "\r\n";
+const std::string kCorrectedEnded = kCorrected + "\r\n";
 
 TEST_F(RecoveryTest, FindsNothingInASoundDirectory) {
     EXPECT_THAT(Actions(), IsEmpty());
@@ -72,7 +72,7 @@ TEST_F(RecoveryTest, FindsNothingInASoundDirectory) {
 TEST_F(RecoveryTest, FindsNothingAfterAnOrdinaryCorrection) {
     // A time was corrected, so the contact is found neither by its whole line nor by its time and number; new contacts follow.
     PutVersion(LogOf(3), History::Keep::Always);
-    Put("log/FD80mSSB.txt", kOne + ContactLine(2, 59) + "\r\n" + ContactLine(3, 3) + "\r\n" + ContactLine(4, 4) + "\r\n");
+    Put("log/FD80mSSB.txt", kOneEnded + ContactLine(2, 59) + "\r\n" + ContactLine(3, 3) + "\r\n" + ContactLine(4, 4) + "\r\n");
     EXPECT_THAT(Actions(), IsEmpty());
 }
 
@@ -141,11 +141,11 @@ TEST_F(RecoveryTest, KnowsTheCopyByAnEarlierVersionOfItsLog) {
 
 TEST_F(RecoveryTest, LeavesTheLogWhenACorrectionWasInterrupted) {
     Put("log/FD80mSSB.txt", LogOf(2));
-    Put("log/FDkopi.txt", kOne + kCorrected);
+    Put("log/FDkopi.txt", kOneEnded + kCorrectedEnded);
     EXPECT_THAT(Actions(), ElementsAre(Action::KeepCopy));
     RepairOne();
     EXPECT_EQ(Content("log/FD80mSSB.txt"), LogOf(2));
-    EXPECT_THAT(Kept("FDkopi.txt"), ElementsAre(kOne + kCorrected));
+    EXPECT_THAT(Kept("FDkopi.txt"), ElementsAre(kOneEnded + kCorrectedEnded));
     EXPECT_THAT(Actions(), IsEmpty());
 }
 
@@ -160,7 +160,7 @@ TEST_F(RecoveryTest, ProposesNothingForACopyOfAnotherYear) {
 }
 
 TEST_F(RecoveryTest, TellsCwFromSsbByTheReports) {
-    std::string cw = kOne;
+    std::string cw = kOneEnded;
     cw.replace(22, 4, "599-").replace(31, 4, "599-");
     Put("log/FDkopi.txt", cw);
     const std::vector<Finding> findings = Look();
@@ -206,20 +206,20 @@ TEST_F(RecoveryTest, PutsBackWhatTheProgramHadNotSeen) {
     PutVersion(LogOf(6), History::Keep::ToMerge);
     // The program had read two lines, corrected one and logged one.
     const std::string logged = ContactLine(3, 50, "OK1AA") + "\r\n";
-    Put("log/FD80mSSB.txt", kOne + kCorrected + logged);
+    Put("log/FD80mSSB.txt", kOneEnded + kCorrectedEnded + logged);
     EXPECT_THAT(Actions(), ElementsAre(Action::MergeVersion));
     EXPECT_THAT(RepairOne(), HasSubstr("er 6, men den sidste linje har 3"));
     std::string rest;
     for (int i = 3; i <= 6; ++i) rest += ContactLine(i, i) + "\r\n";
-    EXPECT_EQ(Content("log/FD80mSSB.txt"), kOne + kCorrected + rest + logged);
-    EXPECT_THAT(Kept("FD80mSSB.txt"), ElementsAre(kOne + kCorrected + logged, LogOf(6)));
+    EXPECT_EQ(Content("log/FD80mSSB.txt"), kOneEnded + kCorrectedEnded + rest + logged);
+    EXPECT_THAT(Kept("FD80mSSB.txt"), ElementsAre(kOneEnded + kCorrectedEnded + logged, LogOf(6)));
     EXPECT_THAT(Actions(), IsEmpty());
 }
 
 TEST_F(RecoveryTest, StillProposesTheMergeAfterMoreCorrections) {
     PutVersion(LogOf(6), History::Keep::ToMerge);
     PutVersion(LogOf(2), History::Keep::ByAge);
-    Put("log/FD80mSSB.txt", kOne + kCorrected);
+    Put("log/FD80mSSB.txt", kOneEnded + kCorrectedEnded);
     EXPECT_THAT(Actions(), ElementsAre(Action::MergeVersion));
     RepairOne();
     EXPECT_EQ(ReadLogText(Content("log/FD80mSSB.txt")).lines.size(), 6U);

@@ -145,7 +145,7 @@ TEST_F(SafeFilesPosix, ADirectoryThatMayOnlyBeReadDoesNotRefuse) {
     Put("log/FD80mSSB.txt", LogOf(2));
     ASSERT_EQ(mount("tmpfs", (root_ / "log").c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, ""), 0);
     EXPECT_TRUE(files_.TakeDirectory(At("log")));
-    EXPECT_EQ(Lines(files_, At("log/FD80mSSB.txt")).size(), 2U);
+    EXPECT_EQ(ReadLines(files_, At("log/FD80mSSB.txt")).size(), 2U);
     EXPECT_EQ(NumberOf([&] { files_.Open(1, At("log/FD80mSSB.txt"), FileMode::Append); }), 70);
 }
 
@@ -180,7 +180,7 @@ TEST_F(SafeFilesPosix, NothingIsWrittenUnderAStickThatWasPulled) {
 TEST_F(SafeFilesPosix, NothingIsWrittenToAStickThatComesLate) {
     if (geteuid() != 0) GTEST_SKIP() << "skipped: file systems can only be mounted by root";
     ASSERT_TRUE(files_.TakeDirectory(At("log")));
-    EXPECT_EQ(NumberOf([&] { Lines(files_, At("log/FD80mSSB.txt")); }), 53);
+    EXPECT_EQ(NumberOf([&] { ReadLines(files_, At("log/FD80mSSB.txt")); }), 53);
     files_.CloseLeftovers();
     ASSERT_TRUE(Mount());
     Put("log/FD80mSSB.txt", LogOf(2));
@@ -192,7 +192,7 @@ TEST_F(SafeFilesPosix, AFullDiskLeavesTheLogAsItWas) {
     if (geteuid() != 0) GTEST_SKIP() << "skipped: file systems can only be mounted by root";
     ASSERT_TRUE(Mount("size=64k"));
     Put("log/FD80mSSB.txt", LogOf(200));
-    Lines(files_, At("log/FD80mSSB.txt"));
+    ReadLines(files_, At("log/FD80mSSB.txt"));
     Put("log/filler", std::string(47'000, 'x'));
     files_.Open(1, At("log/FDkopi.txt"), FileMode::Output);
     const int failed = NumberOf([&] {

@@ -38,7 +38,7 @@ protected:
         files.Close(1);
         files.Replace(At("log/FDkopi.txt"), At("log/FD80mSSB.txt"));
     }
-    std::vector<std::string> Load() { return Lines(files_, At("log/FD80mSSB.txt")); }
+    std::vector<std::string> Load() { return ReadLines(files_, At("log/FD80mSSB.txt")); }
     /// The file names of the versions of the log, without their times.
     std::vector<std::string> History() const {
         std::vector<std::string> names;
@@ -66,11 +66,6 @@ protected:
     DiskFiles disk_;
     SafeFiles files_{disk_, Surroundings()};
 };
-
-const std::string kOne = ContactLine(1, 1);
-const std::string kTwo = ContactLine(2, 2);
-const std::string kThree = ContactLine(3, 3);
-const std::string kCorrected = ContactLine(2, 2, "DL2BB");
 
 TEST_F(SafeFilesTest, ReplacesTheLogAndKeepsTheOldOne) {
     Put("log/FD80mSSB.txt", LogOf(3));
@@ -100,7 +95,7 @@ TEST_F(SafeFilesTest, ReportsEveryWriteOfALogAndItsEnd) {
     surroundings.writeEnded = [&](const fs::path& log) { calls.push_back(log.filename().string()); };
     FaultyFiles faulty(disk_);
     SafeFiles files(faulty, std::move(surroundings));
-    Lines(files, At("log/FD80mSSB.txt"));
+    ReadLines(files, At("log/FD80mSSB.txt"));
     EXPECT_THAT(calls, IsEmpty());
     WriteFile(files, At("log/FD80mSSB.txt"), FileMode::Append, kTwo);
     EXPECT_THAT(calls, ElementsAre("begins", "FD80mSSB.txt"));
@@ -268,7 +263,7 @@ TEST_F(SafeFilesTest, TellsAtTheNextContactThatTheLogHasBecomeAnother) {
         DiskFiles disk;
         SafeFiles files(disk, Surroundings());
         Put("log/FD80mSSB.txt", LogOf(3));
-        Lines(files, At("log/FD80mSSB.txt"));
+        ReadLines(files, At("log/FD80mSSB.txt"));
         if (content.empty())
             fs::remove(root_ / "log/FD80mSSB.txt");
         else
@@ -309,7 +304,7 @@ TEST_F(SafeFilesTest, TellsThatACorrectedLineIsOnTheDisk) {
     DiskFiles disk;
     SafeFiles files(disk, surroundings);
     Put("log/FD80mSSB.txt", LogOf(3));
-    Lines(files, At("log/FD80mSSB.txt"));
+    ReadLines(files, At("log/FD80mSSB.txt"));
     Rewrite(files, {kOne, kCorrected, kThree});
     EXPECT_THAT(told, ElementsAre(kCorrected));
     // Cancelling a correction writes the log again as it was.

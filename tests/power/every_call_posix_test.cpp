@@ -24,9 +24,9 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The in-memory front. At each "shot" it tells its test that the command before it has returned.
-class TellingFront : public MemoryFront {
+class TellsShot : public MemoryFront {
 public:
-    explicit TellingFront(Teller teller) : teller_(teller) {}
+    explicit TellsShot(Teller teller) : teller_(teller) {}
     void Shot(const std::string&) override { teller_.Tell(); }
 
 private:
@@ -111,7 +111,7 @@ protected:
         const Scenario scenario(kStart + events + "shot data/told.png\n");
         calls_ = RecordCalls(directory.Path(), [&](const Teller& teller) {
             const World world(directory.Path());
-            TellingFront front(teller);
+            TellsShot front(teller);
             Player player(scenario, world, front, StartProgram);
             player.Play();
             if (!scenario.Matches(player.Outputs())) _exit(1);

@@ -70,9 +70,9 @@ std::size_t KillAfter(std::chrono::microseconds wait, Life life) {
 }
 
 /// The in-memory front, which confirms each return from Enter.
-class TellingFront : public MemoryFront {
+class TellsEnter : public MemoryFront {
 public:
-    explicit TellingFront(Teller teller) : teller_(teller) {}
+    explicit TellsEnter(Teller teller) : teller_(teller) {}
     void Press(const KeyStroke& key) override {
         MemoryFront::Press(key);
         if (key.name == "Enter") teller_.Tell();
@@ -137,7 +137,7 @@ TEST_F(PowerCut, NeverLosesALineWhoseEnterHadReturned) {
         const fs::path directory = NextWorld();
         const std::size_t logged = KillAfter(Moment(60000), [&](Teller teller) {
             const World world(directory);
-            TellingFront front(teller);
+            TellsEnter front(teller);
             Player(contest, world, front, StartProgram).Play();
         });
         const std::string log = Content(directory / "log" / "FD80mSSB.txt");

@@ -26,10 +26,10 @@ TEST_F(NamesPosixTest, TheExactSpellingWins) {
     Put("LANDE.TXT", "upper");
     Put("Lande.txt", "mixed");
     Put("lande.txt", "lower");
-    EXPECT_THAT(Lines(files_, At("lande.txt")), ElementsAre("lower"));
-    EXPECT_THAT(Lines(files_, At("Lande.txt")), ElementsAre("mixed"));
+    EXPECT_THAT(ReadLines(files_, At("lande.txt")), ElementsAre("lower"));
+    EXPECT_THAT(ReadLines(files_, At("Lande.txt")), ElementsAre("mixed"));
     // Otherwise the first one in alphabetical order.
-    EXPECT_THAT(Lines(files_, At("laNDE.txt")), ElementsAre("upper"));
+    EXPECT_THAT(ReadLines(files_, At("laNDE.txt")), ElementsAre("upper"));
 }
 
 TEST_F(NamesPosixTest, TheRootIsReportedWithoutItsSeparator) {

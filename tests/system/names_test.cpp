@@ -17,21 +17,21 @@ protected:
 
 TEST_F(NamesTest, AFileIsFoundHoweverItIsSpelled) {
     Put("FD80mSSB.txt", "a\r\n");
-    EXPECT_THAT(Lines(files_, At("FD80mssb.TXT")), ElementsAre("a"));
-    EXPECT_THAT(Lines(files_, At("fd80MSSB.txt")), ElementsAre("a"));
+    EXPECT_THAT(ReadLines(files_, At("FD80mssb.TXT")), ElementsAre("a"));
+    EXPECT_THAT(ReadLines(files_, At("fd80MSSB.txt")), ElementsAre("a"));
 }
 
 TEST_F(NamesTest, DirectoriesAreFoundHoweverTheyAreSpelled) {
     std::filesystem::create_directories(root_ / "Log" / "Deep");
     Put("Log/Deep/ukendt.txt", "a\r\n");
-    EXPECT_THAT(Lines(files_, At("LOG\\deep\\Ukendt.txt")), ElementsAre("a"));
-    EXPECT_THAT(Lines(files_, At("lOG/./DEEP/../deep/UKENDT.TXT")), ElementsAre("a"));
+    EXPECT_THAT(ReadLines(files_, At("LOG\\deep\\Ukendt.txt")), ElementsAre("a"));
+    EXPECT_THAT(ReadLines(files_, At("lOG/./DEEP/../deep/UKENDT.TXT")), ElementsAre("a"));
 }
 
 TEST_F(NamesTest, DanishLettersHaveNoCaseEither) {
     std::filesystem::create_directory(root_ / PathOfUtf8("Rødovre"));
     Put("Rødovre/ÆBLEGRØD på Ål.txt", "a\r\n");
-    EXPECT_THAT(Lines(files_, At("RØDOVRE\\æblegrød PÅ ål.TXT"_t)), ElementsAre("a"));
+    EXPECT_THAT(ReadLines(files_, At("RØDOVRE\\æblegrød PÅ ål.TXT"_t)), ElementsAre("a"));
 }
 
 TEST_F(NamesTest, NewFilesGetTheirDanishNamesInUtf8) {
@@ -61,7 +61,7 @@ TEST_F(NamesTest, ACharacterOutsideTheCodePageIsMetByItsQuestionMark) {
     Put("Łódź/log.txt", "a\r\n");
     const std::string directory = NativeText(PathOfUtf8("Łódź"));
     EXPECT_EQ(directory, "?\xF3\x64?");
-    EXPECT_THAT(Lines(files_, At(directory + "/log.txt")), ElementsAre("a"));
+    EXPECT_THAT(ReadLines(files_, At(directory + "/log.txt")), ElementsAre("a"));
     WriteFile(files_, At(directory + "/new.txt"), FileMode::Output, "b");
     EXPECT_EQ(Content("Łódź/new.txt"), "b\r\n");
 }
@@ -85,7 +85,7 @@ TEST_F(NamesTest, ABareNameLiesInTheCurrentDirectory) {
     const auto before = std::filesystem::current_path();
     std::filesystem::current_path(root_);
     WriteFile(files_, "Lande.txt", FileMode::Output, "a");
-    const auto lines = Lines(files_, "LANDE.TXT");
+    const auto lines = ReadLines(files_, "LANDE.TXT");
     const std::string directory = files_.CurrentDirectory();
     std::filesystem::current_path(before);
     EXPECT_THAT(lines, ElementsAre("a"));

@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "temporary_directory.h"
+#include "threads/thread_loop.h"
 
 namespace vatro {
 
@@ -20,7 +21,6 @@ namespace {
 namespace fs = std::filesystem;
 using std::chrono::milliseconds;
 
-constexpr milliseconds kPatience{20'000};
 constexpr DateTime kNow{2026, 9, 5, 12, 7, 0, 0};
 
 CopyOutcome Done(std::size_t found = 0) {

@@ -18,7 +18,6 @@ namespace vatro {
 
 namespace {
 
-constexpr std::chrono::milliseconds kPatience{20'000};
 constexpr int kSamples = 200;
 constexpr int kHalf = kSamples / 2;
 constexpr SoundFormat kFormat{.samplesPerSecond = 44100, .samples = kSamples};

@@ -3,6 +3,7 @@
 // The sound thread for the tests, made with the standard library, and a sound system that takes no time.
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
@@ -13,6 +14,9 @@
 #include "sound_thread.h"
 
 namespace vatro {
+
+/// How long a test waits for another thread before it fails.
+inline constexpr std::chrono::milliseconds kPatience{20'000};
 
 /// The tasks that were posted to a thread and not yet run.
 class Tasks {

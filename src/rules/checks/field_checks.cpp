@@ -42,7 +42,7 @@ std::optional<std::string> CheckTime(std::string_view time) {
 }
 
 bool HasDigitsAndLetters(std::string_view call) {
-    const bool digit = std::any_of(call.begin(), call.end(), [](char c) { return c >= '0' && c <= '9'; });
+    const bool digit = std::any_of(call.begin(), call.end(), IsDigit);
     return digit && std::any_of(call.begin(), call.end(), IsLetter);
 }
 

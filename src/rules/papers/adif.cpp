@@ -3,13 +3,12 @@
 
 #include "codepage.h"
 #include "datetime.h"
+#include "lines.h"
 #include "log/contact_line.h"
 
 namespace vatro {
 
 namespace {
-
-constexpr std::string_view kLineEnd = "\r\n";
 
 /// Makes records one after the other and reuses its memory, since a contest has thousands of contacts.
 class RecordMaker {

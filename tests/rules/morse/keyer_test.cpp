@@ -2,13 +2,10 @@
 #include "morse/keyer.h"
 
 #include "rules/morse/keyed.h"
+#include "rules/morse/silence.h"
 
 namespace vatro {
 namespace {
-
-std::string Silence(int slots) {
-    return std::string(static_cast<std::size_t>(slots), ' ');
-}
 
 // --- Halves
 

@@ -7,15 +7,12 @@
 #include <string_view>
 
 #include "codepage.h"
+#include "rules/morse/silence.h"
 
 namespace vatro {
 namespace {
 
 using namespace literals;
-
-std::string Silence(int slots) {
-    return std::string(static_cast<std::size_t>(slots), ' ');
-}
 
 /// All slots of the text, without the end mark.
 std::string Slots(std::string_view text, int extraSilence = 0) {
