@@ -33,5 +33,8 @@ function(vatro_storey name)
   add_library(vatro_${name} STATIC ${sources})
   target_include_directories(vatro_${name} PUBLIC ${storey_ROOT})
   target_link_libraries(vatro_${name} PUBLIC ${storey_USES} PRIVATE vatro_options)
+  # What nearly every source includes.
+  target_precompile_headers(vatro_${name} PRIVATE <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <string> <string_view>
+    <utility> <vector>)
   vatro_check_includes(vatro_${name} ${storey_ROOT})
 endfunction()
