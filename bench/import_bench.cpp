@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
 // Imports a country file with as many prefixes as the table can hold. The files it writes stay in memory, so waiting for the
-// disk is not measured. The yardstick reads the same file and splits it into its items.
+// disk is not measured.
 #include <benchmark/benchmark.h>
 
 #include <string>
 #include <vector>
 
-#include "country/cty_file.h"
 #include "country/tables.h"
 #include "disk_files.h"
 #include "frame/state.h"
@@ -78,31 +77,9 @@ struct World {
     Unattended unattended;
 };
 
-void SplitFile(benchmark::State& state) {
-    World world;
-    Files& files = platform().files;
-    for (auto _ : state) {
-        std::vector<std::string> items;
-        files.Open(1, PathIn(desk().gsFDLib, "cty.dat"), FileMode::Input);
-        while (!files.EndOfFile(1)) {
-            const std::string headerLine = files.LineInput(1);
-            const CtyHeader header = ReadCtyHeader(headerLine);
-            std::string line;
-            do {
-                line = files.LineInput(1);
-                CtyEntryReader rest(line, header);
-                while (rest.HasMore()) items.emplace_back(rest.Next().text);
-            } while (!line.ends_with(';'));
-        }
-        files.Close(1);
-        if (items.size() != kTableRows) return state.SkipWithError("the file was not read");
-        benchmark::DoNotOptimize(items.data());
-    }
-}
-
 void Import(benchmark::State& state) {
     World world;
-    state.SetLabel("vs country file into items, at most 2");
+    state.SetLabel("vs memmem over 1 MB, at most 2");
     for (auto _ : state) {
         ImporterCty();
         if (desk().tables.Rows().giRefPfx != kTableRows) return state.SkipWithError("the file was not imported");
@@ -110,7 +87,6 @@ void Import(benchmark::State& state) {
     ResetDesk();
 }
 
-BENCHMARK(SplitFile)->Name("country file into items")->Unit(benchmark::kMicrosecond);
 BENCHMARK(Import)->Name("country file imported")->Unit(benchmark::kMicrosecond);
 
 }  // namespace

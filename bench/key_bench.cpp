@@ -1,47 +1,78 @@
 // SPDX-License-Identifier: MIT
 //
-// Measures one key press in the call field, which shows the country, the earlier contacts and the number to send. The yardstick
-// looks once at the call of every log line and once at every prefix.
-//
-// The call does not occur in the log, so the search cannot stop early. Each round presses a key, deletes the character again,
-// and makes two scans.
+// Measures the keys in the call field: a character, which shows the country, the earlier contacts and the number to send; the first
+// character for which earlier contacts are searched; and leaving the field, which looks for a duplicate. The calls do not occur in the
+// log, so no search can stop early.
 #include <benchmark/benchmark.h>
 
+#include <chrono>
+#include <string>
+
 #include "entry/frmB4.h"
-#include "entry/frmMain.h"
+#include "frame/state.h"
 #include "sample.h"
-#include "scan.h"
 #include "started_program.h"
 
 namespace vatro::bench {
 
 namespace {
 
-void ScanForKey(benchmark::State& state) {
-    const Program program(SampleLog());
-    const std::vector<std::string>& lines = frmMain->log.Items();
-    for (auto _ : state) {
-        for (const char sought : {'Q', 'Z'}) {
-            benchmark::DoNotOptimize(ScanLog(lines, sought));
-            benchmark::DoNotOptimize(ScanTable(sought));
-        }
-    }
-}
-
+/// Presses a key and deletes its character again.
 void Key(benchmark::State& state, std::string_view call) {
     Program program(SampleLog());
     program.Type(call);
     if (frmB4->earlierContacts.ListCount() != 0) return state.SkipWithError("the call stands in the log");
-    state.SetLabel("vs scan of calls and prefixes, at most 2");
+    state.SetLabel("vs memmem over 0.1 MB, at most 5");
     for (auto _ : state) {
         program.Type("Q");
         program.Press("Backspace");
     }
 }
 
-BENCHMARK(ScanForKey)->Name("scan of calls and prefixes")->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(Key, known, "DL9QQQ")->Name("key, known country")->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(Key, unknown, "QQ9QQQ")->Name("key, unknown prefix")->Unit(benchmark::kMicrosecond);
+/// Counts only the last of these keys.
+template <class Prepare, class Press>
+void LastKey(benchmark::State& state, Prepare prepare, Press press) {
+    for (auto _ : state) {
+        prepare();
+        const auto start = std::chrono::steady_clock::now();
+        press();
+        state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    }
+}
+
+void WorkedBefore(benchmark::State& state) {
+    Program program(SampleLog());
+    state.SetLabel("vs memmem over 0.1 MB, at most 2; goal 60 µs");
+    LastKey(
+        state,
+        [&] {
+            program.Press("Esc");
+            program.Type("Q");
+        },
+        [&] { program.Type("/"); });
+    if (frmB4->earlierContacts.ListCount() != 0) state.SkipWithError("the call stands in the log");
+}
+
+void Duplicate(benchmark::State& state) {
+    Program program(SampleLog());
+    state.SetLabel("vs memmem over 0.1 MB, at most 0.6; goal 20 µs");
+    char letter = 'A';
+    LastKey(
+        state,
+        [&] {
+            // The check of a call is remembered, so that each round needs another one.
+            letter = letter == 'Z' ? 'A' : static_cast<char>(letter + 1);
+            program.Press("Esc");
+            program.Type(std::string("DL9Q") + letter + "Q");
+        },
+        [&] { program.Press("Space"); });
+    if (desk().gbDupe) state.SkipWithError("the call stands in the log");
+}
+
+BENCHMARK_CAPTURE(Key, known, "DL9QQQ")->Name("key and its deletion, known country")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Key, unknown, "QQ9QQQ")->Name("key and its deletion, unknown prefix")->Unit(benchmark::kMicrosecond);
+BENCHMARK(WorkedBefore)->Name("worked-before search")->Unit(benchmark::kMicrosecond)->UseManualTime();
+BENCHMARK(Duplicate)->Name("duplicate check")->Unit(benchmark::kMicrosecond)->UseManualTime();
 
 }  // namespace
 

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// Looks up a call whose country is not found, so that both searches of the table must run to their end. The yardstick looks at
-// every prefix once.
+// Looks up countries as the status bar does: of the calls of a log, and of calls whose prefix is not in the table.
 #include <benchmark/benchmark.h>
 
+#include <string>
+#include <vector>
+
+#include "log/contact_line.h"
 #include "sample.h"
-#include "scan.h"
 #include "started_program.h"
 #include "tables/worked.h"
 
@@ -13,24 +15,36 @@ namespace vatro::bench {
 
 namespace {
 
-void ScanForCountry(benchmark::State& state) {
-    const Program program({});
-    for (auto _ : state) benchmark::DoNotOptimize(ScanTable('Q'));
+constexpr int kCalls = 1000;
+
+std::vector<std::string> SampleCalls() {
+    std::vector<std::string> calls;
+    for (const std::string& line : SampleLog(kCalls)) calls.emplace_back(kCall.TrimmedOf(line));
+    return calls;
 }
 
-void NoCountry(benchmark::State& state) {
+void LookUp(benchmark::State& state, const std::vector<std::string>& calls, bool unknown) {
     const Program program({});
-    state.SetLabel("vs scan of prefixes, at most 2");
-    CountryStatus status;
-    for (auto _ : state) {
-        status = ShownCountry("QQ9QQQ");
-        benchmark::DoNotOptimize(status.text.data());
-    }
-    if (!status.unknown) state.SkipWithError("the country was found");
+    bool wrong = false;
+    for (auto _ : state)
+        for (const std::string& call : calls) wrong = ShownCountry(call).unknown != unknown || wrong;
+    if (wrong) state.SkipWithError("another country was found");
 }
 
-BENCHMARK(ScanForCountry)->Name("scan of prefixes")->Unit(benchmark::kMicrosecond);
-BENCHMARK(NoCountry)->Name("country not found")->Unit(benchmark::kMicrosecond);
+void Countries(benchmark::State& state) {
+    state.SetLabel("vs memmem over 1 MB, at most 2");
+    LookUp(state, SampleCalls(), false);
+}
+
+void NoCountries(benchmark::State& state) {
+    state.SetLabel("vs memmem over 0.1 MB, at most 3");
+    std::vector<std::string> calls = SampleCalls();
+    for (std::string& call : calls) call.replace(0, 2, "QQ");
+    LookUp(state, calls, true);
+}
+
+BENCHMARK(Countries)->Name("countries of 1000 calls")->Unit(benchmark::kMicrosecond);
+BENCHMARK(NoCountries)->Name("countries of 1000 calls, none found")->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

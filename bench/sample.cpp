@@ -62,11 +62,11 @@ private:
 
 }  // namespace
 
-std::vector<std::string> SampleLog() {
+std::vector<std::string> SampleLog(int count) {
     CallMaker maker;
     std::vector<std::string> lines;
-    lines.reserve(kLogLines);
-    for (int number = 1; number <= kLogLines; ++number) {
+    lines.reserve(static_cast<std::size_t>(count));
+    for (int number = 1; number <= count; ++number) {
         const int minute = number % 1440;
         const auto figures = [](int n) { return TwoFigures(n / 100) + TwoFigures(n); };
         Contact qso;
@@ -84,6 +84,34 @@ std::vector<std::string> SampleLog() {
         lines.push_back(QsoLine(qso, "SSB"));
     }
     return lines;
+}
+
+std::vector<std::string> CtLog(int count) {
+    std::vector<std::string> lines{"", "", std::string(43, ' ') + "SSB"};
+    for (const std::string& line : SampleLog(count)) {
+        std::string ct = "    05-Sep-26   ";
+        ct.append(kTime.Of(line).substr(0, 2)).append(kTime.Of(line).substr(3)).append("  ");
+        ct.append(kNumberSent.Of(line)).append(std::string(9, ' '));
+        ct.append(kCall.Of(line).substr(0, 12)).append(" ").append(kReportReceived.Of(line)).append(" ").append(kNumberReceived.Of(line));
+        lines.push_back(ct);
+    }
+    return lines;
+}
+
+std::string SharedCall(const std::vector<std::string>& log) {
+    std::vector<std::string> calls;
+    for (const std::string& line : log) calls.emplace_back(kCall.TrimmedOf(line));
+    const auto holders = [&calls](std::string_view text) {
+        return std::count_if(calls.begin(), calls.end(), [text](const std::string& call) { return call.find(text) != std::string::npos; });
+    };
+    // At most this many are tried.
+    constexpr std::size_t kTries = 500;
+    for (std::size_t i = 0; i < std::min(kTries, calls.size()); ++i) {
+        const std::string& call = calls[calls.size() - 1 - i];
+        const auto sharing = holders(call.substr(0, call.size() - 1));
+        if (sharing < 50 && sharing > holders(call)) return call;
+    }
+    return calls.back();
 }
 
 void WriteTables(const fs::path& directory) {

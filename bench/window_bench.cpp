@@ -1,255 +1,182 @@
 // SPDX-License-Identifier: MIT
 //
-// Measures what the operator waits for: from the start until the window is painted, and from a key until the list is painted.
-// The yardsticks are windows of the toolkit alone.
+// Measures what the operator waits for: from the start of the program until the log is painted, from a key until the list is painted, and
+// the import of a log. The yardsticks are windows of Qt Widgets alone, in processes of their own (bare_window.cpp).
 //
-//   vatro-bench-window --paint empty               paints an empty window, prints the memory of the process in bytes and ends
-//   vatro-bench-window --paint program SETTINGS    the same for the program, with the settings in this file
+//   vatro-bench-window --import LINES    imports a CT log into a window of its own, prints the processor time of it in seconds, and ends
 #include <benchmark/benchmark.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QApplication>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QListView>
-#include <QMainWindow>
-#include <QStringListModel>
-#include <QVBoxLayout>
-#include <algorithm>
-#include <chrono>
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "application.h"
-#include "clock.h"
 #include "deliver.h"
-#include "disk_files.h"
-#include "disk_settings.h"
 #include "entry/frmB4.h"
 #include "entry/frmMain.h"
-#include "frame/start.h"
-#include "log/contact_line.h"
-#include "printer.h"
-#include "program.h"
-#include "qt_front.h"
+#include "exchange/ct_import.h"
+#include "names.h"
 #include "sample.h"
-#include "sound_card.h"
-#include "started_program.h"
-#include "unattended.h"
+#include "windows.h"
 
 namespace vatro::bench {
 
 namespace {
 
-/// Processes events until a widget has been painted.
-class UntilPainted : public QObject {
-public:
-    explicit UntilPainted(QWidget& widget) : widget_(widget) { widget.installEventFilter(this); }
-    void Wait() {
-        const auto start = std::chrono::steady_clock::now();
-        while (!painted_) {
-            QCoreApplication::processEvents();
-            if (std::chrono::steady_clock::now() - start > std::chrono::seconds(10)) throw std::runtime_error("nothing is painted");
-        }
-        // The filter sees the event before the widget does, so the widget has been painted by the next round.
-        QCoreApplication::processEvents();
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched == &widget_ && event->type() == QEvent::Paint) painted_ = true;
-        return false;
-    }
-
-private:
-    QWidget& widget_;
-    bool painted_ = false;
-};
-
-/// The part of a list that paints.
-QWidget& Surface(QWidget* widget) {
-    auto* const area = qobject_cast<QAbstractScrollArea*>(widget);
-    if (area == nullptr) throw std::runtime_error("a list without a widget");
-    return *area->viewport();
+/// The directory of this program and of those that it starts.
+std::filesystem::path Programs() {
+    return std::filesystem::read_symlink("/proc/self/exe").parent_path();
 }
 
-/// The program in its window.
-class Windows {
-public:
-    explicit Windows(const std::filesystem::path& settings) : settings_(settings) {}
-    ~Windows() {
-        if (ProgramRuns()) EndProgram();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCoreApplication::processEvents();
-    }
-    Windows(const Windows&) = delete;
-    Windows& operator=(const Windows&) = delete;
-
-    /// Returns when the log has been painted.
-    void Start() {
-        InstallPlatform(front_, {unattended_, settings_, files_, clock_, unattended_, unattended_, sound_, printer_, Version{}});
-        BeginProgram();
-        Deliver([] { StartProgram(); });
-        if (frmMain->log.ListCount() != kLogLines) throw std::runtime_error("the log was not read");
-        UntilPainted(Surface(WidgetOf(frmMain->log))).Wait();
-    }
-    QWidget* WidgetOf(const Control& control) const { return front_.WidgetOf(control); }
-
-private:
-    DiskSettings settings_;
-    QtFront front_;
-    Unattended unattended_;
-    DiskFiles files_;
-    QtClock clock_;
-    QtSound sound_;
-    QtPrinter pages_;
-    PageSurface printer_{pages_};
-};
-
-void PaintEmpty(QMainWindow& window) {
-    window.resize(800, 600);
-    window.show();
-    UntilPainted(window).Wait();
-}
-
-/// A station with the long log and the settings that point to it.
-class Station {
-public:
-    Station() {
-        DiskSettings settings(SettingsFile());
-        workplace_.Furnish(SampleLog(), settings);
-    }
-    std::filesystem::path SettingsFile() const { return workplace_.Path("vatro.conf"); }
-
-private:
-    Workplace workplace_;
-};
-
-/// Runs this program again with these arguments until it ends. The child process reports its memory.
-void RunSelf(benchmark::State& state, std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), "/proc/self/exe");
-    std::vector<char*> argv;
-    for (std::string& argument : arguments) argv.push_back(argument.data());
-    argv.push_back(nullptr);
-
+/// Runs a program to its end, with further variables in its environment. Returns what it has printed, or nothing if it has failed.
+std::string Run(const std::filesystem::path& program, std::vector<std::string> arguments, std::vector<std::string> variables = {}) {
+    arguments.insert(arguments.begin(), program.string());
+    for (char** had = environ; *had != nullptr; ++had) variables.emplace_back(*had);
+    const auto pointers = [](std::vector<std::string>& texts) {
+        std::vector<char*> all;
+        for (std::string& text : texts) all.push_back(text.data());
+        all.push_back(nullptr);
+        return all;
+    };
     int told[2];
-    if (pipe(told) != 0) return state.SkipWithError("no pipe");
+    if (pipe(told) != 0) return {};
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, told[1], STDOUT_FILENO);
+    posix_spawn_file_actions_addclose(&actions, told[0]);
+    posix_spawn_file_actions_addclose(&actions, told[1]);
     pid_t child = 0;
     int status = 1;
-    if (posix_spawn(&child, argv[0], &actions, nullptr, argv.data(), environ) == 0) waitpid(child, &status, 0);
+    if (posix_spawn(&child, arguments[0].c_str(), &actions, nullptr, pointers(arguments).data(), pointers(variables).data()) == 0)
+        waitpid(child, &status, 0);
     posix_spawn_file_actions_destroy(&actions);
-    char memory[32]{};
-    const bool heard = status == 0 && read(told[0], memory, sizeof memory - 1) > 0;
-    close(told[0]);
     close(told[1]);
-    if (!heard) return state.SkipWithError("the process has failed");
-    state.counters["bytes"] = std::stod(memory);
+    char line[64]{};
+    const bool heard = status == 0 && read(told[0], line, sizeof line - 1) > 0;
+    close(told[0]);
+    return heard ? line : "";
+}
+
+/// The time that another program prints, as that of one iteration.
+void TakeTime(benchmark::State& state, const std::string& printed) {
+    if (printed.empty()) return state.SkipWithError("the process has failed");
+    state.SetIterationTime(std::stod(printed));
+}
+
+/// Starts a program that ends itself once a list of so many rows has been painted, see probe.cpp.
+void UntilProbed(benchmark::State& state, const char* program, int rows, std::vector<std::string> variables) {
+    variables.emplace_back("QT_PLUGIN_PATH=" VATRO_PROBE);
+    variables.push_back("QT_QPA_GENERIC_PLUGINS=vatroprobe:" + std::to_string(rows));
+    double seconds = 0;
+    long kilobytes = 0;
+    if (std::sscanf(Run(Programs() / program, {}, std::move(variables)).c_str(), "%lf s %ld kB", &seconds, &kilobytes) != 2)
+        return state.SkipWithError("the process has failed");
+    state.counters["bytes"] = static_cast<double>(kilobytes) * 1024;
 }
 
 void EmptyWindow(benchmark::State& state) {
-    for (auto _ : state) RunSelf(state, {"--paint", "empty"});
+    for (auto _ : state) UntilProbed(state, "vatro-bench-empty", 0, {});
 }
 
 void StartToPainted(benchmark::State& state) {
-    const Station station;
-    state.SetLabel("vs process to an empty painted window");
-    for (auto _ : state) RunSelf(state, {"--paint", "program", station.SettingsFile().string()});
+    const Station station(SampleLog());
+    const std::filesystem::path home = station.Path("");
+    std::filesystem::create_directories(home / ".config/vatro");
+    std::filesystem::copy_file(station.SettingsFile(), home / ".config/vatro/vatro.ini");
+    std::filesystem::permissions(home, std::filesystem::perms::owner_all);
+    state.SetLabel("vs process to an empty painted window, at most 6; memory at most 2.5; memory goal 40 MiB");
+    for (auto _ : state)
+        UntilProbed(state, "vatro", kLogLines, {"HOME=" + home.string(), "XDG_CONFIG_HOME=", "XDG_RUNTIME_DIR=" + home.string()});
 }
 
-void PressKey(QWidget& field, Qt::Key key, const QString& text) {
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QCoreApplication::sendEvent(&field, &press);
-    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
-    QCoreApplication::sendEvent(&field, &release);
-}
-
-/// Presses a key that fills the list and one that empties it, and waits each time until the list is painted.
-void Keys(benchmark::State& state, QWidget& field, QWidget& list) {
-    for (auto _ : state) {
-        UntilPainted filled(list);
-        PressKey(field, Qt::Key_L, QStringLiteral("L"));
-        filled.Wait();
-        UntilPainted emptied(list);
-        PressKey(field, Qt::Key_Backspace, QStringLiteral("\b"));
-        emptied.Wait();
-    }
-}
-
-/// The number of contacts whose call contains "1L".
-int Found() {
-    const std::vector<std::string> log = SampleLog();
-    return static_cast<int>(
-        std::ranges::count_if(log, [](const std::string& line) { return kCall.Of(line).find("1L") != std::string::npos; }));
-}
-
+/// A key that fills a list with the fifty contacts that are shown at most, and one that empties it, up to the painted list.
 void BareKey(benchmark::State& state) {
-    QMainWindow window;
-    QStringListModel model;
-    auto* const content = new QWidget;
-    auto* const field = new QLineEdit;
-    auto* const list = new QListView;
-    auto* const layout = new QVBoxLayout(content);
-    layout->addWidget(list);
-    layout->addWidget(field);
-    list->setModel(&model);
-    list->setUniformItemSizes(true);
-    window.setCentralWidget(content);
-    QStringList rows;
-    for (int row = 0, found = Found(); row < found; ++row) rows.append(QStringLiteral("DL9QQQ         0001/0345 12:07"));
-    QObject::connect(field, &QLineEdit::textChanged, &model,
-                     [&](const QString& text) { model.setStringList(text.size() > 1 ? rows : QStringList()); });
-    PaintEmpty(window);
-    field->setFocus();
-    PressKey(*field, Qt::Key_1, QStringLiteral("1"));
-    Keys(state, *field, *list->viewport());
+    for (auto _ : state) TakeTime(state, Run(Programs() / "vatro-bench-empty", {"keys", "50"}));
 }
 
-void KeyToPainted(benchmark::State& state) {
-    const Station station;
+/// Completes a call that stands in the log and deletes its last character again. Both keys search the whole log and change the list.
+void KeyToPainted(benchmark::State& state, int lines, const char* label) {
+    const std::vector<std::string> log = SampleLog(lines);
+    const Station station(log);
     Windows windows(station.SettingsFile());
-    windows.Start();
-    QWidget* const field = windows.WidgetOf(frmMain->fields[kCallField]);
-    PressKey(*field, Qt::Key_1, QStringLiteral("1"));
-    PressKey(*field, Qt::Key_L, QStringLiteral("L"));
-    if (frmB4->earlierContacts.ListCount() != Found()) return state.SkipWithError("the list is not as long as the bare one");
-    PressKey(*field, Qt::Key_Backspace, QStringLiteral("\b"));
-    state.SetLabel("vs key in a bare field over a list");
-    Keys(state, *field, Surface(windows.WidgetOf(frmB4->earlierContacts)));
+    windows.Start(lines);
+    QWidget& field = *windows.WidgetOf(frmMain->fields[kCallField]);
+    QWidget& list = windows.Surface(frmB4->earlierContacts);
+    const std::string call = SharedCall(log);
+    const auto press = [&field](char key) { PressKey(field, static_cast<Qt::Key>(key), QString(QLatin1Char(key))); };
+    for (const char key : call.substr(0, call.size() - 1)) press(key);
+    const int sharing = frmB4->earlierContacts.ListCount();
+    state.SetLabel(label);
+    for (auto _ : state) {
+        UntilPainted shorter(list);
+        press(call.back());
+        shorter.Wait();
+        UntilPainted longer(list);
+        PressKey(field, Qt::Key_Backspace, QStringLiteral("\b"));
+        longer.Wait();
+    }
+    if (sharing < 2 || frmB4->earlierContacts.ListCount() != sharing) state.SkipWithError("the list has not changed");
+}
+
+void BareRows(benchmark::State& state) {
+    for (auto _ : state) TakeTime(state, Run(Programs() / "vatro-bench-empty", {"rows", "10000"}));
+}
+
+/// Imports in a process of its own, because a log that exists is never added to.
+void Import(benchmark::State& state, const char* lines, const char* label) {
+    state.SetLabel(label);
+    for (auto _ : state) TakeTime(state, Run(Programs() / "vatro-bench-window", {"--import", lines}));
+}
+
+void InOne(benchmark::internal::Benchmark* measured) {
+    measured->Iterations(1)->Unit(benchmark::kMillisecond)->UseManualTime();
 }
 
 BENCHMARK(EmptyWindow)->Name("process to an empty painted window")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(StartToPainted)->Name("process to the painted log")->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(BareKey)->Name("key in a bare field over a list")->Unit(benchmark::kMicrosecond)->UseRealTime();
-BENCHMARK(KeyToPainted)->Name("key to painted list")->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(BareKey)->Name("key and its deletion in a bare window")->Apply(InOne);
+BENCHMARK_CAPTURE(KeyToPainted, log, kLogLines, "vs key and its deletion in a bare window, at most 3")
+    ->Name("key and its deletion, painted")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+BENCHMARK_CAPTURE(KeyToPainted, long_log, 100'000, "vs key and its deletion in a bare window, at most 5; goal 32 ms")
+    ->Name("key and its deletion, painted, 100,000 lines")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+BENCHMARK(BareRows)->Name("10,000 rows added to a bare list")->Apply(InOne);
+BENCHMARK_CAPTURE(Import, short_log, "2500", "")->Name("CT log of 2,500 lines imported")->Apply(InOne);
+BENCHMARK_CAPTURE(Import, log, "10000",
+                  "vs 10,000 rows added to a bare list, at most 40; over CT log of 2,500 lines imported, at most 6; goal 2.5 s")
+    ->Name("CT log of 10,000 lines imported")
+    ->Apply(InOne);
 
-/// Resident memory of this process, in bytes.
-long Memory() {
-    std::ifstream statm("/proc/self/statm");
-    long pages = 0;
-    long resident = 0;
-    statm >> pages >> resident;
-    return resident * sysconf(_SC_PAGESIZE);
-}
-
-/// Ends the process as soon as the window is painted, without the program's own shutdown, which is not measured.
-[[noreturn]] void Paint(const std::string& settings) {
-    std::optional<QMainWindow> window;
-    std::optional<Windows> windows;
-    if (settings.empty())
-        PaintEmpty(window.emplace());
-    else
-        windows.emplace(std::filesystem::path(settings)).Start();
-    const std::string memory = std::to_string(Memory()) + "\n";
-    const bool told = write(STDOUT_FILENO, memory.data(), memory.size()) > 0;
-    _exit(told ? 0 : 1);
+/// Prints the processor time that the import takes the program itself, without the system's part.
+void ImportOnce(int lines) {
+    const Station station({});
+    Windows windows(station.SettingsFile());
+    windows.Start(0);
+    UntilQuiet();
+    const std::filesystem::path file = station.Path("felt.40");
+    WriteLines(file, CtLog(lines));
+    const auto used = [] {
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        return static_cast<double>(usage.ru_utime.tv_sec) + static_cast<double>(usage.ru_utime.tv_usec) * 1e-6;
+    };
+    const double before = used();
+    Deliver([&] { ImporterCt(NativeText(file)); });
+    UntilQuiet();
+    const double after = used();
+    if (frmMain->log.ListCount() != lines) throw std::runtime_error("contacts are missing");
+    std::printf("%.6f\n", after - before);
 }
 
 }  // namespace
@@ -260,7 +187,10 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     vatro::PrepareApplication();
-    if (argc > 2 && std::string(argv[1]) == "--paint") vatro::bench::Paint(argc > 3 ? argv[3] : "");
+    if (argc == 3 && std::string(argv[1]) == "--import") {
+        vatro::bench::ImportOnce(std::atoi(argv[2]));
+        return 0;
+    }
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
