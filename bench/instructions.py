@@ -22,7 +22,8 @@ import tempfile
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
-from ratios import replace_block
+sys.dont_write_bytecode = True
+from ratios import replace_block  # noqa: E402
 
 BENCH = Path(__file__).resolve().parent
 VALUES = BENCH / "instructions.tsv"

@@ -7,18 +7,22 @@
 //
 // waits until a list of 10,000 rows has been painted; with 0, until a window has been. It then prints one line on standard output, the
 // processor time used and the most memory held so far ("0.123 s 45678 kB"), and ends the process without any shutdown. With
-// "10000:stay" the process goes on.
+// "10000:CALL,CALL" it types these calls into the field that has the focus instead, with Esc after each, prints a line with the
+// milliseconds from each character until everything is painted, and lets the process go on.
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QEvent>
 #include <QGenericPlugin>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QTimer>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <ctime>
 #include <fstream>
 #include <string>
+#include <utility>
 
 #include <unistd.h>
 
@@ -36,11 +40,14 @@ long HighWater() {
 
 class Probe : public QObject {
 public:
-    Probe(int rows, bool stays) : rows_(rows), stays_(stays) { qApp->installEventFilter(this); }
+    Probe(int rows, QStringList calls) : rows_(rows), calls_(std::move(calls)) { qApp->installEventFilter(this); }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Paint && Awaited(watched)) {
-            qApp->removeEventFilter(this);
+        if (event->type() == QEvent::Paint && told_) {
+            // Runs when this painting, and whatever else is ready, is over.
+            QTimer::singleShot(0, this, [this] { painted_ = Clock::now(); });
+        } else if (event->type() == QEvent::Paint && Awaited(watched)) {
+            told_ = true;
             // The filter sees the event before the widget does, so the widget has been painted by the next round.
             QTimer::singleShot(0, this, [this] { Tell(); });
         }
@@ -54,7 +61,7 @@ private:
         return view != nullptr && view->viewport() == watched && view->model() != nullptr && view->model()->rowCount() == rows_;
     }
 
-    void Tell() const {
+    void Tell() {
         timespec used{};
         clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
         char line[64];
@@ -62,11 +69,50 @@ private:
                       HighWater());
         const auto length = std::strlen(line);
         const bool told = write(STDOUT_FILENO, line, length) == static_cast<ssize_t>(length);
-        if (!stays_) _exit(told ? 0 : 1);
+        if (calls_.empty()) _exit(told ? 0 : 1);
+        QTimer::singleShot(2000, this, [this] { TypeNext(); });
     }
 
+    static void Press(Qt::Key key, const QString& text) {
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QWidget* const field = QApplication::focusWidget();
+            if (field == nullptr) continue;
+            QKeyEvent event(type, key, Qt::NoModifier, text);
+            QCoreApplication::sendEvent(field, &event);
+        }
+    }
+
+    /// Types the next character, and notes a little later when the last painting was over.
+    void TypeNext() {
+        if (calls_.empty()) {
+            std::printf("%s\n", times_.c_str());
+            std::fflush(stdout);
+            return;
+        }
+        if (calls_.front().isEmpty()) {
+            calls_.removeFirst();
+            Press(Qt::Key_Escape, QStringLiteral("\x1b"));
+            QTimer::singleShot(300, this, [this] { TypeNext(); });
+            return;
+        }
+        const QChar character = calls_.front().front();
+        calls_.front().remove(0, 1);
+        const auto pressed = Clock::now();
+        painted_ = pressed;
+        Press(static_cast<Qt::Key>(character.unicode()), character);
+        QTimer::singleShot(100, this, [this, pressed] {
+            times_ += std::to_string(std::chrono::duration<double, std::milli>(painted_ - pressed).count()) + " ";
+            TypeNext();
+        });
+    }
+
+    using Clock = std::chrono::steady_clock;
+
     int rows_;
-    bool stays_;
+    QStringList calls_;
+    bool told_ = false;
+    Clock::time_point painted_;
+    std::string times_;
 };
 
 }  // namespace
@@ -78,7 +124,7 @@ class ProbePlugin : public QGenericPlugin {
 public:
     QObject* create(const QString& /*key*/, const QString& specification) override {
         const QStringList parts = specification.split(QLatin1Char(':'));
-        return new Probe(parts.value(0).toInt(), parts.value(1) == QLatin1String("stay"));
+        return new Probe(parts.value(0).toInt(), parts.value(1).split(QLatin1Char(','), Qt::SkipEmptyParts));
     }
 };
 
