@@ -75,7 +75,7 @@ void CountKeys(int lines) {
     Check(frmMain->log.ListCount() == lines + 5, "a contact is missing");
 }
 
-void CountLookups() {
+void CountCountries() {
     const Program program({});
     CountryStatus status;
     Count(
@@ -128,7 +128,7 @@ int main(int argc, char** argv) {
             vatro::bench::FurnishHome(std::filesystem::absolute(argv[2]), std::atoi(argv[3]));
             return 0;
         }
-        vatro::bench::CountLookups();
+        vatro::bench::CountCountries();
         vatro::bench::CountPapers();
         for (const int lines : {2500, 10000}) vatro::bench::CountImport(lines);
         for (int i = 1; i < argc; ++i) vatro::bench::CountKeys(std::atoi(argv[i]));

@@ -40,7 +40,7 @@ def environment(home, **more):
                    "QT_HASH_SEED": "0", "QT_LOGGING_RULES": "*=false"} | more
 
 
-def callgrind(command, home, *options, **variables):
+def profiles(command, home, *options, **variables):
     """Runs a program below valgrind and returns its profiles in the order in which they were written."""
     with tempfile.TemporaryDirectory(dir=home) as directory:
         done = subprocess.run(["setarch", "-R", "valgrind", "-q", "--tool=callgrind", *options, f"--callgrind-out-file={directory}/out",
@@ -60,7 +60,7 @@ def total(profile):
 def pieces(build, program, arguments, home):
     """The counts of the pieces of work that a program marks, see counted.h: {(name, lines): instructions}."""
     rounds = {}
-    for profile in callgrind([f"{build}/bin/{program}", *map(str, arguments)], home, "--instr-atstart=no", "--collect-atstart=no"):
+    for profile in profiles([f"{build}/bin/{program}", *map(str, arguments)], home, "--instr-atstart=no", "--collect-atstart=no"):
         mark = re.search(r"^desc: Trigger: Client Request: (.*)\|(\d+)\|(\d+)$", profile, re.M)
         if mark:
             rounds.setdefault((mark[1], int(mark[2])), []).append(total(profile) / int(mark[3]))
@@ -69,7 +69,7 @@ def pieces(build, program, arguments, home):
 
 def start(build, name, program, lines, home):
     """The whole process up to its painted window, see probe.cpp."""
-    profile = callgrind([f"{build}/bin/{program}"], home, QT_PLUGIN_PATH=f"{build}/bench/plugins",
+    profile = profiles([f"{build}/bin/{program}"], home, QT_PLUGIN_PATH=f"{build}/bench/plugins",
                         QT_QPA_GENERIC_PLUGINS=f"vatroprobe:{lines}")[-1]
     return {(name, lines): total(profile)}
 

@@ -21,7 +21,7 @@ import statistics
 import sys
 from pathlib import Path
 
-README = Path(__file__).resolve().parent / "README.md"
+PAGE = Path(__file__).resolve().parent / "README.md"
 UNITS = {"s": 1.0, "ms": 1e-3, "µs": 1e-6, "ns": 1e-9, "us": 1e-6, "MiB": 2.0**20}
 
 
@@ -124,13 +124,13 @@ def take(tables, results, name, part):
 
 def replace_block(name, text):
     """Replaces what stands between two marks in README.md: <!-- name --> and <!-- /name -->."""
-    page = README.read_text()
+    page = PAGE.read_text()
     begin, end = f"<!-- {name} -->\n", f"<!-- /{name} -->\n"
     before, found, rest = page.partition(begin)
     _, ended, after = rest.partition(end)
     if not found or not ended:
-        sys.exit(f"{README.name} has no place for the table {name}")
-    README.write_text(before + begin + "\n" + text + "\n" + end + after)
+        sys.exit(f"{PAGE.name} has no place for the table {name}")
+    PAGE.write_text(before + begin + "\n" + text + "\n" + end + after)
 
 
 def main():
