@@ -7,7 +7,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPrintDialog>
 #include <QPushButton>
 #include <QScreen>
 #include <QStandardPaths>
@@ -17,6 +16,7 @@
 #include "codepage.h"
 #include "deliver.h"
 #include "forms.h"
+#include "print_module.h"
 #include "printer.h"
 #include "program.h"
 #include "qt_front.h"
@@ -255,7 +255,16 @@ std::string QtDialogs::ChooseDirectory(const FileDialog& dialog) {
 
 void QtDialogs::SetUpPrinter() {
     if (printer_ == nullptr) throw RunTimeError(Failure::Cancelled);
-    QPrinter* const printer = printer_->Printer();
+    if (printer_->Module() == nullptr) {
+        MessageBox missing;
+        missing.text =
+            "Vatro kan ikke indlæse sin del til printere, vatro-print.\n\nUdskrifter kan gemmes som PDF-filer, indtil Vatro er installeret "
+            "igen."_t;
+        missing.icon = Icon::Exclamation;
+        Show(missing);
+        throw RunTimeError(Failure::Cancelled);
+    }
+    SystemPrinter* const printer = printer_->Printer();
     if (printer == nullptr) {
         MessageBox silent;
         silent.text = "Printserveren svarer ikke.\n\nUdskrifter kan gemmes som PDF-filer, indtil den svarer igen."_t;
@@ -263,11 +272,11 @@ void QtDialogs::SetUpPrinter() {
         Show(silent);
         throw RunTimeError(Failure::Cancelled);
     }
-    QPrintDialog chooser(printer, DialogOwner());
-    QObject::connect(&chooser, &QDialog::finished, &chooser, [] { WaitLoop::Look(); });
-    RunDialog(chooser);
+    const std::unique_ptr<QDialog> chooser = printer->MakeDialog(DialogOwner(), false);
+    QObject::connect(chooser.get(), &QDialog::finished, chooser.get(), [] { WaitLoop::Look(); });
+    RunDialog(*chooser);
     LeaveIfEnding();
-    if (chooser.result() != QDialog::Accepted) throw RunTimeError(Failure::Cancelled);
+    if (chooser->result() != QDialog::Accepted) throw RunTimeError(Failure::Cancelled);
 }
 
 void QtDialogs::ShowFailure(const RunTimeError& failure) {

@@ -6,8 +6,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSplitter>
@@ -16,9 +14,11 @@
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QTreeWidget>
+#include <memory>
 #include <utility>
 
 #include "handbook.h"
+#include "print_module.h"
 #include "readable.h"
 #include "signal_colours.h"
 #include "title_room.h"
@@ -214,11 +214,16 @@ void HelpWindow::FindAgain() {
 }
 
 void HelpWindow::PrintPage() {
-    auto* dialog = new QPrintDialog(this);
+    PrintModule* const module = LoadPrintModule();
+    if (module == nullptr) {
+        told_->setText(QStringLiteral("Vatro kan ikke indlæse sin del til printere, vatro-print."));
+        return;
+    }
+    const std::shared_ptr<SystemPrinter> printer = module->MakePrinter();
+    QDialog* const dialog = printer->MakeDialog(this, browser_->textCursor().hasSelection()).release();
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(QStringLiteral("Udskriv"));
-    dialog->setOption(QAbstractPrintDialog::PrintSelection, browser_->textCursor().hasSelection());
-    connect(dialog, qOverload<QPrinter*>(&QPrintDialog::accepted), browser_, [this](QPrinter* printer) { browser_->print(printer); });
+    connect(dialog, &QDialog::accepted, browser_, [this, printer] { browser_->print(&printer->Device()); });
     dialog->open();
 }
 

@@ -3,7 +3,6 @@
 
 #include <QDir>
 #include <QFontMetricsF>
-#include <QPrinterInfo>
 #include <utility>
 
 #include "codepage.h"
@@ -27,16 +26,19 @@ void Tell(std::string_view text) {
 
 }  // namespace
 
-QtPrinter::QtPrinter(std::function<bool()> answers) : answers_(std::move(answers)) {}
+QtPrinter::QtPrinter(std::function<bool()> answers, std::function<PrintModule*()> load)
+    : answers_(std::move(answers)), load_(std::move(load)) {}
 
 QtPrinter::~QtPrinter() = default;
 
-QPrinter* QtPrinter::Printer() const {
-    if (!answers_()) return nullptr;
-    if (!printer_) {
-        printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-        printer_->setPageSize(QPageSize(QPageSize::A4));
-    }
+PrintModule* QtPrinter::Module() const {
+    if (module_ == nullptr) module_ = load_();
+    return module_;
+}
+
+SystemPrinter* QtPrinter::Printer() const {
+    if (Module() == nullptr || !answers_()) return nullptr;
+    if (!printer_) printer_ = module_->MakePrinter();
     return printer_.get();
 }
 
@@ -47,9 +49,10 @@ void QtPrinter::PrintToFile(const QString& pdf) {
 QtPrinter::Target QtPrinter::FindTarget() const {
     if (!fixedFile_.isEmpty()) return Target::File;
     // If a file was chosen in the printer dialogue, no server is needed.
-    if (printer_ && !printer_->outputFileName().isEmpty()) return Target::Printer;
+    if (printer_ && !printer_->File().isEmpty()) return Target::Printer;
+    if (Module() == nullptr) return Target::FileForWantOfAModule;
     if (Printer() == nullptr) return Target::FileForWantOfAnAnswer;
-    return QPrinterInfo::availablePrinterNames().isEmpty() ? Target::File : Target::Printer;
+    return module_->PrinterThere() ? Target::Printer : Target::File;
 }
 
 QPagedPaintDevice& QtPrinter::Device() const {
@@ -61,7 +64,7 @@ QPagedPaintDevice& QtPrinter::Device() const {
             pdf_->setPageSize(QPageSize(QPageSize::A4));
         }
     }
-    if (target_ == Target::Printer) return *printer_;
+    if (target_ == Target::Printer) return printer_->Device();
     return *pdf_;
 }
 
@@ -103,12 +106,22 @@ QString QtPrinter::Title() const {
     return name_.empty() ? QStringLiteral("Vatro") : ToQt(name_);
 }
 
+std::string QtPrinter::TitleOfFileDialog(Target target) {
+    switch (target) {
+        case Target::FileForWantOfAnAnswer:
+            return "Printserveren svarer ikke: gem udskriften som PDF";
+        case Target::FileForWantOfAModule:
+            return "Vatros del til printere mangler: gem udskriften som PDF";
+        default:
+            return "Gem udskriften som PDF";
+    }
+}
+
 /// Empty if the user cancels.
 QString QtPrinter::AskForFile() const {
     if (!fixedFile_.isEmpty()) return fixedFile_;
     FileDialog dialog;
-    dialog.title =
-        target_ == Target::FileForWantOfAnAnswer ? "Printserveren svarer ikke: gem udskriften som PDF" : "Gem udskriften som PDF";
+    dialog.title = TitleOfFileDialog(target_);
     const QString file = Title() + QStringLiteral(".pdf");
     const QString proposed = directory();
     dialog.fileName = FromQt(proposed.isEmpty() ? file : QDir::toNativeSeparators(QDir(proposed).absoluteFilePath(file)));
@@ -136,9 +149,9 @@ bool QtPrinter::Start() {
     if (dropped_) return false;
     QPagedPaintDevice& device = Device();
     if (target_ == Target::Printer) {
-        printer_->setDocName(Title());
-        job_.file = FromQt(printer_->outputFileName());
-        job_.printer = FromQt(printer_->printerName());
+        printer_->NameJob(Title());
+        job_.file = FromQt(printer_->File());
+        job_.printer = FromQt(printer_->Name());
     } else {
         pdf_->setTitle(Title());
         const QString chosen = AskForFile();

@@ -2,19 +2,19 @@
 //
 // The desktop's printer. If there is no printer, a job becomes a PDF file, and the user is asked where to save it.
 //
-// The print server is not contacted until something is printed or the user chooses a printer. Then a separate process asks it first: a
-// server that does not answer delays a job by two seconds, and the job becomes a PDF file, too.
+// Until something is printed or the user chooses a printer, the print module is not loaded and the print server is not contacted. Then a
+// separate process asks the server first: one that does not answer delays a job by two seconds, and the job becomes a PDF file, too.
 #pragma once
 
 #include <QFile>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPrinter>
 #include <functional>
 #include <memory>
 
 #include "page.h"
 #include "paper_watch.h"
+#include "print_module.h"
 #include "print_server.h"
 
 namespace vatro {
@@ -22,13 +22,16 @@ namespace vatro {
 class QtPrinter : public PageDevice {
 public:
     /// `answers` tells whether the print server can be asked now. It is called at most once for each job.
-    explicit QtPrinter(std::function<bool()> answers = PrintServerAnswers);
+    /// `load` loads the print module or returns null.
+    explicit QtPrinter(std::function<bool()> answers = PrintServerAnswers, std::function<PrintModule*()> load = LoadPrintModule);
     ~QtPrinter() override;
     QtPrinter(const QtPrinter&) = delete;
     QtPrinter& operator=(const QtPrinter&) = delete;
 
-    /// The printer for all jobs, for use by the printer dialogue. Null if the print server does not answer.
-    QPrinter* Printer() const;
+    /// The printer for all jobs, for use by the printer dialogue. Null if the print server does not answer, or if there is no print module.
+    SystemPrinter* Printer() const;
+    /// Loads the print module if this has not been done; null if that is not possible.
+    PrintModule* Module() const;
     /// Sends all jobs to this file, without asking any server.
     void PrintToFile(const QString& pdf);
     /// Returns the directory that is proposed for PDF files, or an empty text; replaceable.
@@ -47,13 +50,16 @@ public:
     void EndJob() override;
 
 private:
-    /// Where the current job goes. FileForWantOfAnAnswer: to a PDF file, because the print server does not answer.
-    enum class Target { Unknown, Printer, File, FileForWantOfAnAnswer };
+    /// Where the current job goes. FileForWantOfAnAnswer: to a PDF file, because the print server does not answer. FileForWantOfAModule: to
+    /// a PDF file, because the print module is missing.
+    enum class Target { Unknown, Printer, File, FileForWantOfAnAnswer, FileForWantOfAModule };
 
     Target FindTarget() const;
     /// The device of the current job. The first call decides between printer and file, because text is measured before any is printed.
     QPagedPaintDevice& Device() const;
     QFont FontOnPaper(const Font& font) const;
+    /// Says why the job does not go to a printer, where that needs saying.
+    static std::string TitleOfFileDialog(Target target);
     QString AskForFile() const;
     bool Start();
     /// The job cannot be printed: tells the user.
@@ -61,9 +67,11 @@ private:
     QString Title() const;
 
     std::function<bool()> answers_;
+    std::function<PrintModule*()> load_;
+    mutable PrintModule* module_ = nullptr;
     mutable Target target_ = Target::Unknown;
     /// Created when the server answers for the first time.
-    mutable std::unique_ptr<QPrinter> printer_;
+    mutable std::unique_ptr<SystemPrinter> printer_;
     mutable QFile file_;
     /// Writes to file_.
     mutable std::unique_ptr<QPdfWriter> pdf_;

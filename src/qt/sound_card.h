@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The desktop's sound card, through Qt Multimedia.
+// The desktop's sound card, through Qt Multimedia, which is loaded when the card is opened for the first time.
 //
 // All calls to the sound system are made on a separate thread (platform/sound_thread.h), so that a busy program does not interrupt the
 // sound and a slow sound system does not block the program. Calls from the program return at once; notifications come back as events on
@@ -14,12 +14,14 @@
 
 #include "sound.h"
 #include "sound_buffers.h"
+#include "sound_module.h"
 
 namespace vatro {
 
 class QtSound : public Sound {
 public:
-    QtSound();
+    /// `load` loads the module or returns null; it is called on the sound thread.
+    explicit QtSound(std::function<SoundModule*()> load = LoadSoundModule);
     /// Stops all sound. Buffers and devices may outlive this object; they are silent from then on.
     ~QtSound() override;
 
@@ -30,6 +32,7 @@ public:
 private:
     void RunSignals();
 
+    std::function<SoundModule*()> load_;
     SoundEvent lastEvent_ = 0;
     std::map<SoundEvent, std::function<void(SoundEvent)>> events_;
     std::deque<SoundSignal> signals_;

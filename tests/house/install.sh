@@ -22,7 +22,9 @@ prefix="$work/a prefix"
 bin/vatro
 bin/vatro-cty
 libexec/vatro/vatro
+libexec/vatro/vatro-print.so
 libexec/vatro/vatro-printers
+libexec/vatro/vatro-sound.so
 share/applications/dk.vatro.Vatro.desktop
 share/doc/vatro/LicenseRef-country-file.txt
 share/doc/vatro/changelog.gz

@@ -130,16 +130,53 @@ TEST_F(Printer, OffersAPdfWhenThePrintServerDoesNotAnswer) {
     EXPECT_EQ(dialogs.asked.at(0).title, "Printserveren svarer ikke: gem udskriften som PDF");
 }
 
+TEST_F(Printer, OffersAPdfAndAsksNoServerWithoutThePrintModule) {
+    int asked = 0;
+    QtPrinter lacking(
+        [&asked] {
+            ++asked;
+            return true;
+        },
+        []() -> PrintModule* { return nullptr; });
+    PageSurface surface(lacking);
+    dialogs.chosen = File("lacking.pdf");
+    surface.Print("80m CW");
+    surface.EndDoc();
+    EXPECT_EQ(asked, 0);
+    EXPECT_EQ(lacking.Printer(), nullptr);
+    EXPECT_TRUE(IsPdf(File("lacking.pdf")));
+    EXPECT_EQ(dialogs.asked.at(0).title, "Vatros del til printere mangler: gem udskriften som PDF");
+}
+
+TEST_F(Printer, LoadsThePrintModuleWithTheFirstJob) {
+    int loaded = 0;
+    QtPrinter pages([] { return false; },
+                    [&loaded] {
+                        ++loaded;
+                        return LoadPrintModule();
+                    });
+    PageSurface surface(pages);
+    EXPECT_EQ(loaded, 0);
+    dialogs.chosen = File("first.pdf");
+    for (int job = 0; job < 2; ++job) {
+        surface.Print("80m CW");
+        surface.EndDoc();
+    }
+    EXPECT_EQ(loaded, 1);
+    EXPECT_NE(pages.Module(), nullptr);
+}
+
 TEST_F(Printer, MeasuresTheSameOnEveryPaper) {
     QtPrinter silent([] { return false; });
     const Font font{"Courier New", 10};
     EXPECT_GT(silent.TextWidth("0123456789", font), 0);
     EXPECT_DOUBLE_EQ(silent.TextWidth("0123456789", font), pages_.TextWidth("0123456789", font));
     EXPECT_DOUBLE_EQ(silent.TextHeight(font), pages_.TextHeight(font));
-    const QPrinter* device = pages_.Printer();
-    ASSERT_NE(device, nullptr);
-    EXPECT_DOUBLE_EQ(silent.Width(), device->pageRect(QPrinter::Point).width());
-    EXPECT_DOUBLE_EQ(silent.Height(), device->pageRect(QPrinter::Point).height());
+    SystemPrinter* const printer = pages_.Printer();
+    ASSERT_NE(printer, nullptr);
+    const QRectF onPrinter = printer->Device().pageLayout().paintRectPoints();
+    EXPECT_DOUBLE_EQ(silent.Width(), onPrinter.width());
+    EXPECT_DOUBLE_EQ(silent.Height(), onPrinter.height());
 }
 
 TEST(PrintServer, AnswersWhereThereIsNone) {

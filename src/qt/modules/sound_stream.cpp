@@ -8,8 +8,6 @@
 #include <QMediaDevices>
 #include <utility>
 
-#include "ends.h"
-
 namespace vatro {
 
 namespace {
@@ -29,7 +27,7 @@ bool QtSoundStream::DeviceThere() {
     return !QMediaDevices::defaultAudioOutput().isNull();
 }
 
-QtSoundStream::QtSoundStream() {
+QtSoundStream::QtSoundStream(std::function<void()> opened) : opened_(std::move(opened)) {
     feeding_.setTimerType(Qt::PreciseTimer);
     feeding_.setInterval(kFeedMilliseconds);
     QObject::connect(&feeding_, &QTimer::timeout, &feeding_, [this] { feed_(); });
@@ -50,9 +48,7 @@ bool QtSoundStream::Open(int samplesPerSecond) {
     sink_ = std::make_unique<QAudioSink>(device, format);
     sink_->setBufferSize(format.bytesForDuration(kAheadMilliseconds * kMicrosecondsPerMillisecond));
     input_ = sink_->start();
-    // The sound system's own exit handler can crash while sound is playing.
-    static const bool storesFirst = (StoreBeforeExitHandlersSoFar(), true);
-    static_cast<void>(storesFirst);
+    opened_();
     return input_ != nullptr;
 }
 

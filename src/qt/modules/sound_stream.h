@@ -17,7 +17,7 @@ public:
     /// Whether there is an output device. Asks the sound system, which may take some time.
     static bool DeviceThere();
 
-    QtSoundStream();
+    explicit QtSoundStream(std::function<void()> opened);
     ~QtSoundStream() override;
     QtSoundStream(const QtSoundStream&) = delete;
     QtSoundStream& operator=(const QtSoundStream&) = delete;
@@ -37,6 +37,7 @@ private:
     /// Null while no output device is open.
     std::unique_ptr<QAudioSink> sink_;
     QIODevice* input_ = nullptr;
+    std::function<void()> opened_;
     std::function<void()> feed_;
     QTimer feeding_;
 };
