@@ -11,6 +11,10 @@ namespace {
 
 /// Pause between two attempts to find a device again.
 constexpr std::chrono::milliseconds kRetry{1000};
+/// Pause between two feeds, a third of what a stream is kept ahead.
+constexpr std::chrono::milliseconds kFeed{50};
+/// Pause before the next look at a passing that is due: the sound system tells its position in steps.
+constexpr std::chrono::milliseconds kSoon{10};
 constexpr long long kMillisecondsPerSecond = 1000;
 constexpr long long kMicrosecondsPerSecond = 1'000'000;
 
@@ -39,7 +43,7 @@ void SoundPlayer::Play(Clock::time_point asked) {
     if (playing_) return;
     playing_ = true;
     Begin(static_cast<long long>(course_.At(heard_)));
-    stream_->StartFeeding([this] { Feed(); });
+    stream_->StartFeeding([this] { return Feed(); });
     stream_->TellStarted(Clock::now() - asked);
 }
 
@@ -72,7 +76,7 @@ bool SoundPlayer::FillStream() {
     return true;
 }
 
-void SoundPlayer::Feed() {
+std::chrono::milliseconds SoundPlayer::Feed() {
     if (!stream_->IsOpen()) {
         TellPassings();
         if (Unheard() >= kRetry) Begin(static_cast<long long>(course_.At(Heard())));
@@ -87,6 +91,7 @@ void SoundPlayer::Feed() {
     } else {
         TellPassings();
     }
+    return std::clamp(UntilPassing(), kSoon, kFeed);
 }
 
 long long SoundPlayer::Heard() {
@@ -101,6 +106,13 @@ long long SoundPlayer::Heard() {
 
 std::chrono::milliseconds SoundPlayer::Unheard() const {
     return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - unheardSince_);
+}
+
+std::chrono::milliseconds SoundPlayer::UntilPassing() const {
+    const auto next = course_.Next();
+    if (!next) return kFeed;
+    // Rounded up, so that the sample has been heard to its end by then.
+    return std::chrono::milliseconds((next->played - heard_) * kMillisecondsPerSecond / samplesPerSecond_ + 1);
 }
 
 void SoundPlayer::TellPassings() {

@@ -36,8 +36,8 @@ public:
     virtual std::optional<std::size_t> Write(std::span<const std::int16_t> samples) = 0;
     /// How much sound has been heard since Open, in microseconds. The stream must be open.
     virtual long long HeardMicroseconds() const = 0;
-    /// Calls `feed` every few milliseconds until StopFeeding.
-    virtual void StartFeeding(std::function<void()> feed) = 0;
+    /// Calls `feed` soon, and each time again when the time that it has returned is over, until StopFeeding.
+    virtual void StartFeeding(std::function<std::chrono::milliseconds()> feed) = 0;
     virtual void StopFeeding() = 0;
     /// For the stream's log: how long after the program's request the first samples were handed over.
     virtual void TellStarted(std::chrono::nanoseconds sinceAsked) = 0;
@@ -72,8 +72,11 @@ private:
     void Begin(long long sample);
     /// Hands over as many samples as the sound system accepts; false if the device has disappeared.
     bool FillStream();
-    void Feed();
+    /// Returns when it wants to be called again.
+    std::chrono::milliseconds Feed();
     void TellPassings();
+    /// How long until the next passing is heard, if nothing delays the sound.
+    std::chrono::milliseconds UntilPassing() const;
     /// Number of samples heard since playback began. Without a device, the number that would have been heard in the time since then.
     long long Heard();
     /// How long playback has been running without a device.

@@ -96,7 +96,7 @@ long long SpeakerStream::HeardMicroseconds() const {
     return (written_ * kPerSecond + samplesPerSecond_ - 1) / samplesPerSecond_;
 }
 
-void SpeakerStream::StartFeeding(std::function<void()> feed) {
+void SpeakerStream::StartFeeding(std::function<std::chrono::milliseconds()> feed) {
     ThreadLoop::Feeds().emplace_back(this, std::move(feed));
 }
 

@@ -77,7 +77,7 @@ public:
     std::optional<std::size_t> Room() override;
     std::optional<std::size_t> Write(std::span<const std::int16_t> samples) override;
     long long HeardMicroseconds() const override;
-    void StartFeeding(std::function<void()> feed) override;
+    void StartFeeding(std::function<std::chrono::milliseconds()> feed) override;
     void StopFeeding() override;
     void TellStarted(std::chrono::nanoseconds /*sinceAsked*/) override {}
     void TellGone() override {}

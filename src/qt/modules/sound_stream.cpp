@@ -17,7 +17,6 @@ Q_LOGGING_CATEGORY(lcSound, "vatro.sound", QtWarningMsg)
 /// How far the sound system is kept ahead of what is heard: enough for a busy machine, yet short compared with the half second between
 /// refills.
 constexpr int kAheadMilliseconds = 150;
-constexpr int kFeedMilliseconds = 10;
 constexpr int kMicrosecondsPerMillisecond = 1000;
 constexpr int kSampleBytes = sizeof(std::int16_t);
 
@@ -29,8 +28,8 @@ bool QtSoundStream::DeviceThere() {
 
 QtSoundStream::QtSoundStream(std::function<void()> opened) : opened_(std::move(opened)) {
     feeding_.setTimerType(Qt::PreciseTimer);
-    feeding_.setInterval(kFeedMilliseconds);
-    QObject::connect(&feeding_, &QTimer::timeout, &feeding_, [this] { feed_(); });
+    feeding_.setSingleShot(true);
+    QObject::connect(&feeding_, &QTimer::timeout, &feeding_, [this] { feeding_.start(feed_()); });
 }
 
 QtSoundStream::~QtSoundStream() {
@@ -77,9 +76,9 @@ long long QtSoundStream::HeardMicroseconds() const {
     return sink_->processedUSecs();
 }
 
-void QtSoundStream::StartFeeding(std::function<void()> feed) {
+void QtSoundStream::StartFeeding(std::function<std::chrono::milliseconds()> feed) {
     feed_ = std::move(feed);
-    feeding_.start();
+    feeding_.start(0);
 }
 
 void QtSoundStream::StopFeeding() {

@@ -28,7 +28,7 @@ public:
     std::optional<std::size_t> Room() override;
     std::optional<std::size_t> Write(std::span<const std::int16_t> samples) override;
     long long HeardMicroseconds() const override;
-    void StartFeeding(std::function<void()> feed) override;
+    void StartFeeding(std::function<std::chrono::milliseconds()> feed) override;
     void StopFeeding() override;
     void TellStarted(std::chrono::nanoseconds sinceAsked) override;
     void TellGone() override;
@@ -38,7 +38,7 @@ private:
     std::unique_ptr<QAudioSink> sink_;
     QIODevice* input_ = nullptr;
     std::function<void()> opened_;
-    std::function<void()> feed_;
+    std::function<std::chrono::milliseconds()> feed_;
     QTimer feeding_;
 };
 
