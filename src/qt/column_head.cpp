@@ -78,13 +78,11 @@ QStringList ColumnHead::Texts() const {
     return caption_.split(words_ ? blank : blanks, Qt::SkipEmptyParts);
 }
 
-QFont ColumnHead::HeadFont() const {
+QFont ColumnHead::HeadFont(const QStringList& texts, const QList<int>& places) const {
     if (list_.isEmpty()) return font();
     constexpr double kLargest = 0.9;
     constexpr double kSmallest = 0.6;
     constexpr double kStep = 0.05;
-    const QStringList texts = Texts();
-    const QList<int> places = Places();
     QFont head = font();
     for (double part = kLargest; part > kSmallest; part -= kStep) {
         head.setPointSizeF(font().pointSizeF() * part);
@@ -100,9 +98,15 @@ QFont ColumnHead::HeadFont() const {
 }
 
 QList<ColumnHead::Piece> ColumnHead::Pieces() const {
-    const QFontMetrics metrics(HeadFont());
+    return LaidOut().pieces;
+}
+
+ColumnHead::Layout ColumnHead::LaidOut() const {
     const QStringList texts = Texts();
-    const QList<int> places = spread_ ? SpreadPlaces(texts, metrics) : Places();
+    QList<int> places = Places();
+    const QFont head = HeadFont(texts, places);
+    const QFontMetrics metrics(head);
+    if (spread_) places = SpreadPlaces(texts, metrics);
     QList<Piece> pieces;
     int end = 0;
     for (qsizetype i = 0; i < texts.size(); ++i) {
@@ -111,15 +115,16 @@ QList<ColumnHead::Piece> ColumnHead::Pieces() const {
         pieces.append({texts[i], x});
         end = x + metrics.size(Qt::TextShowMnemonic, texts[i]).width() + metrics.horizontalAdvance(u' ');
     }
-    return pieces;
+    return {head, pieces};
 }
 
 void ColumnHead::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setFont(HeadFont());
+    const Layout layout = LaidOut();
+    const QList<Piece>& pieces = layout.pieces;
+    painter.setFont(layout.font);
     int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine | Qt::TextShowMnemonic;
     if (style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) == 0) flags |= Qt::TextHideMnemonic;
-    const QList<Piece> pieces = Pieces();
     if (!list_.isEmpty()) {
         // Heads of narrow columns stand close to each other.
         const int half = painter.fontMetrics().horizontalAdvance(u' ') / 2 + 1;

@@ -44,8 +44,14 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    /// The font of the pieces over the columns of a list: small enough that no word pushes the next one off its column.
-    QFont HeadFont() const;
+    /// The caption as it is painted.
+    struct Layout {
+        QFont font;
+        QList<Piece> pieces;
+    };
+    Layout LaidOut() const;
+    /// The font of the texts over the columns of a list: small enough that no word pushes the next one off its column.
+    QFont HeadFont(const QStringList& texts, const QList<int>& places) const;
     QStringList Texts() const;
     QList<int> Places() const;
     QList<int> SpreadPlaces(const QStringList& texts, const QFontMetrics& metrics) const;
