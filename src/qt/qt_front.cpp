@@ -195,7 +195,8 @@ void QtFront::Refresh(Form& form) {
     // The first paint of a window waits for the window system. Hold ticks in the meantime.
     ++held;
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    window->Top()->repaint();
+    // Paints what the events have changed; most of it has been painted with them.
+    QCoreApplication::sendPostedEvents(window->Top(), QEvent::UpdateRequest);
     --held;
 }
 
