@@ -74,10 +74,9 @@ void PrepareApplication() {
     if (danish->load(QStringLiteral("qtbase_da"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(danish);
     QFont font = QApplication::font();
-    if (font.pointSizeF() < kLeastPoints) {
-        font.setPointSizeF(kLeastPoints);
-        QApplication::setFont(font);
-    }
+    font.setPointSizeF(qMax(font.pointSizeF(), kLeastPoints));
+    font.setStyleStrategy(kPlainLetters);
+    QApplication::setFont(font);
 }
 
 }  // namespace vatro

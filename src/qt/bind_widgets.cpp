@@ -13,6 +13,7 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "application.h"
 #include "bind_common.h"
 #include "binder.h"
 #include "bindings.h"
@@ -144,6 +145,7 @@ void WidenButton(QPushButton& button) {
 QFont FixedPitchFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPointSizeF(kFixedPitchPoints);
+    font.setStyleStrategy(kPlainLetters);
     return font;
 }
 

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "application.h"
 #include "signal_colours.h"
 
 namespace vatro {
@@ -55,6 +56,7 @@ EntryField::EntryField(QWidget* parent) : QLineEdit(parent) {
     QFont font(QStringLiteral("Arial"));
     font.setPointSizeF(kEntryPoints);
     font.setBold(true);
+    font.setStyleStrategy(kPlainLetters);
     setFont(font);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
