@@ -150,12 +150,12 @@ TEST_F(Printer, OffersAPdfAndAsksNoServerWithoutThePrintModule) {
 
 TEST_F(Printer, LoadsThePrintModuleWithTheFirstJob) {
     int loaded = 0;
-    QtPrinter pages([] { return false; },
+    QtPrinter counted([] { return false; },
                     [&loaded] {
                         ++loaded;
                         return LoadPrintModule();
                     });
-    PageSurface surface(pages);
+    PageSurface surface(counted);
     EXPECT_EQ(loaded, 0);
     dialogs.chosen = File("first.pdf");
     for (int job = 0; job < 2; ++job) {
@@ -163,7 +163,7 @@ TEST_F(Printer, LoadsThePrintModuleWithTheFirstJob) {
         surface.EndDoc();
     }
     EXPECT_EQ(loaded, 1);
-    EXPECT_NE(pages.Module(), nullptr);
+    EXPECT_NE(counted.Module(), nullptr);
 }
 
 TEST_F(Printer, MeasuresTheSameOnEveryPaper) {
@@ -172,9 +172,9 @@ TEST_F(Printer, MeasuresTheSameOnEveryPaper) {
     EXPECT_GT(silent.TextWidth("0123456789", font), 0);
     EXPECT_DOUBLE_EQ(silent.TextWidth("0123456789", font), pages_.TextWidth("0123456789", font));
     EXPECT_DOUBLE_EQ(silent.TextHeight(font), pages_.TextHeight(font));
-    SystemPrinter* const printer = pages_.Printer();
-    ASSERT_NE(printer, nullptr);
-    const QRectF onPrinter = printer->Device().pageLayout().paintRectPoints();
+    SystemPrinter* const device = pages_.Printer();
+    ASSERT_NE(device, nullptr);
+    const QRectF onPrinter = device->Device().pageLayout().paintRectPoints();
     EXPECT_DOUBLE_EQ(silent.Width(), onPrinter.width());
     EXPECT_DOUBLE_EQ(silent.Height(), onPrinter.height());
 }
