@@ -94,10 +94,15 @@ void PushRow(const ListBox& control, ItemList& widget) {
 /// know yet, and Qt selects a neighbour of a removed row; neither is the user's choice.
 template <class Change>
 void ChangeRows(const ListBox& control, ItemList& widget, Change change) {
-    const QSignalBlocker quiet(widget.selectionModel());
-    change();
-    PushRow(control, widget);
-    widget.viewport()->update();
+    const QPersistentModelIndex before = widget.currentIndex();
+    {
+        const QSignalBlocker quiet(widget.selectionModel());
+        change();
+        PushRow(control, widget);
+    }
+    // The view has not been told of a new selection.
+    widget.update(before);
+    widget.update(widget.currentIndex());
 }
 
 void FollowRows(const ListBox& control, ItemModel& model, ItemList& widget, Aspect aspect, int row) {

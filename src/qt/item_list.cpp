@@ -32,12 +32,22 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         const auto* model = qobject_cast<const ItemModel*>(index.model());
         const int characters = model != nullptr ? model->WidestRow() : 0;
-        const int margin = option.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
-        const double text = QFontMetricsF(option.font).horizontalAdvance(QString(characters, u'0'));
-        const int height = QStyledItemDelegate::sizeHint(option, index).height();
+        const QStyle& style = *option.widget->style();
+        if (measured_.style != &style || measured_.font != option.font || measured_.dotsPerInch != option.widget->logicalDpiY()) {
+            const int height = QStyledItemDelegate::sizeHint(option, index).height();
+            measured_ = {&style, option.font, option.widget->logicalDpiY(), height, -1, 0};
+        }
+        if (measured_.characters != characters) {
+            measured_.characters = characters;
+            const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
+            const double text = QFontMetricsF(option.font).horizontalAdvance(QString(characters, u'0'));
+            measured_.width = qRound(text) + 2 * margin;
+        }
         const auto* list = qobject_cast<const ItemList*>(option.widget);
-        return {qRound(text) + 2 * margin, list != nullptr ? list->RowHeight(height) : height};
+        return {measured_.width, list != nullptr ? list->RowHeight(measured_.height) : measured_.height};
     }
+    /// To be called when the style has changed.
+    void MeasureAnew() { measured_ = {}; }
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         if (!option.state.testFlag(QStyle::State_Selected) || option.widget == nullptr || option.widget->hasFocus())
             return QStyledItemDelegate::paint(painter, option, index);
@@ -57,6 +67,16 @@ public:
     }
 
 private:
+    /// The size of a row, and what it was measured with; all rows are of one size.
+    struct Measured {
+        const QStyle* style = nullptr;
+        QFont font;
+        int dotsPerInch = 0;
+        int height = 0;
+        int characters = -1;
+        int width = 0;
+    };
+
     /// Between the background and the colour of a selection, as strong as the text on it permits.
     static QColor PaleHighlight(const QPalette& palette) {
         constexpr double kStrongest = 0.25;
@@ -69,6 +89,8 @@ private:
         }
         return ground;
     }
+
+    mutable Measured measured_;
 };
 
 }  // namespace
@@ -100,6 +122,7 @@ void ItemModel::Reset() {
 
 void ItemModel::Measure(int row) {
     const std::string& text = list_->Items()[static_cast<std::size_t>(row)];
+    if (text.size() <= static_cast<std::size_t>(widest_)) return;
     widest_ = qMax(widest_, static_cast<int>(qMin(text.find_last_not_of(' ') + 1, kMostShown)));
 }
 
@@ -126,7 +149,7 @@ void ItemModel::Release() {
     Reset();
 }
 
-ItemList::ItemList(QWidget* parent) : QListView(parent) {
+ItemList::ItemList(QWidget* parent) : RowView(parent) {
     setUniformItemSizes(true);
     setItemDelegate(new RowDelegate(this));
     setEditTriggers(NoEditTriggers);
@@ -192,7 +215,7 @@ QFont ItemList::RowFont() const {
 }
 
 void ItemList::initViewItemOption(QStyleOptionViewItem* option) const {
-    QListView::initViewItemOption(option);
+    RowView::initViewItemOption(option);
     if (letters_ == 1) return;
     option->font = RowFont();
     option->fontMetrics = QFontMetrics(option->font);
@@ -212,19 +235,20 @@ void ItemList::focusInEvent(QFocusEvent* event) {
 
 void ItemList::resizeEvent(QResizeEvent* event) {
     FitGrid();
-    QListView::resizeEvent(event);
+    RowView::resizeEvent(event);
     KeepSelectedInSight();
 }
 
 void ItemList::changeEvent(QEvent* event) {
-    QListView::changeEvent(event);
+    RowView::changeEvent(event);
     if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+    if (auto* rows = dynamic_cast<RowDelegate*>(itemDelegate())) rows->MeasureAnew();
     FitGrid();
     KeepSelectedInSight();
 }
 
 void ItemList::paintEvent(QPaintEvent* event) {
-    QListView::paintEvent(event);
+    RowView::paintEvent(event);
     const QModelIndex selected = Selected();
     selectedSeen_ = selected.isValid() && viewport()->rect().contains(visualRect(selected).center());
 }

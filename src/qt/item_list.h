@@ -4,9 +4,10 @@
 #pragma once
 
 #include <QAbstractListModel>
-#include <QListView>
+#include <QFont>
 
 #include "controls.h"
+#include "row_view.h"
 
 namespace vatro {
 
@@ -40,7 +41,7 @@ private:
     int widest_ = 0;
 };
 
-class ItemList : public QListView {
+class ItemList : public RowView {
     Q_OBJECT
     /// Where the second part of a row begins: the column after the blanks that fill up the first one. 0 in lists without such parts.
     Q_PROPERTY(int second MEMBER second_)
