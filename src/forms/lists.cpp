@@ -50,6 +50,7 @@ void ListBox::RemoveItem(int row) {
 
 void ListBox::Clear() {
     if (items_.empty() && listIndex_ < 0) return;
+    if (filling_ && revision_ == told_) cleared_ = std::move(items_);
     items_.clear();
     Revise();
     listIndex_ = -1;
@@ -60,6 +61,7 @@ void ListBox::SetListIndex(int row) {
     if (row < -1 || row >= ListCount()) throw RunTimeError(Failure::InvalidCall);
     const bool another = row != listIndex_;
     listIndex_ = row;
+    selected_ = filling_;
     if (!filling_) Tell(Aspect::ListIndex);
     if (another && Click) Click();
 }
@@ -96,15 +98,19 @@ void ListBox::OwnerCleared() {
     if (!filling_) Tell(Aspect::Items);
 }
 
-ListBox::Filling::Filling(ListBox& list) : list_(list), outer_(list.filling_) {
+ListBox::Filling::Filling(ListBox& list) : list_(list), outer_(list.filling_), listIndex_(list.listIndex_) {
+    if (!outer_) list.told_ = list.revision_;
     list.filling_ = true;
 }
 
 ListBox::Filling::~Filling() {
     list_.filling_ = outer_;
     if (outer_) return;
-    list_.Tell(Aspect::Items);
-    list_.Tell(Aspect::ListIndex);
+    const auto cleared = std::exchange(list_.cleared_, std::nullopt);
+    const bool selected = std::exchange(list_.selected_, false);
+    const bool same = list_.revision_ == list_.told_ || (cleared && list_.shown_ == nullptr && *cleared == list_.items_);
+    if (!same) list_.Tell(Aspect::Items);
+    if (!same || selected || list_.listIndex_ != listIndex_) list_.Tell(Aspect::ListIndex);
 }
 
 const std::string& ComboBox::List(int row) const {

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -59,7 +60,8 @@ public:
     void OwnerCleared();
 
     /// Suspends the mirror while rows are added or removed; a guard object for use inside one procedure. The mirror is told once, when
-    /// the outermost guard is destroyed.
+    /// the outermost guard is destroyed. It is told nothing if a list that was cleared has been filled with the rows that it had, so that
+    /// a list that looks the same after each key is not painted again.
     class Filling {
     public:
         explicit Filling(ListBox& list);
@@ -70,6 +72,7 @@ public:
     private:
         ListBox& list_;
         bool outer_;
+        int listIndex_;
     };
 
     int ListIndex() const { return listIndex_; }
@@ -97,6 +100,10 @@ private:
     ListOrder order_ = ListOrder::AsAdded;
     int listIndex_ = -1;
     bool filling_ = false;
+    /// While filling: the revision that the mirror shows; its rows, if they were cleared; and whether a row has been selected since.
+    unsigned told_ = 0;
+    std::optional<std::vector<std::string>> cleared_;
+    bool selected_ = false;
 };
 
 /// Whether the text of a combo box can be edited, or only chosen from the list.
