@@ -9,6 +9,7 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
+#include <utility>
 
 #include "bindings.h"
 #include "by_kind.h"
@@ -24,6 +25,24 @@ namespace vatro {
 namespace {
 
 constexpr const char* kToolIndex = "vatroIndex";
+
+/// Qt repaints a whole status bar whenever the layout is asked for, which every new text of a panel does. This lets only those through
+/// that have moved a panel or changed the height that one needs.
+class PanelsAtRest : public QObject {
+public:
+    explicit PanelsAtRest(QStatusBar& bar) : QObject(&bar), bar_(bar) { bar.installEventFilter(this); }
+    /// The layout of the bar has taken this event before any filter.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::LayoutRequest) return QObject::eventFilter(watched, event);
+        QList<QRect> places;
+        for (const StatusPanel* panel : PanelsOf(bar_)) places << panel->geometry() << QRect(QPoint(), panel->minimumSize());
+        return std::exchange(places_, places) == places;
+    }
+
+private:
+    QStatusBar& bar_;
+    QList<QRect> places_;
+};
 
 void PushTick(const MenuItem& item, QAction& action) {
     // Checkable entries reserve space for a tick, so make an entry checkable only while it is ticked.
@@ -187,6 +206,7 @@ void Bind(StatusBar& control, QStatusBar& widget, Bindings& /*bindings*/) {
         widget.addWidget(panel, number == 1 ? 1 : 0);
         push(number);
     }
+    new PanelsAtRest(widget);
     control.mirror = [&control, push](Aspect aspect, int row) {
         if (aspect == Aspect::Panels) push(static_cast<std::size_t>(row));
         if (aspect == Aspect::ToolTip)

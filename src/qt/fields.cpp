@@ -59,6 +59,9 @@ EntryField::EntryField(QWidget* parent) : QLineEdit(parent) {
     font.setStyleStrategy(kPlainLetters);
     setFont(font);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    // With a ground of its own, a key repaints the field alone, and not what lies behind it too. The ground is seen in the corners.
+    setBackgroundRole(QPalette::Window);
+    setAutoFillBackground(true);
 }
 
 QSize EntryField::SizeFor(int chars) const {

@@ -100,6 +100,8 @@ void PaintSign(QPainter& painter, PanelMark mark, const QRectF& place, const QCo
 StatusPanel::StatusPanel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setMargin(kMargin);
+    // With a ground of its own, a new text repaints the panel alone, and not what lies behind it too.
+    setAutoFillBackground(true);
 }
 
 void StatusPanel::SetPanelText(const QString& text, const QString& toolTip, PanelMark mark) {
