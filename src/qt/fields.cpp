@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionFrame>
@@ -29,26 +28,6 @@ constexpr double kPartFilled = 0.85;
 
 /// The letters by which the height of a row is measured. Those of a number and of most calls are no higher, and do not reach below.
 constexpr const char16_t* kOfRow = u"O0/";
-
-/// A text in the font in which it is measured.
-struct Letters {
-    QPainterPath path;
-    QRectF ink;
-    double advance = 0;
-};
-
-Letters LettersOf(const QString& text, const QFont& font) {
-    Letters letters;
-    letters.path.addText(0, 0, font, text);
-    letters.ink = letters.path.boundingRect();
-    letters.advance = QFontMetricsF(font).horizontalAdvance(text);
-    return letters;
-}
-
-/// The ink of the letters by which a row is measured.
-QRectF RowOf(const QFont& font) {
-    return LettersOf(QString::fromUtf16(kOfRow), font).ink;
-}
 
 }  // namespace
 
@@ -160,6 +139,8 @@ FittedText::FittedText(QWidget* parent) : QLabel(parent), font_(MeasureFont(QStr
 
 void FittedText::SetTextFont(const QString& family, double points, bool bold) {
     font_ = MeasureFont(family, bold);
+    letters_.reset();
+    rowInk_.reset();
     points_ = points;
     update();
 }
@@ -175,14 +156,34 @@ void FittedText::SetColours(const QColor& text, const QColor& ground) {
     update();
 }
 
+const FittedText::Letters& FittedText::Outline() const {
+    if (!letters_ || letters_->text != text()) {
+        letters_.emplace();
+        letters_->text = text();
+        letters_->path.addText(0, 0, font_, text());
+        letters_->ink = letters_->path.boundingRect();
+        letters_->advance = QFontMetricsF(font_).horizontalAdvance(text());
+    }
+    return *letters_;
+}
+
+const QRectF& FittedText::RowInk() const {
+    if (!rowInk_) {
+        QPainterPath path;
+        path.addText(0, 0, font_, QString::fromUtf16(kOfRow));
+        rowInk_ = path.boundingRect();
+    }
+    return *rowInk_;
+}
+
 double FittedText::LargestScale() const {
-    const Letters letters = LettersOf(text(), font_);
+    const Letters& letters = Outline();
     // Without letters there is nothing to limit.
     if (letters.path.isEmpty()) return height();
     const double broad = width() / qMax(letters.advance, letters.ink.right());
     if (row_ == nullptr) return qMin(height() / letters.ink.height(), broad);
     // A letter that reaches below the line may use the margin.
-    const QRectF row = RowOf(font_);
+    const QRectF& row = RowInk();
     const double reach = qMax(letters.ink.bottom() - row.center().y(), row.center().y() - letters.ink.top());
     return qMin(kPartFilled * qMin(height() / row.height(), broad), height() / (2 * reach));
 }
@@ -212,9 +213,9 @@ void FittedText::paintEvent(QPaintEvent* /*event*/) {
             for (FittedText* other : inRow)
                 if (other != this) other->update();
     }
-    const Letters letters = LettersOf(text(), font_);
+    const Letters& letters = Outline();
     if (letters.path.isEmpty()) return;
-    const double middle = (row_ != nullptr ? RowOf(font_) : letters.ink).center().y();
+    const double middle = (row_ != nullptr ? RowInk() : letters.ink).center().y();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate((width() - letters.advance * scale) / 2, height() / 2.0 - middle * scale);
     painter.scale(scale, scale);

@@ -6,8 +6,10 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainterPath>
 #include <QPointer>
 #include <QScrollArea>
+#include <optional>
 
 class QToolButton;
 
@@ -71,7 +73,21 @@ private:
     /// The texts that are drawn in one size with this one, itself included.
     QList<FittedText*> InRow() const;
 
+    /// The text in the font in which it is measured.
+    struct Letters {
+        QString text;
+        QPainterPath path;
+        QRectF ink;
+        double advance = 0;
+    };
+    /// These are kept, because every text of a row is measured whenever one of them is painted.
+    const Letters& Outline() const;
+    /// The ink of the letters by which a row is measured.
+    const QRectF& RowInk() const;
+
     QFont font_;
+    mutable std::optional<Letters> letters_;
+    mutable std::optional<QRectF> rowInk_;
     double points_ = 12;
     QPointer<const QWidget> row_;
     /// The largest scale when the text was last drawn.

@@ -6,11 +6,15 @@
 #include <QEvent>
 #include <QPaintEvent>
 #include <QTest>
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
 
 #include "entry/frmB4.h"
 #include "entry/frmMain.h"
 #include "entry/frmQSOnr.h"
 #include "entry/qso_fields.h"
+#include "fields.h"
 #include "frame/state.h"
 #include "item_list.h"
 #include "qt/desktop_program.h"
@@ -90,6 +94,49 @@ TEST_F(AKeyInTheCallField, ThatFindsLessPaintsTheList) {
     EXPECT_EQ(list.model()->rowCount(), 0);
     const QImage empty = PictureOf(*list.viewport());
     EXPECT_EQ(Brighter(empty, empty.pixel(0, 0)), 0);
+}
+
+/// The largest difference of any pixel in red, green or blue.
+int Difference(const QImage& one, const QImage& other) {
+    if (one.size() != other.size()) return 256;
+    int largest = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            largest = std::max({largest, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+        }
+    return largest;
+}
+
+TEST(ATextThatFillsItsWidget, LooksAsIfItHadAlwaysBeenThere) {
+    const auto picture = [](const std::function<void(FittedText&)>& before) {
+        FittedText text;
+        text.resize(300, 60);
+        before(text);
+        text.SetTextFont(QStringLiteral("Arial"), 20, true);
+        text.setText(QStringLiteral("SSB 59 002"));
+        text.resize(200, 80);
+        return PictureOf(text);
+    };
+    const QImage plain = picture([](FittedText&) {});
+    EXPECT_GT(Contrast(plain, plain.rect(), plain.pixel(0, 0)), 4.5) << "nothing is drawn";
+    // Qt's outline of the same letter is not always the same to the last fraction of a pixel.
+    constexpr int kUnseen = 3;
+    EXPECT_LE(Difference(picture([](FittedText& text) {
+                             text.SetTextFont(QStringLiteral("Arial"), 40, false);
+                             text.setText(QStringLiteral("SSB 59 001"));
+                             PictureOf(text);
+                         }),
+                         plain),
+              kUnseen);
+    EXPECT_LE(Difference(picture([](FittedText& text) {
+                             text.setText(QStringLiteral("SSB 59 002"));
+                             text.SetTextFont(QStringLiteral("Arial"), 20, false);
+                             PictureOf(text);
+                         }),
+                         plain),
+              kUnseen);
 }
 
 }  // namespace
