@@ -25,16 +25,16 @@ QRect RowView::visualRect(const QModelIndex& index) const {
 
 void RowView::scrollTo(const QModelIndex& index, ScrollHint hint) {
     if (!Plain()) return QListView::scrollTo(index, hint);
-    const QRect rect = visualRect(index);
-    if (!rect.isValid()) return;
+    const QRect place = visualRect(index);
+    if (!place.isValid()) return;
     const QRect area = viewport()->rect();
     if (hint == EnsureVisible) {
-        if (rect.top() < area.top())
+        if (place.top() < area.top())
             hint = PositionAtTop;
-        else if (rect.bottom() > area.bottom())
+        else if (place.bottom() > area.bottom())
             hint = PositionAtBottom;
         else
-            return viewport()->update(rect);
+            return viewport()->update(place);
     }
     int top = index.row();
     // At the beginning there are fewer rows above.
@@ -135,9 +135,9 @@ QModelIndex RowView::moveCursor(CursorAction action, Qt::KeyboardModifiers modif
     return Row(qBound(0, row, last));
 }
 
-void RowView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {
-    if (!Plain()) return QListView::setSelection(rect, command);
-    const QModelIndex index = indexAt(rect.topLeft());
+void RowView::setSelection(const QRect& area, QItemSelectionModel::SelectionFlags command) {
+    if (!Plain()) return QListView::setSelection(area, command);
+    const QModelIndex index = indexAt(area.topLeft());
     selectionModel()->select(index.isValid() ? QItemSelection(index, index) : QItemSelection(), command);
 }
 
@@ -183,8 +183,8 @@ void RowView::updateGeometries() {
         setViewportMargins(viewportMargins());
 }
 
-void RowView::scrollContentsBy(int dx, int dy) {
-    if (!Plain()) return QListView::scrollContentsBy(dx, dy);
+void RowView::scrollContentsBy(int across, int down) {
+    if (!Plain()) return QListView::scrollContentsBy(across, down);
     // Only ends a scroll that a click has announced.
     QListView::scrollContentsBy(0, 0);
     if (stale_) return;
@@ -193,8 +193,8 @@ void RowView::scrollContentsBy(int dx, int dy) {
         return viewport()->update();
     }
     moved_ = true;
-    scrollDirtyRegion(dx, dy * row_.height());
-    viewport()->scroll(dx, dy * row_.height());
+    scrollDirtyRegion(across, down * row_.height());
+    viewport()->scroll(across, down * row_.height());
 }
 
 bool RowView::viewportEvent(QEvent* event) {

@@ -26,12 +26,12 @@ protected:
     int horizontalOffset() const override;
     int verticalOffset() const override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
-    void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
+    void setSelection(const QRect& area, QItemSelectionModel::SelectionFlags command) override;
     QRegion visualRegionForSelection(const QItemSelection& selection) const override;
     void rowsInserted(const QModelIndex& parent, int start, int end) override;
     void dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) override;
     void updateGeometries() override;
-    void scrollContentsBy(int dx, int dy) override;
+    void scrollContentsBy(int across, int down) override;
     bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

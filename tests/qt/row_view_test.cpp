@@ -50,8 +50,8 @@ protected:
     void Show(int rows) {
         model.setStringList(Lines(rows));
         Furnish(own, model);
-        Furnish(qts, model);
-        qts.move(220, 0);
+        Furnish(standard, model);
+        standard.move(220, 0);
         window.show();
         QCoreApplication::processEvents();
     }
@@ -60,32 +60,32 @@ protected:
         if (QWidget* focused = window.focusWidget()) focused->clearFocus();
         QCoreApplication::processEvents();
         for (const QModelIndex& row : {model.index(0), model.index(3), model.index(model.rowCount() - 1)})
-            EXPECT_EQ(own.visualRect(row), qts.visualRect(row)) << after << ", row " << row.row();
-        for (const int y : {0, 40, 100, 170}) EXPECT_EQ(own.indexAt({5, y}).row(), qts.indexAt({5, y}).row()) << after << ", at " << y;
+            EXPECT_EQ(own.visualRect(row), standard.visualRect(row)) << after << ", row " << row.row();
+        for (const int y : {0, 40, 100, 170}) EXPECT_EQ(own.indexAt({5, y}).row(), standard.indexAt({5, y}).row()) << after << ", at " << y;
         for (const auto bar : {&QAbstractScrollArea::verticalScrollBar, &QAbstractScrollArea::horizontalScrollBar}) {
             const QScrollBar& mine = *(own.*bar)();
-            const QScrollBar& other = *(qts.*bar)();
+            const QScrollBar& other = *(standard.*bar)();
             EXPECT_EQ(mine.maximum(), other.maximum()) << after;
             EXPECT_EQ(mine.value(), other.value()) << after;
             EXPECT_EQ(mine.isVisible(), other.isVisible()) << after;
             if (mine.maximum() > 0) EXPECT_EQ(mine.pageStep(), other.pageStep()) << after;
         }
-        EXPECT_EQ(own.currentIndex().row(), qts.currentIndex().row()) << after;
-        EXPECT_TRUE(PictureOf(*own.viewport()) == PictureOf(*qts.viewport())) << after;
+        EXPECT_EQ(own.currentIndex().row(), standard.currentIndex().row()) << after;
+        EXPECT_TRUE(PictureOf(*own.viewport()) == PictureOf(*standard.viewport())) << after;
     }
     void Key(Qt::Key key) {
         QTest::keyClick(&own, key);
-        QTest::keyClick(&qts, key);
+        QTest::keyClick(&standard, key);
         ExpectSame("key " + std::to_string(key));
     }
 
     CountedRows model;
     QWidget window;
     RowView own{&window};
-    QListView qts{&window};
+    QListView standard{&window};
 };
 
-TEST_F(ARowView, LooksAndScrollsAsQtsOwn) {
+TEST_F(ARowView, LooksAndScrollsLikeTheStandardView) {
     for (const int rows : {0, 1, 5, 9, 10, 11, 60}) {
         Show(rows);
         ExpectSame(std::to_string(rows) + " rows");
@@ -93,13 +93,13 @@ TEST_F(ARowView, LooksAndScrollsAsQtsOwn) {
                                 QAbstractItemView::PositionAtCenter})
             for (const int row : {rows - 1, 0, rows / 2, 2}) {
                 own.scrollTo(model.index(row), hint);
-                qts.scrollTo(model.index(row), hint);
+                standard.scrollTo(model.index(row), hint);
                 ExpectSame(std::to_string(rows) + " rows, scrolled to " + std::to_string(row));
             }
     }
 }
 
-TEST_F(ARowView, FollowsKeysAsQtsOwn) {
+TEST_F(ARowView, FollowsKeysLikeTheStandardView) {
     Show(60);
     for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageDown,
                               Qt::Key_Down, Qt::Key_PageUp, Qt::Key_Left, Qt::Key_Right, Qt::Key_End, Qt::Key_Down, Qt::Key_PageDown,
@@ -107,22 +107,22 @@ TEST_F(ARowView, FollowsKeysAsQtsOwn) {
         Key(key);
 }
 
-TEST_F(ARowView, FollowsClicksAsQtsOwn) {
+TEST_F(ARowView, FollowsClicksLikeTheStandardView) {
     Show(60);
     for (const QPoint at : {QPoint(10, 30), QPoint(10, 90), QPoint(150, 5)}) {
         QTest::mouseClick(own.viewport(), Qt::LeftButton, {}, at);
-        QTest::mouseClick(qts.viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseClick(standard.viewport(), Qt::LeftButton, {}, at);
         ExpectSame("click");
     }
 }
 
-TEST_F(ARowView, FollowsChangesOfTheRowsAsQtsOwn) {
+TEST_F(ARowView, FollowsChangesOfTheRowsLikeTheStandardView) {
     Show(3);
     for (int i = 0; i < 12; ++i) {
         model.Append(QStringLiteral("a new row"));
         const QModelIndex last = model.index(model.rowCount() - 1);
         own.setCurrentIndex(last);
-        qts.setCurrentIndex(last);
+        standard.setCurrentIndex(last);
         ExpectSame("appended");
     }
     model.insertRow(0);
@@ -133,7 +133,7 @@ TEST_F(ARowView, FollowsChangesOfTheRowsAsQtsOwn) {
     model.setStringList(Lines(4));
     ExpectSame("filled anew");
     own.resize(300, 60);
-    qts.resize(300, 60);
+    standard.resize(300, 60);
     ExpectSame("resized");
 }
 
