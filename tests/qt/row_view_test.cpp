@@ -68,7 +68,9 @@ protected:
             EXPECT_EQ(mine.maximum(), other.maximum()) << after;
             EXPECT_EQ(mine.value(), other.value()) << after;
             EXPECT_EQ(mine.isVisible(), other.isVisible()) << after;
-            if (mine.maximum() > 0) EXPECT_EQ(mine.pageStep(), other.pageStep()) << after;
+            if (mine.maximum() > 0) {
+                EXPECT_EQ(mine.pageStep(), other.pageStep()) << after;
+            }
         }
         EXPECT_EQ(own.currentIndex().row(), standard.currentIndex().row()) << after;
         EXPECT_TRUE(PictureOf(*own.viewport()) == PictureOf(*standard.viewport())) << after;
