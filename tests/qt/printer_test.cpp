@@ -151,10 +151,10 @@ TEST_F(Printer, OffersAPdfAndAsksNoServerWithoutThePrintModule) {
 TEST_F(Printer, LoadsThePrintModuleWithTheFirstJob) {
     int loaded = 0;
     QtPrinter counted([] { return false; },
-                    [&loaded] {
-                        ++loaded;
-                        return LoadPrintModule();
-                    });
+                      [&loaded] {
+                          ++loaded;
+                          return LoadPrintModule();
+                      });
     PageSurface surface(counted);
     EXPECT_EQ(loaded, 0);
     dialogs.chosen = File("first.pdf");
