@@ -45,6 +45,8 @@ desktop/docking.py vatro data openbox
 desktop/places.py vatro data openbox
 desktop/menus.py vatro data openbox
 desktop/keys.py vatro data
+desktop/modules.py vatro data
+desktop/idle.py vatro data
 typing/typing.sh vatro data
 typing/typing_while_sending.sh vatro data
 power/kill_corrections.py vatro data
