@@ -268,12 +268,12 @@ TEST(Searches, FindWhatAScanOfEveryLineFinds) {
     int hits = 0;
     int duplicates = 0;
     for (int round = 0; round < 20'000; ++round) {
-        const int rows = static_cast<int>(log.Lines().size());
+        const auto rows = [&log] { return static_cast<int>(log.Lines().size()); };
         const int what = any.Below(100);
         if (what == 0 && any.Below(3) == 0)
             log.Clear();
-        else if (what < 5 && rows > 0)
-            log.Replace(static_cast<std::size_t>(any.Below(rows)), any());
+        else if (what < 5 && rows() > 0)
+            log.Replace(static_cast<std::size_t>(any.Below(rows())), any());
         else
             for (int n = any.Below(4); n > 0; --n) log.Append(any());
 
@@ -285,11 +285,11 @@ TEST(Searches, FindWhatAScanOfEveryLineFinds) {
 
         // A call of the log as often as any other.
         std::string call = any.Call(4);
-        if (any.Below(2) == 0 && rows > 0) call = Trim(Columns(log.Lines()[static_cast<std::size_t>(any.Below(rows))], 7, 15));
+        if (any.Below(2) == 0 && rows() > 0) call = Trim(Columns(log.Lines()[static_cast<std::size_t>(any.Below(rows()))], 7, 15));
         call = StripCall(call);
         const bool isDuplicate = CheckDupe(log, call);
         ASSERT_EQ(isDuplicate, scan.HasBaseCall(log.Lines().size(), call)) << call;
-        const auto above = static_cast<std::size_t>(any.Below(rows + 2));
+        const auto above = static_cast<std::size_t>(any.Below(rows() + 2));
         ASSERT_EQ(CheckDupQSO(log, above, call), scan.HasBaseCall(above, call)) << call << " above " << above;
         duplicates += isDuplicate ? 1 : 0;
     }
