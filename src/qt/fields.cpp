@@ -158,11 +158,12 @@ void FittedText::SetColours(const QColor& text, const QColor& ground) {
 
 const FittedText::Letters& FittedText::Outline() const {
     if (!letters_ || letters_->text != text()) {
-        letters_.emplace();
-        letters_->text = text();
-        letters_->path.addText(0, 0, font_, text());
-        letters_->ink = letters_->path.boundingRect();
-        letters_->advance = QFontMetricsF(font_).horizontalAdvance(text());
+        Letters letters;
+        letters.text = text();
+        letters.path.addText(0, 0, font_, letters.text);
+        letters.ink = letters.path.boundingRect();
+        letters.advance = QFontMetricsF(font_).horizontalAdvance(letters.text);
+        letters_ = letters;
     }
     return *letters_;
 }

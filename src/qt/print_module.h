@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The part of the program that is linked with Qt PrintSupport. It is a library of its own (modules/print_module.cpp), loaded when something
-// is printed or a printer is chosen for the first time: the libraries of the print system would cost every start time and memory.
+// The part of the program that is linked with Qt PrintSupport. It is a library of its own (modules/qt_print_module.h), loaded when
+// something is printed or a printer is chosen for the first time: the libraries of the print system would cost every start time and memory.
 #pragma once
 
 #include <QDialog>

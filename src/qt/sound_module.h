@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The part of the program that is linked with Qt Multimedia. It is a library of its own (modules/sound_module.cpp), loaded when the first
+// The part of the program that is linked with Qt Multimedia. It is a library of its own (modules/qt_sound_module.h), loaded when the first
 // text is sent: most starts never send one, and the sound system's libraries would cost each of them time and memory.
 #pragma once
 

@@ -17,7 +17,7 @@ Q_LOGGING_CATEGORY(lcSound, "vatro.sound", QtWarningMsg)
 /// How far the sound system is kept ahead of what is heard: enough for a busy machine, yet short compared with the half second between
 /// refills.
 constexpr int kAheadMilliseconds = 150;
-constexpr int kMicrosecondsPerMillisecond = 1000;
+constexpr qint64 kMicrosecondsPerMillisecond = 1000;
 constexpr int kSampleBytes = sizeof(std::int16_t);
 
 }  // namespace

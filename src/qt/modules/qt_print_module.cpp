@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "print_module.h"
+#include "qt_print_module.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
@@ -28,16 +28,12 @@ private:
 
 }  // namespace
 
-class QtPrintModule : public QObject, public PrintModule {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID "dk.vatro.PrintModule/1")
-    Q_INTERFACES(vatro::PrintModule)
+std::unique_ptr<SystemPrinter> QtPrintModule::MakePrinter() {
+    return std::make_unique<QtSystemPrinter>();
+}
 
-public:
-    std::unique_ptr<SystemPrinter> MakePrinter() override { return std::make_unique<QtSystemPrinter>(); }
-    bool PrinterThere() override { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
-};
+bool QtPrintModule::PrinterThere() {
+    return !QPrinterInfo::availablePrinterNames().isEmpty();
+}
 
 }  // namespace vatro
-
-#include "print_module.moc"
