@@ -122,8 +122,8 @@ class ProbePlugin : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "probe.json")
 
 public:
-    QObject* create(const QString& /*key*/, const QString& specification) override {
-        const QStringList parts = specification.split(QLatin1Char(':'));
+    QObject* create(const QString& /*key*/, const QString& orders) override {
+        const QStringList parts = orders.split(QLatin1Char(':'));
         return new Probe(parts.value(0).toInt(), parts.value(1).split(QLatin1Char(','), Qt::SkipEmptyParts));
     }
 };
