@@ -3,6 +3,7 @@
 #include "frame/state.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "call/call_analysis.h"
 #include "correction/frmNote.h"
@@ -176,7 +177,7 @@ void FrmRetQSO::LogCorrection(const std::string& time) {
     contact.multiplier = RecordCountry(call, MarkAction::Mark);
     RecordStation(desk().gsCall, MarkAction::Mark);
     // The station was looked up by the first six characters of its call; from now on gsCall holds only these.
-    desk().gsCall = StationCall(desk().gsCall);
+    desk().gsCall = StationCall(std::move(desk().gsCall));
     RecordPoints(call);
     const double point = NumericValue(pointBox.Text());
     if (point != desk().giQSOPoint) {

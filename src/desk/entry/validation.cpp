@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "entry/validation.h"
 
+#include <utility>
+
 #include "call/call_analysis.h"
 #include "codepage.h"
 #include "columns.h"
@@ -32,7 +34,7 @@ void LogContact(const std::string& time) {
     contact.call = main.fields[kCallField].Text();
     contact.multiplier = RateContact(contact.call, state.gsCall);
     // The station was looked up by the first six characters of its call; from now on gsCall holds only these.
-    state.gsCall = StationCall(state.gsCall);
+    state.gsCall = StationCall(std::move(state.gsCall));
     contact.time = time;
     contact.reportSent = main.fields[kReportSentField].Text();
     contact.numberSent = main.fields[kNumberSentField].Text();

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory_resource>
 #include <unordered_set>
+#include <utility>
 
 #include "call/call_analysis.h"
 #include "checks/field_checks.h"
@@ -150,8 +151,7 @@ private:
             return;
         }
         worth = stations_.EDRstnWkd(*left_.gsCall, MarkAction::Mark).value_or(worth);
-        // As StationCall does, without a copy.
-        left_.gsCall->resize(kEdrCall, ' ');
+        left_.gsCall = StationCall(*std::move(left_.gsCall));
         if (points != worth) Complain(PointsMessage(worth));
     }
 

@@ -25,8 +25,9 @@ std::string_view CallOf(const EDRRec& station) {
 
 }  // namespace
 
-std::string StationCall(std::string_view call) {
-    return LeftAligned(call, kEdrCall);
+std::string StationCall(std::string call) {
+    call.resize(kEdrCall, ' ');
+    return call;
 }
 
 void Stations::Read(std::string_view line) {

@@ -33,7 +33,7 @@ struct EDRRec {
 /// The six characters that identify a station: the call, cut or padded with blanks. A longer call that begins with those of a listed
 /// station is therefore taken for that station. Keep this: a station that logs a longer form of its listed call would lose the 10 points
 /// (docs/rules.md).
-std::string StationCall(std::string_view call);
+std::string StationCall(std::string call);
 
 /// The list of stations. Only BeginReading and Read change its rows.
 class Stations {
