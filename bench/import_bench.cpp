@@ -77,7 +77,7 @@ struct World {
     Unattended unattended;
 };
 
-void Import(benchmark::State& state) {
+void ImportCountries(benchmark::State& state) {
     World world;
     state.SetLabel("vs memmem over 1 MB, at most 2");
     for (auto _ : state) {
@@ -87,7 +87,7 @@ void Import(benchmark::State& state) {
     ResetDesk();
 }
 
-BENCHMARK(Import)->Name("country file imported")->Unit(benchmark::kMicrosecond);
+BENCHMARK(ImportCountries)->Name("country file imported")->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

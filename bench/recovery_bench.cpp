@@ -15,7 +15,7 @@ namespace vatro::bench {
 namespace {
 
 /// A long field day: ten logs of a thousand contacts.
-constexpr std::size_t kContacts = 1000;
+constexpr std::size_t kContactsOfALog = 1000;
 constexpr DateTime kNow{2026, 9, 6, 10, 0, 0, 0};
 
 /// Ten logs that have been corrected, with their earlier versions.
@@ -26,13 +26,13 @@ public:
         std::filesystem::create_directory(workplace_.Path("data"));
         WriteTables(workplace_.Path("data"));
         std::vector<std::string> lines = SampleLog();
-        lines.resize(kContacts);
+        lines.resize(kContactsOfALog);
         for (const auto& [band, mode] : kTenLogs) {
             const std::filesystem::path log = Directory() / LogName(band, mode);
             WriteLines(log, lines);
             const History::Version version = history_.Add(log, History::Keep::ByAge);
             std::filesystem::remove(log);
-            lines[kContacts / 2][35] = '9';
+            lines[kContactsOfALog / 2][35] = '9';
             WriteLines(log, lines);
             files_.push_back(log);
             files_.push_back(version.path);

@@ -22,7 +22,7 @@ namespace vatro::bench {
 
 namespace {
 
-constexpr int kRuns = 20;
+constexpr int kRewrites = 20;
 constexpr std::size_t kBytes = std::size_t{81} * kLogLines;
 constexpr std::size_t kPiece = 32'768;
 
@@ -69,8 +69,8 @@ void Rewrite(benchmark::State& state) {
     }
 }
 
-BENCHMARK(RewriteBare)->Name("copy synced, compared, linked, renamed")->Iterations(kRuns)->UseRealTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(Rewrite)->Name("log rewritten")->Iterations(kRuns)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(RewriteBare)->Name("copy synced, compared, linked, renamed")->Iterations(kRewrites)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(Rewrite)->Name("log rewritten")->Iterations(kRewrites)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

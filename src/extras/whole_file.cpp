@@ -14,7 +14,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kTries = 3;
+/// How often a file that cannot be read whole is read.
+constexpr int kReadings = 3;
 constexpr std::size_t kPiece = 1U << 18U;
 
 /// The whole file, or what was read before a failure.
@@ -40,7 +41,7 @@ ReadResult ReadOnce(const fs::path& path) {
 ReadResult ReadWhatIsThere(const fs::path& file) {
     if (IsNoFile(file)) throw RunTimeError(Failure::PathFileAccess);
     ReadResult result = ReadOnce(file);
-    for (int i = 1; i < kTries && !result.whole; ++i) result = ReadOnce(file);
+    for (int i = 1; i < kReadings && !result.whole; ++i) result = ReadOnce(file);
     return result;
 }
 

@@ -140,6 +140,9 @@ private:
 /// matter whether the control is enabled.
 class Timer : public Control, public Ticker {
 public:
+    /// The interval of a minute.
+    static constexpr int kMinute = 60000;
+
     ControlKind Kind() override { return this; }
     ReadOnlyControlKind Kind() const override { return this; }
     Timer(Form& form, std::string_view name, int interval) : Control(form, name), interval_(interval) {}

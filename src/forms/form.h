@@ -21,6 +21,8 @@
 
 namespace vatro {
 
+inline constexpr double kTwipsPerPoint = 20;
+
 enum class WindowState { Normal, Minimised, Maximised };
 
 /// The kind of window, which decides how the front draws it. The user cannot resize a fixed one. A fixed tool window is centred

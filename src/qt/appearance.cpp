@@ -14,6 +14,7 @@
 #include "bind_common.h"
 #include "dock_room.h"
 #include "fields.h"
+#include "frame/settings_table.h"
 #include "main_size.h"
 #include "numbers.h"
 #include "platform.h"
@@ -25,15 +26,14 @@ namespace vatro {
 
 namespace {
 
-constexpr std::string_view kSection = "Settings";
 constexpr std::string_view kSun = "Solskin";
 constexpr std::string_view kNight = "Nat";
 constexpr std::string_view kTextSize = "TekstStr";
 
 /// Each step changes the text size by this fraction.
-constexpr double kStep = 0.1;
+constexpr double kTextStep = 0.1;
 /// Milliseconds after which a window that is being shown has its frame; before that it would be misplaced by another size.
-constexpr int kRest = 200;
+constexpr int kFrameTime = 200;
 /// Property that stores a widget's font as its layout sets it.
 constexpr const char* kOwnFont = "vatroOwnFont";
 
@@ -79,11 +79,11 @@ Appearance::Appearance(QMainWindow& window, QMenu& menu) : QObject(&window), win
     AddEntry(menu, QStringLiteral("No&rmal tekst"), QKeySequence(QStringLiteral("Ctrl+0")), 0);
 
     Settings& settings = platform().settings;
-    step_ = static_cast<int>(qBound<double>(kSmallest, NumericValue(settings.Read(kSection, kTextSize).value_or("")), kLargest));
+    step_ = static_cast<int>(qBound<double>(kSmallest, NumericValue(settings.Read(setting::kSettings, kTextSize).value_or("")), kLargest));
     if (Sun() || Night() || step_ != 0) Apply();
     qApp->installEventFilter(this);
     soon_.setSingleShot(true);
-    soon_.setInterval(kRest);
+    soon_.setInterval(kFrameTime);
     connect(&soon_, &QTimer::timeout, this, &Appearance::GrowToContent);
     for (const auto& [chosen, other] : {std::pair(sun_, night_), std::pair(night_, sun_)})
         connect(chosen, &QAction::triggered, this, [this, other = other] {
@@ -97,7 +97,7 @@ QAction* Appearance::AddScheme(QMenu& menu, const QString& caption, std::string_
     QAction* scheme = menu.addAction(caption);
     scheme->setObjectName(QStringLiteral("appearance") + ToQt(key));
     scheme->setCheckable(true);
-    scheme->setChecked(platform().settings.Read(kSection, key) == "True");
+    scheme->setChecked(platform().settings.Read(setting::kSettings, key) == "True");
     return scheme;
 }
 
@@ -140,7 +140,7 @@ void Appearance::Dress(QWidget& window) const {
         if (!widget->property(kOwnFont).isValid()) widget->setProperty(kOwnFont, widget->font());
     // A dialogue grows only as far as the screen has room for its fields.
     int step = step_;
-    do ScaleFonts(widgets, 1 + kStep * step, Sun());
+    do ScaleFonts(widgets, 1 + kTextStep * step, Sun());
     while (&window != &window_ && --step >= 0 && !FitsOnScreen(window));
 }
 
@@ -173,9 +173,9 @@ void Appearance::GrowToContent() {
 
 void Appearance::Store() const {
     Settings& settings = platform().settings;
-    settings.Write(kSection, kSun, Sun() ? "True" : "False");
-    settings.Write(kSection, kNight, Night() ? "True" : "False");
-    settings.Write(kSection, kTextSize, PlainNumber(step_));
+    settings.Write(setting::kSettings, kSun, Sun() ? "True" : "False");
+    settings.Write(setting::kSettings, kNight, Night() ? "True" : "False");
+    settings.Write(setting::kSettings, kTextSize, PlainNumber(step_));
 }
 
 }  // namespace vatro

@@ -14,12 +14,12 @@ namespace vatro {
 
 namespace {
 
-constexpr int kWidth = 2;
+constexpr int kEdgeWidth = 2;
 
 /// The control with the focus has a broader frame, in the colour of the text.
-void Frame(const QStyleOption& option, QPainter& painter, bool enabled, bool round = false) {
+void DrawFrame(const QStyleOption& option, QPainter& painter, bool enabled, bool round = false) {
     const bool focus = enabled && option.state.testFlag(QStyle::State_HasFocus);
-    const double width = focus ? kWidth + 1 : kWidth;
+    const double width = focus ? kEdgeWidth + 1 : kEdgeWidth;
     const QPalette::ColorGroup group = enabled ? QPalette::Active : QPalette::Disabled;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, round);
@@ -35,7 +35,7 @@ void Frame(const QStyleOption& option, QPainter& painter, bool enabled, bool rou
 }
 
 /// Leaves the control with the focus to the style and to the mark of the field that receives the keys.
-void ThinFrame(const QStyleOption& option, QPainter& painter, bool round) {
+void DrawThinFrame(const QStyleOption& option, QPainter& painter, bool round) {
     if (!option.state.testFlag(QStyle::State_Enabled) || option.state.testFlag(QStyle::State_HasFocus)) return;
     constexpr double kHalf = 0.5;
     constexpr double kCorner = 2;
@@ -51,14 +51,14 @@ void ThinFrame(const QStyleOption& option, QPainter& painter, bool round) {
     painter.restore();
 }
 
-constexpr QLatin1String kVeil("caretVeil");
+constexpr QLatin1String kVeilName("caretVeil");
 
 /// Covers a field. Qt draws the text cursor as the negative of the ground, which is white on black; at night the veil lets nothing
 /// through that is brighter than the text.
 class CaretVeil : public QWidget {
 public:
     explicit CaretVeil(QLineEdit& field) : QWidget(&field) {
-        setObjectName(QString(kVeil));
+        setObjectName(QString(kVeilName));
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setFocusPolicy(Qt::NoFocus);
         resize(field.size());
@@ -104,12 +104,12 @@ QIcon Tinted(const QIcon& icon, const QColor& ink) {
 void BorderStyle::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
     auto* field = frames_ == Frames::Broad ? qobject_cast<QLineEdit*>(widget) : nullptr;
-    if (field != nullptr && field->findChild<QWidget*>(QString(kVeil), Qt::FindDirectChildrenOnly) == nullptr) new CaretVeil(*field);
+    if (field != nullptr && field->findChild<QWidget*>(QString(kVeilName), Qt::FindDirectChildrenOnly) == nullptr) new CaretVeil(*field);
 }
 
 void BorderStyle::unpolish(QWidget* widget) {
     QWidget* veil =
-        qobject_cast<QLineEdit*>(widget) != nullptr ? widget->findChild<QWidget*>(QString(kVeil), Qt::FindDirectChildrenOnly) : nullptr;
+        qobject_cast<QLineEdit*>(widget) != nullptr ? widget->findChild<QWidget*>(QString(kVeilName), Qt::FindDirectChildrenOnly) : nullptr;
     if (veil != nullptr) {
         // Not deleted at once: the application is going through a list of all its widgets.
         veil->setObjectName(QString());
@@ -124,7 +124,8 @@ void BorderStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     if (frames_ == Frames::Thin) {
         const bool filledIn = element == PE_FrameLineEdit || element == PE_IndicatorCheckBox;
         const bool chosenFrom = element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
-        if (filledIn || chosenFrom || element == PE_IndicatorRadioButton) ThinFrame(*option, *painter, element == PE_IndicatorRadioButton);
+        if (filledIn || chosenFrom || element == PE_IndicatorRadioButton)
+            DrawThinFrame(*option, *painter, element == PE_IndicatorRadioButton);
         return;
     }
     switch (element) {
@@ -132,15 +133,15 @@ void BorderStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         case PE_Frame:
         case PE_PanelButtonCommand:
         case PE_IndicatorCheckBox:
-            Frame(*option, *painter, option->state.testFlag(State_Enabled));
+            DrawFrame(*option, *painter, option->state.testFlag(State_Enabled));
             break;
         case PE_IndicatorRadioButton:
-            Frame(*option, *painter, option->state.testFlag(State_Enabled), true);
+            DrawFrame(*option, *painter, option->state.testFlag(State_Enabled), true);
             break;
         case PE_FrameMenu:
         case PE_PanelTipLabel:
             // Qt leaves the state out.
-            Frame(*option, *painter, true);
+            DrawFrame(*option, *painter, true);
             break;
         default:
             break;
@@ -178,13 +179,13 @@ void BorderStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
         QStyleOption slider(*option);
         slider.rect = subControlRect(CC_ScrollBar, bar, SC_ScrollBarSlider, widget);
         slider.state.setFlag(State_HasFocus, false);
-        ThinFrame(slider, *painter, false);
+        DrawThinFrame(slider, *painter, false);
     }
     if (control != CC_ComboBox) return;
     if (frames_ == Frames::Thin)
-        ThinFrame(*option, *painter, false);
+        DrawThinFrame(*option, *painter, false);
     else
-        Frame(*option, *painter, option->state.testFlag(State_Enabled));
+        DrawFrame(*option, *painter, option->state.testFlag(State_Enabled));
 }
 
 int BorderStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
@@ -192,7 +193,7 @@ int BorderStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
     switch (metric) {
         case PM_MenuPanelWidth:
             // Room for the frame beside the entries, which some styles fill from edge to edge.
-            return frames_ == Frames::Broad ? qMax(usual, kWidth) : usual;
+            return frames_ == Frames::Broad ? qMax(usual, kEdgeWidth) : usual;
         case PM_IndicatorWidth:
         case PM_IndicatorHeight:
         case PM_ExclusiveIndicatorWidth:

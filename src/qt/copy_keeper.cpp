@@ -17,6 +17,7 @@
 #include "deliver.h"
 #include "dialogs.h"
 #include "entry/frmMain.h"
+#include "frame/settings_table.h"
 #include "frame/state.h"
 #include "frame/station.h"
 #include "joined.h"
@@ -33,14 +34,13 @@ using namespace literals;
 
 namespace {
 
-constexpr std::string_view kSection = "Settings";
 constexpr std::string_view kDirectory = "KopiBib";
 constexpr std::string_view kId = "KopiId";
 
 /// How long after the start, or after the directory was chosen, a window may open by itself.
 constexpr qint64 kAtOnce = 5000;
 /// How long the end of the program waits for the copy.
-constexpr std::chrono::milliseconds kPatience{2000};
+constexpr std::chrono::milliseconds kCopyPatience{2000};
 
 std::string Counted(std::size_t contacts) {
     return Joined({std::to_string(contacts), contacts == 1 ? " kontakt" : " kontakter"});
@@ -90,8 +90,8 @@ LiveCopy::Options CopyKeeper::Options() {
 }
 
 void CopyKeeper::Begin() {
-    directory_ = settings_.Read(kSection, kDirectory).value_or("");
-    id_ = settings_.Read(kSection, kId).value_or("");
+    directory_ = settings_.Read(setting::kSettings, kDirectory).value_or("");
+    id_ = settings_.Read(setting::kSettings, kId).value_or("");
     Follow(false);
 }
 
@@ -164,7 +164,7 @@ void CopyKeeper::Choose() {
     if (box.clickedButton() == other) return AskForDirectory();
     if (box.clickedButton() != stop) return;
     directory_.clear();
-    settings_.Write(kSection, kDirectory, "");
+    settings_.Write(setting::kSettings, kDirectory, "");
     Follow(false);
 }
 
@@ -194,7 +194,7 @@ std::string CopyKeeper::TypedDirectory() {
 }
 
 void CopyKeeper::AskForDirectory() {
-    const std::string chosen = copy_.Status().busy >= kPatience ? TypedDirectory() : ChosenDirectory();
+    const std::string chosen = copy_.Status().busy >= kCopyPatience ? TypedDirectory() : ChosenDirectory();
     if (chosen.empty()) return;
     const auto isSame = [&](const std::string& other) { return !other.empty() && Directory(chosen) == Directory(other); };
     if (isSame(desk().gsLogLib) || isSame(desk().gsBackupLib)) {
@@ -208,13 +208,13 @@ void CopyKeeper::AskForDirectory() {
     }
     directory_ = chosen;
     if (id_.empty()) id_ = FromQt(QUuid::createUuid().toString(QUuid::WithoutBraces));
-    settings_.Write(kSection, kDirectory, directory_);
-    settings_.Write(kSection, kId, id_);
+    settings_.Write(setting::kSettings, kDirectory, directory_);
+    settings_.Write(setting::kSettings, kId, id_);
     Follow(true);
 }
 
 bool CopyKeeper::End() {
-    return copy_.End(kPatience);
+    return copy_.End(kCopyPatience);
 }
 
 std::string CopyKeeper::LastWord() const {

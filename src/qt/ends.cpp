@@ -26,7 +26,7 @@ namespace {
 /// running.
 constexpr int kBetweenSteps = 20;
 /// Milliseconds to wait for the settings to be stored.
-constexpr unsigned long kPatience = 2000;
+constexpr unsigned long kStorePatience = 2000;
 
 /// The settings to store if the process ends now; null while no program runs.
 DiskSettings* atExit = nullptr;
@@ -61,7 +61,7 @@ void StoreBeforeLeaving(QtMsgType type, const QMessageLogContext& context, const
     if (QThread::currentThread() == qApp->thread()) return StoreAtExit();
     QMetaObject::invokeMethod(qApp, StoreAtExit, Qt::QueuedConnection);
     // Normally the process ends during this sleep; the limit applies if the program hangs.
-    QThread::msleep(kPatience);
+    QThread::msleep(kStorePatience);
 }
 
 }  // namespace

@@ -8,9 +8,9 @@ namespace vatro {
 
 namespace {
 
-constexpr int kBroad = 4;
+constexpr int kMarkWidth = 4;
 /// The rest covers the field's own frame, so that there are not two frames.
-constexpr int kOutside = 2;
+constexpr int kMarkOutside = 2;
 
 }  // namespace
 
@@ -26,7 +26,7 @@ void FieldMark::Surround(QWidget& widget) {
         widget.installEventFilter(this);
     }
     if (parentWidget() != widget.parentWidget()) setParent(widget.parentWidget());
-    setGeometry(widget.geometry().adjusted(-kOutside, -kOutside, kOutside, kOutside));
+    setGeometry(widget.geometry().adjusted(-kMarkOutside, -kMarkOutside, kMarkOutside, kMarkOutside));
     show();
     raise();
 }
@@ -38,8 +38,8 @@ bool FieldMark::eventFilter(QObject* watched, QEvent* event) {
 
 void FieldMark::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setPen(QPen(palette().color(QPalette::WindowText), kBroad, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    constexpr double kMiddle = kBroad / 2.0;
+    painter.setPen(QPen(palette().color(QPalette::WindowText), kMarkWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    constexpr double kMiddle = kMarkWidth / 2.0;
     painter.drawRect(QRectF(rect()).adjusted(kMiddle, kMiddle, -kMiddle, -kMiddle));
 }
 

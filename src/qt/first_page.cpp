@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "deliver.h"
@@ -24,8 +25,7 @@ namespace vatro {
 namespace {
 
 /// Width of the page, in characters of its font.
-constexpr int kWidth = 84;
-constexpr int kSecond = 1000;
+constexpr int kPageWidth = 84;
 
 }  // namespace
 
@@ -44,7 +44,7 @@ FirstPage::FirstPage(const FirstAnswers& proposed, Surroundings surroundings)
     for (QWidget* widget : findChildren<QWidget*>()) widget->installEventFilter(this);
     auto* clock = new QTimer(this);
     connect(clock, &QTimer::timeout, this, &FirstPage::ShowClock);
-    clock->start(kSecond);
+    clock->start(std::chrono::seconds(1));
     mark_ = new FieldMark;
     mark_->setParent(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
@@ -167,7 +167,7 @@ void FirstPage::Enter(QWidget& from) {
 
 void FirstPage::Fit() {
     const QSize free = (isVisible() ? screen() : QGuiApplication::primaryScreen())->availableSize();
-    const int width = std::min(fontMetrics().averageCharWidth() * kWidth, free.width() * 9 / 10);
+    const int width = std::min(fontMetrics().averageCharWidth() * kPageWidth, free.width() * 9 / 10);
     const QMargins margins = layout()->contentsMargins();
     const int others = margins.top() + margins.bottom() + layout()->spacing() + goOn_->sizeHint().height() +
                        style()->pixelMetric(QStyle::PM_TitleBarHeight);

@@ -29,8 +29,6 @@ using namespace literals;
 
 namespace {
 
-constexpr int kSecond = 1000;
-
 ClockWatch::Reading ReadClocks() {
     ClockWatch::Reading reading;
     const QDateTime now = QDateTime::currentDateTimeUtc();
@@ -74,7 +72,7 @@ Lamps::Lamps(QtFront& front, Safety& safety, CopyKeeper& copy) : clocks(ReadCloc
         lastContact_.Failed(NativeText(file.filename()), Meaning(failure));
         ShowLastContact();
     };
-    everySecond_.setInterval(kSecond);
+    everySecond_.setInterval(std::chrono::seconds(1));
     connect(&everySecond_, &QTimer::timeout, this, [this] {
         LookAtClock();
         LookAtCopy();

@@ -21,9 +21,9 @@ namespace vatro {
 
 namespace {
 
-constexpr std::string_view kWidth = "Bredde";
-constexpr std::string_view kHeight = "Hojde";
-constexpr std::string_view kState = "Tilstand";
+constexpr std::string_view kWidthKey = "Bredde";
+constexpr std::string_view kHeightKey = "Hojde";
+constexpr std::string_view kStateKey = "Tilstand";
 
 constexpr std::string_view kMaximised = "maksimeret";
 constexpr std::string_view kFullScreen = "hele";
@@ -43,7 +43,7 @@ constexpr const char* kShownSize = "vatroShownSize";
 constexpr const char* kGrownSize = "vatroGrownSize";
 
 /// Milliseconds without a change after which the size is stored.
-constexpr int kRest = 1000;
+constexpr int kStoreRest = 1000;
 
 int Length(Settings& settings, std::string_view key) {
     return static_cast<int>(qBound(0.0, NumericValue(settings.Read(kWindowSection, key).value_or("")), 100'000.0));
@@ -128,7 +128,7 @@ QSize OwnSize(const QMainWindow& window) {
 
 MainSize::MainSize(QtFront& front, Settings& settings) : settings_(settings), settling_([this](bool /*byManager*/) { Rest(); }) {
     soon_.setSingleShot(true);
-    soon_.setInterval(kRest);
+    soon_.setInterval(kStoreRest);
     connect(&soon_, &QTimer::timeout, this, &MainSize::Store);
     front.beforeFirstShow = [this](QMainWindow& window) { Restore(window); };
     front.placedFirst = [this](QMainWindow& window) {
@@ -147,7 +147,7 @@ void MainSize::Restore(QMainWindow& window) {
     if (window_ == &window) return;
     window_ = &window;
     fresh_ = true;
-    const QSize stored(Length(settings_, kWidth), Length(settings_, kHeight));
+    const QSize stored(Length(settings_, kWidthKey), Length(settings_, kHeightKey));
     const QSize room = window.screen()->availableSize();
     if (!stored.isEmpty()) window.resize(stored.expandedTo(window.minimumSizeHint()).boundedTo(room));
     const auto first = FirstSize(window.size(), room);
@@ -156,7 +156,7 @@ void MainSize::Restore(QMainWindow& window) {
     const bool fills = !first && (stored.isEmpty() || stored.width() > room.width());
     SetOwnSize(window, stored.isEmpty() ? window.size() : stored);
     sized_ = !stored.isEmpty() || first.has_value();
-    const std::string state = settings_.Read(kWindowSection, kState).value_or("");
+    const std::string state = settings_.Read(kWindowSection, kStateKey).value_or("");
     const bool maximised = state == kMaximised || state == kMaximisedFullScreen;
     const bool whole = state == kFullScreen || state == kMaximisedFullScreen;
     forScreen_ = fills && !maximised;
@@ -216,8 +216,8 @@ void MainSize::Store() {
     const QSize own = OwnSize(*window_);
     settings_.BeginBatch();
     if (sized_) {
-        settings_.Write(kWindowSection, kWidth, PlainNumber(own.width()));
-        settings_.Write(kWindowSection, kHeight, PlainNumber(own.height()));
+        settings_.Write(kWindowSection, kWidthKey, PlainNumber(own.width()));
+        settings_.Write(kWindowSection, kHeightKey, PlainNumber(own.height()));
     }
     StoreState();
     settings_.EndBatch();
@@ -226,7 +226,7 @@ void MainSize::Store() {
 void MainSize::StoreState() {
     const bool maximised = state_.testFlag(Qt::WindowMaximized) && !forScreen_;
     const bool whole = state_.testFlag(Qt::WindowFullScreen);
-    settings_.Write(kWindowSection, kState,
+    settings_.Write(kWindowSection, kStateKey,
                     whole       ? (maximised ? kMaximisedFullScreen : kFullScreen)
                     : maximised ? kMaximised
                                 : std::string_view());

@@ -26,11 +26,11 @@ void OutcomeSign::paintEvent(QPaintEvent* /*event*/) {
     const QRectF chip(0, 0, size, size);
     constexpr double kCorner = 0.2;
     constexpr double kInset = 0.25;
-    constexpr double kLine = 0.12;
+    constexpr double kStroke = 0.12;
     painter.setPen(Qt::NoPen);
     painter.setBrush(colours.ground);
     painter.drawRoundedRect(chip, size * kCorner, size * kCorner);
-    painter.setPen(QPen(colours.ink, size * kLine, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(colours.ink, size * kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QRectF inside = chip.adjusted(size * kInset, size * kInset, -size * kInset, -size * kInset);
     if (good_)
         PaintTick(painter, inside);

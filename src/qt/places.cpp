@@ -21,7 +21,7 @@ namespace vatro {
 namespace {
 
 /// Milliseconds after a change of the main window until it has its new size and frame.
-constexpr int kRest = 200;
+constexpr int kMainRest = 200;
 
 /// A window needs at least this much room to be useful.
 constexpr int kLeastHeight = 100;
@@ -219,7 +219,7 @@ bool OnScreens(const QRect& frame, int title, const std::vector<QRect>& screens)
 
 Places::Places(QtFront& front) : front_(front) {
     soon_.setSingleShot(true);
-    soon_.setInterval(kRest);
+    soon_.setInterval(kMainRest);
     connect(&soon_, &QTimer::timeout, this, &Places::Settle);
     front.beforeShow = [this](FormWindow& window) { Show(window); };
     connect(qApp, &QGuiApplication::screenAdded, this, [this] { soon_.start(); });

@@ -8,7 +8,7 @@ namespace vatro {
 
 namespace {
 
-constexpr int kPatience = 2000;
+constexpr int kAnswerPatience = 2000;
 constexpr int kAfterKill = 100;
 
 }  // namespace
@@ -19,7 +19,7 @@ bool PrintServerAnswers() {
     asking.setStandardOutputFile(QProcess::nullDevice());
     asking.setStandardErrorFile(QProcess::nullDevice());
     asking.start(QCoreApplication::applicationDirPath() + QStringLiteral("/vatro-printers"), {});
-    if (asking.waitForFinished(kPatience)) return asking.exitStatus() == QProcess::NormalExit && asking.exitCode() == 0;
+    if (asking.waitForFinished(kAnswerPatience)) return asking.exitStatus() == QProcess::NormalExit && asking.exitCode() == 0;
     // vatro-printers is missing, so nothing can ask first. Risk waiting for the server rather than not printing at all.
     if (asking.error() == QProcess::FailedToStart) return true;
     asking.kill();

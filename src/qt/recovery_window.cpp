@@ -30,9 +30,9 @@ using namespace literals;
 namespace {
 
 /// Width of the window, in characters of its font.
-constexpr int kWidth = 90;
+constexpr int kWindowWidth = 90;
 
-QLabel* Words(const QString& text, bool bold = false) {
+QLabel* TextToCopy(const QString& text, bool bold = false) {
     auto* label = new QLabel(text);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
@@ -63,7 +63,7 @@ RecoveryWindow::RecoveryWindow(const std::filesystem::path& directory, const std
     for (const Finding& finding : findings) AddCard(finding, *column);
     column->addStretch(1);
 
-    all->addWidget(Words(QStringLiteral("Logbiblioteket: ") + ToQt(NativeText(directory)), true));
+    all->addWidget(TextToCopy(QStringLiteral("Logbiblioteket: ") + ToQt(NativeText(directory)), true));
     auto* scroll = new QScrollArea;
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
@@ -75,7 +75,7 @@ RecoveryWindow::RecoveryWindow(const std::filesystem::path& directory, const std
     auto* buttons = new QDialogButtonBox;
     QPushButton* accept = nullptr;
     if (hasProposals_) {
-        all->addWidget(Words(QStringLiteral("Intet slettes: hver fil, der bliver ændret, lægges først i historikken.")));
+        all->addWidget(TextToCopy(QStringLiteral("Intet slettes: hver fil, der bliver ændret, lægges først i historikken.")));
         accept = buttons->addButton(QStringLiteral("&Gør det (Enter)"), QDialogButtonBox::AcceptRole);
         QPushButton* leave = buttons->addButton(QStringLiteral("&Ændr intet (Esc)"), QDialogButtonBox::RejectRole);
         leave->setAutoDefault(false);
@@ -93,7 +93,7 @@ RecoveryWindow::RecoveryWindow(const std::filesystem::path& directory, const std
     cards_ = scroll;
     accept_ = accept;
     const QSize room = (owner != nullptr ? owner->screen() : QGuiApplication::primaryScreen())->availableSize();
-    const int width = std::min(fontMetrics().averageCharWidth() * kWidth, room.width() * 9 / 10);
+    const int width = std::min(fontMetrics().averageCharWidth() * kWindowWidth, room.width() * 9 / 10);
     cards->setFixedWidth(width);
     const int height = column->heightForWidth(width);
     scroll->setMinimumSize(width + style()->pixelMetric(QStyle::PM_ScrollBarExtent), std::min(height, room.height() * 6 / 10));
@@ -118,11 +118,11 @@ void RecoveryWindow::AddCard(const Finding& finding, QVBoxLayout& cards) {
     auto* card = new QFrame;
     card->setFrameShape(QFrame::StyledPanel);
     auto* rows = new QVBoxLayout(card);
-    rows->addWidget(Words(ToQt(finding.file), true));
-    rows->addWidget(Words(ToQt(finding.what)));
+    rows->addWidget(TextToCopy(ToQt(finding.file), true));
+    rows->addWidget(TextToCopy(ToQt(finding.what)));
     const bool proposes = finding.action != Finding::Action::None;
-    if (proposes) rows->addWidget(Words(Holding(finding.found)));
-    rows->addWidget(Words((proposes ? QStringLiteral("Forslag: ") : QStringLiteral("Gør: ")) + ToQt(finding.proposal)));
+    if (proposes) rows->addWidget(TextToCopy(Holding(finding.found)));
+    rows->addWidget(TextToCopy((proposes ? QStringLiteral("Forslag: ") : QStringLiteral("Gør: ")) + ToQt(finding.proposal)));
     QComboBox* choice = nullptr;
     if (!finding.candidates.empty()) {
         choice = new QComboBox;

@@ -14,9 +14,9 @@ using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds kTime = 500ms;
 /// How far the frame reaches beyond the field, to cover a frame that marks it.
-constexpr int kOutside = 2;
+constexpr int kFlashOutside = 2;
 /// Broader than any other frame around a field.
-constexpr int kBroad = 6;
+constexpr int kFlashWidth = 6;
 /// Opacity of the tint over the text.
 constexpr float kTint = 0.25F;
 
@@ -40,7 +40,7 @@ RefusalFlash::RefusalFlash(QWidget& field) : QWidget(field.parentWidget()), fiel
 }
 
 void RefusalFlash::Begin() {
-    setGeometry(field_->geometry().adjusted(-kOutside, -kOutside, kOutside, kOutside));
+    setGeometry(field_->geometry().adjusted(-kFlashOutside, -kFlashOutside, kFlashOutside, kFlashOutside));
     raise();
     show();
     timer_.start();
@@ -49,7 +49,7 @@ void RefusalFlash::Begin() {
 void RefusalFlash::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     QColor colour = ColoursOf(Signal::Wrong, palette()).ground;
-    const QRect inside = rect().adjusted(kBroad, kBroad, -kBroad, -kBroad);
+    const QRect inside = rect().adjusted(kFlashWidth, kFlashWidth, -kFlashWidth, -kFlashWidth);
     const QRegion frame = QRegion(rect()) - inside;
     for (const QRect& part : frame) painter.fillRect(part, colour);
     colour.setAlphaF(kTint);

@@ -19,7 +19,7 @@ using namespace literals;
 namespace {
 
 /// How long to wait for the sound system; if it does not answer, there is no sound card.
-constexpr std::chrono::milliseconds kPatience{3000};
+constexpr std::chrono::milliseconds kCardPatience{3000};
 
 /// Without this, the message that there is no sound card would send the operator looking for a cable.
 void TellMissing() {
@@ -65,7 +65,7 @@ std::unique_ptr<SoundDevice> QtSound::CreateDevice() {
             found->module = load();
             found->device = found->module != nullptr && found->module->DeviceThere();
         },
-        kPatience);
+        kCardPatience);
     if (answered && found->module == nullptr) TellMissing();
     if (!answered || !found->device) throw RunTimeError(Failure::DeviceUnavailable);
     const auto makeStream = [module = found->module] { return module->MakeStream(StoreBeforeSoundEnds); };

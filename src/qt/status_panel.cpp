@@ -64,8 +64,8 @@ QPolygonF Star(const QRectF& place) {
 /// A cross, a star, a tick, a diamond or a question mark.
 void PaintSign(QPainter& painter, PanelMark mark, const QRectF& place, const QColor& ink) {
     const auto at = [&](double x, double y) { return QPointF(place.x() + x * place.width(), place.y() + y * place.height()); };
-    constexpr double kLine = 0.16;
-    painter.setPen(QPen(ink, place.width() * kLine, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    constexpr double kStroke = 0.16;
+    painter.setPen(QPen(ink, place.width() * kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(ink);
     switch (mark) {
         case PanelMark::Duplicate:

@@ -104,7 +104,7 @@ void Player::Press(const KeyStroke& key) {
 
 void Player::PassTime() {
     DueEvents* source = nullptr;
-    Moment due = *until_;
+    SceneTime due = *until_;
     for (DueEvents* events : dueEvents_) {
         const auto next = events->NextDue();
         if (!next || *next > due || (source != nullptr && *next == due)) continue;

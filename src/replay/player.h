@@ -134,7 +134,7 @@ private:
     std::size_t current_ = 0;
     /// The rest of the current command: keys still to press, and the time until which the clock runs.
     std::deque<KeyStroke> keys_;
-    std::optional<Moment> until_;
+    std::optional<SceneTime> until_;
     /// The open items; the one in front is last.
     std::vector<Open*> open_;
     /// A run has begun, and its end has not been recorded yet.

@@ -21,7 +21,7 @@ void SceneClock::Set(const DateTime& now) {
     origin_ = AddMilliseconds(now, -passed_);
 }
 
-void SceneClock::MoveTo(Moment moment) {
+void SceneClock::MoveTo(SceneTime moment) {
     passed_ = std::max(passed_, moment);
 }
 
@@ -34,7 +34,7 @@ std::vector<SceneClock::Waiting>::const_iterator SceneClock::Next() const {
     return std::min_element(waiting_.begin(), waiting_.end(), [](const Waiting& a, const Waiting& b) { return a.due < b.due; });
 }
 
-std::optional<Moment> SceneClock::NextDue() const {
+std::optional<SceneTime> SceneClock::NextDue() const {
     const auto next = Next();
     if (next == waiting_.end()) return std::nullopt;
     return next->due;

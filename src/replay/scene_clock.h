@@ -11,14 +11,14 @@
 namespace vatro {
 
 /// Milliseconds of scenario time since the start. Setting the local time does not affect it.
-using Moment = long long;
+using SceneTime = long long;
 
 /// A source of timed events, such as the timers or the sound card.
 class DueEvents {
 public:
     virtual ~DueEvents() = default;
     /// When the next event is due, or nothing.
-    virtual std::optional<Moment> NextDue() const = 0;
+    virtual std::optional<SceneTime> NextDue() const = 0;
     /// Delivers the next event. The clock must already stand at its moment.
     virtual void DeliverNext() = 0;
 };
@@ -33,17 +33,17 @@ public:
     /// Sets the local time.
     void Set(const DateTime& now);
     /// Milliseconds since the start of the scenario.
-    Moment Passed() const { return passed_; }
+    SceneTime Passed() const { return passed_; }
     /// Advances the clock; time never goes back.
-    void MoveTo(Moment moment);
+    void MoveTo(SceneTime moment);
 
-    std::optional<Moment> NextDue() const override;
+    std::optional<SceneTime> NextDue() const override;
     void DeliverNext() override;
 
 private:
     struct Waiting {
         Ticker* ticker;
-        Moment due;
+        SceneTime due;
     };
 
     /// The next event to deliver. Of events due at the same moment, the one scheduled first.
@@ -51,7 +51,7 @@ private:
 
     /// The local time at moment 0.
     DateTime origin_{2026, 9, 5, 15, 0, 0, 0};
-    Moment passed_ = 0;
+    SceneTime passed_ = 0;
     std::vector<Waiting> waiting_;
 };
 

@@ -12,7 +12,7 @@ namespace vatro {
 
 namespace {
 
-constexpr Moment kMillisecondsPerSecond = 1000;
+constexpr SceneTime kMillisecondsPerSecond = 1000;
 
 }  // namespace
 
@@ -60,10 +60,10 @@ public:
     }
 
     /// When the next sample that has an event will have been played, and the event.
-    std::optional<std::pair<Moment, SoundEvent>> Next() const {
+    std::optional<std::pair<SceneTime, SoundEvent>> Next() const {
         const auto passing = course_.Next();
         if (!passing) return std::nullopt;
-        const Moment due = (passing->played * kMillisecondsPerSecond + samplesPerSecond_ - 1) / samplesPerSecond_;
+        const SceneTime due = (passing->played * kMillisecondsPerSecond + samplesPerSecond_ - 1) / samplesPerSecond_;
         return std::pair{began_ + due, passing->event};
     }
 
@@ -83,7 +83,7 @@ private:
     std::vector<std::int16_t> samples_;
     SoundCourse course_;
     /// When playback began, and how many samples have been played since.
-    Moment began_ = 0;
+    SceneTime began_ = 0;
     long long played_ = 0;
 };
 
@@ -114,8 +114,8 @@ std::unique_ptr<SoundDevice> SceneSound::CreateDevice() {
     return std::make_unique<Device>(*this);
 }
 
-std::optional<Moment> SceneSound::NextDue() const {
-    std::optional<Moment> due;
+std::optional<SceneTime> SceneSound::NextDue() const {
+    std::optional<SceneTime> due;
     for (const Buffer* buffer : playing_) {
         const auto next = buffer->Next();
         if (next && (!due || next->first < *due)) due = next->first;

@@ -29,7 +29,7 @@ public:
     void DestroyEvent(SoundEvent event) override { events_.erase(event); }
     std::unique_ptr<SoundDevice> CreateDevice() override;
 
-    std::optional<Moment> NextDue() const override;
+    std::optional<SceneTime> NextDue() const override;
     void DeliverNext() override;
 
 private:

@@ -24,12 +24,12 @@ namespace fs = std::filesystem;
 
 constexpr const char* kName = "FD80mSSB.txt";
 /// With this many contacts of 81 bytes, the next one does not fit into the first block of 4096 bytes.
-constexpr int kContacts = 50;
+constexpr int kCopiedContacts = 50;
 const std::string kMarker = "text\r\nid\r\n";
 
 /// The contents of the log after each step: two contacts, the second one across the end of a block, and a correction.
 std::vector<std::string> Story() {
-    std::vector<std::string> story{LogOf(kContacts - 1), LogOf(kContacts), LogOf(kContacts + 1)};
+    std::vector<std::string> story{LogOf(kCopiedContacts - 1), LogOf(kCopiedContacts), LogOf(kCopiedContacts + 1)};
     std::string corrected = story.back();
     const std::string line = ContactLine(7, 7);
     corrected.replace(corrected.find(line), line.size(), ContactLine(7, 7, "DL7CC"));

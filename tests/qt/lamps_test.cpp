@@ -37,7 +37,7 @@ using namespace literals;
 using testing::HasSubstr;
 
 /// The greatest contrast of any pixel against the commonest colour.
-double Contrast(QWidget& widget) {
+double ContrastOfText(QWidget& widget) {
     const QImage image = widget.grab().toImage();
     std::map<QRgb, int> counts;
     for (int y = 0; y < image.height(); ++y)
@@ -241,7 +241,7 @@ TEST_F(ALampRow, IsLegibleInEveryScheme) {
         for (const Lamp& lamp : {kGood, kNotice, kBad}) {
             row->Show(LampKind::Copy, lamp);
             Settle();
-            EXPECT_GE(Contrast(row->Button(LampKind::Copy)), 4.5) << scheme << ", " << lamp.text;
+            EXPECT_GE(ContrastOfText(row->Button(LampKind::Copy)), 4.5) << scheme << ", " << lamp.text;
         }
     }
 }

@@ -58,8 +58,8 @@ protected:
     }
     void Fill(const Samples& image) { buffer->Write(0, image); }
     /// Lets time pass, and delivers each event when it is due.
-    void Pass(Moment milliseconds) {
-        const Moment until = scene.Passed() + milliseconds;
+    void Pass(SceneTime milliseconds) {
+        const SceneTime until = scene.Passed() + milliseconds;
         while (const auto due = card.NextDue()) {
             if (*due > until) break;
             scene.MoveTo(*due);
@@ -67,7 +67,7 @@ protected:
         }
         scene.MoveTo(until);
     }
-    using Run = std::vector<std::pair<int, Moment>>;
+    using Run = std::vector<std::pair<int, SceneTime>>;
 
     SceneClock scene;
     SceneSound card{scene};

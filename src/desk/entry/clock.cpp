@@ -10,7 +10,6 @@ namespace vatro {
 
 namespace {
 
-constexpr int kMinute = 60000;
 /// Milliseconds after the full minute, so that the tick never shows the minute that has just ended.
 constexpr int kAfterMinute = 100;
 
@@ -30,7 +29,7 @@ void TimerStop() {
 }
 
 void TimerTick() {
-    if (frmMain->minuteTimer.Interval() != kMinute) frmMain->minuteTimer.SetInterval(kMinute);
+    if (frmMain->minuteTimer.Interval() != Timer::kMinute) frmMain->minuteTimer.SetInterval(Timer::kMinute);
     frmMain->fields[kUtcField].SetText(UtcTimeText());
 }
 

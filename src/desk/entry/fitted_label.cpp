@@ -7,7 +7,6 @@ namespace vatro {
 
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
 /// Twips of window per point of text: a point has 20, plus a margin of 2.5 per cent.
 constexpr double kTwipsPerTextPoint = 20.5;
 

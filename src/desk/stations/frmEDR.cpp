@@ -17,7 +17,6 @@ namespace {
 /// Height of the button, in twips.
 constexpr int kButtonHeight = 495;
 constexpr int kColumns = 4;
-constexpr int kTwipsPerPoint = 20;
 /// Used only to measure the width of a column: seven characters of a wide call.
 constexpr std::string_view kWideCall = "QQ9MMM ";
 

@@ -9,7 +9,6 @@ namespace vatro {
 
 namespace {
 
-constexpr int kMinute = 60000;
 /// Number of times the bar is painted from one end to the other.
 constexpr int kRepaints = 100;
 
@@ -30,7 +29,7 @@ void FrmCtyDat::Form_Load() {
 }
 
 void FrmCtyDat::ShowClock() {
-    if (minuteTimer.Interval() != kMinute) minuteTimer.SetInterval(kMinute);
+    if (minuteTimer.Interval() != Timer::kMinute) minuteTimer.SetInterval(Timer::kMinute);
     // The panels are meant for date and time, but the program never had values for them: one shows the day from which it counts dates,
     // the other nothing. Keep them: operators know the window as it is.
     statusBar.SetPanel(2, "30.12.1899");

@@ -15,7 +15,7 @@ namespace {
 /// Samples in a ramp, the same at every speed.
 constexpr int kRampSamples = 25;
 
-std::size_t IndexOf(std::int32_t sample) {
+std::size_t SampleIndex(std::int32_t sample) {
     return static_cast<std::size_t>(sample);
 }
 
@@ -33,7 +33,7 @@ void Pieces::ComputeDotLength(std::int16_t wordsPerMinute) {
 
 void Pieces::AllocateTone() {
     if (Priklen < kRampSamples) throw RunTimeError(Failure::IndexOutOfRange);
-    CWStreg.assign(IndexOf(3 * Priklen + 1), 0);
+    CWStreg.assign(SampleIndex(3 * Priklen + 1), 0);
 }
 
 void Pieces::DanTone(std::int16_t pitch, std::int32_t volume) {
@@ -48,7 +48,7 @@ void Pieces::DanTone(std::int16_t pitch, std::int32_t volume) {
 
 void Pieces::DanElementer() {
     const auto cut = [this](std::int32_t from) {
-        Piece piece(IndexOf(Priklen + 1), 0);
+        Piece piece(SampleIndex(Priklen + 1), 0);
         std::copy_n(CWStreg.begin() + from, Priklen, piece.begin());
         return piece;
     };
@@ -58,15 +58,15 @@ void Pieces::DanElementer() {
     // correct it: recordings of two copies are compared sample by sample.
     CWMidte = cut(Priklen - 1);
     CWSlut = cut(2 * Priklen - 1);
-    CWPause.assign(IndexOf(Priklen + 1), 0);
+    CWPause.assign(SampleIndex(Priklen + 1), 0);
 
     for (int i = 0; i <= kRampSamples; ++i) {
-        CWStart[IndexOf(i)] = Attenuated(CWStart[IndexOf(i)], i);
-        CWPrik[IndexOf(i)] = Attenuated(CWPrik[IndexOf(i)], i);
+        CWStart[SampleIndex(i)] = Attenuated(CWStart[SampleIndex(i)], i);
+        CWPrik[SampleIndex(i)] = Attenuated(CWPrik[SampleIndex(i)], i);
     }
     for (std::int32_t i = Priklen - kRampSamples; i <= Priklen; ++i) {
-        CWSlut[IndexOf(i)] = Attenuated(CWSlut[IndexOf(i)], Priklen - i);
-        CWPrik[IndexOf(i)] = Attenuated(CWPrik[IndexOf(i)], Priklen - i);
+        CWSlut[SampleIndex(i)] = Attenuated(CWSlut[SampleIndex(i)], Priklen - i);
+        CWPrik[SampleIndex(i)] = Attenuated(CWPrik[SampleIndex(i)], Priklen - i);
     }
 }
 

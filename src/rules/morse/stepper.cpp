@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view kEndMark = "0";
 
-std::size_t IndexOf(std::int32_t position) {
+std::size_t CharacterIndex(std::int32_t position) {
     return static_cast<std::size_t>(position);
 }
 
@@ -26,7 +26,7 @@ std::string Stepper::NæsteElement() {
     ++glElementPos;
     if (gscwtegn.empty()) gscwtegn = MorseElements(NextCharacter());
     const auto length = static_cast<std::int32_t>(gscwtegn.size());
-    if (glElementPos <= length) return {gscwtegn[IndexOf(glElementPos - 1)]};
+    if (glElementPos <= length) return {gscwtegn[CharacterIndex(glElementPos - 1)]};
     if (glElementPos > length + 2 + extraSilence) {
         glElementPos = 0;
         gscwtegn.clear();
@@ -49,7 +49,7 @@ void Stepper::ResetPosition() {
 /// The key into the Morse table at the current position. "<" joins the two letters after it into one key. The position then moves to the
 /// ">", and past it when the sign has been sent.
 std::string_view Stepper::NextCharacter() {
-    const std::string_view rest = Columns(gsCWTekst, IndexOf(glTegnPos + 1));
+    const std::string_view rest = Columns(gsCWTekst, CharacterIndex(glTegnPos + 1));
     if (!rest.starts_with('<')) return rest.substr(0, 1);
     glTegnPos += 3;
     return Columns(rest, 2, 2);

@@ -21,14 +21,14 @@ std::string Blanks(std::size_t count) {
     return std::string(count, ' ');
 }
 
-constexpr BandColumns kColumns{"  @@@@@ x ", " @@@@@@@@"};
+constexpr BandColumns kPrintColumns{"  @@@@@ x ", " @@@@@@@@"};
 
 /// Prints the two rows of a band: CW with the radio, SSB with the totals of the band and the antenna.
 void PrintBand(PageSink& pages, const PaperContext& context, const Tally& tally, std::size_t bandNumber) {
     const Equipment& equipment = context.equipment[bandNumber];
-    Row(pages, BandRow(kColumns, bandNumber, " CW  ", tally.CW(bandNumber)) + Blanks(29) + equipment.radio);
+    Row(pages, BandRow(kPrintColumns, bandNumber, " CW  ", tally.CW(bandNumber)) + Blanks(29) + equipment.radio);
     const LogSum& band = tally.band[bandNumber];
-    Row(pages, BandRow(kColumns, bandNumber, " SSB ", tally.SSB(bandNumber)) + InTemplate("  @@@@@ x ", band.Mults) +
+    Row(pages, BandRow(kPrintColumns, bandNumber, " SSB ", tally.SSB(bandNumber)) + InTemplate("  @@@@@ x ", band.Mults) +
                    InTemplate("@@@@@@ = ", band.Points) + InTemplate("@@@@@@@@@", band.Score) + " " + equipment.antenna);
     BlankRow(pages);
 }

@@ -43,15 +43,15 @@ std::string ToNextZone(std::string line) {
     return line;
 }
 
-constexpr BandColumns kColumns{"       @@@@@ x ", "@@@@@@@@"};
+constexpr BandColumns kFileColumns{"       @@@@@ x ", "@@@@@@@@"};
 
 void WriteBand(LineSink& paper, const PaperContext& context, const Tally& tally, std::size_t bandNumber) {
     constexpr std::size_t kBlanksToEquipment = 49;
     const Equipment& equipment = context.equipment[bandNumber];
-    paper.Write(BandRow(kColumns, bandNumber, " CW   ", tally.CW(bandNumber)).append(kBlanksToEquipment, ' ') + equipment.radio + "/" +
+    paper.Write(BandRow(kFileColumns, bandNumber, " CW   ", tally.CW(bandNumber)).append(kBlanksToEquipment, ' ') + equipment.radio + "/" +
                 equipment.antenna);
     const LogSum& band = tally.band[bandNumber];
-    paper.Write(BandRow(kColumns, bandNumber, " SSB  ", tally.SSB(bandNumber)) + InTemplate("         @@@@@ x ", band.Mults) +
+    paper.Write(BandRow(kFileColumns, bandNumber, " SSB  ", tally.SSB(bandNumber)) + InTemplate("         @@@@@ x ", band.Mults) +
                 InTemplate("      @@@@@@ = ", band.Points) + InTemplate("      @@@@@@@@@", band.Score));
 }
 
