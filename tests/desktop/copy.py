@@ -56,22 +56,13 @@ def equal(desktop, stick):
     return (stick / LOG).exists() and (stick / LOG).read_bytes() == (desktop.log / LOG).read_bytes()
 
 
-def choose(desktop, directory):
-    desktop.press("alt+e", "l")
-    desktop.keys_go_to("Vælg bibliotek til løbende kopi")
-    desktop.xdotool("type", "--delay", "10", str(directory))
-    desktop.press("Return")
-    until(lambda: (directory / "vatro.kopi").exists(), "the marker file")
-    desktop.keys_go_to(MAIN)
-
-
 def a_stick_is_chosen_with_keys_pulled_and_brought_back():
     with Desktop(DATA) as desktop:
         stick = desktop.home / "stick"
         stick.mkdir()
         desktop.set(**STATION)
         desktop.start(PROGRAM)
-        choose(desktop, stick)
+        desktop.choose_copy(stick)
         log_contact(desktop, "dl7qnc", 12)
         until(lambda: equal(desktop, stick), "the copy of the first contact")
         assert not red(desktop), "a lamp is red although all is well"

@@ -207,6 +207,15 @@ class Desktop:
     def press(self, *keys):
         self.xdotool("key", "--delay", "60", *keys)
 
+    def choose_copy(self, directory, main="Vatro OZ7FD/P"):
+        """Chooses the directory of the second copy with keys, and gives these back to the main window."""
+        self.press("alt+e", "l")
+        self.keys_go_to("Vælg bibliotek til løbende kopi")
+        self.xdotool("type", "--delay", "10", str(directory))
+        self.press("Return")
+        until(lambda: (directory / "vatro.kopi").exists(), "the marker file")
+        self.keys_go_to(main)
+
     def ended(self, within=PATIENCE):
         """The exit code (negative if a signal ended the program) and the program's output."""
         try:

@@ -22,7 +22,7 @@ CURSOR = 2 * SECONDS
 
 
 def wake_ups(process):
-    """How often each thread has waited for something, by its name."""
+    """How often each thread has waited for something, by its name and number."""
     counts = {}
     for task in pathlib.Path(f"/proc/{process}/task").iterdir():
         lines = (task / "status").read_text().splitlines()
@@ -34,20 +34,32 @@ def wake_ups(process):
 def check(process, most):
     before = wake_ups(process)
     time.sleep(SECONDS)
-    more = {task[0]: number - before.get(task, 0) for task, number in wake_ups(process).items()}
-    told = ", ".join(f"{name} {number}" for name, number in more.items() if number)
+    more = {task: number - before.get(task, 0) for task, number in wake_ups(process).items()}
+    told = ", ".join(f"{name} {number}" for (name, _), number in more.items() if number)
     print(f"        in {SECONDS} s: {told}")
     assert sum(more.values()) <= most, f"woken {sum(more.values())} times in {SECONDS} s: {told}"
 
 
-def on_a_screen():
+def let_alone(with_a_copy):
     with Desktop(DATA) as desktop:
         desktop.set(Band="80m")
         desktop.start(PROGRAM)
+        if with_a_copy:
+            stick = desktop.home / "stick"
+            stick.mkdir()
+            desktop.choose_copy(stick)
         left, top, width, height = desktop.rectangle("Vatro OZ7FD/P")
         desktop.xdotool("mousemove", str(left + width // 3), str(top + height // 3), "click", "1")
         time.sleep(3)
         check(desktop.program.pid, MOST)
+
+
+def on_a_screen():
+    let_alone(with_a_copy=False)
+
+
+def on_a_screen_with_a_second_copy():
+    let_alone(with_a_copy=True)
 
 
 def off_the_screen():
@@ -60,4 +72,4 @@ def off_the_screen():
 
 if __name__ == "__main__":
     skip_without_tools()
-    sys.exit(run([on_a_screen, off_the_screen]))
+    sys.exit(run([on_a_screen, on_a_screen_with_a_second_copy, off_the_screen]))
