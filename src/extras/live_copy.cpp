@@ -132,7 +132,7 @@ void LiveCopy::Run(const std::shared_ptr<Shared>& shared) {
     std::unique_lock lock(shared->mutex);
     while (true) {
         const auto due = [&] { return shared->replaced || !shared->changed.empty() || shared->stop; };
-        shared->wake.wait_for(lock, shared->options.every, due);
+        shared->wake.wait_for(lock, shared->last.done ? shared->options.everyAtRest : shared->options.every, due);
         // The last round brings over what the end of the program has written.
         const bool last = shared->stop;
         if (std::exchange(shared->replaced, false)) work = std::move(shared->next);

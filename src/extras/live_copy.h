@@ -40,8 +40,10 @@ public:
         std::function<DateTime()> universal;
         /// Runs on the thread of the copy when the status has changed, but not after End.
         std::function<void()> changed = [] {};
-        /// How often the directory is looked for.
+        /// How often the directory is looked for as long as a copy is missing or behind its log.
         std::chrono::milliseconds every{1000};
+        /// And while every copy equals its log. A log that is written brings the next look at once.
+        std::chrono::milliseconds everyAtRest{5000};
         /// After this the thread counts as hanging.
         std::chrono::milliseconds patience{2000};
     };

@@ -44,6 +44,7 @@ struct Disk {
     CopyOutcome answer = Done();
     std::set<std::string> copied;
     int adopted = 0;
+    int updates = 0;
 
     void Hang(bool on) {
         {
@@ -55,6 +56,10 @@ struct Disk {
     void Answer(CopyOutcome outcome) {
         const std::scoped_lock lock(mutex);
         answer = std::move(outcome);
+    }
+    int Updates() {
+        const std::scoped_lock lock(mutex);
+        return updates;
     }
     bool Copied(const std::string& log) {
         const std::scoped_lock lock(mutex);
@@ -74,6 +79,7 @@ public:
         std::unique_lock lock(disk_->mutex);
         disk_->gate.wait(lock, [this] { return !disk_->hangs; });
         disk_->copied.insert(changed.begin(), changed.end());
+        ++disk_->updates;
         return disk_->answer;
     }
 
@@ -95,6 +101,7 @@ LiveCopy::Options Quick() {
     LiveCopy::Options options;
     options.universal = [] { return kNow; };
     options.every = milliseconds(5);
+    options.everyAtRest = milliseconds(5);
     return options;
 }
 
@@ -202,6 +209,24 @@ TEST(LiveCopies, TellWhyThereIsNoneAndWhenItIsBack) {
     ASSERT_TRUE(Eventually([&] { return copy.Status().current; }));
     EXPECT_GE(copy.TakeFound(), 3U);
     EXPECT_GE(told, 3);
+    EXPECT_TRUE(copy.End(kPatience));
+}
+
+TEST(LiveCopies, LookForTheDirectoryOftenOnlyWhileItIsMissing) {
+    const auto disk = std::make_shared<Disk>();
+    disk->answer = NotDone("gone");
+    LiveCopy::Options options = Quick();
+    options.everyAtRest = std::chrono::hours(1);
+    LiveCopy copy(std::move(options));
+    copy.Follow(std::make_unique<DiskWork>(disk), false);
+    ASSERT_TRUE(Eventually([&] { return disk->Updates() > 3; }));
+    disk->Answer(Done());
+    ASSERT_TRUE(Eventually([&] { return copy.Status().current; }));
+    const int updates = disk->Updates();
+    std::this_thread::sleep_for(milliseconds(50));
+    EXPECT_EQ(disk->Updates(), updates);
+    Write(copy, "FD80mSSB.txt");
+    EXPECT_TRUE(Eventually([&] { return disk->Copied("FD80mSSB.txt") && copy.Status().current; }));
     EXPECT_TRUE(copy.End(kPatience));
 }
 
