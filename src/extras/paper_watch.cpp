@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <utility>
 
 #include "codepage.h"
 #include "joined.h"
@@ -36,7 +35,6 @@ std::string ContactCount(int number) {
 void PaperWatch::Open(int number, std::string_view path, FileMode mode) {
     const bool log = mode == FileMode::Input && IsLogName(NameIn(path));
     Slot slot;
-    if (log) slot.log = path;
     if (mode == FileMode::Output) {
         slot.paper = papers_.size();
         papers_.push_back({std::string(path)});
@@ -51,17 +49,18 @@ void PaperWatch::Open(int number, std::string_view path, FileMode mode) {
             if (!absent && !failure_) failure_ = failure.Which();
             throw;
         }
-        contacts_[slot.log] = 0;
+        slot.contacts = &contacts_[std::string(path)];
+        *slot.contacts = 0;
     } else {
         Watched([&] { files_.Open(number, path, mode); });
     }
-    slots_.at(static_cast<std::size_t>(number - 1)) = std::move(slot);
+    slots_.at(static_cast<std::size_t>(number - 1)) = slot;
 }
 
 std::string PaperWatch::LineInput(int number) {
     std::string line = Watched([&] { return files_.LineInput(number); });
     const Slot& slot = slots_.at(static_cast<std::size_t>(number - 1));
-    if (!slot.log.empty() && !IsNoteLine(line)) ++contacts_[slot.log];
+    if (slot.contacts != nullptr && !IsNoteLine(line)) ++*slot.contacts;
     return line;
 }
 

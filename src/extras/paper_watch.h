@@ -69,7 +69,8 @@ private:
     };
     /// What is open under a number: a log that is read, or a paper.
     struct Slot {
-        std::string log;
+        /// The contacts read from the log so far, in contacts_.
+        int* contacts = nullptr;
         std::optional<std::size_t> paper;
     };
     static constexpr std::size_t kSlots = 2;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "whole_file.h"
 
+#include <memory>
 #include <system_error>
 #include <utility>
-#include <vector>
 
 #include "errors.h"
 #include "system_file.h"
@@ -27,8 +27,8 @@ ReadResult ReadOnce(const fs::path& path) {
     const auto length = fs::file_size(path, unknown);
     if (!unknown) result.content.reserve(length);
     try {
-        std::vector<char> buffer(kPiece);
-        while (const std::size_t count = file.Read(buffer)) result.content.append(buffer.data(), count);
+        const auto buffer = std::make_unique_for_overwrite<char[]>(kPiece);
+        while (const std::size_t count = file.Read({buffer.get(), kPiece})) result.content.append(buffer.get(), count);
         result.whole = true;
     } catch (const RunTimeError&) {
         result.whole = false;

@@ -3,10 +3,15 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QIconEngine>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPointer>
 #include <QResizeEvent>
 #include <QStyleOption>
+#include <functional>
+#include <optional>
+#include <utility>
 
 #include "signal_colours.h"
 
@@ -97,6 +102,39 @@ QIcon Tinted(const QIcon& icon, const QColor& ink) {
     for (const int size : kSizes)
         if (const QPixmap pixmap = icon.pixmap(size, size); !pixmap.isNull()) tinted.addPixmap(Tinted(pixmap, ink));
     return tinted;
+}
+
+/// An icon that is made when it is first shown.
+class LateIcon : public QIconEngine {
+public:
+    explicit LateIcon(std::function<QIcon()> make) : make_(std::move(make)) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+        Made().paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override { return Made().pixmap(size, 1, mode, state); }
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override {
+        return Made().pixmap(size / scale, scale, mode, state);
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override { return Made().actualSize(size, mode, state); }
+    QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override { return Made().availableSizes(mode, state); }
+    // Without asking the icon, which would make it.
+    bool isNull() override { return false; }
+    QIconEngine* clone() const override { return new LateIcon(*this); }
+
+private:
+    const QIcon& Made() {
+        if (!icon_) icon_ = make_();
+        return *icon_;
+    }
+
+    std::function<QIcon()> make_;
+    std::optional<QIcon> icon_;
+};
+
+/// Whether the icon is that of the button for what has no room in a toolbar. Each toolbar has such a button, which is seldom seen.
+bool IsOfExtension(QStyle::StandardPixmap which) {
+    return which == QStyle::SP_ToolBarHorizontalExtensionButton || which == QStyle::SP_ToolBarVerticalExtensionButton;
 }
 
 }  // namespace
@@ -206,6 +244,14 @@ int BorderStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
 }
 
 QIcon BorderStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const {
+    if (IsOfExtension(which)) {
+        const QPointer<const BorderStyle> style = this;
+        return QIcon(new LateIcon([style, which] { return style != nullptr ? style->ReadyIcon(which, nullptr, nullptr) : QIcon(); }));
+    }
+    return ReadyIcon(which, option, widget);
+}
+
+QIcon BorderStyle::ReadyIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const {
     const QIcon icon = QProxyStyle::standardIcon(which, option, widget);
     const QPalette palette = QApplication::palette();
     return IsNight(palette) ? Tinted(icon, palette.color(QPalette::WindowText)) : icon;

@@ -43,6 +43,8 @@ public:
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
 
 private:
+    QIcon ReadyIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const;
+
     Frames frames_;
 };
 

@@ -53,6 +53,13 @@ QSize EntryField::SizeFor(int chars) const {
     return style()->sizeFromContents(QStyle::CT_LineEdit, &option, content, this);
 }
 
+void EntryField::keyReleaseEvent(QKeyEvent* event) {
+    // Bypass the line edit's own handler, which would begin a new blink of the cursor, as the press has already done, and so paint the
+    // field a second time.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    QWidget::keyReleaseEvent(event);
+}
+
 void TickBox::paintEvent(QPaintEvent* event) {
     QCheckBox::paintEvent(event);
     QStyleOptionButton option;

@@ -29,6 +29,9 @@ public:
     QSize sizeHint() const override { return SizeFor(chars_); }
     QSize minimumSizeHint() const override { return SizeFor(leastChars_ > 0 ? leastChars_ : chars_); }
 
+protected:
+    void keyReleaseEvent(QKeyEvent* event) override;
+
 private:
     QSize SizeFor(int chars) const;
 

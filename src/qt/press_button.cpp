@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "press_button.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace vatro {
@@ -27,8 +28,17 @@ QFont PressButton::PressedFont() const {
 }
 
 QSize PressButton::sizeHint() const {
-    const QFontMetrics metrics(PressedFont());
-    return {metrics.horizontalAdvance(text()) + 2 * metrics.averageCharWidth(), metrics.height() * 3 / 2};
+    if (!hint_.isValid() || hintedText_ != text()) {
+        const QFontMetrics metrics(PressedFont());
+        hintedText_ = text();
+        hint_ = {metrics.horizontalAdvance(hintedText_) + 2 * metrics.averageCharWidth(), metrics.height() * 3 / 2};
+    }
+    return hint_;
+}
+
+void PressButton::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) hint_ = {};
+    QToolButton::changeEvent(event);
 }
 
 void PressButton::paintEvent(QPaintEvent* event) {

@@ -20,9 +20,14 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     QFont PressedFont() const;
+
+    /// The size last given and the caption that it is for. The layout of a toolbar asks again and again.
+    mutable QSize hint_;
+    mutable QString hintedText_;
 };
 
 /// An action whose button in a toolbar is a PressButton.

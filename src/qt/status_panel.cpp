@@ -170,6 +170,17 @@ bool StatusPanel::Elastic() const {
     return sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
 }
 
+bool StatusPanel::LongestFits() const {
+    const int room = Inside().width() - SignWidth(longestMark_);
+    const int plain = fontMetrics().horizontalAdvance(longest_);
+    // Bold letters are wider, but not by so much. The bold font is only made if that decides.
+    constexpr double kBroadest = 1.4;
+    if (!IsLoud(longestMark_) || plain > room || plain * kBroadest <= room) return plain <= room;
+    QFont loud = font();
+    loud.setBold(true);
+    return QFontMetrics(loud).horizontalAdvance(longest_) <= room;
+}
+
 void StatusPanel::LayOut(bool anew) {
     const QFontMetrics metrics(TextFont(mark_));
     const int room = Inside().width() - SignWidth(mark_);
@@ -190,10 +201,7 @@ void StatusPanel::LayOut(bool anew) {
         rest = words.mid(first.textLength());
     }
     lines_.append(Elastic() ? metrics.elidedText(rest, Qt::ElideRight, room) : rest);
-    QFont loud = font();
-    loud.setBold(IsLoud(longestMark_));
-    const int longest = QFontMetrics(loud).horizontalAdvance(longest_) + SignWidth(longestMark_);
-    const int least = Elastic() && longest > Inside().width() ? kMostRows : 1;
+    const int least = anew && Elastic() && !LongestFits() ? kMostRows : 1;
     rows_ = qMax(anew ? least : rows_, Lines());
     setMinimumHeight(rows_ * metrics.lineSpacing() + 2 * margin());
     const bool cut = lines_.constLast() != rest;

@@ -45,6 +45,8 @@ protected:
 private:
     /// Lays the text out in the width of the panel. `anew` forgets the height that earlier texts needed.
     void LayOut(bool anew);
+    /// Whether one line has room for the longest text.
+    bool LongestFits() const;
     QFont TextFont(PanelMark mark) const;
     int SignWidth(PanelMark mark) const;
     /// Where the sign and the text are.

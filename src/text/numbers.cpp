@@ -124,6 +124,12 @@ Integer Rounded(double value) {
 std::optional<double> ShortNumber(std::string_view text) {
     if (text.size() > kSurelyFits) return std::nullopt;
     int digits = 0;
+    // Nearly every text is blanks and the digits after them.
+    std::size_t at = 0;
+    while (at < text.size() && text[at] == ' ') ++at;
+    while (at < text.size() && IsDigit(text[at])) digits = digits * 10 + (text[at++] - '0');
+    if (at == text.size()) return digits;
+    digits = 0;
     // Dividing two integers that a double holds exactly gives the double nearest to the true value.
     double unit = 1;
     char sign = 0;

@@ -155,6 +155,21 @@ TEST_F(AppearanceOfTheWindow, BandAndModeAreTheLargestWordsOfTheHead) {
         }
 }
 
+TEST_F(AppearanceOfTheWindow, TheButtonsOfTheHeadHaveRoomForALargerCaption) {
+    StartVatro();
+    auto& bar = WidgetOf<QToolBar>(frmMain->toolbar);
+    QWidget* band = bar.widgetForAction(ActionOf(5, bar));
+    const QSize usual = band->sizeHint();
+    Press(Qt::Key_Plus);
+    Press(Qt::Key_Plus);
+    EXPECT_GT(band->sizeHint().height(), usual.height());
+    EXPECT_GT(band->sizeHint().width(), usual.width());
+    Press(Qt::Key_0);
+    EXPECT_EQ(band->sizeHint(), usual);
+    ActionOf(5, bar)->setText(QStringLiteral("1296m"));
+    EXPECT_GT(band->sizeHint().width(), usual.width());
+}
+
 TEST_F(AppearanceOfTheWindow, TextGrowsAndShrinksByTenthsAndGoesBack) {
     StartVatro();
     const double usual = Points();

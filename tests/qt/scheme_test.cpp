@@ -10,9 +10,11 @@
 #include <QListView>
 #include <QMenu>
 #include <QMessageBox>
+#include <QProxyStyle>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolBar>
 #include <QToolButton>
 
 #include "qt/all_schemes.h"
@@ -106,6 +108,21 @@ TEST_F(Night, IconsOfButtonsThatCannotBePressedAreRed) {
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x) lit += qRed(image.pixel(x, y)) > 30 ? 1 : 0;
     EXPECT_GT(lit, 10);
+}
+
+TEST(IconOfAToolbarWithoutRoom, IsThatOfTheDesktop) {
+    UseScheme(Scheme::Desktop);
+    auto* style = qobject_cast<QProxyStyle*>(QApplication::style());
+    ASSERT_NE(style, nullptr);
+    const QIcon desktop = style->baseStyle()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+    QToolBar bar;
+    const auto* extension = bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
+    ASSERT_NE(extension, nullptr);
+    const QSize size = extension->iconSize();
+    ASSERT_FALSE(desktop.pixmap(size).isNull());
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled})
+        EXPECT_EQ(extension->icon().pixmap(size, 2, mode).toImage(), desktop.pixmap(size, 2, mode).toImage()) << mode;
+    EXPECT_EQ(extension->icon().actualSize(size), desktop.actualSize(size));
 }
 
 TEST(EdgesOfFields, DifferFromTheirSurroundingsInEveryScheme) {

@@ -121,6 +121,27 @@ TEST_F(AStatusPanel, ALongTextGoesOnInASecondLineAndIsWhole) {
     EXPECT_EQ(panel->accessibleName(), ToQt(kDupeWarning));
 }
 
+TEST_F(AStatusPanel, KeepsNoMoreRoomThanItsLongestTextNeeds) {
+    const QString longest = ToQt(kDupeWarning);
+    panel->KeepRoomFor(longest, PanelMark::Duplicate);
+    const int plain = panel->fontMetrics().horizontalAdvance(longest);
+    const int one = panel->fontMetrics().lineSpacing() + 2 * panel->margin();
+    QFont loud = panel->font();
+    loud.setBold(true);
+    ASSERT_LT(plain, QFontMetrics(loud).horizontalAdvance(longest));
+    bool two = true;
+    for (int width = plain / 2; width < 2 * plain; width += 7) {
+        Show(QString(), PanelMark::None);
+        window.resize(width, 200);
+        Settle();
+        const int kept = panel->minimumHeight();
+        Show(longest, PanelMark::Duplicate);
+        two = panel->Lines() == 2;
+        EXPECT_EQ(kept > one, two) << width;
+    }
+    EXPECT_FALSE(two);
+}
+
 TEST_F(AStatusPanel, BlanksAtTheEndOfATextNeedNoLine) {
     Show(QStringLiteral("OZ1QAB Aarhus afdeling") + QString(300, u' '), PanelMark::Station);
     EXPECT_EQ(panel->Lines(), 1);
