@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     try {
         const Scenario scenario(text);
-        std::vector<Output> own;
+        std::vector<OutputLines> own;
         for (const Command& command : scenario.Commands()) own.push_back(command.expected);
         if (!scenario.Matches(own) || !scenario.Diff("x", own).empty()) __builtin_trap();
         const Scenario again(scenario.WithOutput(own));

@@ -17,7 +17,7 @@ std::string Count(int items) {
     return " " + std::to_string(items) + " items";
 }
 
-void AddItems(Output& lines, const std::vector<std::string>& items) {
+void AddItems(OutputLines& lines, const std::vector<std::string>& items) {
     for (const std::string& item : items) lines.push_back(Quoted(item));
 }
 
@@ -27,13 +27,13 @@ void Ask(Driver& driver, const Seen& seen, const std::string& name) {
     if (!mismatch.empty()) throw CannotDeliver(name + " is not shown as the program holds it: " + mismatch);
 }
 
-Output ShowMenu(const std::string& name, Driver& driver) {
+OutputLines ShowMenu(const std::string& name, Driver& driver) {
     const MenuItem& item = FindMenuItem(name);
     Ask(driver, item, ToUtf8(name));
     return {ToUtf8(name) + " " + Quoted(item.Caption()) + (item.Enabled() ? " enabled" : " disabled") + (item.Ticked() ? " ticked" : "")};
 }
 
-Output ShowToolbar(Driver& driver) {
+OutputLines ShowToolbar(Driver& driver) {
     const Toolbar& toolbar = FindToolbar();
     Ask(driver, toolbar, NameOf(toolbar));
     std::set<int> pressed;
@@ -44,7 +44,7 @@ Output ShowToolbar(Driver& driver) {
     return {line};
 }
 
-Output ShowFocus(Driver& driver) {
+OutputLines ShowFocus(Driver& driver) {
     const Form* form = ActiveForm();
     if (form == nullptr) return {"focus -"};
     Ask(driver, *form, ToUtf8(form->Name()));
@@ -52,7 +52,7 @@ Output ShowFocus(Driver& driver) {
     return {control == nullptr ? "focus -" : "focus " + NameOf(*control)};
 }
 
-Output ShowForm(const std::string& name, bool place, Driver& driver) {
+OutputLines ShowForm(const std::string& name, bool place, Driver& driver) {
     const Form* form = FindForm(name);
     std::string line = ToUtf8(name);
     if (form == nullptr) return {line + " unloaded"};
@@ -66,7 +66,7 @@ Output ShowForm(const std::string& name, bool place, Driver& driver) {
     return {line + (form->State() == WindowState::Minimised ? " minimised" : " shown")};
 }
 
-Output ShowNamedControl(const std::string& name, bool state, Driver& driver) {
+OutputLines ShowNamedControl(const std::string& name, bool state, Driver& driver) {
     const Control* control = FindControl(name);
     if (control == nullptr) return {ToUtf8(ParseControlName(name).form) + " unloaded"};
     Ask(driver, *control, ToUtf8(name));
@@ -75,10 +75,10 @@ Output ShowNamedControl(const std::string& name, bool state, Driver& driver) {
 
 }  // namespace
 
-Output ShowControl(const Control& control) {
+OutputLines ShowControl(const Control& control) {
     const std::string name = NameOf(control);
-    const auto line = [&name](const std::string& rest) { return Output{name + " " + rest}; };
-    const auto withItems = [](Output lines, const std::vector<std::string>& items) {
+    const auto line = [&name](const std::string& rest) { return OutputLines{name + " " + rest}; };
+    const auto withItems = [](OutputLines lines, const std::vector<std::string>& items) {
         AddItems(lines, items);
         return lines;
     };
@@ -98,13 +98,13 @@ Output ShowControl(const Control& control) {
         [&](const StatusBar& bar) {
             std::string panels = name;
             for (const std::string& panel : bar.Panels()) panels += " " + Quoted(panel);
-            return Output{panels};
+            return OutputLines{panels};
         },
         [&](const ProgressBar& bar) { return line(std::to_string(bar.Value()) + " of " + std::to_string(bar.Max())); },
-        [&](const Control&) -> Output { throw CannotDeliver(name + " has nothing to show"); });
+        [&](const Control&) -> OutputLines { throw CannotDeliver(name + " has nothing to show"); });
 }
 
-Output ShowControlState(const Control& control) {
+OutputLines ShowControlState(const Control& control) {
     std::string line = NameOf(control) + (control.Enabled() ? " enabled" : " disabled") + (control.Visible() ? " shown" : " hidden");
     ByKind(
         control,
@@ -123,7 +123,7 @@ Output ShowControlState(const Control& control) {
     return {line};
 }
 
-Output Show(const std::vector<std::string>& arguments, Driver& driver) {
+OutputLines Show(const std::vector<std::string>& arguments, Driver& driver) {
     const std::string& name = arguments.at(0);
     const std::string what = arguments.size() > 1 ? arguments[1] : std::string{};
     if (name == "menu" && !what.empty()) return ShowMenu(what, driver);
@@ -140,8 +140,8 @@ Output Show(const std::vector<std::string>& arguments, Driver& driver) {
     throw CannotDeliver("cannot show " + ToUtf8(name) + " " + ToUtf8(what));
 }
 
-Output ShowLines(std::string_view content) {
-    Output lines;
+OutputLines ShowLines(std::string_view content) {
+    OutputLines lines;
     while (!content.empty()) {
         const std::size_t end = content.find_first_of("\r\n");
         const std::string line = "|" + ToUtf8(content.substr(0, end)) + "|";
@@ -157,15 +157,15 @@ Output ShowLines(std::string_view content) {
     return lines;
 }
 
-Output Cat(const World& world, const std::string& path) {
+OutputLines Cat(const World& world, const std::string& path) {
     const auto content = world.Read(path);
-    return content ? ShowLines(*content) : Output{"missing " + ToUtf8(path)};
+    return content ? ShowLines(*content) : OutputLines{"missing " + ToUtf8(path)};
 }
 
-Output List(const World& world, const std::string& directory) {
+OutputLines List(const World& world, const std::string& directory) {
     const auto names = world.List(directory);
     if (!names) return {"missing " + ToUtf8(directory)};
-    Output lines;
+    OutputLines lines;
     for (const std::string& name : *names) lines.push_back(ToUtf8(name));
     return lines;
 }

@@ -17,19 +17,19 @@
 namespace vatro {
 
 /// The command show, given all its arguments.
-Output Show(const std::vector<std::string>& arguments, Driver& driver);
+OutputLines Show(const std::vector<std::string>& arguments, Driver& driver);
 
 /// The control's content and state. Fails with CannotDeliver if there is nothing to show for this kind of control.
-Output ShowControl(const Control& control);
+OutputLines ShowControl(const Control& control);
 /// The state beside the content: enabled, visible and, depending on the kind, limit, selection, colours or font.
-Output ShowControlState(const Control& control);
+OutputLines ShowControlState(const Control& control);
 
 /// The output of cat: each line of the content between bars, followed by its line ending if that is not CR LF.
-Output ShowLines(std::string_view content);
+OutputLines ShowLines(std::string_view content);
 /// Reports a missing file or directory instead of failing.
-Output Cat(const World& world, const std::string& path);
+OutputLines Cat(const World& world, const std::string& path);
 /// The output of ls: the names in a directory. Reports a missing directory instead of failing.
-Output List(const World& world, const std::string& directory);
+OutputLines List(const World& world, const std::string& directory);
 
 /// The output line for a message box that opens.
 std::string BoxLine(const MessageBox& box);

@@ -138,8 +138,8 @@ void Player::EndSilently() {
     Dispatch([] { EndProgram(); });
 }
 
-void Player::Print(const Output& lines) {
-    Output& output = outputs_[current_];
+void Player::Print(const OutputLines& lines) {
+    OutputLines& output = outputs_[current_];
     output.insert(output.end(), lines.begin(), lines.end());
 }
 

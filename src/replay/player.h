@@ -41,7 +41,7 @@ public:
     /// Plays the whole scenario; call once. Fails with ScenarioError at a command that cannot be played.
     void Play();
     /// The output lines of each command.
-    const std::vector<Output>& Outputs() const { return outputs_; }
+    const std::vector<OutputLines>& Outputs() const { return outputs_; }
 
 private:
     /// An open box or file dialogue that the scenario has to close.
@@ -77,7 +77,7 @@ private:
     void EndSilently();
     std::string WaitFor(const std::string& line);
     void Print(const std::string& line) { outputs_[current_].push_back(line); }
-    void Print(const Output& lines);
+    void Print(const OutputLines& lines);
 
     // The commands, named after their words.
     void DoClock(const Command& command);
@@ -129,7 +129,7 @@ private:
     FaultyFiles files_;
     bool anotherCopy_ = false;
 
-    std::vector<Output> outputs_;
+    std::vector<OutputLines> outputs_;
     std::size_t next_ = 0;
     std::size_t current_ = 0;
     /// The rest of the current command: keys still to press, and the time until which the clock runs.

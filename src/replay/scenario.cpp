@@ -135,7 +135,7 @@ void Scenario::ParseLine(const std::string& line) {
     commands_.push_back(std::move(command));
 }
 
-std::string Scenario::WithOutput(const std::vector<Output>& output) const {
+std::string Scenario::WithOutput(const std::vector<OutputLines>& output) const {
     std::string text;
     const auto add = [&](const std::string& line) { text.append(line).append(lineEnd_); };
     std::size_t command = 0;
@@ -148,13 +148,13 @@ std::string Scenario::WithOutput(const std::vector<Output>& output) const {
     return text;
 }
 
-bool Scenario::Matches(const std::vector<Output>& output) const {
+bool Scenario::Matches(const std::vector<OutputLines>& output) const {
     for (std::size_t i = 0; i < commands_.size(); ++i)
         if (commands_[i].expected != output[i]) return false;
     return true;
 }
 
-std::string Scenario::Diff(const std::string& fileName, const std::vector<Output>& output) const {
+std::string Scenario::Diff(const std::string& fileName, const std::vector<OutputLines>& output) const {
     if (Matches(output)) return {};
     UnifiedDiff diff(fileName, fileName + " (played)");
     std::size_t command = 0;

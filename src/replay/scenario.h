@@ -46,7 +46,7 @@ struct Command {
     std::size_t outputAt = 0;
 };
 
-using Output = std::vector<std::string>;
+using OutputLines = std::vector<std::string>;
 
 /// A parsed scenario file.
 class Scenario {
@@ -56,11 +56,11 @@ public:
 
     const std::vector<Command>& Commands() const { return commands_; }
     /// The text of the file with its output lines replaced by these, given as one list per command.
-    std::string WithOutput(const std::vector<Output>& output) const;
+    std::string WithOutput(const std::vector<OutputLines>& output) const;
     /// Whether these are the expected output lines.
-    bool Matches(const std::vector<Output>& output) const;
+    bool Matches(const std::vector<OutputLines>& output) const;
     /// A unified diff from the expected output lines to these; empty if they match.
-    std::string Diff(const std::string& fileName, const std::vector<Output>& output) const;
+    std::string Diff(const std::string& fileName, const std::vector<OutputLines>& output) const;
 
 private:
     struct Line {

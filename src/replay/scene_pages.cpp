@@ -25,7 +25,7 @@ std::string OneDecimal(double number) {
 
 }  // namespace
 
-Output ScenePages::TakeJobs() {
+OutputLines ScenePages::TakeJobs() {
     return std::exchange(jobs_, {});
 }
 

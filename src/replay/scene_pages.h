@@ -15,7 +15,7 @@ namespace vatro {
 class ScenePages : public PageDevice {
 public:
     /// The jobs finished since the last call.
-    Output TakeJobs();
+    OutputLines TakeJobs();
 
     double Width() const override;
     double Height() const override;
@@ -29,8 +29,8 @@ public:
 private:
     void BeginPage();
 
-    Output jobs_;
-    Output job_;
+    OutputLines jobs_;
+    OutputLines job_;
     /// The current page of the job being printed; 0 until something has been printed on its first page.
     int page_ = 0;
 };

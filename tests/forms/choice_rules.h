@@ -11,7 +11,7 @@ class ChoiceRules : public FrontRules {
 protected:
     void Show() override { frmRulesChoice->Show(); }
     /// The options of the first frame that are on.
-    static std::string ChosenBy(const Output& output) {
+    static std::string ChosenBy(const OutputLines& output) {
         std::string chosen;
         for (std::size_t i = 0; i < output.size(); ++i)
             if (output[i].ends_with(" on")) chosen += std::to_string(i);

@@ -30,7 +30,7 @@ protected:
     ~FrontRules() override { happenings = {}; }
 
     /// Starts a program that shows the form, plays these lines and returns all output lines.
-    Output Play(std::string_view lines) {
+    OutputLines Play(std::string_view lines) {
         const Scenario scenario("start\n" + std::string(lines));
         const World world;
         const std::unique_ptr<Driver> driver = GetParam()();
@@ -39,8 +39,8 @@ protected:
             happenings.lines.clear();
         });
         player.Play();
-        Output all;
-        for (const Output& output : player.Outputs()) all.insert(all.end(), output.begin(), output.end());
+        OutputLines all;
+        for (const OutputLines& output : player.Outputs()) all.insert(all.end(), output.begin(), output.end());
         return all;
     }
     /// Like Play, but returns the events of the forms instead of the output lines.
@@ -52,7 +52,7 @@ protected:
     virtual void Show() { frmRules->Show(); }
     static void On(const std::string& happening, std::function<void()> reaction) { happenings.reactions[happening] = std::move(reaction); }
     /// Plays these lines on frmRulesLook.
-    Output PlayLook(std::string_view lines) {
+    OutputLines PlayLook(std::string_view lines) {
         On("KeyPress Text1(0) 97", [] { frmRulesLook->Show(); });
         return Play("type a\n" + std::string(lines));
     }

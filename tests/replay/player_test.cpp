@@ -20,7 +20,7 @@ protected:
     ~PlayerTest() override { happenings = {}; }
 
     /// The output lines of each command.
-    std::vector<Output> Played(std::string_view text) {
+    std::vector<OutputLines> Played(std::string_view text) {
         const Scenario scenario(text);
         MemoryFront front;
         Player player(scenario, world, front, [] {
@@ -31,9 +31,9 @@ protected:
         return player.Outputs();
     }
     /// The output lines of all commands.
-    Output OutputOf(std::string_view text) {
-        Output all;
-        for (const Output& output : Played(text)) all.insert(all.end(), output.begin(), output.end());
+    OutputLines OutputOf(std::string_view text) {
+        OutputLines all;
+        for (const OutputLines& output : Played(text)) all.insert(all.end(), output.begin(), output.end());
         return all;
     }
     /// The error that stops the scenario, as "LINE: reason".
@@ -67,8 +67,9 @@ TEST_F(PlayerTest, OutputBehindABoxBelongsToTheCommandThatClosesIt) {
         MsgBox("1");
         MsgBox("2");
     });
-    EXPECT_EQ(Played("start\ntype a\nadvance 1\nanswer OK\nshow focus\nanswer OK\n"),
-              (std::vector<Output>{{}, {"box \"vatro\" \"1\" OK -"}, {}, {"box \"vatro\" \"2\" OK -"}, {"focus frmRules.Text1(0)"}, {}}));
+    EXPECT_EQ(
+        Played("start\ntype a\nadvance 1\nanswer OK\nshow focus\nanswer OK\n"),
+        (std::vector<OutputLines>{{}, {"box \"vatro\" \"1\" OK -"}, {}, {"box \"vatro\" \"2\" OK -"}, {"focus frmRules.Text1(0)"}, {}}));
 }
 
 TEST_F(PlayerTest, AnswerComesBackToTheProgram) {
@@ -204,7 +205,7 @@ TEST_F(PlayerTest, RestOfTheTimePassesWhileABoxOfATickIsOpen) {
     OnKeyA([] { frmRules->Timer1.SetRunning(true); });
     On("Timer", [] { MsgBox(std::to_string(platform().clock.Now().second)); });
     EXPECT_EQ(Played("start\ntype a\nadvance 25\nanswer OK\nanswer OK"),
-              (std::vector<Output>{{}, {}, {"box \"vatro\" \"10\" OK -", "box \"vatro\" \"20\" OK -"}, {}, {}}));
+              (std::vector<OutputLines>{{}, {}, {"box \"vatro\" \"10\" OK -", "box \"vatro\" \"20\" OK -"}, {}, {}}));
 }
 
 TEST_F(PlayerTest, NoTickComesAfterTheEnd) {

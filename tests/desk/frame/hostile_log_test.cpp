@@ -45,7 +45,7 @@ std::string LogAfter(const std::string& log, const std::string& events) {
         const Scenario scenario(kSetting + events);
         Player player(scenario, world, front, StartProgram);
         player.Play();
-        for (const Output& output : player.Outputs()) EXPECT_TRUE(output.empty()) << output.front();
+        for (const OutputLines& output : player.Outputs()) EXPECT_TRUE(output.empty()) << output.front();
     }
     return Content(file);
 }
