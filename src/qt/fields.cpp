@@ -2,11 +2,14 @@
 #include "fields.h"
 
 #include <QApplication>
+#include <QGlyphRun>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QRawFont>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <QTextLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <utility>
@@ -28,6 +31,25 @@ constexpr double kPartFilled = 0.85;
 
 /// The letters by which the height of a row is measured. Those of a number and of most calls are no higher, and do not reach below.
 constexpr const char16_t* kOfRow = u"O0/";
+
+/// The outline of each letter of a line of text whose baseline begins at the origin. Blanks have none.
+QList<QPainterPath> LetterPaths(const QString& text, const QFont& font) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    QList<QPainterPath> paths;
+    for (const QGlyphRun& run : layout.glyphRuns()) {
+        const QRawFont letters = run.rawFont();
+        const QList<quint32> indexes = run.glyphIndexes();
+        const QList<QPointF> places = run.positions();
+        for (qsizetype i = 0; i < indexes.size(); ++i) {
+            const QPainterPath path = letters.pathForGlyph(indexes[i]);
+            if (!path.isEmpty()) paths.append(path.translated(places[i] - QPointF(0, line.ascent())));
+        }
+    }
+    return paths;
+}
 
 }  // namespace
 
@@ -167,8 +189,8 @@ const FittedText::Letters& FittedText::Outline() const {
     if (!letters_ || letters_->text != text()) {
         Letters letters;
         letters.text = text();
-        letters.path.addText(0, 0, font_, letters.text);
-        letters.ink = letters.path.boundingRect();
+        letters.paths = LetterPaths(letters.text, font_);
+        for (const QPainterPath& path : letters.paths) letters.ink |= path.boundingRect();
         letters.advance = QFontMetricsF(font_).horizontalAdvance(letters.text);
         letters_ = letters;
     }
@@ -187,7 +209,7 @@ const QRectF& FittedText::RowInk() const {
 double FittedText::LargestScale() const {
     const Letters& letters = Outline();
     // Without letters there is nothing to limit.
-    if (letters.path.isEmpty()) return height();
+    if (letters.paths.isEmpty()) return height();
     const double broad = width() / qMax(letters.advance, letters.ink.right());
     if (row_ == nullptr) return qMin(height() / letters.ink.height(), broad);
     // A letter that reaches below the line may use the margin.
@@ -222,12 +244,13 @@ void FittedText::paintEvent(QPaintEvent* /*event*/) {
                 if (other != this) other->update();
     }
     const Letters& letters = Outline();
-    if (letters.path.isEmpty()) return;
+    if (letters.paths.isEmpty()) return;
     const double middle = (row_ != nullptr ? RowInk() : letters.ink).center().y();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate((width() - letters.advance * scale) / 2, height() / 2.0 - middle * scale);
     painter.scale(scale, scale);
-    painter.fillPath(letters.path, colour.isValid() ? colour : palette().color(foregroundRole()));
+    const QBrush brush(colour.isValid() ? colour : palette().color(foregroundRole()));
+    for (const QPainterPath& path : letters.paths) painter.fillPath(path, brush);
 }
 
 }  // namespace vatro

@@ -79,7 +79,9 @@ private:
     /// The text in the font in which it is measured.
     struct Letters {
         QString text;
-        QPainterPath path;
+        /// One for each letter that is not blank. To fill them one after the other takes less than half the time of a single path, which
+        /// is gone through again for each part of its area.
+        QList<QPainterPath> paths;
         QRectF ink;
         double advance = 0;
     };
