@@ -60,7 +60,7 @@ void ReadBare(benchmark::State& state) {
 
 void LookThrough(benchmark::State& state) {
     const TenLogs logs;
-    state.SetLabel("vs twenty files read, at most 30");
+    state.SetLabel("vs twenty files read, at most 40");
     for (auto _ : state) {
         if (!LookForDamage({logs.Directory(), logs.Tables(), "80mSSB", kNow}, logs.Versions()).empty())
             return state.SkipWithError("something is wrong with a sound directory");

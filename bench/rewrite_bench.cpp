@@ -59,7 +59,7 @@ void RewriteBare(benchmark::State& state) {
 
 void Rewrite(benchmark::State& state) {
     const Program program(SampleLog());
-    state.SetLabel("vs copy synced, compared, linked, renamed, at most 2");
+    state.SetLabel("vs copy synced, compared, linked, renamed, at most 4");
     std::string line = desk().log.Lines().front();
     for (auto _ : state) {
         // The received number differs each time, as after a correction.
