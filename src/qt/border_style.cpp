@@ -20,6 +20,10 @@ namespace vatro {
 namespace {
 
 constexpr int kEdgeWidth = 2;
+/// A pixel with no more alpha than this does not count for how dark a picture is.
+constexpr int kTransparent = 127;
+/// A picture without a grey lighter than this is a dark sign.
+constexpr int kDark = 100;
 
 /// The control with the focus has a broader frame, in the colour of the text.
 void DrawFrame(const QStyleOption& option, QPainter& painter, bool enabled, bool round = false) {
@@ -84,13 +88,19 @@ protected:
     }
 };
 
-/// The picture in shades of this colour.
+/// The picture in shades of this colour. The shades of a dark sign are reversed, because it would not be seen on black.
 QPixmap Tinted(const QPixmap& pixmap, const QColor& ink) {
     QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+    int lightest = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qAlpha(image.pixel(x, y)) > kTransparent) lightest = qMax(lightest, qGray(image.pixel(x, y)));
+    const bool dark = lightest < kDark;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x) {
             const QRgb pixel = image.pixel(x, y);
-            const QColor shade = Mixed(Qt::black, ink, qGray(pixel) / 255.0);
+            const int light = dark ? 255 - qGray(pixel) : qGray(pixel);
+            const QColor shade = Mixed(Qt::black, ink, light / 255.0);
             image.setPixel(x, y, qRgba(shade.red(), shade.green(), shade.blue(), qAlpha(pixel)));
         }
     return QPixmap::fromImage(image);
