@@ -17,7 +17,7 @@ using ::testing::ElementsAre;
 
 const std::string kFaultless = "       - Der er ikke fundet fejl i denne log.";
 const std::string kMissing = "       - Log ikke fundet.";
-const std::string kColumns = "         Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode";
+const std::string kErrorColumns = "         Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode";
 
 class ErrorListRun : public PaperProgram {
 protected:
@@ -69,7 +69,7 @@ TEST_F(ErrorListRun, EndsALogAtALineWithoutACall) {
     const Lines section = SectionOf("80m", "CW");
     ASSERT_GE(section.size(), 3U);
     EXPECT_EQ(Lines(section.end() - 3, section.end()), Lines({" ", kMissing, " "}));
-    EXPECT_EQ(std::count(section.begin(), section.end(), kColumns), 1);
+    EXPECT_EQ(std::count(section.begin(), section.end(), kErrorColumns), 1);
     EXPECT_TRUE(IsFree(1));
 }
 

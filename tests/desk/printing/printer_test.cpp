@@ -14,11 +14,11 @@ namespace {
 
 using ::testing::ElementsAre;
 
-const std::string kColumns = "         Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode";
+const std::string kPrintedColumns = "         Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode";
 const std::string kRow = "       05-09-26 13:05 DL1AA           599-0012 579-0034  3            OZ1AB      CW   ";
 // Points end at 57, multipliers at 67, the score at 80.
-const std::string kPageNought = "       Ialt denne side:                                  0         0            0";
-const std::string kLogNought = "       Ialt akkumuleret:                                 0         0            0";
+const std::string kPrintedPageNought = "       Ialt denne side:                                  0         0            0";
+const std::string kPrintedLogNought = "       Ialt akkumuleret:                                 0         0            0";
 
 /// Prints on pages of 595 by 842 points; a character is 0.6 times its size wide and 1.2 times its size high.
 class Printing : public PaperProgram {
@@ -38,7 +38,7 @@ protected:
         return texts;
     }
     static Lines Head(const std::string& page, const std::string& title) { return {page, "Fieldday log for OZ1AB/P 2026", title}; }
-    static Lines LogHead(int page) { return Head("page " + std::to_string(page), "80m CW") + Lines{kColumns}; }
+    static Lines LogHead(int page) { return Head("page " + std::to_string(page), "80m CW") + Lines{kPrintedColumns}; }
     static std::string Foot(int page) { return "Side  " + std::to_string(page) + ", (Vatro version 1.2.3)"; }
     /// Rows of one text in groups of ten with a gap above each group.
     static Lines Groups(int n, const std::string& row) {
@@ -60,7 +60,7 @@ TEST_F(Printing, PlacesTextsOnThePage) {
               Lines({"job", "page 1",
                      // Both lines are centred on 595: 29 characters of 21.6, and 6 of 10.8.
                      "-15.7 0.0 Arial 36 u \"Fieldday log for OZ1AB/P 2026\"", "265.1 43.2 Arial 18 b \"80m CW\"",
-                     "0.0 76.8 Courier New 10 b \"" + kColumns + "\"", "0.0 88.8 Courier New 10 - \" \"",
+                     "0.0 76.8 Courier New 10 b \"" + kPrintedColumns + "\"", "0.0 88.8 Courier New 10 - \" \"",
                      "0.0 100.8 Courier New 10 - \"" + kRow + "\"", "0.0 112.8 Courier New 10 - \" \"",
                      "0.0 124.8 Courier New 10 - \"       Ialt denne side:                                  3         0            0\"",
                      "0.0 136.8 Courier New 10 - \" \"",
@@ -73,7 +73,8 @@ TEST_F(Printing, PlacesTextsOnThePage) {
 
 TEST_F(Printing, OfAnEmptyLogHasHeadingsTotalsAndFooter) {
     Log("80mCW", {});
-    EXPECT_EQ(Printed(frmMain->mnuUdskriv80mCW), Lines{"job"} + LogHead(1) + Lines({" ", kPageNought, " ", kLogNought, Foot(1)}));
+    EXPECT_EQ(Printed(frmMain->mnuUdskriv80mCW),
+              Lines{"job"} + LogHead(1) + Lines({" ", kPrintedPageNought, " ", kPrintedLogNought, Foot(1)}));
 }
 
 TEST_F(Printing, OfAMissingLogIsAnEmptyJob) {
@@ -85,7 +86,7 @@ TEST_F(Printing, OfFiftyLinesTakesASecondPage) {
     const std::string sums = "       Ialt akkumuleret:                               150         0            0";
     const Lines first = LogHead(1) + Groups(50, kRow) +
                         Lines{" ", "       Ialt denne side:                                150         0            0", " ", sums, Foot(1)};
-    EXPECT_EQ(Printed(frmMain->mnuUdskriv80mCW), Lines{"job"} + first + LogHead(2) + Lines({" ", kPageNought, " ", sums, Foot(2)}));
+    EXPECT_EQ(Printed(frmMain->mnuUdskriv80mCW), Lines{"job"} + first + LogHead(2) + Lines({" ", kPrintedPageNought, " ", sums, Foot(2)}));
 }
 
 TEST_F(Printing, GivesNotesAPlaceInTheGroupsOfTen) {

@@ -13,7 +13,7 @@ namespace {
 using ::testing::ElementsAre;
 
 const std::string kFaultless = "       - Der er ikke fundet fejl i denne log.";
-const std::string kColumns = "         Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode";
+const std::string kErrorColumns = "         Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode";
 
 class ErrorLists : public Papers {
 protected:
@@ -78,8 +78,8 @@ TEST_F(ErrorLists, ShowsAFaultyContactAsInTheWorkedExample) {
     Log("80mCW", {Contact({.call = "G3AA", .points = 3, .mult = "G"}), Contact({.call = "OZ8AA", .points = 1, .mult = "OZ"}),
                   "13:05 OZ9XYZ/P        599-0012 579-0034 10 G          OZ1AB  QSL CW    05-09-26"});
     EXPECT_THAT(SectionOf("80m", "CW"),
-                ElementsAre(" ", kColumns, "       05-09-26 13:05 OZ9XYZ/P        599-0012 579-0034 10 G          OZ1AB  QSL CW   ", " ",
-                            "       - OZ station giver 1 point.",
+                ElementsAre(" ", kErrorColumns, "       05-09-26 13:05 OZ9XYZ/P        599-0012 579-0034 10 G          OZ1AB  QSL CW   ",
+                            " ", "       - OZ station giver 1 point.",
                             "       - QSO er ikke første qso for land: G. Flyt markeringen til den første QSO for landet."));
 }
 
@@ -87,7 +87,7 @@ TEST_F(ErrorLists, ShowsALineOnceForAllItsErrors) {
     WrittenLines list;
     EXPECT_TRUE(DanFejlQSO(list, "abc", false));
     EXPECT_TRUE(DanFejlQSO(list, "abc", true));
-    EXPECT_EQ(list.lines, Lines({" ", kColumns, "        abc", " "}));
+    EXPECT_EQ(list.lines, Lines({" ", kErrorColumns, "        abc", " "}));
 }
 
 TEST_F(ErrorLists, JudgesTheDateOfEveryContact) {
@@ -309,7 +309,7 @@ TEST_F(ErrorLists, FailAtALogWithoutALineAndAtALineWithoutACall) {
     ListedLines lines({"13:05", Contact({.call = "bad"})});
     EXPECT_THROW(checker.DanFejlListKrop(lines, list, context, k80mCW), RunTimeError);
     // The line is listed with the errors found up to that of the call. The next line is not listed.
-    EXPECT_EQ(std::count(list.lines.begin(), list.lines.end(), kColumns), 1);
+    EXPECT_EQ(std::count(list.lines.begin(), list.lines.end(), kErrorColumns), 1);
     EXPECT_TRUE(list.lines.back().starts_with("       - "));
 }
 

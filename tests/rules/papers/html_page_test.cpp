@@ -8,12 +8,12 @@
 namespace vatro {
 namespace {
 
-const Lines kTop{"<html>", "<head><title>Fieldday log for OZ1AB/P 2026</title></head>", "<body>",
-                 "<a name=\"Top\"></a><h1 align=\"Center\">(foreløbig) Fieldday log for OZ1AB/P 2026</h1>",
-                 "<p><a href=\"#10mCW\">10m CW</a>, <a href=\"#10mSSB\">10m SSB</a>, <a href=\"#15mCW\">15m CW</a>, "
-                 "<a href=\"#15mSSB\">15m SSB</a>, <a href=\"#20mCW\">20m CW</a>, <a href=\"#20mSSB\">20m SSB</a>, "
-                 "<a href=\"#40mCW\">40m CW</a>, <a href=\"#40mSSB\">40m SSB</a>, <a href=\"#80mCW\">80m CW</a>, "
-                 "<a href=\"#80mSSB\">80m SSB</a>, <a href=\"#Summary\">Summary</a></p>"};
+const Lines kWebTop{"<html>", "<head><title>Fieldday log for OZ1AB/P 2026</title></head>", "<body>",
+                    "<a name=\"Top\"></a><h1 align=\"Center\">(foreløbig) Fieldday log for OZ1AB/P 2026</h1>",
+                    "<p><a href=\"#10mCW\">10m CW</a>, <a href=\"#10mSSB\">10m SSB</a>, <a href=\"#15mCW\">15m CW</a>, "
+                    "<a href=\"#15mSSB\">15m SSB</a>, <a href=\"#20mCW\">20m CW</a>, <a href=\"#20mSSB\">20m SSB</a>, "
+                    "<a href=\"#40mCW\">40m CW</a>, <a href=\"#40mSSB\">40m SSB</a>, <a href=\"#80mCW\">80m CW</a>, "
+                    "<a href=\"#80mSSB\">80m SSB</a>, <a href=\"#Summary\">Summary</a></p>"};
 
 Lines Section(const std::string& band, const std::string& mode, const Lines& body = {}) {
     const Lines head{"<a name=\"" + band + mode + "\"></a><a href=\"#top\">Top</a>", "<h3 align=\"center\">" + band + " " + mode + "</h3>",
@@ -64,7 +64,7 @@ protected:
 };
 
 TEST_F(HtmlPage, WithoutALogHasEmptySectionsAndASummaryOfNoughts) {
-    Lines page = kTop;
+    Lines page = kWebTop;
     for (const char* band : {"80m", "40m", "20m", "15m", "10m"}) page = page + Section(band, "CW") + Section(band, "SSB");
     Lines table;
     for (const char* band : {"80", "40", "20", "15", "10"}) table = table + Lines{kBand + band + kCwNought, kSsbNought};
@@ -83,7 +83,7 @@ TEST_F(HtmlPage, ShowsEveryLineAndTheSumsBelow) {
                      " ",
                      "       Ialt akkumuleret:                                23    1           23"};
     const Lines empty{" ", "       Ialt akkumuleret:                                 0    0            0"};
-    const Lines wanted = kTop + Section("80m", "CW", body) + Section("80m", "SSB", empty) + Section("40m", "CW");
+    const Lines wanted = kWebTop + Section("80m", "CW", body) + Section("80m", "SSB", empty) + Section("40m", "CW");
     const Lines page = Page();
     EXPECT_EQ(Lines(page.begin(), page.begin() + static_cast<std::ptrdiff_t>(wanted.size())), wanted);
 }

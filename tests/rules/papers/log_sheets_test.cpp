@@ -7,13 +7,13 @@
 namespace vatro {
 namespace {
 
-const std::string kHead = "       Fieldday log for OZ1AB/P 2026, (Vatro version 1.2.3)";
-const std::string kColumns = "         Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode";
+const std::string kSheetHead = "       Fieldday log for OZ1AB/P 2026, (Vatro version 1.2.3)";
+const std::string kSheetColumns = "         Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode";
 // Points end at 57, multipliers at 62, the score at 75.
 const std::string kPageNought = "       Ialt denne side:                                  0    0            0";
 const std::string kLogNought = "       Ialt akkumuleret:                                 0    0            0";
-const Lines kTop{kHead, "       80m CW", " ", kColumns};
-const std::string kRow = "       05-09-26 13:05 DL1AA           599-0012 579-0034  3            OZ1AB      CW   ";
+const Lines kSheetTop{kSheetHead, "       80m CW", " ", kSheetColumns};
+const std::string kSheetRow = "       05-09-26 13:05 DL1AA           599-0012 579-0034  3            OZ1AB      CW   ";
 
 class LogSheets : public Papers {
 protected:
@@ -31,7 +31,7 @@ TEST_F(LogSheets, ShowTheRowsOfTheWorkedPage) {
     const Lines below{"       05-09-26 13:05 OZ9XYZ/P        599-0012 579-0034 10 G          OZ1AB  QSL CW   ", " ",
                       "       Ialt denne side:                                 10    1           10", " ",
                       "       Ialt akkumuleret:                                10    1           10"};
-    EXPECT_EQ(sheet, kTop + below);
+    EXPECT_EQ(sheet, kSheetTop + below);
 }
 
 TEST_F(LogSheets, PutTheWorkedTotalsUnderTheirColumns) {
@@ -42,18 +42,18 @@ TEST_F(LogSheets, PutTheWorkedTotalsUnderTheirColumns) {
 }
 
 TEST_F(LogSheets, OfAnEmptyLogHaveHeadingAndTotals) {
-    EXPECT_EQ(SheetOf({}), kTop + Lines({" ", kPageNought, " ", kLogNought}));
+    EXPECT_EQ(SheetOf({}), kSheetTop + Lines({" ", kPageNought, " ", kLogNought}));
 }
 
 TEST_F(LogSheets, CloseAFullPageAndOpenAnother) {
-    const Lines fullPage = kTop + Times(50, kRow) +
+    const Lines fullPage = kSheetTop + Times(50, kSheetRow) +
                            Lines{" ", "       Ialt denne side:                                150    0            0", " ",
                                  "       Ialt akkumuleret:                               150    0            0", "\f"} +
-                           kTop;
+                           kSheetTop;
     EXPECT_EQ(SheetOf(Times(50, Contact({}))),
               fullPage + Lines({" ", kPageNought, " ", "       Ialt akkumuleret:                               150    0            0"}));
     EXPECT_EQ(SheetOf(Times(51, Contact({}))),
-              fullPage + Lines({kRow, " ", "       Ialt denne side:                                  3    0            0", " ",
+              fullPage + Lines({kSheetRow, " ", "       Ialt denne side:                                  3    0            0", " ",
                                 "       Ialt akkumuleret:                               153    0            0"}));
 }
 
@@ -108,7 +108,7 @@ TEST_F(LogSheets, LeaveAnyFailureToTheCaller) {
     WrittenLines sheet;
     ListedLines unreadable(Times(3, Contact({})), 2);
     EXPECT_THROW(DanKrop(unreadable, sheet, context, k80mCW), RunTimeError);
-    EXPECT_EQ(sheet.lines, Lines({kRow, kRow}));
+    EXPECT_EQ(sheet.lines, Lines({kSheetRow, kSheetRow}));
     sheet.room = 3;
     ListedLines lines(Times(3, Contact({})));
     EXPECT_THROW(DanKrop(lines, sheet, context, k80mCW), RunTimeError);

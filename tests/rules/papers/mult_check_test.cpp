@@ -8,10 +8,10 @@
 namespace vatro {
 namespace {
 
-const Lines kHead{"       Fieldday log for OZ1AB/P 2026, (Vatro version 1.2.3)", "       Multiplier Checksheet", " "};
+const Lines kMultHead{"       Fieldday log for OZ1AB/P 2026, (Vatro version 1.2.3)", "       Multiplier Checksheet", " "};
 const std::string kModes = "       CW     SSB    CW     SSB    CW     SSB    CW     SSB    CW     SSB    ";
-const Lines kTop = kHead + Lines{" ", "       10m    10m    15m    15m    20m    20m    40m    40m    80m    80m    ", kModes, " "};
-const Lines kLaterTop = kHead + Lines{" ", "       10m           15m           20m           40m           80m           ", kModes};
+const Lines kMultTop = kMultHead + Lines{" ", "       10m    10m    15m    15m    20m    20m    40m    40m    80m    80m    ", kModes, " "};
+const Lines kLaterTop = kMultHead + Lines{" ", "       10m           15m           20m           40m           80m           ", kModes};
 
 Lines LogOf(const std::vector<const char*>& mults) {
     Lines log;
@@ -42,7 +42,7 @@ protected:
 };
 
 TEST_F(MultCheck, WithoutALogHasItsHeadingsAlone) {
-    EXPECT_EQ(Sheet(), kTop);
+    EXPECT_EQ(Sheet(), kMultTop);
 }
 
 TEST_F(MultCheck, ShowsTheWorkedTable) {
@@ -57,21 +57,21 @@ TEST_F(MultCheck, ShowsTheWorkedTable) {
     Log("80mSSB", LogOf({"DL"}));
     const Lines rows{"       DL     DL     DL            G      F      DL     DL     DL     DL     ",
                      "       F             G             OH     G      F      F      F             "};
-    EXPECT_EQ(Sheet(), kTop + rows);
+    EXPECT_EQ(Sheet(), kMultTop + rows);
 }
 
 TEST_F(MultCheck, TakesContactsWithAMultiplierOnly) {
     Log("80mSSB", {Contact({.mult = "DL"}), Contact({}), Contact({.points = 0, .mult = "-DUPE-"}), NoteWith("", "G")});
     const Lines rows{std::string(70, ' ') + "DL     "};
-    EXPECT_EQ(Sheet(), kTop + rows);
+    EXPECT_EQ(Sheet(), kMultTop + rows);
 }
 
 TEST_F(MultCheck, SortsByCharacter) {
     Log("10mCW", LogOf({"a", "9A", "PA", "A", "3A", "PA0", "PA"}));
     const Lines sheet = Sheet();
-    ASSERT_EQ(sheet.size(), kTop.size() + 7);
+    ASSERT_EQ(sheet.size(), kMultTop.size() + 7);
     std::string column;
-    for (std::size_t i = kTop.size(); i < sheet.size(); ++i) column += sheet[i].substr(7, 4);
+    for (std::size_t i = kMultTop.size(); i < sheet.size(); ++i) column += sheet[i].substr(7, 4);
     EXPECT_EQ(column, "3A  9A  A   PA  PA  PA0 a   ");
 }
 
@@ -79,7 +79,7 @@ TEST_F(MultCheck, CutsAMultiplierAtSevenCharacters) {
     Log("10mCW", LogOf({"ABCDEFGZZ", "ABCDEFGAA"}));
     Log("10mSSB", LogOf({"X"}));
     const Lines rows{"       ABCDEFGX      " + std::string(56, ' '), "       ABCDEFG" + std::string(63, ' ')};
-    EXPECT_EQ(Sheet(), kTop + rows);
+    EXPECT_EQ(Sheet(), kMultTop + rows);
 }
 
 TEST_F(MultCheck, LetsAShortLineMoveTheColumnsToItsRight) {
@@ -87,34 +87,34 @@ TEST_F(MultCheck, LetsAShortLineMoveTheColumnsToItsRight) {
     Log("10mSSB", LogOf({"G", "F"}));
     // The empty cell sorts first and takes no column width.
     const Lines rows{"       F      " + std::string(56, ' '), "       DL     G      " + std::string(56, ' ')};
-    EXPECT_EQ(Sheet(), kTop + rows);
+    EXPECT_EQ(Sheet(), kMultTop + rows);
 }
 
 TEST_F(MultCheck, WritesARowOfEmptyCellsAlone) {
     for (const LogId& log : kTenLogs) Log(std::string(log.band) + std::string(log.mode), {"x"});
-    EXPECT_EQ(Sheet(), kTop + Lines{"       "});
+    EXPECT_EQ(Sheet(), kMultTop + Lines{"       "});
 }
 
 TEST_F(MultCheck, BeginsTheSecondPageBehindFiftyOneRowsWithNothingBelow) {
     Log("80mSSB", Numbered(51));
     const Lines sheet = Sheet();
-    ASSERT_EQ(sheet.size(), kTop.size() + 51 + kLaterTop.size());
-    EXPECT_EQ(sheet[kTop.size() + 50], std::string(70, ' ') + "M050   ");
+    ASSERT_EQ(sheet.size(), kMultTop.size() + 51 + kLaterTop.size());
+    EXPECT_EQ(sheet[kMultTop.size() + 50], std::string(70, ' ') + "M050   ");
     EXPECT_EQ(Lines(sheet.end() - static_cast<std::ptrdiff_t>(kLaterTop.size()), sheet.end()), kLaterTop);
 }
 
 TEST_F(MultCheck, OfFiftyRowsHasOnePage) {
     Log("80mSSB", Numbered(50));
-    EXPECT_EQ(Sheet().size(), kTop.size() + 50);
+    EXPECT_EQ(Sheet().size(), kMultTop.size() + 50);
 }
 
 TEST_F(MultCheck, HoldsOneHundredRows) {
     Log("10mCW", Numbered(100));
     const Lines sheet = Sheet();
-    ASSERT_EQ(sheet.size(), kTop.size() + 51 + kLaterTop.size() + 49);
-    EXPECT_EQ(sheet[kTop.size() + 51 + 1], "       Multiplier Checksheet");
+    ASSERT_EQ(sheet.size(), kMultTop.size() + 51 + kLaterTop.size() + 49);
+    EXPECT_EQ(sheet[kMultTop.size() + 51 + 1], "       Multiplier Checksheet");
     EXPECT_EQ(sheet.back(), "       M099   " + std::string(63, ' '));
-    EXPECT_EQ(Trim(sheet[kTop.size() + 51 + kLaterTop.size()]), "M051");
+    EXPECT_EQ(Trim(sheet[kMultTop.size() + 51 + kLaterTop.size()]), "M051");
 }
 
 TEST_F(MultCheck, HasNoPlaceForAHundredAndOne) {

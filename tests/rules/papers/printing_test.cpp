@@ -41,8 +41,8 @@ private:
     int page_ = 1;
 };
 
-const std::string kColumns = "         Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode";
-const std::string kRow = "Courier New 10:        05-09-26 13:05 DL1AA           599-0012 579-0034  3            OZ1AB      CW   ";
+const std::string kPrintedColumns = "         Dato    UTC  Call            Sendt    Modt.    Pt Præfix     Oper.  QSL Mode";
+const std::string kPrintedRow = "Courier New 10:        05-09-26 13:05 DL1AA           599-0012 579-0034  3            OZ1AB      CW   ";
 const std::string kGap = "Courier New 10:  ";
 
 class PrintedPapers : public Papers {
@@ -50,7 +50,7 @@ protected:
     static Lines Head(const std::string& title) {
         return {"Arial 36 u: > Fieldday log for OZ1AB/P 2026", "Arial 18 b: > " + title, "Courier New 10 b: (line)"};
     }
-    static Lines LogHead() { return Head("80m CW") + Lines{"Courier New 10 b: " + kColumns}; }
+    static Lines LogHead() { return Head("80m CW") + Lines{"Courier New 10 b: " + kPrintedColumns}; }
     static Lines Foot(int page) { return {"(last line)", "Arial 11: > Side  " + std::to_string(page) + ", (Vatro version 1.2.3)"}; }
     NotedPages pages;
 };
@@ -77,7 +77,7 @@ TEST_F(PrintedPapers, OfALogStandInGroupsOfTenAndBreakBehindFifty) {
     ListedLines lines(Times(50, Contact({})));
     PrintKrop(lines, pages, context, k80mCW);
     Lines wanted;
-    for (int group = 0; group < 5; ++group) wanted = wanted + Lines{kGap} + Times(10, kRow);
+    for (int group = 0; group < 5; ++group) wanted = wanted + Lines{kGap} + Times(10, kPrintedRow);
     wanted = wanted +
              Lines{kGap, "Courier New 10:        Ialt denne side:                                150         0            0", kGap,
                    "Courier New 10:        Ialt akkumuleret:                               150         0            0"} +
