@@ -6,12 +6,8 @@
 #include <QIconEngine>
 #include <QLineEdit>
 #include <QPainter>
-#include <QPointer>
 #include <QResizeEvent>
 #include <QStyleOption>
-#include <functional>
-#include <optional>
-#include <utility>
 
 #include "signal_colours.h"
 
@@ -114,10 +110,10 @@ QIcon Tinted(const QIcon& icon, const QColor& ink) {
     return tinted;
 }
 
-/// An icon that is made when it is first shown.
+/// An icon of the application's style, made whenever it is shown, as it looks in the scheme of that moment.
 class LateIcon : public QIconEngine {
 public:
-    explicit LateIcon(std::function<QIcon()> make) : make_(std::move(make)) {}
+    explicit LateIcon(QStyle::StandardPixmap which) : which_(which) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
         Made().paint(painter, rect, Qt::AlignCenter, mode, state);
@@ -133,13 +129,12 @@ public:
     QIconEngine* clone() const override { return new LateIcon(*this); }
 
 private:
-    const QIcon& Made() {
-        if (!icon_) icon_ = make_();
-        return *icon_;
+    QIcon Made() const {
+        const auto* style = qobject_cast<const BorderStyle*>(QApplication::style());
+        return style != nullptr ? style->ReadyIcon(which_) : QIcon();
     }
 
-    std::function<QIcon()> make_;
-    std::optional<QIcon> icon_;
+    QStyle::StandardPixmap which_;
 };
 
 /// Whether the icon is that of the button for what has no room in a toolbar. Each toolbar has such a button, which is seldom seen.
@@ -254,10 +249,7 @@ int BorderStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
 }
 
 QIcon BorderStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const {
-    if (IsOfExtension(which)) {
-        const QPointer<const BorderStyle> style = this;
-        return QIcon(new LateIcon([style, which] { return style != nullptr ? style->ReadyIcon(which, nullptr, nullptr) : QIcon(); }));
-    }
+    if (IsOfExtension(which)) return QIcon(new LateIcon(which));
     return ReadyIcon(which, option, widget);
 }
 

@@ -42,9 +42,10 @@ public:
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override;
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
 
-private:
-    QIcon ReadyIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const;
+    /// The icon, made at once.
+    QIcon ReadyIcon(StandardPixmap which, const QStyleOption* option = nullptr, const QWidget* widget = nullptr) const;
 
+private:
     Frames frames_;
 };
 

@@ -119,6 +119,28 @@ TEST_F(Night, DarkSignsAreRedToo) {
     EXPECT_GT(lit, 10);
 }
 
+/// The picture of the button that a toolbar shows if it has no room.
+QImage ExtensionOf(const QToolBar& bar) {
+    const auto* extension = bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
+    return extension != nullptr ? extension->icon().pixmap(extension->iconSize()).toImage() : QImage();
+}
+
+TEST(IconOfAToolbarWithoutRoom, FollowsTheScheme) {
+    UseScheme(Scheme::Desktop);
+    const QToolBar bar;
+    const QImage desktop = ExtensionOf(bar);
+    ASSERT_FALSE(desktop.isNull());
+    UseScheme(Scheme::Night);
+    const QImage night = ExtensionOf(bar);
+    ASSERT_FALSE(night.isNull());
+    int lit = 0;
+    for (int y = 0; y < night.height(); ++y)
+        for (int x = 0; x < night.width(); ++x) lit += qAlpha(night.pixel(x, y)) > 127 && qRed(night.pixel(x, y)) > 100 ? 1 : 0;
+    EXPECT_GT(lit, 10);
+    UseScheme(Scheme::Desktop);
+    EXPECT_EQ(ExtensionOf(bar), desktop);
+}
+
 TEST(IconOfAToolbarWithoutRoom, IsThatOfTheDesktop) {
     UseScheme(Scheme::Desktop);
     auto* style = qobject_cast<QProxyStyle*>(QApplication::style());
