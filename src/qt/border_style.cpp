@@ -122,7 +122,10 @@ public:
     QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override {
         return Made().pixmap(size / scale, scale, mode, state);
     }
-    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override { return Made().actualSize(size, mode, state); }
+    // In pixels of the screen, of which the icon itself knows nothing.
+    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return Made().pixmap(size, 1, mode, state).size();
+    }
     QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override { return Made().availableSizes(mode, state); }
     // Without asking the icon, which would make it.
     bool isNull() override { return false; }
