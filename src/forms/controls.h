@@ -140,7 +140,7 @@ private:
 /// matter whether the control is enabled.
 class Timer : public Control, public Ticker {
 public:
-    /// The interval of a minute.
+    /// An interval of a minute, in milliseconds.
     static constexpr int kMinute = 60000;
 
     ControlKind Kind() override { return this; }

@@ -21,6 +21,7 @@
 
 namespace vatro {
 
+/// Twips of a window in a point of its text.
 inline constexpr double kTwipsPerPoint = 20;
 
 enum class WindowState { Normal, Minimised, Maximised };

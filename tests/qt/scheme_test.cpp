@@ -110,15 +110,6 @@ TEST_F(Night, IconsOfButtonsThatCannotBePressedAreRed) {
     EXPECT_GT(lit, 10);
 }
 
-TEST_F(Night, DarkSignsAreRedToo) {
-    const QIcon icon = QApplication::style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
-    const QImage image = icon.pixmap(16, 16).toImage();
-    int lit = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) lit += qAlpha(image.pixel(x, y)) > 127 && qRed(image.pixel(x, y)) > 100 ? 1 : 0;
-    EXPECT_GT(lit, 10);
-}
-
 /// The picture of the button that a toolbar shows if it has no room.
 QImage ExtensionOf(const QToolBar& bar) {
     const auto* extension = bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
